@@ -1,0 +1,29 @@
+# What every target of the program is compiled with.
+option(SOMME_WERROR "Warnings are errors" OFF)
+set(SOMME_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize (address,undefined)")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+add_library(somme_opzioni INTERFACE)
+target_compile_features(somme_opzioni INTERFACE cxx_std_20)
+target_compile_definitions(somme_opzioni INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_compile_options(somme_opzioni INTERFACE -Wall -Wextra -Wpedantic -Wshadow
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-missing-designated-field-initializers>
+  -Wno-missing-field-initializers
+  "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
+if(SOMME_WERROR)
+  target_compile_options(somme_opzioni INTERFACE -Werror)
+endif()
+if(SOMME_SANITIZE)
+  add_compile_options(-fsanitize=${SOMME_SANITIZE} -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer -g1)
+  add_link_options(-fsanitize=${SOMME_SANITIZE})
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)

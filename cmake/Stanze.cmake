@@ -1,0 +1,39 @@
+# A room of the house is one static library, somme_<name>, made of the files of its folder. It
+# sees the headers of the rooms that it links and of nothing else: each room's headers are reached
+# as "room/file.h" through an include folder of links made for that room alone, so that an include
+# upwards does not compile.
+#
+#   somme_room(platform_base FOLDER platform/base SOURCES a.cpp b.cpp LINKS Qt6::Core)
+function(somme_room name)
+  cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  add_library(somme_${name} STATIC ${ARG_SOURCES})
+  add_library(somme::${name} ALIAS somme_${name})
+  set(view "${CMAKE_BINARY_DIR}/include/${name}")
+  cmake_path(GET ARG_FOLDER PARENT_PATH parent)
+  file(MAKE_DIRECTORY "${view}/${parent}")
+  file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${ARG_FOLDER}" "${view}/${ARG_FOLDER}" SYMBOLIC)
+  target_include_directories(somme_${name} PUBLIC "${view}")
+  target_link_libraries(somme_${name} PUBLIC somme_opzioni ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
+  set_property(GLOBAL APPEND PROPERTY SOMME_ROOMS somme_${name})
+endfunction()
+
+# Tests: for each name one program made of <name>_test.cpp in the calling folder, known to ctest as
+# folder/name. Tests run without a display unless they say otherwise.
+#
+#   somme_tests(FOLDER platform/base LINKS somme::platform_base NAMES numbers profile_file)
+function(somme_tests)
+  cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "LINKS;NAMES" ${ARGN})
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 120)
+  endif()
+  string(REPLACE "/" "_" prefix "${ARG_FOLDER}")
+  foreach(name IN LISTS ARG_NAMES)
+    set(target "test_${prefix}_${name}")
+    add_executable(${target} ${name}_test.cpp)
+    target_link_libraries(${target} PRIVATE ${ARG_LINKS} Qt6::Test)
+    add_test(NAME "${ARG_FOLDER}/${name}" COMMAND ${target})
+    set_tests_properties("${ARG_FOLDER}/${name}" PROPERTIES TIMEOUT ${ARG_TIMEOUT}
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;SDL_AUDIODRIVER=dummy"
+      SKIP_REGULAR_EXPRESSION "SKIP  :")
+  endforeach()
+endfunction()

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+namespace platform {
+
+// Plays short sounds. A call returns at once and cuts off a sound that is still playing.
+class Sound {
+ public:
+  virtual ~Sound() = default;
+  // path: a WAV file. A missing file gives the system's beep, no device gives silence.
+  virtual void play(const QString& path) = 0;
+};
+
+// Hands documents to the desktop.
+class Documents {
+ public:
+  virtual ~Documents() = default;
+  // Opens the document with whatever the desktop has for it; nothing happens where it has nothing.
+  virtual void open(const QString& path) = 0;
+};
+
+// Ends the process at once, whatever is loaded; no form is unloaded by it.
+class ProcessEnd {
+ public:
+  virtual ~ProcessEnd() = default;
+  // status: the exit status of the process.
+  virtual void end(int status) = 0;
+};
+
+// Tells whether another instance of the same program, started by the same user, is running.
+class InstanceLock {
+ public:
+  virtual ~InstanceLock() = default;
+  // Takes the lock for the life of this process; false when a living process holds it.
+  [[nodiscard]] virtual bool take() = 0;
+};
+
+}  // namespace platform
