@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "platform/forms/keys/key_state.h"
+
+namespace platform {
+
+// What the display server knows of the keyboard; today only X11's does.
+
+// Asks the server to send a release only when a key really goes up. True when it agreed.
+bool askForDetectableRepeat();
+
+// The keys that are down at this moment, by scan code; nothing where the server cannot be asked.
+[[nodiscard]] std::optional<std::vector<KeyId>> keysDownNow();
+
+}  // namespace platform
