@@ -25,7 +25,7 @@ namespace platform {
 // caller's.
 class ProfileLines final {
  public:
-  static constexpr qint64 partSize = 64 * 1024;
+  static constexpr qint64 partSize = 65536;
   static constexpr qint64 mostFilters = 2048;
   // What is kept of a value, in characters: far beyond any text on a form.
   static constexpr qsizetype longestValue = 32767;
