@@ -12,8 +12,8 @@ class Chance {
 
   // The next fraction: at least 0, below 1.
   [[nodiscard]] virtual float fraction() = 0;
-  // Starts the sequence that belongs to the seed.
-  virtual void seed(std::uint64_t seed) = 0;
+  // Starts the sequence that belongs to the seed; a scripted source has none.
+  virtual void seed(std::uint64_t /*seed*/) {}
 };
 
 // A uniform sequence from a seed; the same seed gives the same sequence on every machine.

@@ -40,6 +40,12 @@ QPixmap Pictures::pixmap(const QString& name, QSize size, qreal devicePixelRatio
   return image;
 }
 
+QIcon Pictures::icon(const QString& name) {
+  QIcon icon;
+  for (const int side : {16, 32, 64}) icon.addPixmap(pixmap(name, {side, side}, 1));
+  return icon;
+}
+
 QPoint Pictures::hotSpot(const QString& name, QSize size) {
   QSvgRenderer& drawing = renderer(name);
   const QString tip = QStringLiteral("punta");

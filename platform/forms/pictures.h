@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QPixmap>
 #include <QString>
 #include <map>
@@ -22,6 +23,8 @@ class Pictures {
   void paint(QPainter& painter, const QString& name, const QRectF& area);
   // The picture in so many logical pixels.
   [[nodiscard]] QPixmap pixmap(const QString& name, QSize size, qreal devicePixelRatio);
+  // The picture as the icon of a window, in the sizes that desktops ask for.
+  [[nodiscard]] QIcon icon(const QString& name);
   // For pointers: the drawing's element "punta" marks the hot spot; (0, 0) without one.
   [[nodiscard]] QPoint hotSpot(const QString& name, QSize size);
 
