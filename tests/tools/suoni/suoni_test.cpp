@@ -182,7 +182,8 @@ class SuoniTest : public QObject {
     }
   }
 
-  // A click inside the sound is a leap from one sample to the next that no tone below 1.5 kHz makes.
+  // A click inside the sound is a leap from one sample to the next that no tone below 1.5 kHz
+  // makes.
   void aSoundHasNoLeapBetweenTwoSamples_data() { OgniSuono(); }
   void aSoundHasNoLeapBetweenTwoSamples() {
     QFETCH(QString, nome);
