@@ -116,6 +116,14 @@ class KeyStateTest : public QObject {
     QVERIFY(!state.isDown(kSpace));
   }
 
+  void aSecondReleaseDoesNotProlongTheDeferral() {
+    KeyState state(RepeatMarks::Unreliable);
+    QVERIFY(state.press(at(kSpace, 100ms), 7).verdict == Press::Accepted);
+    QVERIFY(state.release(at(kSpace, 130ms)).verdict == Release::Deferred);
+    QVERIFY(state.release(at(kSpace, 134ms)).verdict == Release::Dropped);
+    QCOMPARE(state.due(135ms).size(), std::size_t{1});
+  }
+
   void unflaggedPairsOfAHeldKeyAreOnePressAndOneRelease() {
     Listener ear(RepeatMarks::Unreliable);
     ear.press(at(kSpace, 1000ms));
@@ -377,6 +385,16 @@ class KeyStateTest : public QObject {
     QVERIFY(state.isDown(kEnter));
     QVERIFY(state.letGoAll().empty());
     QVERIFY(!state.anyDown());
+  }
+
+  void aKeyReleasedHereBeforeCanBeHeldOver() {
+    KeyState state(RepeatMarks::Unreliable);
+    QVERIFY(state.press(at(kSpace, 1000ms), 1).verdict == Press::Accepted);
+    QVERIFY(state.release(at(kSpace, 1100ms)).verdict == Release::Deferred);
+    QCOMPARE(state.due(1105ms).size(), std::size_t{1});
+    state.heldOver(std::array{kSpace}, 1500ms);
+    QVERIFY(state.isDown(kSpace));
+    QVERIFY(state.press(at(kSpace, 1600ms), 2).verdict == Press::Repeat);
   }
 
   void aKeyPressedHereIsNotHeldOver() {
