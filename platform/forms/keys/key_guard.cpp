@@ -1,11 +1,12 @@
 #include "platform/forms/keys/key_guard.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTimerEvent>
 #include <QWindow>
+#include <algorithm>
+#include <chrono>
 
 #include "platform/forms/form.h"
 #include "platform/forms/keys/keyboard_state.h"
@@ -20,16 +21,19 @@ constexpr int kNobody = -1;
 constexpr int kElsewhere = -2;
 
 KeyId keyOf(const QKeyEvent& event) {
-  return event.nativeScanCode() != 0 ? event.nativeScanCode() : KeyId(event.key());
+  return KeyId::of(event.nativeScanCode(), std::uint32_t(event.key()));
 }
 
-std::int64_t now() {
-  static const QElapsedTimer clock = [] {
-    QElapsedTimer timer;
-    timer.start();
-    return timer;
-  }();
-  return clock.elapsed();
+std::chrono::milliseconds now() {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(
+      std::chrono::steady_clock::now().time_since_epoch());
+}
+
+KeyInput inputOf(const QKeyEvent& event) {
+  return {.id = keyOf(event),
+          .flaggedRepeat = event.isAutoRepeat(),
+          .stamp = std::chrono::milliseconds(event.timestamp()),
+          .arrival = now()};
 }
 
 // A held key may go on writing and moving in a text box, as everywhere.
@@ -53,9 +57,8 @@ bool isModifier(int key) {
 
 }  // namespace
 
-KeyGuard::KeyGuard(Runtime& runtime) : runtime_(runtime) {
+KeyGuard::KeyGuard(Runtime& runtime) : runtime_(runtime), state_(askForRepeatMarks()) {
   qApp->installEventFilter(this);
-  state_.setDetectable(askForDetectableRepeat());
   focus_ = QGuiApplication::focusWindow();
   connect(qApp, &QGuiApplication::focusWindowChanged, this, &KeyGuard::windowChanged);
 }
@@ -96,25 +99,27 @@ int KeyGuard::destinationOf(const QWindow& window) const {
   return kElsewhere - 1 - int(window.winId() % 100000);
 }
 
+// A page that is being left takes no key, and neither does a box or dialog before every key that
+// was held at its opening has been let go.
+bool KeyGuard::isBlocked(const QWindow& window) {
+  if (isMainWindow(window)) return runtime_.forms().isChanging();
+  if (!state_.anyHeldOver()) return false;
+  if (const auto down = keysDownNow()) state_.heldOver(*down, now());
+  return state_.anyHeldOver();
+}
+
 bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
   if (isModifier(event.key())) return false;
-  const KeyId key = keyOf(event);
-  if (state_.anyIgnored()) {
-    if (const auto down = keysDownNow()) state_.keepIgnored(*down);
-  }
-  // A page that is being left takes no key, and neither does a box or dialog before every key that
-  // was held at its opening has been let go.
-  const bool blocked = isMainWindow(window) ? runtime_.forms().isChanging() : state_.anyIgnored();
-  const int destination = blocked ? kNobody : destinationOf(window);
-  if (state_.press(key, event.isAutoRepeat(), destination) == KeyState::Press::Repeat) {
-    return blocked || !mayRepeat(event);
-  }
+  const bool blocked = isBlocked(window);
+  // With Alt or Ctrl it is the press that acts; no release belongs to it.
+  const bool command = (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) != 0;
+  const int destination = blocked || command ? kNobody : destinationOf(window);
+  const KeyState::PressResult press = state_.press(inputOf(event), destination);
+  if (press.verdict == KeyState::Press::Repeat) return blocked || !mayRepeat(event);
+  if (press.released) deliver(*press.released);
+  if (press.lost) letGo();
   if (blocked) return true;
-  if (destination >= 0 && worked(window, event)) {
-    state_.redirect(key, kNobody);
-    return true;
-  }
-  return false;
+  return command && worked(window, event);
 }
 
 bool KeyGuard::worked(QWindow& window, const QKeyEvent& event) {
@@ -134,17 +139,18 @@ bool KeyGuard::worked(QWindow& window, const QKeyEvent& event) {
 
 bool KeyGuard::keyRelease(QWindow& window, QKeyEvent& event) {
   if (isModifier(event.key())) return false;
-  const KeyId key = keyOf(event);
-  const KeyState::Release release = state_.release(key, event.isAutoRepeat(), now());
-  switch (release.outcome) {
-    case KeyState::Outcome::Accepted:
+  const KeyState::ReleaseResult release = state_.release(inputOf(event));
+  switch (release.verdict) {
+    case KeyState::Release::Accepted:
       return release.destination != destinationOf(window);
-    case KeyState::Outcome::Deferred:
+    case KeyState::Release::Deferred: {
+      const KeyId key = keyOf(event);
       std::erase_if(heldBack_, [key](const auto& held) { return held.first == key; });
       heldBack_.emplace_back(key, std::unique_ptr<QKeyEvent>(event.clone()));
       schedule();
       return true;
-    case KeyState::Outcome::Dropped:
+    }
+    case KeyState::Release::Dropped:
       break;
   }
   return true;
@@ -154,32 +160,37 @@ void KeyGuard::schedule() {
   if (timer_ != 0) killTimer(timer_);
   timer_ = 0;
   if (const auto next = state_.nextDue()) {
-    timer_ = startTimer(int(std::max<std::int64_t>(0, *next - now())), Qt::PreciseTimer);
+    const auto rest = std::max(std::chrono::milliseconds(0), *next - now());
+    timer_ = startTimer(rest, Qt::PreciseTimer);
   }
 }
 
 void KeyGuard::timerEvent(QTimerEvent* event) {
-  if (event->timerId() != timer_) return;
-  killTimer(timer_);
-  timer_ = 0;
-  sendDue();
+  if (event->timerId() == timer_) sendDue();
 }
 
 void KeyGuard::sendDue() {
-  const std::vector<KeyState::Due> due = state_.due(now());
+  const std::vector<HeldKey> due = state_.due(now());
   schedule();
-  for (const KeyState::Due& released : due) {
-    const auto held = std::find_if(heldBack_.begin(), heldBack_.end(),
-                                   [&](const auto& back) { return back.first == released.key; });
-    if (held == heldBack_.end()) continue;
-    const std::unique_ptr<QKeyEvent> event = std::move(held->second);
-    heldBack_.erase(held);
-    QWindow* window = QGuiApplication::focusWindow();
-    if (window == nullptr || destinationOf(*window) != released.destination) continue;
-    // Straight to where Qt would deliver it, past this guard.
-    if (QWidget* focus = QApplication::focusWidget())
-      QCoreApplication::sendEvent(focus, event.get());
-  }
+  for (const HeldKey& released : due) deliver(released);
+}
+
+// Hands on a release that was held back, straight to where Qt would bring it.
+void KeyGuard::deliver(const HeldKey& released) {
+  const auto held = std::find_if(heldBack_.begin(), heldBack_.end(), [&](const auto& back) {
+    return back.first == released.id;
+  });
+  if (held == heldBack_.end()) return;
+  const std::unique_ptr<QKeyEvent> event = std::move(held->second);
+  heldBack_.erase(held);
+  const QWindow* window = QGuiApplication::focusWindow();
+  if (window == nullptr || destinationOf(*window) != released.destination) return;
+  if (QWidget* focus = QApplication::focusWidget()) QCoreApplication::sendEvent(focus, event.get());
+}
+
+// What is down is let go without effect.
+void KeyGuard::letGo() {
+  if (Form* form = runtime_.forms().current()) form->keysLetGo();
 }
 
 // The keyboard went to another window of ours, or out of the program. Whatever is down is let go
@@ -188,15 +199,13 @@ void KeyGuard::windowChanged(QWindow* window) {
   if (window == focus_) return;
   const bool fromMain = focus_ && isMainWindow(*focus_);
   focus_ = window;
-  const std::vector<KeyId> letGo = state_.letGoAll();
+  const std::vector<HeldKey> held = state_.letGoAll();
   heldBack_.clear();
   schedule();
-  if (fromMain && !letGo.empty()) {
-    if (Form* form = runtime_.forms().current()) form->keysLetGo();
-  }
-  letGo_.insert(letGo_.end(), letGo.begin(), letGo.end());
+  if (fromMain && !held.empty()) letGo();
+  for (const HeldKey& key : held) letGo_.push_back(key.id);
   if (window == nullptr) return;
-  state_.ignoreUntilReleased(keysDownNow().value_or(letGo_));
+  state_.heldOver(keysDownNow().value_or(letGo_), now());
   letGo_.clear();
 }
 

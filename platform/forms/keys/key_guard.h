@@ -26,8 +26,6 @@ class KeyGuard final : public QObject {
   explicit KeyGuard(Runtime& runtime);
   ~KeyGuard() override;
 
-  [[nodiscard]] KeyState& state() { return state_; }
-
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
@@ -35,11 +33,14 @@ class KeyGuard final : public QObject {
  private:
   bool keyPress(QWindow& window, QKeyEvent& event);
   bool keyRelease(QWindow& window, QKeyEvent& event);
+  [[nodiscard]] bool isBlocked(const QWindow& window);
   bool mouse(QWindow& window, const QMouseEvent& event);
   bool worked(QWindow& window, const QKeyEvent& event);
   [[nodiscard]] bool isMainWindow(const QWindow& window) const;
   [[nodiscard]] int destinationOf(const QWindow& window) const;
   void windowChanged(QWindow* window);
+  void letGo();
+  void deliver(const HeldKey& released);
   void sendDue();
   void schedule();
 
@@ -47,7 +48,7 @@ class KeyGuard final : public QObject {
   KeyState state_;
   QPointer<QWindow> focus_;
   std::vector<KeyId> letGo_;  // since a window of ours last had the keyboard
-  std::vector<std::pair<KeyId, std::unique_ptr<QKeyEvent>>> heldBack_;
+  std::vector<std::pair<KeyId, std::unique_ptr<QKeyEvent>>> heldBack_;  // releases
   int timer_ = 0;
   int mousePage_ = -1;        // the page that got the last press
   bool dropRelease_ = false;  // of a mouse press that was dropped

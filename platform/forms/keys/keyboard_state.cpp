@@ -23,11 +23,7 @@ xcb_connection_t* connection() {
   return x11 == nullptr ? nullptr : x11->connection();
 }
 
-}  // namespace
-
-bool askForDetectableRepeat() {
-  xcb_connection_t* display = connection();
-  if (display == nullptr) return false;
+bool serverTellsRepeatsApart(xcb_connection_t* display) {
   const std::unique_ptr<xcb_xkb_use_extension_reply_t, Free> use(xcb_xkb_use_extension_reply(
       display, xcb_xkb_use_extension(display, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION),
       nullptr));
@@ -41,6 +37,14 @@ bool askForDetectableRepeat() {
   return flags && (flags->value & kFlag) != 0;
 }
 
+}  // namespace
+
+RepeatMarks askForRepeatMarks() {
+  xcb_connection_t* display = connection();
+  if (display == nullptr) return RepeatMarks::Flagged;
+  return serverTellsRepeatsApart(display) ? RepeatMarks::PressesOnly : RepeatMarks::Unreliable;
+}
+
 std::optional<std::vector<KeyId>> keysDownNow() {
   xcb_connection_t* display = connection();
   if (display == nullptr) return std::nullopt;
@@ -48,8 +52,8 @@ std::optional<std::vector<KeyId>> keysDownNow() {
       xcb_query_keymap_reply(display, xcb_query_keymap(display), nullptr));
   if (!reply) return std::nullopt;
   std::vector<KeyId> keys;
-  for (KeyId key = 0; key < 256; ++key) {
-    if ((reply->keys[key / 8] >> (key % 8) & 1) != 0) keys.push_back(key);
+  for (std::uint32_t code = 0; code < 256; ++code) {
+    if ((reply->keys[code / 8] >> (code % 8) & 1) != 0) keys.push_back(KeyId::of(code, 0));
   }
   return keys;
 }

@@ -9,10 +9,11 @@ namespace platform {
 
 // What the display server knows of the keyboard; today only X11's does.
 
-// Asks the server to send a release only when a key really goes up. True when it agreed.
-bool askForDetectableRepeat();
+// How the repeats of a held key will show. Asks the server to send a release only when a key really
+// goes up, where it can be asked.
+[[nodiscard]] RepeatMarks askForRepeatMarks();
 
-// The keys that are down at this moment, by scan code; nothing where the server cannot be asked.
+// The keys that are down at this moment; nothing where the server cannot be asked.
 [[nodiscard]] std::optional<std::vector<KeyId>> keysDownNow();
 
 }  // namespace platform
