@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QStackedWidget>
+#include <QWindow>
 
 #include "platform/forms/form.h"
 #include "platform/forms/runtime.h"
@@ -30,16 +31,28 @@ void Window::showPage(Form& form) {
   Page* page = form.page();
   if (stack_->indexOf(page) < 0) stack_->addWidget(page);
   if (!isVisible()) {
-    // Maximised from the first picture on; a desktop without a window manager leaves it as it is.
-    setWindowState(windowState() | Qt::WindowMaximized);
     formChanged(form);
     stack_->setCurrentWidget(page);
-    show();
+    appear();
   }
   page->resize(stack_->size());
   form.takeSize();
   stack_->setCurrentWidget(page);
   formChanged(form);
+}
+
+// Maximised from the first picture on; a desktop without a window manager leaves the window as it
+// is. Nothing is painted before the desktop has given it its size, which the form then takes.
+void Window::appear() {
+  constexpr int kMostWaits = 50;
+  constexpr double kWait = 0.01;  // seconds
+  setUpdatesEnabled(false);
+  setWindowState(windowState() | Qt::WindowMaximized);
+  show();
+  for (int i = 0; i < kMostWaits && !windowHandle()->isExposed(); ++i) {
+    runtime_.time().sleepUntilEvent(kWait);
+  }
+  setUpdatesEnabled(true);
 }
 
 void Window::formChanged(const Form& form) {

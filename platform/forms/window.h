@@ -28,6 +28,8 @@ class Window final : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void appear();
+
   Runtime& runtime_;
   QStackedWidget* stack_;
 };

@@ -1,18 +1,9 @@
 #include "platform/forms/controls/image.h"
 
-#include <QPainter>
-
 #include "platform/forms/controls/image_widget.h"
-#include "platform/forms/pictures.h"
 #include "platform/forms/runtime.h"
 
 namespace platform {
-
-void ImageWidget::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  pictures_.paint(painter, name_, rect());
-}
 
 QWidget* Image::create(QWidget* parent) {
   return new ImageWidget(

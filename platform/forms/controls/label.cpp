@@ -35,7 +35,9 @@ class LabelWidget final : public QLabel {
       painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
     const int margin = border_ ? 2 : 0;
-    const QRect room = rect().adjusted(margin, margin, -margin, -margin);
+    // Words at the side of a coloured ground keep clear of its edge.
+    const int side = ground_ && align_ != Align::Centre ? margin + font().pixelSize() / 3 : margin;
+    const QRect room = rect().adjusted(side, margin, -side, -margin);
     if (laidText_ != text() || laidFont_ != font() || laidRoom_ != room.size()) {
       laidText_ = text();
       laidFont_ = font();
