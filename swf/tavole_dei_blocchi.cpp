@@ -49,13 +49,13 @@ void riposa(Filmato& filmato) {
 
 Filmato dau() {
   constexpr double kLato = 18;
-  const Fila lunghi{kLungo, "da", aCinque(9, {17, 42}, {24, 0}, {128, 0})};
-  const Fila unita{kUnita, "u", aCinque(9, {253, 204}, {0, -24}, {27, 0})};
+  const Fila lunghi{kLungo, "da", aCinque(9, {12, 42}, {24, 0}, {128, 0})};
+  const Fila unita{kUnita, "u", aCinque(9, {250, 204}, {0, -24}, {27, 0})};
 
   Filmato filmato(kTavolaPiccola);
   Forma fondo;
-  riquadro(fondo, {4, 4, 236, 257}, kRosso);
-  riquadro(fondo, {244, 4, 57, 257}, kBlu);
+  riquadro(fondo, {3, 4, 236, 257}, kRosso);
+  riquadro(fondo, {243, 4, 59, 257}, kBlu);
   filmato.scena().poni(kSottoTutto, filmato.definisci(fondo));
   schiera(filmato.scena(), lunghi, filmato.definisci(fermo(filmato, kLungo, kLato)), kLunghi);
   schiera(filmato.scena(), unita, filmato.definisci(fermo(filmato, kUnita, kLato)), kLeUnita);
@@ -121,11 +121,11 @@ Filmato unionehdau() {
   constexpr Cambio::Tempi kTempiDaH{.volo = 22, .trapartenze = 3, .colore = 12, .sosta = 4};
   const Fila piatti{kPiatto, "h", aCinque(kCentinaia, {11, 36}, {95, 0}, {0, 119})};
   const Fila lunghi{kLungo, "da",
-                    insieme(aCinque(10, {499, 36}, {12.5, 0}, {67.5, 0}),
-                            aCinque(9, {499, 155}, {12.5, 0}, {67.5, 0}))};
+                    insieme(aCinque(10, {500, 36}, {12.5, 0}, {67.5, 0}),
+                            aCinque(9, {500, 155}, {12.5, 0}, {67.5, 0}))};
   const Fila unita{kUnita, "u",
-                   insieme(aCinque(10, {648, 117}, {0, -18}, {22, 0}),
-                           aCinque(9, {648, 236}, {0, -18}, {22, 0}))};
+                   insieme(aCinque(10, {651, 117}, {0, -18}, {21, 0}),
+                           aCinque(9, {651, 236}, {0, -18}, {21, 0}))};
   const Cambio cambioUDa(unita, lunghi, {0, 9 * kLato}, {0, -kLato}, kTempiUDa, {10}, "cambiouda");
   const Cambio cambioDaH(lunghi, piatti, {0, 0}, {kLato, 0}, kTempiDaH, {10}, "cambiodah");
   if (1 + cambioUDa.durata() >= kFotogrammaCambioDaH)

@@ -23,7 +23,7 @@ int bitPerTutti(const std::array<std::int32_t, N>& valori) {
 template <std::size_t N>
 void scriviCampi(ScrittoreByte& byte, int bitDellaMisura,
                  const std::array<std::int32_t, N>& valori) {
-  const int bit = bitPerTutti(valori);
+  const int bit = std::max(1, bitPerTutti(valori));
   byte.bit(static_cast<std::uint32_t>(bit), bitDellaMisura);
   for (const auto valore : valori) byte.bitConSegno(valore, bit);
 }
