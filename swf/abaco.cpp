@@ -91,7 +91,8 @@ double altezza(int riga) {
 /// first to be taken where beads go by number, and the one that never shows among the thousands.
 Punto postoInAttesa(std::size_t ordine, int i) {
   const int daSotto = kPalline - 1 - i;
-  return {ferro(ordine) + kPrimaInAttesa + kZonaLarga * (daSotto / 5), altezza(daSotto % 5)};
+  const int colonna = daSotto / 5;
+  return {ferro(ordine) + kPrimaInAttesa + kZonaLarga * colonna, altezza(daSotto % 5)};
 }
 
 Punto postoSulFerro(std::size_t ordine, int i) {

@@ -1,5 +1,7 @@
 #include "swf/blocchi.h"
 
+#include <algorithm>
+
 namespace somme::filmati {
 namespace {
 
@@ -27,7 +29,9 @@ Percorso griglia(const Specie& specie, double lato, bool meta) {
 Forma blocco(const Specie& specie, double lato) {
   const double altezza = specie.righe * lato;
   const swf::Rettangolo tutto{0, 0, specie.colonne * lato, altezza};
-  const double fine = lato / 18;
+  // On boards with small blocks the lines stay wide enough to be seen in a small window.
+  const double fine = std::max(lato / 18, 0.6);
+  const double forte = std::max(lato / 10, 1.0);
   Percorso luci;
   for (int i = 0; i < specie.colonne; ++i)
     luci.rettangolo({i * lato + lato * 0.14, 0, lato * 0.18, altezza});
@@ -37,9 +41,9 @@ Forma blocco(const Specie& specie, double lato) {
   forma.dipingi(luci, Riempimento::tinta(specie.tinta.luce));
   if (specie.righe > 1) {
     forma.traccia(griglia(specie, lato, false), {fine, specie.tinta.segno});
-    forma.traccia(griglia(specie, lato, true), {fine * 1.8, specie.tinta.segno});
+    forma.traccia(griglia(specie, lato, true), {forte, specie.tinta.segno});
   }
-  forma.traccia(Percorso().rettangolo(tutto), {fine * 1.8, specie.tinta.segno});
+  forma.traccia(Percorso().rettangolo(tutto), {forte, specie.tinta.segno});
   return forma;
 }
 

@@ -11,7 +11,7 @@ struct Tinta {
   swf::Colore segno;  ///< edges and grid
 };
 
-inline constexpr Tinta kVerde{{0, 255, 0}, {175, 255, 165}, {0, 105, 0}};
+inline constexpr Tinta kVerde{{0, 255, 0}, {140, 255, 130}, {0, 100, 0}};
 inline constexpr Tinta kRosso{{255, 0, 0}, {255, 150, 135}, {115, 0, 0}};
 inline constexpr Tinta kBlu{{0, 0, 255}, {130, 160, 255}, {0, 0, 95}};
 

@@ -19,7 +19,11 @@ Colore diluito(Colore colore, double quanto) {
 
 std::vector<swf::Punto> aCinque(int quanti, swf::Punto primo, swf::Punto passo, swf::Punto gruppo) {
   std::vector<swf::Punto> posti;
-  for (int i = 0; i < quanti; ++i) posti.push_back(primo + passo * (i % 5) + gruppo * (i / 5));
+  posti.reserve(static_cast<std::size_t>(quanti));
+  for (int i = 0; i < quanti; ++i) {
+    const int gruppi = i / 5;
+    posti.push_back(primo + passo * (i % 5) + gruppo * gruppi);
+  }
   return posti;
 }
 
