@@ -38,18 +38,18 @@ std::string dallaScena(const std::string& clip) {
 }  // namespace
 
 double Cambio::avanzamento(int pezzo, int fotogramma) const {
-  const int partito = fotogramma - tempi_.trapartenze * (pezzo - 1);
-  return std::clamp(static_cast<double>(partito) / tempi_.volo, 0.0, 1.0);
+  const int partito = fotogramma - c_.tempi.intervallo * (pezzo - 1);
+  return std::clamp(static_cast<double>(partito) / c_.tempi.volo, 0.0, 1.0);
 }
 
 /// Puts a piece as far on its way as told, from 0 (its own place) to 1 (its place in the new
 /// block).
 void Cambio::porta(Azioni& azioni, int pezzo, double parte) const {
   const double via = dolce(parte);
-  const swf::Punto casa = pezzi_.posto(pezzo);
-  const swf::Punto fisso = casa * (1 - via) + (primo_ + passo_ * (pezzo - 1)) * via;
-  const double salita = arco_.altezza * 4 * via * (1 - via);
-  const std::string clip = dallaScena(pezzi_.nome(pezzo));
+  const swf::Punto casa = c_.pezzi.posto(pezzo);
+  const swf::Punto fisso = casa * (1 - via) + (c_.primo + c_.passo * (pezzo - 1)) * via;
+  const double salita = c_.salita * 4 * via * (1 - via);
+  const std::string clip = dallaScena(c_.pezzi.nome(pezzo));
   imposta(azioni, clip, Proprieta::X, fisso.x, via, kPostoX);
   imposta(azioni, clip, Proprieta::Y, fisso.y - salita, via, kPostoY);
 }
@@ -57,7 +57,7 @@ void Cambio::porta(Azioni& azioni, int pezzo, double parte) const {
 void Cambio::rimetti(Azioni& azioni) const {
   for (int pezzo = 1; pezzo <= kPezzi; ++pezzo) {
     porta(azioni, pezzo, 0);
-    azioni.bersaglio(dallaScena(pezzi_.nome(pezzo))).vaiAFotogramma(1);
+    azioni.bersaglio(dallaScena(c_.pezzi.nome(pezzo))).vaiAFotogramma(1);
   }
   azioni.bersaglio(dallaScena(custode())).vaiAFotogramma(1).bersaglio("");
 }
@@ -65,14 +65,14 @@ void Cambio::rimetti(Azioni& azioni) const {
 /// The blocks of the new kind stand without gaps from the first on, so the last visible one settles
 /// it. A board that is full keeps its last place.
 void Cambio::cercaPostoLibero(Azioni& azioni) const {
-  assegna(azioni, kPostoX, nuovi_.posto(1).x);
-  assegna(azioni, kPostoY, nuovi_.posto(1).y);
-  for (int n = 1; n < nuovi_.quanti(); ++n) {
+  assegna(azioni, kPostoX, c_.nuovi.posto(1).x);
+  assegna(azioni, kPostoY, c_.nuovi.posto(1).y);
+  for (int n = 1; n < c_.nuovi.quanti(); ++n) {
     const auto libero = azioni.nuovoSegno();
-    azioni.spingi(nuovi_.nome(n)).spingi(Proprieta::Visibile).leggiProprieta().nega();
+    azioni.spingi(c_.nuovi.nome(n)).spingi(Proprieta::Visibile).leggiProprieta().nega();
     azioni.saltaSe(libero);
-    assegna(azioni, kPostoX, nuovi_.posto(n + 1).x);
-    assegna(azioni, kPostoY, nuovi_.posto(n + 1).y);
+    assegna(azioni, kPostoX, c_.nuovi.posto(n + 1).x);
+    assegna(azioni, kPostoY, c_.nuovi.posto(n + 1).y);
     azioni.segna(libero);
   }
 }
@@ -87,7 +87,7 @@ void Cambio::prepara(swf::Filmato& filmato, int profondita) const {
   Azioni sguardo;
   const auto nascosto = sguardo.nuovoSegno();
   const auto fine = sguardo.nuovoSegno();
-  sguardo.spingi(dallaScena(pezzi_.nome(1))).spingi(Proprieta::Visibile).leggiProprieta().nega();
+  sguardo.spingi(dallaScena(c_.pezzi.nome(1))).spingi(Proprieta::Visibile).leggiProprieta().nega();
   sguardo.saltaSe(nascosto).vaiAFotogramma(guarda).riproduci().salta(fine).segna(nascosto);
   rimetti(sguardo);
   sguardo.segna(fine);
@@ -105,7 +105,7 @@ void Cambio::recita(LineaTempo& scena) const {
   Azioni inizio;
   rimetti(inizio);
   cercaPostoLibero(inizio);
-  scena.nomina(parola_).esegui(inizio).mostra();
+  scena.nomina(c_.parola).esegui(inizio).mostra();
   for (int fotogramma = 1; fotogramma < coloreDa(); ++fotogramma) {
     Azioni volo;
     vola(volo, fotogramma);
@@ -113,11 +113,11 @@ void Cambio::recita(LineaTempo& scena) const {
   }
   Azioni colore;
   for (int pezzo = 1; pezzo <= kPezzi; ++pezzo)
-    colore.bersaglio(dallaScena(pezzi_.nome(pezzo))).vaiAFotogramma(2).riproduci();
-  scena.esegui(colore.bersaglio("")).mostra(tempi_.colore + tempi_.sosta - 1);
+    colore.bersaglio(dallaScena(c_.pezzi.nome(pezzo))).vaiAFotogramma(2).riproduci();
+  scena.esegui(colore.bersaglio("")).mostra(c_.tempi.colore + c_.tempi.sosta - 1);
   Azioni fine;
   fine.ferma().bersaglio(dallaScena(custode())).vaiAFotogramma(2).riproduci().bersaglio("");
-  scena.esegui(fine.comando(parola_, parola_)).mostra();
+  scena.esegui(fine.comando(c_.parola, c_.parola)).mostra();
 }
 
 }  // namespace somme::filmati

@@ -20,29 +20,26 @@ class Cambio {
  public:
   /// How long each act lasts, in frames.
   struct Tempi {
-    int volo;         ///< of one block, from its place to the new one
-    int trapartenze;  ///< from the start of one block to the start of the next
-    int colore;       ///< until the ten have the new colour
-    int sosta;        ///< that the finished picture stands before the word is said
-  };
-  struct Arco {
-    double altezza;  ///< pixels that a flight rises above the straight line, in its middle
+    int volo = 0;        ///< of one block, from its place to the new one
+    int intervallo = 0;  ///< from the start of one block to the start of the next
+    int colore = 0;      ///< until the ten have the new colour
+    int sosta = 0;       ///< that the finished picture stands before the word is said
   };
 
-  /// `passo` leads from one piece's place in the new block to the next one's, `primo` from the
-  /// corner of the new block to its first piece. Both rows must outlive the change.
-  Cambio(const Fila& pezzi, const Fila& nuovi, swf::Punto primo, swf::Punto passo, Tempi tempi,
-         Arco arco, std::string parola)
-      : pezzi_(pezzi),
-        nuovi_(nuovi),
-        primo_(primo),
-        passo_(passo),
-        tempi_(tempi),
-        arco_(arco),
-        parola_(std::move(parola)) {}
+  struct Copione {
+    Fila pezzi;         ///< the row whose first ten change
+    Fila nuovi;         ///< the row of the next kind
+    swf::Punto primo;   ///< from the corner of the new block to its first piece
+    swf::Punto passo;   ///< from each piece of the new block to the next one
+    double salita = 0;  ///< pixels that a flight rises above the straight line, in its middle
+    Tempi tempi;
+    std::string parola;
+  };
+
+  explicit Cambio(Copione copione) : c_(std::move(copione)) {}
 
   /// Frames of the whole stretch, the last of which says the word.
-  [[nodiscard]] int durata() const { return coloreDa() + tempi_.colore + tempi_.sosta; }
+  [[nodiscard]] int durata() const { return coloreDa() + c_.tempi.colore + c_.tempi.sosta; }
 
   /// For the scene's first frame: puts the clip down that waits for the ten to be hidden.
   void prepara(swf::Filmato& filmato, int profondita) const;
@@ -54,20 +51,17 @@ class Cambio {
  private:
   static constexpr int kPezzi = 10;
 
-  [[nodiscard]] int coloreDa() const { return tempi_.trapartenze * (kPezzi - 1) + tempi_.volo + 1; }
+  /// The frame of the stretch, from 0, on which the ten, all arrived, start to take colour.
+  [[nodiscard]] int coloreDa() const {
+    return c_.tempi.intervallo * (kPezzi - 1) + c_.tempi.volo + 1;
+  }
   [[nodiscard]] double avanzamento(int pezzo, int fotogramma) const;
-  [[nodiscard]] std::string custode() const { return "custode" + pezzi_.prefisso; }
+  [[nodiscard]] std::string custode() const { return "custode" + c_.pezzi.prefisso; }
   void cercaPostoLibero(swf::Azioni& azioni) const;
   void porta(swf::Azioni& azioni, int pezzo, double parte) const;
   void vola(swf::Azioni& azioni, int fotogramma) const;
 
-  const Fila& pezzi_;
-  const Fila& nuovi_;
-  swf::Punto primo_;
-  swf::Punto passo_;
-  Tempi tempi_;
-  Arco arco_;
-  std::string parola_;
+  Copione c_;
 };
 
 }  // namespace somme::filmati

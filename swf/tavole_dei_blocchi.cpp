@@ -84,12 +84,18 @@ Filmato hdau() {
 
 Filmato unione() {
   constexpr double kLato = 24;
-  constexpr Cambio::Tempi kTempi{.volo = 22, .trapartenze = 4, .colore = 12, .sosta = 4};
+  constexpr Cambio::Tempi kTempi{.volo = 22, .intervallo = 4, .colore = 12, .sosta = 4};
   const Fila lunghi{kLungo, "da", aCinque(9, {22, 20}, {33, 0}, {177, 0})};
   const Fila unita{kUnita, "u",
                    insieme(aCinque(10, {402, 236}, {0, -37}, {36, 0}),
                            aCinque(9, {564, 236}, {0, -37}, {36, 0}))};
-  const Cambio cambio(unita, lunghi, {0, 9 * kLato}, {0, -kLato}, kTempi, {14}, "cambio");
+  const Cambio cambio({.pezzi = unita,
+                       .nuovi = lunghi,
+                       .primo = {0, 9 * kLato},
+                       .passo = {0, -kLato},
+                       .salita = 14,
+                       .tempi = kTempi,
+                       .parola = "cambio"});
 
   Filmato filmato(kTavolaGrande);
   Forma fondo;
@@ -117,8 +123,8 @@ Filmato unionehdau() {
   constexpr int kCentinaia = 9;
   constexpr double kLato = 9;
   // The first change must be over before frame 51, so it is brisker than the second.
-  constexpr Cambio::Tempi kTempiUDa{.volo = 16, .trapartenze = 2, .colore = 8, .sosta = 3};
-  constexpr Cambio::Tempi kTempiDaH{.volo = 22, .trapartenze = 3, .colore = 12, .sosta = 4};
+  constexpr Cambio::Tempi kTempiUDa{.volo = 16, .intervallo = 2, .colore = 8, .sosta = 3};
+  constexpr Cambio::Tempi kTempiDaH{.volo = 22, .intervallo = 3, .colore = 12, .sosta = 4};
   const Fila piatti{kPiatto, "h", aCinque(kCentinaia, {11, 36}, {95, 0}, {0, 119})};
   const Fila lunghi{kLungo, "da",
                     insieme(aCinque(10, {500, 36}, {12.5, 0}, {67.5, 0}),
@@ -126,8 +132,20 @@ Filmato unionehdau() {
   const Fila unita{kUnita, "u",
                    insieme(aCinque(10, {651, 117}, {0, -18}, {21, 0}),
                            aCinque(9, {651, 236}, {0, -18}, {21, 0}))};
-  const Cambio cambioUDa(unita, lunghi, {0, 9 * kLato}, {0, -kLato}, kTempiUDa, {10}, "cambiouda");
-  const Cambio cambioDaH(lunghi, piatti, {0, 0}, {kLato, 0}, kTempiDaH, {10}, "cambiodah");
+  const Cambio cambioUDa({.pezzi = unita,
+                          .nuovi = lunghi,
+                          .primo = {0, 9 * kLato},
+                          .passo = {0, -kLato},
+                          .salita = 10,
+                          .tempi = kTempiUDa,
+                          .parola = "cambiouda"});
+  const Cambio cambioDaH({.pezzi = lunghi,
+                          .nuovi = piatti,
+                          .primo = {0, 0},
+                          .passo = {kLato, 0},
+                          .salita = 10,
+                          .tempi = kTempiDaH,
+                          .parola = "cambiodah"});
   if (1 + cambioUDa.durata() >= kFotogrammaCambioDaH)
     throw std::logic_error("the first change runs into the second");
 

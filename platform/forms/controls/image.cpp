@@ -1,0 +1,28 @@
+#include "platform/forms/controls/image.h"
+
+#include <QPainter>
+
+#include "platform/forms/controls/image_widget.h"
+#include "platform/forms/pictures.h"
+#include "platform/forms/runtime.h"
+
+namespace platform {
+
+void ImageWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  pictures_.paint(painter, name_, rect());
+}
+
+QWidget* Image::create(QWidget* parent) {
+  return new ImageWidget(
+      parent, runtime().pictures(),
+      QString::fromUtf8(look().picture.data(), qsizetype(look().picture.size())));
+}
+
+void Image::applyLook() {
+  widget()->setToolTip(toolTip());
+  widget()->setAccessibleName(toolTip());
+}
+
+}  // namespace platform

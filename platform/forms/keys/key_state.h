@@ -1,0 +1,139 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace platform {
+
+// What a key is known by: its scan code, or the key code of the toolkit where the desktop gives no
+// scan code (on-screen keyboards, some remote desktops).
+class KeyId {
+ public:
+  // scanCode: 0 where there is none; keyCode: the toolkit's.
+  static constexpr KeyId of(std::uint32_t scanCode, std::uint32_t keyCode) {
+    return scanCode != 0 ? KeyId(scanCode, true) : KeyId(keyCode, false);
+  }
+
+  constexpr bool operator==(const KeyId&) const = default;
+
+ private:
+  constexpr KeyId(std::uint32_t code, bool isScanCode) : code_(code), isScanCode_(isScanCode) {}
+
+  std::uint32_t code_;
+  bool isScanCode_;
+};
+
+// How the repeats of a held key show.
+enum class RepeatMarks {
+  // A plain X server: pairs of a release and a press at the same server time; the toolkit flags a
+  // pair only when both have arrived by the time it looks, else both look genuine.
+  Unreliable,
+  // An X server with detectable repeat: presses alone, not flagged.
+  PressesOnly,
+  // Every other desktop: what is not flagged as a repeat is none. (Flagged pairs on Wayland and
+  // Windows, flagged presses alone on macOS.)
+  Flagged,
+};
+
+// One key event as the desktop reports it.
+struct KeyInput {
+  KeyId id;
+  bool flaggedRepeat = false;
+  // When it happened, by the desktop's own clock; 0 where the desktop tells nothing.
+  std::chrono::milliseconds stamp{0};
+  // When it reached the program, by the clock that due() is asked with.
+  std::chrono::milliseconds arrival{0};
+};
+
+// A key that is down, with a number of the caller's choice that says who got its press.
+struct HeldKey {
+  KeyId id;
+  int destination = 0;
+
+  bool operator==(const HeldKey&) const = default;
+};
+
+// Makes one press and one release of one hold of a key, whatever the desktop reports in between.
+// Keeps no time of its own and touches no event: the caller hands events in, asks for due releases
+// when nextDue() says so, and delivers what comes out.
+class KeyState {
+ public:
+  // The longest that a release is kept back: the press that would show it to be a repeat is sent
+  // with it and arrives well within this (2 ms were enough under load).
+  static constexpr std::chrono::milliseconds kDeferral{5};
+  // A press of a key that is down, this long after its last event, is no repeat: desktops let the
+  // first repeat be set to up to 5 s. Its release was lost on the way.
+  static constexpr std::chrono::milliseconds kLost{6000};
+
+  enum class Press { Accepted, Repeat };
+  struct PressResult {
+    Press verdict = Press::Repeat;
+    // A release that was kept back and that this press shows to be real: deliver it before the
+    // press. Only with Accepted.
+    std::optional<HeldKey> released;
+    // An earlier press of the same key whose release never came: taken as let go, without effect.
+    // Only with Accepted.
+    std::optional<HeldKey> lost;
+  };
+
+  enum class Release {
+    Accepted,
+    // Kept back; comes out of due() unless a press shows that it was a repeat.
+    Deferred,
+    // A repeat, or of a key whose press did not come here.
+    Dropped,
+  };
+  struct ReleaseResult {
+    Release verdict = Release::Dropped;
+    int destination = 0;  // of the press; 0 unless Accepted
+  };
+
+  explicit KeyState(RepeatMarks marks) : marks_(marks) {}
+
+  [[nodiscard]] PressResult press(const KeyInput& input, int destination);
+  [[nodiscard]] ReleaseResult release(const KeyInput& input);
+
+  // The moment at which the first release that is kept back becomes real.
+  [[nodiscard]] std::optional<std::chrono::milliseconds> nextDue() const;
+  // The releases that have become real by then, in the order in which they came.
+  [[nodiscard]] std::vector<HeldKey> due(std::chrono::milliseconds time);
+
+  // The window has lost the focus: every key that is down is taken as let go without its effect,
+  // also one whose release is kept back. The keys, in the order of their presses.
+  std::vector<HeldKey> letGoAll();
+
+  // Keys that are down though their press did not come here (the window has just got the focus):
+  // nothing is heard of them until they have been let go. Replaces an earlier set; a key whose
+  // press did come here stays as it is. arrival: now, by the clock of KeyInput's arrival.
+  void heldOver(std::span<const KeyId> ids, std::chrono::milliseconds arrival);
+
+  // Whether any key is down, held over or not. A key whose release is kept back counts as down.
+  [[nodiscard]] bool anyDown() const;
+  [[nodiscard]] bool isDown(KeyId id) const;
+  // Whether a key that was held over is still down.
+  [[nodiscard]] bool anyHeldOver() const;
+
+ private:
+  struct Entry {
+    HeldKey key;
+    bool muted = false;      // nobody hears of it: held over, or found down by a late repeat
+    bool releasing = false;  // its release is kept back
+    bool gone = false;       // up, as far as anybody knows; remembered for a late repeat alone
+    KeyInput lastPress;
+    KeyInput lastRelease;
+  };
+
+  Entry* find(KeyId id);
+  void remove(KeyId id);
+  [[nodiscard]] PressResult pressOfKnown(Entry& entry, const KeyInput& input, int destination);
+  void noteStray(Entry* entry, const KeyInput& input);
+  [[nodiscard]] bool belongsTo(const KeyInput& press, const KeyInput& release) const;
+
+  RepeatMarks marks_;
+  std::vector<Entry> entries_;  // in the order of the presses
+};
+
+}  // namespace platform
