@@ -35,17 +35,17 @@ class TestoInputNumerico final : public platform::UserControl {
   platform::Property<QString> NomeFont{*this, QStringLiteral("NomeFont"), QStringLiteral("Tahoma")};
   // Points on the page as it is at the moment of setting; the text then grows with the page.
   platform::Property<qint16> DimensioneTesto{*this, QStringLiteral("DimensioneTesto"), 12};
-  platform::Property<QString> FormatoNumericoIntero{
-      *this, QStringLiteral("FormatoNumericoIntero"), QStringLiteral("### ### ##0")};
+  platform::Property<QString> FormatoNumericoIntero{*this, QStringLiteral("FormatoNumericoIntero"),
+                                                    QStringLiteral("### ### ##0")};
   platform::Property<QString> FormatoNumericoDecimale{
       *this, QStringLiteral("FormatoNumericoDecimale"), QStringLiteral("### ### ##0.###")};
   // 0 left, 1 right, 2 centre.
   platform::Property<qint16> Allineamento{*this, QStringLiteral("Allineamento"), 2};
   // Whether the box can be used; the shown number stays as it is.
   platform::Property<bool> Enabled{*this, QStringLiteral("Enabled"), true};
-  platform::InnerProperty<QString> Text{*this, QStringLiteral("Text"), QStringLiteral("Text1"),
-                                        [this] { return TestoInput.text(); },
-                                        [this](const QString& testo) { TestoInput.setText(testo); }};
+  platform::InnerProperty<QString> Text{
+      *this, QStringLiteral("Text"), QStringLiteral("Text1"), [this] { return TestoInput.text(); },
+      [this](const QString& testo) { TestoInput.setText(testo); }};
 
   // Empties both boxes and goes back to editing.
   void Reimposta();
@@ -61,7 +61,9 @@ class TestoInputNumerico final : public platform::UserControl {
   // it.
   void onKeyDown(const std::function<void()>& /*gestore*/) {}
   // After the filter, for each key typed; one that the filter dropped comes as 0.
-  void onKeyPress(std::function<void(qint16& tasto)> gestore) { tastoPremuto_ = std::move(gestore); }
+  void onKeyPress(std::function<void(qint16& tasto)> gestore) {
+    tastoPremuto_ = std::move(gestore);
+  }
   // A number has been confirmed.
   void onConfermato(std::function<void()> gestore) { confermato_ = std::move(gestore); }
   // At the end of each layout.

@@ -10,9 +10,8 @@ LineWidget::LineWidget(QWidget* parent) : QWidget(parent) {
 
 void LineWidget::setEnds(QPoint from, QPoint to, int thickness) {
   thickness_ = thickness;
-  const QRect ends =
-      QRect(QPoint(std::min(from.x(), to.x()), std::min(from.y(), to.y())),
-            QPoint(std::max(from.x(), to.x()) - 1, std::max(from.y(), to.y()) - 1));
+  const QRect ends = QRect(QPoint(std::min(from.x(), to.x()), std::min(from.y(), to.y())),
+                           QPoint(std::max(from.x(), to.x()) - 1, std::max(from.y(), to.y()) - 1));
   const int before = thickness / 2;
   const int after = thickness - before;
   setGeometry(ends.adjusted(-before, -before, after, after));

@@ -15,29 +15,29 @@ TextBoxWidget& boxOf(QWidget* widget) {
 }  // namespace
 
 QWidget* TextBox::create(QWidget* parent) {
-  auto* box = new TextBoxWidget(
-      parent, {.keyPress =
-                   [this](int& keyAscii) {
-                     if (!keyPress_) return;
-                     // A filter that fails lets nothing in.
-                     int result = 0;
-                     raiseEvent([this, keyAscii, &result] {
-                       int key = keyAscii;
-                       keyPress_(key);
-                       result = key;
-                     });
-                     keyAscii = result;
-                   },
-               .keyUp =
-                   [this](int keyCode) {
-                     if (keyUp_) raiseEvent([this, keyCode] { keyUp_(keyCode); });
-                   },
-               .changed =
-                   [this] {
-                     // The text of the design is no change.
-                     if (isBuilt()) raiseEvent(changed_);
-                   },
-               .clicked = [this] { raiseEvent(clicked_); }});
+  auto* box = new TextBoxWidget(parent, {.keyPress =
+                                             [this](int& keyAscii) {
+                                               if (!keyPress_) return;
+                                               // A filter that fails lets nothing in.
+                                               int result = 0;
+                                               raiseEvent([this, keyAscii, &result] {
+                                                 int key = keyAscii;
+                                                 keyPress_(key);
+                                                 result = key;
+                                               });
+                                               keyAscii = result;
+                                             },
+                                         .keyUp =
+                                             [this](int keyCode) {
+                                               if (keyUp_)
+                                                 raiseEvent([this, keyCode] { keyUp_(keyCode); });
+                                             },
+                                         .changed =
+                                             [this] {
+                                               // The text of the design is no change.
+                                               if (isBuilt()) raiseEvent(changed_);
+                                             },
+                                         .clicked = [this] { raiseEvent(clicked_); }});
   align_ = look().align;
   box->setLimit(look().maxLength);
   box->setReadOnly(look().locked);
