@@ -24,13 +24,20 @@ constexpr int kSideMargin = 6;      // pixels, so that text keeps clear of the f
 constexpr int kWidthsOfOthers = 6;  // pixels beside the text that the line edit keeps for itself
 constexpr int kBesideCursor = 5;    // how far the line edit's cursor rectangle reaches to its left
 
-bool isText(const QKeyEvent& event) {
+enum class Entry { Text, Command, None };
+
+// What a key press is to a line of text. Ctrl and Alt together are what some desktops report for
+// the third level of a key; with Alt or the system's key alone a character means something else,
+// and the line edit would take it for text.
+Entry entryOf(const QKeyEvent& event) {
   const QString text = event.text();
-  if (text.isEmpty() || text[0].category() == QChar::Other_Control) return false;
-  // Ctrl and Alt together are what some desktops report for the third level of a key.
-  const Qt::KeyboardModifiers commands =
-      event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  return commands == Qt::NoModifier || commands == (Qt::ControlModifier | Qt::AltModifier);
+  const bool character = !text.isEmpty() && text[0].category() != QChar::Other_Control;
+  if (!character) return Entry::Command;
+  const bool control = event.modifiers().testFlag(Qt::ControlModifier);
+  const bool alt = event.modifiers().testFlag(Qt::AltModifier);
+  if (event.modifiers().testFlag(Qt::MetaModifier)) return Entry::None;
+  if (control == alt) return Entry::Text;
+  return control ? Entry::Command : Entry::None;
 }
 
 }  // namespace
@@ -131,10 +138,10 @@ void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
     if (!isReadOnly()) enter(QApplication::clipboard()->text());
     return;
   }
-  if (isText(*event)) {
-    enter(event->text());
-    return;
-  }
+  const Entry entry = entryOf(*event);
+  if (entry == Entry::Text) enter(event->text());
+  if (entry == Entry::None) event->ignore();
+  if (entry != Entry::Command) return;
   // These are characters to the filter, too. Enter acts at its release and never becomes text.
   const int code = keyCodeOf(*event);
   const bool enterKey = code == kKeyEnter;

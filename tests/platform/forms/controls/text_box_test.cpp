@@ -223,6 +223,19 @@ class TextBoxTest : public QObject {
     QCOMPARE(forma.Casella.text(), QStringLiteral("1234"));
   }
 
+  void aCharacterWithAltOrTheSystemsKeyIsNoText() {
+    Fondo fondo;
+    Prova& forma = fondo.forma();
+    forma.Casella.setFocus();
+    fondo.batti(Qt::Key_7, Qt::AltModifier);
+    fondo.batti(Qt::Key_7, Qt::MetaModifier);
+    fondo.batti(Qt::Key_7, Qt::ControlModifier);
+    QCOMPARE(forma.Casella.text(), QString());
+    // The third level of a key, as some desktops report it.
+    fondo.batti(Qt::Key_7, Qt::AltModifier | Qt::ControlModifier);
+    QCOMPARE(forma.Casella.text(), QStringLiteral("7"));
+  }
+
   void undoBringsBackOnlyWhatWasThere() {
     Fondo fondo;
     Prova& forma = fondo.forma();
