@@ -97,6 +97,10 @@ void serve(const std::shared_ptr<SoundDesk>& desk) {
       player->close();
     }
   }
+  player.reset();
+  if (sdl) {
+    sdl->tlsCleanup();
+  }
 }
 
 }  // namespace
