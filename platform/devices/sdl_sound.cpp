@@ -80,26 +80,27 @@ void playRequest(SoundDesk& desk, SdlPlayer& player, const SoundRequest& request
   hearOut(desk, player, wave->length());
 }
 
-// The whole life of the sound thread.
-void serve(const std::shared_ptr<SoundDesk>& desk) {
-  std::optional<SdlLibrary> sdl;
-  std::optional<SdlPlayer> player;
-  while (const std::optional<SoundRequest> request = desk->waitForRequest()) {
-    if (!player && (sdl = SdlLibrary::load())) {
-      player.emplace(*sdl);
-    }
-    if (!player) {
-      desk->complain("SDL2 is missing");
-      continue;
-    }
-    playRequest(*desk, *player, *request);
-    if (desk->rest(milliseconds(0))) {
-      player->close();
+// Serves with a sound library at hand; the player, too, is this thread's alone.
+void serveWith(const SdlLibrary& sdl, SoundDesk& desk, SoundRequest request) {
+  SdlPlayer player(sdl);
+  for (std::optional<SoundRequest> next = std::move(request); next; next = desk.waitForRequest()) {
+    playRequest(desk, player, *next);
+    if (desk.rest(milliseconds(0))) {
+      player.close();
     }
   }
-  player.reset();
-  if (sdl) {
-    sdl->tlsCleanup();
+}
+
+// The whole life of the sound thread.
+void serve(const std::shared_ptr<SoundDesk>& desk) {
+  for (auto request = desk->waitForRequest(); request; request = desk->waitForRequest()) {
+    const std::optional<SdlLibrary> sdl = SdlLibrary::load();
+    if (sdl) {
+      serveWith(*sdl, *desk, *std::move(request));
+      sdl->tlsCleanup();
+      return;
+    }
+    desk->complain("SDL2 is missing");
   }
 }
 
