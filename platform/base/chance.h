@@ -12,6 +12,8 @@ class Chance {
 
   // The next fraction: at least 0, below 1.
   [[nodiscard]] virtual float fraction() = 0;
+  // Starts the sequence that belongs to the seed; a scripted source has none.
+  virtual void seed(std::uint64_t /*seed*/) {}
 };
 
 // A uniform sequence from a seed; the same seed gives the same sequence on every machine.
@@ -19,7 +21,7 @@ class SeededChance final : public Chance {
  public:
   explicit SeededChance(std::uint64_t seed) : engine_(seed) {}
 
-  void seed(std::uint64_t seed) { engine_.seed(seed); }
+  void seed(std::uint64_t seed) override { engine_.seed(seed); }
 
   // 24 bits of the engine fill the mantissa of a float exactly, so that 1 is never reached.
   [[nodiscard]] float fraction() override {

@@ -113,6 +113,8 @@ class KeyState {
   // Whether any key is down, held over or not. A key whose release is kept back counts as down.
   [[nodiscard]] bool anyDown() const;
   [[nodiscard]] bool isDown(KeyId id) const;
+  // Whether a key that was held over is still down.
+  [[nodiscard]] bool anyHeldOver() const;
 
  private:
   struct Entry {

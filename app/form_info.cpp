@@ -1,0 +1,48 @@
+#include "app/form_info.h"
+
+#include "app/shared/nomi_forme.h"
+
+namespace somme {
+
+using namespace platform;
+
+namespace {
+
+constexpr Rgb kGialloPallido{255, 255, 192};
+
+constexpr auto kControlli = std::to_array<Row>({
+    row<&FormInfo::Label1>({480, 480, 6240, 1440},
+                           {.font = {Face::Tahoma, 15.75, true}, .align = Align::Centre}),
+    row<&FormInfo::Label3>({480, 2040, 6240, 1440},
+                           {.font = {Face::Tahoma, 12}, .align = Align::Centre}),
+    row<&FormInfo::Label4>({480, 3540, 6240, 480},
+                           {.font = {Face::Tahoma, 12}, .align = Align::Centre}),
+    row<&FormInfo::Command1>(
+        {2310, 4140, 2580, 1155},
+        {.caption = "Chiudi", .font = {Face::Tahoma, 14.25}, .picture = "chiudi"}),
+});
+
+constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
+
+constexpr FormDesign kDisegno{.name = forme::kFormInfo,
+                              .caption = "Esercitazioni sulle somme",
+                              .width = 7200,
+                              .height = 5520,
+                              .back = kGialloPallido,
+                              .tables = kTavole};
+
+}  // namespace
+
+FormInfo::FormInfo(Ambiente& ambiente) : Forma(ambiente, kDisegno) {
+  Command1.onClick([this] { VaiA(forme::kFormMenu); });
+}
+
+// These words come after the language, which therefore cannot change them.
+void FormInfo::onActivate() {
+  Label1.setCaption(QStringLiteral("Software di\nchi insegna e chi impara le somme\n"));
+  Label3.setCaption(
+      QStringLiteral("Questo programma è libero:\nsi può usare, copiare e regalare.\n"));
+  Label4.setCaption({});
+}
+
+}  // namespace somme

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "app/shared/forma.h"
+#include "platform/forms/controls/button.h"
+#include "platform/forms/controls/label.h"
+
+namespace somme {
+
+// The credits.
+class FormInfo final : public Forma {
+ public:
+  explicit FormInfo(Ambiente& ambiente);
+
+  platform::Label Label1{*this};
+  platform::Label Label3{*this};
+  platform::Label Label4{*this};
+  platform::Button Command1{*this};
+
+ protected:
+  void onActivate() override;
+};
+
+}  // namespace somme

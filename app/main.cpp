@@ -1,0 +1,42 @@
+#include <QApplication>
+
+#include "app/modulo1.h"
+#include "app/shared/ambiente.h"
+#include "app/shared/mod_language_support.h"
+#include "app/tabella_forme.h"
+#include "immagini/immagini.h"
+#include "platform/base/chance.h"
+#include "platform/devices/desktop_documents.h"
+#include "platform/devices/file_instance_lock.h"
+#include "platform/devices/qt_time_source.h"
+#include "platform/devices/sdl_sound.h"
+#include "platform/devices/system_process_end.h"
+#include "platform/forms/appearance.h"
+#include "platform/forms/qt_message_boxes.h"
+
+// Only wiring: the real services, the ground, the entry routine.
+int main(int argc, char* argv[]) {
+  QApplication programma(argc, argv);
+  platform::applyAppearance();
+  somme::PreparaImmagini();
+
+  platform::QtTimeSource tempo;
+  platform::SeededChance sorte(0);
+  platform::SdlSound suono(QApplication::beep);
+  platform::DesktopDocuments documenti;
+  platform::SystemProcessEnd fine;
+  platform::FileInstanceLock istanza(QCoreApplication::applicationFilePath());
+
+  // The message boxes speak the language of the whole that they are a part of.
+  somme::Ambiente* tutto = nullptr;
+  platform::QtMessageBoxes messaggi([&tutto] { return somme::ParoleMessaggi(*tutto); },
+                                    [&tutto] { return &tutto->fondo.window(); });
+  somme::Ambiente ambiente(
+      {tempo, sorte, suono, messaggi, documenti, fine, istanza,
+       QCoreApplication::applicationDirPath()},
+      [&tutto](std::string_view nome) { return somme::CreaForma(*tutto, nome); });
+  tutto = &ambiente;
+
+  somme::Avvia(ambiente);
+  return QApplication::exec();
+}

@@ -1,0 +1,31 @@
+#include "app/modulo1.h"
+
+#include <QDateTime>
+
+#include "app/shared/ambiente.h"
+#include "app/shared/mod_language_support.h"
+#include "app/shared/modulo_ini.h"
+#include "app/shared/nomi_forme.h"
+
+namespace somme {
+
+void Avvia(Ambiente& ambiente) {
+  if (!ambiente.servizi.istanza.take()) {
+    ambiente.fondo.showBox({TestoLingua(ambiente, QStringLiteral("0001")),
+                            QStringLiteral("Error"), platform::BoxIcon::Critical,
+                            platform::BoxButtons::Ok});
+    ambiente.fondo.endProcess(0);
+    return;
+  }
+  ImpostaDefault(ambiente.stato);
+  ambiente.servizi.sorte.seed(static_cast<quint64>(QDateTime::currentMSecsSinceEpoch()));
+  ambiente.stato.SuoniAttivi = true;
+  CaricaStringhe(ambiente);
+  try {
+    ambiente.fondo.forms().show(forme::kFormAvvio);
+  } catch (const platform::Unwind&) {
+    // The window was closed while the first form was still coming up.
+  }
+}
+
+}  // namespace somme

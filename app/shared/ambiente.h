@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+
+#include "app/shared/stato_condiviso.h"
+#include "app/shared/stringhe_condivise.h"
+#include "platform/base/chance.h"
+#include "platform/base/profile_reader.h"
+#include "platform/base/services.h"
+#include "platform/forms/runtime.h"
+
+namespace somme {
+
+// What the program needs from the world; a test hands in its own.
+struct Servizi {
+  platform::TimeSource& tempo;
+  platform::Chance& sorte;
+  platform::Sound& suono;
+  platform::MessageBoxes& messaggi;
+  platform::Documents& documenti;
+  platform::ProcessEnd& fine;
+  platform::InstanceLock& istanza;
+  QString cartella;  // the program's path: the executable's folder, links resolved
+};
+
+// Everything that a form reaches besides its own controls: the services, the shared state, the
+// shared strings, the language files, and the ground that it stands on.
+class Ambiente {
+ public:
+  // forme: makes each form of the program from its name.
+  Ambiente(const Servizi& servizi, platform::Forms::Factory forme);
+
+  Servizi servizi;
+  StatoCondiviso stato;
+  StringheCondivise stringhe;
+  platform::ProfileReader profili;
+  platform::Runtime fondo;
+};
+
+// The window's title, and that of message boxes without one of their own.
+[[nodiscard]] QString TitoloProgramma();
+
+}  // namespace somme

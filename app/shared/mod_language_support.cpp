@@ -1,0 +1,120 @@
+#include "app/shared/mod_language_support.h"
+
+#include "app/shared/ambiente.h"
+#include "platform/base/profile_file.h"
+#include "platform/base/run_time_error.h"
+#include "platform/forms/form.h"
+#include "platform/forms/qt_message_boxes.h"
+
+namespace somme {
+
+namespace {
+
+using platform::RunTimeError;
+
+// Runs a step whose failure is ignored by design.
+template <class Passo>
+void IgnoraErrori(const Passo& passo) {
+  try {
+    passo();
+  } catch (const RunTimeError&) {
+    // A text that cannot be read leaves things as they are.
+  }
+}
+
+QString FileLingua(const Ambiente& ambiente) {
+  QString percorso = ambiente.servizi.cartella;
+  if (!percorso.endsWith(u'/')) percorso += u'/';
+  return percorso + ambiente.stato.LinguaCorrente + QStringLiteral(".lng");
+}
+
+QString FileImpostazioni(const Ambiente& ambiente) {
+  return ambiente.servizi.cartella + QStringLiteral("/LangSetting.ini");
+}
+
+void ApplicaAlControllo(Ambiente& ambiente, const QString& file, platform::Form& form,
+                        platform::Control& controllo) {
+  const auto leggi = [&](const char* proprieta) {
+    return LeggiChiave(ambiente, file, form.name(),
+                       controllo.name() + QLatin1Char('.') + QLatin1String(proprieta));
+  };
+  IgnoraErrori([&] {
+    const QString testo = leggi("Caption");
+    if (!testo.isEmpty() && controllo.hasCaption()) controllo.setCaption(testo);
+  });
+  IgnoraErrori([&] {
+    const QString testo = leggi("ToolTipText");
+    if (!testo.isEmpty()) controllo.setToolTip(testo);
+  });
+  IgnoraErrori([&] {
+    const QString testo = leggi("Tag");
+    if (!testo.isEmpty()) controllo.setTag(testo);
+  });
+}
+
+}  // namespace
+
+QString LeggiChiave(Ambiente& ambiente, const QString& file, const QString& sezione,
+                    const QString& chiave) {
+  return ambiente.profili.read(file, sezione, chiave);
+}
+
+void ScriviChiave(const QString& file, const QString& sezione, const QString& chiave,
+                  const QString& valore) {
+  platform::writeProfileValue(file, sezione, chiave, valore);
+}
+
+QString LinguaScelta(Ambiente& ambiente) {
+  return LeggiChiave(ambiente, FileImpostazioni(ambiente), QStringLiteral("Language"),
+                     QStringLiteral("CurrentLanguage"));
+}
+
+void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua) {
+  ScriviChiave(FileImpostazioni(ambiente), QStringLiteral("Language"),
+               QStringLiteral("CurrentLanguage"), lingua);
+}
+
+QString TestoLingua(Ambiente& ambiente, const QString& chiave) {
+  QString testo;
+  IgnoraErrori([&] {
+    QString& lingua = ambiente.stato.LinguaCorrente;
+    if (lingua.isEmpty()) lingua = LinguaScelta(ambiente);
+    testo = LeggiChiave(ambiente, FileLingua(ambiente), QStringLiteral("Strings"), chiave);
+  });
+  return testo;
+}
+
+void ApplicaLingua(Ambiente& ambiente, platform::Form& form) {
+  const QString file = FileLingua(ambiente);
+  // The caption and the tag are set also when the file has no text for them: it blanks them.
+  if (!form.caption().isEmpty()) {
+    IgnoraErrori([&] {
+      form.setCaption(
+          LeggiChiave(ambiente, file, form.name(), form.name() + QStringLiteral(".Caption")));
+    });
+  }
+  IgnoraErrori([&] {
+    form.setTag(LeggiChiave(ambiente, file, form.name(), form.name() + QStringLiteral(".Tag")));
+  });
+  // Only what the form has now: a control made meanwhile belongs to what made it.
+  const std::vector<platform::Control*> controlli = form.controls();
+  for (platform::Control* controllo : controlli) {
+    ApplicaAlControllo(ambiente, file, form, *controllo);
+    form.letEventsRun();
+  }
+}
+
+platform::ButtonWords ParoleMessaggi(Ambiente& ambiente) {
+  const auto parola = [&ambiente](const char* chiave, const QString& italiana) {
+    QString testo;
+    IgnoraErrori([&] {
+      testo = LeggiChiave(ambiente, FileLingua(ambiente), QStringLiteral("MessageBox"),
+                          QLatin1String(chiave));
+    });
+    return testo.isEmpty() ? italiana : testo;
+  };
+  return {parola("Ok", QStringLiteral("OK")), parola("Si", QStringLiteral("Sì")),
+          parola("No", QStringLiteral("No"))};
+}
+
+}  // namespace somme

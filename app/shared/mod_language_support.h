@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+namespace platform {
+class Form;
+struct ButtonWords;
+}  // namespace platform
+
+namespace somme {
+
+class Ambiente;
+
+// The language files: profile files "<language>.lng" in the program's folder, with a section for
+// each form and the section "Strings" for what the code composes.
+
+// A value of a profile file; empty where the key is absent. Throws RunTimeError(FileNotFound) for a
+// file that does not exist.
+[[nodiscard]] QString LeggiChiave(Ambiente& ambiente, const QString& file, const QString& sezione,
+                                  const QString& chiave);
+// Writes a value; silently not, where the folder cannot be written.
+void ScriviChiave(const QString& file, const QString& sezione, const QString& chiave,
+                  const QString& valore);
+
+// The text of a key of section "Strings" in the current language; empty after any failure. Reads
+// the chosen language first where none is set yet.
+[[nodiscard]] QString TestoLingua(Ambiente& ambiente, const QString& chiave);
+
+// Puts the current language on a form and all its controls: captions, tool tips and tags. A failing
+// read leaves its text as it is. Lets events run after each control.
+void ApplicaLingua(Ambiente& ambiente, platform::Form& form);
+
+// The language written in LangSetting.ini. Throws RunTimeError(FileNotFound) without that file.
+[[nodiscard]] QString LinguaScelta(Ambiente& ambiente);
+// Keeps the choice for the next run.
+void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua);
+
+// The words on the buttons of message boxes: from section "MessageBox", or the Italian ones.
+[[nodiscard]] platform::ButtonWords ParoleMessaggi(Ambiente& ambiente);
+
+}  // namespace somme

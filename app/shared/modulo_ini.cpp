@@ -1,0 +1,12 @@
+#include "app/shared/modulo_ini.h"
+
+namespace somme {
+
+void ImpostaDefault(StatoCondiviso& stato) {
+  stato.SuoniAttivi = true;
+  stato.CursoreDiSistema = false;
+  stato.ModalitaInput = kMouseTastiera;
+  stato.TempoScansione = 4;
+}
+
+}  // namespace somme

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "app/shared/stato_condiviso.h"
+
+namespace somme {
+
+// Puts the settings at their values of the start.
+void ImpostaDefault(StatoCondiviso& stato);
+
+}  // namespace somme

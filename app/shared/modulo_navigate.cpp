@@ -1,0 +1,11 @@
+#include "app/shared/modulo_navigate.h"
+
+#include "app/shared/ambiente.h"
+
+namespace somme {
+
+void ApriDocumento(Ambiente& ambiente, const QString& percorso) {
+  ambiente.servizi.documenti.open(percorso);
+}
+
+}  // namespace somme

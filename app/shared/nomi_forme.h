@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+// The names of the program's forms, so that a form can say which one to show without knowing it.
+namespace somme::forme {
+
+inline constexpr std::string_view kFormAvvio = "FormAvvio";
+inline constexpr std::string_view kFormInfo = "FormInfo";
+inline constexpr std::string_view kFormMenu = "FormMenu";
+inline constexpr std::string_view kFormMenuBarre = "FormMenuBarre";
+inline constexpr std::string_view kFormBarre10 = "FormBarre10";
+inline constexpr std::string_view kFormBarre10Tastiera = "FormBarre10Tastiera";
+
+}  // namespace somme::forme

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+
+namespace somme {
+
+class Ambiente;
+
+// The shared strings. They are read once, at the start, and keep the language of the start even if
+// the pupil changes it later.
+struct StringheCondivise {
+  QString TestoErrati;
+  QString TestoEsatti;
+  QString Spazio;
+  QString MessaggioHelpiKeys;
+  QString TitoloBarre;
+  QString Trattino;
+  QString TitoloFinoAl10;
+  QString TitoloFinoAl20;
+  QString TitoloPLUEntro999;
+  QString TipoSenzaCambio;
+  QString TipoUnCambio;
+  QString TipoDueCambi;
+  QString TipoConESenzaCambi;
+  QString TitoloPLUEntro99;
+  QString TipoSoloUnita;
+  QString TipoConCambio;
+  QString TipoSoloDecine;
+  QString TipoSoloCentinaia;
+  QString TipoCambioUnita;
+  QString TipoCambioDecine;
+  QString SegnoPiu;
+  QString SegnoUguale;
+  QString FormatoNumeri;
+  QString DomandaStampaTastiera;
+  QString ConsegnaBarre1;
+  QString ConsegnaBarre2;
+  QString ConsegnaBarre3;
+};
+
+// Reads them all, in their order; the first key read also loads `LinguaCorrente`.
+void CaricaStringhe(Ambiente& ambiente);
+
+}  // namespace somme

@@ -1,0 +1,139 @@
+#include "exercises/bars/form_barre10.h"
+
+#include "app/shared/nomi_forme.h"
+#include "exercises/bars/disegno_barre.h"
+
+namespace somme {
+
+using namespace disegno;
+
+namespace {
+
+constexpr int kAiuti = 10;
+
+constexpr Row Numero(int i, double sinistra, std::string_view testo) {
+  return row<&FormBarre10::PulsanteNumero>(
+      i, {sinistra, 4920, 800, 645},
+      {.caption = testo, .font = {Face::Arial, 20.25, true}, .back = kRosso});
+}
+
+constexpr auto kControlli = std::to_array<Row>({
+    row<&FormBarre10::Label4>(0, {2880, 120, 975, 735}, Termine("")),
+    row<&FormBarre10::Label4>(1, {3840, 120, 855, 735}, Termine("+")),
+    row<&FormBarre10::Label4>(2, {4680, 120, 975, 735}, Termine("")),
+    row<&FormBarre10::Label4>(3, {5640, 120, 855, 735}, Termine("=")),
+    row<&FormBarre10::Label4>(4, {6480, 120, 975, 735}, Termine("")),
+    row<&FormBarre10::Picture1>({360, 1080, 10455, 3495},
+                                {.toolTip = "Barre", .back = kWhite, .border = true}),
+    row<&FormBarre10::n1>({0, 0, 705, 705}, Barra(kCiano, "Barra gialla")),
+    row<&FormBarre10::n2>({705, 0, 705, 705}, Barra(kVerde, "Barra verde")),
+    row<&FormBarre10::n3>({0, 705, 1410, 705}, Barra(kRosso, "Barra rossa")),
+    row<&FormBarre10::aiuto1>(0, {0, 1420, 705, 705}, Quadretto(kCiano)),
+    row<&FormBarre10::aiuto2>(0, {705, 1420, 705, 705}, Quadretto(kVerde)),
+    row<&FormBarre10::aiuto3>(0, {0, 2115, 705, 705}, Quadretto(kRosso)),
+    Numero(0, 360, "0"),
+    Numero(1, 1335, "1"),
+    Numero(2, 2295, "2"),
+    Numero(3, 3255, "3"),
+    Numero(4, 4215, "4"),
+    Numero(5, 5175, "5"),
+    Numero(6, 6135, "6"),
+    Numero(7, 7080, "7"),
+    Numero(8, 8040, "8"),
+    Numero(9, 9000, "9"),
+    Numero(10, 9960, "10"),
+    row<&FormBarre10::Label3>({360, 5760, 5175, 480}, {.caption = "--", .font = kTahoma9}),
+    row<&FormBarre10::PulsanteAiuto>(
+        {6840, 6360, 1935, 975}, {.caption = "&aiuto", .font = kTahoma14, .picture = "aiuto"}),
+    row<&FormBarre10::PulsanteAvanti>(
+        {8880, 6360, 1935, 975},
+        {.caption = "a&vanti", .font = kTahoma14, .hidden = true, .picture = "avanti"}),
+    Si({360, 6360, 855, 855}),
+    No({360, 6360, 855, 855}),
+    Esatti({1560, 6480, 2415, 360}),
+    Errati({1560, 6840, 2415, 360}),
+    Pannello({0, 0, 11175, 7695}),
+    Elenco({360, 240, 5775, 6975}),
+    Stampa({7440, 4680, 2580, 1155}),
+    Chiudi({7440, 6240, 2580, 1155}),
+});
+
+// The way to the typed answers opens with the form that takes them.
+constexpr auto kMenuProprio = std::to_array<Row>({
+    item<&FormBarre10::mnuTastiera>({.caption = "&Utilizza la tastiera", .disabled = true}),
+    item<&FormBarre10::mnuEsci>({.caption = "&Esci"}),
+});
+
+constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kMenuBarre, kMenuProprio};
+
+constexpr FormDesign kDisegno{.name = forme::kFormBarre10,
+                              .caption = "Esercitazioni sulle somme",
+                              .width = 11145,
+                              .height = 7650,
+                              .back = kGialloPallido,
+                              .tables = kTavole};
+
+}  // namespace
+
+FormBarre10::FormBarre10(Ambiente& ambiente) : FormaBarre(ambiente, kDisegno, kAiuti) {
+  PulsanteAiuto.onClick([this] { MostraAiuto(); });
+  PulsanteAvanti.onClick([this] { NuovoCaso(); });
+  mnuTastiera.onClick([this] { VaiA(forme::kFormBarre10Tastiera); });
+}
+
+void FormBarre10::onLoad() {
+  FormaBarre::onLoad();
+  PulsanteNumero.forEach([this](platform::Button& pulsante) {
+    pulsante.onClick([this, numero = pulsante.index()] { Rispondi(numero); });
+  });
+  PulsanteAvanti.setVisible(true);
+  ScriviEsatti();
+  ScriviErrati();
+  stato().TipoEsercizio = 1;
+  if (stato().CursoreDiSistema) ImpostaCursoreSistema();
+}
+
+void FormBarre10::onActivate() {
+  LeggiMisure();
+  ScriviTitolo(stringhe().TitoloFinoAl10);
+  CreaAiuti();
+  ColoraTermini();
+  NuovoCaso();
+}
+
+void FormBarre10::NuovoCaso() {
+  newCase();
+  for (int i = 0; i <= stato().LimiteEsercizio; ++i) PulsanteNumero[i].setEnabled(true);
+  PulsanteAvanti.setEnabled(false);
+  NascondiAiuti();
+  GeneraSecondoTipo();
+}
+
+void FormBarre10::Chiedi(const DomandaBarre& domanda) {
+  for (int i = 0; i <= stato().LimiteEsercizio; ++i) {
+    PulsanteNumero[i].setBackColor(domanda.colore);
+  }
+}
+
+void FormBarre10::Rispondi(int numero) {
+  if (numero == risultatoAtteso()) {
+    RispostaGiusta(numero);
+  } else {
+    SegnaSbagliato([this, numero] { PulsanteNumero[numero].setEnabled(false); });
+  }
+}
+
+void FormBarre10::RispostaGiusta(int numero) {
+  SegnaGiusto();
+  MostraNumeri();
+  PulsanteAvanti.setEnabled(true);
+  AggiungiAllElenco();
+  ScriviSomma();
+  for (int i = 0; i <= stato().LimiteEsercizio; ++i) {
+    if (i != numero) PulsanteNumero[i].setBackColor(kGrigio);
+    PulsanteNumero[i].setEnabled(false);
+  }
+  PulsanteAvanti.setFocus();
+}
+
+}  // namespace somme

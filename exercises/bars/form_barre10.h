@@ -1,0 +1,29 @@
+#pragma once
+
+#include "exercises/bars/forma_barre.h"
+
+namespace somme {
+
+// Bars up to 10; the pupil answers with one of eleven numbered buttons, which take the colour of
+// the bar that is asked for.
+class FormBarre10 final : public FormaBarre {
+ public:
+  explicit FormBarre10(Ambiente& ambiente);
+
+  platform::ControlArray<platform::Button> PulsanteNumero{*this};
+  platform::Button PulsanteAiuto{*this};
+  platform::Button PulsanteAvanti{*this};
+  platform::MenuItem mnuTastiera{*this};
+
+ protected:
+  void onLoad() override;
+  void onActivate() override;
+  void NuovoCaso() override;
+  void Chiedi(const DomandaBarre& domanda) override;
+
+ private:
+  void Rispondi(int numero);
+  void RispostaGiusta(int numero);
+};
+
+}  // namespace somme

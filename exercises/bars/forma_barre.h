@@ -1,0 +1,80 @@
+#pragma once
+
+#include "exercises/core/disegno_comune.h"
+#include "exercises/core/forma_esercizio.h"
+
+namespace somme {
+
+// What is asked of the pupil: one of the three numbers of the sum.
+struct DomandaBarre {
+  int termine;  // its index in `Label4`
+  QString StringheCondivise::*consegna;
+  platform::Rgb colore;  // of the answer
+};
+
+// The bars exercises: the two addends as bars end to end, the total under them, one number of the
+// three to be found. How the answer comes in is left to the forms.
+//
+// The first addend's bar is called "gialla" in every text and is cyan; its second addend is a
+// lighter green on the bar than in the written sum. Both are settled.
+class FormaBarre : public FormaEsercizio {
+ public:
+  // aiuti: how many help squares each row can have.
+  FormaBarre(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti);
+
+  platform::PictureBox Picture1{*this};
+  platform::Label n1{*this};
+  platform::Label n2{*this};
+  platform::Label n3{*this};
+  platform::ControlArray<platform::Label> aiuto1{*this};
+  platform::ControlArray<platform::Label> aiuto2{*this};
+  platform::ControlArray<platform::Label> aiuto3{*this};
+  platform::ControlArray<platform::Label> Label4{*this};
+  platform::Label Label3{*this};
+  platform::MenuItem mnuEsercizio{*this};
+  platform::MenuItem mnuRossa{*this};
+  platform::MenuItem mnuGiallaVerde{*this};
+  platform::MenuItem mnuTutteBarre{*this};
+
+  // Draws a case and asks for the total.
+  void GeneraCaso1();
+  // Draws a case and asks for one of the addends.
+  void GeneraCaso2();
+
+ protected:
+  virtual void NuovoCaso() = 0;
+  // Makes the form ready for the answer to a new question.
+  virtual void Chiedi(const DomandaBarre& domanda) = 0;
+
+  // The steps that the forms' own NuovoCaso, Load and Activate are made of.
+  void NascondiAiuti();
+  void GeneraSecondoTipo();
+  void LeggiMisure();
+  void ScriviTitolo(const QString& esercizio);
+  void CreaAiuti();
+  void ColoraTermini();
+
+  void MostraAiuto();
+  // The numbers come back on the bars, so that the "?" goes.
+  void MostraNumeri();
+  void AggiungiAllElenco();
+  void ScriviSomma();
+
+  [[nodiscard]] qint16 risultatoAtteso() const { return RisultatoAtteso; }
+
+ private:
+  void ScegliTipo(qint16 tipo);
+  void EstraiCaso();
+  void MostraCaso(const DomandaBarre& domanda);
+  [[nodiscard]] qint16 Lungo(int unita) const;
+  void MettiQuadretti(platform::ControlArray<platform::Label>& quadretti, int quanti, int sinistra,
+                      int alto);
+
+  int aiuti_;
+  qint16 RisultatoAtteso = 0;  // the number that the pupil must give
+  qint16 OrigineY = 0;         // top of the first row of bars, twips inside `Picture1`
+  qint16 OrigineX = 0;         // left end of the bars
+  qint16 Unita = 0;            // length of one unit, height of a bar, side of a square
+};
+
+}  // namespace somme

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "exercises/core/forma_esercizio.h"
+#include "platform/forms/design.h"
+
+// What the designs of the exercise forms have in common: colours, and rows that differ between
+// forms in their place alone.
+namespace somme::disegno {
+
+using platform::Align;
+using platform::Face;
+using platform::FontSpec;
+using platform::FormDesign;
+using platform::item;
+using platform::kBlack;
+using platform::kWhite;
+using platform::Look;
+using platform::nameOf;
+using platform::Rgb;
+using platform::Row;
+using platform::row;
+using platform::TwipsRect;
+
+inline constexpr Rgb kCiano{0, 255, 255};
+inline constexpr Rgb kVerde{0, 255, 0};
+inline constexpr Rgb kVerdeScuro{0, 192, 0};
+inline constexpr Rgb kRosso{255, 0, 0};
+inline constexpr Rgb kGrigio{224, 224, 224};
+inline constexpr Rgb kVerdePallido{192, 255, 192};
+inline constexpr Rgb kGialloPallido{255, 255, 192};
+
+inline constexpr FontSpec kTahoma9{Face::Tahoma, 9.75};
+inline constexpr FontSpec kTahoma14{Face::Tahoma, 14.25};
+
+constexpr Row Esatti(TwipsRect posto) {
+  return row<&FormaEsercizio::EtichettaEsatti>(
+      posto, {.caption = "Esatti", .font = kTahoma14, .back = kCiano, .border = true});
+}
+constexpr Row Errati(TwipsRect posto) {
+  return row<&FormaEsercizio::EtichettaErrati>(
+      posto, {.caption = "Errati", .font = kTahoma14, .back = kCiano, .border = true});
+}
+constexpr Row Si(TwipsRect posto) {
+  return row<&FormaEsercizio::ImgSi>(posto, {.toolTip = "Giusto", .picture = "si"});
+}
+constexpr Row No(TwipsRect posto) {
+  return row<&FormaEsercizio::ImgNo>(
+      posto, {.toolTip = "Sbagliato: prova ancora", .hidden = true, .picture = "no"});
+}
+constexpr Row Pannello(TwipsRect posto) {
+  return row<&FormaEsercizio::PictureStampa>(
+      posto, {.toolTip = "Somme risolte", .back = kVerdePallido, .hidden = true});
+}
+constexpr Row Elenco(TwipsRect posto) {
+  return row<&FormaEsercizio::TestoStampa>(posto,
+                                           {.toolTip = "Elenco delle somme risolte",
+                                            .font = {Face::Tahoma, 12},
+                                            .in = nameOf<&FormaEsercizio::PictureStampa>});
+}
+constexpr Row Stampa(TwipsRect posto) {
+  return row<&FormaEsercizio::CommandStampa>(posto,
+                                             {.caption = "Stampa",
+                                              .font = kTahoma14,
+                                              .disabled = true,
+                                              .picture = "stampante",
+                                              .in = nameOf<&FormaEsercizio::PictureStampa>});
+}
+constexpr Row Chiudi(TwipsRect posto) {
+  return row<&FormaEsercizio::CommandChiudi>(posto,
+                                             {.caption = "Chiudi",
+                                              .font = kTahoma14,
+                                              .picture = "chiudi",
+                                              .in = nameOf<&FormaEsercizio::PictureStampa>});
+}
+
+}  // namespace somme::disegno

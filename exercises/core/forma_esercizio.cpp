@@ -1,0 +1,62 @@
+#include "exercises/core/forma_esercizio.h"
+
+#include "app/shared/modulo_colori_suoni.h"
+#include "platform/base/numbers.h"
+
+namespace somme {
+
+FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno,
+                               std::string_view menu)
+    : Forma(ambiente, disegno), menu_(menu) {
+  MenuAzzera.onClick([this] { AzzeraConteggio(); });
+  mnuStampa.onClick([this] { ApriPannelloStampa(); });
+  CommandChiudi.onClick([this] { ChiudiPannelloStampa(); });
+  mnuEsci.onClick([this] { VaiA(menu_); });
+}
+
+void FormaEsercizio::ScriviEsatti() {
+  EtichettaEsatti.setCaption(stringhe().TestoEsatti + stringhe().Spazio +
+                             platform::leadingBlank(stato().ContaEsatti));
+}
+
+void FormaEsercizio::ScriviErrati() {
+  EtichettaErrati.setCaption(stringhe().TestoErrati + stringhe().Spazio +
+                             platform::leadingBlank(stato().ContaErrati));
+}
+
+void FormaEsercizio::SegnaGiusto(const Passo& primaDellEtichetta) {
+  ImgSi.setVisible(true);
+  ImgNo.setVisible(false);
+  stato().ContaEsatti = platform::toInt16(stato().ContaEsatti + 1);
+  RiproduciSuono(ambiente(), QStringLiteral("si"));
+  if (primaDellEtichetta) primaDellEtichetta();
+  ScriviEsatti();
+  Annuncia(ImgSi, EtichettaEsatti);
+}
+
+void FormaEsercizio::SegnaSbagliato(const Passo& primaDelSuono) {
+  stato().ContaErrati = platform::toInt16(stato().ContaErrati + 1);
+  ScriviErrati();
+  ImgSi.setVisible(false);
+  ImgNo.setVisible(true);
+  Annuncia(ImgNo, EtichettaErrati);
+  if (primaDelSuono) primaDelSuono();
+  RiproduciSuono(ambiente(), QStringLiteral("no"));
+}
+
+void FormaEsercizio::Annuncia(const platform::Image& verdetto, const platform::Label& conteggio) {
+  announce(QStringLiteral("%1. %2").arg(verdetto.toolTip(), conteggio.caption().simplified()));
+}
+
+void FormaEsercizio::AzzeraConteggio() {
+  stato().ContaEsatti = 0;
+  stato().ContaErrati = 0;
+  ScriviEsatti();
+  ScriviErrati();
+}
+
+void FormaEsercizio::ApriPannelloStampa() { PictureStampa.cover(); }
+
+void FormaEsercizio::ChiudiPannelloStampa() { PictureStampa.setVisible(false); }
+
+}  // namespace somme

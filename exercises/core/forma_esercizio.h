@@ -1,0 +1,55 @@
+#pragma once
+
+#include "app/shared/forma.h"
+#include "platform/forms/controls/button.h"
+#include "platform/forms/controls/image.h"
+#include "platform/forms/controls/label.h"
+#include "platform/forms/controls/menu_item.h"
+#include "platform/forms/controls/picture_box.h"
+#include "platform/forms/controls/rich_text_box.h"
+
+namespace somme {
+
+// The cycle that all exercise forms share: the two counters and their labels, the verdict in
+// picture and sound, the record of solved cases with its print panel, the way out. What is asked,
+// how the answer comes and how it is judged is the business of the families.
+class FormaEsercizio : public Forma {
+ public:
+  // menu: the form that `mnuEsci` goes back to.
+  FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno, std::string_view menu);
+
+  platform::Label EtichettaEsatti{*this};
+  platform::Label EtichettaErrati{*this};
+  platform::Image ImgSi{*this};
+  platform::Image ImgNo{*this};
+  platform::PictureBox PictureStampa{*this};
+  platform::RichTextBox TestoStampa{*this};
+  platform::Button CommandStampa{*this};
+  platform::Button CommandChiudi{*this};
+  platform::MenuItem MenuAzzera{*this};
+  platform::MenuItem mnuStampa{*this};
+  platform::MenuItem mnuEsci{*this};
+
+ protected:
+  void ScriviEsatti();
+  void ScriviErrati();
+
+  using Passo = std::function<void()>;
+  // A right answer: picture, count, sound, whatever a form does before its label, the label.
+  void SegnaGiusto(const Passo& primaDellEtichetta = {});
+  // A wrong answer: count and label, picture, whatever a form does before the sound, the sound.
+  void SegnaSbagliato(const Passo& primaDelSuono = {});
+
+  // Both counters to 0; the case stays as it is.
+  void AzzeraConteggio();
+  virtual void ApriPannelloStampa();
+  virtual void ChiudiPannelloStampa();
+
+ private:
+  // Tells assistive technology what the pictures show.
+  void Annuncia(const platform::Image& verdetto, const platform::Label& conteggio);
+
+  std::string_view menu_;
+};
+
+}  // namespace somme

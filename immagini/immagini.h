@@ -1,0 +1,15 @@
+#pragma once
+
+namespace somme {
+
+// Makes the pictures readable as ":/immagini/<name>.svg". The pictures lie in a static library,
+// from which a program gets them only by this call. To be called before the first form is made; a
+// further call does nothing.
+void PreparaImmagini();
+
+// The hot spot of puntatore.svg, the tip of the forefinger: in pixels from the top left corner,
+// where the picture is 32 by 32.
+inline constexpr int PuntaX = 10;
+inline constexpr int PuntaY = 1;
+
+}  // namespace somme

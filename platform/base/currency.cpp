@@ -1,0 +1,13 @@
+#include "platform/base/currency.h"
+
+#include "platform/base/numbers.h"
+
+namespace platform {
+
+Currency Currency::fromDouble(double value) {
+  Currency result;
+  result.tenThousandths_ = roundHalfEven(value * scale);
+  return result;
+}
+
+}  // namespace platform

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace platform {
+
+// One value, without remembering the file: see ProfileReader for the rules and for many values.
+// Throws RunTimeError(FileNotFound) where there is no file of that name.
+[[nodiscard]] QString readProfileValue(const QString& path, const QString& section,
+                                       const QString& key);
+
+// Replaces or adds one value as ProfileText::withValue tells, making the file where there is none.
+// The new file takes the old one's place in one step, so that a crash leaves either of them whole.
+// Where it cannot be written, nothing happens and nobody is told: all that is lost is a choice.
+void writeProfileValue(const QString& path, const QString& section, const QString& key,
+                       const QString& value);
+
+}  // namespace platform

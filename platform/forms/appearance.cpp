@@ -1,0 +1,41 @@
+#include "platform/forms/appearance.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+#include "platform/forms/accessible.h"
+#include "platform/forms/fonts.h"
+
+namespace platform {
+
+namespace {
+
+constexpr double kMenuPixels = 16;
+
+QPalette lightPalette() {
+  QPalette palette(QColor(240, 240, 240));
+  palette.setColor(QPalette::Window, QColor(245, 245, 245));
+  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::AlternateBase, QColor(245, 245, 245));
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::Button, QColor(238, 240, 244));
+  palette.setColor(QPalette::ButtonText, Qt::black);
+  palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
+  palette.setColor(QPalette::ToolTipText, Qt::black);
+  palette.setColor(QPalette::Highlight, QColor(10, 60, 150));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  return palette;
+}
+
+}  // namespace
+
+void applyAppearance() {
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setPalette(lightPalette());
+  QApplication::setFont(fontOf({}, kMenuPixels));
+  installAccessibility();
+}
+
+}  // namespace platform

@@ -1,0 +1,163 @@
+#include "platform/forms/control.h"
+
+#include <QApplication>
+#include <QWidget>
+
+#include "platform/forms/form.h"
+#include "platform/forms/runtime.h"
+#include "platform/forms/text_block.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int kOwnPointer = 99;
+
+}  // namespace
+
+Control::Control(ControlHost& host) : host_(host) {
+  host.declare(*this);
+}
+
+Control::~Control() {
+  delete widget_.data();
+}
+
+Runtime& Control::runtime() const {
+  return form().runtime();
+}
+
+void Control::build(QWidget* parent, const QString& name, int index, const TwipsRect& place,
+                    const Look& look) {
+  name_ = index < 0 ? name : QStringLiteral("%1(%2)").arg(name).arg(index);
+  index_ = index;
+  place_ = place;
+  look_ = look;
+  points_ = look.font.size;
+  fore_ = look.fore.value_or(kBlack);
+  back_ = look.back.value_or(kWhite);
+  visible_ = !look.hidden;
+  enabled_ = !look.disabled;
+  widget_ = create(parent);
+  built_ = true;
+  if (widget_) {
+    widget_->setObjectName(name_);
+    if (!enabled_) widget_->setEnabled(false);
+    if (!visible_) widget_->hide();
+    setMousePointer(kOwnPointer);
+  }
+  setToolTip(QString::fromUtf8(look.toolTip.data(), qsizetype(look.toolTip.size())));
+  if (hasCaption()) {
+    setCaption(QString::fromUtf8(look.caption.data(), qsizetype(look.caption.size())));
+  }
+}
+
+void buildCopy(Control& copy, const Control& original, int index) {
+  Look look = original.look();
+  look.hidden = true;
+  look.fore = original.foreColor();
+  look.back = look.back ? std::optional(original.backColor()) : std::nullopt;
+  const QString& name = original.name();
+  QWidget* parent = original.widget()->parentWidget();
+  copy.build(parent, name.left(name.indexOf(u'(')), index, original.designPlace(), look);
+  original.form().adopt(copy);
+}
+
+void Control::applyScale() {
+  if (!widget_) return;
+  widget_->setGeometry(scale().pixels(place_));
+  applyLook();
+}
+
+void Control::setPlace(double left, double top, double width, double height) {
+  place_ = {left / scale().x, top / scale().y, width / scale().x, height / scale().y};
+  if (widget_) widget_->setGeometry(scale().pixels(place_));
+}
+
+void Control::setLeft(double twips) {
+  setPlace(twips, top(), width(), height());
+}
+void Control::setTop(double twips) {
+  setPlace(left(), twips, width(), height());
+}
+void Control::setWidth(double twips) {
+  setPlace(left(), top(), twips, height());
+}
+void Control::setHeight(double twips) {
+  setPlace(left(), top(), width(), twips);
+}
+
+void Control::setVisible(bool visible) {
+  visible_ = visible;
+  if (widget_) widget_->setVisible(visible);
+}
+
+void Control::setEnabled(bool enabled) {
+  enabled_ = enabled;
+  if (widget_) widget_->setEnabled(enabled);
+}
+
+void Control::setCaption(const QString& /*caption*/) {}
+
+void Control::setToolTip(const QString& toolTip) {
+  toolTip_ = toolTip;
+  if (widget_) applyLook();
+}
+
+void Control::setBackColor(Rgb colour) {
+  if (back_ == colour) return;
+  back_ = colour;
+  if (widget_) applyLook();
+}
+
+void Control::setForeColor(Rgb colour) {
+  if (fore_ == colour) return;
+  fore_ = colour;
+  if (widget_) applyLook();
+}
+
+double Control::fontSize() const {
+  return points_ * scale().font();
+}
+
+void Control::setFontSize(double points) {
+  points_ = points / scale().font();
+  if (widget_) applyLook();
+}
+
+FontSpec Control::fontSpec() const {
+  return {look_.font.face, points_, look_.font.bold};
+}
+
+void Control::setMousePointer(int pointer) {
+  pointer_ = pointer;
+  if (!widget_) return;
+  if (pointer == kOwnPointer) {
+    widget_->setCursor(runtime().pointer());
+  } else {
+    widget_->setCursor(Qt::ArrowCursor);
+  }
+}
+
+void Control::setFocus() {
+  if (!widget_ || !enabled_ || !visible_) return;
+  if (form().isCovered(*this)) {
+    form().setFocusBelow(*this);
+    return;
+  }
+  if (widget_->isVisible() && widget_->isEnabled()) widget_->setFocus(Qt::OtherFocusReason);
+}
+
+bool Control::hasFocus() const {
+  return widget_ && widget_->hasFocus();
+}
+
+void Control::bringToFront() {
+  if (widget_) widget_->raise();
+}
+
+void Control::raiseEvent(const std::function<void()>& handler) const {
+  if (handler) form().run(handler);
+}
+
+}  // namespace platform

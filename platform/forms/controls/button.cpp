@@ -1,0 +1,52 @@
+#include "platform/forms/controls/button.h"
+
+#include "platform/forms/controls/button_widget.h"
+#include "platform/forms/fonts.h"
+#include "platform/forms/form.h"
+#include "platform/forms/runtime.h"
+
+namespace platform {
+
+QWidget* Button::create(QWidget* parent) {
+  auto* button = new ButtonWidget(parent, runtime().pictures(), [this] { click(); });
+  button->setPicture(QString::fromUtf8(look().picture.data(), qsizetype(look().picture.size())));
+  return button;
+}
+
+bool Button::isLive() const {
+  return widget() != nullptr && widget()->isEnabled() && widget()->isVisible() &&
+         !form().isCovered(*this);
+}
+
+void Button::click() {
+  if (isLive()) raiseEvent(clicked_);
+}
+
+void Button::setCaption(const QString& caption) {
+  caption_ = caption;
+  if (auto* button = static_cast<ButtonWidget*>(widget())) {
+    button->setCaption(caption);
+    applyLook();
+  }
+}
+
+QChar Button::accessKey() const {
+  return accessKeyOf(caption_);
+}
+
+void Button::keysLetGo() {
+  if (auto* button = static_cast<ButtonWidget*>(widget())) button->letGo();
+}
+
+void Button::applyLook() {
+  auto* button = static_cast<ButtonWidget*>(widget());
+  button->setFont(fontOf(fontSpec(), fontPixels()));
+  button->setColours(toColor(foreColor()),
+                     look().back ? std::optional(toColor(backColor())) : std::nullopt);
+  button->setToolTip(toolTip());
+  const QString words = withoutMnemonic(caption_).trimmed();
+  const QString spoken = words.isEmpty() ? toolTip() : words;
+  if (button->accessibleName() != spoken) button->setAccessibleName(spoken);
+}
+
+}  // namespace platform

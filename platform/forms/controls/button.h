@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/forms/control.h"
+
+namespace platform {
+
+class ButtonWidget;
+
+// A button with a caption, a picture, or both, plain or on a colour. It is clicked by Enter at the
+// press, by Space at the release, by its access key at the press, by assistive technology, and by
+// the mouse at the release inside: at once, and only while it is enabled and shown.
+class Button : public Control {
+ public:
+  using Control::Control;
+
+  void onClick(std::function<void()> handler) { clicked_ = std::move(handler); }
+  // Acts as a press of the button does.
+  void click();
+  // Whether a press could act: enabled, on the screen and not below a covering panel.
+  [[nodiscard]] bool isLive() const;
+
+  [[nodiscard]] bool hasCaption() const override { return true; }
+  [[nodiscard]] QString caption() const override { return caption_; }
+  void setCaption(const QString& caption) override;
+  [[nodiscard]] QChar accessKey() const override;
+  void access() override { click(); }
+  void keysLetGo() override;
+
+ protected:
+  [[nodiscard]] QWidget* create(QWidget* parent) override;
+  void applyLook() override;
+
+ private:
+  QString caption_;
+  std::function<void()> clicked_;
+};
+
+}  // namespace platform

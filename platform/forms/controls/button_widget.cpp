@@ -1,0 +1,140 @@
+#include "platform/forms/controls/button_widget.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "platform/forms/pictures.h"
+
+namespace platform {
+
+namespace {
+
+constexpr QColor kPlainFace(238, 240, 244);
+constexpr double kCorner = 6;
+constexpr double kFocusRing = 3;       // pixels, dark and light each
+constexpr double kDisabledInk = 0.45;  // of plain buttons
+
+bool isEnter(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+}  // namespace
+
+ButtonWidget::ButtonWidget(QWidget* parent, Pictures& pictures, std::function<void()> clicked)
+    : QAbstractButton(parent), pictures_(pictures), clicked_(std::move(clicked)) {
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+void ButtonWidget::setCaption(const QString& caption) {
+  caption_ = caption;
+  update();
+}
+
+void ButtonWidget::setColours(QColor ink, std::optional<QColor> ground) {
+  ink_ = ink;
+  ground_ = ground;
+  update();
+}
+
+void ButtonWidget::letGo() {
+  if (isDown()) setDown(false);
+}
+
+void ButtonWidget::keyPressEvent(QKeyEvent* event) {
+  if (isEnter(*event)) {
+    clicked_();
+  } else if (event->key() == Qt::Key_Space) {
+    setDown(true);
+  } else {
+    // Not QAbstractButton's: its arrow keys move among buttons, which no form asks for.
+    QWidget::keyPressEvent(event);
+  }
+}
+
+// Space acts where its release arrives, also when the focus came here after the press.
+void ButtonWidget::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Space) {
+    QWidget::keyReleaseEvent(event);
+    return;
+  }
+  setDown(false);
+  clicked_();
+}
+
+void ButtonWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) setDown(true);
+}
+
+void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !isDown()) return;
+  setDown(false);
+  if (rect().contains(event->position().toPoint())) clicked_();
+}
+
+void ButtonWidget::focusOutEvent(QFocusEvent* event) {
+  letGo();
+  QAbstractButton::focusOutEvent(event);
+}
+
+// The picture stands beside the words on a wide button and above them on a square one.
+ButtonWidget::Rooms ButtonWidget::rooms() const {
+  const double margin = std::max(3.0, std::min(width(), height()) * 0.08);
+  const QRectF inner = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+  if (picture_.isEmpty()) return {{}, inner.toRect()};
+  if (withoutMnemonic(caption_).trimmed().isEmpty()) return {inner, {}};
+  if (width() > height() * 1.5) {
+    const double side = std::min(inner.height(), inner.width() * 0.45);
+    const QRectF picture(inner.left(), inner.center().y() - side / 2, side, side);
+    return {picture, inner.adjusted(side + margin, 0, 0, 0).toRect()};
+  }
+  const double side = inner.height() * 0.58;
+  return {QRectF(inner.left(), inner.top(), inner.width(), side),
+          inner.adjusted(0, side + margin / 2, 0, 0).toRect()};
+}
+
+void ButtonWidget::paintFace(QPainter& painter, const QColor& face) const {
+  const QRectF body = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.setPen(QPen(isEnabled() ? QColor(70, 70, 70) : QColor(150, 150, 150), 1));
+  painter.setBrush(isDown() ? face.darker(118) : face);
+  painter.drawRoundedRect(body, kCorner, kCorner);
+  if (!isEnabled() || isDown()) return;
+  // A raised edge: light above, shade below.
+  QPainterPath clip;
+  clip.addRoundedRect(body.adjusted(1, 1, -1, -1), kCorner - 1, kCorner - 1);
+  painter.save();
+  painter.setClipPath(clip);
+  painter.fillRect(QRectF(0, 0, width(), 3), QColor(255, 255, 255, 150));
+  painter.fillRect(QRectF(0, height() - 4, width(), 4), QColor(0, 0, 0, 55));
+  painter.restore();
+}
+
+// A light ring inside a dark one stands out on a face of any colour.
+void ButtonWidget::paintFocus(QPainter& painter) const {
+  painter.setBrush(Qt::NoBrush);
+  const double half = kFocusRing / 2;
+  painter.setPen(QPen(QColor(10, 20, 90), kFocusRing));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), kCorner, kCorner);
+  const double inner = kFocusRing + 1;
+  painter.setPen(QPen(Qt::white, 2));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(inner, inner, -inner, -inner), kCorner - 2,
+                          kCorner - 2);
+}
+
+void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor face = ground_.value_or(kPlainFace);
+  paintFace(painter, face);
+  if (hasFocus()) paintFocus(painter);
+
+  // What a coloured button says stays readable when the button is spent; a plain one fades.
+  if (!isEnabled() && !ground_) painter.setOpacity(kDisabledInk);
+  const Rooms room = rooms();
+  if (!picture_.isEmpty()) pictures_.paint(painter, picture_, room.picture);
+  block_.set(caption_, font(), room.text.size(), Align::Centre, true);
+  block_.paint(painter, room.text, ink_, face);
+}
+
+}  // namespace platform

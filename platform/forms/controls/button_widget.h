@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <functional>
+#include <optional>
+
+#include "platform/forms/text_block.h"
+
+namespace platform {
+
+class Pictures;
+
+// The widget of a button: paints it and turns mouse and keys into clicks. Keys come here already
+// freed of repeats.
+class ButtonWidget final : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  ButtonWidget(QWidget* parent, Pictures& pictures, std::function<void()> clicked);
+
+  void setCaption(const QString& caption);
+  void setPicture(const QString& name) { picture_ = name; }
+  // ground: the colour of the face; without one the button is plain.
+  void setColours(QColor ink, std::optional<QColor> ground);
+  // A click from outside of mouse and keys.
+  void press() { clicked_(); }
+  // Takes a held key or mouse button as let go without effect.
+  void letGo();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  struct Rooms {
+    QRectF picture;
+    QRect text;
+  };
+  [[nodiscard]] Rooms rooms() const;
+  void paintFace(QPainter& painter, const QColor& face) const;
+  void paintFocus(QPainter& painter) const;
+
+  Pictures& pictures_;
+  std::function<void()> clicked_;
+  QString caption_;
+  QString picture_;
+  QColor ink_ = Qt::black;
+  std::optional<QColor> ground_;
+  TextBlock block_;
+};
+
+}  // namespace platform

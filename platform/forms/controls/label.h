@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/forms/control.h"
+#include "platform/forms/text_block.h"
+
+class QLabel;
+
+namespace platform {
+
+// A text on the form: with a ground of its own or transparent, with or without a border. The text
+// wraps or takes a smaller size rather than be cut.
+class Label : public Control {
+ public:
+  using Control::Control;
+
+  [[nodiscard]] bool hasCaption() const override { return true; }
+  [[nodiscard]] QString caption() const override;
+  void setCaption(const QString& caption) override;
+  [[nodiscard]] int layer() const override { return 0; }
+
+ protected:
+  [[nodiscard]] QWidget* create(QWidget* parent) override;
+  void applyLook() override;
+};
+
+}  // namespace platform

@@ -1,0 +1,46 @@
+#include "platform/forms/controls/rich_text_box.h"
+
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+#include "platform/forms/fonts.h"
+#include "platform/forms/text_block.h"
+
+namespace platform {
+
+QWidget* RichTextBox::create(QWidget* parent) {
+  auto* box = new QPlainTextEdit(parent);
+  box->setReadOnly(true);
+  box->setUndoRedoEnabled(false);
+  box->setTabChangesFocus(true);
+  box->setContextMenuPolicy(Qt::NoContextMenu);
+  box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  return box;
+}
+
+void RichTextBox::applyLook() {
+  auto* box = static_cast<QPlainTextEdit*>(widget());
+  box->setFont(fontOf(fontSpec(), fontPixels()));
+  box->setToolTip(toolTip());
+  box->setAccessibleName(toolTip());
+  QPalette palette = box->palette();
+  palette.setColor(QPalette::Base, toColor(backColor()));
+  palette.setColor(QPalette::Text, toColor(foreColor()));
+  box->setPalette(palette);
+}
+
+void RichTextBox::setText(const QString& text) {
+  text_ = text;
+  static_cast<QPlainTextEdit*>(widget())->setPlainText(text);
+}
+
+void RichTextBox::append(const QString& text) {
+  text_ += text;
+  auto* box = static_cast<QPlainTextEdit*>(widget());
+  QTextCursor end(box->document());
+  end.movePosition(QTextCursor::End);
+  end.insertText(text);
+  box->verticalScrollBar()->setValue(box->verticalScrollBar()->maximum());
+}
+
+}  // namespace platform

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/base/time_source.h"
+#include "platform/forms/control.h"
+
+namespace platform {
+
+// A timer of a form: its ticks run through the form's gate, and stop for ever when the form is
+// unloaded.
+class Timer : public Control {
+ public:
+  explicit Timer(ControlHost& host);
+  ~Timer() override;
+
+  void onTick(std::function<void()> handler) { tick_ = std::move(handler); }
+  // Milliseconds; the count starts anew.
+  void setInterval(int milliseconds);
+  [[nodiscard]] int interval() const { return interval_; }
+  void setEnabled(bool enabled) override;
+
+ protected:
+  [[nodiscard]] QWidget* create(QWidget* parent) override;
+
+ private:
+  void tick();
+
+  std::function<void()> tick_;
+  std::unique_ptr<Ticker> ticker_;
+  int interval_ = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QFont>
+
+#include "platform/forms/design.h"
+
+namespace platform {
+
+// The font of a design row at so many logical pixels. Tahoma and Arial where they are installed;
+// else Andika, a face made for young readers, and Liberation Sans, which has Arial's widths.
+[[nodiscard]] QFont fontOf(const FontSpec& spec, double pixels);
+
+// How far the ink of any word that the program can show reaches above and below the base line, in
+// pixels: accents on capitals and descenders. It is less than the font's own line height, which in
+// faces for beginners is very generous.
+struct Ink {
+  double above = 0;
+  double below = 0;
+  [[nodiscard]] double height() const { return above + below; }
+};
+[[nodiscard]] Ink inkOf(const QFont& font);
+
+}  // namespace platform

@@ -1,0 +1,220 @@
+#include "platform/forms/form.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <algorithm>
+
+#include "platform/forms/controls/button.h"
+#include "platform/forms/controls/menu_item.h"
+#include "platform/forms/menu_bar.h"
+#include "platform/forms/runtime.h"
+
+namespace platform {
+
+namespace {
+
+QString toText(std::string_view text) {
+  return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+// The rows of all tables, a later one with the same name and index in the place of the earlier.
+std::vector<Row> mergedRows(const FormDesign& design) {
+  std::vector<Row> rows;
+  for (const std::span<const Row> table : design.tables) {
+    for (const Row& row : table) {
+      const auto same = std::find_if(rows.begin(), rows.end(), [&row](const Row& other) {
+        return other.name == row.name && other.index == row.index;
+      });
+      if (same == rows.end()) {
+        rows.push_back(row);
+      } else {
+        *same = row;
+      }
+    }
+  }
+  return rows;
+}
+
+}  // namespace
+
+Form::Form(Runtime& runtime, const FormDesign& design)
+    : runtime_(runtime),
+      design_(design),
+      name_(toText(design.name)),
+      caption_(toText(design.caption)) {}
+
+Form::~Form() {
+  delete page_.data();
+}
+
+void Form::build(QWidget* parent) {
+  page_ = new Page(*this, parent);
+  page_->setObjectName(name_);
+  page_->hide();
+  buildRows();
+  setTabOrder();
+  built_ = true;
+}
+
+void Form::buildRows() {
+  const std::vector<Row> rows = mergedRows(design_);
+  controls_.reserve(rows.size());
+  for (const Row& row : rows) {
+    Control& control = row.control(*this, row.index);
+    control.build(parentFor(row), toText(row.name), row.index, row.place, row.look);
+    controls_.push_back(&control);
+  }
+  // What has a window of its own lies over what is painted, whatever the order of the rows.
+  for (const int layer : {1, 2}) {
+    for (Control* control : controls_) {
+      if (control->layer() == layer) control->bringToFront();
+    }
+  }
+}
+
+QWidget* Form::parentFor(const Row& row) const {
+  if (row.look.in.empty()) return page_->canvas();
+  const QString container = toText(row.look.in);
+  for (const Control* control : controls_) {
+    if (control->name() == container) return control->container();
+  }
+  return page_->canvas();
+}
+
+void Form::setTabOrder() {
+  QWidget* before = nullptr;
+  for (const Control* control : controls_) {
+    QWidget* widget = control->widget();
+    if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
+    if (before != nullptr) QWidget::setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+void Form::adopt(Control& control) {
+  controls_.push_back(&control);
+  control.applyScale();
+  QWidget* widget = control.widget();
+  if (widget == nullptr || control.layer() == 2) return;
+  for (const Control* other : controls_) {
+    if (other->layer() > control.layer() && other->widget() != nullptr &&
+        other->widget()->parentWidget() == widget->parentWidget()) {
+      widget->stackUnder(other->widget());
+      return;
+    }
+  }
+}
+
+std::vector<const Control*> Form::withoutRow() const {
+  std::vector<const Control*> result;
+  std::copy_if(declared_.begin(), declared_.end(), std::back_inserter(result),
+               [](const Control* control) { return !control->isBuilt(); });
+  return result;
+}
+
+void Form::setCaption(const QString& caption) {
+  caption_ = caption;
+  runtime_.window().formChanged(*this);
+}
+
+void Form::setIcon(const QIcon& icon) {
+  icon_ = icon;
+  runtime_.window().formChanged(*this);
+}
+
+void Form::paintGradient() {
+  page_->canvas()->keepGradient();
+}
+
+void Form::takeSize() {
+  if (!isLoaded() || page_ == nullptr) return;
+  run([this] { onResize(); }, Gate::Cases::DoNotMatter);
+}
+
+void Form::layOut() {
+  const Scale scale = scaleFor(page_->canvas()->size(), {design_.width, design_.height});
+  if (laidOut_ && scale == scale_) return;
+  scale_ = scale;
+  laidOut_ = true;
+  for (Control* control : controls_) control->applyScale();
+}
+
+void Form::letEventsRun() {
+  runtime_.gate().wait([this] { runtime_.time().letEventsRun(); });
+}
+
+bool Form::run(const std::function<void()>& handler, Gate::Cases cases) {
+  return runtime_.gate().run(shared_from_this(), handler, cases);
+}
+
+void Form::dispose() {
+  unloaded_ = true;
+  if (page_) page_->hide();
+}
+
+void Form::cover(Control& panel) {
+  if (cover_ != &panel) focusBelow_ = QApplication::focusWidget();
+  cover_ = &panel;
+  panel.setPlace(0, 0, width(), height());
+  panel.bringToFront();
+  panel.setVisible(true);
+  for (Control* control : controls_) {
+    QWidget* widget = control->widget();
+    if (widget == nullptr || !panel.container()->isAncestorOf(widget)) continue;
+    if (dynamic_cast<Button*>(control) != nullptr && control->isEnabled()) {
+      widget->setFocus(Qt::OtherFocusReason);
+      return;
+    }
+  }
+}
+
+void Form::uncover(Control& panel) {
+  if (cover_ != &panel) return;
+  cover_ = nullptr;
+  if (focusBelow_ && focusBelow_->isVisible() && focusBelow_->isEnabled()) {
+    focusBelow_->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+bool Form::isCovered(const Control& control) const {
+  if (cover_ == nullptr || control.widget() == nullptr) return false;
+  return cover_ != &control && !cover_->container()->isAncestorOf(control.widget());
+}
+
+bool Form::accessKey(QChar key) {
+  for (Control* control : controls_) {
+    if (control->accessKey() != key || !control->isEnabled() || isCovered(*control)) continue;
+    if (control->widget() == nullptr || !control->widget()->isVisible()) continue;
+    control->access();
+    return true;
+  }
+  if (!page_->hasMenuBar()) return false;
+  return static_cast<MenuBar*>(page_->menuBar())->accessKey(key);
+}
+
+bool Form::shortcut(const QKeySequence& keys) {
+  for (Control* control : controls_) {
+    auto* item = dynamic_cast<MenuItem*>(control);
+    if (item == nullptr || item->shortcut() != keys || !item->isEnabled()) continue;
+    item->click();
+    return true;
+  }
+  return false;
+}
+
+void Form::keysLetGo() {
+  for (Control* control : controls_) control->keysLetGo();
+}
+
+void Form::announce(const QString& sentence) {
+  QWidget* focus = QApplication::focusWidget();
+  if (described_ && described_ != focus) described_->setAccessibleDescription({});
+  described_ = focus;
+  if (focus != nullptr) focus->setAccessibleDescription(sentence);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  QAccessibleAnnouncementEvent event(page_, sentence);
+  QAccessible::updateAccessibility(&event);
+#endif
+}
+
+}  // namespace platform

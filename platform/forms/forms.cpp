@@ -1,0 +1,121 @@
+#include "platform/forms/forms.h"
+
+#include <QTimer>
+#include <algorithm>
+
+#include "platform/base/run_time_error.h"
+#include "platform/forms/form.h"
+#include "platform/forms/runtime.h"
+
+namespace platform {
+
+Forms::Forms(Runtime& runtime, Factory factory) : runtime_(runtime), factory_(std::move(factory)) {}
+
+Forms::~Forms() = default;
+
+std::shared_ptr<Form> Forms::find(std::string_view name) const {
+  const auto found = std::find_if(loaded_.begin(), loaded_.end(), [name](const auto& form) {
+    return form->design().name == name && !form->isLeaving();
+  });
+  return found == loaded_.end() ? nullptr : *found;
+}
+
+std::shared_ptr<Form> Forms::load(std::string_view name) {
+  if (std::shared_ptr<Form> form = find(name)) return form;
+  std::shared_ptr<Form> form = factory_(name);
+  if (!form) throw RunTimeError(RunTimeError::InvalidCall);
+  loaded_.push_back(form);
+  form->build(runtime_.window().pages());
+  form->page()->resize(runtime_.window().pages()->size());
+  const bool done = form->run([&form] { form->fireLoad(); }, Gate::Cases::DoNotMatter);
+  if (!done || form->isUnloaded()) throw Unwind{};
+  return form;
+}
+
+void Forms::show(std::string_view name) {
+  ++changing_;
+  std::shared_ptr<Form> form;
+  try {
+    form = load(name);
+  } catch (...) {
+    --changing_;
+    throw;
+  }
+  std::erase(shown_, form);
+  shown_.push_back(form);
+  ++pageNumber_;
+  runtime_.window().showPage(*form);
+  --changing_;
+  form->run([&form] { form->fireActivate(); }, Gate::Cases::DoNotMatter);
+  if (runtime_.gate().isClosed()) throw Unwind{};
+}
+
+void Forms::pass(Form& from, std::string_view to) {
+  const std::shared_ptr<Form> keep = from.shared_from_this();
+  from.leave();
+  show(to);
+  unload(from);
+}
+
+void Forms::unload(Form& form) {
+  if (form.isUnloaded()) return;
+  const std::shared_ptr<Form> keep = form.shared_from_this();
+  keep->run([&keep] { keep->fireUnload(); }, Gate::Cases::DoNotMatter);
+  const bool onScreen = current() == keep.get();
+  std::erase(shown_, keep);
+  std::erase(loaded_, keep);
+  gone_.push_back(keep);
+  if (onScreen && !shown_.empty() && !runtime_.gate().isClosed()) {
+    const std::shared_ptr<Form> below = shown_.back();
+    ++pageNumber_;
+    runtime_.window().showPage(*below);
+    activateLater(below);
+  }
+  keep->dispose();
+  bury();
+}
+
+void Forms::activateLater(const std::shared_ptr<Form>& form) {
+  QTimer::singleShot(0, form->page(), [this, weak = std::weak_ptr(form)] {
+    const std::shared_ptr<Form> alive = weak.lock();
+    if (!alive || current() != alive.get()) return;
+    alive->run([&alive] { alive->fireActivate(); }, Gate::Cases::DoNotMatter);
+  });
+}
+
+Form& Forms::loaded(std::string_view name) {
+  return *load(name);
+}
+
+Form* Forms::current() const {
+  return shown_.empty() ? nullptr : shown_.back().get();
+}
+
+std::vector<std::shared_ptr<Form>> Forms::all() const {
+  return loaded_;
+}
+
+void Forms::closeCurrent() {
+  if (Form* form = current()) unload(*form);
+}
+
+// The last handler of a form may have been called from one of its own widgets, so that nothing is
+// destroyed before control is back in an event loop.
+void Forms::bury() {
+  if (burying_ || gone_.empty()) return;
+  burying_ = true;
+  QTimer::singleShot(0, &runtime_.window(), [this] {
+    burying_ = false;
+    std::erase_if(gone_, [this](const std::shared_ptr<Form>& form) {
+      return !runtime_.gate().isRunning(*form);
+    });
+  });
+}
+
+void Forms::clear() {
+  shown_.clear();
+  gone_.clear();
+  loaded_.clear();
+}
+
+}  // namespace platform

@@ -1,0 +1,59 @@
+#include "platform/forms/gate.h"
+
+#include <algorithm>
+
+#include "platform/base/run_time_error.h"
+#include "platform/forms/form.h"
+
+namespace platform {
+
+bool Gate::run(const std::shared_ptr<Form>& form, const std::function<void()>& handler,
+               Cases cases) {
+  if (closed_ || form->isUnloaded()) return false;
+  frames_.push_back({form, cases});
+  bool finished = false;
+  try {
+    handler();
+    finished = true;
+  } catch (const Unwind&) {
+    // The wait that threw it has told that there is nothing left to do here.
+  } catch (const RunTimeError& error) {
+    onError_(error);
+  }
+  leave();
+  return finished;
+}
+
+void Gate::leave() {
+  const std::shared_ptr<Form> form = std::move(frames_.back().form);
+  frames_.pop_back();
+  if (form->isUnloaded() && !isRunning(*form)) onIdle_();
+}
+
+void Gate::wait(const std::function<void()>& work) {
+  if (frames_.empty()) {
+    work();
+    return;
+  }
+  const std::shared_ptr<Form> form = frames_.back().form;
+  const int caseNumber = form->caseNumber();
+  work();
+  const bool replaced = frames_.back().cases == Cases::Matter && form->caseNumber() != caseNumber;
+  if (closed_ || form->isUnloaded() || replaced) throw Unwind{};
+}
+
+bool Gate::isRunning(const Form& form) const {
+  return std::any_of(frames_.begin(), frames_.end(),
+                     [&form](const Frame& frame) { return frame.form.get() == &form; });
+}
+
+Gate::AcrossCases::AcrossCases(Gate& gate)
+    : gate_(gate), before_(gate.frames_.empty() ? Cases::Matter : gate.frames_.back().cases) {
+  if (!gate_.frames_.empty()) gate_.frames_.back().cases = Cases::DoNotMatter;
+}
+
+Gate::AcrossCases::~AcrossCases() {
+  if (!gate_.frames_.empty()) gate_.frames_.back().cases = before_;
+}
+
+}  // namespace platform

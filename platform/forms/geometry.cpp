@@ -1,0 +1,41 @@
+#include "platform/forms/geometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+constexpr double kMostTwipsAcross = 32000;
+constexpr double kMostTwipsDown = 24000;
+
+int rounded(double value) {
+  return static_cast<int>(std::lround(value));
+}
+
+}  // namespace
+
+QRect Scale::pixels(const TwipsRect& design) const {
+  const int left = rounded(design.left * x / twipsPerPixel);
+  const int top = rounded(design.top * y / twipsPerPixel);
+  const int right = rounded((design.left + design.width) * x / twipsPerPixel);
+  const int bottom = rounded((design.top + design.height) * y / twipsPerPixel);
+  return {left, top, std::max(0, right - left), std::max(0, bottom - top)};
+}
+
+QSize clientPixels(QSize available, QSizeF designTwips) {
+  const double shape = designTwips.width() / designTwips.height();
+  const int tallest = rounded(available.width() / shape);
+  return {std::max(1, available.width()), std::clamp(tallest, 1, std::max(1, available.height()))};
+}
+
+Scale scaleFor(QSize clientPixels, QSizeF designTwips) {
+  const double width = std::max(1, clientPixels.width());
+  const double height = std::max(1, clientPixels.height());
+  const double twips =
+      std::min({kTwipsPerPixel, kMostTwipsAcross / width, kMostTwipsDown / height});
+  return {width * twips / designTwips.width(), height * twips / designTwips.height(), twips};
+}
+
+}  // namespace platform

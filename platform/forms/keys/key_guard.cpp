@@ -1,0 +1,234 @@
+#include "platform/forms/keys/key_guard.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTimerEvent>
+#include <QWindow>
+#include <algorithm>
+#include <chrono>
+
+#include "platform/forms/form.h"
+#include "platform/forms/keys/keyboard_state.h"
+#include "platform/forms/runtime.h"
+
+namespace platform {
+
+namespace {
+
+// What takes a press that no release belongs to.
+constexpr int kNobody = -1;
+constexpr int kElsewhere = -2;
+
+KeyId keyOf(const QKeyEvent& event) {
+  return KeyId::of(event.nativeScanCode(), std::uint32_t(event.key()));
+}
+
+std::chrono::milliseconds now() {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(
+      std::chrono::steady_clock::now().time_since_epoch());
+}
+
+KeyInput inputOf(const QKeyEvent& event) {
+  return {.id = keyOf(event),
+          .flaggedRepeat = event.isAutoRepeat(),
+          .stamp = std::chrono::milliseconds(event.timestamp()),
+          .arrival = now()};
+}
+
+// A held key may go on writing and moving in a text box, as everywhere.
+bool mayRepeat(const QKeyEvent& event) {
+  if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) == nullptr) return false;
+  switch (event.key()) {
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+      return true;
+    default:
+      return event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+  }
+}
+
+bool isModifier(int key) {
+  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
+         key == Qt::Key_AltGr || key == Qt::Key_Meta;
+}
+
+}  // namespace
+
+KeyGuard::KeyGuard(Runtime& runtime) : runtime_(runtime), state_(askForRepeatMarks()) {
+  qApp->installEventFilter(this);
+  focus_ = QGuiApplication::focusWindow();
+  connect(qApp, &QGuiApplication::focusWindowChanged, this, &KeyGuard::windowChanged);
+}
+
+KeyGuard::~KeyGuard() = default;
+
+bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      // Qt's own shortcuts and access keys repeat while a key is held; the guard works them.
+      event->accept();
+      return true;
+    case QEvent::KeyPress:
+      return watched->isWindowType() &&
+             keyPress(static_cast<QWindow&>(*watched), static_cast<QKeyEvent&>(*event));
+    case QEvent::KeyRelease:
+      return watched->isWindowType() &&
+             keyRelease(static_cast<QWindow&>(*watched), static_cast<QKeyEvent&>(*event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      return watched->isWindowType() &&
+             mouse(static_cast<QWindow&>(*watched), static_cast<QMouseEvent&>(*event));
+    default:
+      return false;
+  }
+}
+
+bool KeyGuard::isMainWindow(const QWindow& window) const {
+  return &window == runtime_.window().windowHandle();
+}
+
+// Who gets a press in this window: the page of the main window, or the window itself. A release
+// goes on only to the same.
+int KeyGuard::destinationOf(const QWindow& window) const {
+  if (QApplication::activePopupWidget() != nullptr) return kElsewhere;
+  if (isMainWindow(window)) return runtime_.forms().pageNumber();
+  return kElsewhere - 1 - int(window.winId() % 100000);
+}
+
+// A page that is being left takes no key, and neither does a box or dialog before every key that
+// was held at its opening has been let go.
+bool KeyGuard::isBlocked(const QWindow& window) {
+  if (isMainWindow(window)) return runtime_.forms().isChanging();
+  if (!state_.anyHeldOver()) return false;
+  if (const auto down = keysDownNow()) state_.heldOver(*down, now());
+  return state_.anyHeldOver();
+}
+
+bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
+  if (isModifier(event.key())) return false;
+  const bool blocked = isBlocked(window);
+  // With Alt or Ctrl it is the press that acts; no release belongs to it.
+  const bool command = (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) != 0;
+  const int destination = blocked || command ? kNobody : destinationOf(window);
+  const KeyState::PressResult press = state_.press(inputOf(event), destination);
+  if (press.verdict == KeyState::Press::Repeat) return blocked || !mayRepeat(event);
+  if (press.released) deliver(*press.released);
+  if (press.lost) letGo();
+  if (blocked) return true;
+  return command && worked(window, event);
+}
+
+bool KeyGuard::worked(QWindow& window, const QKeyEvent& event) {
+  Form* form = runtime_.forms().current();
+  if (form == nullptr || !isMainWindow(window)) return false;
+  const std::shared_ptr<Form> keep = form->shared_from_this();
+  const Qt::KeyboardModifiers modifiers =
+      event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+  if (modifiers == Qt::AltModifier) {
+    const QString text = event.text();
+    const QChar key = text.isEmpty() || !text[0].isPrint() ? QChar(event.key()) : text[0];
+    return key.isLetterOrNumber() && form->accessKey(key.toUpper());
+  }
+  if ((modifiers & Qt::ControlModifier) == 0) return false;
+  return form->shortcut(QKeySequence(QKeyCombination(modifiers, Qt::Key(event.key()))));
+}
+
+bool KeyGuard::keyRelease(QWindow& window, QKeyEvent& event) {
+  if (isModifier(event.key())) return false;
+  const KeyState::ReleaseResult release = state_.release(inputOf(event));
+  switch (release.verdict) {
+    case KeyState::Release::Accepted:
+      return release.destination != destinationOf(window);
+    case KeyState::Release::Deferred: {
+      const KeyId key = keyOf(event);
+      std::erase_if(heldBack_, [key](const auto& held) { return held.first == key; });
+      heldBack_.emplace_back(key, std::unique_ptr<QKeyEvent>(event.clone()));
+      schedule();
+      return true;
+    }
+    case KeyState::Release::Dropped:
+      break;
+  }
+  return true;
+}
+
+void KeyGuard::schedule() {
+  if (timer_ != 0) killTimer(timer_);
+  timer_ = 0;
+  if (const auto next = state_.nextDue()) {
+    const auto rest = std::max(std::chrono::milliseconds(0), *next - now());
+    timer_ = startTimer(rest, Qt::PreciseTimer);
+  }
+}
+
+void KeyGuard::timerEvent(QTimerEvent* event) {
+  if (event->timerId() == timer_) sendDue();
+}
+
+void KeyGuard::sendDue() {
+  const std::vector<HeldKey> due = state_.due(now());
+  schedule();
+  for (const HeldKey& released : due) deliver(released);
+}
+
+// Hands on a release that was held back, straight to where Qt would bring it.
+void KeyGuard::deliver(const HeldKey& released) {
+  const auto held = std::find_if(heldBack_.begin(), heldBack_.end(), [&](const auto& back) {
+    return back.first == released.id;
+  });
+  if (held == heldBack_.end()) return;
+  const std::unique_ptr<QKeyEvent> event = std::move(held->second);
+  heldBack_.erase(held);
+  const QWindow* window = QGuiApplication::focusWindow();
+  if (window == nullptr || destinationOf(*window) != released.destination) return;
+  if (QWidget* focus = QApplication::focusWidget()) QCoreApplication::sendEvent(focus, event.get());
+}
+
+// What is down is let go without effect.
+void KeyGuard::letGo() {
+  if (Form* form = runtime_.forms().current()) form->keysLetGo();
+}
+
+// The keyboard went to another window of ours, or out of the program. Whatever is down is let go
+// without effect; what is still down when the keyboard comes back does nothing until it goes up.
+void KeyGuard::windowChanged(QWindow* window) {
+  if (window == focus_) return;
+  const bool fromMain = focus_ && isMainWindow(*focus_);
+  focus_ = window;
+  const std::vector<HeldKey> held = state_.letGoAll();
+  heldBack_.clear();
+  schedule();
+  if (fromMain && !held.empty()) letGo();
+  for (const HeldKey& key : held) letGo_.push_back(key.id);
+  if (window == nullptr) return;
+  state_.heldOver(keysDownNow().value_or(letGo_), now());
+  letGo_.clear();
+}
+
+// While a form is being shown the old page takes no mouse, and the second half of a double click
+// does not reach a page that came up between the two.
+bool KeyGuard::mouse(QWindow& window, const QMouseEvent& event) {
+  if (!isMainWindow(window)) return false;
+  const int page = runtime_.forms().pageNumber();
+  if (event.type() == QEvent::MouseButtonRelease) {
+    const bool drop = dropRelease_;
+    dropRelease_ = false;
+    return drop;
+  }
+  const bool stale = event.type() == QEvent::MouseButtonDblClick && mousePage_ != page;
+  if (runtime_.forms().isChanging() || stale) {
+    dropRelease_ = true;
+    return true;
+  }
+  if (event.type() == QEvent::MouseButtonPress &&
+      !event.flags().testFlag(Qt::MouseEventCreatedDoubleClick)) {
+    mousePage_ = page;
+  }
+  return false;
+}
+
+}  // namespace platform

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "platform/forms/keys/key_state.h"
+
+class QKeyEvent;
+class QMouseEvent;
+class QWindow;
+
+namespace platform {
+
+class Runtime;
+
+// Stands in front of the windows of the program: makes one press and one release of each hold of a
+// key, works access keys and shortcuts once a hold, and drops what belongs to a page that has gone.
+// It sees each event at the window, before any widget; what it lets through goes Qt's usual way.
+class KeyGuard final : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit KeyGuard(Runtime& runtime);
+  ~KeyGuard() override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  bool keyPress(QWindow& window, QKeyEvent& event);
+  bool keyRelease(QWindow& window, QKeyEvent& event);
+  [[nodiscard]] bool isBlocked(const QWindow& window);
+  bool mouse(QWindow& window, const QMouseEvent& event);
+  bool worked(QWindow& window, const QKeyEvent& event);
+  [[nodiscard]] bool isMainWindow(const QWindow& window) const;
+  [[nodiscard]] int destinationOf(const QWindow& window) const;
+  void windowChanged(QWindow* window);
+  void letGo();
+  void deliver(const HeldKey& released);
+  void sendDue();
+  void schedule();
+
+  Runtime& runtime_;
+  KeyState state_;
+  QPointer<QWindow> focus_;
+  std::vector<KeyId> letGo_;  // since a window of ours last had the keyboard
+  std::vector<std::pair<KeyId, std::unique_ptr<QKeyEvent>>> heldBack_;  // releases
+  int timer_ = 0;
+  int mousePage_ = -1;        // the page that got the last press
+  bool dropRelease_ = false;  // of a mouse press that was dropped
+};
+
+}  // namespace platform

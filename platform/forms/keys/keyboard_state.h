@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "platform/forms/keys/key_state.h"
+
+namespace platform {
+
+// What the display server knows of the keyboard; today only X11's does.
+
+// How the repeats of a held key will show. Asks the server to send a release only when a key really
+// goes up, where it can be asked.
+[[nodiscard]] RepeatMarks askForRepeatMarks();
+
+// The keys that are down at this moment; nothing where the server cannot be asked.
+[[nodiscard]] std::optional<std::vector<KeyId>> keysDownNow();
+
+}  // namespace platform

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QMenuBar>
+
+namespace platform {
+
+// A menu bar inside the page, on every desktop. Its access keys are worked by the form, since the
+// toolkit's own fire again and again while a key is held.
+class MenuBar final : public QMenuBar {
+  Q_OBJECT
+
+ public:
+  explicit MenuBar(QWidget* parent);
+
+  // Acts as Alt with the key does: opens the menu, or triggers the item that has none.
+  bool accessKey(QChar key);
+};
+
+}  // namespace platform

@@ -1,0 +1,101 @@
+#include "platform/forms/page.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QResizeEvent>
+
+#include "platform/forms/form.h"
+#include "platform/forms/menu_bar.h"
+#include "platform/forms/text_block.h"
+
+namespace platform {
+
+Canvas::Canvas(Form& form, QWidget* parent) : QWidget(parent), form_(form) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void Canvas::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  const QRect exposed = event->rect();
+  if (gradient_.isEmpty()) {
+    painter.fillRect(exposed, toColor(form_.design().back));
+    return;
+  }
+  constexpr int kBands = 256;
+  const double band = double(gradient_.height()) / kBands;
+  const int first = std::max(0, int(exposed.top() / band));
+  const int last = std::min(kBands - 1, int(exposed.bottom() / band));
+  for (int i = first; i <= last; ++i) {
+    const int top = qRound(i * band);
+    const int bottom = qRound((i + 1) * band);
+    painter.fillRect(QRect(0, top, gradient_.width(), bottom - top), QColor(255, 255, 255 - i));
+  }
+  const QColor kLast(255, 255, 0);
+  if (exposed.right() >= gradient_.width()) {
+    painter.fillRect(QRect(gradient_.width(), exposed.top(),
+                           exposed.right() - gradient_.width() + 1, exposed.height()),
+                     kLast);
+  }
+  if (exposed.bottom() >= gradient_.height()) {
+    painter.fillRect(QRect(exposed.left(), gradient_.height(), exposed.width(),
+                           exposed.bottom() - gradient_.height() + 1),
+                     kLast);
+  }
+}
+
+// Tab goes round the controls of this form in the order of its design, and stays in a covering
+// panel while one is open.
+bool Canvas::focusNextPrevChild(bool next) {
+  const Control* cover = form_.covering();
+  const QWidget* room = cover != nullptr ? cover->container() : this;
+  QWidget* start = QApplication::focusWidget();
+  if (start == nullptr || !isAncestorOf(start)) start = this;
+  QWidget* widget = start;
+  do {
+    widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
+    if (room->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() &&
+        (widget->focusPolicy() & Qt::TabFocus) != 0) {
+      widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+      return true;
+    }
+  } while (widget != start);
+  return false;
+}
+
+Page::Page(Form& form, QWidget* parent)
+    : QWidget(parent), form_(form), canvas_(new Canvas(form, this)) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QMenuBar* Page::menuBar() {
+  if (menuBar_ == nullptr) menuBar_ = new MenuBar(this);
+  return menuBar_;
+}
+
+void Page::arrange() {
+  int top = 0;
+  if (menuBar_ != nullptr) {
+    top = menuBar_->heightForWidth(width());
+    if (top <= 0) top = menuBar_->sizeHint().height();
+    menuBar_->setGeometry(0, 0, width(), top);
+  }
+  const QSize room(width(), std::max(1, height() - top));
+  const QSize client = clientPixels(room, {form_.design().width, form_.design().height});
+  canvas_->setGeometry((room.width() - client.width()) / 2,
+                       top + (room.height() - client.height()) / 2, client.width(),
+                       client.height());
+}
+
+void Page::resizeEvent(QResizeEvent* /*event*/) {
+  arrange();
+  form_.takeSize();
+}
+
+void Page::paintEvent(QPaintEvent* event) {
+  // Only the letterbox shows of the page itself.
+  QPainter(this).fillRect(event->rect(), toColor(form_.design().back).darker(115));
+}
+
+}  // namespace platform

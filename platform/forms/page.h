@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+class QMenuBar;
+
+namespace platform {
+
+class Form;
+
+// The client area of a form: its background, and the parent of its controls.
+class Canvas final : public QWidget {
+  Q_OBJECT
+
+ public:
+  Canvas(Form& form, QWidget* parent);
+
+  // Keeps the gradient at the present size.
+  void keepGradient() {
+    gradient_ = size();
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  Form& form_;
+  QSize gradient_;  // empty: the plain back colour
+};
+
+// A form as the window shows it: its menu bar above its client area, which is letterboxed where the
+// window is narrower in shape than the form's design.
+class Page final : public QWidget {
+  Q_OBJECT
+
+ public:
+  Page(Form& form, QWidget* parent);
+
+  [[nodiscard]] Canvas* canvas() const { return canvas_; }
+  // The menu bar, made at the first call: a form without menus has none.
+  [[nodiscard]] QMenuBar* menuBar();
+  [[nodiscard]] bool hasMenuBar() const { return menuBar_ != nullptr; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void arrange();
+
+  Form& form_;
+  QMenuBar* menuBar_ = nullptr;
+  Canvas* canvas_;
+};
+
+}  // namespace platform

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QIcon>
+#include <QPixmap>
+#include <QString>
+#include <map>
+#include <memory>
+
+class QSvgRenderer;
+class QPainter;
+
+namespace platform {
+
+// The program's drawings, by name: vector files in one folder, read at their first use and drawn
+// sharp at any size. A missing one draws nothing.
+class Pictures {
+ public:
+  // folder: where the files "name.svg" lie; a folder of the disk or of Qt's resources.
+  explicit Pictures(QString folder);
+  ~Pictures();
+
+  // Draws the picture into the area in its own proportions, as large as fits, in the middle.
+  void paint(QPainter& painter, const QString& name, const QRectF& area);
+  // The picture in so many logical pixels.
+  [[nodiscard]] QPixmap pixmap(const QString& name, QSize size, qreal devicePixelRatio);
+  // The picture as the icon of a window, in the sizes that desktops ask for.
+  [[nodiscard]] QIcon icon(const QString& name);
+  // For pointers: the drawing's element "punta" marks the hot spot; (0, 0) without one.
+  [[nodiscard]] QPoint hotSpot(const QString& name, QSize size);
+
+ private:
+  [[nodiscard]] QSvgRenderer& renderer(const QString& name);
+
+  QString folder_;
+  std::map<QString, std::unique_ptr<QSvgRenderer>> renderers_;
+};
+
+}  // namespace platform

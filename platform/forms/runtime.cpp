@@ -1,0 +1,65 @@
+#include "platform/forms/runtime.h"
+
+#include <QPainter>
+#include <QPixmap>
+
+#include "platform/base/run_time_error.h"
+#include "platform/forms/form.h"
+#include "platform/forms/keys/key_guard.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int kPointerSize = 32;
+constexpr int kFailedStatus = 1;
+
+}  // namespace
+
+Runtime::Runtime(RuntimeServices services, QString title, QString pictures, QString pointer,
+                 Forms::Factory factory)
+    : services_(services),
+      title_(std::move(title)),
+      pointerName_(std::move(pointer)),
+      pictures_(std::move(pictures)),
+      gate_([this](const RunTimeError& error) { failed(error); }, [this] { forms_.bury(); }),
+      forms_(*this, std::move(factory)),
+      window_(std::make_unique<Window>(*this)),
+      keys_(std::make_unique<KeyGuard>(*this)) {}
+
+Runtime::~Runtime() {
+  gate_.close();
+  forms_.clear();
+}
+
+const QCursor& Runtime::pointer() {
+  if (!pointer_) {
+    const qreal ratio = window_->devicePixelRatioF();
+    QPixmap image = pictures_.pixmap(pointerName_, {kPointerSize, kPointerSize}, ratio);
+    const QPoint tip = pictures_.hotSpot(pointerName_, {kPointerSize, kPointerSize});
+    pointer_ = std::make_unique<QCursor>(image, tip.x(), tip.y());
+  }
+  return *pointer_;
+}
+
+BoxAnswer Runtime::showBox(const MessageBox& box) {
+  BoxAnswer answer{};
+  MessageBox shown = box;
+  if (shown.title.isEmpty()) shown.title = title_;
+  gate_.wait([&] { answer = services_.boxes.show(shown); });
+  return answer;
+}
+
+void Runtime::endProcess(int status) {
+  gate_.close();
+  services_.end.end(status);
+}
+
+void Runtime::failed(const RunTimeError& error) {
+  if (gate_.isClosed()) return;
+  gate_.close();
+  services_.boxes.show({error.boxText(), title_, BoxIcon::Critical, BoxButtons::Ok});
+  services_.end.end(kFailedStatus);
+}
+
+}  // namespace platform

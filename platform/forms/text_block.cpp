@@ -1,0 +1,162 @@
+#include "platform/forms/text_block.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/forms/fonts.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int kSmallest = 6;           // pixels
+constexpr double kReadable = 4.5;      // contrast of text, WCAG 1.4.3
+constexpr double kLineGap = 0.25;      // between the ink of two lines, of the pixel size
+constexpr double kNextSmaller = 0.92;  // of a size that does not fit
+
+double luminance(const QColor& colour) {
+  const auto linear = [](double channel) {
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
+struct Mnemonic {
+  QString text;
+  int at = -1;
+};
+
+Mnemonic readMnemonic(const QString& caption) {
+  Mnemonic result;
+  result.text.reserve(caption.size());
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (caption[i] == u'&' && i + 1 < caption.size()) {
+      ++i;
+      if (caption[i] != u'&' && result.at < 0) result.at = static_cast<int>(result.text.size());
+    }
+    result.text += caption[i];
+  }
+  return result;
+}
+
+}  // namespace
+
+double contrast(const QColor& a, const QColor& b) {
+  const double la = luminance(a);
+  const double lb = luminance(b);
+  return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+QColor readableOn(const QColor& ground) {
+  return contrast(ground, Qt::black) >= contrast(ground, Qt::white) ? Qt::black : Qt::white;
+}
+
+QColor toColor(Rgb rgb) {
+  return {rgb.red, rgb.green, rgb.blue};
+}
+
+QString withoutMnemonic(const QString& caption) {
+  return readMnemonic(caption).text;
+}
+
+QChar accessKeyOf(const QString& caption) {
+  const Mnemonic mnemonic = readMnemonic(caption);
+  return mnemonic.at < 0 ? QChar() : mnemonic.text[mnemonic.at].toUpper();
+}
+
+void TextBlock::set(const QString& text, const QFont& font, QSize room, Align align,
+                    bool mnemonic) {
+  Mnemonic read = mnemonic ? readMnemonic(text) : Mnemonic{text, -1};
+  text_ = std::move(read.text);
+  mnemonic_ = read.at;
+  font_ = font;
+  room_ = room;
+  align_ = align;
+  layout_.reset();
+  width_ = height_ = 0;
+  if (text_.trimmed().isEmpty() || room.isEmpty()) return;
+  while (!layOut(room.width()) && font_.pixelSize() > kSmallest) {
+    font_.setPixelSize(std::max(
+        kSmallest, std::min(font_.pixelSize() - 1, int(font_.pixelSize() * kNextSmaller))));
+  }
+}
+
+// Lays the text out in the present size; false when it is larger than the room.
+bool TextBlock::layOut(double widest) {
+  const QFontMetricsF metrics(font_);
+  const Ink ink = inkOf(font_);
+  above_ = ink.above;
+  lineHeight_ = ink.height() + font_.pixelSize() * kLineGap;
+  layout_.reset();
+  width_ = metrics.horizontalAdvance(text_);
+  height_ = ink.height();
+  if (width_ <= widest && !text_.contains(u'\n')) return height_ <= room_.height();
+
+  QString lines = text_;
+  lines.replace(u'\n', QChar::LineSeparator);
+  layout_ = std::make_unique<QTextLayout>(lines, font_);
+  QTextOption option;
+  option.setWrapMode(QTextOption::WordWrap);
+  layout_->setTextOption(option);
+  layout_->beginLayout();
+  width_ = 0;
+  int count = 0;
+  for (QTextLine line = layout_->createLine(); line.isValid(); line = layout_->createLine()) {
+    line.setLineWidth(widest);
+    width_ = std::max(width_, line.naturalTextWidth());
+    ++count;
+  }
+  layout_->endLayout();
+  height_ = count * lineHeight_ - font_.pixelSize() * kLineGap;
+  return width_ <= widest && height_ <= room_.height();
+}
+
+void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
+                      const QColor& ground) {
+  if (height_ <= 0) return;
+  const bool faint = contrast(ink, ground) < kReadable;
+  const QFontMetricsF metrics(font_);
+  double baseLine = area.top() + (area.height() - height_) / 2 + above_;
+  const int lines = layout_ ? layout_->lineCount() : 1;
+  painter.setFont(font_);
+  for (int i = 0; i < lines; ++i, baseLine += lineHeight_) {
+    int first = 0;
+    QString part = text_;
+    if (layout_) {
+      const QTextLine line = layout_->lineAt(i);
+      first = line.textStart();
+      part = text_.mid(first, line.textLength());
+      while (part.endsWith(u' ') || part.endsWith(u'\n')) part.chop(1);
+    }
+    const double width = metrics.horizontalAdvance(part);
+    double left = area.left();
+    if (align_ == Align::Centre) left += (area.width() - width) / 2;
+    if (align_ == Align::Right) left += area.width() - width;
+    if (faint) {
+      QPainterPath path;
+      path.addText(QPointF(left, baseLine), font_, part);
+      painter.save();
+      painter.setRenderHint(QPainter::Antialiasing);
+      painter.strokePath(path, QPen(readableOn(ground), std::max(2.0, font_.pixelSize() / 9.0),
+                                    Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      painter.fillPath(path, ink);
+      painter.restore();
+    } else {
+      painter.setPen(ink);
+      painter.drawText(QPointF(left, baseLine), part);
+    }
+    if (mnemonic_ >= first && mnemonic_ < first + part.size()) {
+      const double from = left + metrics.horizontalAdvance(part.left(mnemonic_ - first));
+      const double to = left + metrics.horizontalAdvance(part.left(mnemonic_ - first + 1));
+      painter.fillRect(QRectF(from, baseLine + metrics.underlinePos(), to - from,
+                              std::max(1.0, metrics.lineWidth())),
+                       faint ? readableOn(ground) : ink);
+    }
+  }
+}
+
+}  // namespace platform

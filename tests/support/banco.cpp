@@ -1,0 +1,97 @@
+#include "support/banco.h"
+
+#include <QDir>
+#include <QFile>
+#include <QWindow>
+
+#include "app/shared/modulo_ini.h"
+#include "app/tabella_forme.h"
+#include "immagini/immagini.h"
+#include "platform/forms/appearance.h"
+
+namespace prova {
+
+Banco::Banco(QSize lato) {
+  somme::PreparaImmagini();
+  platform::applyAppearance();
+  const QDir lingue(QStringLiteral(SOMME_LINGUE));
+  for (const QString& nome : lingue.entryList({QStringLiteral("*.lng"), QStringLiteral("*.ini")})) {
+    QFile::copy(lingue.filePath(nome), percorso(nome));
+    QFile::setPermissions(percorso(nome), QFile::ReadOwner | QFile::WriteOwner);
+  }
+  ambiente = std::make_unique<somme::Ambiente>(
+      somme::Servizi{tempo, sorte, suono, messaggi, documenti, fine, istanza, cartella.path()},
+      [this](std::string_view nome) { return somme::CreaForma(*ambiente, nome); });
+  ambiente->fondo.window().setMinimumSize(1, 1);
+  ambiente->fondo.window().resize(lato);
+  ambiente->fondo.window().showNormal();
+  somme::ImpostaDefault(ambiente->stato);
+  somme::CaricaStringhe(*ambiente);
+}
+
+Banco::~Banco() = default;
+
+void Banco::mostra(std::string_view nome) {
+  ambiente->fondo.forms().show(nome);
+  QCoreApplication::processEvents();
+}
+
+QString Banco::nomeForma() const {
+  const platform::Form* forma = ambiente->fondo.forms().current();
+  return forma == nullptr ? QString() : forma->name();
+}
+
+void Banco::ridimensiona(QSize lato) {
+  ambiente->fondo.window().resize(lato);
+  QCoreApplication::processEvents();
+}
+
+QPoint Banco::centro(const platform::Control& controllo) const {
+  const QWidget* widget = controllo.widget();
+  return widget->mapTo(&ambiente->fondo.window(), widget->rect().center());
+}
+
+void Banco::clicca(const platform::Control& controllo) {
+  cliccaIn(centro(controllo));
+}
+
+void Banco::cliccaIn(QPoint punto) {
+  QTest::mouseClick(finestra(), Qt::LeftButton, {}, punto);
+  QCoreApplication::processEvents();
+}
+
+void Banco::doppioClic(const platform::Control& controllo) {
+  QTest::mouseDClick(finestra(), Qt::LeftButton, {}, centro(controllo));
+  QCoreApplication::processEvents();
+}
+
+void Banco::premi(int tasto, Qt::KeyboardModifiers con) {
+  QTest::keyPress(finestra(), Qt::Key(tasto), con);
+}
+
+void Banco::lascia(int tasto, Qt::KeyboardModifiers con) {
+  QTest::keyRelease(finestra(), Qt::Key(tasto), con);
+}
+
+void Banco::batti(int tasto, Qt::KeyboardModifiers con) {
+  premi(tasto, con);
+  lascia(tasto, con);
+  QCoreApplication::processEvents();
+}
+
+void Banco::scrivi(const QString& testo) {
+  for (const QChar carattere : testo) {
+    QTest::keyClick(finestra(), carattere.toLatin1());
+    QCoreApplication::processEvents();
+  }
+}
+
+void Banco::metti(const QString& nome, const QByteArray& contenuto) const {
+  QFile file(percorso(nome));
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    throw std::runtime_error("the test cannot write its own folder");
+  }
+  file.write(contenuto);
+}
+
+}  // namespace prova

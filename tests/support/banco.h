@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "app/shared/ambiente.h"
+#include "app/shared/mod_language_support.h"
+#include "platform/forms/control.h"
+#include "platform/forms/form.h"
+#include "support/scripted_time.h"
+#include "support/servizi_di_prova.h"
+
+// Where forms are tried: the whole program over scripted services, with a folder of its own and a
+// window of a known size, and the pupil's hands.
+namespace prova {
+
+class Banco {
+ public:
+  // lato: the size of the window. The folder holds the program's language files; the language is
+  // Italian.
+  explicit Banco(QSize lato = {1024, 768});
+  ~Banco();
+
+  // Reads the shared strings, as the entry routine does, and shows a form.
+  void mostra(std::string_view nome);
+  // The form on the screen.
+  template <class F>
+  [[nodiscard]] F& forma() {
+    auto* forma = dynamic_cast<F*>(ambiente->fondo.forms().current());
+    if (forma == nullptr) throw std::logic_error("another form is on the screen");
+    return *forma;
+  }
+  [[nodiscard]] QString nomeForma() const;
+  template <class F>
+  F& apri(std::string_view nome) {
+    mostra(nome);
+    return forma<F>();
+  }
+  void ridimensiona(QSize lato);
+
+  // The pupil's hands: real events at the window.
+  void clicca(const platform::Control& controllo);
+  void cliccaIn(QPoint punto);
+  void doppioClic(const platform::Control& controllo);
+  void premi(int tasto, Qt::KeyboardModifiers con = {});
+  void lascia(int tasto, Qt::KeyboardModifiers con = {});
+  void batti(int tasto, Qt::KeyboardModifiers con = {});
+  void scrivi(const QString& testo);
+  [[nodiscard]] QPoint centro(const platform::Control& controllo) const;
+  [[nodiscard]] QWindow* finestra() const { return ambiente->fondo.window().windowHandle(); }
+
+  [[nodiscard]] QString percorso(const QString& nome) const { return cartella.filePath(nome); }
+  // Replaces a file of the program's folder.
+  void metti(const QString& nome, const QByteArray& contenuto) const;
+
+  QTemporaryDir cartella;
+  ScriptedTime tempo;
+  SorteDiProva sorte;
+  SuonoDiProva suono;
+  MessaggiDiProva messaggi;
+  DocumentiDiProva documenti;
+  FineDiProva fine;
+  IstanzaDiProva istanza;
+  std::unique_ptr<somme::Ambiente> ambiente;
+};
+
+}  // namespace prova
