@@ -80,27 +80,31 @@ void playRequest(SoundDesk& desk, SdlPlayer& player, const SoundRequest& request
   hearOut(desk, player, wave->length());
 }
 
-// Serves with a sound library at hand; the player, too, is this thread's alone.
-void serveWith(const SdlLibrary& sdl, SoundDesk& desk, SoundRequest request) {
-  SdlPlayer player(sdl);
-  for (std::optional<SoundRequest> next = std::move(request); next; next = desk.waitForRequest()) {
-    playRequest(desk, player, *next);
+// The whole life of the sound thread.
+void serve(SoundDesk& desk) {
+  std::optional<SdlLibrary> sdl;
+  std::optional<SdlPlayer> player;
+  while (true) {
+    const std::optional<SoundRequest> request = desk.waitForRequest();
+    if (!request) {
+      break;
+    }
+    if (!player) {
+      sdl = SdlLibrary::load();
+      if (!sdl) {
+        desk.complain("SDL2 is missing");
+        continue;
+      }
+      player.emplace(*sdl);
+    }
+    playRequest(desk, *player, *request);
     if (desk.rest(milliseconds(0))) {
-      player.close();
+      player->close();
     }
   }
-}
-
-// The whole life of the sound thread.
-void serve(const std::shared_ptr<SoundDesk>& desk) {
-  for (auto request = desk->waitForRequest(); request; request = desk->waitForRequest()) {
-    const std::optional<SdlLibrary> sdl = SdlLibrary::load();
-    if (sdl) {
-      serveWith(*sdl, *desk, *std::move(request));
-      sdl->tlsCleanup();
-      return;
-    }
-    desk->complain("SDL2 is missing");
+  player.reset();
+  if (sdl) {
+    sdl->tlsCleanup();
   }
 }
 
@@ -125,7 +129,7 @@ void SdlSound::play(const QString& path) {
   }
   const AllSignalsBlocked blocked;
   try {
-    std::thread([desk = desk_] { serve(desk); }).detach();
+    std::thread([desk = desk_] { serve(*desk); }).detach();
     threadStarted_ = true;
   } catch (const std::system_error&) {
     // No thread to be had: silence, and another try with the next sound.
