@@ -9,6 +9,7 @@ it. Ends with 0 when the program took and judged every answer as it should.
 
 import os
 import re
+import signal
 import subprocess
 import sys
 
@@ -148,6 +149,8 @@ def main():
         return 2
     programma, cartella = sys.argv[1:]
     sys.stdout.reconfigure(line_buffering=True)
+    # Ended from outside, it still leaves through the end of the Schermo.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:
         with Schermo() as schermo:
             from albero import Albero, TempoScaduto
