@@ -84,10 +84,10 @@ QWidget* Form::parentFor(const Row& row) const {
 void Form::setTabOrder() {
   QWidget* before = nullptr;
   for (const Control* control : controls_) {
-    QWidget* widget = control->widget();
-    if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
-    if (before != nullptr) QWidget::setTabOrder(before, widget);
-    before = widget;
+    for (QWidget* widget : control->tabStops()) {
+      if (before != nullptr) QWidget::setTabOrder(before, widget);
+      before = widget;
+    }
   }
 }
 

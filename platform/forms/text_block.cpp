@@ -55,6 +55,28 @@ QColor readableOn(const QColor& ground) {
   return contrast(ground, Qt::black) >= contrast(ground, Qt::white) ? Qt::black : Qt::white;
 }
 
+bool isFaint(const QColor& ink, const QColor& ground) {
+  return contrast(ink, ground) < kReadable;
+}
+
+void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const QString& text,
+                   const QColor& ink, const QColor& ground) {
+  if (!isFaint(ink, ground)) {
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(baseLine, text);
+    return;
+  }
+  QPainterPath path;
+  path.addText(baseLine, font, text);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.strokePath(path, QPen(readableOn(ground), std::max(2.0, font.pixelSize() / 9.0),
+                                Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.fillPath(path, ink);
+  painter.restore();
+}
+
 QColor toColor(Rgb rgb) {
   return {rgb.red, rgb.green, rgb.blue};
 }
@@ -118,11 +140,9 @@ bool TextBlock::layOut(double widest) {
 void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
                       const QColor& ground) {
   if (height_ <= 0) return;
-  const bool faint = contrast(ink, ground) < kReadable;
   const QFontMetricsF metrics(font_);
   double baseLine = area.top() + (area.height() - height_) / 2 + above_;
   const int lines = layout_ ? layout_->lineCount() : 1;
-  painter.setFont(font_);
   for (int i = 0; i < lines; ++i, baseLine += lineHeight_) {
     int first = 0;
     QString part = text_;
@@ -136,25 +156,13 @@ void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
     double left = area.left();
     if (align_ == Align::Centre) left += (area.width() - width) / 2;
     if (align_ == Align::Right) left += area.width() - width;
-    if (faint) {
-      QPainterPath path;
-      path.addText(QPointF(left, baseLine), font_, part);
-      painter.save();
-      painter.setRenderHint(QPainter::Antialiasing);
-      painter.strokePath(path, QPen(readableOn(ground), std::max(2.0, font_.pixelSize() / 9.0),
-                                    Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-      painter.fillPath(path, ink);
-      painter.restore();
-    } else {
-      painter.setPen(ink);
-      painter.drawText(QPointF(left, baseLine), part);
-    }
+    paintReadable(painter, QPointF(left, baseLine), font_, part, ink, ground);
     if (mnemonic_ >= first && mnemonic_ < first + part.size()) {
       const double from = left + metrics.horizontalAdvance(part.left(mnemonic_ - first));
       const double to = left + metrics.horizontalAdvance(part.left(mnemonic_ - first + 1));
       painter.fillRect(QRectF(from, baseLine + metrics.underlinePos(), to - from,
                               std::max(1.0, metrics.lineWidth())),
-                       faint ? readableOn(ground) : ink);
+                       isFaint(ink, ground) ? readableOn(ground) : ink);
     }
   }
 }
