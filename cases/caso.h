@@ -4,11 +4,13 @@
 
 namespace somme {
 
-// One addition. Whoever writes it leaves `Totale` = `Addendo1` + `Addendo2`.
+// One addition. Whenever a generator has returned, Totale is Addendo1 plus Addendo2.
 struct Caso {
   qint16 Totale = 0;
   qint16 Addendo1 = 0;
   qint16 Addendo2 = 0;
+
+  friend bool operator==(const Caso&, const Caso&) = default;
 };
 
 }  // namespace somme

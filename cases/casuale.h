@@ -4,7 +4,11 @@
 
 namespace somme {
 
-// A whole number from 0 to n - 1, drawn from the shared source; 0 for n of 1 or less.
-[[nodiscard]] int Casuale(platform::Chance& sorte, double n);
+// A whole number from 0 to n - 1, from the next fraction of the source; 0 for n 1 and n 0. The
+// fraction is a float of 32 bits, the product one of 64, so that n itself is never reached.
+// n: not negative.
+[[nodiscard]] inline int Casuale(platform::Chance& chance, double n) {
+  return static_cast<int>(static_cast<double>(chance.fraction()) * n);
+}
 
 }  // namespace somme

@@ -1,6 +1,7 @@
 # What every target of the program is compiled with.
 option(SOMME_WERROR "Warnings are errors" OFF)
 set(SOMME_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize (address,undefined)")
+option(SOMME_FUZZ "Build the libFuzzer targets of fuzz/; needs clang" OFF)
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
@@ -22,6 +23,12 @@ if(SOMME_SANITIZE)
   add_compile_options(-fsanitize=${SOMME_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer -g1)
   add_link_options(-fsanitize=${SOMME_SANITIZE})
+endif()
+if(SOMME_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "SOMME_FUZZ needs clang; use the preset fuzz")
+  endif()
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 set(CMAKE_CXX_EXTENSIONS OFF)

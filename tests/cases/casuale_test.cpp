@@ -1,0 +1,62 @@
+#include "cases/casuale.h"
+
+#include <QTest>
+#include <array>
+
+#include "scripted_chance.h"
+
+using somme::Casuale;
+
+namespace {
+
+// The largest fraction that a source can give.
+constexpr float almostOne = 1.0F - 0x1.0p-24F;
+
+ScriptedChance always(float fraction) {
+  ScriptedChance chance{};
+  chance.thenEver(fraction, 100);
+  return chance;
+}
+
+}  // namespace
+
+class CasualeTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void casualeOfOneAndOfZeroIsZeroAlways() {
+    for (const float fraction : {0.0F, 0.5F, almostOne}) {
+      ScriptedChance chance = always(fraction);
+      QCOMPARE(Casuale(chance, 1), 0);
+      QCOMPARE(Casuale(chance, 0), 0);
+    }
+  }
+
+  void theLargestFractionGivesOneLessThanTheNumber() {
+    ScriptedChance chance = always(almostOne);
+    for (const int n : {2, 10, 99, 9888, 9999, 1 << 24}) QCOMPARE(Casuale(chance, n), n - 1);
+  }
+
+  void theFractionIsCutDownAndNotRounded() {
+    ScriptedChance chance = always(0.19F);
+    QCOMPARE(Casuale(chance, 10), 1);
+  }
+
+  void theFractionIsMultipliedInSixtyFourBits() {
+    // In 32 bits the product is 7, in 64 just below it.
+    constexpr float fraction = 0.7F;
+    static_assert(fraction * 10.0F == 7.0F && static_cast<double>(fraction) * 10.0 < 7.0);
+    ScriptedChance chance = always(fraction);
+    QCOMPARE(Casuale(chance, 10), 6);
+  }
+
+  void everyNumberBelowIsDrawnAsOften() {
+    platform::SeededChance chance(2007);
+    std::array<int, 10> counts{};
+    for (int i = 0; i < 100'000; ++i) ++counts.at(static_cast<std::size_t>(Casuale(chance, 10)));
+    for (const int count : counts) QVERIFY(count > 9'600 && count < 10'400);
+  }
+};
+
+QTEST_APPLESS_MAIN(CasualeTest)
+#include "casuale_test.moc"

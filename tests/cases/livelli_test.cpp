@@ -1,0 +1,98 @@
+#include "cases/livelli.h"
+
+#include <QTest>
+#include <array>
+
+using namespace somme;
+
+class LivelliTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void everyGroupHasItsWords() {
+    QCOMPARE(NomeGruppo(Gruppo::Entro10), u"Entro 10");
+    QCOMPARE(NomeGruppo(Gruppo::Entro20), u"Entro 20");
+    QCOMPARE(NomeGruppo(Gruppo::Entro99), u"Entro 99");
+    QCOMPARE(NomeGruppo(Gruppo::Entro999), u"Entro 999");
+    QCOMPARE(NomeGruppo(Gruppo::Entro9999), u"Entro 9.999");
+  }
+
+  void theLevelsOfTheSumsStandAtTheirNumbers() {
+    const auto* primo = LivelloDi(LivelliNumeriTotale, 1);
+    QVERIFY(primo != nullptr);
+    QCOMPARE(primo->didascalia, u"somme");
+    QVERIFY(primo->genera == &GeneraEntro10);
+    const auto* ottavo = LivelloDi(LivelliNumeriTotale, 8);
+    QCOMPARE(ottavo->didascalia, u"aggiungi solo unità");
+    QVERIFY(ottavo->genera == &GeneraEntro99SoloUnita);
+    const auto* ultimo = LivelloDi(LivelliNumeriTotale, 27);
+    QCOMPARE(ultimo->didascalia, u"aggiungi solo migliaia");
+    QVERIFY(ultimo->genera == &GeneraEntro9999SoloMigliaia);
+  }
+
+  void theBlanksThatBeginACaptionArePartOfIt() {
+    QCOMPARE(LivelloDi(LivelliNumeriTotale, 10)->didascalia, u" senza cambio");
+    QCOMPARE(LivelloDi(LivelliNumeriTotale, 14)->didascalia, u"con due cambi");
+    QCOMPARE(LivelloDi(LivelliNumeriTotale, 24)->didascalia, u" aggiungi solo unità");
+  }
+
+  void groupsAndDigitsFollowTheNumber() {
+    for (int tipo = 1; tipo <= 27; ++tipo) {
+      const Livello& livello = *LivelloDi(LivelliNumeriTotale, tipo);
+      const Gruppo gruppo = tipo == 1    ? Gruppo::Entro10
+                            : tipo <= 4  ? Gruppo::Entro20
+                            : tipo <= 9  ? Gruppo::Entro99
+                            : tipo <= 18 ? Gruppo::Entro999
+                                         : Gruppo::Entro9999;
+      QVERIFY(livello.gruppo == gruppo);
+      QCOMPARE(livello.cifre, qint16(tipo <= 9 ? 2 : tipo <= 18 ? 3 : 5));
+    }
+  }
+
+  void theLevelsOfTheAddendsStandAtTheirNumbers() {
+    const std::array<Generatore, 4> attesi = {GeneraTotale10, GeneraEntro10, GeneraDieciPiu,
+                                              GeneraTotale20};
+    const std::array<QStringView, 4> didascalie = {u"componi il 10", u"trova un addendo",
+                                                   u"10 + ... = 18", u"completa il 20"};
+    for (int tipo = 1; tipo <= 4; ++tipo) {
+      const Livello& livello = *LivelloDi(LivelliNumeriAddendo, tipo);
+      const auto indice = static_cast<std::size_t>(tipo) - 1;
+      QVERIFY(livello.genera == attesi.at(indice));
+      QCOMPARE(livello.didascalia, didascalie.at(indice));
+      QVERIFY(livello.gruppo == (tipo <= 2 ? Gruppo::Entro10 : Gruppo::Entro20));
+      QCOMPARE(livello.cifre, qint16{2});
+    }
+  }
+
+  void theAbacusHasTheSumsFromEntro99On() {
+    QCOMPARE(LivelliAbaco.size(), std::size_t{23});
+    for (int tipo = 1; tipo <= 23; ++tipo) {
+      QCOMPARE(LivelloDi(LivelliAbaco, tipo), LivelloDi(LivelliNumeriTotale, tipo + 4));
+    }
+    QVERIFY(LivelloDi(LivelliAbaco, 5)->gruppo == Gruppo::Entro99);
+    QVERIFY(LivelloDi(LivelliAbaco, 6)->gruppo == Gruppo::Entro999);
+    QVERIFY(LivelloDi(LivelliAbaco, 15)->gruppo == Gruppo::Entro9999);
+  }
+
+  void theBlocksHaveOneGroupForEachBoard() {
+    QCOMPARE(LivelliLU.size(), std::size_t{5});
+    for (const Livello& livello : LivelliLU) QVERIFY(livello.gruppo == Gruppo::Entro99);
+    QVERIFY(LivelloDi(LivelliLU, 2)->genera == &GeneraEntro99ConCambio);
+    QCOMPARE(LivelliHLU.size(), std::size_t{9});
+    for (const Livello& livello : LivelliHLU) QVERIFY(livello.gruppo == Gruppo::Entro999);
+    QVERIFY(LivelloDi(LivelliHLU, 9)->genera == &GeneraEntro999SoloCentinaia);
+  }
+
+  void anyOtherNumberHasNoLevel() {
+    for (const int tipo : {-32768, -1, 0, 28, 32767}) {
+      QVERIFY(LivelloDi(LivelliNumeriTotale, tipo) == nullptr);
+    }
+    QVERIFY(LivelloDi(LivelliNumeriAddendo, 5) == nullptr);
+    QVERIFY(LivelloDi(LivelliAbaco, 24) == nullptr);
+    QVERIFY(LivelloDi(LivelliLU, 6) == nullptr);
+    QVERIFY(LivelloDi(LivelliHLU, 10) == nullptr);
+  }
+};
+
+QTEST_APPLESS_MAIN(LivelliTest)
+#include "livelli_test.moc"
