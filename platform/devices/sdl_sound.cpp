@@ -1,0 +1,130 @@
+#include "platform/devices/sdl_sound.h"
+
+#include <pthread.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <chrono>
+#include <csignal>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "platform/devices/sdl_player.h"
+#include "platform/devices/sound_desk.h"
+
+namespace platform {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+// A sound that could not start within this comes no more: it would belong to another answer.
+constexpr milliseconds kLatestStart{1000};
+// How long the sound system may take beyond the length of a sound until the device is closed.
+constexpr milliseconds kPatience{2000};
+constexpr milliseconds kLook{20};
+// What the sound system still holds when the last sample has been handed over.
+constexpr milliseconds kTail{250};
+
+// The desktop's signals belong to the program's own thread; SDL's threads inherit the mask.
+class AllSignalsBlocked {
+ public:
+  AllSignalsBlocked() {
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before_);
+  }
+  ~AllSignalsBlocked() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+  AllSignalsBlocked(const AllSignalsBlocked&) = delete;
+  AllSignalsBlocked& operator=(const AllSignalsBlocked&) = delete;
+
+ private:
+  sigset_t before_{};
+};
+
+// Waits until the sound has been heard; earlier when there is something else to do.
+void hearOut(SoundDesk& desk, const SdlPlayer& player, milliseconds length) {
+  if (!desk.rest(length)) {
+    return;
+  }
+  const Clock::time_point latest = Clock::now() + kPatience;
+  while (player.isPlaying() && Clock::now() < latest) {
+    if (!desk.rest(kLook)) {
+      return;
+    }
+  }
+  static_cast<void>(desk.rest(kTail));
+}
+
+void playRequest(SoundDesk& desk, SdlPlayer& player, const SoundRequest& request) {
+  const std::optional<SdlWave> wave = player.read(request.path);
+  if (!wave) {
+    desk.sendBeep();
+    return;
+  }
+  if (!player.open(wave->spec)) {
+    desk.complain(player.error());
+    return;
+  }
+  if (Clock::now() - request.asked > kLatestStart) {
+    desk.complain("the sound system took too long");
+    return;
+  }
+  if (!player.play(*wave)) {
+    desk.complain(player.error());
+    return;
+  }
+  hearOut(desk, player, wave->length());
+}
+
+// The whole life of the sound thread.
+void serve(const std::shared_ptr<SoundDesk>& desk) {
+  std::optional<SdlLibrary> sdl;
+  std::optional<SdlPlayer> player;
+  while (const std::optional<SoundRequest> request = desk->waitForRequest()) {
+    if (!player && (sdl = SdlLibrary::load())) {
+      player.emplace(*sdl);
+    }
+    if (!player) {
+      desk->complain("SDL2 is missing");
+      continue;
+    }
+    playRequest(*desk, *player, *request);
+    if (desk->rest(milliseconds(0))) {
+      player->close();
+    }
+  }
+}
+
+}  // namespace
+
+SdlSound::SdlSound(std::function<void()> beep)
+    : desk_(std::make_shared<SoundDesk>(std::move(beep))) {}
+
+SdlSound::~SdlSound() {
+  desk_->close();
+}
+
+void SdlSound::play(const QString& path) {
+  // Seen here, so that it beeps at once also while the thread is held up.
+  if (!QFileInfo(path).isFile()) {
+    desk_->beep();
+    return;
+  }
+  desk_->leave({QFile::encodeName(path).toStdString(), Clock::now()});
+  if (threadStarted_) {
+    return;
+  }
+  const AllSignalsBlocked blocked;
+  try {
+    std::thread([desk = desk_] { serve(desk); }).detach();
+    threadStarted_ = true;
+  } catch (const std::system_error&) {
+    // No thread to be had: silence, and another try with the next sound.
+  }
+}
+
+}  // namespace platform

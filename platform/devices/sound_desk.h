@@ -1,0 +1,53 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+
+namespace platform {
+
+struct SoundRequest {
+  std::string path;  // as the file system takes it
+  std::chrono::steady_clock::time_point asked;
+};
+
+// Where the program and its sound thread meet: the last request that nobody has taken yet, and
+// whether the program is still there to hear. Owned by both. No call holds the other side up.
+class SoundDesk : public std::enable_shared_from_this<SoundDesk> {
+ public:
+  // beep: called on the program's thread.
+  explicit SoundDesk(std::function<void()> beep) : beep_(std::move(beep)) {}
+
+  // The program's side.
+  // Takes the place of a request that is still waiting.
+  void leave(SoundRequest request);
+  void beep() const { beep_(); }
+  // The program goes: no beep comes through any more, and the thread ends when it looks.
+  void close();
+
+  // The thread's side.
+  // Sleeps until there is a request; nothing when the program has gone.
+  [[nodiscard]] std::optional<SoundRequest> waitForRequest();
+  // Sleeps for that long; false, and earlier, when there is a request or the program has gone.
+  [[nodiscard]] bool rest(std::chrono::milliseconds time);
+  // Has the program beep.
+  void sendBeep();
+  // Says on stderr why there is no sound; once in a run.
+  void complain(const std::string& why);
+
+ private:
+  [[nodiscard]] bool isClosed();
+
+  const std::function<void()> beep_;
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::optional<SoundRequest> request_;
+  bool closed_ = false;
+  bool complained_ = false;  // the thread's own
+};
+
+}  // namespace platform

@@ -1,0 +1,37 @@
+#include "platform/devices/sdl_library.h"
+
+#include <QFile>
+#include <QTest>
+
+using platform::SdlLibrary;
+
+namespace {
+
+bool isLoaded(const char* library) {
+  QFile maps(QStringLiteral("/proc/self/maps"));
+  return maps.open(QFile::ReadOnly) && maps.readAll().contains(library);
+}
+
+}  // namespace
+
+class SdlLibraryTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void theLibraryIsLoadedOnDemandOnly() {
+    QVERIFY(!isLoaded("libSDL2"));
+    QVERIFY(SdlLibrary::load().has_value());
+    QVERIFY(isLoaded("libSDL2"));
+  }
+
+  void aMissingLibraryIsNoLibrary() {
+    QVERIFY(!SdlLibrary::load("libSDL2-of-another-world.so.0").has_value());
+  }
+
+  void aLibraryWithoutTheFunctionsIsNoLibrary() {
+    QVERIFY(!SdlLibrary::load("libm.so.6").has_value());
+  }
+};
+
+QTEST_GUILESS_MAIN(SdlLibraryTest)
+#include "sdl_library_test.moc"

@@ -1,0 +1,79 @@
+// Plays the sounds given, waits after each for the milliseconds given, then does nothing for the
+// milliseconds of the first argument:
+//   probe_sound <idle ms> <sound> <ms> [<sound> <ms> ...]
+// Writes to stdout the longest gap of its event loop, the beeps, how often its threads went to
+// sleep in the idle time, and whether anybody took its signals.
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTimer>
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+
+#include "platform/devices/qt_time_source.h"
+#include "platform/devices/sdl_sound.h"
+
+namespace {
+
+// How often any thread of the process has gone to sleep of its own accord.
+int sleeps() {
+  int sum = 0;
+  const QDir tasks(QStringLiteral("/proc/self/task"));
+  for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    QFile status(tasks.filePath(task) + QStringLiteral("/status"));
+    if (!status.open(QFile::ReadOnly)) {
+      continue;
+    }
+    for (const QByteArray& line : status.readAll().split('\n')) {
+      if (line.startsWith("voluntary_ctxt_switches:")) {
+        sum += line.mid(line.indexOf(':') + 1).trimmed().toInt();
+      }
+    }
+  }
+  return sum;
+}
+
+bool handlesSignal(int signal) {
+  struct sigaction action {};
+  return sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_DFL;
+}
+
+void waitMilliseconds(platform::QtTimeSource& time, qint64 milliseconds) {
+  QElapsedTimer clock;
+  clock.start();
+  while (clock.elapsed() < milliseconds) {
+    time.sleepUntilEvent(static_cast<double>(milliseconds - clock.elapsed()) / 1000);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication app(argc, argv);
+  const QStringList arguments = QCoreApplication::arguments();
+  platform::QtTimeSource time;
+  int beeps = 0;
+  platform::SdlSound sound([&beeps] { ++beeps; });
+
+  qint64 worst = 0;
+  QElapsedTimer sinceBeat;
+  QTimer heart;
+  heart.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&heart, &QTimer::timeout, [&] { worst = std::max(worst, sinceBeat.restart()); });
+  heart.start(5);
+  sinceBeat.start();
+  for (qsizetype i = 2; i + 1 < arguments.size(); i += 2) {
+    sound.play(arguments[i]);
+    worst = std::max(worst, sinceBeat.elapsed());
+    waitMilliseconds(time, arguments[i + 1].toInt());
+  }
+  heart.stop();
+  const int before = sleeps();
+  waitMilliseconds(time, arguments.value(1).toInt());
+  std::printf("gap %lld beeps %d sleeps %d signals %d\n", static_cast<long long>(worst), beeps,
+              sleeps() - before, handlesSignal(SIGINT) || handlesSignal(SIGTERM) ? 1 : 0);
+  static_cast<void>(std::fflush(stdout));
+  return 0;
+}
