@@ -49,8 +49,8 @@ constexpr Look VoceLivello(std::string_view testo) {
 }
 
 // A level whose button has room for a picture.
-constexpr Look VoceGrande(std::string_view testo) {
-  return {.caption = testo, .font = {Face::Tahoma, 14.25}, .picture = "livello"};
+constexpr Look VoceGrande(std::string_view testo, double punti = 14.25) {
+  return {.caption = testo, .font = {Face::Tahoma, punti}, .picture = "livello"};
 }
 
 constexpr Look Indietro() {

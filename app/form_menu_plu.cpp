@@ -13,7 +13,7 @@ constexpr double kLarghezza = 9060;
 
 template <auto Pulsante>
 constexpr Row Voce(double sinistra, int riga, std::string_view testo) {
-  return row<Pulsante>({sinistra, AltoRiga(riga, 1560), 2580, kAltoLivello}, VoceGrande(testo));
+  return row<Pulsante>({sinistra, AltoRiga(riga, 1560), 2580, kAltoLivello}, VoceGrande(testo, 12));
 }
 
 constexpr auto kControlli = std::to_array<Row>({
