@@ -189,7 +189,7 @@ bool Form::accessKey(QChar key) {
     return true;
   }
   if (!page_->hasMenuBar()) return false;
-  return static_cast<MenuBar*>(page_->menuBar())->accessKey(key);
+  return page_->menuBar()->accessKey(key);
 }
 
 bool Form::shortcut(const QKeySequence& keys) {

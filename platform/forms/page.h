@@ -3,11 +3,10 @@
 #include <QColor>
 #include <QWidget>
 
-class QMenuBar;
-
 namespace platform {
 
 class Form;
+class MenuBar;
 
 // The client area of a form: its background, and the parent of its controls.
 class Canvas final : public QWidget {
@@ -42,7 +41,7 @@ class Page final : public QWidget {
 
   [[nodiscard]] Canvas* canvas() const { return canvas_; }
   // The menu bar, made at the first call: a form without menus has none.
-  [[nodiscard]] QMenuBar* menuBar();
+  [[nodiscard]] MenuBar* menuBar();
   [[nodiscard]] bool hasMenuBar() const { return menuBar_ != nullptr; }
 
  protected:
@@ -53,7 +52,7 @@ class Page final : public QWidget {
   void arrange();
 
   Form& form_;
-  QMenuBar* menuBar_ = nullptr;
+  MenuBar* menuBar_ = nullptr;
   Canvas* canvas_;
 };
 

@@ -14,6 +14,7 @@ namespace {
 constexpr QColor kPlainFace(238, 240, 244);
 constexpr double kCorner = 6;
 constexpr double kFocusRing = 3;       // pixels, dark and light each
+constexpr double kSunk = 0.09;         // of the shorter side, on each
 constexpr double kDisabledInk = 0.45;  // of plain buttons
 
 bool isEnter(const QKeyEvent& event) {
@@ -94,8 +95,11 @@ ButtonWidget::Rooms ButtonWidget::rooms() const {
           inner.adjusted(0, side + margin / 2, 0, 0).toRect()};
 }
 
+// A button that can be pressed stands up; one that cannot lies flat and small in its place, which
+// tells it without colour.
 void ButtonWidget::paintFace(QPainter& painter, const QColor& face) const {
-  const QRectF body = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+  const double sunk = isEnabled() ? 0.5 : 0.5 + std::min(width(), height()) * kSunk;
+  const QRectF body = QRectF(rect()).adjusted(sunk, sunk, -sunk, -sunk);
   painter.setPen(QPen(isEnabled() ? QColor(70, 70, 70) : QColor(150, 150, 150), 1));
   painter.setBrush(isDown() ? face.darker(118) : face);
   painter.drawRoundedRect(body, kCorner, kCorner);
