@@ -52,14 +52,18 @@ void Control::build(QWidget* parent, const QString& name, int index, const Twips
   }
 }
 
+QWidget* Control::surroundings() const {
+  return widget_ ? widget_->parentWidget() : nullptr;
+}
+
 void buildCopy(Control& copy, const Control& original, int index) {
   Look look = original.look();
   look.hidden = true;
+  look.shortcut = {};
   look.fore = original.foreColor();
   look.back = look.back ? std::optional(original.backColor()) : std::nullopt;
   const QString& name = original.name();
-  QWidget* parent = original.widget()->parentWidget();
-  copy.build(parent, name.left(name.indexOf(u'(')), index, original.designPlace(), look);
+  copy.build(original.surroundings(), name.left(name.indexOf(u'(')), index, original.designPlace(), look);
   original.form().adopt(copy);
 }
 

@@ -12,6 +12,13 @@
 
 namespace platform {
 
+namespace {
+
+constexpr QColor kGradientFirst(255, 255, 255);
+constexpr QColor kGradientLast(255, 255, 0);
+
+}  // namespace
+
 Canvas::Canvas(Form& form, QWidget* parent) : QWidget(parent), form_(form) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
@@ -32,16 +39,15 @@ void Canvas::paintEvent(QPaintEvent* event) {
     const int bottom = qRound((i + 1) * band);
     painter.fillRect(QRect(0, top, gradient_.width(), bottom - top), QColor(255, 255, 255 - i));
   }
-  const QColor kLast(255, 255, 0);
   if (exposed.right() >= gradient_.width()) {
     painter.fillRect(QRect(gradient_.width(), exposed.top(),
                            exposed.right() - gradient_.width() + 1, exposed.height()),
-                     kLast);
+                     kGradientLast);
   }
   if (exposed.bottom() >= gradient_.height()) {
     painter.fillRect(QRect(exposed.left(), gradient_.height(), exposed.width(),
                            exposed.bottom() - gradient_.height() + 1),
-                     kLast);
+                     kGradientLast);
   }
 }
 
@@ -95,8 +101,14 @@ void Page::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void Page::paintEvent(QPaintEvent* event) {
-  // Only the letterbox shows of the page itself.
-  QPainter(this).fillRect(event->rect(), toColor(form_.design().back).darker(115));
+  // Only the letterbox shows of the page itself. A gradient goes on in its colours at the ends.
+  QPainter painter(this);
+  if (!canvas_->hasGradient()) {
+    painter.fillRect(event->rect(), toColor(form_.design().back).darker(115));
+    return;
+  }
+  painter.fillRect(event->rect(), kGradientLast);
+  painter.fillRect(event->rect() & QRect(0, 0, width(), canvas_->y()), kGradientFirst);
 }
 
 }  // namespace platform

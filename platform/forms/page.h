@@ -18,8 +18,9 @@ class Canvas final : public QWidget {
   // Keeps the gradient at the present size.
   void keepGradient() {
     gradient_ = size();
-    update();
+    parentWidget()->update();
   }
+  [[nodiscard]] bool hasGradient() const { return !gradient_.isEmpty(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -65,6 +65,10 @@ void MenuItem::setEnabled(bool enabled) {
   if (action_) action_->setEnabled(enabled);
 }
 
+QWidget* MenuItem::surroundings() const {
+  return qobject_cast<QWidget*>(action_->parent());
+}
+
 QWidget* MenuItem::container() const {
   if (!menu_ && action_) {
     menu_ = new QMenu(form().page());
