@@ -74,7 +74,7 @@ QMenuBar* Page::menuBar() {
   return menuBar_;
 }
 
-void Page::arrange() {
+bool Page::arrange() {
   int top = 0;
   if (menuBar_ != nullptr) {
     top = menuBar_->heightForWidth(width());
@@ -86,11 +86,14 @@ void Page::arrange() {
   canvas_->setGeometry((room.width() - client.width()) / 2,
                        top + (room.height() - client.height()) / 2, client.width(),
                        client.height());
+  const bool changed = client != arranged_;
+  arranged_ = client;
+  return changed;
 }
 
+// A page that comes up gets its resize event late: its form has taken the size already.
 void Page::resizeEvent(QResizeEvent* /*event*/) {
-  arrange();
-  form_.takeSize();
+  if (arrange()) form_.takeSize();
 }
 
 void Page::paintEvent(QPaintEvent* event) {

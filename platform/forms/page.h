@@ -43,17 +43,19 @@ class Page final : public QWidget {
   // The menu bar, made at the first call: a form without menus has none.
   [[nodiscard]] QMenuBar* menuBar();
   [[nodiscard]] bool hasMenuBar() const { return menuBar_ != nullptr; }
+  // Gives menu bar and client area their places in the page as it is now, also while it is hidden.
+  // False when the client area had this size already.
+  bool arrange();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void arrange();
-
   Form& form_;
   QMenuBar* menuBar_ = nullptr;
   Canvas* canvas_;
+  QSize arranged_;
 };
 
 }  // namespace platform
