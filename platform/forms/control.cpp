@@ -60,6 +60,12 @@ void buildCopy(Control& copy, const Control& original, int index) {
   const QString& name = original.name();
   QWidget* parent = original.widget()->parentWidget();
   copy.build(parent, name.left(name.indexOf(u'(')), index, original.designPlace(), look);
+  copy.setCaption(original.caption());
+  copy.setToolTip(original.toolTip());
+  copy.setTag(original.tag());
+  copy.setEnabled(original.isEnabled());
+  copy.setFontSize(original.fontSize());
+  copy.setMousePointer(original.mousePointer());
   original.form().adopt(copy);
 }
 

@@ -1,6 +1,5 @@
 #include "platform/forms/page.h"
 
-#include <QApplication>
 #include <QMenuBar>
 #include <QPaintEvent>
 #include <QPainter>
@@ -48,10 +47,13 @@ void Canvas::paintEvent(QPaintEvent* event) {
 // Tab goes round the controls of this form in the order of its design, and stays in a covering
 // panel while one is open.
 bool Canvas::focusNextPrevChild(bool next) {
+  return passFocus(window()->focusWidget(), next);
+}
+
+bool Canvas::passFocus(QWidget* from, bool next) {
   const Control* cover = form_.covering();
   const QWidget* room = cover != nullptr ? cover->container() : this;
-  QWidget* start = QApplication::focusWidget();
-  if (start == nullptr || !isAncestorOf(start)) start = this;
+  QWidget* start = from != nullptr && isAncestorOf(from) ? from : this;
   QWidget* widget = start;
   do {
     widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();

@@ -16,6 +16,10 @@ class Canvas final : public QWidget {
  public:
   Canvas(Form& form, QWidget* parent);
 
+  // Gives the focus to the next control that can take it, in the order of the design; from: where
+  // to begin. False where no control can.
+  bool passFocus(QWidget* from, bool next);
+
   // Keeps the gradient at the present size.
   void keepGradient() {
     gradient_ = size();
