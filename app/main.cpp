@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QStyleFactory>
 
 #include "app/modulo1.h"
 #include "app/shared/ambiente.h"
@@ -7,28 +6,15 @@
 #include "app/tabella_forme.h"
 #include "immagini/immagini.h"
 #include "platform/base/chance.h"
+#include "platform/devices/desktop_documents.h"
+#include "platform/devices/file_instance_lock.h"
 #include "platform/devices/qt_time_source.h"
-#include "platform/forms/accessible.h"
+#include "platform/devices/sdl_sound.h"
+#include "platform/devices/system_process_end.h"
 #include "platform/forms/appearance.h"
 #include "platform/forms/qt_message_boxes.h"
 
 // Only wiring: the real services, the ground, the entry routine.
-
-namespace {
-struct NoSound : platform::Sound {
-  void play(const QString&) override {}
-};
-struct NoDocs : platform::Documents {
-  void open(const QString&) override {}
-};
-struct End : platform::ProcessEnd {
-  void end(int s) override { _exit(s); }
-};
-struct Lock : platform::InstanceLock {
-  bool take() override { return true; }
-};
-}  // namespace
-
 int main(int argc, char* argv[]) {
   QApplication programma(argc, argv);
   platform::applyAppearance();
@@ -36,18 +22,21 @@ int main(int argc, char* argv[]) {
 
   platform::QtTimeSource tempo;
   platform::SeededChance sorte(0);
-  NoSound suono;
-  NoDocs documenti;
-  End fine;
-  Lock istanza;
-  somme::Ambiente* ambiente = nullptr;
-  platform::QtMessageBoxes messaggi([&ambiente] { return somme::ParoleMessaggi(*ambiente); },
-                                    [&ambiente] { return &ambiente->fondo.window(); });
-  somme::Ambiente tutto(
+  platform::SdlSound suono(QApplication::beep);
+  platform::DesktopDocuments documenti;
+  platform::SystemProcessEnd fine;
+  platform::FileInstanceLock istanza(QCoreApplication::applicationFilePath());
+
+  // The message boxes speak the language of the whole that they are a part of.
+  somme::Ambiente* tutto = nullptr;
+  platform::QtMessageBoxes messaggi([&tutto] { return somme::ParoleMessaggi(*tutto); },
+                                    [&tutto] { return &tutto->fondo.window(); });
+  somme::Ambiente ambiente(
       {tempo, sorte, suono, messaggi, documenti, fine, istanza,
        QCoreApplication::applicationDirPath()},
-      [&ambiente](std::string_view nome) { return somme::CreaForma(*ambiente, nome); });
-  ambiente = &tutto;
-  somme::Avvia(tutto);
+      [&tutto](std::string_view nome) { return somme::CreaForma(*tutto, nome); });
+  tutto = &ambiente;
+
+  somme::Avvia(ambiente);
   return QApplication::exec();
 }

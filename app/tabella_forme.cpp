@@ -7,6 +7,9 @@
 #include "app/form_info.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
+#include "exercises/bars/form_barre20.h"
+#include "exercises/numbers/form_numeri_addendo.h"
+#include "exercises/numbers/form_numeri_totale.h"
 
 namespace somme {
 
@@ -25,7 +28,10 @@ std::shared_ptr<platform::Form> Crea(Ambiente& ambiente) {
 constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormAvvio, Crea<FormAvvio>},
     {forme::kFormInfo, Crea<FormInfo>},
+    {forme::kFormNumeriTotale, Crea<FormNumeriTotale>},
+    {forme::kFormNumeriAddendo, Crea<FormNumeriAddendo>},
     {forme::kFormBarre10, Crea<FormBarre10>},
+    {forme::kFormBarre20, Crea<FormBarre20>},
 });
 
 // The first exercise, until a menu chooses.
@@ -37,6 +43,7 @@ std::shared_ptr<platform::Form> PrimoEsercizio(Ambiente& ambiente) {
 // Where the roads to the menus lead as long as there are none.
 constexpr auto kAlPostoDeiMenu = std::to_array<Voce>({
     {forme::kFormMenu, PrimoEsercizio},
+    {forme::kFormMenuNumeri, Crea<FormAvvio>},
     {forme::kFormMenuBarre, Crea<FormAvvio>},
 });
 

@@ -191,5 +191,6 @@ int main(int argc, char* argv[]) {
   Misura misura(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
   misura.mostra(somme::forme::kFormBarre10);
   misura.verdetti();
+  std::fflush(stdout);
   std::_Exit(0);
 }

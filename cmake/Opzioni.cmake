@@ -1,5 +1,6 @@
 # What every target of the program is compiled with.
 option(SOMME_WERROR "Warnings are errors" OFF)
+option(SOMME_FLOORS "Check that each room stands on the rooms that it names" OFF)
 set(SOMME_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize (address,undefined)")
 option(SOMME_FUZZ "Build the libFuzzer targets of fuzz/; needs clang" OFF)
 
@@ -31,6 +32,7 @@ if(SOMME_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)

@@ -3,6 +3,9 @@
 # as "room/file.h" through an include folder of links made for that room alone, so that an include
 # upwards does not compile.
 #
+# With SOMME_FLOORS each room is also linked whole against the rooms that it names, so that a use of
+# what lies above it does not link.
+#
 #   somme_room(platform_base FOLDER platform/base SOURCES a.cpp b.cpp LINKS Qt6::Core)
 function(somme_room name)
   cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
@@ -14,7 +17,17 @@ function(somme_room name)
   file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${ARG_FOLDER}" "${view}/${ARG_FOLDER}" SYMBOLIC)
   target_include_directories(somme_${name} PUBLIC "${view}")
   target_link_libraries(somme_${name} PUBLIC somme_opzioni ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
-  set_property(GLOBAL APPEND PROPERTY SOMME_ROOMS somme_${name})
+  if(SOMME_FLOORS)
+    # A static library may ask for what it does not link; the whole of it in a shared one may not.
+    file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/floor_${name}.cpp" "")
+    add_library(floor_${name} SHARED "${CMAKE_CURRENT_BINARY_DIR}/floor_${name}.cpp")
+    set_target_properties(floor_${name} PROPERTIES AUTOMOC OFF
+      LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/floors")
+    target_link_libraries(floor_${name} PRIVATE
+      -Wl,--no-undefined -Wl,--whole-archive $<TARGET_FILE:somme_${name}> -Wl,--no-whole-archive
+      ${ARG_LINKS} ${ARG_PRIVATE_LINKS})
+    add_dependencies(floor_${name} somme_${name})
+  endif()
 endfunction()
 
 # Tests: for each name one program made of <name>_test.cpp in the calling folder, known to ctest as

@@ -38,7 +38,8 @@ QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
   if (className == QLatin1String("platform::ButtonWidget")) {
     return new AccessibleButton(static_cast<QWidget*>(object));
   }
-  if (className == QLatin1String("platform::ImageWidget")) {
+  if (className == QLatin1String("platform::ImageWidget") ||
+      className == QLatin1String("platform::LineWidget")) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
   }
   if (className == QLatin1String("platform::PanelWidget")) {

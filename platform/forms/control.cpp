@@ -71,13 +71,22 @@ void buildCopy(Control& copy, const Control& original, int index) {
 
 void Control::applyScale() {
   if (!widget_) return;
-  widget_->setGeometry(scale().pixels(place_));
+  Control::placeChanged();
   applyLook();
 }
 
 void Control::setPlace(double left, double top, double width, double height) {
   place_ = {left / scale().x, top / scale().y, width / scale().x, height / scale().y};
-  if (widget_) widget_->setGeometry(scale().pixels(place_));
+  if (widget_) placeChanged();
+}
+
+void Control::placeChanged() {
+  widget_->setGeometry(scale().pixels(place_));
+}
+
+std::vector<QWidget*> Control::tabStops() const {
+  if (!widget_ || widget_->focusPolicy() == Qt::NoFocus) return {};
+  return {widget_};
 }
 
 void Control::setLeft(double twips) {

@@ -84,10 +84,10 @@ QWidget* Form::parentFor(const Row& row) const {
 void Form::setTabOrder() {
   QWidget* before = nullptr;
   for (const Control* control : controls_) {
-    QWidget* widget = control->widget();
-    if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
-    if (before != nullptr) QWidget::setTabOrder(before, widget);
-    before = widget;
+    for (QWidget* widget : control->tabStops()) {
+      if (before != nullptr) QWidget::setTabOrder(before, widget);
+      before = widget;
+    }
   }
 }
 
@@ -197,7 +197,7 @@ bool Form::accessKey(QChar key) {
     return true;
   }
   if (!page_->hasMenuBar()) return false;
-  return static_cast<MenuBar*>(page_->menuBar())->accessKey(key);
+  return page_->menuBar()->accessKey(key);
 }
 
 bool Form::shortcut(const QKeySequence& keys) {

@@ -71,7 +71,7 @@ Page::Page(Form& form, QWidget* parent)
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-QMenuBar* Page::menuBar() {
+MenuBar* Page::menuBar() {
   if (menuBar_ == nullptr) menuBar_ = new MenuBar(this);
   return menuBar_;
 }
@@ -79,6 +79,7 @@ QMenuBar* Page::menuBar() {
 bool Page::arrange() {
   int top = 0;
   if (menuBar_ != nullptr) {
+    menuBar_->scaleTo(height());
     top = menuBar_->heightForWidth(width());
     if (top <= 0) top = menuBar_->sizeHint().height();
     menuBar_->setGeometry(0, 0, width(), top);

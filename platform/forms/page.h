@@ -3,11 +3,10 @@
 #include <QColor>
 #include <QWidget>
 
-class QMenuBar;
-
 namespace platform {
 
 class Form;
+class MenuBar;
 
 // The client area of a form: its background, and the parent of its controls.
 class Canvas final : public QWidget {
@@ -45,7 +44,7 @@ class Page final : public QWidget {
 
   [[nodiscard]] Canvas* canvas() const { return canvas_; }
   // The menu bar, made at the first call: a form without menus has none.
-  [[nodiscard]] QMenuBar* menuBar();
+  [[nodiscard]] MenuBar* menuBar();
   [[nodiscard]] bool hasMenuBar() const { return menuBar_ != nullptr; }
   // Gives menu bar and client area their places in the page as it is now, also while it is hidden.
   // False when the client area had this size already.
@@ -57,7 +56,7 @@ class Page final : public QWidget {
 
  private:
   Form& form_;
-  QMenuBar* menuBar_ = nullptr;
+  MenuBar* menuBar_ = nullptr;
   Canvas* canvas_;
   QSize arranged_;
 };

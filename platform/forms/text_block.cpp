@@ -60,6 +60,28 @@ QColor readableOn(const QColor& ground) {
   return contrast(ground, Qt::black) >= contrast(ground, Qt::white) ? Qt::black : Qt::white;
 }
 
+bool isFaint(const QColor& ink, const QColor& ground) {
+  return contrast(ink, ground) < kReadable;
+}
+
+void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const QString& text,
+                   const QColor& ink, const QColor& ground) {
+  if (!isFaint(ink, ground)) {
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(baseLine, text);
+    return;
+  }
+  QPainterPath path;
+  path.addText(baseLine, font, text);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.strokePath(path, QPen(readableOn(ground), outlineOf(font), Qt::SolidLine, Qt::RoundCap,
+                                Qt::RoundJoin));
+  painter.fillPath(path, ink);
+  painter.restore();
+}
+
 QColor toColor(Rgb rgb) {
   return {rgb.red, rgb.green, rgb.blue};
 }
@@ -131,7 +153,7 @@ bool TextBlock::layOut() {
 void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
                       const QColor& ground) {
   if (height_ <= 0) return;
-  const bool faint = contrast(ink, ground) < kReadable;
+  const bool faint = isFaint(ink, ground);
   if (faint != outlined_) {
     outlined_ = faint;
     fit();
@@ -139,7 +161,6 @@ void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
   const QFontMetricsF metrics(font_);
   double baseLine = area.top() + (area.height() - height_) / 2 + above_;
   const int lines = layout_ ? layout_->lineCount() : 1;
-  painter.setFont(font_);
   for (int i = 0; i < lines; ++i, baseLine += lineHeight_) {
     int first = 0;
     QString part = text_;
@@ -153,19 +174,7 @@ void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
     double left = area.left() + margin_;
     if (align_ == Align::Centre) left = area.left() + (area.width() - width) / 2;
     if (align_ == Align::Right) left = area.left() + area.width() - margin_ - width;
-    if (faint) {
-      QPainterPath path;
-      path.addText(QPointF(left, baseLine), font_, part);
-      painter.save();
-      painter.setRenderHint(QPainter::Antialiasing);
-      painter.strokePath(path, QPen(readableOn(ground), outlineOf(font_),
-                                    Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-      painter.fillPath(path, ink);
-      painter.restore();
-    } else {
-      painter.setPen(ink);
-      painter.drawText(QPointF(left, baseLine), part);
-    }
+    paintReadable(painter, QPointF(left, baseLine), font_, part, ink, ground);
     if (mnemonic_ >= first && mnemonic_ < first + part.size()) {
       const double from = left + metrics.horizontalAdvance(part.left(mnemonic_ - first));
       const double to = left + metrics.horizontalAdvance(part.left(mnemonic_ - first + 1));

@@ -45,6 +45,13 @@ class TextBlock {
   double above_ = 0;
 };
 
+// Paints one line of text from the left end of its base line; with an outline where ink and ground
+// alone would be too faint to read.
+void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const QString& text,
+                   const QColor& ink, const QColor& ground);
+// Whether text of this ink needs the outline on this ground.
+[[nodiscard]] bool isFaint(const QColor& ink, const QColor& ground);
+
 // The ratio of two colours' luminance, 1 to 21 (WCAG 2, contrast ratio).
 [[nodiscard]] double contrast(const QColor& a, const QColor& b);
 // Black or white, whichever stands out more.

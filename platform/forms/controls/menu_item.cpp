@@ -2,7 +2,7 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QMenuBar>
+#include "platform/forms/menu_bar.h"
 
 #include "platform/forms/fonts.h"
 #include "platform/forms/form.h"

@@ -138,9 +138,9 @@ class ControlArrayTest : public QObject {
   void linesLieAboveLabelsAndBelowButtons() {
     Stage stage;
     TrialForm& form = stage.show(kOne);
-    QVERIFY(liesOver(form.Line, form.Words));
-    QVERIFY(liesOver(form.Line, form.Square[1]));
-    QVERIFY(liesOver(form.First, form.Line));
+    QVERIFY(liesOver(form.Stripe, form.Words));
+    QVERIFY(liesOver(form.Stripe, form.Square[1]));
+    QVERIFY(liesOver(form.First, form.Stripe));
   }
 
   void whatIsMadeAtRunTimeStaysBelowLinesAndButtons() {
@@ -148,7 +148,7 @@ class ControlArrayTest : public QObject {
     TrialForm& form = stage.show(kOne);
     for (int i = 2; i < 10; ++i) {
       const platform::Label& copy = form.Square.load(i);
-      QVERIFY(liesOver(form.Line, copy));
+      QVERIFY(liesOver(form.Stripe, copy));
       QVERIFY(liesOver(form.First, copy));
       QVERIFY(liesOver(form.Number[2], copy));
       QVERIFY(liesOver(copy, form.Square[0]));

@@ -1,7 +1,5 @@
 #include "trial_form.h"
 
-#include <QWidget>
-
 #include "platform/forms/runtime.h"
 
 namespace trial {
@@ -25,7 +23,7 @@ constexpr auto kControls = std::to_array<Row>({
     number(0),
     number(1),
     number(2),
-    row<&TrialForm::Line>({600, 1800, 2400, 30}, {}),
+    row<&TrialForm::Stripe>({600, 1800, 2400, 30}, {}),
     row<&TrialForm::Words>({600, 300, 4800, 600},
                            {.caption = "Words", .font = {Face::Tahoma, 14.25}}),
     row<&TrialForm::Square>(0, {600, 1200, 705, 705},
@@ -66,10 +64,6 @@ constexpr FormDesign designOf(std::string_view name, std::string_view caption) {
 constinit const FormDesign kOne = designOf("One", "The first form");
 constinit const FormDesign kTwo = designOf("Two", "The second form");
 constinit const FormDesign kThree = designOf("Three", "The third form");
-
-QWidget* Stroke::create(QWidget* parent) {
-  return new QWidget(parent);
-}
 
 TrialForm::TrialForm(Runtime& runtime, const FormDesign& design, QStringList& log)
     : Form(runtime, design), log_(log) {}

@@ -6,6 +6,7 @@
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/image.h"
 #include "platform/forms/controls/label.h"
+#include "platform/forms/controls/line.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/controls/picture_box.h"
 #include "platform/forms/controls/rich_text_box.h"
@@ -16,23 +17,13 @@
 // A form of the tests' own, with a little of everything.
 namespace trial {
 
-// A line over painted things, which no kind of control of the ground's own is yet.
-class Stroke final : public platform::Control {
- public:
-  using Control::Control;
-  [[nodiscard]] int layer() const override { return 1; }
-
- protected:
-  [[nodiscard]] QWidget* create(QWidget* parent) override;
-};
-
 // Writes the events of its life into a log, as "One.Load", and does what a test hands in.
 class TrialForm final : public platform::Form {
  public:
   TrialForm(platform::Runtime& runtime, const platform::FormDesign& design, QStringList& log);
 
   platform::Label Words{*this};
-  Stroke Line{*this};
+  platform::Line Stripe{*this};
   platform::ControlArray<platform::Label> Square{*this};
   platform::Image Sign{*this};
   platform::Button First{*this};

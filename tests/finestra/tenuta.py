@@ -1,0 +1,103 @@
+#!/usr/bin/python3
+"""Holds Space, Enter and an access key down on a real display and counts what comes of it.
+
+    tenuta.py <program> [--desktop NAME] [--volte N] [--secondi S]
+
+Each hold must be exactly one click, at a fast repeat rate, idle and with both processors busy: Enter
+and the access key at the press, Space at the release. Ends with 0 when all were.
+"""
+
+import argparse
+import os
+import subprocess
+import sys
+import threading
+import time
+
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "tools", "prova"))
+
+from schermo import Schermo, termina  # noqa: E402
+
+# Key by key: what is pressed together, and whether the click comes at the press.
+TASTI = [("space", ["space"], False), ("Return", ["Return"], True), ("Alt+C", ["alt", "c"], True)]
+# The repeat of a held key: after so many milliseconds, so often a second.
+RIPETIZIONE = ("150", "60")
+
+
+def carichi(quanti):
+    return [subprocess.Popen([sys.executable, "-c", "while True: pass"]) for _ in range(quanti)]
+
+
+class Conta:
+    """The program that counts, and its clicks as they come."""
+
+    def __init__(self, schermo, programma):
+        self._processo = schermo.avvia(programma, stdout=subprocess.PIPE, text=True)
+        self.clic = 0
+        self._pronta = threading.Event()
+        threading.Thread(target=self._leggi, daemon=True).start()
+        if not self._pronta.wait(30):
+            raise SystemExit("the window does not come up")
+        subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Conta",
+                        "windowfocus", "--sync"], check=True, timeout=30,
+                       stdout=subprocess.DEVNULL)
+        time.sleep(0.3)
+
+    def _leggi(self):
+        for riga in self._processo.stdout:
+            if riga.strip() == "ready":
+                self._pronta.set()
+            elif riga.strip() == "click":
+                self.clic += 1
+
+    def chiudi(self):
+        termina(self._processo)
+
+
+def tieni(conta, tasti, secondi):
+    """Clicks until the release, and in all."""
+    prima = conta.clic
+    for tasto in tasti:
+        subprocess.run(["xdotool", "keydown", tasto], check=True, timeout=30)
+    time.sleep(secondi)
+    al_rilascio = conta.clic - prima
+    for tasto in reversed(tasti):
+        subprocess.run(["xdotool", "keyup", tasto], check=True, timeout=30)
+    time.sleep(0.3)
+    return al_rilascio, conta.clic - prima
+
+
+def main():
+    opzioni = argparse.ArgumentParser()
+    opzioni.add_argument("programma")
+    opzioni.add_argument("--desktop", default="")
+    opzioni.add_argument("--volte", type=int, default=2)
+    opzioni.add_argument("--secondi", type=float, default=3)
+    scelte = opzioni.parse_args()
+
+    sbagliate = 0
+    with Schermo(800, 600) as schermo:
+        os.environ["XDG_CURRENT_DESKTOP"] = scelte.desktop
+        subprocess.run(["xset", "r", "rate", *RIPETIZIONE], check=True, timeout=30)
+        conta = Conta(schermo, scelte.programma)
+        for occupati in (0, os.cpu_count() or 2):
+            pesi = carichi(occupati)
+            try:
+                for nome, tasti, alla_pressione in TASTI:
+                    for _ in range(scelte.volte):
+                        prima, tutti = tieni(conta, tasti, scelte.secondi)
+                        giusto = tutti == 1 and prima == (1 if alla_pressione else 0)
+                        sbagliate += not giusto
+                        print(f"{scelte.desktop or 'no desktop'}, {occupati} busy, {nome}: {prima}"
+                              f" before the release, {tutti} in all {'' if giusto else 'WRONG'}",
+                              flush=True)
+            finally:
+                for peso in pesi:
+                    peso.kill()
+                    peso.wait()
+        conta.chiudi()
+    return 1 if sbagliate else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
