@@ -63,7 +63,14 @@ void buildCopy(Control& copy, const Control& original, int index) {
   look.fore = original.foreColor();
   look.back = look.back ? std::optional(original.backColor()) : std::nullopt;
   const QString& name = original.name();
-  copy.build(original.surroundings(), name.left(name.indexOf(u'(')), index, original.designPlace(), look);
+  copy.build(original.surroundings(), name.left(name.indexOf(u'(')), index, original.designPlace(),
+             look);
+  copy.setCaption(original.caption());
+  copy.setToolTip(original.toolTip());
+  copy.setTag(original.tag());
+  copy.setEnabled(original.isEnabled());
+  copy.setFontSize(original.fontSize());
+  copy.setMousePointer(original.mousePointer());
   original.form().adopt(copy);
 }
 

@@ -114,6 +114,8 @@ class Control {
   virtual void access() {}
   // The window lost the keyboard while keys were down: they are let go without effect.
   virtual void keysLetGo() {}
+  // The form was unloaded: what runs by itself stops.
+  virtual void formGone() {}
 
  protected:
   [[nodiscard]] ControlHost& host() const { return host_; }
