@@ -5,11 +5,18 @@
 
 #include "app/form_avvio.h"
 #include "app/form_info.h"
+#include "app/form_menu.h"
+#include "app/form_menu_abaco.h"
+#include "app/form_menu_barre.h"
+#include "app/form_menu_numeri.h"
+#include "app/form_menu_plu.h"
+#include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "exercises/bars/form_barre20.h"
 #include "exercises/numbers/form_numeri_addendo.h"
 #include "exercises/numbers/form_numeri_totale.h"
+#include "exercises/table/form_tabella.h"
 
 namespace somme {
 
@@ -28,23 +35,17 @@ std::shared_ptr<platform::Form> Crea(Ambiente& ambiente) {
 constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormAvvio, Crea<FormAvvio>},
     {forme::kFormInfo, Crea<FormInfo>},
+    {forme::kFormMenu, Crea<FormMenu>},
+    {forme::kFormMenuNumeri, Crea<FormMenuNumeri>},
+    {forme::kFormMenuAbaco, Crea<FormMenuAbaco>},
+    {forme::kFormMenuPLU, Crea<FormMenuPLU>},
+    {forme::kFormMenuBarre, Crea<FormMenuBarre>},
+    {forme::kFormMenuTabella, Crea<FormMenuTabella>},
     {forme::kFormNumeriTotale, Crea<FormNumeriTotale>},
     {forme::kFormNumeriAddendo, Crea<FormNumeriAddendo>},
     {forme::kFormBarre10, Crea<FormBarre10>},
     {forme::kFormBarre20, Crea<FormBarre20>},
-});
-
-// The first exercise, until a menu chooses.
-std::shared_ptr<platform::Form> PrimoEsercizio(Ambiente& ambiente) {
-  ambiente.stato.LimiteEsercizio = 10;
-  return std::make_shared<FormBarre10>(ambiente);
-}
-
-// Where the roads to the menus lead as long as there are none.
-constexpr auto kAlPostoDeiMenu = std::to_array<Voce>({
-    {forme::kFormMenu, PrimoEsercizio},
-    {forme::kFormMenuNumeri, Crea<FormAvvio>},
-    {forme::kFormMenuBarre, Crea<FormAvvio>},
+    {forme::kFormTabella, Crea<FormTabella>},
 });
 
 }  // namespace
@@ -52,9 +53,7 @@ constexpr auto kAlPostoDeiMenu = std::to_array<Voce>({
 std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view nome) {
   const auto uguale = [nome](const Voce& voce) { return voce.nome == nome; };
   const auto forma = std::find_if(kForme.begin(), kForme.end(), uguale);
-  if (forma != kForme.end()) return forma->crea(ambiente);
-  const auto strada = std::find_if(kAlPostoDeiMenu.begin(), kAlPostoDeiMenu.end(), uguale);
-  return strada == kAlPostoDeiMenu.end() ? nullptr : strada->crea(ambiente);
+  return forma == kForme.end() ? nullptr : forma->crea(ambiente);
 }
 
 std::vector<std::string_view> NomiDelleForme() {

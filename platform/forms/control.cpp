@@ -52,14 +52,25 @@ void Control::build(QWidget* parent, const QString& name, int index, const Twips
   }
 }
 
+QWidget* Control::surroundings() const {
+  return widget_ ? widget_->parentWidget() : nullptr;
+}
+
 void buildCopy(Control& copy, const Control& original, int index) {
   Look look = original.look();
   look.hidden = true;
+  look.shortcut = {};
   look.fore = original.foreColor();
   look.back = look.back ? std::optional(original.backColor()) : std::nullopt;
   const QString& name = original.name();
-  QWidget* parent = original.widget()->parentWidget();
-  copy.build(parent, name.left(name.indexOf(u'(')), index, original.designPlace(), look);
+  copy.build(original.surroundings(), name.left(name.indexOf(u'(')), index, original.designPlace(),
+             look);
+  copy.setCaption(original.caption());
+  copy.setToolTip(original.toolTip());
+  copy.setTag(original.tag());
+  copy.setEnabled(original.isEnabled());
+  copy.setFontSize(original.fontSize());
+  copy.setMousePointer(original.mousePointer());
   original.form().adopt(copy);
 }
 

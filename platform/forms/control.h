@@ -94,6 +94,8 @@ class Control {
   [[nodiscard]] QWidget* widget() const { return widget_; }
   // The widget that the rows of contained controls are made in.
   [[nodiscard]] virtual QWidget* container() const { return widget_; }
+  // What a copy of this control, made at run time, is made in.
+  [[nodiscard]] virtual QWidget* surroundings() const;
 
   // Called by the form: makes the control from its row, or as a copy of element 0 at run time.
   void build(QWidget* parent, const QString& name, int index, const TwipsRect& place,
@@ -112,6 +114,8 @@ class Control {
   virtual void access() {}
   // The window lost the keyboard while keys were down: they are let go without effect.
   virtual void keysLetGo() {}
+  // The form was unloaded: what runs by itself stops.
+  virtual void formGone() {}
 
  protected:
   [[nodiscard]] ControlHost& host() const { return host_; }

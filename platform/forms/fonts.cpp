@@ -29,7 +29,7 @@ QFont fontOf(const FontSpec& spec, double pixels) {
 }
 
 Ink inkOf(const QFont& font) {
-  const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈgjpqy"));
+  const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈÇ(gjpqy"));
   return {-ink.top(), ink.bottom()};
 }
 

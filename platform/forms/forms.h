@@ -33,6 +33,9 @@ class Forms {
   // A form for reading something of it: loaded without being shown where it was not.
   [[nodiscard]] Form& loaded(std::string_view name);
 
+  // Whether the program has a form of that name. One is made for the answer and thrown away.
+  [[nodiscard]] bool knows(std::string_view name) const { return factory_(name) != nullptr; }
+
   // The form on the screen, or null.
   [[nodiscard]] Form* current() const;
   // Every form now loaded, hidden ones too, in the order of their loading.

@@ -1,6 +1,5 @@
 #include "platform/forms/page.h"
 
-#include <QApplication>
 #include <QMenuBar>
 #include <QPaintEvent>
 #include <QPainter>
@@ -11,6 +10,13 @@
 #include "platform/forms/text_block.h"
 
 namespace platform {
+
+namespace {
+
+constexpr QColor kGradientFirst(255, 255, 255);
+constexpr QColor kGradientLast(255, 255, 0);
+
+}  // namespace
 
 Canvas::Canvas(Form& form, QWidget* parent) : QWidget(parent), form_(form) {
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -32,26 +38,28 @@ void Canvas::paintEvent(QPaintEvent* event) {
     const int bottom = qRound((i + 1) * band);
     painter.fillRect(QRect(0, top, gradient_.width(), bottom - top), QColor(255, 255, 255 - i));
   }
-  const QColor kLast(255, 255, 0);
   if (exposed.right() >= gradient_.width()) {
     painter.fillRect(QRect(gradient_.width(), exposed.top(),
                            exposed.right() - gradient_.width() + 1, exposed.height()),
-                     kLast);
+                     kGradientLast);
   }
   if (exposed.bottom() >= gradient_.height()) {
     painter.fillRect(QRect(exposed.left(), gradient_.height(), exposed.width(),
                            exposed.bottom() - gradient_.height() + 1),
-                     kLast);
+                     kGradientLast);
   }
 }
 
 // Tab goes round the controls of this form in the order of its design, and stays in a covering
 // panel while one is open.
 bool Canvas::focusNextPrevChild(bool next) {
+  return passFocus(window()->focusWidget(), next);
+}
+
+bool Canvas::passFocus(QWidget* from, bool next) {
   const Control* cover = form_.covering();
   const QWidget* room = cover != nullptr ? cover->container() : this;
-  QWidget* start = QApplication::focusWidget();
-  if (start == nullptr || !isAncestorOf(start)) start = this;
+  QWidget* start = from != nullptr && isAncestorOf(from) ? from : this;
   QWidget* widget = start;
   do {
     widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
@@ -74,7 +82,7 @@ MenuBar* Page::menuBar() {
   return menuBar_;
 }
 
-void Page::arrange() {
+bool Page::arrange() {
   int top = 0;
   if (menuBar_ != nullptr) {
     menuBar_->scaleTo(height());
@@ -87,16 +95,25 @@ void Page::arrange() {
   canvas_->setGeometry((room.width() - client.width()) / 2,
                        top + (room.height() - client.height()) / 2, client.width(),
                        client.height());
+  const bool changed = client != arranged_;
+  arranged_ = client;
+  return changed;
 }
 
+// A page that comes up gets its resize event late: its form has taken the size already.
 void Page::resizeEvent(QResizeEvent* /*event*/) {
-  arrange();
-  form_.takeSize();
+  if (arrange()) form_.takeSize();
 }
 
 void Page::paintEvent(QPaintEvent* event) {
-  // Only the letterbox shows of the page itself.
-  QPainter(this).fillRect(event->rect(), toColor(form_.design().back).darker(115));
+  // Only the letterbox shows of the page itself. A gradient goes on in its colours at the ends.
+  QPainter painter(this);
+  if (!canvas_->hasGradient()) {
+    painter.fillRect(event->rect(), toColor(form_.design().back).darker(115));
+    return;
+  }
+  painter.fillRect(event->rect(), kGradientLast);
+  painter.fillRect(event->rect() & QRect(0, 0, width(), canvas_->y()), kGradientFirst);
 }
 
 }  // namespace platform

@@ -27,12 +27,16 @@ class TextBlock {
   [[nodiscard]] QSizeF size() const { return {width_, height_}; }
 
  private:
-  [[nodiscard]] bool layOut(double widest);
+  void fit();
+  [[nodiscard]] bool layOut();
 
   QString text_;
   int mnemonic_ = -1;  // where the underlined character stands
+  QFont wanted_;
   QFont font_;
   QSize room_;
+  bool outlined_ = false;
+  double margin_ = 0;  // what the outline takes at each side
   Align align_ = Align::Left;
   std::unique_ptr<QTextLayout> layout_;  // only for more than one line
   double width_ = 0;

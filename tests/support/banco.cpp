@@ -11,7 +11,7 @@
 
 namespace prova {
 
-Banco::Banco(QSize lato) {
+Banco::Banco(QSize lato, Forme forme) {
   somme::PreparaImmagini();
   platform::applyAppearance();
   const QDir lingue(QStringLiteral(SOMME_LINGUE));
@@ -21,7 +21,9 @@ Banco::Banco(QSize lato) {
   }
   ambiente = std::make_unique<somme::Ambiente>(
       somme::Servizi{tempo, sorte, suono, messaggi, documenti, fine, istanza, cartella.path()},
-      [this](std::string_view nome) { return somme::CreaForma(*ambiente, nome); });
+      [this, forme = std::move(forme)](std::string_view nome) {
+        return forme ? forme(*ambiente, nome) : somme::CreaForma(*ambiente, nome);
+      });
   ambiente->fondo.window().setMinimumSize(1, 1);
   ambiente->fondo.window().resize(lato);
   ambiente->fondo.window().showNormal();
@@ -67,6 +69,10 @@ void Banco::doppioClic(const platform::Control& controllo) {
 
 void Banco::premi(int tasto, Qt::KeyboardModifiers con) {
   QTest::keyPress(finestra(), Qt::Key(tasto), con);
+}
+
+void Banco::ripeti(int tasto, Qt::KeyboardModifiers con) {
+  qt_handleKeyEvent(finestra(), QEvent::KeyPress, tasto, con, QString(), true);
 }
 
 void Banco::lascia(int tasto, Qt::KeyboardModifiers con) {

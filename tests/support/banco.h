@@ -2,6 +2,7 @@
 
 #include <QTemporaryDir>
 #include <QTest>
+#include <functional>
 
 #include "app/shared/ambiente.h"
 #include "app/shared/mod_language_support.h"
@@ -18,7 +19,10 @@ class Banco {
  public:
   // lato: the size of the window. The folder holds the program's language files; the language is
   // Italian.
-  explicit Banco(QSize lato = {1024, 768});
+  // forme: makes the forms in the place of the program's own table.
+  using Forme = std::function<std::shared_ptr<platform::Form>(somme::Ambiente& ambiente,
+                                                              std::string_view nome)>;
+  explicit Banco(QSize lato = {1024, 768}, Forme forme = {});
   ~Banco();
 
   // Reads the shared strings, as the entry routine does, and shows a form.
@@ -43,6 +47,8 @@ class Banco {
   void cliccaIn(QPoint punto);
   void doppioClic(const platform::Control& controllo);
   void premi(int tasto, Qt::KeyboardModifiers con = {});
+  // A repeat of a key that is held, as the desktop flags it.
+  void ripeti(int tasto, Qt::KeyboardModifiers con = {});
   void lascia(int tasto, Qt::KeyboardModifiers con = {});
   void batti(int tasto, Qt::KeyboardModifiers con = {});
   void scrivi(const QString& testo);

@@ -44,9 +44,11 @@ void ButtonWidget::letGo() {
 }
 
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
+  // A command has no release.
+  const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
   if (isEnter(*event)) {
     clicked_();
-  } else if (event->key() == Qt::Key_Space) {
+  } else if (event->key() == Qt::Key_Space && !command) {
     setDown(true);
   } else {
     // Not QAbstractButton's: its arrow keys move among buttons, which no form asks for.

@@ -6,6 +6,7 @@
 
 #include "platform/forms/fonts.h"
 #include "platform/forms/form.h"
+#include "platform/forms/runtime.h"
 
 namespace platform {
 
@@ -36,7 +37,7 @@ QWidget* MenuItem::create(QWidget* parent) {
 }
 
 void MenuItem::click() {
-  if (isEnabled() && isVisible()) raiseEvent(clicked_);
+  if (isEnabled() && isVisible() && !runtime().forms().isChanging()) raiseEvent(clicked_);
 }
 
 void MenuItem::setChecked(bool checked) {
@@ -63,6 +64,10 @@ void MenuItem::setVisible(bool visible) {
 void MenuItem::setEnabled(bool enabled) {
   Control::setEnabled(enabled);
   if (action_) action_->setEnabled(enabled);
+}
+
+QWidget* MenuItem::surroundings() const {
+  return qobject_cast<QWidget*>(action_->parent());
 }
 
 QWidget* MenuItem::container() const {

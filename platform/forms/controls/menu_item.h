@@ -32,6 +32,7 @@ class MenuItem : public Control {
   void setVisible(bool visible) override;
   void setEnabled(bool enabled) override;
   [[nodiscard]] QWidget* container() const override;
+  [[nodiscard]] QWidget* surroundings() const override;
 
  protected:
   [[nodiscard]] QWidget* create(QWidget* parent) override;

@@ -61,7 +61,7 @@ bool isModifier(int key) {
 
 }  // namespace
 
-KeyGuard::KeyGuard(Runtime& runtime) : runtime_(runtime), state_(askForRepeatMarks()) {
+KeyGuard::KeyGuard(Runtime& runtime, RepeatMarks marks) : runtime_(runtime), state_(marks) {
   qApp->installEventFilter(this);
   focus_ = QGuiApplication::focusWindow();
   connect(qApp, &QGuiApplication::focusWindowChanged, this, &KeyGuard::windowChanged);

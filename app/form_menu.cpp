@@ -1,0 +1,215 @@
+#include "app/form_menu.h"
+
+#include "app/disegno_menu.h"
+#include "app/shared/mod_language_support.h"
+#include "app/shared/modulo_navigate.h"
+#include "app/shared/nomi_forme.h"
+#include "platform/base/files_in_folder.h"
+#include "platform/base/numbers.h"
+
+namespace somme {
+
+using namespace disegno;
+using platform::StoredProperty;
+
+namespace {
+
+constexpr Rgb kGrigioPannello{224, 224, 224};
+
+// Quarters of a second; the large step is a whole one.
+constexpr auto kScala = std::to_array<StoredProperty>({
+    {"Min", std::int16_t{4}},
+    {"Max", std::int16_t{60}},
+    {"SmallChange", std::int16_t{1}},
+    {"LargeChange", std::int16_t{4}},
+});
+
+constexpr Look Voce(std::string_view testo, std::string_view figura) {
+  return {.caption = testo, .font = {Face::Tahoma, 14.25, true}, .picture = figura};
+}
+constexpr TwipsRect Posto(double sinistra, double alto) {
+  return {sinistra, alto, 2580, 1155};
+}
+
+constexpr auto kControlli = std::to_array<Row>({
+    row<&FormMenu::Command2>(Posto(240, 360), Voce("Uso delle barre", "menu_barre")),
+    row<&FormMenu::Command6>(Posto(3480, 360), Voce("Tabella", "menu_tabella")),
+    row<&FormMenu::Command4>(Posto(240, 1680), Voce("Piatti, lunghi, unità", "menu_blocchi")),
+    row<&FormMenu::Command3>(Posto(3480, 1680), Voce("Solo numeri", "menu_numeri")),
+    row<&FormMenu::Command5>(Posto(240, 3000), Voce("Abaco", "menu_abaco")),
+    row<&FormMenu::Command1>(Posto(6600, 4680), Voce("Esci", "esci")),
+    row<&FormMenu::PictureTempoScansione>(
+        {0, 0, 9780, 6210},
+        {.toolTip = "Tempo di scansione", .back = kGrigioPannello, .hidden = true}),
+    row<&FormMenu::HScrollScansione>({240, 2520, 7095, 345},
+                                     {.toolTip = "Velocità di scansione",
+                                      .in = nameOf<&FormMenu::PictureTempoScansione>,
+                                      .stored = kScala}),
+    row<&FormMenu::LabelTempoScansione>({240, 2880, 7095, 345},
+                                        {.font = {Face::Tahoma, 9.75},
+                                         .back = kGrigioPannello,
+                                         .in = nameOf<&FormMenu::PictureTempoScansione>}),
+    row<&FormMenu::CommandConfermaTempoInput>({6120, 5280, 2580, 795},
+                                              {.caption = "Conferma",
+                                               .font = {Face::Tahoma, 14.25},
+                                               .picture = "conferma",
+                                               .in = nameOf<&FormMenu::PictureTempoScansione>}),
+});
+
+constexpr auto kMenu = std::to_array<Row>({
+    item<&FormMenu::mnuImpostazioni>({.caption = "Impostazioni"}),
+    item<&FormMenu::MnuSuoni>(
+        {.caption = "Suoni", .in = nameOf<&FormMenu::mnuImpostazioni>, .shortcut = "Ctrl+S"}),
+    item<&FormMenu::mnuUsaCursoreDiSistema>({.caption = "Usa cursore di sistema",
+                                             .in = nameOf<&FormMenu::mnuImpostazioni>,
+                                             .shortcut = "Ctrl+K"}),
+    item<&FormMenu::mnuModInput>(
+        {.caption = "Modalità di input", .in = nameOf<&FormMenu::mnuImpostazioni>}),
+    item<&FormMenu::mnuInput>(0, {.caption = "mouse / tastiera",
+                                  .in = nameOf<&FormMenu::mnuModInput>,
+                                  .shortcut = "Ctrl+D"}),
+    item<&FormMenu::mnuInput>(1, {.caption = "scansione manuale",
+                                  .in = nameOf<&FormMenu::mnuModInput>,
+                                  .shortcut = "Ctrl+M"}),
+    item<&FormMenu::mnuInput>(2, {.caption = "scansione automatica",
+                                  .in = nameOf<&FormMenu::mnuModInput>,
+                                  .shortcut = "Ctrl+A"}),
+    item<&FormMenu::mnuInput>(3, {.caption = "Tastiera HelpiKeys",
+                                  .in = nameOf<&FormMenu::mnuModInput>,
+                                  .shortcut = "Ctrl+H"}),
+    item<&FormMenu::mnuLinea1>(
+        {.caption = "--------------------------------", .in = nameOf<&FormMenu::mnuModInput>}),
+    item<&FormMenu::mnuTempoScansione>(
+        {.caption = "tempo scansione", .in = nameOf<&FormMenu::mnuModInput>, .shortcut = "Ctrl+T"}),
+    item<&FormMenu::mnuInfo>({.caption = "Informazioni"}),
+    item<&FormMenu::MnuDoc>({.caption = "documentazione", .in = nameOf<&FormMenu::mnuInfo>}),
+    item<&FormMenu::mnuAbout>({.caption = "about", .in = nameOf<&FormMenu::mnuInfo>}),
+    item<&FormMenu::mnuLanguages>({.caption = "Lingua"}),
+    item<&FormMenu::mnuLanguage>(
+        0, {.caption = "mnuLanguage 0", .in = nameOf<&FormMenu::mnuLanguages>}),
+});
+
+constexpr std::array<std::span<const Row>, 2> kTavole{kControlli, kMenu};
+constexpr FormDesign kDisegno = Menu(forme::kFormMenu, 9780, 6210, kTavole);
+
+}  // namespace
+
+FormMenu::FormMenu(Ambiente& ambiente) : Forma(ambiente, kDisegno) {
+  Command1.onClick([this] { this->ambiente().fondo.endProcess(0); });
+  Command2.onClick([this] { VaiA(forme::kFormMenuBarre); });
+  Command3.onClick([this] { VaiA(forme::kFormMenuNumeri); });
+  Command4.onClick([this] { VaiA(forme::kFormMenuPLU); });
+  Command5.onClick([this] { VaiA(forme::kFormMenuAbaco); });
+  Command6.onClick([this] { VaiA(forme::kFormMenuTabella); });
+  HScrollScansione.onChange([this] { CambiaTempo(); });
+  CommandConfermaTempoInput.onClick([this] { PictureTempoScansione.setVisible(false); });
+  CollegaMenu();
+}
+
+void FormMenu::CollegaMenu() {
+  MnuSuoni.onClick([this] { InvertiSuoni(); });
+  mnuUsaCursoreDiSistema.onClick([this] { InvertiCursore(); });
+  for (int i = 0; i <= kHelpiKeys; ++i) {
+    mnuInput.element(i).onClick([this, i] { ScegliModalita(i); });
+  }
+  mnuTempoScansione.onClick([this] { ApriTempoScansione(); });
+  MnuDoc.onClick([this] {
+    ApriDocumento(ambiente(), ambiente().servizi.cartella + QStringLiteral("/somme.pdf"));
+  });
+  mnuAbout.onClick([this] { VaiA(forme::kFormInfo); });
+  mnuLanguage.element(0).onClick([this] { ScegliLingua(0); });
+}
+
+void FormMenu::onLoad() {
+  MLSFillMenuLanguages();
+  Forma::onLoad();
+  stato().ContaEsatti = 0;
+  stato().ContaErrati = 0;
+  MnuSuoni.setCaption(TestoLingua(
+      ambiente(), stato().SuoniAttivi ? QStringLiteral("0032") : QStringLiteral("0033")));
+  mnuUsaCursoreDiSistema.setChecked(stato().CursoreDiSistema);
+  ImpostaCursoreSistema();
+  mnuInput[stato().ModalitaInput].setChecked(true);
+}
+
+void FormMenu::onActivate() {
+  paintGradient();
+  Command6.setVisible(stato().ModalitaInput == kMouseTastiera);
+}
+
+void FormMenu::MLSFillMenuLanguages() {
+  const QString estensione = QStringLiteral(".lng");
+  const QStringList file = platform::filesInFolder(ambiente().servizi.cartella, estensione);
+  if (file.isEmpty()) {
+    ambiente().fondo.showBox({QStringLiteral("Non è presente alcun file di linguaggio!")});
+    return;
+  }
+  for (int i = 0; i < file.size(); ++i) {
+    if (i > 0) {
+      mnuLanguage.load(i).setVisible(true);
+      mnuLanguage[i].onClick([this, i] { ScegliLingua(i); });
+    }
+    mnuLanguage[i].setCaption(file[i].chopped(estensione.size()));
+  }
+  stato().LinguaCorrente = LinguaScelta(ambiente());
+  for (int i = 0; i < file.size(); ++i) {
+    if (mnuLanguage[i].caption() != stato().LinguaCorrente) continue;
+    mnuLanguage[i].setChecked(true);
+    return;
+  }
+}
+
+// The words after a click differ from those at the next load: they may tell what the click did.
+void FormMenu::InvertiSuoni() {
+  stato().SuoniAttivi = !stato().SuoniAttivi;
+  MnuSuoni.setCaption(TestoLingua(
+      ambiente(), stato().SuoniAttivi ? QStringLiteral("0034") : QStringLiteral("0035")));
+}
+
+void FormMenu::InvertiCursore() {
+  stato().CursoreDiSistema = !stato().CursoreDiSistema;
+  mnuUsaCursoreDiSistema.setChecked(stato().CursoreDiSistema);
+  ImpostaCursoreSistema();
+}
+
+void FormMenu::ScegliModalita(int indice) {
+  stato().ModalitaInput = static_cast<qint16>(indice);
+  mnuInput.forEach([](platform::MenuItem& voce) { voce.setChecked(false); });
+  mnuInput[indice].setChecked(true);
+  Command6.setVisible(indice == kMouseTastiera);
+}
+
+void FormMenu::ApriTempoScansione() {
+  PictureTempoScansione.setPlace(0, 0, width(), height());
+  ScriviTempo();
+  HScrollScansione.setValue(stato().TempoScansione);
+  PictureTempoScansione.cover();
+}
+
+// The interval changes while the bar moves; there is no way back but to move it back.
+void FormMenu::CambiaTempo() {
+  stato().TempoScansione = platform::toInt16(HScrollScansione.value());
+  ScriviTempo();
+  if (HScrollScansione.hasFocus()) announce(LabelTempoScansione.caption());
+}
+
+// Neither word goes through the language file.
+void FormMenu::ScriviTempo() {
+  LabelTempoScansione.setCaption(QStringLiteral("Velocità scansione: ") +
+                                 platform::formatPicture(stato().TempoScansione / 4.0, u"##0.00") +
+                                 QStringLiteral(" secondi"));
+}
+
+// Every form now loaded changes its language, hidden ones too.
+void FormMenu::ScegliLingua(int indice) {
+  mnuLanguage.forEach([](platform::MenuItem& voce) { voce.setChecked(false); });
+  mnuLanguage[indice].setChecked(true);
+  const QString lingua = mnuLanguage[indice].caption();
+  stato().LinguaCorrente = lingua;
+  for (const std::shared_ptr<platform::Form>& forma : ambiente().fondo.forms().all()) {
+    ApplicaLingua(ambiente(), *forma);
+  }
+  ScriviLinguaScelta(ambiente(), lingua);
+}
+
+}  // namespace somme

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/forma_menu.h"
+
+namespace somme {
+
+// The levels of the abacus. Element 0 of `Command1` is the way back.
+class FormMenuAbaco final : public FormaMenu {
+ public:
+  explicit FormMenuAbaco(Ambiente& ambiente);
+
+  platform::Label Label2{*this};
+  platform::Label Label3{*this};
+  platform::Label Label4{*this};
+  platform::ControlArray<platform::Button> Command1{*this};
+
+ protected:
+  void onLoad() override;
+  void onActivate() override;
+
+ private:
+  // chiave: of the part of the title that tells the group.
+  void Scegli(int indice, const QString& chiave);
+};
+
+}  // namespace somme

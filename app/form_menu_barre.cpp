@@ -1,0 +1,36 @@
+#include "app/form_menu_barre.h"
+
+#include "app/disegno_menu.h"
+#include "app/shared/nomi_forme.h"
+
+namespace somme {
+
+using namespace disegno;
+
+namespace {
+
+constexpr double kLarghezza = 6420;
+
+constexpr auto kControlli = std::to_array<Row>({
+    Intestazione(kLarghezza - 480, "Uso delle barre"),
+    row<&FormMenuBarre::Command2>({1560, 1440, 3300, 915}, VoceGrande("Fino al 10")),
+    row<&FormMenuBarre::Command4>({1560, 2640, 3300, 915}, VoceGrande("Fino al 20")),
+    row<&FormMenuBarre::Command1>({1560, 4440, 3300, 1155}, Indietro()),
+});
+
+constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
+constexpr FormDesign kDisegno = Menu(forme::kFormMenuBarre, kLarghezza, 5880, kTavole);
+
+}  // namespace
+
+FormMenuBarre::FormMenuBarre(Ambiente& ambiente) : FormaMenu(ambiente, kDisegno) {
+  Command1.onClick([this] { TornaAlMenu(); });
+}
+
+void FormMenuBarre::onLoad() {
+  FormaMenu::onLoad();
+  Apre(Command2, Famiglia::Barre10, [this] { stato().LimiteEsercizio = 10; });
+  Apre(Command4, Famiglia::Barre20, [this] { stato().LimiteEsercizio = 20; });
+}
+
+}  // namespace somme

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/forma_menu.h"
+
+namespace somme {
+
+// The levels of the number exercises: the sum to find (`Command1`) and the addend to find
+// (`Command2`). Element 0 of `Command1` is the way back; element 0 of `Command2` stays hidden.
+class FormMenuNumeri final : public FormaMenu {
+ public:
+  explicit FormMenuNumeri(Ambiente& ambiente);
+
+  platform::Label Label2{*this};
+  platform::Label Label3{*this};
+  platform::Label Label4{*this};
+  platform::Label Label5{*this};
+  platform::Label Label6{*this};
+  platform::ControlArray<platform::Button> Command1{*this};
+  platform::ControlArray<platform::Button> Command2{*this};
+
+ protected:
+  void onLoad() override;
+  void onActivate() override;
+
+ private:
+  // chiave: of the part of the title that tells the group.
+  void Scegli(int indice, const QString& chiave);
+};
+
+}  // namespace somme

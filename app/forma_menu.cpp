@@ -1,0 +1,33 @@
+#include "app/forma_menu.h"
+
+#include "app/shared/nomi_forme.h"
+
+namespace somme {
+
+FormaMenu::FormaMenu(Ambiente& ambiente, const platform::FormDesign& disegno)
+    : Forma(ambiente, disegno) {}
+
+void FormaMenu::onLoad() {
+  Forma::onLoad();
+  stato().ContaEsatti = 0;
+  stato().ContaErrati = 0;
+  ImpostaCursoreSistema();
+}
+
+void FormaMenu::onActivate() {
+  paintGradient();
+}
+
+void FormaMenu::Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta) {
+  pulsante.setEnabled(StradaAperta(ambiente(), famiglia));
+  pulsante.onClick([this, famiglia, scelta = std::move(scelta)] {
+    scelta();
+    VaiA(Strada(famiglia, stato().ModalitaInput));
+  });
+}
+
+void FormaMenu::TornaAlMenu() {
+  VaiA(forme::kFormMenu);
+}
+
+}  // namespace somme

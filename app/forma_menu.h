@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+
+#include "app/shared/forma.h"
+#include "app/strade.h"
+#include "platform/forms/controls/button.h"
+#include "platform/forms/controls/label.h"
+
+namespace somme {
+
+// What the five family menus share: a heading, the gradient, counters that start again, the way
+// back to the main menu, and buttons that each open the exercise of a level. Which levels there
+// are, and what they write into the shared state, is each menu's own.
+class FormaMenu : public Forma {
+ public:
+  FormaMenu(Ambiente& ambiente, const platform::FormDesign& disegno);
+
+  platform::Label Label1{*this};
+
+ protected:
+  void onLoad() override;
+  void onActivate() override;
+
+  // Makes a button open an exercise of a family: scelta writes the level down, then the form that
+  // fits the pupil's input mode is shown. Where there is no such form the button is disabled.
+  void Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta);
+  void TornaAlMenu();
+};
+
+}  // namespace somme

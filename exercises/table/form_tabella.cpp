@@ -1,0 +1,169 @@
+#include "exercises/table/form_tabella.h"
+
+#include "app/shared/mod_language_support.h"
+#include "app/shared/nomi_forme.h"
+#include "exercises/core/disegno_comune.h"
+#include "exercises/table/casi_tabella.h"
+#include "platform/base/numbers.h"
+
+namespace somme {
+
+using namespace disegno;
+
+namespace {
+
+constexpr int kCelle = 100;
+constexpr int kPerRiga = 10;
+
+constexpr Rgb kRosa{255, 192, 255};
+constexpr Rgb kGiallo{255, 255, 0};
+constexpr Rgb kAperta{192, 255, 255};
+
+constexpr auto kCelleDisegno = [] {
+  std::array<Row, kCelle> righe{};
+  for (int i = 0; i < kCelle; ++i) {
+    righe[static_cast<std::size_t>(i)] = row<&FormTabella::Numero>(
+        i, {120.0 + 600 * (i % kPerRiga), 120.0 + 600 * (i / kPerRiga), 615, 615},
+        {.caption = "0", .font = {Face::Arial, 12, true}, .back = kGiallo});
+  }
+  return righe;
+}();
+
+constexpr auto kControlli = std::to_array<Row>({
+    Si({7200, 360, 855, 855}),
+    No({7200, 360, 855, 855}),
+    Esatti({6600, 1320, 2415, 360}),
+    Errati({6600, 1680, 2415, 360}),
+    row<&FormTabella::Label3>({6600, 2880, 2415, 360},
+                              {.caption = "clicca sul risultato", .font = {Face::Arial, 9}}),
+    row<&FormTabella::EtichettaNumero>(
+        {6240, 3420, 2835, 840},
+        {.caption = "Forma il numero", .font = {Face::Tahoma, 24}, .align = Align::Centre}),
+    row<&FormTabella::PulsanteAvanti>(
+        {6720, 5280, 1935, 975},
+        {.caption = "a&vanti", .font = kTahoma14, .hidden = true, .picture = "avanti"}),
+    Pannello({0, 0, 9255, 6495}),
+    Elenco({360, 240, 5895, 5895}),
+    Stampa({6720, 4560, 2220, 855}),
+    Chiudi({6720, 5520, 2220, 855}),
+    item<&FormTabella::MenuAzzera>({.caption = "Azzera conteggio"}),
+    item<&FormTabella::mnuTabella>({.caption = "Tabella"}),
+    item<&FormTabella::mnuFacile>({.caption = "facile", .in = nameOf<&FormTabella::mnuTabella>}),
+    item<&FormTabella::mnuMedia>(
+        {.caption = "media", .checked = true, .in = nameOf<&FormTabella::mnuTabella>}),
+    item<&FormTabella::mnudifficile>(
+        {.caption = "difficile", .in = nameOf<&FormTabella::mnuTabella>}),
+    item<&FormTabella::mnuStampa>({.caption = "Stampa"}),
+    item<&FormTabella::mnuEsci>({.caption = "Esci"}),
+});
+
+constexpr std::array<std::span<const Row>, 2> kTavole{kCelleDisegno, kControlli};
+
+constexpr FormDesign kDisegno{.name = forme::kFormTabella,
+                              .caption = "Esercitazioni sulle somme",
+                              .width = 9315,
+                              .height = 6525,
+                              .back = kRosa,
+                              .tables = kTavole};
+
+}  // namespace
+
+FormTabella::FormTabella(Ambiente& ambiente)
+    : FormaEsercizio(ambiente, kDisegno, forme::kFormMenuTabella) {
+  for (int i = 0; i < kCelle; ++i) {
+    Numero.element(i).onClick([this, i] { Rispondi(i); });
+  }
+  PulsanteAvanti.onClick([this] {
+    PulsanteAvanti.setEnabled(false);
+    NuovoCaso();
+  });
+  mnuFacile.onClick([this] { ScegliDifficolta(mnuFacile); });
+  mnuMedia.onClick([this] { ScegliDifficolta(mnuMedia); });
+  mnudifficile.onClick([this] { ScegliDifficolta(mnudifficile); });
+}
+
+// The pointer is set whatever `CursoreDiSistema` says. There is one picture of the program's own
+// pointer, so that no cell needs to be handed another control's.
+void FormTabella::onLoad() {
+  ApplicaLingua(ambiente(), *this);
+  EssResizer1.start();
+  ImpostaCursoreSistema();
+  PrendiIcona();
+}
+
+void FormTabella::onActivate() {
+  PulsanteAvanti.setVisible(true);
+  paintGradient();
+  TestoStampa.setText(
+      QStringLiteral("\r\n%1\r\n\r\n").arg(TestoLingua(ambiente(), QStringLiteral("0040"))));
+  AzzeraConteggio();
+  RiempiTabella();
+  NuovoCaso();
+}
+
+void FormTabella::RiempiTabella() {
+  const auto mostra = [this](int i) {
+    if (mnuFacile.isChecked()) return true;
+    return mnuMedia.isChecked() && (i < kPerRiga || i % kPerRiga == 0);
+  };
+  for (int i = 0; i < kCelle; ++i) {
+    Numero[i].setCaption(mostra(i) ? platform::leadingBlank(i) : QString());
+  }
+}
+
+// The case stays, and so do the colours of its cells.
+void FormTabella::ScegliDifficolta(const platform::MenuItem& scelta) {
+  for (platform::MenuItem* voce : {&mnuFacile, &mnuMedia, &mnudifficile}) {
+    voce->setChecked(voce == &scelta);
+  }
+  RiempiTabella();
+}
+
+void FormTabella::Es_Caso(int tipo) {
+  const std::optional<CasoTabella> caso = EstraiCasoTabella(ambiente().servizi.sorte, tipo);
+  if (!caso) return;
+  stato().RisultatoTabella = caso->risultato;
+  EtichettaNumero.setCaption(platform::leadingBlank(caso->a) +
+                             (caso->meno ? QStringLiteral(" - ") : QStringLiteral(" + ")) +
+                             platform::leadingBlank(caso->b) + QStringLiteral(" = "));
+}
+
+void FormTabella::NuovoCaso() {
+  newCase();
+  Es_Caso(stato().TipoEsercizio);
+  for (int i = 0; i < kCelle; ++i) {
+    Numero[i].setEnabled(true);
+    Numero[i].setBackColor(kAperta);
+  }
+}
+
+void FormTabella::Rispondi(int numero) {
+  if (numero == stato().RisultatoTabella) {
+    RispostaGiusta(numero);
+    return;
+  }
+  SegnaSbagliato([this, numero] {
+    Numero[numero].setBackColor(kRosso);
+    Numero[numero].setEnabled(false);
+  });
+}
+
+// The question keeps its open end and a cell without a number stays without one: the green cell is
+// all that shows the place.
+void FormTabella::RispostaGiusta(int numero) {
+  SegnaGiusto();
+  PulsanteAvanti.setEnabled(true);
+  TestoStampa.append(EtichettaNumero.caption() + platform::leadingBlank(numero) +
+                     QStringLiteral("\r\n"));
+  Numero[numero].setBackColor(kVerde);
+  for (int i = 0; i < kCelle; ++i) Numero[i].setEnabled(false);
+  PulsanteAvanti.setFocus();
+}
+
+// Unlike on other forms, closing the panel changes the case.
+void FormTabella::ChiudiPannelloStampa() {
+  FormaEsercizio::ChiudiPannelloStampa();
+  NuovoCaso();
+}
+
+}  // namespace somme

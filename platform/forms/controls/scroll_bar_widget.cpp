@@ -1,0 +1,139 @@
+#include "platform/forms/controls/scroll_bar_widget.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+constexpr double kCorner = 5;
+constexpr int kNarrowestThumb = 44;  // pixels
+constexpr double kThumbShape = 1.6;  // width to height
+constexpr int kRepeatAfter = 500;    // milliseconds that an arrow is held
+constexpr int kRepeatEvery = 120;
+constexpr QColor kEdge(70, 70, 70);
+constexpr QColor kFace(238, 240, 244);
+constexpr QColor kGroove(250, 250, 250);
+constexpr QColor kThumb(74, 151, 245);
+constexpr QColor kInk(24, 33, 59);
+
+}  // namespace
+
+ScrollBarWidget::ScrollBarWidget(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+QRect ScrollBarWidget::lessArrow() const {
+  return {0, 0, std::min(height() * 3 / 2, width() / 6), height()};
+}
+
+QRect ScrollBarWidget::moreArrow() const {
+  const int side = lessArrow().width();
+  return {width() - side, 0, side, height()};
+}
+
+QRect ScrollBarWidget::way() const {
+  const int side = lessArrow().width();
+  return {side, 0, std::max(1, width() - 2 * side), height()};
+}
+
+QRect ScrollBarWidget::thumb() const {
+  const QRect room = way();
+  const int side =
+      std::min(room.width() / 2, std::max(kNarrowestThumb, int(height() * kThumbShape)));
+  const int steps = std::max(1, maximum() - minimum());
+  const int offset = qRound(double(room.width() - side) * (value() - minimum()) / steps);
+  return {room.left() + offset, 0, side, height()};
+}
+
+int ScrollBarWidget::valueAt(int x) const {
+  const QRect room = way();
+  const int free = std::max(1, room.width() - thumb().width());
+  return minimum() + qRound(double(x - room.left()) * (maximum() - minimum()) / free);
+}
+
+void ScrollBarWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const QPoint point = event->position().toPoint();
+  const bool less = lessArrow().contains(point);
+  if (less || moreArrow().contains(point)) {
+    const SliderAction step = less ? SliderSingleStepSub : SliderSingleStepAdd;
+    triggerAction(step);
+    setRepeatAction(step, kRepeatAfter, kRepeatEvery);
+    return;
+  }
+  const QRect held = thumb();
+  if (held.contains(point)) {
+    grip_ = point.x() - held.left();
+  } else {
+    grip_ = held.width() / 2;
+    setValue(valueAt(point.x() - grip_));
+  }
+}
+
+void ScrollBarWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (grip_ == kNoGrip) return;
+  setValue(valueAt(event->position().toPoint().x() - grip_));
+}
+
+void ScrollBarWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) letGo();
+}
+
+void ScrollBarWidget::hideEvent(QHideEvent* event) {
+  letGo();
+  QSlider::hideEvent(event);
+}
+
+void ScrollBarWidget::letGo() {
+  setRepeatAction(SliderNoAction);
+  grip_ = kNoGrip;
+}
+
+void ScrollBarWidget::paintArrow(QPainter& painter, const QRect& place, bool towardsMore) const {
+  painter.setPen(QPen(kEdge, 1));
+  painter.setBrush(kFace);
+  painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+  const QPointF centre = QRectF(place).center();
+  const double half = std::min(place.width(), place.height()) * 0.24;
+  const double tip = towardsMore ? half : -half;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(kInk);
+  painter.drawPolygon(QPolygonF({{centre.x() - tip, centre.y() - half},
+                                 {centre.x() + tip, centre.y()},
+                                 {centre.x() - tip, centre.y() + half}}));
+}
+
+void ScrollBarWidget::paintThumb(QPainter& painter) const {
+  const QRectF place = QRectF(thumb()).adjusted(1.5, 1.5, -1.5, -1.5);
+  painter.setPen(QPen(kInk, 2));
+  painter.setBrush(kThumb);
+  painter.drawRoundedRect(place, kCorner, kCorner);
+  for (const int line : {-1, 0, 1}) {
+    const double x = place.center().x() + line * place.width() * 0.14;
+    painter.drawLine(QPointF(x, place.top() + place.height() * 0.3),
+                     QPointF(x, place.bottom() - place.height() * 0.3));
+  }
+}
+
+void ScrollBarWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(kEdge, 1));
+  painter.setBrush(kGroove);
+  painter.drawRect(QRectF(way()).adjusted(0.5, 0.5, -0.5, -0.5));
+  paintArrow(painter, lessArrow(), false);
+  paintArrow(painter, moreArrow(), true);
+  paintThumb(painter);
+  if (!hasFocus()) return;
+  // A light ring inside a dark one stands out on any ground.
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor(10, 20, 90), 3));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), kCorner, kCorner);
+  painter.setPen(QPen(Qt::white, 2));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(4, 4, -4, -4), kCorner - 2, kCorner - 2);
+}
+
+}  // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QSlider>
+
+namespace platform {
+
+// The widget of a scroll bar. A QSlider for its keys, its wheel and what assistive technology knows
+// of it; painted and worked by mouse in its own way, with parts as large as its place allows.
+class ScrollBarWidget final : public QSlider {
+  Q_OBJECT
+
+ public:
+  explicit ScrollBarWidget(QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  [[nodiscard]] QRect lessArrow() const;
+  [[nodiscard]] QRect moreArrow() const;
+  [[nodiscard]] QRect way() const;
+  [[nodiscard]] QRect thumb() const;
+  // The value whose thumb begins at x.
+  [[nodiscard]] int valueAt(int x) const;
+  void paintArrow(QPainter& painter, const QRect& place, bool towardsMore) const;
+  void paintThumb(QPainter& painter) const;
+  void letGo();
+
+  static constexpr int kNoGrip = -1;
+  int grip_ = kNoGrip;  // where the thumb is held, pixels from its left edge
+};
+
+}  // namespace platform

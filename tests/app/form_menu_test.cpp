@@ -1,0 +1,269 @@
+#include "app/form_menu.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include "app/form_info.h"
+#include "app/shared/nomi_forme.h"
+#include "support/banco.h"
+#include "support/controfigura.h"
+
+using prova::Banco;
+using somme::FormMenu;
+
+namespace {
+
+constexpr QSize kFinestra{1024, 768};
+
+// The words of the sounds told apart, which in a real file may be the same twice.
+constexpr char kParoleSuoni[] =
+    "[Strings]\n0032=\"caricato acceso\"\n0033=\"caricato spento\"\n"
+    "0034=\"cliccato acceso\"\n0035=\"cliccato spento\"\n"
+    "[FormMenu]\nFormMenu.Caption=\"Somme\"\nMnuSuoni.Caption=\"Suoni\"\n";
+
+}  // namespace
+
+// The main menu: its ways, its settings, the panel of the scanning interval.
+class FormMenuTest : public QObject {
+  Q_OBJECT
+
+  static FormMenu& apri(Banco& banco) { return banco.apri<FormMenu>(somme::forme::kFormMenu); }
+  static void scegli(const platform::MenuItem& voce) {
+    voce.action()->trigger();
+    QCoreApplication::processEvents();
+  }
+
+ private Q_SLOTS:
+  void everyButtonLeadsToItsMenuAndUnloadsThisForm_data() {
+    QTest::addColumn<int>("bottone");
+    QTest::addColumn<QString>("forma");
+    QTest::newRow("barre") << 2 << QStringLiteral("FormMenuBarre");
+    QTest::newRow("numeri") << 3 << QStringLiteral("FormMenuNumeri");
+    QTest::newRow("blocchi") << 4 << QStringLiteral("FormMenuPLU");
+    QTest::newRow("abaco") << 5 << QStringLiteral("FormMenuAbaco");
+    QTest::newRow("tabella") << 6 << QStringLiteral("FormMenuTabella");
+  }
+  void everyButtonLeadsToItsMenuAndUnloadsThisForm() {
+    QFETCH(int, bottone);
+    QFETCH(QString, forma);
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenu& menu = apri(banco);
+    const platform::Button* bottoni[] = {&menu.Command1, &menu.Command2, &menu.Command3,
+                                         &menu.Command4, &menu.Command5, &menu.Command6};
+    banco.clicca(*bottoni[bottone - 1]);
+    QCOMPARE(banco.nomeForma(), forma);
+    for (const auto& caricata : banco.ambiente->fondo.forms().all()) {
+      QVERIFY(caricata->name() != QStringLiteral("FormMenu"));
+    }
+  }
+
+  void theExitEndsTheProcessAtOnceAndClosesNothingFirst() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    banco.clicca(menu.Command1);
+    QCOMPARE(banco.fine.stato, std::optional<int>(0));
+    QVERIFY(!menu.isUnloaded());
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
+  }
+
+  void closingTheWindowEndsTheProgramAlthoughTheSplashFormIsLoadedForItsIcon() {
+    Banco banco;
+    apri(banco);
+    const auto caricate = banco.ambiente->fondo.forms().all();
+    QVERIFY(std::any_of(caricate.begin(), caricate.end(), [](const auto& forma) {
+      return forma->name() == QStringLiteral("FormAvvio");
+    }));
+    banco.ambiente->fondo.window().close();
+    QCOMPARE(banco.fine.stato, std::optional<int>(0));
+  }
+
+  void loadingClearsBothCounters() {
+    Banco banco;
+    banco.ambiente->stato.ContaEsatti = 3;
+    banco.ambiente->stato.ContaErrati = 2;
+    apri(banco);
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+  }
+
+  void theWordsOfTheSoundsAfterAClickAreNotThoseOfTheNextLoad() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    banco.metti(QStringLiteral("Italiano.lng"), kParoleSuoni);
+    {
+      FormMenu& menu = apri(banco);
+      QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("caricato acceso"));
+      banco.batti(Qt::Key_S, Qt::ControlModifier);
+      QVERIFY(!banco.ambiente->stato.SuoniAttivi);
+      QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("cliccato spento"));
+      banco.batti(Qt::Key_S, Qt::ControlModifier);
+      QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("cliccato acceso"));
+      banco.batti(Qt::Key_S, Qt::ControlModifier);
+      scegli(menu.mnuAbout);
+    }
+    banco.clicca(banco.forma<somme::FormInfo>().Command1);
+    QCOMPARE(banco.forma<FormMenu>().MnuSuoni.caption(), QStringLiteral("caricato spento"));
+  }
+
+  void aHeldShortcutActsOnce() {
+    Banco banco;
+    apri(banco);
+    banco.premi(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!banco.ambiente->stato.SuoniAttivi);
+    banco.premi(Qt::Key_S, Qt::ControlModifier);
+    banco.premi(Qt::Key_S, Qt::ControlModifier);
+    banco.lascia(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!banco.ambiente->stato.SuoniAttivi);
+  }
+
+  void thePointerChangesHereAtOnceAndElsewhereAtTheNextLoad() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    QCOMPARE(menu.Command2.mousePointer(), 99);
+    QVERIFY(!menu.mnuUsaCursoreDiSistema.isChecked());
+    banco.batti(Qt::Key_K, Qt::ControlModifier);
+    QVERIFY(banco.ambiente->stato.CursoreDiSistema);
+    QVERIFY(menu.mnuUsaCursoreDiSistema.isChecked());
+    QCOMPARE(menu.Command2.mousePointer(), 0);
+    QCOMPARE(menu.Command2.widget()->cursor().shape(), Qt::ArrowCursor);
+    banco.clicca(menu.Command2);
+    for (const platform::Control* controllo : banco.ambiente->fondo.forms().current()->controls()) {
+      QCOMPARE(controllo->mousePointer(), 0);
+    }
+  }
+
+  void aModeOtherThanMouseHidesTheTableAtOnceAndStillAfterComingBack() {
+    Banco banco;
+    {
+      FormMenu& menu = apri(banco);
+      QVERIFY(menu.Command6.isVisible());
+      QVERIFY(menu.mnuInput[0].isChecked());
+      banco.batti(Qt::Key_A, Qt::ControlModifier);
+      QCOMPARE(banco.ambiente->stato.ModalitaInput, qint16(2));
+      QVERIFY(!menu.Command6.isVisible());
+      for (int i = 0; i < 4; ++i) QCOMPARE(menu.mnuInput[i].isChecked(), i == 2);
+      scegli(menu.mnuAbout);
+    }
+    banco.clicca(banco.forma<somme::FormInfo>().Command1);
+    FormMenu& menu = banco.forma<FormMenu>();
+    QVERIFY(!menu.Command6.isVisible());
+    for (int i = 0; i < 4; ++i) QCOMPARE(menu.mnuInput[i].isChecked(), i == 2);
+    banco.batti(Qt::Key_D, Qt::ControlModifier);
+    QCOMPARE(banco.ambiente->stato.ModalitaInput, qint16(0));
+    QVERIFY(menu.Command6.isVisible());
+  }
+
+  void theModesHaveTheirShortcuts_data() {
+    QTest::addColumn<int>("tasto");
+    QTest::addColumn<qint16>("modalita");
+    QTest::newRow("mouse") << int(Qt::Key_D) << qint16(0);
+    QTest::newRow("manuale") << int(Qt::Key_M) << qint16(1);
+    QTest::newRow("automatica") << int(Qt::Key_A) << qint16(2);
+    QTest::newRow("HelpiKeys") << int(Qt::Key_H) << qint16(3);
+  }
+  void theModesHaveTheirShortcuts() {
+    QFETCH(int, tasto);
+    QFETCH(qint16, modalita);
+    Banco banco;
+    banco.ambiente->stato.ModalitaInput = modalita == 0 ? 1 : 0;
+    FormMenu& menu = apri(banco);
+    banco.batti(tasto, Qt::ControlModifier);
+    QCOMPARE(banco.ambiente->stato.ModalitaInput, modalita);
+    for (int i = 0; i < 4; ++i) QCOMPARE(menu.mnuInput[i].isChecked(), i == modalita);
+  }
+
+  void theSeparatorIsAnItemOfThirtyTwoHyphens() {
+    Banco banco;
+    const FormMenu& menu = apri(banco);
+    QCOMPARE(menu.mnuLinea1.caption(), QString(32, u'-'));
+    QVERIFY(!menu.mnuLinea1.action()->isSeparator());
+  }
+
+  void theIntervalPanelCoversTheFormAndTakesTheFocus() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    QVERIFY(!menu.PictureTempoScansione.isVisible());
+    banco.batti(Qt::Key_T, Qt::ControlModifier);
+    QVERIFY(menu.PictureTempoScansione.isVisible());
+    QCOMPARE(menu.PictureTempoScansione.left(), 0.0);
+    QCOMPARE(menu.PictureTempoScansione.top(), 0.0);
+    QCOMPARE(menu.PictureTempoScansione.width(), menu.width());
+    QCOMPARE(menu.PictureTempoScansione.height(), menu.height());
+    QVERIFY(menu.CommandConfermaTempoInput.hasFocus());
+    QVERIFY(!menu.Command2.isLive());
+    QCOMPARE(menu.HScrollScansione.value(), 4);
+    QCOMPARE(menu.LabelTempoScansione.caption(),
+             QStringLiteral("Velocità scansione: 1.00 secondi"));
+    banco.clicca(menu.CommandConfermaTempoInput);
+    QVERIFY(!menu.PictureTempoScansione.isVisible());
+    QVERIFY(menu.Command2.isLive());
+  }
+
+  void theScaleRunsFromOneSecondToFifteen() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    banco.batti(Qt::Key_T, Qt::ControlModifier);
+    menu.HScrollScansione.setFocus();
+    banco.batti(Qt::Key_End);
+    QCOMPARE(banco.ambiente->stato.TempoScansione, qint16(60));
+    QCOMPARE(menu.LabelTempoScansione.caption(),
+             QStringLiteral("Velocità scansione: 15.00 secondi"));
+    banco.batti(Qt::Key_Left);
+    QCOMPARE(menu.LabelTempoScansione.caption(),
+             QStringLiteral("Velocità scansione: 14.75 secondi"));
+    banco.batti(Qt::Key_Home);
+    QCOMPARE(banco.ambiente->stato.TempoScansione, qint16(4));
+    QCOMPARE(menu.LabelTempoScansione.caption(),
+             QStringLiteral("Velocità scansione: 1.00 secondi"));
+  }
+
+  void theIntervalChangesWhileTheThumbIsDragged() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    banco.batti(Qt::Key_T, Qt::ControlModifier);
+    const QWidget* barra = menu.HScrollScansione.widget();
+    const QPoint centro = banco.centro(menu.HScrollScansione);
+    QTest::mousePress(banco.finestra(), Qt::LeftButton, {}, centro);
+    QCOMPARE(banco.ambiente->stato.TempoScansione, qint16(32));
+    QTest::mouseMove(banco.finestra(), centro + QPoint(barra->width() / 4, 0));
+    QCoreApplication::processEvents();
+    const qint16 durante = banco.ambiente->stato.TempoScansione;
+    QVERIFY2(durante > 40 && durante < 60, qPrintable(QString::number(durante)));
+    QCOMPARE(menu.HScrollScansione.value(), int(durante));
+    QTest::mouseRelease(banco.finestra(), Qt::LeftButton, {}, centro);
+    // Confirming only closes: the interval has changed already, and the panel knows it again.
+    banco.clicca(menu.CommandConfermaTempoInput);
+    const qint16 scelto = banco.ambiente->stato.TempoScansione;
+    banco.batti(Qt::Key_T, Qt::ControlModifier);
+    QCOMPARE(menu.HScrollScansione.value(), int(scelto));
+  }
+
+  void theManualIsAskedForBesideTheProgramAndItsAbsenceSaysNothing() {
+    Banco banco;
+    const FormMenu& menu = apri(banco);
+    scegli(menu.MnuDoc);
+    QCOMPARE(banco.documenti.aperti, QStringList{banco.percorso(QStringLiteral("somme.pdf"))});
+    QVERIFY(banco.messaggi.mostrati.empty());
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
+  }
+
+  void theCreditsComeAndGoBackToAFreshMenu() {
+    Banco banco;
+    const FormMenu& menu = apri(banco);
+    scegli(menu.mnuAbout);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormInfo"));
+    banco.clicca(banco.forma<somme::FormInfo>().Command1);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
+  }
+
+  void hidingTheTableWithTheFocusHandsTheFocusOn() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    menu.Command6.setFocus();
+    QVERIFY(menu.Command6.hasFocus());
+    banco.batti(Qt::Key_M, Qt::ControlModifier);
+    QVERIFY(menu.Command4.hasFocus());
+  }
+};
+
+QTEST_MAIN(FormMenuTest)
+#include "form_menu_test.moc"

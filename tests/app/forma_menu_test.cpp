@@ -1,0 +1,375 @@
+#include "app/forma_menu.h"
+
+#include "app/form_menu_abaco.h"
+#include "app/form_menu_barre.h"
+#include "app/form_menu_numeri.h"
+#include "app/form_menu_plu.h"
+#include "app/form_menu_tabella.h"
+#include "app/shared/nomi_forme.h"
+#include "cases/livelli.h"
+#include "support/banco.h"
+#include "support/controfigura.h"
+
+using prova::Banco;
+using namespace somme;
+
+namespace {
+
+constexpr QSize kFinestra{1366, 768};
+
+struct Voce {
+  const char* didascalia;
+  int sinistra;
+  int alto;
+};
+
+// Caption and place of the buttons, as a teacher finds them.
+constexpr Voce kTotale[] = {
+    {"somme", 240, 1440},
+    {"addendi entro il 10", 1920, 1440},
+    {"10 + ....", 1920, 2280},
+    {"addendo > 10", 1920, 3960},
+    {"senza cambio", 3600, 1440},
+    {"con il cambio", 3600, 2280},
+    {"con e senza cambio", 3600, 3120},
+    {"aggiungi solo unità", 3600, 3960},
+    {"aggiungi solo decine", 3600, 4800},
+    {" senza cambio", 5280, 1440},
+    {" cambio alle unità", 5280, 2280},
+    {" cambio alle decine", 5280, 3120},
+    {" con un cambio", 5280, 3960},
+    {"con due cambi", 5280, 4800},
+    {" con e senza cambi", 6960, 1440},
+    {" aggiungi solo unità", 6960, 2280},
+    {" aggiungi solo decine", 6960, 3120},
+    {"aggiungi solo centinaia", 6960, 3960},
+    {" senza cambio", 8640, 1440},
+    {" con un cambio", 8640, 2280},
+    {"con due cambi", 8640, 3120},
+    {"con tre cambi", 8640, 3960},
+    {" con e senza cambi", 8640, 4800},
+    {" aggiungi solo unità", 10320, 1440},
+    {" aggiungi solo decine", 10320, 2280},
+    {"aggiungi solo centinaia", 10320, 3120},
+    {"aggiungi solo migliaia", 10320, 3960},
+};
+constexpr Voce kAddendo[] = {
+    {"componi il 10", 240, 2280},
+    {"trova un addendo", 240, 3120},
+    {"10 + ... = 18", 1920, 3120},
+    {"completa il 20", 1920, 4800},
+};
+constexpr Voce kAbaco[] = {
+    {"senza cambio", 240, 1440},
+    {"con il cambio", 240, 2280},
+    {"con e senza cambio", 240, 3120},
+    {"aggiungi solo unità", 240, 3960},
+    {"aggiungi solo decine", 240, 4800},
+    {" senza cambio", 2400, 1440},
+    {" cambio alle unità", 2400, 2280},
+    {" cambio alle decine", 2400, 3120},
+    {" con un cambio", 2400, 3960},
+    {"con due cambi", 2400, 4800},
+    {" con e senza cambi", 4560, 1440},
+    {" aggiungi solo unità", 4560, 2280},
+    {" aggiungi solo decine", 4560, 3120},
+    {"aggiungi solo centinaia", 4560, 3960},
+    {" senza cambio", 6720, 1440},
+    {" con un cambio", 6720, 2280},
+    {"con due cambi", 6720, 3120},
+    {"con tre cambi", 6720, 3960},
+    {" con e senza cambi", 6720, 4800},
+    {" aggiungi solo unità", 8760, 1440},
+    {" aggiungi solo decine", 8760, 2280},
+    {"aggiungi solo centinaia", 8760, 3120},
+    {"aggiungi solo migliaia", 8760, 3960},
+};
+
+struct VoceBlocchi {
+  platform::Button FormMenuPLU::*pulsante;
+  const char* didascalia;
+  int sinistra;
+  int alto;
+  qint16 tipo;
+  const char* forma;
+};
+constexpr VoceBlocchi kBlocchi[] = {
+    {&FormMenuPLU::Command2, " senza cambio", 120, 1560, 1, "FormLU"},
+    {&FormMenuPLU::Command3, " con il cambio", 120, 2400, 2, "FormLU"},
+    {&FormMenuPLU::Command4, " con e senza cambio", 120, 3240, 3, "FormLU"},
+    {&FormMenuPLU::Command14, " aggiungi solo unità", 120, 4080, 4, "FormLU"},
+    {&FormMenuPLU::Command5, "aggiungi solo decine", 120, 4920, 5, "FormLU"},
+    {&FormMenuPLU::Command9, " senza cambio", 3240, 1560, 1, "FormHLU"},
+    {&FormMenuPLU::Command11, " cambio alle unità", 3240, 2400, 2, "FormHLU"},
+    {&FormMenuPLU::Command12, " cambio alle decine", 3240, 3240, 3, "FormHLU"},
+    {&FormMenuPLU::Command8, " con un cambio", 3240, 4080, 4, "FormHLU"},
+    {&FormMenuPLU::Command10, "con due cambi", 3240, 4920, 5, "FormHLU"},
+    {&FormMenuPLU::Command7, " con e senza cambi", 6360, 1560, 6, "FormHLU"},
+    {&FormMenuPLU::Command15, " aggiungi solo unità", 6360, 2400, 7, "FormHLU"},
+    {&FormMenuPLU::Command6, " aggiungi solo decine", 6360, 3240, 8, "FormHLU"},
+    {&FormMenuPLU::Command13, "aggiungi solo centinaia", 6360, 4080, 9, "FormHLU"},
+};
+
+bool sta(const platform::Control& controllo, int sinistra, int alto, int larghezza, int altezza) {
+  const platform::TwipsRect posto{double(sinistra), double(alto), double(larghezza),
+                                  double(altezza)};
+  return controllo.designPlace() == posto;
+}
+
+}  // namespace
+
+// The five family menus: each button pressed, with what it writes and where it leads.
+class FormaMenuTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void everySumOfTheNumbersSetsItsLevelAndTitle_data() {
+    QTest::addColumn<int>("indice");
+    for (int i = 1; i <= 27; ++i) QTest::addRow("Command1(%d)", i) << i;
+  }
+  void everySumOfTheNumbersSetsItsLevelAndTitle() {
+    QFETCH(int, indice);
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    const Voce& voce = kTotale[indice - 1];
+    const QString didascalia = QString::fromUtf8(voce.didascalia);
+    QCOMPARE(menu.Command1[indice].caption(), didascalia);
+    QVERIFY(sta(menu.Command1[indice], voce.sinistra, voce.alto, 1500, 675));
+    banco.clicca(menu.Command1[indice]);
+    QString gruppo = QStringLiteral("Entro 9.999: ");
+    if (indice <= 18) gruppo = QStringLiteral("Entro 999: ");
+    if (indice <= 9) gruppo = QStringLiteral("Entro 99: ");
+    if (indice <= 4) gruppo = QStringLiteral("Entro 20: ");
+    if (indice == 1) gruppo = QStringLiteral("Entro 10: ");
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
+             QStringLiteral("Solo numeri. ") + gruppo + didascalia);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriTotale"));
+  }
+
+  void everyAddendOfTheNumbersBearsTheWordsOfTheSumWithItsIndex_data() {
+    QTest::addColumn<int>("indice");
+    for (int i = 1; i <= 4; ++i) QTest::addRow("Command2(%d)", i) << i;
+  }
+  void everyAddendOfTheNumbersBearsTheWordsOfTheSumWithItsIndex() {
+    QFETCH(int, indice);
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    // The groups' words of the addends are keys of their own.
+    QFile file(banco.percorso(QStringLiteral("Italiano.lng")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray testi = file.readAll();
+    testi.replace("0029=\"Entro 10: \"", "0029=\"Addendo 10: \"");
+    testi.replace("0030=\"Entro 20: \"", "0030=\"Addendo 20: \"");
+    banco.metti(QStringLiteral("Italiano.lng"), testi);
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    const Voce& voce = kAddendo[indice - 1];
+    QCOMPARE(menu.Command2[indice].caption(), QString::fromUtf8(voce.didascalia));
+    QVERIFY(sta(menu.Command2[indice], voce.sinistra, voce.alto, 1500, 675));
+    banco.clicca(menu.Command2[indice]);
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
+             QStringLiteral("Solo numeri. ") +
+                 (indice <= 2 ? QStringLiteral("Addendo 10: ") : QStringLiteral("Addendo 20: ")) +
+                 QString::fromUtf8(kTotale[indice - 1].didascalia));
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriAddendo"));
+  }
+
+  void theTitleOfTheButtonAddendOverTenNamesTheGroupUpToTwenty() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    banco.clicca(menu.Command1[4]);
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(4));
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
+             QStringLiteral("Solo numeri. Entro 20: addendo > 10"));
+  }
+
+  void completingTwentyIsTitledAddendOverTen() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    banco.clicca(menu.Command2[4]);
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(4));
+    QVERIFY(banco.ambiente->stato.TitoloEsercizio.endsWith(QStringLiteral("addendo > 10")));
+  }
+
+  void anotherLevelHasATitleWithThatLevelAlone() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    banco.clicca(banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri).Command1[5]);
+    banco.clicca(banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri).Command1[1]);
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio, QStringLiteral("Solo numeri. Entro 10: somme"));
+  }
+
+  void aTitleWithoutItsKeyLacksThatPart() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    banco.metti(QStringLiteral("Italiano.lng"), "[Strings]\n0031=\"Numeri. \"\n");
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    banco.clicca(menu.Command1[1]);
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio, QStringLiteral("Numeri. somme"));
+  }
+
+  void theHiddenElementOfTheAddendsShowsNothing() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    QVERIFY(!menu.Command2[0].isVisible());
+    QVERIFY(menu.Command1[0].isVisible());
+  }
+
+  void everyLevelOfTheAbacusSetsItsLevelAndTitle_data() {
+    QTest::addColumn<int>("indice");
+    for (int i = 1; i <= 23; ++i) QTest::addRow("Command1(%d)", i) << i;
+  }
+  void everyLevelOfTheAbacusSetsItsLevelAndTitle() {
+    QFETCH(int, indice);
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenuAbaco& menu = banco.apri<FormMenuAbaco>(forme::kFormMenuAbaco);
+    const Voce& voce = kAbaco[indice - 1];
+    const QString didascalia = QString::fromUtf8(voce.didascalia);
+    QCOMPARE(menu.Command1[indice].caption(), didascalia);
+    QVERIFY(sta(menu.Command1[indice], voce.sinistra, voce.alto, 1860, 675));
+    banco.clicca(menu.Command1[indice]);
+    QString gruppo = QStringLiteral("Entro 9.999: ");
+    if (indice <= 14) gruppo = QStringLiteral("Entro 999: ");
+    if (indice <= 5) gruppo = QStringLiteral("Entro 99: ");
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
+             QStringLiteral("Abaco. ") + gruppo + didascalia);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormAbaco"));
+  }
+
+  void everyLevelOfTheBlocksSetsItsLevel_data() {
+    QTest::addColumn<int>("riga");
+    for (int i = 0; i < 14; ++i) QTest::addRow("%d", i + 1) << i;
+  }
+  void everyLevelOfTheBlocksSetsItsLevel() {
+    QFETCH(int, riga);
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    banco.ambiente->stato.TitoloEsercizio = QStringLiteral("come prima");
+    FormMenuPLU& menu = banco.apri<FormMenuPLU>(forme::kFormMenuPLU);
+    const VoceBlocchi& voce = kBlocchi[riga];
+    const platform::Button& pulsante = menu.*voce.pulsante;
+    QCOMPARE(pulsante.caption(), QString::fromUtf8(voce.didascalia));
+    QVERIFY(sta(pulsante, voce.sinistra, voce.alto, 2580, 675));
+    banco.clicca(pulsante);
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, voce.tipo);
+    QCOMPARE(banco.nomeForma(), QString::fromUtf8(voce.forma));
+    // These exercises compose their headings themselves.
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio, QStringLiteral("come prima"));
+  }
+
+  void bothRangesOfTheBarsSetTheirLimit() {
+    for (const int limite : {10, 20}) {
+      Banco banco(kFinestra, prova::SenzaEsercizi);
+      FormMenuBarre& menu = banco.apri<FormMenuBarre>(forme::kFormMenuBarre);
+      QCOMPARE(menu.Command2.caption(), QStringLiteral("Fino al 10"));
+      QCOMPARE(menu.Command4.caption(), QStringLiteral("Fino al 20"));
+      banco.clicca(limite == 10 ? menu.Command2 : menu.Command4);
+      QCOMPARE(banco.ambiente->stato.LimiteEsercizio, limite);
+      QCOMPARE(banco.nomeForma(),
+               limite == 10 ? QStringLiteral("FormBarre10") : QStringLiteral("FormBarre20"));
+    }
+  }
+
+  void everyKindOfTheTableSetsItsIndexAsTheLevel_data() {
+    QTest::addColumn<int>("indice");
+    QTest::addColumn<QString>("didascalia");
+    QTest::addColumn<int>("sinistra");
+    QTest::addColumn<int>("alto");
+    QTest::newRow("0") << 0 << QStringLiteral("Aggiungi un'unità") << 240 << 1440;
+    QTest::newRow("1") << 1 << QStringLiteral("Aggiungi una decina") << 240 << 2640;
+    QTest::newRow("5") << 5 << QStringLiteral("Aggiungi più unità") << 240 << 3840;
+    QTest::newRow("6") << 6 << QStringLiteral("Aggiungi più decine") << 3600 << 1440;
+    QTest::newRow("10") << 10 << QStringLiteral("Somme") << 3600 << 2640;
+  }
+  void everyKindOfTheTableSetsItsIndexAsTheLevel() {
+    QFETCH(int, indice);
+    QFETCH(QString, didascalia);
+    QFETCH(int, sinistra);
+    QFETCH(int, alto);
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    banco.ambiente->stato.TipoEsercizio = 77;
+    FormMenuTabella& menu = banco.apri<FormMenuTabella>(forme::kFormMenuTabella);
+    QCOMPARE(menu.Command2.count(), 5);
+    QCOMPARE(menu.Command2[indice].caption(), didascalia);
+    QVERIFY(sta(menu.Command2[indice], sinistra, alto, 2580, 915));
+    banco.clicca(menu.Command2[indice]);
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormTabella"));
+  }
+
+  void theModeOfInputChoosesTheFormAndTheMenuIsUnloadedAfterwards() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    banco.ambiente->stato.ModalitaInput = 2;
+    banco.clicca(banco.apri<FormMenuPLU>(forme::kFormMenuPLU).Command2);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormLUScansione"));
+    for (const auto& forma : banco.ambiente->fondo.forms().all()) {
+      QVERIFY(forma->name() != QStringLiteral("FormMenuPLU"));
+    }
+  }
+
+  void everyMenuClearsTheCountersAndGoesBackToTheMainMenu_data() {
+    QTest::addColumn<QString>("nome");
+    QTest::addColumn<QString>("indietro");
+    QTest::addColumn<QString>("intestazione");
+    const auto riga = [](const char* nome, const char* indietro, const char* intestazione) {
+      QTest::newRow(nome) << QString::fromUtf8(nome) << QString::fromUtf8(indietro)
+                          << QString::fromUtf8(intestazione);
+    };
+    riga("FormMenuNumeri", "Command1(0)", "Numeri");
+    riga("FormMenuAbaco", "Command1(0)", "Abaco");
+    riga("FormMenuPLU", "Command1", "Piatti, lunghi e unità");
+    riga("FormMenuBarre", "Command1", "Uso delle barre");
+    riga("FormMenuTabella", "Command1", "Uso della tabella");
+  }
+  void everyMenuClearsTheCountersAndGoesBackToTheMainMenu() {
+    QFETCH(QString, nome);
+    QFETCH(QString, indietro);
+    QFETCH(QString, intestazione);
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    banco.ambiente->stato.ContaEsatti = 5;
+    banco.ambiente->stato.ContaErrati = 6;
+    const std::string utf8 = nome.toStdString();
+    FormaMenu& menu = banco.apri<FormaMenu>(utf8);
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QCOMPARE(menu.Label1.caption(), intestazione);
+    const auto trovato =
+        std::find_if(menu.controls().begin(), menu.controls().end(),
+                     [&indietro](const auto* controllo) { return controllo->name() == indietro; });
+    QVERIFY(trovato != menu.controls().end());
+    QCOMPARE((*trovato)->caption(), QStringLiteral("Torna al menù principale"));
+    banco.clicca(**trovato);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
+  }
+
+  void aLevelWhoseExerciseDoesNotExistIsDisabled() {
+    Banco banco(kFinestra, prova::SoloMenu);
+    FormMenuAbaco& menu = banco.apri<FormMenuAbaco>(forme::kFormMenuAbaco);
+    for (int i = 1; i <= 23; ++i) QVERIFY(!menu.Command1[i].isEnabled());
+    QVERIFY(menu.Command1[0].isEnabled());
+    banco.clicca(menu.Command1[1]);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuAbaco"));
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(0));
+  }
+
+  void aDoubleClickOpensOneLevelOnce() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    banco.doppioClic(menu.Command1[5]);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriTotale"));
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
+             QStringLiteral("Solo numeri. Entro 99: senza cambio"));
+  }
+
+  void theCaptionsOfTheTitlesAreThoseOfTheLanguage() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=\"English\"\n");
+    banco.ambiente->stato.LinguaCorrente = QStringLiteral("English");
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    QCOMPARE(menu.Command1[10].caption(), QStringLiteral(" no carrying"));
+    banco.clicca(menu.Command1[10]);
+    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
+             QStringLiteral("Numbers only. Up to 999:  no carrying"));
+  }
+};
+
+QTEST_MAIN(FormaMenuTest)
+#include "forma_menu_test.moc"

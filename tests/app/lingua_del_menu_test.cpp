@@ -1,0 +1,225 @@
+#include <QAction>
+#include <QFile>
+#include <QMenu>
+#include "platform/forms/menu_bar.h"
+
+#include "app/form_avvio.h"
+#include "app/form_menu.h"
+#include "app/shared/modulo_ini.h"
+#include "app/shared/nomi_forme.h"
+#include "app/tabella_forme.h"
+#include "support/banco.h"
+
+using prova::Banco;
+using somme::FormMenu;
+
+// The language menu of the main menu.
+class LinguaDelMenuTest : public QObject {
+  Q_OBJECT
+
+  static FormMenu& apri(Banco& banco) { return banco.apri<FormMenu>(somme::forme::kFormMenu); }
+  static void scegli(const platform::MenuItem& voce) {
+    voce.action()->trigger();
+    QCoreApplication::processEvents();
+  }
+  static QByteArray leggi(const Banco& banco, const QString& nome) {
+    QFile file(banco.percorso(nome));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no such file)");
+  }
+  // The items with a check mark.
+  static QStringList segnate(FormMenu& menu) {
+    QStringList nomi;
+    menu.mnuLanguage.forEach([&nomi](platform::MenuItem& voce) {
+      if (voce.isChecked()) nomi.append(voce.caption());
+    });
+    return nomi;
+  }
+  static void togli(const Banco& banco, const QString& nome) {
+    QVERIFY(QFile::remove(banco.percorso(nome)));
+  }
+
+ private Q_SLOTS:
+  void theLanguagesFoundStandInTheMenuByNameAndTheCurrentOneIsMarked() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    QCOMPARE(menu.mnuLanguage.count(), 2);
+    QCOMPARE(menu.mnuLanguage[0].caption(), QStringLiteral("English"));
+    QCOMPARE(menu.mnuLanguage[1].caption(), QStringLiteral("Italiano"));
+    QCOMPARE(segnate(menu), QStringList{QStringLiteral("Italiano")});
+  }
+
+  void anItemMadeAtRunTimeStandsInTheSameMenuUnderItsOwnName() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    const QAction* prima = menu.mnuLanguage[0].action();
+    const QAction* seconda = menu.mnuLanguage[1].action();
+    QCOMPARE(seconda->objectName(), QStringLiteral("mnuLanguage(1)"));
+    QVERIFY(seconda->isVisible());
+    QCOMPARE(seconda->parent(), prima->parent());
+    const auto* tendina = menu.mnuLanguages.action()->menu();
+    QVERIFY(tendina != nullptr);
+    QCOMPARE(tendina->actions().size(), 2);
+    QCOMPARE(tendina->actions()[1], seconda);
+  }
+
+  void theMouseChoosesALanguageFromTheOpenMenu() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    QMenuBar* barra = menu.page()->menuBar();
+    const QPoint voce = barra->actionGeometry(menu.mnuLanguages.action()).center();
+    QTest::mouseClick(banco.finestra(), Qt::LeftButton, {},
+                      barra->mapTo(&banco.ambiente->fondo.window(), voce));
+    auto* tendina = menu.mnuLanguages.action()->menu();
+    QVERIFY(tendina->isVisible());
+    QTest::mouseClick(tendina->windowHandle(), Qt::LeftButton, {},
+                      tendina->actionGeometry(menu.mnuLanguage[0].action()).center());
+    QCoreApplication::processEvents();
+    QVERIFY(!tendina->isVisible());
+    QCOMPARE(banco.ambiente->stato.LinguaCorrente, QStringLiteral("English"));
+    QCOMPARE(menu.Command3.caption(), QStringLiteral("Numbers only"));
+  }
+
+  void choosingALanguageMarksItAppliesItAndWritesItAtOnce() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    scegli(menu.mnuLanguage[0]);
+    QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
+    QCOMPARE(menu.caption(), QStringLiteral("Addition exercises"));
+    QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
+    QCOMPARE(leggi(banco, QStringLiteral("LangSetting.ini")).simplified(),
+             QByteArray("[Language] CurrentLanguage=English"));
+    // Also a form that is loaded without being shown.
+    auto& avvio = static_cast<somme::FormAvvio&>(
+        banco.ambiente->fondo.forms().loaded(somme::forme::kFormAvvio));
+    QCOMPARE(avvio.BottoneAvvio.caption(), QStringLiteral("Start"));
+  }
+
+  void theNextRunStartsInTheChosenLanguage() {
+    Banco banco;
+    scegli(apri(banco).mnuLanguage[0]);
+    Banco poi;
+    poi.metti(QStringLiteral("LangSetting.ini"), leggi(banco, QStringLiteral("LangSetting.ini")));
+    poi.ambiente->stato.LinguaCorrente.clear();
+    somme::CaricaStringhe(*poi.ambiente);
+    QCOMPARE(poi.ambiente->stato.LinguaCorrente, QStringLiteral("English"));
+    QCOMPARE(poi.ambiente->stringhe.TestoEsatti, QStringLiteral("Right"));
+    FormMenu& menu = apri(poi);
+    QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
+    QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
+  }
+
+  void theSharedStringsKeepTheLanguageOfTheStart() {
+    Banco banco;
+    scegli(apri(banco).mnuLanguage[0]);
+    QCOMPARE(banco.ambiente->stringhe.TestoEsatti, QStringLiteral("Esatti"));
+    QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")), QStringLiteral("Right"));
+  }
+
+  void aChangeOfLanguagePutsTheFilesOwnCaptionOnTheSounds() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("Disattiva i suoni"));
+    scegli(menu.mnuLanguage[0]);
+    QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("Sounds"));
+  }
+
+  void aNameOfTwoWordsIsShownWholeAndWithoutItsExtension() {
+    Banco banco;
+    banco.metti(QStringLiteral("Lingua semplice.lng"), "[FormMenu]\nCommand1.Caption=\"Via\"\n");
+    FormMenu& menu = apri(banco);
+    QCOMPARE(menu.mnuLanguage.count(), 3);
+    QCOMPARE(menu.mnuLanguage[2].caption(), QStringLiteral("Lingua semplice"));
+    scegli(menu.mnuLanguage[2]);
+    QCOMPARE(menu.Command1.caption(), QStringLiteral("Via"));
+    QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
+    // The form's own caption is set also where the file has none.
+    QCOMPARE(menu.caption(), QString());
+  }
+
+  void namesAreComparedExactly() {
+    Banco banco;
+    banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=\"italiano\"\n");
+    FormMenu& menu = apri(banco);
+    QCOMPARE(segnate(menu), QStringList());
+    QCOMPARE(banco.ambiente->stato.LinguaCorrente, QStringLiteral("italiano"));
+  }
+
+  void withoutAnyLanguageFileEachLoadSaysSoAndTheDesignTextsStand() {
+    Banco banco;
+    togli(banco, QStringLiteral("Italiano.lng"));
+    togli(banco, QStringLiteral("English.lng"));
+    togli(banco, QStringLiteral("LangSetting.ini"));
+    for (std::size_t volta = 1; volta <= 2; ++volta) {
+      FormMenu& menu = apri(banco);
+      QCOMPARE(banco.messaggi.mostrati.size(), volta);
+      const platform::MessageBox& messaggio = banco.messaggi.mostrati.back();
+      QCOMPARE(messaggio.text, QStringLiteral("Non è presente alcun file di linguaggio!"));
+      QCOMPARE(messaggio.title, somme::TitoloProgramma());
+      QCOMPARE(menu.mnuLanguage.count(), 1);
+      QCOMPARE(menu.mnuLanguage[0].caption(), QStringLiteral("mnuLanguage 0"));
+      QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
+      QCOMPARE(menu.MnuSuoni.caption(), QString());
+      banco.ambiente->fondo.forms().unload(menu);
+    }
+    QVERIFY(!banco.fine.stato.has_value());
+  }
+
+  void languagesWithoutASettingsFileEndTheProgramWithTheRunTimesBox() {
+    Banco banco;
+    somme::FormAvvio& avvio = banco.apri<somme::FormAvvio>(somme::forme::kFormAvvio);
+    togli(banco, QStringLiteral("LangSetting.ini"));
+    banco.clicca(avvio.BottoneAvvio);
+    QCOMPARE(banco.messaggi.mostrati.size(), std::size_t(1));
+    const platform::MessageBox& messaggio = banco.messaggi.mostrati.front();
+    QCOMPARE(messaggio.text,
+             QStringLiteral("Errore di run-time '53':\n\nImpossibile trovare il file"));
+    QCOMPARE(messaggio.icon, platform::BoxIcon::Critical);
+    QVERIFY(banco.fine.stato.has_value());
+    QVERIFY(*banco.fine.stato != 0);
+    QVERIFY(!avvio.isUnloaded());
+  }
+
+  void aSettingsFileWithoutTheKeyMarksNothingAndEmptiesTheStrings() {
+    Banco banco;
+    banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\n");
+    FormMenu& menu = apri(banco);
+    QCOMPARE(segnate(menu), QStringList());
+    QCOMPARE(banco.ambiente->stato.LinguaCorrente, QString());
+    QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")), QString());
+    QVERIFY(banco.messaggi.mostrati.empty());
+  }
+
+  void aLanguageThatIsMissingLeavesTheDesignTexts() {
+    Banco banco;
+    banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=\"Latino\"\n");
+    FormMenu& menu = apri(banco);
+    QCOMPARE(segnate(menu), QStringList());
+    QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
+    QCOMPARE(menu.caption(), QStringLiteral("Esercitazioni sulle somme"));
+  }
+
+  void aLanguageThatVanishesWhileTheProgramRunsLeavesTheTextsAsTheyAre() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    togli(banco, QStringLiteral("English.lng"));
+    scegli(menu.mnuLanguage[0]);
+    QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
+    QCOMPARE(menu.caption(), QStringLiteral("Esercitazioni sulle somme"));
+    QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
+    QVERIFY(!banco.fine.stato.has_value());
+  }
+
+  void aSettingsFileThatCannotBeWrittenChangesTheLanguageAllTheSame() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    togli(banco, QStringLiteral("LangSetting.ini"));
+    QVERIFY(QDir(banco.cartella.path()).mkdir(QStringLiteral("LangSetting.ini")));
+    scegli(menu.mnuLanguage[0]);
+    QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
+    QVERIFY(banco.messaggi.mostrati.empty());
+    QVERIFY(!banco.fine.stato.has_value());
+  }
+};
+
+QTEST_MAIN(LinguaDelMenuTest)
+#include "lingua_del_menu_test.moc"

@@ -1,0 +1,181 @@
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QSet>
+
+#include "app/tabella_forme.h"
+#include "support/banco.h"
+
+using prova::Banco;
+
+namespace {
+
+using Sezione = QMap<QString, QString>;
+
+// A language file, read by itself.
+QMap<QString, Sezione> leggi(const QString& percorso) {
+  QMap<QString, Sezione> sezioni;
+  QFile file(percorso);
+  if (!file.open(QIODevice::ReadOnly)) return sezioni;
+  QString sezione;
+  for (const QString& riga : QString::fromUtf8(file.readAll()).split(u'\n')) {
+    if (riga.startsWith(u'[')) {
+      sezione = riga.mid(1, riga.indexOf(u']') - 1);
+      sezioni[sezione];
+    } else if (!riga.isEmpty() && !riga.startsWith(u';')) {
+      const qsizetype uguale = riga.indexOf(u'=');
+      sezioni[sezione].insert(riga.left(uguale), riga.mid(uguale + 1));
+    }
+  }
+  return sezioni;
+}
+
+QString testo(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+}
+
+// The keys that a form's design asks for: its caption, and each caption that says something and
+// each tool tip of its controls. The languages' names are nobody's translation.
+QSet<QString> chiesti(platform::Form& forma) {
+  QMap<QString, QSet<QString>> perControllo;
+  for (const std::span<const platform::Row> tavola : forma.design().tables) {
+    for (const platform::Row& riga : tavola) {
+      QString nome = testo(riga.name);
+      if (nome == QStringLiteral("mnuLanguage")) continue;
+      const platform::Control& controllo = riga.control(forma, riga.index);
+      if (riga.index >= 0) nome += QStringLiteral("(%1)").arg(riga.index);
+      QSet<QString>& chiavi = perControllo[nome];
+      chiavi.clear();
+      if (controllo.hasCaption() && !testo(riga.look.caption).trimmed().isEmpty()) {
+        chiavi.insert(nome + QStringLiteral(".Caption"));
+      }
+      if (!riga.look.toolTip.empty()) chiavi.insert(nome + QStringLiteral(".ToolTipText"));
+    }
+  }
+  QSet<QString> tutte;
+  if (!forma.design().caption.empty()) tutte.insert(forma.name() + QStringLiteral(".Caption"));
+  for (const QSet<QString>& chiavi : perControllo) tutte.unite(chiavi);
+  return tutte;
+}
+
+QString elenco(QSet<QString> chiavi) {
+  QStringList nomi(chiavi.begin(), chiavi.end());
+  nomi.sort();
+  return nomi.join(QStringLiteral(", "));
+}
+
+}  // namespace
+
+// The language files against the forms' designs, in both directions.
+class LingueTest : public QObject {
+  Q_OBJECT
+
+  static void lingue() {
+    QTest::addColumn<QString>("lingua");
+    const Banco banco({640, 480});
+    for (const QString& nome : QDir(banco.cartella.path()).entryList({QStringLiteral("*.lng")})) {
+      QTest::newRow(qPrintable(nome)) << nome;
+    }
+  }
+
+ private Q_SLOTS:
+  void italianAndEnglishAreThere() {
+    const Banco banco({640, 480});
+    QVERIFY(QFile::exists(banco.percorso(QStringLiteral("Italiano.lng"))));
+    QVERIFY(QFile::exists(banco.percorso(QStringLiteral("English.lng"))));
+  }
+
+  void everyFormHasASectionWithTheKeysOfItsDesignAndNoOther_data() { lingue(); }
+  void everyFormHasASectionWithTheKeysOfItsDesignAndNoOther() {
+    QFETCH(QString, lingua);
+    Banco banco({640, 480});
+    const QMap<QString, Sezione> file = leggi(banco.percorso(lingua));
+    QString mancano;
+    QString avanzano;
+    for (const std::string_view nome : somme::NomiDelleForme()) {
+      const std::shared_ptr<platform::Form> forma = somme::CreaForma(*banco.ambiente, nome);
+      const QSet<QString> attesi = chiesti(*forma);
+      const QStringList chiavi = file.value(forma->name()).keys();
+      const QSet<QString> trovati(chiavi.begin(), chiavi.end());
+      if (!file.contains(forma->name())) mancano += QStringLiteral(" [%1]").arg(forma->name());
+      const QSet<QString> senza = attesi - trovati;
+      const QSet<QString> vane = trovati - attesi;
+      if (!senza.isEmpty()) mancano += QStringLiteral(" %1: %2").arg(forma->name(), elenco(senza));
+      if (!vane.isEmpty()) avanzano += QStringLiteral(" %1: %2").arg(forma->name(), elenco(vane));
+    }
+    QVERIFY2(mancano.isEmpty(), qPrintable(QStringLiteral("missing:") + mancano));
+    QVERIFY2(avanzano.isEmpty(), qPrintable(QStringLiteral("of no control:") + avanzano));
+  }
+
+  void everySectionBelongsToAForm_data() { lingue(); }
+  void everySectionBelongsToAForm() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    QSet<QString> note{QStringLiteral("Strings"), QStringLiteral("MessageBox")};
+    for (const std::string_view nome : somme::NomiDelleForme()) note.insert(testo(nome));
+    const QStringList sezioni = leggi(banco.percorso(lingua)).keys();
+    const QSet<QString> ignote = QSet<QString>(sezioni.begin(), sezioni.end()) - note;
+    QVERIFY2(ignote.isEmpty(), qPrintable(elenco(ignote)));
+  }
+
+  void everyTextIsInQuotesAndSaysSomething_data() { lingue(); }
+  void everyTextIsInQuotesAndSaysSomething() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    const QMap<QString, Sezione> file = leggi(banco.percorso(lingua));
+    for (const Sezione& sezione : file) {
+      for (auto voce = sezione.begin(); voce != sezione.end(); ++voce) {
+        const QString& valore = voce.value();
+        QVERIFY2(valore.size() > 2 && valore.startsWith(u'"') && valore.endsWith(u'"') &&
+                     !valore.mid(1).chopped(1).trimmed().isEmpty(),
+                 qPrintable(voce.key() + u'=' + valore));
+      }
+    }
+  }
+
+  void theFortyStringsAreThereAndNoOther_data() { lingue(); }
+  void theFortyStringsAreThereAndNoOther() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    QStringList attesi;
+    for (int i = 1; i <= 40; ++i) attesi.append(QStringLiteral("%1").arg(i, 4, 10, QChar(u'0')));
+    QCOMPARE(leggi(banco.percorso(lingua)).value(QStringLiteral("Strings")).keys(), attesi);
+  }
+
+  void theWordsOfTheMessageBoxesAreThere_data() { lingue(); }
+  void theWordsOfTheMessageBoxesAreThere() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    QCOMPARE(leggi(banco.percorso(lingua)).value(QStringLiteral("MessageBox")).keys(),
+             QStringList({QStringLiteral("No"), QStringLiteral("Ok"), QStringLiteral("Si")}));
+  }
+
+  void noFileIsTooLargeToBeReadBySections_data() { lingue(); }
+  void noFileIsTooLargeToBeReadBySections() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    QVERIFY(QFileInfo(banco.percorso(lingua)).size() <= 64000);
+  }
+
+  void twoAccessKeysOfOneFormNeverCollide_data() { lingue(); }
+  void twoAccessKeysOfOneFormNeverCollide() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    const QMap<QString, Sezione> file = leggi(banco.percorso(lingua));
+    for (auto sezione = file.begin(); sezione != file.end(); ++sezione) {
+      QMap<QChar, QString> presi;
+      for (auto voce = sezione->begin(); voce != sezione->end(); ++voce) {
+        const qsizetype segno = voce.value().indexOf(u'&');
+        if (segno < 0) continue;
+        const QChar tasto = voce.value()[segno + 1].toUpper();
+        QVERIFY2(!presi.contains(tasto),
+                 qPrintable(QStringLiteral("%1: %2 and %3")
+                                .arg(sezione.key(), presi.value(tasto), voce.key())));
+        presi.insert(tasto, voce.key());
+      }
+    }
+  }
+};
+
+QTEST_MAIN(LingueTest)
+#include "lingue_test.moc"
