@@ -71,6 +71,10 @@ void Banco::premi(int tasto, Qt::KeyboardModifiers con) {
   QTest::keyPress(finestra(), Qt::Key(tasto), con);
 }
 
+void Banco::ripeti(int tasto, Qt::KeyboardModifiers con) {
+  QTest::simulateEvent(finestra(), true, tasto, con, QString(), true);
+}
+
 void Banco::lascia(int tasto, Qt::KeyboardModifiers con) {
   QTest::keyRelease(finestra(), Qt::Key(tasto), con);
 }

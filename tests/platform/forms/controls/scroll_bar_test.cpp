@@ -97,8 +97,8 @@ class ScrollBarTest : public QObject {
     Banco banco({1000, 600}, makeForm);
     BarForm& form = open(banco);
     banco.premi(Qt::Key_Right);
-    banco.premi(Qt::Key_Right);
-    banco.premi(Qt::Key_Right);
+    banco.ripeti(Qt::Key_Right);
+    banco.ripeti(Qt::Key_Right);
     banco.lascia(Qt::Key_Right);
     QCOMPARE(form.told, QList<int>({12}));
   }
@@ -134,7 +134,7 @@ class ScrollBarTest : public QObject {
     QTest::mouseMove(banco.finestra(), grip);
     QCoreApplication::processEvents();
     QCOMPARE(form.bar.value(), 30);
-    QTest::mouseMove(banco.finestra(), grip + QPoint(5000, 0));
+    QTest::mouseMove(banco.finestra(), QPoint(990, grip.y()));
     QCoreApplication::processEvents();
     QCOMPARE(form.bar.value(), 50);
     QTest::mouseRelease(banco.finestra(), Qt::LeftButton, {}, grip);
