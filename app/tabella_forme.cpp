@@ -13,6 +13,9 @@
 #include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
+#include "exercises/bars/form_barre20.h"
+#include "exercises/numbers/form_numeri_addendo.h"
+#include "exercises/numbers/form_numeri_totale.h"
 #include "exercises/table/form_tabella.h"
 
 namespace somme {
@@ -38,7 +41,10 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormMenuPLU, Crea<FormMenuPLU>},
     {forme::kFormMenuBarre, Crea<FormMenuBarre>},
     {forme::kFormMenuTabella, Crea<FormMenuTabella>},
+    {forme::kFormNumeriTotale, Crea<FormNumeriTotale>},
+    {forme::kFormNumeriAddendo, Crea<FormNumeriAddendo>},
     {forme::kFormBarre10, Crea<FormBarre10>},
+    {forme::kFormBarre20, Crea<FormBarre20>},
     {forme::kFormTabella, Crea<FormTabella>},
 });
 

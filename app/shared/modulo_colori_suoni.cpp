@@ -8,7 +8,7 @@ void Attendi(Ambiente& ambiente, double secondi) {
   platform::TimeSource& tempo = ambiente.servizi.tempo;
   // Clock and limit are compared as 32-bit floats, which late in the day have steps of 8 ms.
   auto adesso = static_cast<float>(tempo.secondsSinceMidnight());
-  const auto limite = static_cast<float>(adesso + static_cast<float>(secondi));
+  const auto limite = static_cast<float>(adesso + secondi);
   while (adesso < limite) {
     ambiente.fondo.gate().wait([&] { tempo.sleepUntilEvent(double(limite) - adesso); });
     adesso = static_cast<float>(tempo.secondsSinceMidnight());

@@ -6,6 +6,9 @@ namespace somme {
 
 class Ambiente;
 
+// What `Spazio` holds, for who needs it as a character: no language changes it.
+inline constexpr QChar kSpazio = u' ';
+
 // The shared strings. They are read once, at the start, and keep the language of the start even if
 // the pupil changes it later.
 struct StringheCondivise {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exercises/bars/forma_barre.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 
 // Rows that the bars forms share.
 namespace somme::disegno {
@@ -34,6 +34,11 @@ constexpr Look Termine(std::string_view testo) {
           .border = true};
 }
 
+constexpr Row Aiuto(TwipsRect posto) {
+  return row<&FormaBarrePulsanti::PulsanteAiuto>(
+      posto, {.caption = "&aiuto", .font = kTahoma14, .picture = "aiuto"});
+}
+
 // The kinds of exercise in the menu, in every bars form.
 inline constexpr auto kMenuBarre = std::to_array<Row>({
     item<&FormaBarre::MenuAzzera>({.caption = "A&zzera conteggio"}),
@@ -41,8 +46,8 @@ inline constexpr auto kMenuBarre = std::to_array<Row>({
     item<&FormaBarre::mnuRossa>({.caption = "trova la barra rossa",
                                  .checked = true,
                                  .in = nameOf<&FormaBarre::mnuEsercizio>}),
-    item<&FormaBarre::mnuGiallaVerde>({.caption = "trova le barre gialla e verde",
-                                       .in = nameOf<&FormaBarre::mnuEsercizio>}),
+    item<&FormaBarre::mnuGiallaVerde>(
+        {.caption = "trova le barre gialla e verde", .in = nameOf<&FormaBarre::mnuEsercizio>}),
     item<&FormaBarre::mnuTutteBarre>(
         {.caption = "trova una barra", .in = nameOf<&FormaBarre::mnuEsercizio>}),
     item<&FormaBarre::mnuStampa>({.caption = "&Stampa"}),

@@ -43,11 +43,8 @@ constexpr auto kControlli = std::to_array<Row>({
     Numero(9, 9000, "9"),
     Numero(10, 9960, "10"),
     row<&FormBarre10::Label3>({360, 5760, 5175, 480}, {.caption = "--", .font = kTahoma9}),
-    row<&FormBarre10::PulsanteAiuto>(
-        {6840, 6360, 1935, 975}, {.caption = "&aiuto", .font = kTahoma14, .picture = "aiuto"}),
-    row<&FormBarre10::PulsanteAvanti>(
-        {8880, 6360, 1935, 975},
-        {.caption = "a&vanti", .font = kTahoma14, .hidden = true, .picture = "avanti"}),
+    Aiuto({6840, 6360, 1935, 975}),
+    Avanti<FormBarre10>({8880, 6360, 1935, 975}),
     Si({360, 6360, 855, 855}),
     No({360, 6360, 855, 855}),
     Esatti({1560, 6480, 2415, 360}),
@@ -75,26 +72,20 @@ constexpr FormDesign kDisegno{.name = forme::kFormBarre10,
 
 }  // namespace
 
-FormBarre10::FormBarre10(Ambiente& ambiente) : FormaBarre(ambiente, kDisegno, kAiuti) {
-  PulsanteAiuto.onClick([this] { MostraAiuto(); });
-  PulsanteAvanti.onClick([this] { NuovoCaso(); });
+FormBarre10::FormBarre10(Ambiente& ambiente) : FormaBarrePulsanti(ambiente, kDisegno, kAiuti) {
   mnuTastiera.onClick([this] { VaiA(forme::kFormBarre10Tastiera); });
 }
 
 void FormBarre10::onLoad() {
-  FormaBarre::onLoad();
+  FormaBarrePulsanti::onLoad();
   PulsanteNumero.forEach([this](platform::Button& pulsante) {
     pulsante.onClick([this, numero = pulsante.index()] { Rispondi(numero); });
   });
-  PulsanteAvanti.setVisible(true);
-  ScriviEsatti();
-  ScriviErrati();
-  stato().TipoEsercizio = 1;
-  if (stato().CursoreDiSistema) ImpostaCursoreSistema();
 }
 
 void FormBarre10::onActivate() {
   LeggiMisure();
+  MisuraAiuti();
   ScriviTitolo(stringhe().TitoloFinoAl10);
   CreaAiuti();
   ColoraTermini();
@@ -124,11 +115,7 @@ void FormBarre10::Rispondi(int numero) {
 }
 
 void FormBarre10::RispostaGiusta(int numero) {
-  SegnaGiusto();
-  MostraNumeri();
-  PulsanteAvanti.setEnabled(true);
-  AggiungiAllElenco();
-  ScriviSomma();
+  SegnaRisolto();
   for (int i = 0; i <= stato().LimiteEsercizio; ++i) {
     if (i != numero) PulsanteNumero[i].setBackColor(kGrigio);
     PulsanteNumero[i].setEnabled(false);

@@ -1,18 +1,16 @@
 #pragma once
 
-#include "exercises/bars/forma_barre.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 
 namespace somme {
 
 // Bars up to 10; the pupil answers with one of eleven numbered buttons, which take the colour of
 // the bar that is asked for.
-class FormBarre10 final : public FormaBarre {
+class FormBarre10 final : public FormaBarrePulsanti {
  public:
   explicit FormBarre10(Ambiente& ambiente);
 
   platform::ControlArray<platform::Button> PulsanteNumero{*this};
-  platform::Button PulsanteAiuto{*this};
-  platform::Button PulsanteAvanti{*this};
   platform::MenuItem mnuTastiera{*this};
 
  protected:

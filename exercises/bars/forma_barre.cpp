@@ -85,7 +85,13 @@ void FormaBarre::GeneraCaso2() {
   MostraCaso(nascosto == 1 ? kChiediSecondo : kChiediPrimo);
 }
 
-qint16 FormaBarre::Lungo(int unita) const { return toInt16(int(Unita) * unita); }
+qint16 FormaBarre::Lungo(int unita) const {
+  return toInt16(int(Unita) * unita);
+}
+
+qint16 FormaBarre::FineDi(int unita) const {
+  return platform::toInt16(Lungo(unita) + OrigineX);
+}
 
 void FormaBarre::MostraCaso(const DomandaBarre& domanda) {
   const Caso& caso = stato();
@@ -98,7 +104,7 @@ void FormaBarre::MostraCaso(const DomandaBarre& domanda) {
   };
   const std::array barre{
       Barra{n1, kPrimoTermine, caso.Addendo1, OrigineX, OrigineY},
-      Barra{n2, kSecondoTermine, caso.Addendo2, toInt16(OrigineX + Lungo(caso.Addendo1)), OrigineY},
+      Barra{n2, kSecondoTermine, caso.Addendo2, FineDi(caso.Addendo1), OrigineY},
       Barra{n3, kTermineTotale, caso.Totale, OrigineX, toInt16(OrigineY + Unita)},
   };
   for (const Barra& b : barre) {
@@ -121,8 +127,7 @@ void FormaBarre::MostraNumeri() {
 }
 
 void FormaBarre::AggiungiAllElenco() {
-  TestoStampa.append(QStringLiteral("    %1 + %2 = %3\r\n")
-                         .arg(n1.caption(), n2.caption(), n3.caption()));
+  AggiungiRiga(QStringLiteral("    %1 + %2 = %3").arg(n1.caption(), n2.caption(), n3.caption()));
 }
 
 void FormaBarre::ScriviSomma() {
@@ -152,8 +157,7 @@ void FormaBarre::MettiQuadretti(platform::ControlArray<platform::Label>& quadret
 void FormaBarre::MostraAiuto() {
   const int altoAddendi = toInt16(Lungo(2) + OrigineY + kStacco);
   MettiQuadretti(aiuto1, stato().Addendo1, OrigineX, altoAddendi);
-  const int dopoIlPrimo = toInt16(OrigineX + Lungo(stato().Addendo1));
-  MettiQuadretti(aiuto2, stato().Addendo2, dopoIlPrimo, altoAddendi);
+  MettiQuadretti(aiuto2, stato().Addendo2, FineDi(stato().Addendo1), altoAddendi);
   MettiQuadretti(aiuto3, stato().Totale, OrigineX, toInt16(Lungo(3) + OrigineY));
 }
 
@@ -163,6 +167,9 @@ void FormaBarre::LeggiMisure() {
   OrigineX = toInt16(n1.left());
   n2.setHeight(Unita);
   n3.setHeight(Unita);
+}
+
+void FormaBarre::MisuraAiuti() {
   for (platform::Label* primo : {&aiuto1[0], &aiuto2[0], &aiuto3[0]}) {
     primo->setWidth(Unita);
     primo->setHeight(Unita);
@@ -170,8 +177,7 @@ void FormaBarre::LeggiMisure() {
 }
 
 void FormaBarre::ScriviTitolo(const QString& esercizio) {
-  TestoStampa.setText(QStringLiteral("\r\n     %1%2%3\r\n\r\n")
-                          .arg(stringhe().TitoloBarre, stringhe().Trattino, esercizio));
+  IniziaElenco(QStringLiteral("     ") + stringhe().TitoloBarre + stringhe().Trattino + esercizio);
 }
 
 void FormaBarre::CreaAiuti() {

@@ -42,25 +42,29 @@ class FormaBarre : public FormaEsercizio {
   void GeneraCaso2();
 
  protected:
-  virtual void NuovoCaso() = 0;
   // Makes the form ready for the answer to a new question.
   virtual void Chiedi(const DomandaBarre& domanda) = 0;
 
   // The steps that the forms' own NuovoCaso, Load and Activate are made of.
   void NascondiAiuti();
   void GeneraSecondoTipo();
+  // The unit and the origin, from `n1` as it stands now; the other bars take its height.
   void LeggiMisure();
+  void MisuraAiuti();
   void ScriviTitolo(const QString& esercizio);
   void CreaAiuti();
   void ColoraTermini();
 
-  void MostraAiuto();
+  virtual void MostraAiuto();
   // The numbers come back on the bars, so that the "?" goes.
   void MostraNumeri();
   void AggiungiAllElenco();
   void ScriviSomma();
 
   [[nodiscard]] qint16 risultatoAtteso() const { return RisultatoAtteso; }
+  // So many units from the left end of the bars, in twips. Throws RunTimeError(Overflow) beyond 16
+  // bits.
+  [[nodiscard]] qint16 FineDi(int unita) const;
 
  private:
   void ScegliTipo(qint16 tipo);

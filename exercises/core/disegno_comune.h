@@ -32,6 +32,12 @@ inline constexpr Rgb kGialloPallido{255, 255, 192};
 inline constexpr FontSpec kTahoma9{Face::Tahoma, 9.75};
 inline constexpr FontSpec kTahoma14{Face::Tahoma, 14.25};
 
+// F: a form with `PulsanteAvanti`, which shows itself at its Load.
+template <class F>
+constexpr Row Avanti(TwipsRect posto) {
+  return row<&F::PulsanteAvanti>(
+      posto, {.caption = "a&vanti", .font = kTahoma14, .hidden = true, .picture = "avanti"});
+}
 constexpr Row Esatti(TwipsRect posto) {
   return row<&FormaEsercizio::EtichettaEsatti>(
       posto, {.caption = "Esatti", .font = kTahoma14, .back = kCiano, .border = true});
@@ -52,25 +58,22 @@ constexpr Row Pannello(TwipsRect posto) {
       posto, {.toolTip = "Somme risolte", .back = kVerdePallido, .hidden = true});
 }
 constexpr Row Elenco(TwipsRect posto) {
-  return row<&FormaEsercizio::TestoStampa>(posto,
-                                           {.toolTip = "Elenco delle somme risolte",
-                                            .font = {Face::Tahoma, 12},
-                                            .in = nameOf<&FormaEsercizio::PictureStampa>});
+  return row<&FormaEsercizio::TestoStampa>(posto, {.toolTip = "Elenco delle somme risolte",
+                                                   .font = {Face::Tahoma, 12},
+                                                   .in = nameOf<&FormaEsercizio::PictureStampa>});
 }
 constexpr Row Stampa(TwipsRect posto) {
-  return row<&FormaEsercizio::CommandStampa>(posto,
-                                             {.caption = "Stampa",
-                                              .font = kTahoma14,
-                                              .disabled = true,
-                                              .picture = "stampante",
-                                              .in = nameOf<&FormaEsercizio::PictureStampa>});
+  return row<&FormaEsercizio::CommandStampa>(posto, {.caption = "Stampa",
+                                                     .font = kTahoma14,
+                                                     .disabled = true,
+                                                     .picture = "stampante",
+                                                     .in = nameOf<&FormaEsercizio::PictureStampa>});
 }
 constexpr Row Chiudi(TwipsRect posto) {
-  return row<&FormaEsercizio::CommandChiudi>(posto,
-                                             {.caption = "Chiudi",
-                                              .font = kTahoma14,
-                                              .picture = "chiudi",
-                                              .in = nameOf<&FormaEsercizio::PictureStampa>});
+  return row<&FormaEsercizio::CommandChiudi>(posto, {.caption = "Chiudi",
+                                                     .font = kTahoma14,
+                                                     .picture = "chiudi",
+                                                     .in = nameOf<&FormaEsercizio::PictureStampa>});
 }
 
 }  // namespace somme::disegno

@@ -55,8 +55,33 @@ void FormaEsercizio::AzzeraConteggio() {
   ScriviErrati();
 }
 
-void FormaEsercizio::ApriPannelloStampa() { PictureStampa.cover(); }
+void FormaEsercizio::IniziaElenco(const QString& intestazione) {
+  TestoStampa.setText(QStringLiteral("\r\n%1\r\n\r\n").arg(intestazione));
+}
 
-void FormaEsercizio::ChiudiPannelloStampa() { PictureStampa.setVisible(false); }
+void FormaEsercizio::AggiungiRiga(const QString& riga) {
+  TestoStampa.append(riga + QStringLiteral("\r\n"));
+}
+
+QString FormaEsercizio::NumeroInDomanda(qint16 numero) const {
+  return platform::formatPicture(numero, stringhe().FormatoNumeri);
+}
+
+QString FormaEsercizio::SommaDaFare() const {
+  return NumeroInDomanda(stato().Addendo1) + stringhe().SegnoPiu +
+         NumeroInDomanda(stato().Addendo2) + stringhe().SegnoUguale;
+}
+
+QString FormaEsercizio::SommaFatta() const {
+  return SommaDaFare() + NumeroInDomanda(stato().Totale);
+}
+
+void FormaEsercizio::ApriPannelloStampa() {
+  PictureStampa.cover();
+}
+
+void FormaEsercizio::ChiudiPannelloStampa() {
+  PictureStampa.setVisible(false);
+}
 
 }  // namespace somme

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "app/shared/forma.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/image.h"
@@ -11,8 +13,9 @@
 namespace somme {
 
 // The cycle that all exercise forms share: the two counters and their labels, the verdict in
-// picture and sound, the record of solved cases with its print panel, the way out. What is asked,
-// how the answer comes and how it is judged is the business of the families.
+// picture and sound, the record of solved cases with its print panel, the numbers in a question,
+// the way out. What is asked, how the answer comes and how it is judged is the business of the
+// families.
 class FormaEsercizio : public Forma {
  public:
   // menu: the form that `mnuEsci` goes back to.
@@ -31,6 +34,9 @@ class FormaEsercizio : public Forma {
   platform::MenuItem mnuEsci{*this};
 
  protected:
+  // Makes and shows the next case.
+  virtual void NuovoCaso() = 0;
+
   void ScriviEsatti();
   void ScriviErrati();
 
@@ -39,6 +45,17 @@ class FormaEsercizio : public Forma {
   void SegnaGiusto(const Passo& primaDellEtichetta = {});
   // A wrong answer: count and label, picture, whatever a form does before the sound, the sound.
   void SegnaSbagliato(const Passo& primaDelSuono = {});
+
+  // The record of solved cases: it begins with a heading between line breaks and gets a line for
+  // each case. Both are given without their line breaks.
+  void IniziaElenco(const QString& intestazione);
+  void AggiungiRiga(const QString& riga);
+
+  // A number as a question shows it.
+  [[nodiscard]] QString NumeroInDomanda(qint16 numero) const;
+  // The case as an operation up to the sign before its result, and with it.
+  [[nodiscard]] QString SommaDaFare() const;
+  [[nodiscard]] QString SommaFatta() const;
 
   // Both counters to 0; the case stays as it is.
   void AzzeraConteggio();

@@ -32,6 +32,7 @@ std::optional<SdlLibrary> SdlLibrary::load(const char* file) {
   SdlLibrary sdl;
   const bool complete = library != nullptr && find(library, "SDL_SetHint", sdl.setHint) &&
                         find(library, "SDL_GetError", sdl.getError) &&
+                        find(library, "SDL_TLSCleanup", sdl.tlsCleanup) &&
                         find(library, "SDL_AudioInit", sdl.audioInit) &&
                         find(library, "SDL_AudioQuit", sdl.audioQuit) &&
                         find(library, "SDL_RWFromFile", sdl.rwFromFile) &&

@@ -4,6 +4,7 @@
 #include <SDL2/SDL_error.h>
 #include <SDL2/SDL_hints.h>
 #include <SDL2/SDL_rwops.h>
+#include <SDL2/SDL_thread.h>
 
 #include <optional>
 
@@ -19,6 +20,9 @@ struct SdlLibrary {
 
   decltype(&SDL_SetHint) setHint = nullptr;
   decltype(&SDL_GetError) getError = nullptr;
+  // Gives back what SDL keeps for the calling thread; a thread that SDL did not start calls it
+  // last.
+  decltype(&SDL_TLSCleanup) tlsCleanup = nullptr;
   // Not SDL_Init, which would bring up SDL's event queue and its signal handlers, too.
   decltype(&SDL_AudioInit) audioInit = nullptr;
   decltype(&SDL_AudioQuit) audioQuit = nullptr;

@@ -81,21 +81,30 @@ void playRequest(SoundDesk& desk, SdlPlayer& player, const SoundRequest& request
 }
 
 // The whole life of the sound thread.
-void serve(const std::shared_ptr<SoundDesk>& desk) {
+void serve(SoundDesk& desk) {
   std::optional<SdlLibrary> sdl;
   std::optional<SdlPlayer> player;
-  while (const std::optional<SoundRequest> request = desk->waitForRequest()) {
-    if (!player && (sdl = SdlLibrary::load())) {
-      player.emplace(*sdl);
+  while (true) {
+    const std::optional<SoundRequest> request = desk.waitForRequest();
+    if (!request) {
+      break;
     }
     if (!player) {
-      desk->complain("SDL2 is missing");
-      continue;
+      sdl = SdlLibrary::load();
+      if (!sdl) {
+        desk.complain("SDL2 is missing");
+        continue;
+      }
+      player.emplace(*sdl);
     }
-    playRequest(*desk, *player, *request);
-    if (desk->rest(milliseconds(0))) {
+    playRequest(desk, *player, *request);
+    if (desk.rest(milliseconds(0))) {
       player->close();
     }
+  }
+  player.reset();
+  if (sdl) {
+    sdl->tlsCleanup();
   }
 }
 
@@ -120,7 +129,7 @@ void SdlSound::play(const QString& path) {
   }
   const AllSignalsBlocked blocked;
   try {
-    std::thread([desk = desk_] { serve(desk); }).detach();
+    std::thread([desk = desk_] { serve(*desk); }).detach();
     threadStarted_ = true;
   } catch (const std::system_error&) {
     // No thread to be had: silence, and another try with the next sound.

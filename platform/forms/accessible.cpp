@@ -5,6 +5,7 @@
 
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/image_widget.h"
+#include "platform/forms/controls/panel_widget.h"
 
 namespace platform {
 
@@ -37,8 +38,12 @@ QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
   if (className == QLatin1String("platform::ButtonWidget")) {
     return new AccessibleButton(static_cast<QWidget*>(object));
   }
-  if (className == QLatin1String("platform::ImageWidget")) {
+  if (className == QLatin1String("platform::ImageWidget") ||
+      className == QLatin1String("platform::LineWidget")) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
+  }
+  if (className == QLatin1String("platform::PanelWidget")) {
+    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
   }
   return nullptr;
 }

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 #include "platform/forms/accessible.h"
 #include "platform/forms/fonts.h"
@@ -12,6 +12,19 @@ namespace platform {
 namespace {
 
 constexpr double kMenuPixels = 16;
+
+// Fusion, with a text cursor that can be found.
+class Style final : public QProxyStyle {
+ public:
+  Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+  [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                const QWidget* widget) const override {
+    constexpr int kTextCursor = 3;
+    return metric == PM_TextCursorWidth ? kTextCursor
+                                        : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
 
 QPalette lightPalette() {
   QPalette palette(QColor(240, 240, 240));
@@ -32,7 +45,7 @@ QPalette lightPalette() {
 }  // namespace
 
 void applyAppearance() {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new Style);
   QApplication::setPalette(lightPalette());
   QApplication::setFont(fontOf({}, kMenuPixels));
   installAccessibility();

@@ -63,19 +63,35 @@ void buildCopy(Control& copy, const Control& original, int index) {
   look.fore = original.foreColor();
   look.back = look.back ? std::optional(original.backColor()) : std::nullopt;
   const QString& name = original.name();
-  copy.build(original.surroundings(), name.left(name.indexOf(u'(')), index, original.designPlace(), look);
+  copy.build(original.surroundings(), name.left(name.indexOf(u'(')), index, original.designPlace(),
+             look);
+  copy.setCaption(original.caption());
+  copy.setToolTip(original.toolTip());
+  copy.setTag(original.tag());
+  copy.setEnabled(original.isEnabled());
+  copy.setFontSize(original.fontSize());
+  copy.setMousePointer(original.mousePointer());
   original.form().adopt(copy);
 }
 
 void Control::applyScale() {
   if (!widget_) return;
-  widget_->setGeometry(scale().pixels(place_));
+  Control::placeChanged();
   applyLook();
 }
 
 void Control::setPlace(double left, double top, double width, double height) {
   place_ = {left / scale().x, top / scale().y, width / scale().x, height / scale().y};
-  if (widget_) widget_->setGeometry(scale().pixels(place_));
+  if (widget_) placeChanged();
+}
+
+void Control::placeChanged() {
+  widget_->setGeometry(scale().pixels(place_));
+}
+
+std::vector<QWidget*> Control::tabStops() const {
+  if (!widget_ || widget_->focusPolicy() == Qt::NoFocus) return {};
+  return {widget_};
 }
 
 void Control::setLeft(double twips) {

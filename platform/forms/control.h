@@ -2,11 +2,11 @@
 
 #include <QPointer>
 #include <QString>
+#include <QWidget>
 #include <functional>
+#include <vector>
 
 #include "platform/forms/design.h"
-
-class QWidget;
 
 namespace platform {
 
@@ -100,8 +100,10 @@ class Control {
   // Called by the form: makes the control from its row, or as a copy of element 0 at run time.
   void build(QWidget* parent, const QString& name, int index, const TwipsRect& place,
              const Look& look);
-  // Called by the form after a resize, and by the control itself after a change of place.
+  // Called by the form after a resize.
   virtual void applyScale();
+  // The widgets that Tab stops at, in their order.
+  [[nodiscard]] virtual std::vector<QWidget*> tabStops() const;
   // Where the control stands among its siblings: 0 for what is painted on the form (pictures,
   // shapes, labels), 1 for lines over them, 2 for what has a window of its own.
   [[nodiscard]] virtual int layer() const { return 2; }
@@ -112,6 +114,8 @@ class Control {
   virtual void access() {}
   // The window lost the keyboard while keys were down: they are let go without effect.
   virtual void keysLetGo() {}
+  // The form was unloaded: what runs by itself stops.
+  virtual void formGone() {}
 
  protected:
   [[nodiscard]] ControlHost& host() const { return host_; }
@@ -122,6 +126,8 @@ class Control {
 
   // Makes the widget; null for a control that has none.
   [[nodiscard]] virtual QWidget* create(QWidget* parent) = 0;
+  // Follows a new place that the program has given the control: by default its widget takes it.
+  virtual void placeChanged();
   // Brings colours, font and spoken name to the widget.
   virtual void applyLook() {}
   [[nodiscard]] double fontPixels() const { return scale().fontPixels(points_); }

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-// Makes a control at run time as a copy of another: place, look, colours, the hidden state.
+// Makes a hidden control at run time as a copy of another as that stands now: place, look, words.
 // Called by control arrays only.
 void buildCopy(Control& copy, const Control& original, int index);
 

@@ -49,7 +49,7 @@ struct StoredProperty {
 // What a control looks like at the start. What a kind has no use for stays as it is. All texts are
 // UTF-8.
 struct Look {
-  std::string_view caption = {};  // "&" stands before the access key
+  std::string_view caption = {};  // "&" stands before the access key; text boxes: their text
   std::string_view toolTip = {};  // also what assistive technology calls a control without words
   FontSpec font = {};
   std::optional<Rgb> fore = {};

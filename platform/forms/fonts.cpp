@@ -6,19 +6,30 @@
 
 namespace platform {
 
-QFont fontOf(const FontSpec& spec, double pixels) {
-  static const QStringList kTahoma{QStringLiteral("Tahoma"), QStringLiteral("Andika"),
-                                   QStringLiteral("DejaVu Sans")};
-  static const QStringList kArial{QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
-                                  QStringLiteral("DejaVu Sans")};
-  QFont font(spec.face == Face::Tahoma ? kTahoma : kArial);
+namespace {
+
+const QString kTahoma = QStringLiteral("Tahoma");
+const QString kArial = QStringLiteral("Arial");
+
+}  // namespace
+
+QFont fontNamed(const QString& name, double pixels, bool bold) {
+  static const QStringList kLikeTahoma{kTahoma, QStringLiteral("Andika"),
+                                       QStringLiteral("DejaVu Sans")};
+  static const QStringList kLikeArial{kArial, QStringLiteral("Liberation Sans"),
+                                      QStringLiteral("DejaVu Sans")};
+  QFont font(name == kTahoma ? kLikeTahoma : name == kArial ? kLikeArial : QStringList{name});
   font.setPixelSize(std::max(1, qRound(pixels)));
-  font.setBold(spec.bold);
+  font.setBold(bold);
   return font;
 }
 
+QFont fontOf(const FontSpec& spec, double pixels) {
+  return fontNamed(spec.face == Face::Tahoma ? kTahoma : kArial, pixels, spec.bold);
+}
+
 Ink inkOf(const QFont& font) {
-  const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈgjpqy"));
+  const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈÇ(gjpqy"));
   return {-ink.top(), ink.bottom()};
 }
 

@@ -10,6 +10,9 @@ namespace platform {
 // else Andika, a face made for young readers, and Liberation Sans, which has Arial's widths.
 [[nodiscard]] QFont fontOf(const FontSpec& spec, double pixels);
 
+// The same for a font that is given by its name. pixels: at least 1.
+[[nodiscard]] QFont fontNamed(const QString& name, double pixels, bool bold);
+
 // How far the ink of any word that the program can show reaches above and below the base line, in
 // pixels: accents on capitals and descenders. It is less than the font's own line height, which in
 // faces for beginners is very generous.

@@ -84,10 +84,10 @@ QWidget* Form::parentFor(const Row& row) const {
 void Form::setTabOrder() {
   QWidget* before = nullptr;
   for (const Control* control : controls_) {
-    QWidget* widget = control->widget();
-    if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
-    if (before != nullptr) QWidget::setTabOrder(before, widget);
-    before = widget;
+    for (QWidget* widget : control->tabStops()) {
+      if (before != nullptr) QWidget::setTabOrder(before, widget);
+      before = widget;
+    }
   }
 }
 
@@ -95,11 +95,15 @@ void Form::adopt(Control& control) {
   controls_.push_back(&control);
   control.applyScale();
   QWidget* widget = control.widget();
-  if (widget == nullptr || control.layer() == 2) return;
-  for (const Control* other : controls_) {
-    if (other->layer() > control.layer() && other->widget() != nullptr &&
-        other->widget()->parentWidget() == widget->parentWidget()) {
-      widget->stackUnder(other->widget());
+  if (widget == nullptr) return;
+  // Under the lowest of what belongs above it; children are listed from the lowest to the highest.
+  for (QObject* sibling : widget->parentWidget()->children()) {
+    const auto other = std::find_if(controls_.begin(), controls_.end(), [sibling](Control* known) {
+      return known->widget() == sibling;
+    });
+    if (other == controls_.end() || *other == &control) continue;
+    if ((*other)->layer() > control.layer() || *other == cover_) {
+      widget->stackUnder((*other)->widget());
       return;
     }
   }
@@ -149,11 +153,12 @@ bool Form::run(const std::function<void()>& handler, Gate::Cases cases) {
 
 void Form::dispose() {
   unloaded_ = true;
+  for (Control* control : controls_) control->formGone();
   if (page_) page_->hide();
 }
 
 void Form::cover(Control& panel) {
-  if (cover_ != &panel) focusBelow_ = QApplication::focusWidget();
+  if (cover_ != &panel) focusBelow_ = page_->window()->focusWidget();
   cover_ = &panel;
   panel.setPlace(0, 0, width(), height());
   panel.bringToFront();
@@ -171,8 +176,11 @@ void Form::cover(Control& panel) {
 void Form::uncover(Control& panel) {
   if (cover_ != &panel) return;
   cover_ = nullptr;
-  if (focusBelow_ && focusBelow_->isVisible() && focusBelow_->isEnabled()) {
+  if (!focusBelow_) return;
+  if (focusBelow_->isVisible() && focusBelow_->isEnabled()) {
     focusBelow_->setFocus(Qt::OtherFocusReason);
+  } else {
+    page_->canvas()->passFocus(focusBelow_, true);
   }
 }
 

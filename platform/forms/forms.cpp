@@ -27,6 +27,7 @@ std::shared_ptr<Form> Forms::load(std::string_view name) {
   loaded_.push_back(form);
   form->build(runtime_.window().pages());
   form->page()->resize(runtime_.window().pages()->size());
+  form->page()->arrange();
   const bool done = form->run([&form] { form->fireLoad(); }, Gate::Cases::DoNotMatter);
   if (!done || form->isUnloaded()) throw Unwind{};
   return form;
@@ -76,11 +77,13 @@ void Forms::unload(Form& form) {
 }
 
 void Forms::activateLater(const std::shared_ptr<Form>& form) {
-  QTimer::singleShot(0, form->page(), [this, weak = std::weak_ptr(form)] {
+  const auto activate = [this, weak = std::weak_ptr(form)] {
     const std::shared_ptr<Form> alive = weak.lock();
     if (!alive || current() != alive.get()) return;
     alive->run([&alive] { alive->fireActivate(); }, Gate::Cases::DoNotMatter);
-  });
+  };
+  runtime_.gate().afterHandler(
+      [this, activate] { QTimer::singleShot(0, &runtime_.window(), activate); });
 }
 
 Form& Forms::loaded(std::string_view name) {

@@ -25,9 +25,18 @@ bool Gate::run(const std::shared_ptr<Form>& form, const std::function<void()>& h
 }
 
 void Gate::leave() {
-  const std::shared_ptr<Form> form = std::move(frames_.back().form);
+  const Frame left = std::move(frames_.back());
   frames_.pop_back();
-  if (form->isUnloaded() && !isRunning(*form)) onIdle_();
+  if (left.form->isUnloaded() && !isRunning(*left.form)) onIdle_();
+  for (const std::function<void()>& action : left.afterwards) action();
+}
+
+void Gate::afterHandler(std::function<void()> action) {
+  if (frames_.empty()) {
+    action();
+  } else {
+    frames_.back().afterwards.push_back(std::move(action));
+  }
 }
 
 void Gate::wait(const std::function<void()>& work) {

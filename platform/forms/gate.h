@@ -36,6 +36,9 @@ class Gate {
   // or the program is ending. Outside of any handler it just lets it work.
   void wait(const std::function<void()>& work);
 
+  // Does something once the running handler has left the stack; at once outside of any.
+  void afterHandler(std::function<void()> action);
+
   // From here on no handler starts and every wait unwinds.
   void close() { closed_ = true; }
   [[nodiscard]] bool isClosed() const { return closed_; }
@@ -60,6 +63,7 @@ class Gate {
   struct Frame {
     std::shared_ptr<Form> form;
     Cases cases;
+    std::vector<std::function<void()>> afterwards = {};
   };
 
   void leave();

@@ -1,6 +1,5 @@
 #include "platform/forms/page.h"
 
-#include <QApplication>
 #include <QMenuBar>
 #include <QPaintEvent>
 #include <QPainter>
@@ -54,10 +53,13 @@ void Canvas::paintEvent(QPaintEvent* event) {
 // Tab goes round the controls of this form in the order of its design, and stays in a covering
 // panel while one is open.
 bool Canvas::focusNextPrevChild(bool next) {
+  return passFocus(window()->focusWidget(), next);
+}
+
+bool Canvas::passFocus(QWidget* from, bool next) {
   const Control* cover = form_.covering();
   const QWidget* room = cover != nullptr ? cover->container() : this;
-  QWidget* start = QApplication::focusWidget();
-  if (start == nullptr || !isAncestorOf(start)) start = this;
+  QWidget* start = from != nullptr && isAncestorOf(from) ? from : this;
   QWidget* widget = start;
   do {
     widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
@@ -80,7 +82,7 @@ MenuBar* Page::menuBar() {
   return menuBar_;
 }
 
-void Page::arrange() {
+bool Page::arrange() {
   int top = 0;
   if (menuBar_ != nullptr) {
     menuBar_->scaleTo(height());
@@ -93,11 +95,14 @@ void Page::arrange() {
   canvas_->setGeometry((room.width() - client.width()) / 2,
                        top + (room.height() - client.height()) / 2, client.width(),
                        client.height());
+  const bool changed = client != arranged_;
+  arranged_ = client;
+  return changed;
 }
 
+// A page that comes up gets its resize event late: its form has taken the size already.
 void Page::resizeEvent(QResizeEvent* /*event*/) {
-  arrange();
-  form_.takeSize();
+  if (arrange()) form_.takeSize();
 }
 
 void Page::paintEvent(QPaintEvent* event) {

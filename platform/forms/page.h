@@ -15,6 +15,10 @@ class Canvas final : public QWidget {
  public:
   Canvas(Form& form, QWidget* parent);
 
+  // Gives the focus to the next control that can take it, in the order of the design; from: where
+  // to begin. False where no control can.
+  bool passFocus(QWidget* from, bool next);
+
   // Keeps the gradient at the present size.
   void keepGradient() {
     gradient_ = size();
@@ -43,17 +47,19 @@ class Page final : public QWidget {
   // The menu bar, made at the first call: a form without menus has none.
   [[nodiscard]] MenuBar* menuBar();
   [[nodiscard]] bool hasMenuBar() const { return menuBar_ != nullptr; }
+  // Gives menu bar and client area their places in the page as it is now, also while it is hidden.
+  // False when the client area had this size already.
+  bool arrange();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void arrange();
-
   Form& form_;
   MenuBar* menuBar_ = nullptr;
   Canvas* canvas_;
+  QSize arranged_;
 };
 
 }  // namespace platform

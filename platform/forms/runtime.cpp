@@ -6,6 +6,7 @@
 #include "platform/base/run_time_error.h"
 #include "platform/forms/form.h"
 #include "platform/forms/keys/key_guard.h"
+#include "platform/forms/keys/keyboard_state.h"
 
 namespace platform {
 
@@ -25,7 +26,7 @@ Runtime::Runtime(RuntimeServices services, QString title, QString pictures, QStr
       gate_([this](const RunTimeError& error) { failed(error); }, [this] { forms_.bury(); }),
       forms_(*this, std::move(factory)),
       window_(std::make_unique<Window>(*this)),
-      keys_(std::make_unique<KeyGuard>(*this)) {}
+      keys_(std::make_unique<KeyGuard>(*this, askForRepeatMarks())) {}
 
 Runtime::~Runtime() {
   gate_.close();

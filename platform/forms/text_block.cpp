@@ -25,6 +25,11 @@ double luminance(const QColor& colour) {
          0.0722 * linear(colour.blueF());
 }
 
+// The width of the line that a faint text is drawn round with, half of it outside of the glyphs.
+double outlineOf(const QFont& font) {
+  return std::max(2.0, font.pixelSize() / 9.0);
+}
+
 struct Mnemonic {
   QString text;
   int at = -1;
@@ -55,6 +60,28 @@ QColor readableOn(const QColor& ground) {
   return contrast(ground, Qt::black) >= contrast(ground, Qt::white) ? Qt::black : Qt::white;
 }
 
+bool isFaint(const QColor& ink, const QColor& ground) {
+  return contrast(ink, ground) < kReadable;
+}
+
+void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const QString& text,
+                   const QColor& ink, const QColor& ground) {
+  if (!isFaint(ink, ground)) {
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(baseLine, text);
+    return;
+  }
+  QPainterPath path;
+  path.addText(baseLine, font, text);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.strokePath(path, QPen(readableOn(ground), outlineOf(font), Qt::SolidLine, Qt::RoundCap,
+                                Qt::RoundJoin));
+  painter.fillPath(path, ink);
+  painter.restore();
+}
+
 QColor toColor(Rgb rgb) {
   return {rgb.red, rgb.green, rgb.blue};
 }
@@ -73,28 +100,36 @@ void TextBlock::set(const QString& text, const QFont& font, QSize room, Align al
   Mnemonic read = mnemonic ? readMnemonic(text) : Mnemonic{text, -1};
   text_ = std::move(read.text);
   mnemonic_ = read.at;
-  font_ = font;
+  wanted_ = font;
   room_ = room;
   align_ = align;
+  fit();
+}
+
+void TextBlock::fit() {
+  font_ = wanted_;
   layout_.reset();
   width_ = height_ = 0;
-  if (text_.trimmed().isEmpty() || room.isEmpty()) return;
-  while (!layOut(room.width()) && font_.pixelSize() > kSmallest) {
+  if (text_.trimmed().isEmpty() || room_.isEmpty()) return;
+  while (!layOut() && font_.pixelSize() > kSmallest) {
     font_.setPixelSize(std::max(
         kSmallest, std::min(font_.pixelSize() - 1, int(font_.pixelSize() * kNextSmaller))));
   }
 }
 
 // Lays the text out in the present size; false when it is larger than the room.
-bool TextBlock::layOut(double widest) {
+bool TextBlock::layOut() {
   const QFontMetricsF metrics(font_);
+  margin_ = outlined_ ? outlineOf(font_) / 2 : 0;
+  const double widest = room_.width() - 2 * margin_;
+  const double highest = room_.height() - 2 * margin_;
   const Ink ink = inkOf(font_);
   above_ = ink.above;
   lineHeight_ = ink.height() + font_.pixelSize() * kLineGap;
   layout_.reset();
   width_ = metrics.horizontalAdvance(text_);
   height_ = ink.height();
-  if (width_ <= widest && !text_.contains(u'\n')) return height_ <= room_.height();
+  if (width_ <= widest && !text_.contains(u'\n')) return height_ <= highest;
 
   QString lines = text_;
   lines.replace(u'\n', QChar::LineSeparator);
@@ -112,17 +147,20 @@ bool TextBlock::layOut(double widest) {
   }
   layout_->endLayout();
   height_ = count * lineHeight_ - font_.pixelSize() * kLineGap;
-  return width_ <= widest && height_ <= room_.height();
+  return width_ <= widest && height_ <= highest;
 }
 
 void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
                       const QColor& ground) {
   if (height_ <= 0) return;
-  const bool faint = contrast(ink, ground) < kReadable;
+  const bool faint = isFaint(ink, ground);
+  if (faint != outlined_) {
+    outlined_ = faint;
+    fit();
+  }
   const QFontMetricsF metrics(font_);
   double baseLine = area.top() + (area.height() - height_) / 2 + above_;
   const int lines = layout_ ? layout_->lineCount() : 1;
-  painter.setFont(font_);
   for (int i = 0; i < lines; ++i, baseLine += lineHeight_) {
     int first = 0;
     QString part = text_;
@@ -133,22 +171,10 @@ void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
       while (part.endsWith(u' ') || part.endsWith(u'\n')) part.chop(1);
     }
     const double width = metrics.horizontalAdvance(part);
-    double left = area.left();
-    if (align_ == Align::Centre) left += (area.width() - width) / 2;
-    if (align_ == Align::Right) left += area.width() - width;
-    if (faint) {
-      QPainterPath path;
-      path.addText(QPointF(left, baseLine), font_, part);
-      painter.save();
-      painter.setRenderHint(QPainter::Antialiasing);
-      painter.strokePath(path, QPen(readableOn(ground), std::max(2.0, font_.pixelSize() / 9.0),
-                                    Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-      painter.fillPath(path, ink);
-      painter.restore();
-    } else {
-      painter.setPen(ink);
-      painter.drawText(QPointF(left, baseLine), part);
-    }
+    double left = area.left() + margin_;
+    if (align_ == Align::Centre) left = area.left() + (area.width() - width) / 2;
+    if (align_ == Align::Right) left = area.left() + area.width() - margin_ - width;
+    paintReadable(painter, QPointF(left, baseLine), font_, part, ink, ground);
     if (mnemonic_ >= first && mnemonic_ < first + part.size()) {
       const double from = left + metrics.horizontalAdvance(part.left(mnemonic_ - first));
       const double to = left + metrics.horizontalAdvance(part.left(mnemonic_ - first + 1));

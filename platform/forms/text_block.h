@@ -27,12 +27,16 @@ class TextBlock {
   [[nodiscard]] QSizeF size() const { return {width_, height_}; }
 
  private:
-  [[nodiscard]] bool layOut(double widest);
+  void fit();
+  [[nodiscard]] bool layOut();
 
   QString text_;
   int mnemonic_ = -1;  // where the underlined character stands
+  QFont wanted_;
   QFont font_;
   QSize room_;
+  bool outlined_ = false;
+  double margin_ = 0;  // what the outline takes at each side
   Align align_ = Align::Left;
   std::unique_ptr<QTextLayout> layout_;  // only for more than one line
   double width_ = 0;
@@ -40,6 +44,13 @@ class TextBlock {
   double lineHeight_ = 0;
   double above_ = 0;
 };
+
+// Paints one line of text from the left end of its base line; with an outline where ink and ground
+// alone would be too faint to read.
+void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const QString& text,
+                   const QColor& ink, const QColor& ground);
+// Whether text of this ink needs the outline on this ground.
+[[nodiscard]] bool isFaint(const QColor& ink, const QColor& ground);
 
 // The ratio of two colours' luminance, 1 to 21 (WCAG 2, contrast ratio).
 [[nodiscard]] double contrast(const QColor& a, const QColor& b);

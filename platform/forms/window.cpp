@@ -36,6 +36,7 @@ void Window::showPage(Form& form) {
     appear();
   }
   page->resize(stack_->size());
+  page->arrange();
   form.takeSize();
   stack_->setCurrentWidget(page);
   formChanged(form);

@@ -72,7 +72,7 @@ void Banco::premi(int tasto, Qt::KeyboardModifiers con) {
 }
 
 void Banco::ripeti(int tasto, Qt::KeyboardModifiers con) {
-  QTest::simulateEvent(finestra(), true, tasto, con, QString(), true);
+  qt_handleKeyEvent(finestra(), QEvent::KeyPress, tasto, con, QString(), true);
 }
 
 void Banco::lascia(int tasto, Qt::KeyboardModifiers con) {

@@ -47,7 +47,7 @@ class Banco {
   void cliccaIn(QPoint punto);
   void doppioClic(const platform::Control& controllo);
   void premi(int tasto, Qt::KeyboardModifiers con = {});
-  // A repeat of a key that is held down, as a desktop marks it.
+  // A repeat of a key that is held, as the desktop flags it.
   void ripeti(int tasto, Qt::KeyboardModifiers con = {});
   void lascia(int tasto, Qt::KeyboardModifiers con = {});
   void batti(int tasto, Qt::KeyboardModifiers con = {});

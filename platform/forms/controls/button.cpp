@@ -15,7 +15,7 @@ QWidget* Button::create(QWidget* parent) {
 
 bool Button::isLive() const {
   return widget() != nullptr && widget()->isEnabled() && widget()->isVisible() &&
-         !form().isCovered(*this);
+         !form().isCovered(*this) && !runtime().forms().isChanging();
 }
 
 void Button::click() {

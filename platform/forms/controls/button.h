@@ -18,7 +18,8 @@ class Button : public Control {
   void onClick(std::function<void()> handler) { clicked_ = std::move(handler); }
   // Acts as a press of the button does.
   void click();
-  // Whether a press could act: enabled, on the screen and not below a covering panel.
+  // Whether a press could act: enabled, on the screen, not below a covering panel, and no other
+  // form on its way to the screen.
   [[nodiscard]] bool isLive() const;
 
   [[nodiscard]] bool hasCaption() const override { return true; }

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
 
 namespace platform {
@@ -13,7 +14,6 @@ namespace {
 
 constexpr QColor kPlainFace(238, 240, 244);
 constexpr double kCorner = 6;
-constexpr double kFocusRing = 3;       // pixels, dark and light each
 constexpr double kSunk = 0.09;         // of the shorter side, on each
 constexpr double kDisabledInk = 0.45;  // of plain buttons
 
@@ -44,9 +44,11 @@ void ButtonWidget::letGo() {
 }
 
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
+  // A command has no release.
+  const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
   if (isEnter(*event)) {
     clicked_();
-  } else if (event->key() == Qt::Key_Space) {
+  } else if (event->key() == Qt::Key_Space && !command) {
     setDown(true);
   } else {
     // Not QAbstractButton's: its arrow keys move among buttons, which no form asks for.
@@ -114,24 +116,12 @@ void ButtonWidget::paintFace(QPainter& painter, const QColor& face) const {
   painter.restore();
 }
 
-// A light ring inside a dark one stands out on a face of any colour.
-void ButtonWidget::paintFocus(QPainter& painter) const {
-  painter.setBrush(Qt::NoBrush);
-  const double half = kFocusRing / 2;
-  painter.setPen(QPen(QColor(10, 20, 90), kFocusRing));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), kCorner, kCorner);
-  const double inner = kFocusRing + 1;
-  painter.setPen(QPen(Qt::white, 2));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(inner, inner, -inner, -inner), kCorner - 2,
-                          kCorner - 2);
-}
-
 void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QColor face = ground_.value_or(kPlainFace);
   paintFace(painter, face);
-  if (hasFocus()) paintFocus(painter);
+  if (hasFocus()) paintFocusRing(painter, rect(), kCorner);
 
   // What a coloured button says stays readable when the button is spent; a plain one fades.
   if (!isEnabled() && !ground_) painter.setOpacity(kDisabledInk);

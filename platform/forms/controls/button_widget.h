@@ -42,7 +42,6 @@ class ButtonWidget final : public QAbstractButton {
   };
   [[nodiscard]] Rooms rooms() const;
   void paintFace(QPainter& painter, const QColor& face) const;
-  void paintFocus(QPainter& painter) const;
 
   Pictures& pictures_;
   std::function<void()> clicked_;

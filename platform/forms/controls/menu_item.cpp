@@ -6,6 +6,7 @@
 
 #include "platform/forms/fonts.h"
 #include "platform/forms/form.h"
+#include "platform/forms/runtime.h"
 
 namespace platform {
 
@@ -36,7 +37,7 @@ QWidget* MenuItem::create(QWidget* parent) {
 }
 
 void MenuItem::click() {
-  if (isEnabled() && isVisible()) raiseEvent(clicked_);
+  if (isEnabled() && isVisible() && !runtime().forms().isChanging()) raiseEvent(clicked_);
 }
 
 void MenuItem::setChecked(bool checked) {

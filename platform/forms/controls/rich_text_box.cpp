@@ -39,7 +39,15 @@ void RichTextBox::append(const QString& text) {
   auto* box = static_cast<QPlainTextEdit*>(widget());
   QTextCursor end(box->document());
   end.movePosition(QTextCursor::End);
+  const QTextCursor before = box->textCursor();
+  const int anchor = before.anchor();
+  const int position = before.position();
   end.insertText(text);
+  // A selection that reaches to the end does not grow with the text.
+  QTextCursor selected = box->textCursor();
+  selected.setPosition(anchor);
+  selected.setPosition(position, QTextCursor::KeepAnchor);
+  box->setTextCursor(selected);
   box->verticalScrollBar()->setValue(box->verticalScrollBar()->maximum());
 }
 

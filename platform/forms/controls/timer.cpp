@@ -10,39 +10,30 @@ Timer::Timer(ControlHost& host) : Control(host) {}
 Timer::~Timer() = default;
 
 QWidget* Timer::create(QWidget* /*parent*/) {
-  ticker_ = runtime().time().makeTicker([this] { tick(); });
+  ticker_ = runtime().time().makeTicker([this] { raiseEvent(tick_); });
   ticker_->setInterval(interval_);
-  if (isEnabled() && interval_ > 0) ticker_->start();
+  update();
   return nullptr;
 }
 
 void Timer::setInterval(int milliseconds) {
   interval_ = milliseconds;
-  if (!ticker_) return;
-  ticker_->setInterval(milliseconds);
-  if (isEnabled() && milliseconds > 0) {
-    ticker_->start();
-  } else {
-    ticker_->stop();
-  }
+  if (ticker_) ticker_->setInterval(milliseconds);
+  update();
 }
 
 void Timer::setEnabled(bool enabled) {
   Control::setEnabled(enabled);
+  update();
+}
+
+void Timer::update() {
   if (!ticker_) return;
-  if (enabled && interval_ > 0) {
+  if (isEnabled() && interval_ > 0 && !form().isUnloaded()) {
     ticker_->start();
   } else {
     ticker_->stop();
   }
-}
-
-void Timer::tick() {
-  if (form().isUnloaded()) {
-    ticker_->stop();
-    return;
-  }
-  raiseEvent(tick_);
 }
 
 }  // namespace platform

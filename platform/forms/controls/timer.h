@@ -20,12 +20,13 @@ class Timer : public Control {
   void setInterval(int milliseconds);
   [[nodiscard]] int interval() const { return interval_; }
   void setEnabled(bool enabled) override;
+  void formGone() override { update(); }
 
  protected:
   [[nodiscard]] QWidget* create(QWidget* parent) override;
 
  private:
-  void tick();
+  void update();
 
   std::function<void()> tick_;
   std::unique_ptr<Ticker> ticker_;

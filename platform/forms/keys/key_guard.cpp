@@ -50,6 +50,10 @@ bool mayRepeat(const QKeyEvent& event) {
   }
 }
 
+bool isEnter(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 bool isModifier(int key) {
   return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
          key == Qt::Key_AltGr || key == Qt::Key_Meta;
@@ -57,7 +61,7 @@ bool isModifier(int key) {
 
 }  // namespace
 
-KeyGuard::KeyGuard(Runtime& runtime) : runtime_(runtime), state_(askForRepeatMarks()) {
+KeyGuard::KeyGuard(Runtime& runtime, RepeatMarks marks) : runtime_(runtime), state_(marks) {
   qApp->installEventFilter(this);
   focus_ = QGuiApplication::focusWindow();
   connect(qApp, &QGuiApplication::focusWindowChanged, this, &KeyGuard::windowChanged);
@@ -111,8 +115,10 @@ bool KeyGuard::isBlocked(const QWindow& window) {
 bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
   if (isModifier(event.key())) return false;
   const bool blocked = isBlocked(window);
-  // With Alt or Ctrl it is the press that acts; no release belongs to it.
-  const bool command = (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) != 0;
+  // With Alt or Ctrl it is the press that acts; no release belongs to it. Enter alone means the
+  // same with and without them.
+  const bool command =
+      (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) != 0 && !isEnter(event.key());
   const int destination = blocked || command ? kNobody : destinationOf(window);
   const KeyState::PressResult press = state_.press(inputOf(event), destination);
   if (press.verdict == KeyState::Press::Repeat) return blocked || !mayRepeat(event);
@@ -177,9 +183,8 @@ void KeyGuard::sendDue() {
 
 // Hands on a release that was held back, straight to where Qt would bring it.
 void KeyGuard::deliver(const HeldKey& released) {
-  const auto held = std::find_if(heldBack_.begin(), heldBack_.end(), [&](const auto& back) {
-    return back.first == released.id;
-  });
+  const auto held = std::find_if(heldBack_.begin(), heldBack_.end(),
+                                 [&](const auto& back) { return back.first == released.id; });
   if (held == heldBack_.end()) return;
   const std::unique_ptr<QKeyEvent> event = std::move(held->second);
   heldBack_.erase(held);

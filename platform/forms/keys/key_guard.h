@@ -23,7 +23,8 @@ class KeyGuard final : public QObject {
   Q_OBJECT
 
  public:
-  explicit KeyGuard(Runtime& runtime);
+  // marks: how this desktop shows the repeats of a held key.
+  KeyGuard(Runtime& runtime, RepeatMarks marks);
   ~KeyGuard() override;
 
  protected:

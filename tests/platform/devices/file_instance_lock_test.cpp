@@ -1,5 +1,6 @@
 #include "platform/devices/file_instance_lock.h"
 
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,6 +9,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 #include <memory>
 
@@ -190,6 +192,9 @@ class FileInstanceLockTest : public QObject {
   }
   void somethingElseUnderTheNameOfTheFileDoesNotBlockAStart() {
     QFETCH(QString, what);
+    QTemporaryFile victim;
+    QVERIFY(victim.open());
+    QCOMPARE(::flock(victim.handle(), LOCK_EX | LOCK_NB), 0);
     {
       FileInstanceLock lock(kProbe, {folder_->path()});
       QVERIFY(lock.take());
@@ -205,7 +210,8 @@ class FileInstanceLockTest : public QObject {
     } else if (what == QStringLiteral("dead link")) {
       QVERIFY(QFile::link(QStringLiteral("/nowhere/at/all"), file));
     } else {
-      QVERIFY(QFile::link(kProbe, file));
+      // To a file of this user's that is locked for a reason of its own.
+      QVERIFY(QFile::link(victim.fileName(), file));
     }
     FileInstanceLock lock(kProbe, {folder_->path()});
     QVERIFY(lock.take());

@@ -134,10 +134,10 @@ class ScrollBarTest : public QObject {
     QTest::mouseMove(banco.finestra(), grip);
     QCoreApplication::processEvents();
     QCOMPARE(form.bar.value(), 30);
-    QTest::mouseMove(banco.finestra(), QPoint(990, grip.y()));
+    QTest::mouseMove(banco.finestra(), grip + QPoint(480, 0));
     QCoreApplication::processEvents();
     QCOMPARE(form.bar.value(), 50);
-    QTest::mouseRelease(banco.finestra(), Qt::LeftButton, {}, grip);
+    QTest::mouseRelease(banco.finestra(), Qt::LeftButton, {}, grip + QPoint(480, 0));
     QTest::mouseMove(banco.finestra(), grip);
     QCoreApplication::processEvents();
     QCOMPARE(form.bar.value(), 50);

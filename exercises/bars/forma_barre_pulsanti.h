@@ -1,0 +1,21 @@
+#pragma once
+
+#include "exercises/bars/forma_barre.h"
+#include "exercises/core/con_avanti.h"
+
+namespace somme {
+
+// The bars forms that are worked by mouse and keyboard: help and the way on are buttons.
+class FormaBarrePulsanti : public ConAvanti<FormaBarre> {
+ public:
+  FormaBarrePulsanti(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti);
+
+  platform::Button PulsanteAiuto{*this};
+
+ protected:
+  void onLoad() override;
+  // The steps of a right answer up to the written sum.
+  void SegnaRisolto();
+};
+
+}  // namespace somme

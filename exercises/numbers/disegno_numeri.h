@@ -1,0 +1,49 @@
+#pragma once
+
+#include "exercises/core/disegno_comune.h"
+#include "exercises/numbers/forma_numeri_tastiera.h"
+
+// Rows that the number forms share: those for mouse and keyboard differ in none.
+namespace somme::disegno {
+
+inline constexpr Rgb kRosaPallido{255, 192, 255};
+inline constexpr TwipsRect kPostoTestoInput{3360, 2760, 2655, 1095};
+
+inline constexpr auto kControlliNumeri = std::to_array<Row>({
+    row<&FormaNumeri::EtOperazione>({960, 600, 7935, 975}, {.toolTip = "Operazione",
+                                                            .font = {Face::Tahoma, 26.25},
+                                                            .back = kWhite,
+                                                            .align = Align::Centre}),
+    row<&FormaNumeriTastiera::TestoInputInvisibile>(kPostoTestoInput,
+                                                    {.font = {Face::Tahoma, 36}, .hidden = true}),
+    row<&FormaNumeriTastiera::TestoInput>(kPostoTestoInput,
+                                          {.toolTip = "Scrivi il numero e premi Invio"}),
+    Avanti<FormaNumeriTastiera>({8280, 5520, 1935, 975}),
+    Esatti({2160, 5640, 2415, 375}),
+    Errati({2160, 6000, 2175, 495}),
+    Si({960, 5520, 855, 855}),
+    No({960, 5520, 855, 855}),
+    Pannello({4680, 7920, 11175, 7695}),
+    Elenco({360, 240, 5775, 6855}),
+    Stampa({7440, 4440, 2580, 1155}),
+    Chiudi({7440, 5940, 2580, 1155}),
+});
+
+inline constexpr auto kMenuNumeri = std::to_array<Row>({
+    item<&FormaNumeri::MenuAzzera>({.caption = "A&zzera conteggio"}),
+    item<&FormaNumeri::mnuStampa>({.caption = "&Stampa"}),
+    item<&FormaNumeri::mnuEsci>({.caption = "&Esci"}),
+});
+
+inline constexpr std::array<std::span<const Row>, 2> kTavoleNumeri{kControlliNumeri, kMenuNumeri};
+
+constexpr FormDesign DisegnoNumeri(std::string_view nome) {
+  return {.name = nome,
+          .caption = "Esercitazioni sulle somme",
+          .width = 10725,
+          .height = 7365,
+          .back = kRosaPallido,
+          .tables = kTavoleNumeri};
+}
+
+}  // namespace somme::disegno

@@ -1,0 +1,25 @@
+#include "platform/forms/controls/panel_widget.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace platform {
+
+PanelWidget::PanelWidget(QWidget* parent, bool border) : QWidget(parent), border_(border) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PanelWidget::setGround(const QColor& ground) {
+  ground_ = ground;
+  update();
+}
+
+void PanelWidget::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.fillRect(event->rect(), ground_);
+  if (!border_) return;
+  painter.setPen(QColor(110, 110, 110));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+}  // namespace platform

@@ -1,0 +1,102 @@
+#include "platform/forms/controls/text_box.h"
+
+#include "platform/forms/controls/text_box_widget.h"
+#include "platform/forms/fonts.h"
+#include "platform/forms/text_block.h"
+
+namespace platform {
+
+namespace {
+
+TextBoxWidget& boxOf(QWidget* widget) {
+  return *static_cast<TextBoxWidget*>(widget);
+}
+
+}  // namespace
+
+QWidget* TextBox::create(QWidget* parent) {
+  auto* box = new TextBoxWidget(parent, {.keyPress =
+                                             [this](int& keyAscii) {
+                                               if (!keyPress_) return;
+                                               // A filter that fails lets nothing in.
+                                               int result = 0;
+                                               raiseEvent([this, keyAscii, &result] {
+                                                 int key = keyAscii;
+                                                 keyPress_(key);
+                                                 result = key;
+                                               });
+                                               keyAscii = result;
+                                             },
+                                         .keyUp =
+                                             [this](int keyCode) {
+                                               if (keyUp_)
+                                                 raiseEvent([this, keyCode] { keyUp_(keyCode); });
+                                             },
+                                         .changed =
+                                             [this] {
+                                               // The text of the design is no change.
+                                               if (isBuilt()) raiseEvent(changed_);
+                                             },
+                                         .clicked = [this] { raiseEvent(clicked_); }});
+  align_ = look().align;
+  box->setLimit(look().maxLength);
+  box->setReadOnly(look().locked);
+  box->setBorder(look().border);
+  box->putText(QString::fromUtf8(look().caption.data(), qsizetype(look().caption.size())));
+  return box;
+}
+
+void TextBox::applyLook() {
+  TextBoxWidget& box = boxOf(widget());
+  const double pixels = fontPixels();
+  box.setLook(fontName_.isEmpty() ? fontOf(fontSpec(), pixels)
+                                  : fontNamed(fontName_, pixels, look().font.bold),
+              align_, toColor(foreColor()), toColor(backColor()));
+  box.setToolTip(toolTip());
+  if (box.accessibleName() != toolTip()) box.setAccessibleName(toolTip());
+}
+
+QString TextBox::text() const {
+  return widget() == nullptr ? QString() : boxOf(widget()).text();
+}
+
+void TextBox::setText(const QString& text) {
+  if (widget() != nullptr) boxOf(widget()).putText(text);
+}
+
+int TextBox::maxLength() const {
+  return widget() == nullptr ? look().maxLength : boxOf(widget()).limit();
+}
+
+void TextBox::setMaxLength(int characters) {
+  if (widget() != nullptr) boxOf(widget()).setLimit(characters);
+}
+
+bool TextBox::isLocked() const {
+  return widget() == nullptr ? look().locked : boxOf(widget()).isReadOnly();
+}
+
+void TextBox::setLocked(bool locked) {
+  if (widget() != nullptr) boxOf(widget()).setReadOnly(locked);
+}
+
+void TextBox::setAlignment(Align align) {
+  align_ = align;
+  if (widget() != nullptr) applyLook();
+}
+
+QString TextBox::fontName() const {
+  if (!fontName_.isEmpty()) return fontName_;
+  return look().font.face == Face::Tahoma ? QStringLiteral("Tahoma") : QStringLiteral("Arial");
+}
+
+void TextBox::setFontName(const QString& name) {
+  fontName_ = name;
+  if (widget() != nullptr) applyLook();
+}
+
+void TextBox::askForDigits() {
+  if (widget() != nullptr) widget()->setInputMethodHints(Qt::ImhDigitsOnly);
+}
+
+}  // namespace platform

@@ -1,0 +1,277 @@
+#include "platform/forms/controls/text_box_widget.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QValidator>
+#include <algorithm>
+#include <limits>
+
+#include "platform/forms/focus_ring.h"
+#include "platform/forms/fonts.h"
+#include "platform/forms/keys/key_codes.h"
+#include "platform/forms/text_block.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int kSmallest = 9;        // pixels of a font
+constexpr int kSideMargin = 6;      // pixels, so that text keeps clear of the focus ring
+constexpr int kWidthsOfOthers = 6;  // pixels beside the text that the line edit keeps for itself
+constexpr int kBesideCursor = 5;    // how far the line edit's cursor rectangle reaches to its left
+
+bool isText(const QKeyEvent& event) {
+  const QString text = event.text();
+  if (text.isEmpty() || text[0].category() == QChar::Other_Control) return false;
+  // Ctrl and Alt together are what some desktops report for the third level of a key.
+  const Qt::KeyboardModifiers commands =
+      event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  return commands == Qt::NoModifier || commands == (Qt::ControlModifier | Qt::AltModifier);
+}
+
+}  // namespace
+
+// Marks what the box itself does to its text.
+class TextBoxWidget::OwnWork {
+ public:
+  explicit OwnWork(TextBoxWidget& box) : box_(box) { ++box_.ownWork_; }
+  ~OwnWork() { --box_.ownWork_; }
+  OwnWork(const OwnWork&) = delete;
+  OwnWork& operator=(const OwnWork&) = delete;
+
+ private:
+  TextBoxWidget& box_;
+};
+
+// Undoes every change that does not come one of the box's own ways, as from assistive technology,
+// which writes past all events, and has the new text entered anew.
+class TextBoxWidget::Watch final : public QValidator {
+ public:
+  explicit Watch(TextBoxWidget& box) : QValidator(&box), box_(box) {}
+
+  State validate(QString& input, int& cursor) const override {
+    if (box_.ownWork_ > 0 || input == box_.text_) return Acceptable;
+    QMetaObject::invokeMethod(
+        &box_, [&box = box_, input] { box.enterAnew(input); }, Qt::QueuedConnection);
+    input = box_.text_;
+    cursor = std::min(cursor, int(input.size()));
+    return Acceptable;
+  }
+
+ private:
+  TextBoxWidget& box_;
+};
+
+TextBoxWidget::TextBoxWidget(QWidget* parent, Hooks hooks)
+    : QLineEdit(parent), hooks_(std::move(hooks)) {
+  setFrame(false);
+  setTextMargins(kSideMargin, 0, kSideMargin, 0);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  // Its own limit would cut what the program sets.
+  setMaxLength(std::numeric_limits<int>::max());
+  setValidator(new Watch(*this));
+  connect(this, &QLineEdit::textChanged, this, &TextBoxWidget::noteChange);
+}
+
+void TextBoxWidget::putText(const QString& text) {
+  const OwnWork work(*this);
+  setText(text);
+}
+
+int TextBoxWidget::filtered(int keyAscii) const {
+  hooks_.keyPress(keyAscii);
+  return keyAscii;
+}
+
+void TextBoxWidget::enter(const QString& text) {
+  QString kept;
+  for (const QChar character : text) {
+    if (character.category() == QChar::Other_Control) continue;
+    const int key = filtered(character.unicode());
+    if (key > 0 && key <= 0xFFFF) kept += QChar(char16_t(key));
+  }
+  if (!isReadOnly()) insertKept(std::move(kept));
+}
+
+// What does not fit is left out; the halves of a character are never parted.
+void TextBoxWidget::insertKept(QString kept) {
+  if (limit_ > 0) {
+    const qsizetype room = limit_ - (text().size() - selectedText().size());
+    kept.truncate(std::max<qsizetype>(0, room));
+    if (!kept.isEmpty() && kept.back().isHighSurrogate()) kept.chop(1);
+  }
+  if (kept.isEmpty()) return;
+  const OwnWork work(*this);
+  insert(kept);
+}
+
+void TextBoxWidget::enterAnew(const QString& text) {
+  if (isReadOnly()) return;
+  if (text.isEmpty()) {
+    putText({});
+  } else {
+    selectAll();
+    enter(text);
+  }
+}
+
+void TextBoxWidget::noteChange() {
+  if (text_ == text()) return;
+  text_ = text();
+  fitFont();
+  hooks_.changed();
+}
+
+void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Paste)) {
+    if (!isReadOnly()) enter(QApplication::clipboard()->text());
+    return;
+  }
+  if (isText(*event)) {
+    enter(event->text());
+    return;
+  }
+  // These are characters to the filter, too. Enter acts at its release and never becomes text.
+  const int code = keyCodeOf(*event);
+  const bool enterKey = code == kKeyEnter;
+  if (enterKey || code == kKeyBackspace || code == kKeyEscape) {
+    if (filtered(code) != code || enterKey) return;
+  }
+  const OwnWork work(*this);
+  QLineEdit::keyPressEvent(event);
+}
+
+void TextBoxWidget::keyReleaseEvent(QKeyEvent* event) {
+  QLineEdit::keyReleaseEvent(event);
+  hooks_.keyUp(keyCodeOf(*event));
+}
+
+// What an input method hands over is entered like typing; what it still composes is only shown.
+void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event) {
+  if (isReadOnly()) {
+    event->ignore();
+    return;
+  }
+  const QString committed = event->commitString();
+  composing_ = !event->preeditString().isEmpty();
+  {
+    const OwnWork work(*this);
+    QInputMethodEvent bare(committed.isEmpty() ? event->preeditString() : QString(),
+                           event->attributes());
+    bare.setCommitString({}, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&bare);
+  }
+  if (!committed.isEmpty()) {
+    enter(committed);
+    if (composing_) {
+      const OwnWork work(*this);
+      QInputMethodEvent rest(event->preeditString(), event->attributes());
+      QLineEdit::inputMethodEvent(&rest);
+    }
+  }
+  event->accept();
+}
+
+void TextBoxWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::MiddleButton) {
+    const QClipboard* clipboard = QApplication::clipboard();
+    if (!isReadOnly() && clipboard->supportsSelection()) {
+      deselect();
+      enter(clipboard->text(QClipboard::Selection));
+    }
+    return;
+  }
+  QLineEdit::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    hooks_.clicked();
+  }
+}
+
+void TextBoxWidget::dropEvent(QDropEvent* event) {
+  if (isReadOnly() || !event->mimeData()->hasText()) return;
+  deselect();
+  setCursorPosition(cursorPositionAt(event->position().toPoint()));
+  event->acceptProposedAction();
+  enter(event->mimeData()->text());
+}
+
+void TextBoxWidget::setLook(const QFont& font, Align align, const QColor& ink,
+                            const QColor& ground) {
+  font_ = font;
+  ink_ = ink;
+  ground_ = ground;
+  const Qt::Alignment across = align == Align::Centre  ? Qt::AlignHCenter
+                               : align == Align::Right ? Qt::AlignRight
+                                                       : Qt::AlignLeft;
+  setAlignment(across | Qt::AlignVCenter);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, ground);
+  colours.setColor(QPalette::Text, ink);
+  if (colours != palette()) setPalette(colours);
+  fitFont();
+  update();
+}
+
+void TextBoxWidget::setBorder(bool border) {
+  border_ = border;
+  update();
+}
+
+void TextBoxWidget::fitFont() {
+  const int across = width() - 2 * kSideMargin - kWidthsOfOthers;
+  const int down = height() - int(kFocusRingWidth);
+  QFont fitted = font_;
+  const auto fits = [&] {
+    return QFontMetricsF(fitted).horizontalAdvance(text_) <= across &&
+           inkOf(fitted).height() <= down;
+  };
+  while (fitted.pixelSize() > kSmallest && !fits()) fitted.setPixelSize(fitted.pixelSize() - 1);
+  if (fitted != this->font()) setFont(fitted);
+}
+
+void TextBoxWidget::resizeEvent(QResizeEvent* event) {
+  QLineEdit::resizeEvent(event);
+  fitFont();
+}
+
+// Whatever way the focus comes, the text stays as it is: no key press wipes it out unawares.
+void TextBoxWidget::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+    deselect();
+    end(false);
+  }
+}
+
+// The colours are settled, and some are too faint on their ground: the letters are set again with
+// an outline, over those that the line edit has painted. While something is selected or composed
+// it stays as the line edit paints it.
+void TextBoxWidget::paintFaintText() {
+  if (!isFaint(ink_, ground_) || text_.isEmpty() || hasSelectedText() || composing_) return;
+  const QFontMetricsF metrics(font());
+  const QRect cursor = cursorRect();
+  const double left =
+      cursor.left() + kBesideCursor - metrics.horizontalAdvance(text_.left(cursorPosition()));
+  QPainter painter(this);
+  painter.setClipRect(rect().adjusted(kSideMargin / 2, 0, -kSideMargin / 2, 0));
+  paintReadable(painter, QPointF(left, cursor.top() + metrics.ascent()), font(), text_, ink_,
+                ground_);
+}
+
+void TextBoxWidget::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  paintFaintText();
+  QPainter painter(this);
+  if (hasFocus()) {
+    paintFocusRing(painter, rect(), 0);
+  } else if (border_) {
+    painter.setPen(QColor(70, 70, 70));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+}
+
+}  // namespace platform

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QFont>
+#include <QLineEdit>
+#include <functional>
+
+#include "platform/forms/design.h"
+
+namespace platform {
+
+// The widget of a text box. Whatever way characters come in by the user's hand (keys, clipboard,
+// drag and drop, input methods, assistive technology), they pass one after the other through the
+// key filter and stop at the length limit. Text that the program sets passes neither.
+class TextBoxWidget final : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  struct Hooks {
+    // Offers a character before it is taken; set to 0 it is dropped.
+    std::function<void(int& keyAscii)> keyPress;
+    std::function<void(int keyCode)> keyUp;
+    std::function<void()> changed;
+    std::function<void()> clicked;
+  };
+
+  TextBoxWidget(QWidget* parent, Hooks hooks);
+
+  // Text set by the program.
+  void putText(const QString& text);
+  // Characters that the user enters at the cursor, in the place of what is selected.
+  void enter(const QString& text);
+
+  // 0 is no limit.
+  void setLimit(int characters) { limit_ = characters; }
+  [[nodiscard]] int limit() const { return limit_; }
+
+  // font: the one of the design; text that is too wide for the box takes a smaller size of it.
+  void setLook(const QFont& font, Align align, const QColor& ink, const QColor& ground);
+  void setBorder(bool border);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  class Watch;
+  class OwnWork;
+
+  [[nodiscard]] int filtered(int keyAscii) const;
+  void insertKept(QString kept);
+  void noteChange();
+  void enterAnew(const QString& text);
+  void fitFont();
+  void paintFaintText();
+
+  Hooks hooks_;
+  QString text_;  // what the box held after the last change that came one of its own ways
+  QFont font_;
+  QColor ink_ = Qt::black;
+  QColor ground_ = Qt::white;
+  int limit_ = 0;
+  int ownWork_ = 0;  // above 0 while a change comes one of the box's own ways
+  bool border_ = true;
+  bool composing_ = false;
+};
+
+}  // namespace platform

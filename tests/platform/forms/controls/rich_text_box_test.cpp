@@ -1,0 +1,112 @@
+#include "platform/forms/controls/rich_text_box.h"
+
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+#include "stage.h"
+
+using trial::kOne;
+using trial::Stage;
+using trial::TrialForm;
+
+namespace {
+
+QPlainTextEdit& editOf(const TrialForm& form) {
+  return static_cast<QPlainTextEdit&>(*form.PanelText.widget());
+}
+
+}  // namespace
+
+// The box that holds a record.
+class RichTextBoxTest : public QObject {
+  Q_OBJECT
+
+  static TrialForm& opened(Stage& stage) {
+    TrialForm& form = stage.show(kOne);
+    form.PanelText.setText(QStringLiteral("\r\n     Title\r\n\r\n"));
+    form.Panel.cover();
+    QCoreApplication::processEvents();
+    return form;
+  }
+
+ private Q_SLOTS:
+  void theTextIsKeptAsItWasGiven() {
+    Stage stage;
+    TrialForm& form = opened(stage);
+    form.PanelText.append(QStringLiteral("    1 +  2 =  3\r\n"));
+    QCOMPARE(form.PanelText.text(), QStringLiteral("\r\n     Title\r\n\r\n    1 +  2 =  3\r\n"));
+    QCOMPARE(editOf(form).toPlainText(), QStringLiteral("\n     Title\n\n    1 +  2 =  3\n"));
+    form.PanelText.setText(QStringLiteral("new"));
+    QCOMPARE(form.PanelText.text(), QStringLiteral("new"));
+    QCOMPARE(editOf(form).toPlainText(), QStringLiteral("new"));
+  }
+
+  void aLineIsAddedAtTheEndAndNothingIsRebuilt() {
+    Stage stage;
+    TrialForm& form = opened(stage);
+    int removed = 0;
+    int smallest = INT_MAX;
+    connect(editOf(form).document(), &QTextDocument::contentsChange, this,
+            [&](int position, int gone, int) {
+              removed += gone;
+              smallest = std::min(smallest, position);
+            });
+    const int end = editOf(form).document()->characterCount() - 1;
+    for (int i = 0; i < 50; ++i) form.PanelText.append(QStringLiteral("    a line\r\n"));
+    QCOMPARE(removed, 0);
+    QCOMPARE(smallest, end);
+  }
+
+  void theLastLineIsInSight() {
+    Stage stage;
+    TrialForm& form = opened(stage);
+    for (int i = 0; i < 200; ++i) form.PanelText.append(QStringLiteral("    a line\r\n"));
+    const QScrollBar* bar = editOf(form).verticalScrollBar();
+    QVERIFY(bar->maximum() > 0);
+    QCOMPARE(bar->value(), bar->maximum());
+  }
+
+  void itsTextCanBeSelectedWithMouseAndKeyboardAndStaysSelected() {
+    Stage stage;
+    TrialForm& form = opened(stage);
+    form.PanelText.setFocus();
+    QVERIFY(form.PanelText.hasFocus());
+    stage.tap(Qt::Key_A, Qt::ControlModifier);
+    QVERIFY(editOf(form).textCursor().hasSelection());
+    const QString selected = editOf(form).textCursor().selectedText();
+    form.PanelText.append(QStringLiteral("more"));
+    QCOMPARE(editOf(form).textCursor().selectedText(), selected);
+
+    const QPoint from = stage.centre(form.PanelText) - QPoint(100, 0);
+    editOf(form).setTextCursor(QTextCursor(editOf(form).document()));
+    QTest::mousePress(stage.window(), Qt::LeftButton, {},
+                      editOf(form).mapTo(&stage.runtime->window(), QPoint(5, 5)));
+    stage.moveMouse(from + QPoint(150, 50));
+    stage.releaseMouse(from + QPoint(150, 50));
+    QVERIFY(editOf(form).textCursor().hasSelection());
+  }
+
+  void nothingCanBeWrittenIntoIt() {
+    Stage stage;
+    TrialForm& form = opened(stage);
+    form.PanelText.setFocus();
+    const QString before = editOf(form).toPlainText();
+    for (const Qt::Key key : {Qt::Key_X, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Return}) {
+      stage.tap(key, {}, QStringLiteral("x"));
+    }
+    stage.tap(Qt::Key_V, Qt::ControlModifier);
+    QVERIFY(editOf(form).isReadOnly());
+    QCOMPARE(editOf(form).toPlainText(), before);
+  }
+
+  void tabLeavesIt() {
+    Stage stage;
+    TrialForm& form = opened(stage);
+    form.PanelText.setFocus();
+    stage.tap(Qt::Key_Tab);
+    QVERIFY(form.PanelSecond.hasFocus());
+  }
+};
+
+QTEST_MAIN(RichTextBoxTest)
+#include "rich_text_box_test.moc"

@@ -1,0 +1,208 @@
+#include <QApplication>
+#include <QPlainTextEdit>
+
+#include "stage.h"
+
+using trial::kOne;
+using trial::Stage;
+using trial::TrialForm;
+
+namespace {
+
+// A form that counts what is reached below its panel.
+struct Below {
+  explicit Below(Stage& stage) : form(stage.show(kOne)) {
+    form.First.onClick([this] { ++clicks; });
+    form.Second.onClick([this] { ++clicks; });
+    form.PanelSecond.onClick([this] { form.Panel.setVisible(false); });
+    form.Second.setFocus();
+  }
+
+  TrialForm& form;
+  int clicks = 0;
+};
+
+}  // namespace
+
+// A panel that covers its form, as the record of the solved cases does.
+class CoveringPanelTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void openingGivesTheFocusToTheFirstButtonThatCanTakeIt() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    QVERIFY(below.form.PanelSecond.hasFocus());
+    below.form.Panel.setVisible(false);
+    below.form.PanelFirst.setEnabled(true);
+    below.form.Panel.cover();
+    QVERIFY(below.form.PanelFirst.hasFocus());
+  }
+
+  void thePanelCoversTheWholeFormAlsoAfterAResize() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.setPlace(100, 100, 200, 200);
+    below.form.Panel.cover();
+    const QWidget* canvas = below.form.page()->canvas();
+    QCOMPARE(below.form.Panel.widget()->geometry(), canvas->rect());
+    stage.resize({700, 533});
+    QCOMPARE(below.form.Panel.widget()->geometry(), canvas->rect());
+    stage.resize({3001, 2003});
+    QCOMPARE(below.form.Panel.widget()->geometry(), canvas->rect());
+  }
+
+  void theMouseReachesNothingThatIsCovered() {
+    Stage stage;
+    Below below(stage);
+    const QPoint place = stage.centre(below.form.First);
+    below.form.Panel.cover();
+    stage.clickAt(place);
+    QCOMPARE(below.clicks, 0);
+    QVERIFY(!below.form.First.hasFocus());
+  }
+
+  void tabStaysInsideThePanel() {
+    Stage stage;
+    Below below(stage);
+    below.form.PanelFirst.setEnabled(true);
+    below.form.Panel.cover();
+    for (int round = 0; round < 2; ++round) {
+      stage.tap(Qt::Key_Tab);
+      QVERIFY(below.form.PanelSecond.hasFocus());
+      stage.tap(Qt::Key_Tab);
+      QVERIFY(below.form.PanelText.hasFocus());
+      stage.tap(Qt::Key_Tab);
+      QVERIFY(below.form.PanelFirst.hasFocus());
+    }
+    stage.tap(Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(below.form.PanelText.hasFocus());
+    stage.tap(Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(below.form.PanelSecond.hasFocus());
+  }
+
+  void theFocusStaysInsideWhenItsButtonIsDisabled() {
+    Stage stage;
+    Below below(stage);
+    below.form.PanelFirst.setEnabled(true);
+    below.form.Panel.cover();
+    below.form.PanelFirst.setEnabled(false);
+    QVERIFY(below.form.PanelSecond.hasFocus());
+  }
+
+  void theAccessKeysOfWhatIsCoveredAreDeadAndThoseOfThePanelLive() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    stage.tap(Qt::Key_F, Qt::AltModifier, QStringLiteral("f"));
+    QCOMPARE(below.clicks, 0);
+    stage.tap(Qt::Key_C, Qt::AltModifier, QStringLiteral("c"));
+    QVERIFY(!below.form.Panel.isVisible());
+    stage.tap(Qt::Key_F, Qt::AltModifier, QStringLiteral("f"));
+    QCOMPARE(below.clicks, 1);
+  }
+
+  void menusStayLive() {
+    Stage stage;
+    Below below(stage);
+    int acted = 0;
+    int keyed = 0;
+    below.form.MenuAct.onClick([&acted] { ++acted; });
+    below.form.MenuKeyed.onClick([&keyed] { ++keyed; });
+    below.form.Panel.cover();
+    stage.tap(Qt::Key_A, Qt::AltModifier, QStringLiteral("a"));
+    stage.tap(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(acted, 1);
+    QCOMPARE(keyed, 1);
+  }
+
+  void closingGivesTheFocusBack() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    stage.tap(Qt::Key_Return);
+    QVERIFY(!below.form.Panel.isVisible());
+    QVERIFY(below.form.Second.hasFocus());
+    // The Enter that closed the panel is no Enter of the button that has the focus now.
+    QCOMPARE(below.clicks, 0);
+  }
+
+  void closingWithTheMouseGivesTheFocusBackToo() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    stage.click(below.form.PanelText);
+    QVERIFY(below.form.PanelText.hasFocus());
+    stage.click(below.form.PanelSecond);
+    QVERIFY(below.form.Second.hasFocus());
+  }
+
+  void aPanelOpenedFromTheMenuWithTheKeyboardGivesTheFocusBackToo() {
+    Stage stage;
+    Below below(stage);
+    below.form.MenuAct.onClick([&below] { below.form.Panel.cover(); });
+    stage.tap(Qt::Key_Alt);
+    stage.tap(Qt::Key_Return);
+    QVERIFY(below.form.Panel.isVisible());
+    QVERIFY(below.form.PanelSecond.hasFocus());
+    stage.tap(Qt::Key_Return);
+    QVERIFY(!below.form.Panel.isVisible());
+    QVERIFY(below.form.Second.hasFocus());
+  }
+
+  void aFocusGivenToACoveredControlComesAtTheClosing() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    below.form.Third.setFocus();
+    QVERIFY(below.form.PanelSecond.hasFocus());
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Third.hasFocus());
+  }
+
+  void whereTheOldFocusHasGoneAnotherControlTakesIt() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    below.form.Second.setEnabled(false);
+    QVERIFY(below.form.PanelSecond.hasFocus());
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Third.hasFocus());
+  }
+
+  void openingAnOpenPanelAgainForgetsNothing() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    below.form.Panel.cover();
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Second.hasFocus());
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Second.hasFocus());
+  }
+
+  void whatIsCoveredIsCoveredAndThePanelIsNot() {
+    Stage stage;
+    Below below(stage);
+    QVERIFY(!below.form.isCovered(below.form.First));
+    below.form.Panel.cover();
+    QVERIFY(below.form.isCovered(below.form.First));
+    QVERIFY(!below.form.isCovered(below.form.PanelSecond));
+    QVERIFY(!below.form.isCovered(below.form.Panel));
+    QVERIFY(!below.form.isCovered(below.form.MenuAct));
+  }
+
+  void aFormCanBeLeftWithItsPanelOpen() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    below.form.run([&] { stage.runtime->forms().pass(below.form, "Two"); });
+    QCoreApplication::processEvents();
+    QCOMPARE(stage.currentName(), QStringLiteral("Two"));
+    QVERIFY(!stage.current().Panel.isVisible());
+  }
+};
+
+QTEST_MAIN(CoveringPanelTest)
+#include "covering_panel_test.moc"

@@ -1,0 +1,99 @@
+#include "platform/forms/pictures.h"
+
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QTest>
+
+using platform::Pictures;
+
+// The program's drawings.
+class PicturesTest : public QObject {
+  Q_OBJECT
+
+  QTemporaryDir folder_;
+
+  void put(const char* name, const QByteArray& content) const {
+    QFile file(folder_.filePath(QLatin1String(name)));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+
+  static QImage painted(Pictures& pictures, const char* name, QSize paper, const QRectF& area) {
+    QImage image(paper, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    pictures.paint(painter, QLatin1String(name), area);
+    return image;
+  }
+
+  static bool isBlank(const QImage& image) {
+    QImage white(image.size(), image.format());
+    white.fill(Qt::white);
+    return image == white;
+  }
+
+ private Q_SLOTS:
+  void initTestCase() {
+    put("red.svg",
+        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 20 10'>"
+        "<rect width='20' height='10' fill='#ff0000'/>"
+        "<circle id='punta' cx='5' cy='2.5' r='1' fill='#ff0000'/></svg>");
+    put("broken.svg", "<svg xmlns='http://www.w3.org/2000/svg'><rect");
+    put("empty.svg", "");
+    put("flat.svg", "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 0 0'/>");
+  }
+
+  void aPictureFillsItsAreaInItsOwnProportionsInTheMiddle() {
+    Pictures pictures(folder_.path());
+    const QImage image = painted(pictures, "red", {100, 100}, QRectF(0, 0, 100, 100));
+    QCOMPARE(image.pixelColor(1, 50), QColor(255, 0, 0));
+    QCOMPARE(image.pixelColor(98, 50), QColor(255, 0, 0));
+    QCOMPARE(image.pixelColor(50, 27), QColor(255, 0, 0));
+    QCOMPARE(image.pixelColor(50, 72), QColor(255, 0, 0));
+    QCOMPARE(image.pixelColor(50, 22), QColor(Qt::white));
+    QCOMPARE(image.pixelColor(50, 77), QColor(Qt::white));
+  }
+
+  void whatIsMissingOrBrokenDrawsNothing_data() {
+    QTest::addColumn<QByteArray>("name");
+    for (const char* name : {"nowhere", "broken", "empty", "flat", ""}) {
+      QTest::newRow(name) << QByteArray(name);
+    }
+  }
+  void whatIsMissingOrBrokenDrawsNothing() {
+    QFETCH(QByteArray, name);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral(".*")));
+    qWarning("at most some complaint");
+    Pictures pictures(folder_.path());
+    QVERIFY(isBlank(painted(pictures, name, {40, 40}, QRectF(0, 0, 40, 40))));
+    QVERIFY(pictures.pixmap(QLatin1String(name), {32, 32}, 1).size() == QSize(32, 32));
+    QCOMPARE(pictures.hotSpot(QLatin1String(name), {32, 32}), QPoint());
+  }
+
+  void aPixmapIsSharpOnADenseScreen() {
+    Pictures pictures(folder_.path());
+    const QPixmap pixmap = pictures.pixmap(QStringLiteral("red"), {32, 32}, 2);
+    QCOMPARE(pixmap.size(), QSize(64, 64));
+    QCOMPARE(pixmap.devicePixelRatio(), 2.0);
+    const QImage image = pixmap.toImage();
+    QCOMPARE(image.pixelColor(32, 32), QColor(255, 0, 0));
+    QCOMPARE(image.pixelColor(32, 2).alpha(), 0);
+  }
+
+  void theHotSpotLiesWhereTheDrawingSays() {
+    Pictures pictures(folder_.path());
+    QCOMPARE(pictures.hotSpot(QStringLiteral("red"), {40, 20}), QPoint(10, 5));
+  }
+
+  void anIconHasTheSizesThatDesktopsAskFor() {
+    Pictures pictures(folder_.path());
+    const QIcon icon = pictures.icon(QStringLiteral("red"));
+    QVERIFY(icon.availableSizes().contains(QSize(16, 16)));
+    QVERIFY(icon.availableSizes().contains(QSize(64, 64)));
+  }
+};
+
+QTEST_MAIN(PicturesTest)
+#include "pictures_test.moc"

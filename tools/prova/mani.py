@@ -1,0 +1,40 @@
+"""Mouse and keyboard, as a pupil uses them: events of the display server at places of the screen."""
+
+import subprocess
+import time
+
+
+class Mani:
+    """Works on the desktop that the environment names."""
+
+    # Between two events, so that no two clicks make a double click of the desktop.
+    PAUSA = 0.08
+
+    def muovi(self, x, y):
+        self._xdotool("mousemove", "--sync", x, y)
+
+    def clicca(self, posto):
+        """One click of the left button in the middle of a place (x, y, width, height)."""
+        x, y, larghezza, altezza = posto
+        self.muovi(x + larghezza // 2, y + altezza // 2)
+        self._xdotool("mousedown", 1)
+        time.sleep(self.PAUSA)
+        self._xdotool("mouseup", 1)
+        time.sleep(self.PAUSA)
+
+    def giu(self, tasto):
+        """Presses a key and holds it; names as the display server has them: space, Return, F10."""
+        self._xdotool("keydown", tasto)
+
+    def su(self, tasto):
+        self._xdotool("keyup", tasto)
+
+    def batti(self, tasto):
+        """A tap; also with modifiers: alt+F4."""
+        self._xdotool("key", tasto)
+        time.sleep(self.PAUSA)
+
+    @staticmethod
+    def _xdotool(*comando):
+        subprocess.run(["xdotool", *map(str, comando)], check=True, timeout=30,
+                       stdout=subprocess.DEVNULL)
