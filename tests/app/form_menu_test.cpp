@@ -109,8 +109,9 @@ class FormMenuTest : public QObject {
     apri(banco);
     banco.premi(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!banco.ambiente->stato.SuoniAttivi);
-    banco.premi(Qt::Key_S, Qt::ControlModifier);
-    banco.premi(Qt::Key_S, Qt::ControlModifier);
+    banco.ripeti(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!banco.ambiente->stato.SuoniAttivi);
+    banco.ripeti(Qt::Key_S, Qt::ControlModifier);
     banco.lascia(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!banco.ambiente->stato.SuoniAttivi);
   }

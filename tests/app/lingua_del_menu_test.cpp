@@ -1,13 +1,12 @@
 #include <QAction>
 #include <QFile>
 #include <QMenu>
-#include "platform/forms/menu_bar.h"
 
 #include "app/form_avvio.h"
 #include "app/form_menu.h"
 #include "app/shared/modulo_ini.h"
 #include "app/shared/nomi_forme.h"
-#include "app/tabella_forme.h"
+#include "platform/forms/menu_bar.h"
 #include "support/banco.h"
 
 using prova::Banco;
@@ -65,7 +64,7 @@ class LinguaDelMenuTest : public QObject {
   void theMouseChoosesALanguageFromTheOpenMenu() {
     Banco banco;
     FormMenu& menu = apri(banco);
-    QMenuBar* barra = menu.page()->menuBar();
+    platform::MenuBar* barra = menu.page()->menuBar();
     const QPoint voce = barra->actionGeometry(menu.mnuLanguages.action()).center();
     QTest::mouseClick(banco.finestra(), Qt::LeftButton, {},
                       barra->mapTo(&banco.ambiente->fondo.window(), voce));
