@@ -108,6 +108,8 @@ void FormTabella::RiempiTabella() {
   };
   for (int i = 0; i < kCelle; ++i) {
     Numero[i].setCaption(mostra(i) ? platform::leadingBlank(i) : QString());
+    // An empty cell is called by its row and column, counted from 1, which any language reads.
+    Numero[i].setSpokenName(QStringLiteral("%1, %2").arg(i / kPerRiga + 1).arg(i % kPerRiga + 1));
   }
 }
 

@@ -158,7 +158,7 @@ void Form::dispose() {
 }
 
 void Form::cover(Control& panel) {
-  if (cover_ != &panel) focusBelow_ = page_->window()->focusWidget();
+  if (cover_ != &panel) focusBelow_ = page_->canvas()->focusWidget();
   cover_ = &panel;
   panel.setPlace(0, 0, width(), height());
   panel.bringToFront();

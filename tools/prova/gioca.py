@@ -20,6 +20,8 @@ from schermo import ErroreSchermo, Schermo
 BOTTONE = "push button"
 ETICHETTA = "label"
 AVVIO = "Avvio"
+# The road from the splash form to the exercise, button by button.
+STRADA = ["Uso delle barre", "Fino al 10"]
 AVANTI = "avanti"
 NUMERI = [str(n) for n in range(11)]
 PIU, UGUALE = "+", "="
@@ -105,6 +107,10 @@ class Giocatore:
         self._albero.aspetta_oggetto(BOTTONE, AVVIO)
         self.fotografa("avvio")
         self.premi(AVVIO)
+        for bottone in STRADA:
+            self._albero.aspetta_oggetto(BOTTONE, bottone)
+            self.fotografa(bottone.lower().replace(" ", "-"))
+            self.premi(bottone)
 
         termini, risposta = self.domanda()
         self.fotografa("domanda")

@@ -30,6 +30,11 @@ void Button::setCaption(const QString& caption) {
   }
 }
 
+void Button::setSpokenName(const QString& name) {
+  spokenName_ = name;
+  if (widget() != nullptr) applyLook();
+}
+
 QChar Button::accessKey() const {
   return accessKeyOf(caption_);
 }
@@ -45,7 +50,8 @@ void Button::applyLook() {
                      look().back ? std::optional(toColor(backColor())) : std::nullopt);
   button->setToolTip(toolTip());
   const QString words = withoutMnemonic(caption_).trimmed();
-  const QString spoken = words.isEmpty() ? toolTip() : words;
+  const QString& wordless = toolTip().isEmpty() ? spokenName_ : toolTip();
+  const QString& spoken = words.isEmpty() ? wordless : words;
   if (button->accessibleName() != spoken) button->setAccessibleName(spoken);
 }
 

@@ -25,6 +25,8 @@ class Button : public Control {
   [[nodiscard]] bool hasCaption() const override { return true; }
   [[nodiscard]] QString caption() const override { return caption_; }
   void setCaption(const QString& caption) override;
+  // What assistive technology calls the button while it has neither words nor a tool tip.
+  void setSpokenName(const QString& name);
   [[nodiscard]] QChar accessKey() const override;
   void access() override { click(); }
   void keysLetGo() override;
@@ -35,6 +37,7 @@ class Button : public Control {
 
  private:
   QString caption_;
+  QString spokenName_;
   std::function<void()> clicked_;
 };
 

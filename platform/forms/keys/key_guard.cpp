@@ -72,7 +72,9 @@ KeyGuard::~KeyGuard() = default;
 bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::ShortcutOverride:
-      // Qt's own shortcuts and access keys repeat while a key is held; the guard works them.
+      // Qt's own shortcuts and access keys repeat while a key is held; the guard works them. Alt
+      // alone is no shortcut: the menu bar learns from it that it is to take the keyboard.
+      if (isModifier(static_cast<QKeyEvent*>(event)->key())) return false;
       event->accept();
       return true;
     case QEvent::KeyPress:

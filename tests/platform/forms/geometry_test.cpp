@@ -1,6 +1,6 @@
 #include "platform/forms/geometry.h"
+#include "platform/forms/menu_bar.h"
 
-#include <QMenuBar>
 #include <QWidget>
 #include <cmath>
 #include <random>
@@ -130,8 +130,9 @@ class GeometryTest : public QObject {
       const QRect on = control->widget()->geometry();
       const QByteArray name = control->name().toUtf8();
       QVERIFY2(std::abs(on.left() - place.left * small.width() / 12000) <= 0.51, name);
-      QVERIFY2(std::abs(on.right() + 1 - (place.left + place.width) * small.width() / 12000) <= 0.51,
-               name);
+      QVERIFY2(
+          std::abs(on.right() + 1 - (place.left + place.width) * small.width() / 12000) <= 0.51,
+          name);
       QVERIFY2(std::abs(on.top() - place.top * small.height() / 9000) <= 0.51, name);
       QVERIFY2(
           std::abs(on.bottom() + 1 - (place.top + place.height) * small.height() / 9000) <= 0.51,

@@ -1,7 +1,7 @@
 #include "platform/forms/page.h"
+#include "platform/forms/menu_bar.h"
 
 #include <QImage>
-#include <QMenuBar>
 #include <cmath>
 #include <set>
 
@@ -24,7 +24,9 @@ TrialForm& bare(Stage& stage) {
   return form;
 }
 
-QImage canvasOf(const TrialForm& form) { return form.page()->canvas()->grab().toImage(); }
+QImage canvasOf(const TrialForm& form) {
+  return form.page()->canvas()->grab().toImage();
+}
 
 }  // namespace
 

@@ -1,10 +1,10 @@
 #include "platform/forms/controls/menu_item.h"
+#include "platform/forms/menu_bar.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
-#include <QMenuBar>
 #include <QWindow>
 
 #include "stage.h"
@@ -32,9 +32,8 @@ struct Menus {
 // Clicks an item of the menu bar, or of the menu that is open, with the mouse.
 void clickItem(const platform::MenuItem& item, QWidget& owner) {
   const auto& menu = dynamic_cast<QMenu*>(&owner);
-  const QRect place = menu != nullptr
-                          ? menu->actionGeometry(item.action())
-                          : static_cast<QMenuBar&>(owner).actionGeometry(item.action());
+  const QRect place = menu != nullptr ? menu->actionGeometry(item.action())
+                                      : static_cast<QMenuBar&>(owner).actionGeometry(item.action());
   QTest::mouseClick(owner.window()->windowHandle(), Qt::LeftButton, {},
                     owner.mapTo(owner.window(), place.center()));
 }
@@ -60,8 +59,8 @@ class MenuItemTest : public QObject {
     clickItem(menus.form.MenuMore, *menus.form.page()->menuBar());
     QWidget* menu = QApplication::activePopupWidget();
     QVERIFY(menu != nullptr);
-    QCOMPARE(menu->actions(), (QList<QAction*>{menus.form.MenuPlain.action(),
-                                               menus.form.MenuKeyed.action()}));
+    QCOMPARE(menu->actions(),
+             (QList<QAction*>{menus.form.MenuPlain.action(), menus.form.MenuKeyed.action()}));
     clickItem(menus.form.MenuPlain, *menu);
     QTRY_COMPARE(menus.plain, 1);
     QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
@@ -175,8 +174,7 @@ class MenuItemTest : public QObject {
   void itemsAreSpokenAsItemsOfAMenu() {
     Stage stage;
     const Menus menus(stage);
-    QAccessibleInterface* bar =
-        QAccessible::queryAccessibleInterface(menus.form.page()->menuBar());
+    QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(menus.form.page()->menuBar());
     QCOMPARE(bar->role(), QAccessible::MenuBar);
     QCOMPARE(bar->childCount(), 2);
     QCOMPARE(bar->child(0)->role(), QAccessible::MenuItem);
