@@ -1,12 +1,46 @@
 """Runs the measurements on a desktop of their own and prints what they find."""
 
+import glob
 import os
 import subprocess
 import sys
+import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tools", "prova"))
 
-from schermo import Schermo  # noqa: E402
+from schermo import Schermo, termina  # noqa: E402
+
+# Seconds after the last event, for a sound to end and its device to close; and of rest watched.
+QUIETE, GUARDATI = 5, 10
+
+
+def risvegli(processo):
+    """How often the threads of a process have been woken."""
+    somma = 0
+    for stato in glob.glob(f"/proc/{processo.pid}/task/*/status"):
+        with open(stato, encoding="ascii") as righe:
+            somma += sum(int(r.split()[1]) for r in righe
+                         if r.startswith("voluntary_ctxt_switches"))
+    return somma
+
+
+def riposo(schermo, programma, cartella):
+    """The bars at rest, after a wrong and a right answer with their sounds."""
+    from albero import Albero
+    from gioca import Giocatore
+    processo = schermo.avvia(programma, stderr=subprocess.DEVNULL)
+    with open(os.devnull, "w", encoding="ascii") as nulla:
+        voce, sys.stdout = sys.stdout, nulla
+        try:
+            Giocatore(schermo, Albero(processo), cartella).gioca()
+        finally:
+            sys.stdout = voce
+    time.sleep(QUIETE)
+    prima = risvegli(processo)
+    time.sleep(GUARDATI)
+    print(f"at rest on the bars, after sounds: {(risvegli(processo) - prima) / GUARDATI:.2f}"
+          " wake-ups a second (under 1)", flush=True)
+    termina(processo)
 
 
 def main():
@@ -18,7 +52,10 @@ def main():
     with Schermo(1366, 768):
         # As on a desktop without assistive technology: nobody listens to the tree.
         os.environ.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", None)
-        return max(subprocess.run(misura, check=False).returncode for misura in misure)
+        esito = max(subprocess.run(misura, check=False).returncode for misura in misure)
+    with Schermo(1366, 768) as schermo:
+        riposo(schermo, programma, os.path.join("build", "immagini"))
+    return esito
 
 
 if __name__ == "__main__":

@@ -109,7 +109,7 @@ void Page::paintEvent(QPaintEvent* event) {
   // Only the letterbox shows of the page itself. A gradient goes on in its colours at the ends.
   QPainter painter(this);
   if (!canvas_->hasGradient()) {
-    painter.fillRect(event->rect(), toColor(form_.design().back).darker(115));
+    painter.fillRect(event->rect(), toColor(form_.design().back));
     return;
   }
   painter.fillRect(event->rect(), kGradientLast);
