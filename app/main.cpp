@@ -10,9 +10,13 @@
 #include "platform/devices/file_instance_lock.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/devices/sdl_sound.h"
+#include "platform/devices/system_printers.h"
 #include "platform/devices/system_process_end.h"
 #include "platform/forms/appearance.h"
 #include "platform/forms/qt_message_boxes.h"
+#include "platform/forms/qt_page_setup.h"
+#include "printing/nome_formato_carta.h"
+#include "printing/parole_pagina.h"
 
 // Only wiring: the real services, the ground, the entry routine.
 int main(int argc, char* argv[]) {
@@ -26,13 +30,22 @@ int main(int argc, char* argv[]) {
   platform::DesktopDocuments documenti;
   platform::SystemProcessEnd fine;
   platform::FileInstanceLock istanza(QCoreApplication::applicationFilePath());
+  platform::SystemPrinters stampanti(
+      tempo, {platform::PdfFolder::usualFolders(), [] { return QDateTime::currentDateTime(); }});
 
-  // The message boxes speak the language of the whole that they are a part of.
+  // The message boxes speak the language of the whole that they are a part of, and stand over the
+  // window in use.
   somme::Ambiente* tutto = nullptr;
-  platform::QtMessageBoxes messaggi([&tutto] { return somme::ParoleMessaggi(*tutto); },
-                                    [&tutto] { return &tutto->fondo.window(); });
+  const auto sopra = [&tutto]() -> QWidget* {
+    QWidget* modale = QApplication::activeModalWidget();
+    return modale != nullptr ? modale : &tutto->fondo.window();
+  };
+  platform::QtMessageBoxes messaggi([&tutto] { return somme::ParoleMessaggi(*tutto); }, sopra);
+  platform::QtPageSetup pagina(
+      [&tutto] { return somme::ParolePagina(*tutto); },
+      [](const platform::Paper& carta) { return somme::NomeDellaCarta(carta); }, sopra);
   somme::Ambiente ambiente(
-      {tempo, sorte, suono, messaggi, documenti, fine, istanza,
+      {tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina,
        QCoreApplication::applicationDirPath()},
       [&tutto](std::string_view nome) { return somme::CreaForma(*tutto, nome); });
   tutto = &ambiente;

@@ -17,6 +17,7 @@
 #include "exercises/numbers/form_numeri_addendo.h"
 #include "exercises/numbers/form_numeri_totale.h"
 #include "exercises/table/form_tabella.h"
+#include "printing/frm_avvia_stampa.h"
 
 namespace somme {
 
@@ -46,6 +47,7 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormBarre10, Crea<FormBarre10>},
     {forme::kFormBarre20, Crea<FormBarre20>},
     {forme::kFormTabella, Crea<FormTabella>},
+    {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
 });
 
 }  // namespace

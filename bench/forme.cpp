@@ -41,6 +41,19 @@ struct Uscita final : platform::ProcessEnd {
 struct Solo final : platform::InstanceLock {
   [[nodiscard]] bool take() override { return true; }
 };
+struct SenzaStampanti final : platform::Printers {
+  [[nodiscard]] List list() override { return {}; }
+  [[nodiscard]] Opened open(const QString& /*name*/) override { return {}; }
+  [[nodiscard]] platform::PrintResult print(const platform::PrintJob& /*job*/) override {
+    return {};
+  }
+};
+struct SenzaPagina final : platform::PageSetup {
+  [[nodiscard]] bool choose(const QString& /*printer*/, const platform::PrinterTraits& /*traits*/,
+                            platform::PrinterSettings& /*settings*/) override {
+    return false;
+  }
+};
 struct Zitto final : platform::MessageBoxes {
   platform::BoxAnswer show(const platform::MessageBox& /*box*/) override {
     return platform::BoxAnswer::Ok;
@@ -54,7 +67,8 @@ double millisecondi(const QElapsedTimer& orologio) {
 class Misura {
  public:
   explicit Misura(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, cartella},
+      : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
+                   pagina_, cartella},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     somme::Avvia(ambiente_);
     QTest::qWait(500);
@@ -73,8 +87,9 @@ class Misura {
     }
     const double a = bench::mediana(forma);
     const double b = bench::mediana(nudi);
-    std::printf("showing %.*s (%d controls): %.2f ms, plain widgets %.2f ms: %.2f times (at most 2)\n",
-                static_cast<int>(nome.size()), nome.data(), controlli, a, b, a / b);
+    std::printf(
+        "showing %.*s (%d controls): %.2f ms, plain widgets %.2f ms: %.2f times (at most 2)\n",
+        static_cast<int>(nome.size()), nome.data(), controlli, a, b, a / b);
   }
 
   void verdetti() {
@@ -98,8 +113,9 @@ class Misura {
       QTest::qWait(1);
     }
     std::sort(tempi.begin(), tempi.end());
-    std::printf("from the key to the painted verdict: median %.2f ms, 95 of 100 within %.2f ms (16)\n",
-                tempi[tempi.size() / 2], tempi[tempi.size() * 95 / 100]);
+    std::printf(
+        "from the key to the painted verdict: median %.2f ms, 95 of 100 within %.2f ms (16)\n",
+        tempi[tempi.size() / 2], tempi[tempi.size() * 95 / 100]);
   }
 
   // What the key guard adds to a key that does nothing, told apart: the same taps with it and
@@ -198,6 +214,8 @@ class Misura {
   Chiuso documenti_;
   Uscita fine_;
   Solo istanza_;
+  SenzaStampanti stampanti_;
+  SenzaPagina pagina_;
   somme::Ambiente ambiente_;
   std::vector<Descrizione> modello_;
 };

@@ -5,6 +5,7 @@
 #include "app/shared/stato_condiviso.h"
 #include "app/shared/stringhe_condivise.h"
 #include "platform/base/chance.h"
+#include "platform/base/printers.h"
 #include "platform/base/profile_reader.h"
 #include "platform/base/services.h"
 #include "platform/forms/runtime.h"
@@ -20,7 +21,9 @@ struct Servizi {
   platform::Documents& documenti;
   platform::ProcessEnd& fine;
   platform::InstanceLock& istanza;
-  QString cartella;  // the program's path: the executable's folder, links resolved
+  platform::Printers& stampanti;
+  platform::PageSetup& pagina;  // how a printer prints, chosen by the user
+  QString cartella;             // the program's path: the executable's folder, links resolved
 };
 
 // Everything that a form reaches besides its own controls: the services, the shared state, the

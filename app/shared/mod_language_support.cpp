@@ -104,14 +104,17 @@ void ApplicaLingua(Ambiente& ambiente, platform::Form& form) {
   }
 }
 
+QString ParolaLingua(Ambiente& ambiente, const QString& sezione, const char* chiave,
+                     const QString& italiana) {
+  QString testo;
+  IgnoraErrori(
+      [&] { testo = LeggiChiave(ambiente, FileLingua(ambiente), sezione, QLatin1String(chiave)); });
+  return testo.isEmpty() ? italiana : testo;
+}
+
 platform::ButtonWords ParoleMessaggi(Ambiente& ambiente) {
   const auto parola = [&ambiente](const char* chiave, const QString& italiana) {
-    QString testo;
-    IgnoraErrori([&] {
-      testo = LeggiChiave(ambiente, FileLingua(ambiente), QStringLiteral("MessageBox"),
-                          QLatin1String(chiave));
-    });
-    return testo.isEmpty() ? italiana : testo;
+    return ParolaLingua(ambiente, QStringLiteral("MessageBox"), chiave, italiana);
   };
   return {parola("Ok", QStringLiteral("OK")), parola("Si", QStringLiteral("Sì")),
           parola("No", QStringLiteral("No"))};

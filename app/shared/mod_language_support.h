@@ -35,6 +35,11 @@ void ApplicaLingua(Ambiente& ambiente, platform::Form& form);
 // Keeps the choice for the next run.
 void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua);
 
+// A text of the ground's own dialogs in the current language, or the Italian one where the language
+// file has none.
+[[nodiscard]] QString ParolaLingua(Ambiente& ambiente, const QString& sezione, const char* chiave,
+                                   const QString& italiana);
+
 // The words on the buttons of message boxes: from section "MessageBox", or the Italian ones.
 [[nodiscard]] platform::ButtonWords ParoleMessaggi(Ambiente& ambiente);
 

@@ -43,4 +43,6 @@ inline constexpr std::string_view kFormAbacoHK = "FormAbacoHK";
 
 inline constexpr std::string_view kFormTabella = "FormTabella";
 
+inline constexpr std::string_view kFrmAvviaStampa = "frmAvviaStampa";
+
 }  // namespace somme::forme

@@ -65,7 +65,6 @@ constexpr Row Elenco(TwipsRect posto) {
 constexpr Row Stampa(TwipsRect posto) {
   return row<&FormaEsercizio::CommandStampa>(posto, {.caption = "Stampa",
                                                      .font = kTahoma14,
-                                                     .disabled = true,
                                                      .picture = "stampante",
                                                      .in = nameOf<&FormaEsercizio::PictureStampa>});
 }

@@ -2,6 +2,7 @@
 
 #include "app/shared/modulo_colori_suoni.h"
 #include "platform/base/numbers.h"
+#include "printing/modulo_stampa.h"
 
 namespace somme {
 
@@ -10,6 +11,7 @@ FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& d
     : Forma(ambiente, disegno), menu_(menu) {
   MenuAzzera.onClick([this] { AzzeraConteggio(); });
   mnuStampa.onClick([this] { ApriPannelloStampa(); });
+  CommandStampa.onClick([this] { StampaElenco(); });
   CommandChiudi.onClick([this] { ChiudiPannelloStampa(); });
   mnuEsci.onClick([this] { VaiA(menu_); });
 }
@@ -78,6 +80,11 @@ QString FormaEsercizio::SommaFatta() const {
 
 void FormaEsercizio::ApriPannelloStampa() {
   PictureStampa.cover();
+}
+
+void FormaEsercizio::StampaElenco() {
+  constexpr int kUnPollice = 1440;  // twips
+  StampaTestoRicco(ambiente(), TestoStampa, kUnPollice, kUnPollice, kUnPollice, kUnPollice);
 }
 
 void FormaEsercizio::ChiudiPannelloStampa() {

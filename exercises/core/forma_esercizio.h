@@ -61,6 +61,8 @@ class FormaEsercizio : public Forma {
   void AzzeraConteggio();
   virtual void ApriPannelloStampa();
   virtual void ChiudiPannelloStampa();
+  // The record on paper; the panel stays open.
+  void StampaElenco();
 
  private:
   // Tells assistive technology what the pictures show.

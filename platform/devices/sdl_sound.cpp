@@ -1,16 +1,12 @@
 #include "platform/devices/sdl_sound.h"
 
-#include <pthread.h>
-
 #include <QFile>
 #include <QFileInfo>
 #include <chrono>
-#include <csignal>
 #include <optional>
-#include <system_error>
-#include <thread>
 #include <utility>
 
+#include "platform/devices/quiet_thread.h"
 #include "platform/devices/sdl_player.h"
 #include "platform/devices/sound_desk.h"
 
@@ -28,22 +24,6 @@ constexpr milliseconds kPatience{2000};
 constexpr milliseconds kLook{20};
 // What the sound system still holds when the last sample has been handed over.
 constexpr milliseconds kTail{250};
-
-// The desktop's signals belong to the program's own thread; SDL's threads inherit the mask.
-class AllSignalsBlocked {
- public:
-  AllSignalsBlocked() {
-    sigset_t all;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &before_);
-  }
-  ~AllSignalsBlocked() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-  AllSignalsBlocked(const AllSignalsBlocked&) = delete;
-  AllSignalsBlocked& operator=(const AllSignalsBlocked&) = delete;
-
- private:
-  sigset_t before_{};
-};
 
 // Waits until the sound has been heard; earlier when there is something else to do.
 void hearOut(SoundDesk& desk, const SdlPlayer& player, milliseconds length) {
@@ -127,13 +107,8 @@ void SdlSound::play(const QString& path) {
   if (threadStarted_) {
     return;
   }
-  const AllSignalsBlocked blocked;
-  try {
-    std::thread([desk = desk_] { serve(*desk); }).detach();
-    threadStarted_ = true;
-  } catch (const std::system_error&) {
-    // No thread to be had: silence, and another try with the next sound.
-  }
+  // Where no thread is to be had there is silence, and another try with the next sound.
+  threadStarted_ = startQuietThread([desk = desk_] { serve(*desk); });
 }
 
 }  // namespace platform

@@ -59,6 +59,7 @@ struct Look {
   bool hidden = false;
   bool disabled = false;
   bool checked = false;            // menu items, options, check boxes
+  bool mnemonic = false;           // labels: "&" marks a key that leads to the next control
   bool locked = false;             // text boxes: read-only
   int maxLength = 0;               // text boxes: 0 is no limit
   int borderWidth = 1;             // shapes and lines: logical pixels

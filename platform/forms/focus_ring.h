@@ -13,4 +13,13 @@ inline constexpr double kFocusRingWidth = 5;
 // a ground of any colour. corner: the radius of the outer corners, in pixels; 0 for square ones.
 void paintFocusRing(QPainter& painter, const QRectF& area, double corner);
 
+// While one lives, no control shows a focus ring: for a picture of a form that is to be printed.
+class WithoutFocusRings {
+ public:
+  WithoutFocusRings();
+  ~WithoutFocusRings();
+  WithoutFocusRings(const WithoutFocusRings&) = delete;
+  WithoutFocusRings& operator=(const WithoutFocusRings&) = delete;
+};
+
 }  // namespace platform

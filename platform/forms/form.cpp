@@ -7,6 +7,7 @@
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/menu_bar.h"
+#include "platform/forms/modal_window.h"
 #include "platform/forms/runtime.h"
 
 namespace platform {
@@ -119,6 +120,19 @@ std::vector<const Control*> Form::withoutRow() const {
 void Form::setCaption(const QString& caption) {
   caption_ = caption;
   runtime_.window().formChanged(*this);
+}
+
+void Form::setDesignHeight(double twips) {
+  design_.height = twips;
+  laidOut_ = false;
+  if (auto* window = qobject_cast<ModalWindow*>(page_->window())) {
+    window->fit();
+    takeSize();
+  }
+}
+
+void Form::onClose() {
+  runtime_.forms().unload(*this);
 }
 
 void Form::setIcon(const QIcon& icon) {

@@ -43,6 +43,9 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   // The inner area, in twips of the page as it stands now.
   [[nodiscard]] double width() const { return design_.width * scale_.x; }
   [[nodiscard]] double height() const { return design_.height * scale_.y; }
+  // Cuts the design off at so many of its own twips, or lengthens it; the window of a form shown
+  // over the main one follows.
+  void setDesignHeight(double twips);
   // Paints the background from white at the top to full yellow at the bottom, once, at the present
   // size; what a later resize uncovers shows the last colour.
   void paintGradient();
@@ -105,6 +108,7 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   void fireResize() { onResize(); }
   void fireActivate() { onActivate(); }
   void fireUnload() { onUnload(); }
+  void fireClose() { onClose(); }
   // The proportional layout: puts every control where it belongs on the page as it is now.
   void layOut();
 
@@ -113,6 +117,8 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   virtual void onResize() {}
   virtual void onActivate() {}
   virtual void onUnload() {}
+  // The user closes the window of its own that the form is shown in.
+  virtual void onClose();
 
  private:
   void buildRows();
@@ -120,7 +126,7 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   void setTabOrder();
 
   Runtime& runtime_;
-  const FormDesign& design_;
+  FormDesign design_;
   QString name_;
   QString caption_;
   QString tag_;

@@ -5,6 +5,7 @@
 
 #include "platform/base/run_time_error.h"
 #include "platform/forms/form.h"
+#include "platform/forms/modal_window.h"
 #include "platform/forms/runtime.h"
 
 namespace platform {
@@ -86,6 +87,38 @@ void Forms::activateLater(const std::shared_ptr<Form>& form) {
       [this, activate] { QTimer::singleShot(0, &runtime_.window(), activate); });
 }
 
+void Forms::showModal(Form& form) {
+  constexpr double kLong = 60;  // seconds; any event ends the sleep
+  const std::shared_ptr<Form> keep = form.shared_from_this();
+  runtime_.gate().wait([&] {
+    ModalWindow window(runtime_, form);
+    modal_.push_back(keep);
+    window.fit();
+    window.show();
+    form.takeSize();
+    form.run([&form] { form.fireActivate(); }, Gate::Cases::DoNotMatter);
+    while (!form.isUnloaded() && !runtime_.gate().isClosed()) {
+      runtime_.time().sleepUntilEvent(kLong);
+    }
+    std::erase(modal_, keep);
+    // The page outlives the window: what a handler still holds of it is there until it is buried.
+    form.page()->setParent(runtime_.window().pages());
+    activateAgain();
+  });
+}
+
+void Forms::activateAgain() {
+  if (Form* form = current()) activateLater(form->shared_from_this());
+}
+
+Form* Forms::shownIn(const QWindow& window) const {
+  if (&window == runtime_.window().windowHandle()) return current();
+  for (const std::shared_ptr<Form>& form : modal_) {
+    if (form->page()->window()->windowHandle() == &window) return form.get();
+  }
+  return nullptr;
+}
+
 Form& Forms::loaded(std::string_view name) {
   return *load(name);
 }
@@ -117,6 +150,7 @@ void Forms::bury() {
 
 void Forms::clear() {
   shown_.clear();
+  modal_.clear();
   gone_.clear();
   loaded_.clear();
 }

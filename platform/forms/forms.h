@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+class QWindow;
+
 namespace platform {
 
 class Form;
@@ -27,6 +29,12 @@ class Forms {
   void show(std::string_view name);
   // The program's one way from form to form: shows the next, then unloads the one that is left.
   void pass(Form& from, std::string_view to);
+  // Shows a loaded form in a window of its own over the main one and returns when it has been
+  // unloaded, or the program is ending: Resize and Activate come first. The form on the screen is
+  // activated again after the running handler.
+  void showModal(Form& form);
+  // Activates the form on the screen after the running handler, as when a form over it has gone.
+  void activateAgain();
   // Takes a form from the screen at once; it is destroyed when no handler of it is left on the
   // stack. A form that it was shown over comes back and is activated after the running handler.
   void unload(Form& form);
@@ -38,6 +46,8 @@ class Forms {
 
   // The form on the screen, or null.
   [[nodiscard]] Form* current() const;
+  // The form that this window of the program shows, or null.
+  [[nodiscard]] Form* shownIn(const QWindow& window) const;
   // Every form now loaded, hidden ones too, in the order of their loading.
   [[nodiscard]] std::vector<std::shared_ptr<Form>> all() const;
   // Counts the changes of page, so that a mouse or key event can be told to belong to another page.
@@ -61,6 +71,7 @@ class Forms {
   std::vector<std::shared_ptr<Form>> loaded_;
   std::vector<std::shared_ptr<Form>> shown_;  // the last is on the screen
   std::vector<std::shared_ptr<Form>> gone_;
+  std::vector<std::shared_ptr<Form>> modal_;  // in windows of their own
   int pageNumber_ = 0;
   int changing_ = 0;
   bool burying_ = false;

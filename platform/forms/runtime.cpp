@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QScopeGuard>
 
 #include "platform/base/run_time_error.h"
 #include "platform/forms/form.h"
@@ -49,6 +50,14 @@ BoxAnswer Runtime::showBox(const MessageBox& box) {
   if (shown.title.isEmpty()) shown.title = title_;
   gate_.wait([&] { answer = services_.boxes.show(shown); });
   return answer;
+}
+
+void Runtime::waitDeaf(const std::function<void()>& work) {
+  gate_.wait([&] {
+    ++deaf_;
+    const auto hearAgain = qScopeGuard([this] { --deaf_; });
+    work();
+  });
 }
 
 void Runtime::endProcess(int status) {

@@ -47,6 +47,11 @@ class Runtime {
 
   // Shows a box from a handler. Does not return into it when its form has gone meanwhile.
   BoxAnswer showBox(const MessageBox& box);
+  // Lets a wait of the running handler work while every window of the program takes no mouse button
+  // and no key: for a device that may keep the handler waiting for seconds. Does not return into it
+  // when its form has gone meanwhile.
+  void waitDeaf(const std::function<void()>& work);
+  [[nodiscard]] bool isDeaf() const { return deaf_ > 0; }
   // Ends the process at once: no handler starts any more and no form is unloaded.
   void endProcess(int status);
 
@@ -62,6 +67,7 @@ class Runtime {
   Forms forms_;
   std::unique_ptr<Window> window_;
   std::unique_ptr<KeyGuard> keys_;
+  int deaf_ = 0;
 };
 
 }  // namespace platform

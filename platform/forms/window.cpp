@@ -5,6 +5,7 @@
 #include <QWindow>
 
 #include "platform/forms/form.h"
+#include "platform/forms/modal_window.h"
 #include "platform/forms/runtime.h"
 
 namespace platform {
@@ -57,6 +58,12 @@ void Window::appear() {
 }
 
 void Window::formChanged(const Form& form) {
+  QWidget* own = form.page() == nullptr ? nullptr : form.page()->window();
+  if (auto* modal = qobject_cast<ModalWindow*>(own)) {
+    modal->setWindowTitle(form.caption());
+    modal->setAccessibleName(form.caption());
+    return;
+  }
   if (runtime_.forms().current() != &form) return;
   setWindowTitle(form.caption());
   setWindowIcon(form.icon());

@@ -20,7 +20,8 @@ Banco::Banco(QSize lato, Forme forme) {
     QFile::setPermissions(percorso(nome), QFile::ReadOwner | QFile::WriteOwner);
   }
   ambiente = std::make_unique<somme::Ambiente>(
-      somme::Servizi{tempo, sorte, suono, messaggi, documenti, fine, istanza, cartella.path()},
+      somme::Servizi{tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina,
+                     cartella.path()},
       [this, forme = std::move(forme)](std::string_view nome) {
         return forme ? forme(*ambiente, nome) : somme::CreaForma(*ambiente, nome);
       });

@@ -10,6 +10,7 @@
 #include "platform/forms/form.h"
 #include "support/scripted_time.h"
 #include "support/servizi_di_prova.h"
+#include "support/stampanti_di_prova.h"
 
 // Where forms are tried: the whole program over scripted services, with a folder of its own and a
 // window of a known size, and the pupil's hands.
@@ -67,6 +68,8 @@ class Banco {
   DocumentiDiProva documenti;
   FineDiProva fine;
   IstanzaDiProva istanza;
+  StampantiDiProva stampanti;
+  PaginaDiProva pagina;
   std::unique_ptr<somme::Ambiente> ambiente;
 };
 

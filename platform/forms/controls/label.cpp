@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <algorithm>
 
 #include "platform/forms/fonts.h"
 #include "platform/forms/form.h"
@@ -13,8 +14,8 @@ namespace {
 // A QLabel for what the toolkit and assistive technology know of it, painted by our own rules.
 class LabelWidget final : public QLabel {
  public:
-  LabelWidget(QWidget* parent, Align align, bool border)
-      : QLabel(parent), align_(align), border_(border) {
+  LabelWidget(QWidget* parent, Align align, bool border, bool mnemonic)
+      : QLabel(parent), align_(align), border_(border), mnemonic_(mnemonic) {
     setTextFormat(Qt::PlainText);
   }
 
@@ -42,7 +43,7 @@ class LabelWidget final : public QLabel {
       laidText_ = text();
       laidFont_ = font();
       laidRoom_ = room.size();
-      block_.set(laidText_, laidFont_, laidRoom_, align_, false);
+      block_.set(laidText_, laidFont_, laidRoom_, align_, mnemonic_);
     }
     block_.paint(painter, room, ink_, ground_.value_or(behind_));
   }
@@ -50,6 +51,7 @@ class LabelWidget final : public QLabel {
  private:
   Align align_;
   bool border_;
+  bool mnemonic_;
   QColor ink_ = Qt::black;
   std::optional<QColor> ground_;
   QColor behind_ = Qt::white;
@@ -62,7 +64,7 @@ class LabelWidget final : public QLabel {
 }  // namespace
 
 QWidget* Label::create(QWidget* parent) {
-  return new LabelWidget(parent, look().align, look().border);
+  return new LabelWidget(parent, look().align, look().border, look().mnemonic);
 }
 
 void Label::applyLook() {
@@ -72,7 +74,7 @@ void Label::applyLook() {
                     look().back ? std::optional(toColor(backColor())) : std::nullopt,
                     toColor(form().design().back));
   label->setToolTip(toolTip());
-  const QString words = caption().trimmed();
+  const QString words = (look().mnemonic ? withoutMnemonic(caption()) : caption()).trimmed();
   const QString spoken = toolTip().isEmpty() || words.isEmpty()
                              ? toolTip() + words
                              : QStringLiteral("%1: %2").arg(toolTip(), words);
@@ -89,6 +91,19 @@ void Label::setCaption(const QString& caption) {
   if (label == nullptr || label->text() == caption) return;
   label->setText(caption);
   applyLook();
+}
+
+QChar Label::accessKey() const {
+  return look().mnemonic ? accessKeyOf(caption()) : QChar();
+}
+
+void Label::access() {
+  const std::vector<Control*>& all = form().controls();
+  auto next = std::find(all.begin(), all.end(), this);
+  next = std::find_if(next, all.end(), [](const Control* control) {
+    return control->widget() != nullptr && control->widget()->focusPolicy() != Qt::NoFocus;
+  });
+  if (next != all.end()) (*next)->setFocus();
 }
 
 }  // namespace platform

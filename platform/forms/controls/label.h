@@ -17,6 +17,9 @@ class Label : public Control {
   [[nodiscard]] QString caption() const override;
   void setCaption(const QString& caption) override;
   [[nodiscard]] int layer() const override { return 0; }
+  // Of a label whose row says that it has one; it leads to the next control of the design.
+  [[nodiscard]] QChar accessKey() const override;
+  void access() override;
 
  protected:
   [[nodiscard]] QWidget* create(QWidget* parent) override;

@@ -14,9 +14,20 @@ void PanelWidget::setGround(const QColor& ground) {
   update();
 }
 
+void PanelWidget::setPicture(const QImage& picture, const QRect& where) {
+  picture_ = picture;
+  where_ = where;
+  update();
+}
+
 void PanelWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), ground_);
+  if (!picture_.isNull()) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(where_), picture_);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+  }
   if (!border_) return;
   painter.setPen(QColor(110, 110, 110));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));

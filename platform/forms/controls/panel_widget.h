@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QWidget>
 
 namespace platform {
@@ -13,6 +14,8 @@ class PanelWidget final : public QWidget {
   PanelWidget(QWidget* parent, bool border);
 
   void setGround(const QColor& ground);
+  // Shows a picture stretched to `where`; a null one shows nothing.
+  void setPicture(const QImage& picture, const QRect& where);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -20,6 +23,8 @@ class PanelWidget final : public QWidget {
  private:
   bool border_;
   QColor ground_ = Qt::white;
+  QImage picture_;
+  QRect where_;
 };
 
 }  // namespace platform

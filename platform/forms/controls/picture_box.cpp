@@ -16,6 +16,15 @@ void PictureBox::applyLook() {
   panel->setAccessibleName(toolTip());
 }
 
+void PictureBox::setPicture(const QImage& picture, const QRect& pixels) {
+  picture_ = picture;
+  if (widget() != nullptr) static_cast<PanelWidget*>(widget())->setPicture(picture, pixels);
+}
+
+void PictureBox::clear() {
+  setPicture({}, {});
+}
+
 void PictureBox::cover() {
   form().cover(*this);
 }

@@ -5,6 +5,7 @@
 
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
+#include "platform/forms/text_pages.h"
 
 namespace platform {
 
@@ -49,6 +50,13 @@ void RichTextBox::append(const QString& text) {
   selected.setPosition(position, QTextCursor::KeepAnchor);
   box->setTextCursor(selected);
   box->verticalScrollBar()->setValue(box->verticalScrollBar()->maximum());
+}
+
+qsizetype RichTextBox::formatRange(QPainter* painter, const QRectF& area, qsizetype from) const {
+  constexpr double kTwipsPerPoint = 20;
+  QFont font = fontOf(fontSpec(), fontSpec().size * kTwipsPerPoint);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  return setTextInto(painter, text_, font, toColor(foreColor()), area, from);
 }
 
 }  // namespace platform

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QRectF>
+
 #include "platform/forms/control.h"
+
+class QPainter;
 
 namespace platform {
 
@@ -14,6 +18,11 @@ class RichTextBox : public Control {
   [[nodiscard]] const QString& text() const { return text_; }
   void setText(const QString& text);
   void append(const QString& text);
+
+  // Sets a page of the text, from character `from` on, into an area of a page. Lengths are twips,
+  // also the painter's; the font has the size of the design, whatever the size of the window.
+  // painter: null to measure only. Returns the position of the next character.
+  [[nodiscard]] qsizetype formatRange(QPainter* painter, const QRectF& area, qsizetype from) const;
 
  protected:
   [[nodiscard]] QWidget* create(QWidget* parent) override;

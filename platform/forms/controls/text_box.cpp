@@ -64,6 +64,16 @@ void TextBox::setText(const QString& text) {
   if (widget() != nullptr) boxOf(widget()).putText(text);
 }
 
+int TextBox::selStart() const {
+  if (widget() == nullptr) return 0;
+  const TextBoxWidget& box = boxOf(widget());
+  return box.hasSelectedText() ? box.selectionStart() : box.cursorPosition();
+}
+
+int TextBox::selLength() const {
+  return widget() == nullptr ? 0 : boxOf(widget()).selectionLength();
+}
+
 int TextBox::maxLength() const {
   return widget() == nullptr ? look().maxLength : boxOf(widget()).limit();
 }

@@ -25,6 +25,10 @@ class TextBox : public Control {
 
   [[nodiscard]] QString text() const;
   void setText(const QString& text);
+  // What is selected: where it begins, and how many characters it has; without a selection where
+  // the cursor stands, and 0.
+  [[nodiscard]] int selStart() const;
+  [[nodiscard]] int selLength() const;
   // In characters; 0 is no limit.
   [[nodiscard]] int maxLength() const;
   void setMaxLength(int characters);

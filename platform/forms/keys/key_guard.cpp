@@ -108,6 +108,7 @@ int KeyGuard::destinationOf(const QWindow& window) const {
 // A page that is being left takes no key, and neither does a box or dialog before every key that
 // was held at its opening has been let go.
 bool KeyGuard::isBlocked(const QWindow& window) {
+  if (runtime_.isDeaf()) return true;
   if (isMainWindow(window)) return runtime_.forms().isChanging();
   if (!state_.anyHeldOver()) return false;
   if (const auto down = keysDownNow()) state_.heldOver(*down, now());
@@ -131,8 +132,8 @@ bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
 }
 
 bool KeyGuard::worked(QWindow& window, const QKeyEvent& event) {
-  Form* form = runtime_.forms().current();
-  if (form == nullptr || !isMainWindow(window)) return false;
+  Form* form = runtime_.forms().shownIn(window);
+  if (form == nullptr) return false;
   const std::shared_ptr<Form> keep = form->shared_from_this();
   const Qt::KeyboardModifiers modifiers =
       event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
@@ -197,19 +198,19 @@ void KeyGuard::deliver(const HeldKey& released) {
 
 // What is down is let go without effect.
 void KeyGuard::letGo() {
-  if (Form* form = runtime_.forms().current()) form->keysLetGo();
+  if (!focus_) return;
+  if (Form* form = runtime_.forms().shownIn(*focus_)) form->keysLetGo();
 }
 
 // The keyboard went to another window of ours, or out of the program. Whatever is down is let go
 // without effect; what is still down when the keyboard comes back does nothing until it goes up.
 void KeyGuard::windowChanged(QWindow* window) {
   if (window == focus_) return;
-  const bool fromMain = focus_ && isMainWindow(*focus_);
-  focus_ = window;
   const std::vector<HeldKey> held = state_.letGoAll();
   heldBack_.clear();
   schedule();
-  if (fromMain && !held.empty()) letGo();
+  if (!held.empty()) letGo();
+  focus_ = window;
   for (const HeldKey& key : held) letGo_.push_back(key.id);
   if (window == nullptr) return;
   state_.heldOver(keysDownNow().value_or(letGo_), now());
@@ -219,13 +220,17 @@ void KeyGuard::windowChanged(QWindow* window) {
 // While a form is being shown the old page takes no mouse, and the second half of a double click
 // does not reach a page that came up between the two.
 bool KeyGuard::mouse(QWindow& window, const QMouseEvent& event) {
-  if (!isMainWindow(window)) return false;
-  const int page = runtime_.forms().pageNumber();
   if (event.type() == QEvent::MouseButtonRelease) {
     const bool drop = dropRelease_;
     dropRelease_ = false;
     return drop;
   }
+  if (runtime_.isDeaf()) {
+    dropRelease_ = true;
+    return true;
+  }
+  if (!isMainWindow(window)) return false;
+  const int page = runtime_.forms().pageNumber();
   const bool stale = event.type() == QEvent::MouseButtonDblClick && mousePage_ != page;
   if (runtime_.forms().isChanging() || stale) {
     dropRelease_ = true;

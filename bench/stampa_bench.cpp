@@ -1,0 +1,140 @@
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTest>
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+#include "app/shared/nomi_forme.h"
+#include "exercises/bars/form_barre10.h"
+#include "printing/frm_avvia_stampa.h"
+#include "printing/modulo_stampa.h"
+#include "support/banco.h"
+
+// Printing: how the time and the memory of a record grow with its lines, and how soon the preview
+// follows a change of a field. It needs a display.
+//
+//   stampa_bench
+namespace {
+
+constexpr int kPochi = 1000;
+constexpr int kMolti = 10000;
+constexpr int kVolte = 5;
+constexpr double kFotogramma = 1000.0 / 60;  // milliseconds
+
+double millisecondi(const QElapsedTimer& orologio) {
+  return static_cast<double>(orologio.nsecsElapsed()) / 1e6;
+}
+
+QString righe(int quante) {
+  QString testo;
+  for (int i = 0; i < quante; ++i) testo += QStringLiteral("     %1 +  4 =  7\r\n").arg(i, 5);
+  return testo;
+}
+
+// Kilobytes: VmHWM is the most that was ever in memory, VmRSS what is there now.
+long memoria(const char* voce) {
+  std::ifstream file("/proc/self/status");
+  std::string parola;
+  while (file >> parola) {
+    if (parola == voce) {
+      long kilobyte = 0;
+      file >> kilobyte;
+      return kilobyte;
+    }
+  }
+  return 0;
+}
+
+void azzeraMassimo() {
+  std::ofstream("/proc/self/clear_refs") << "5";
+}
+
+class Misura {
+ public:
+  Misura() : forma_(banco_.apri<somme::FormBarre10>(somme::forme::kFormBarre10)) {}
+
+  void elenco() {
+    stampa(kPochi);  // fonts are loaded by the first print
+    const double pochi = tempo(kPochi);
+    const double molti = tempo(kMolti);
+    std::printf("record of %d lines: %.0f ms; of %d lines: %.0f ms: %.1f times (at most 12)\n",
+                kPochi, pochi, kMolti, molti, molti / pochi);
+    prepara(kMolti);
+    const long prima = memoria("VmRSS:");
+    azzeraMassimo();
+    stampa(kMolti);
+    const long dopo = memoria("VmHWM:");
+    std::printf("memory: %.2f KB a line (at most 1)\n", double(dopo - prima) / kMolti);
+  }
+
+  void anteprima() {
+    banco_.ambiente->fondo.window().showNormal();
+    auto& dialogo = static_cast<somme::frmAvviaStampa&>(
+        banco_.ambiente->fondo.forms().loaded(somme::forme::kFrmAvviaStampa));
+    somme::frmAvviaStampa::Richiesta richiesta;
+    richiesta.oggetto = static_cast<platform::Form*>(&forma_);
+    richiesta.larghezza = 420;
+    richiesta.altezza = 297;
+    richiesta.orientamento = 2;
+    banco_.tempo.after(0.1, [&] {
+      std::vector<double> tempi;
+      dialogo.Command1.click();
+      QTest::qWait(200);
+      for (int i = 0; i < 100; ++i) {
+        QElapsedTimer orologio;
+        orologio.start();
+        dialogo.updPrX.step(i % 2 == 0 ? 1 : -1);
+        dialogo.PictureAnteprima.widget()->repaint();
+        tempi.push_back(millisecondi(orologio));
+        QCoreApplication::processEvents();
+      }
+      std::sort(tempi.begin(), tempi.end());
+      std::printf(
+          "preview after a change of a field: median %.2f ms, slowest %.2f ms "
+          "(a frame is %.1f ms)\n",
+          tempi[tempi.size() / 2], tempi.back(), kFotogramma);
+      dialogo.cmdChiudi.click();
+    });
+    forma_.run([&] { (void)dialogo.StampaFCPB(richiesta); });
+  }
+
+ private:
+  void prepara(int quante) {
+    forma_.TestoStampa.setText(righe(quante));
+    banco_.stampanti.lavori.clear();
+    banco_.stampanti.lavori.shrink_to_fit();
+  }
+
+  void stampa(int quante) {
+    prepara(quante);
+    somme::StampaTestoRicco(*banco_.ambiente, forma_.TestoStampa, 1440, 1440, 1440, 1440);
+  }
+
+  double tempo(int quante) {
+    std::vector<double> tempi;
+    for (int i = 0; i < kVolte; ++i) {
+      prepara(quante);
+      QElapsedTimer orologio;
+      orologio.start();
+      somme::StampaTestoRicco(*banco_.ambiente, forma_.TestoStampa, 1440, 1440, 1440, 1440);
+      tempi.push_back(millisecondi(orologio));
+    }
+    std::sort(tempi.begin(), tempi.end());
+    return tempi[tempi.size() / 2];
+  }
+
+  prova::Banco banco_;
+  somme::FormBarre10& forma_;
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication programma(argc, argv);
+  Misura misura;
+  misura.elenco();
+  misura.anteprima();
+  return 0;
+}

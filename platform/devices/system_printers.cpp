@@ -1,0 +1,79 @@
+#include "platform/devices/system_printers.h"
+
+#include <mutex>
+
+#include "platform/devices/cups_queues.h"
+
+namespace platform {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds kListTime{1500};
+constexpr milliseconds kOpenTime{1500};
+constexpr milliseconds kPrintTime{20000};
+
+// What a search has found so far; it is of use also when the search does not come to its end.
+struct Findings {
+  std::mutex mutex;
+  Printers::List list;
+};
+
+}  // namespace
+
+SystemPrinters::SystemPrinters(TimeSource& time, PdfFolder folder)
+    : work_(time), folder_(std::move(folder)), builtIn_(QStringLiteral("PDF")) {}
+
+Printers::List SystemPrinters::list() {
+  const auto findings = std::make_shared<Findings>();
+  (void)work_.run<bool>(
+      [findings](Waiting&) {
+        const std::optional<CupsLibrary> cups = CupsLibrary::load();
+        if (!cups) return false;
+        CupsQueues(*cups).list([&](const QString& name, bool isStandard) {
+          const std::lock_guard lock(findings->mutex);
+          if (!findings->list.names.contains(name)) findings->list.names.append(name);
+          if (isStandard) findings->list.standard = name;
+        });
+        return true;
+      },
+      kListTime);
+  List result;
+  {
+    const std::lock_guard lock(findings->mutex);
+    result = findings->list;
+  }
+  builtIn_ = QStringLiteral("PDF");
+  if (result.names.contains(builtIn_)) builtIn_ = QStringLiteral("PDF (file)");
+  result.names.append(builtIn_);
+  if (result.standard.isEmpty()) result.standard = builtIn_;
+  return result;
+}
+
+Printers::Opened SystemPrinters::open(const QString& name) {
+  if (name == builtIn_) return {Access::Granted, PdfFolder::traits()};
+  return work_
+      .run<Opened>(
+          [name](Waiting&) {
+            const std::optional<CupsLibrary> cups = CupsLibrary::load();
+            return cups ? CupsQueues(*cups).open(name) : Opened{};
+          },
+          kOpenTime)
+      .value_or(Opened{});
+}
+
+PrintResult SystemPrinters::print(const PrintJob& job) {
+  if (job.printer == builtIn_) return folder_.print(job);
+  return work_
+      .run<PrintResult>(
+          [job](Waiting& waiting) {
+            const std::optional<CupsLibrary> cups = CupsLibrary::load();
+            if (!cups) return PrintResult{};
+            return CupsQueues(*cups).print(job, [&waiting] { return waiting.goesOn(); });
+          },
+          kPrintTime)
+      .value_or(PrintResult{});
+}
+
+}  // namespace platform

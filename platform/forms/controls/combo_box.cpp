@@ -1,0 +1,78 @@
+#include "platform/forms/controls/combo_box.h"
+
+#include <QComboBox>
+#include <QPainter>
+#include <QSignalBlocker>
+
+#include "platform/forms/focus_ring.h"
+#include "platform/forms/fonts.h"
+
+namespace platform {
+
+namespace {
+
+class ComboWidget final : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QComboBox::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    paintFocusRing(painter, rect(), 0);
+  }
+};
+
+QComboBox* boxOf(QWidget* widget) {
+  return static_cast<QComboBox*>(widget);
+}
+
+}  // namespace
+
+QWidget* ComboBox::create(QWidget* parent) {
+  auto* box = new ComboWidget(parent);
+  QObject::connect(box, &QComboBox::currentIndexChanged, box, [this](int index) {
+    if (index >= 0) raiseEvent(clicked_);
+  });
+  return box;
+}
+
+void ComboBox::applyLook() {
+  widget()->setFont(fontOf(fontSpec(), fontPixels()));
+  widget()->setToolTip(toolTip());
+  if (widget()->accessibleName() != toolTip()) widget()->setAccessibleName(toolTip());
+}
+
+void ComboBox::setItems(const QStringList& items) {
+  // Qt chooses the first line by itself.
+  const QSignalBlocker quiet(widget());
+  boxOf(widget())->clear();
+  boxOf(widget())->addItems(items);
+  boxOf(widget())->setCurrentIndex(-1);
+}
+
+QStringList ComboBox::items() const {
+  QStringList result;
+  for (int i = 0; i < boxOf(widget())->count(); ++i) result.append(boxOf(widget())->itemText(i));
+  return result;
+}
+
+QString ComboBox::text() const {
+  return boxOf(widget())->currentText();
+}
+
+int ComboBox::listIndex() const {
+  return boxOf(widget())->currentIndex();
+}
+
+void ComboBox::setListIndex(int index) {
+  boxOf(widget())->setCurrentIndex(index);
+}
+
+void ComboBox::choose(const QString& text) {
+  const int index = boxOf(widget())->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (index >= 0) setListIndex(index);
+}
+
+}  // namespace platform

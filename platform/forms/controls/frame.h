@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace platform {
+
+// A line round controls that belong together, with a caption in it. It takes no focus itself.
+class Frame : public Control {
+ public:
+  using Control::Control;
+
+  [[nodiscard]] bool hasCaption() const override { return true; }
+  [[nodiscard]] QString caption() const override { return caption_; }
+  void setCaption(const QString& caption) override;
+
+ protected:
+  [[nodiscard]] QWidget* create(QWidget* parent) override;
+  void applyLook() override;
+
+ private:
+  QString caption_;
+};
+
+}  // namespace platform

@@ -1,0 +1,51 @@
+#include "platform/forms/controls/shape.h"
+
+#include <QPainter>
+#include <QWidget>
+#include <optional>
+
+#include "platform/forms/text_block.h"
+
+namespace platform {
+
+namespace {
+
+class ShapeWidget final : public QWidget {
+ public:
+  ShapeWidget(QWidget* parent, int edge) : QWidget(parent), edge_(edge) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+
+  void setColours(const QColor& ink, std::optional<QColor> ground) {
+    ink_ = ink;
+    ground_ = std::move(ground);
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    if (ground_) painter.fillRect(rect(), *ground_);
+    painter.setPen(QPen(ink_, edge_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    const double half = edge_ / 2.0;
+    painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
+  }
+
+ private:
+  int edge_;
+  QColor ink_;
+  std::optional<QColor> ground_;
+};
+
+}  // namespace
+
+QWidget* Shape::create(QWidget* parent) {
+  return new ShapeWidget(parent, look().borderWidth);
+}
+
+void Shape::applyLook() {
+  static_cast<ShapeWidget*>(widget())->setColours(
+      toColor(foreColor()), look().back ? std::optional(toColor(backColor())) : std::nullopt);
+}
+
+}  // namespace platform

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QPainter>
+#include <QRadioButton>
+#include <QStyleOptionButton>
+
+#include "platform/forms/focus_ring.h"
+#include "platform/forms/text_block.h"
+
+namespace platform {
+
+// A check box or an option button of Qt's, whose words take a smaller size or wrap rather than be
+// cut, and whose focus shows like that of all controls.
+template <class Base, QStyle::PrimitiveElement Mark>
+class ToggleWidget final : public Base {
+ public:
+  explicit ToggleWidget(QWidget* parent) : Base(parent) {}
+
+  // caption: "&" stands before the access key.
+  void setCaption(const QString& caption) {
+    caption_ = caption;
+    this->setAccessibleName(withoutMnemonic(caption));
+    this->update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    QStyleOptionButton option;
+    this->initStyleOption(&option);
+    const int side = std::clamp(this->height() - 2 * int(kFocusRingWidth) - 2, 8, kLargestMark);
+    const int margin = int(kFocusRingWidth) + 2;
+    option.rect = QRect(margin, (this->height() - side) / 2, side, side);
+    option.state &= ~QStyle::State_HasFocus;
+    this->style()->drawPrimitive(Mark, &option, &painter, this);
+    const QRect room = this->rect().adjusted(2 * margin + side, 2, -margin, -2);
+    block_.set(caption_, this->font(), room.size(), Align::Left, true);
+    const QPalette::ColorGroup group = this->isEnabled() ? QPalette::Active : QPalette::Disabled;
+    block_.paint(painter, room, this->palette().color(group, QPalette::WindowText),
+                 this->palette().color(QPalette::Window));
+    if (this->hasFocus()) paintFocusRing(painter, this->rect(), 0);
+  }
+
+  [[nodiscard]] bool hitButton(const QPoint& at) const override {
+    return this->rect().contains(at);
+  }
+
+ private:
+  static constexpr int kLargestMark = 22;  // pixels
+
+  QString caption_;
+  TextBlock block_;
+};
+
+using CheckBoxWidget = ToggleWidget<QCheckBox, QStyle::PE_IndicatorCheckBox>;
+using OptionButtonWidget = ToggleWidget<QRadioButton, QStyle::PE_IndicatorRadioButton>;
+
+}  // namespace platform

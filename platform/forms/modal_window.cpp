@@ -1,0 +1,53 @@
+#include "platform/forms/modal_window.h"
+
+#include <QResizeEvent>
+#include <algorithm>
+
+#include "platform/forms/form.h"
+#include "platform/forms/runtime.h"
+
+namespace platform {
+
+namespace {
+
+// How much of the main window such a window may take.
+constexpr double kShare = 0.9;
+
+}  // namespace
+
+ModalWindow::ModalWindow(Runtime& runtime, Form& form)
+    : QDialog(&runtime.window()), runtime_(runtime), form_(form) {
+  setModal(true);
+  setWindowTitle(form.caption());
+  setWindowIcon(form.icon());
+  setAccessibleName(form.caption());
+  form.page()->setParent(this);
+  form.page()->show();
+}
+
+// The growth goes by the design's own width, so that a form that changes its height keeps its
+// scale.
+void ModalWindow::fit() {
+  const FormDesign& design = form_.design();
+  const QSizeF plain(design.width / kTwipsPerPixel, design.height / kTwipsPerPixel);
+  const QSizeF room = QSizeF(runtime_.window().size()) * kShare;
+  if (growth_ <= 0) {
+    growth_ = std::max(1.0, std::min(room.width() / plain.width(), room.height() / plain.height()));
+  }
+  setFixedSize((plain * growth_).toSize());
+}
+
+void ModalWindow::reject() {
+  if (form_.isUnloaded()) {
+    QDialog::reject();
+  } else {
+    form_.run([this] { form_.fireClose(); });
+  }
+}
+
+void ModalWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  form_.page()->setGeometry(rect());
+}
+
+}  // namespace platform

@@ -1,0 +1,100 @@
+#include "platform/forms/qt_page_setup.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QRadioButton>
+#include <algorithm>
+#include <array>
+
+#include "platform/forms/fonts.h"
+
+namespace platform {
+
+namespace {
+
+constexpr double kTextPixels = 17;
+constexpr int kRowHeight = 32;
+constexpr QSize kButtonSize{110, 60};
+
+// Two choices of which one holds, in a row of their own.
+class Choice {
+ public:
+  Choice(QFormLayout& form, const QString& label, const std::array<QString, 2>& words, bool second)
+      : group_(new QButtonGroup(&form)) {
+    auto* row = new QHBoxLayout;
+    for (int i = 0; i < 2; ++i) {
+      auto* button = new QRadioButton(words.at(size_t(i)));
+      button->setMinimumHeight(kRowHeight);
+      button->setAccessibleName(QStringLiteral("%1 %2").arg(label, words.at(size_t(i))));
+      group_->addButton(button, i);
+      row->addWidget(button);
+    }
+    group_->button(second ? 1 : 0)->setChecked(true);
+    form.addRow(label, row);
+  }
+
+  [[nodiscard]] bool isSecond() const { return group_->checkedId() == 1; }
+  void disableFirst() { group_->button(0)->setEnabled(false); }
+
+ private:
+  QButtonGroup* group_;
+};
+
+QComboBox* addPapers(QFormLayout& form, const QString& label, const PrinterTraits& traits,
+                     const Paper& chosen, const std::function<QString(const Paper&)>& nameOf) {
+  auto* papers = new QComboBox;
+  for (const Paper& paper : traits.papers) papers->addItem(nameOf(paper));
+  const auto at = std::find(traits.papers.begin(), traits.papers.end(), chosen);
+  if (at != traits.papers.end()) papers->setCurrentIndex(int(at - traits.papers.begin()));
+  papers->setMinimumHeight(kRowHeight);
+  papers->setAccessibleName(label);
+  form.addRow(label, papers);
+  return papers;
+}
+
+void addButtons(QDialog& dialog, QFormLayout& form, const PageSetupWords& words) {
+  auto* row = new QHBoxLayout;
+  auto* ok = new QPushButton(words.ok);
+  auto* cancel = new QPushButton(words.cancel);
+  for (QPushButton* button : {ok, cancel}) {
+    button->setMinimumSize(kButtonSize);
+    button->setAutoDefault(true);
+    row->addWidget(button);
+  }
+  ok->setDefault(true);
+  QObject::connect(ok, &QPushButton::clicked, &dialog, &QDialog::accept);
+  QObject::connect(cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
+  form.addRow(row);
+}
+
+}  // namespace
+
+bool QtPageSetup::choose(const QString& printer, const PrinterTraits& traits,
+                         PrinterSettings& settings) {
+  const PageSetupWords words = words_();
+  QDialog dialog(parent_());
+  dialog.setObjectName(QStringLiteral("PageSetup"));
+  dialog.setWindowTitle(QStringLiteral("%1 - %2").arg(words.title, printer));
+  dialog.setFont(fontOf({}, kTextPixels));
+  auto* form = new QFormLayout(&dialog);
+  form->setVerticalSpacing(12);
+  QComboBox* papers = addPapers(*form, words.paper, traits, settings.paper, paperName_);
+  const Choice direction(*form, words.orientation, {words.portrait, words.landscape},
+                         settings.orientation == Orientation::Landscape);
+  Choice colours(*form, words.colour, {words.inColour, words.inGrey},
+                 settings.colour == ColourMode::Monochrome);
+  if (!traits.printsColour) colours.disableFirst();
+  addButtons(dialog, *form, words);
+  if (dialog.exec() != QDialog::Accepted) return false;
+  const int paper = papers->currentIndex();
+  if (paper >= 0) settings.paper = traits.papers.at(size_t(paper));
+  settings.orientation = direction.isSecond() ? Orientation::Landscape : Orientation::Portrait;
+  settings.colour = colours.isSecond() ? ColourMode::Monochrome : ColourMode::Colour;
+  return true;
+}
+
+}  // namespace platform

@@ -1,0 +1,423 @@
+#include "printing/frm_avvia_stampa.h"
+
+#include <QTemporaryDir>
+#include <cmath>
+
+#include "platform/base/numbers.h"
+#include "platform/base/run_time_error.h"
+#include "platform/forms/capture.h"
+#include "platform/forms/keys/key_codes.h"
+#include "printing/disegno_avvia_stampa.h"
+#include "printing/errore_di_stampa.h"
+#include "printing/nome_formato_carta.h"
+
+namespace somme {
+
+using platform::BoxButtons;
+using platform::BoxIcon;
+using platform::ColourMode;
+using platform::Control;
+using platform::Orientation;
+using platform::plain;
+using platform::Rgb;
+using platform::RunTimeError;
+
+namespace {
+
+constexpr QLatin1String kErroreDocumento(" Errore nella stampa del documento.");
+constexpr int kIntervalloLampeggio = 500;  // milliseconds
+constexpr int kMassimo = 2000;             // of every field, millimetres
+constexpr int kA3 = 0;
+constexpr Rgb kRosso{255, 0, 0};
+constexpr Rgb kBianco{255, 255, 255};
+// The longer side of the captured image: 150 dots an inch on the 420 mm of an A3 sheet.
+constexpr int kPuntiCattura = 2500;
+constexpr double kAltezzaImpostazioni = 4192;  // twips
+
+bool EOrientamento(int valore) {
+  return valore == int(Orientation::Portrait) || valore == int(Orientation::Landscape);
+}
+
+qint32 Arrotonda(double valore) {
+  return static_cast<qint32>(platform::roundHalfEven(valore));
+}
+
+// What an object of any kind is called, and its window where it has one.
+struct Finestra {
+  QString nome;
+  QWidget* widget = nullptr;
+};
+
+Finestra FinestraDi(platform::Form& forma) {
+  return {forma.name(), forma.page() == nullptr ? nullptr : forma.page()->canvas()};
+}
+Finestra FinestraDi(Control& controllo) {
+  return {controllo.name(), controllo.widget()};
+}
+
+Finestra FinestraDi(const OggettoDaStampare& oggetto) {
+  if (auto* const* forma = std::get_if<platform::Form*>(&oggetto); forma != nullptr && *forma) {
+    return FinestraDi(**forma);
+  }
+  if (auto* const* controllo = std::get_if<Control*>(&oggetto);
+      controllo != nullptr && *controllo) {
+    return FinestraDi(**controllo);
+  }
+  throw ErroreDiStampa{ErroreDiStampa::kOggettoErrato,
+                       QStringLiteral("L' oggetto da stampare\ne' di tipo errato.")};
+}
+
+}  // namespace
+
+frmAvviaStampa::frmAvviaStampa(Ambiente& ambiente)
+    : Forma(ambiente, disegno_stampa::kDisegno), stampante_(ambiente) {
+  cboPrinterNames.onClick([this] { ScegliStampante(); });
+  cmdProprieta.onClick([this] { MostraProprieta(); });
+  Timer1.onTick([this] { Lampeggia(); });
+  cmdOrigine.onClick([this] {
+    txtPrX.setText(plain(0));
+    txtPrY.setText(plain(0));
+    AggiornaAnteprima();
+  });
+  chkProporzioni.onClick([this] {
+    if (!chkProporzioni.isChecked()) return;
+    txtPrH.setText(plain(Arrotonda(posto_.larghezza / double(aspetto_))));
+    AggiornaSeGrande();
+  });
+  Command1.onClick([this] {
+    zFrame2.setVisible(true);
+    zFrame3.setVisible(true);
+  });
+  cmdStampa.onClick([this] { Stampa(); });
+  cmdChiudi.onClick([this] { Chiudi(); });
+  // The chosen printer is the one in use already.
+  cmdOK.onClick([this] { runtime().forms().unload(*this); });
+}
+
+void frmAvviaStampa::onLoad() {
+  Forma::onLoad();
+  Timer1.setInterval(kIntervalloLampeggio);
+  for (const int i : {0, 1}) A3[i].onClick([this, i] { ScegliFormato(i); });
+  PreparaCampo({txtPrX, updPrX, -kMassimo, posto_.sinistra});
+  PreparaCampo({txtPrY, updPrY, -kMassimo, posto_.alto});
+  PreparaCampo({txtPrW, updPrW, 1, posto_.larghezza});
+  PreparaCampo({txtPrH, updPrH, 1, posto_.altezza});
+  const auto aggiorna = [this] { AggiornaAnteprima(); };
+  txtPrX.onKeyUp([this](int) { AggiornaAnteprima(); });
+  txtPrY.onKeyUp([this](int) { AggiornaAnteprima(); });
+  updPrX.onChange(aggiorna);
+  updPrY.onChange(aggiorna);
+  txtPrW.onKeyUp([this](int) { CambiaLarghezza(); });
+  updPrW.onChange([this] { CambiaLarghezza(); });
+  txtPrH.onKeyUp([this](int) { CambiaAltezza(); });
+  updPrH.onChange([this] { CambiaAltezza(); });
+}
+
+// A field that takes whole numbers within its limits; only a margin may be negative.
+void frmAvviaStampa::PreparaCampo(const Campo& campo) {
+  platform::TextBox& testo = campo.testo;
+  testo.onKeyPress([&testo, conMeno = campo.minimo < 0](int& keyAscii) {
+    const bool cifra = keyAscii >= u'0' && keyAscii <= u'9';
+    // Esc is for the dialog and never becomes text.
+    if (cifra || keyAscii == platform::kKeyBackspace || keyAscii == platform::kKeyEscape) return;
+    const bool tutto = testo.selLength() == testo.text().size();
+    const bool inTesta = testo.selStart() == 0 && !testo.text().startsWith(u'-');
+    if (conMeno && keyAscii == u'-' && (inTesta || tutto)) return;
+    keyAscii = 0;
+  });
+  testo.onChange([this, campo] { CambiaCampo(campo); });
+  campo.freccia.bind(testo, campo.minimo, kMassimo);
+}
+
+void frmAvviaStampa::CambiaCampo(const Campo& campo) {
+  const double letto = platform::leadingNumber(campo.testo.text());
+  const double ammesso = std::clamp<double>(letto, campo.minimo, kMassimo);
+  if (ammesso != letto) {
+    campo.testo.setText(plain(Arrotonda(ammesso)));
+    return;  // the new text has come through here itself
+  }
+  campo.valore = Arrotonda(ammesso);
+}
+
+frmAvviaStampa::Foglio frmAvviaStampa::FoglioStampa(std::optional<int> orientamento) {
+  if (!ApriLaPredefinita()) return {};
+  if (orientamento) {
+    if (!EOrientamento(*orientamento)) {
+      runtime().showBox({QStringLiteral("Orientamento errato"), kErroreDocumento, BoxIcon::Critical,
+                         BoxButtons::Ok});
+      return {};
+    }
+    stampante_.ScriviOrientamento(*orientamento);
+  }
+  const MisuraDelFoglio foglio = stampante_.MisuraFoglio();
+  return {foglio.larghezza, foglio.altezza, true};
+}
+
+// Where there is no printer at all nothing is said here: the sizes of the sheet tell it.
+bool frmAvviaStampa::ApriLaPredefinita() {
+  try {
+    return stampante_.ApriStampante();
+  } catch (const ErroreDiStampa&) {
+    return false;
+  }
+}
+
+bool frmAvviaStampa::StampaFCPB(const Richiesta& richiesta) {
+  platform::Forms& forme = runtime().forms();
+  // The dialog is unloaded before this returns.
+  const std::shared_ptr<platform::Form> vivo = shared_from_this();
+  bool pronta = false;
+  try {
+    if (stampante_.cercata() || ApriLaPredefinita()) {
+      Prepara(richiesta);
+      pronta = true;
+    }
+  } catch (const ErroreDiStampa& errore) {
+    runtime().showBox({errore.descrizione + QStringLiteral("\n\n"), kErroreDocumento,
+                       BoxIcon::Critical, BoxButtons::Ok});
+  }
+  if (!pronta) {
+    forme.unload(*this);
+    forme.activateAgain();
+    return false;
+  }
+  forme.showModal(*this);
+  return true;
+}
+
+void frmAvviaStampa::Prepara(const Richiesta& richiesta) {
+  conOggetto_ = !std::holds_alternative<std::monostate>(richiesta.oggetto);
+  orientamento_ = richiesta.orientamento;
+  titolo_ = richiesta.titolo;
+  if (!conOggetto_) return;
+  const Finestra finestra = FinestraDi(richiesta.oggetto);
+  if (finestra.widget == nullptr) {
+    throw ErroreDiStampa{ErroreDiStampa::kOggettoErrato,
+                         QStringLiteral("L' oggetto da stampare \"%1\"\n"
+                                        "non espone la proprieta' hWnd.")
+                             .arg(finestra.nome)};
+  }
+  if (richiesta.larghezza <= 0 || richiesta.altezza <= 0) {
+    throw ErroreDiStampa{ErroreDiStampa::kParametriErrati,
+                         QStringLiteral("\nParametri errati.\n"
+                                        "La larghezza e l' altezza di stampa\n"
+                                        "richieste devono essere > 0.")};
+  }
+  txtPrX.setText(plain(richiesta.sinistra));
+  txtPrY.setText(plain(richiesta.alto));
+  txtPrW.setText(plain(400));
+  txtPrH.setText(plain(280));
+  aspetto_ = float(richiesta.larghezza) / float(richiesta.altezza);
+  LeggiOggetto(richiesta);
+  if (titolo_.isEmpty()) titolo_ = finestra.nome;
+}
+
+void frmAvviaStampa::LeggiOggetto(const Richiesta& richiesta) {
+  const Finestra finestra = FinestraDi(richiesta.oggetto);
+  auto* const* controllo = std::get_if<Control*>(&richiesta.oggetto);
+  auto* riquadro = controllo == nullptr ? nullptr : dynamic_cast<platform::PictureBox*>(*controllo);
+  if (riquadro == nullptr || richiesta.usaImmagine) {
+    CatturaOggetto(*finestra.widget, finestra.nome);
+  } else {
+    LeggiFigura(PassaDaFile(riquadro->picture()));
+  }
+}
+
+// Whatever a picture box keeps is read as a file of its own would be.
+QImage frmAvviaStampa::PassaDaFile(const QImage& figura) const {
+  const QTemporaryDir cartella;
+  const QString file = cartella.filePath(QStringLiteral("figura.png"));
+  return figura.save(file) ? QImage(file) : QImage();
+}
+
+void frmAvviaStampa::CatturaOggetto(QWidget& finestra, const QString& nome) {
+  Copia_Oggetto(finestra, nome, picCopia, true);
+  LeggiFigura(picCopia.picture());
+  picCopia.clear();
+}
+
+void frmAvviaStampa::LeggiFigura(const QImage& figura) {
+  if (figura.isNull()) {
+    throw ErroreDiStampa{ErroreDiStampa::kStampante,
+                         QStringLiteral("Si e' verificata una condizione\n"
+                                        "inaspettata elaborando l' immagine.")};
+  }
+  immagine_.LeggiImmagine(figura, !stampante_.aperta() || stampante_.caratteristiche().takesPages);
+}
+
+// Toolkits of today draw a window and all that stands in it at one go.
+void frmAvviaStampa::Copia_Oggetto(QWidget& finestra, const QString& nome,
+                                   platform::PictureBox& destinazione, bool conFigli) {
+  destinazione.clear();
+  try {
+    if (finestra.size().isEmpty()) throw RunTimeError(RunTimeError::InvalidCall);
+    const QImage copia = platform::capture(finestra, kPuntiCattura, conFigli);
+    if (copia.isNull()) throw RunTimeError(RunTimeError::PrinterError);
+    picCopiaTemp.setPicture(copia, {});
+    destinazione.setPicture(copia, {});
+    picCopiaTemp.clear();
+  } catch (const RunTimeError& errore) {
+    runtime().showBox(
+        {QStringLiteral("Errore %1\n%2").arg(errore.number()).arg(errore.description()),
+         QStringLiteral(" Errore nella stampa di ") + nome, BoxIcon::Critical, BoxButtons::Ok});
+  }
+}
+
+void frmAvviaStampa::onActivate() {
+  if (conOggetto_) {
+    cmdOK.setVisible(false);
+    imgPrinter.setVisible(false);
+  }
+  const double pixel = PixelInTwips();
+  shpFoglio.setLeft(shpBordo.left() + 3 * pixel);
+  shpFoglio.setTop(shpBordo.top() + 3 * pixel);
+  PictureAnteprima.setLeft(shpFoglio.left() + pixel);
+  PictureAnteprima.setTop(shpFoglio.top() + pixel);
+  salvate_ = stampante_.impostazioni();
+  monocromatica_ = salvate_.colour == ColourMode::Monochrome;
+  if (EOrientamento(orientamento_)) stampante_.ScriviOrientamento(orientamento_);
+  cboPrinterNames.setItems(stampante_.Elenco());
+  cboPrinterNames.choose(stampante_.nome());
+  if (conOggetto_) {
+    setCaption(titolo_);
+    cmdStampa.setFocus();
+  } else {
+    ApriPerImpostazioni();
+  }
+}
+
+void frmAvviaStampa::ApriPerImpostazioni() {
+  setDesignHeight(kAltezzaImpostazioni);
+  cmdStampa.setVisible(false);
+  imgPrinter.setLeft(4080 * scale().x);
+  imgPrinter.setTop(2640 * scale().y);
+  setCaption(QStringLiteral("  Impostazioni stampante"));
+  cmdOK.setFocus();
+}
+
+void frmAvviaStampa::ScegliStampante() {
+  stampante_.ScegliNome(cboPrinterNames.text());
+  if (stampante_.ApriStampante()) RiprendiFoglio();
+}
+
+// The printer's own settings, in the page set-up; given up, they stay as they are.
+void frmAvviaStampa::MostraProprieta() {
+  if (!stampante_.aperta()) return;
+  platform::PrinterSettings scelte = stampante_.impostazioni();
+  bool accettate = false;
+  runtime().gate().wait([&] {
+    accettate =
+        ambiente().servizi.pagina.choose(stampante_.nome(), stampante_.caratteristiche(), scelte);
+  });
+  if (accettate) stampante_.ScriviImpostazioni(scelte);
+  RiprendiFoglio();
+}
+
+void frmAvviaStampa::RiprendiFoglio() {
+  foglio_ = stampante_.MisuraFoglio();
+  monocromatica_ = stampante_.impostazioni().colour == ColourMode::Monochrome;
+  DisegnaFoglio();
+}
+
+void frmAvviaStampa::DisegnaFoglio() {
+  const double lato = Label1.width();
+  const double rapporto = double(foglio_.larghezza) / foglio_.altezza;
+  const bool stretto = foglio_.larghezza <= foglio_.altezza;
+  const double larghezza = stretto ? lato * rapporto : lato;
+  const double altezza = stretto ? lato : lato / rapporto;
+  const double pixel = PixelInTwips();
+  shpBordo.setWidth(larghezza + 8 * pixel);
+  shpBordo.setHeight(altezza + 8 * pixel);
+  shpFoglio.setWidth(larghezza + 2 * pixel);
+  shpFoglio.setHeight(altezza + 2 * pixel);
+  PictureAnteprima.setWidth(larghezza);
+  PictureAnteprima.setHeight(altezza);
+  AggiornaAnteprima();
+  const bool verticale = foglio_.orientamento == int(Orientation::Portrait);
+  fraFoglio.setCaption(
+      QStringLiteral(" Dimensioni foglio: ") +
+      NomeFormatoCarta(stampante_.impostazioni().paper.code) +
+      (verticale ? QStringLiteral(",  Verticale") : QStringLiteral(",  Orizzontale")));
+}
+
+void frmAvviaStampa::AggiornaAnteprima() {
+  if (!conOggetto_ || foglio_.larghezza <= 0) return;
+  const bool fuori = !StaSulFoglio(posto_, foglio_.larghezza, foglio_.altezza) ||
+                     posto_.sinistra < 0 || posto_.alto < 0;
+  Timer1.setEnabled(fuori);
+  lblFuoriFoglio.setVisible(fuori);
+  const double inLargo = PictureAnteprima.width() / PixelInTwips() / foglio_.larghezza;
+  const double inAlto = PictureAnteprima.height() / PixelInTwips() / foglio_.altezza;
+  DisegnaAnteprima({Arrotonda(inLargo * posto_.sinistra), Arrotonda(inAlto * posto_.alto),
+                    Arrotonda(inLargo * posto_.larghezza), Arrotonda(inAlto * posto_.altezza)});
+}
+
+void frmAvviaStampa::DisegnaAnteprima(const QRect& dove) {
+  if (!immagine_.presente()) {
+    runtime().showBox({QStringLiteral("Errore di Copia"), QStringLiteral(" Errore nell'anteprima"),
+                       BoxIcon::Critical, BoxButtons::Ok});
+    return;
+  }
+  PictureAnteprima.setPicture(immagine_.Ridotta(monocromatica_), dove);
+}
+
+void frmAvviaStampa::Lampeggia() {
+  lblFuoriFoglio.setBackColor(lblFuoriFoglio.backColor() == kRosso ? kBianco : kRosso);
+}
+
+void frmAvviaStampa::ScegliFormato(int indice) {
+  txtPrW.setText(plain(indice == kA3 ? 420 : 289));
+  txtPrH.setText(plain(indice == kA3 ? 297 : 204));
+  Label2.setVisible(indice != kA3);
+  AggiornaAnteprima();
+}
+
+void frmAvviaStampa::CambiaLarghezza() {
+  if (chkProporzioni.isChecked()) {
+    txtPrH.setText(plain(Arrotonda(posto_.larghezza / double(aspetto_))));
+  }
+  letEventsRun();
+  AggiornaSeGrande();
+}
+
+void frmAvviaStampa::CambiaAltezza() {
+  if (chkProporzioni.isChecked()) {
+    txtPrW.setText(plain(Arrotonda(posto_.altezza * double(aspetto_))));
+  }
+  letEventsRun();
+  AggiornaSeGrande();
+}
+
+void frmAvviaStampa::AggiornaSeGrande() {
+  if (posto_.larghezza > 1 && posto_.altezza > 1) AggiornaAnteprima();
+}
+
+void frmAvviaStampa::Stampa() {
+  if (cboPrinterNames.listIndex() >= 0) stampante_.ScegliNome(cboPrinterNames.text());
+  lblStampaInCorso.setLeft(PictureAnteprima.left() +
+                           (PictureAnteprima.width() - lblStampaInCorso.width()) / 2);
+  lblStampaInCorso.setTop(PictureAnteprima.top() +
+                          (PictureAnteprima.height() - lblStampaInCorso.height()) / 2);
+  lblStampaInCorso.bringToFront();
+  lblStampaInCorso.setVisible(true);
+  letEventsRun();
+  EseguiStampa(ambiente(), stampante_, immagine_, posto_, titolo_);
+  lblStampaInCorso.setVisible(false);
+  runtime().forms().unload(*this);
+}
+
+void frmAvviaStampa::Chiudi() {
+  stampante_.ScriviImpostazioni(salvate_);
+  runtime().forms().unload(*this);
+}
+
+void frmAvviaStampa::onClose() {
+  cmdChiudi.click();
+}
+
+void frmAvviaStampa::onUnload() {
+  immagine_.Libera();
+  PictureAnteprima.clear();
+}
+
+}  // namespace somme

@@ -1,0 +1,69 @@
+#include "printing/stampante_in_uso.h"
+
+#include "app/shared/ambiente.h"
+#include "printing/errore_di_stampa.h"
+
+namespace somme {
+
+using platform::Printers;
+
+QStringList StampanteInUso::Elenco() {
+  Printers::List elenco;
+  ambiente_.fondo.waitDeaf([&] { elenco = ambiente_.servizi.stampanti.list(); });
+  return elenco.names;
+}
+
+QString StampanteInUso::StampantePredefinita() {
+  Printers::List elenco;
+  ambiente_.fondo.waitDeaf([&] { elenco = ambiente_.servizi.stampanti.list(); });
+  return elenco.standard;
+}
+
+bool StampanteInUso::ApriStampante() {
+  cercata_ = true;
+  caratteristiche_.reset();
+  if (nome_.isEmpty()) nome_ = StampantePredefinita();
+  if (nome_.isEmpty()) {
+    throw ErroreDiStampa{ErroreDiStampa::kStampante, QStringLiteral("Errore della stampante")};
+  }
+  Printers::Opened trovata;
+  ambiente_.fondo.waitDeaf([&] { trovata = ambiente_.servizi.stampanti.open(nome_); });
+  switch (trovata.access) {
+    case Printers::Access::Denied:
+      Messaggio(QStringLiteral("Non posso accedere alla stampante richiesta."),
+                QStringLiteral(" Errore nell'accesso alla stampante"));
+      return false;
+    case Printers::Access::SettingsRefused:
+      Messaggio(QStringLiteral("Errore nella stampa del documento."), QStringLiteral(" Errore"));
+      return false;
+    case Printers::Access::Granted:
+      break;
+  }
+  const auto scritta = scritte_.find(nome_);
+  impostazioni_ = scritta == scritte_.end() ? trovata.traits.standard : scritta->second;
+  caratteristiche_ = std::move(trovata.traits);
+  return true;
+}
+
+void StampanteInUso::Messaggio(const QString& testo, const QString& titolo) {
+  ambiente_.fondo.showBox({testo, titolo, platform::BoxIcon::Critical, platform::BoxButtons::Ok});
+}
+
+MisuraDelFoglio StampanteInUso::MisuraFoglio() const {
+  if (nome_.isEmpty() || !aperta()) return {};
+  return {qRound(impostazioni_.sheetWidth()), qRound(impostazioni_.sheetHeight()),
+          static_cast<qint32>(impostazioni_.orientation)};
+}
+
+void StampanteInUso::ScriviImpostazioni(const platform::PrinterSettings& impostazioni) {
+  impostazioni_ = impostazioni;
+  if (aperta()) scritte_[nome_] = impostazioni;
+}
+
+void StampanteInUso::ScriviOrientamento(int orientamento) {
+  platform::PrinterSettings nuove = impostazioni_;
+  nuove.orientation = static_cast<platform::Orientation>(orientamento);
+  ScriviImpostazioni(nuove);
+}
+
+}  // namespace somme

@@ -1,0 +1,149 @@
+#include "platform/devices/pdf_folder.h"
+
+#include <sys/resource.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <csignal>
+
+using platform::PdfFolder;
+using platform::PrintJob;
+using platform::PrintResult;
+
+namespace {
+
+QDateTime noon() {
+  return QDateTime(QDate(2026, 3, 5), QTime(12, 7, 9));
+}
+
+PrintJob job(const QString& title, const QByteArray& pages = "pages") {
+  PrintJob result;
+  result.title = title;
+  result.pages = pages;
+  return result;
+}
+
+QStringList filesIn(const QString& folder) {
+  return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+QByteArray contentOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// No file may grow beyond a few bytes, as on a full disk.
+class FullDisk {
+ public:
+  FullDisk() {
+    handler_ = std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit limit = before_;
+    limit.rlim_cur = 100;
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int) = nullptr;
+};
+
+}  // namespace
+
+class PdfFolderTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void aJobBecomesOneFileNamedAfterItsTitleAndTheTime() {
+    const QTemporaryDir folder;
+    PdfFolder printer({folder.path()}, noon);
+    const PrintResult result = printer.print(job(QStringLiteral("Esercitazioni sulle somme")));
+    QVERIFY(result.finished);
+    QVERIFY(result.job > 0);
+    QCOMPARE(filesIn(folder.path()),
+             QStringList{QStringLiteral("Esercitazioni sulle somme 2026-03-05 12.07.09.pdf")});
+    QCOMPARE(contentOf(folder.filePath(filesIn(folder.path()).first())), QByteArray("pages"));
+  }
+
+  void aFileThatExistsIsNeverReplaced() {
+    const QTemporaryDir folder;
+    PdfFolder printer({folder.path()}, noon);
+    QVERIFY(printer.print(job(QStringLiteral("Somme"), "one")).finished);
+    QVERIFY(printer.print(job(QStringLiteral("Somme"), "two")).finished);
+    QVERIFY(printer.print(job(QStringLiteral("Somme"), "three")).finished);
+    const QStringList files = filesIn(folder.path());
+    QCOMPARE(files.size(), 3);
+    QCOMPARE(contentOf(folder.filePath(QStringLiteral("Somme 2026-03-05 12.07.09.pdf"))),
+             QByteArray("one"));
+    QCOMPARE(contentOf(folder.filePath(QStringLiteral("Somme 2026-03-05 12.07.09 (2).pdf"))),
+             QByteArray("two"));
+  }
+
+  void twoJobsHaveDifferentNumbers() {
+    const QTemporaryDir folder;
+    PdfFolder printer({folder.path()}, noon);
+    const int first = printer.print(job(QStringLiteral("a"))).job;
+    QVERIFY(printer.print(job(QStringLiteral("a"))).job != first);
+  }
+
+  void aTitleThatIsNoFileNameBecomesOne() {
+    const QTemporaryDir folder;
+    PdfFolder printer({folder.path()}, noon);
+    QVERIFY(printer.print(job(QStringLiteral("../a/b: 'c'\n?"))).finished);
+    QVERIFY(printer.print(job({})).finished);
+    QVERIFY(printer.print(job(QString(5000, u'x'))).finished);
+    const QStringList files = filesIn(folder.path());
+    QCOMPARE(files.size(), 3);
+    QVERIFY(files.contains(QStringLiteral("_a_b_ 'c' _ 2026-03-05 12.07.09.pdf")));
+    QVERIFY(files.contains(QStringLiteral("PDF 2026-03-05 12.07.09.pdf")));
+  }
+
+  void everyFolderIsTriedBeforeItFails() {
+    const QTemporaryDir folder;
+    // A file, a folder that is not there, none at all: no place for a file.
+    const QString file = folder.filePath(QStringLiteral("file"));
+    QFile made(file);
+    QVERIFY(made.open(QIODevice::WriteOnly));
+    made.close();
+    const QString last = folder.filePath(QStringLiteral("last"));
+    QVERIFY(QDir().mkdir(last));
+    PdfFolder printer({file, folder.filePath(QStringLiteral("missing")), {}, last}, noon);
+    QVERIFY(printer.print(job(QStringLiteral("Somme"))).finished);
+    QCOMPARE(filesIn(last).size(), 1);
+    PdfFolder none({file, {}}, noon);
+    QVERIFY(!none.print(job(QStringLiteral("Somme"))).finished);
+  }
+
+  void nothingIsLeftOfAFileThatCouldNotBeWrittenWhole() {
+    const QTemporaryDir folder;
+    PdfFolder printer({folder.path()}, noon);
+    {
+      const FullDisk full;
+      QVERIFY(!printer.print(job(QStringLiteral("Somme"), QByteArray(100000, 'x'))).finished);
+    }
+    QVERIFY(filesIn(folder.path()).isEmpty());
+    QVERIFY(printer.print(job(QStringLiteral("Somme"), QByteArray(100000, 'x'))).finished);
+    QCOMPARE(filesIn(folder.path()).size(), 1);
+  }
+
+  void itTakesA4AndA3InColourAndStartsWithA4() {
+    const platform::PrinterTraits traits = PdfFolder::traits();
+    QCOMPARE(traits.papers.size(), size_t(2));
+    QCOMPARE(traits.papers[0].code, 9);
+    QCOMPARE(traits.papers[1].code, 8);
+    QCOMPARE(traits.standard.paper, traits.papers[0]);
+    QCOMPARE(traits.standard.colour, platform::ColourMode::Colour);
+    QVERIFY(traits.printsColour && traits.takesPages && !traits.feedsUpright);
+  }
+};
+
+QTEST_GUILESS_MAIN(PdfFolderTest)
+#include "pdf_folder_test.moc"

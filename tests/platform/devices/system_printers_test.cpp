@@ -1,0 +1,205 @@
+#include "platform/devices/system_printers.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "platform/base/paper_codes.h"
+#include "platform/devices/cups_library.h"
+#include "platform/devices/qt_time_source.h"
+#include "print_server.h"
+
+using devices_test::PrintServer;
+using devices_test::SilentServer;
+using platform::Printers;
+using platform::SystemPrinters;
+
+namespace {
+
+const QString kBuiltIn = QStringLiteral("PDF");
+const QString kQueue = QStringLiteral("Prova");
+
+QDateTime now() {
+  return QDateTime::currentDateTime();
+}
+
+// The printers of a machine whose print server is at the given address.
+struct Machine {
+  explicit Machine(const QByteArray& address) { qputenv("CUPS_SERVER", address); }
+
+  QTemporaryDir files;
+  platform::QtTimeSource time;
+  SystemPrinters printers{time, platform::PdfFolder({files.path()}, now)};
+};
+
+// How long events were held up at most while something was done.
+qint64 longestGap(const std::function<void()>& action) {
+  QElapsedTimer clock;
+  clock.start();
+  qint64 last = 0;
+  qint64 longest = 0;
+  QTimer heart;
+  QObject::connect(&heart, &QTimer::timeout, &heart, [&] {
+    longest = std::max(longest, clock.elapsed() - last);
+    last = clock.elapsed();
+  });
+  heart.start(5);
+  action();
+  return std::max(longest, clock.elapsed() - last);
+}
+
+// A PDF document of one empty A4 page, put together by hand.
+QByteArray onePage() {
+  return "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
+         "2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+         "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 595 842]/Contents 4 0 R>>endobj\n"
+         "4 0 obj<</Length 25>>stream\n100 100 200 50 re f     \nendstream endobj\n"
+         "trailer<</Root 1 0 R>>\n%%EOF\n";
+}
+
+platform::PrintJob job(const QString& printer, const QString& title,
+                       const platform::PrinterSettings& settings) {
+  return {printer, title, onePage(), settings};
+}
+
+}  // namespace
+
+class SystemPrintersTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void init() { qputenv("CUPS_SERVER", "127.0.0.1:1"); }
+
+  void withoutAPrintServerThereIsTheBuiltInPrinterAndItIsTheDefault() {
+    Machine machine("127.0.0.1:1");
+    const Printers::List list = machine.printers.list();
+    QCOMPARE(list.names, QStringList{kBuiltIn});
+    QCOMPARE(list.standard, kBuiltIn);
+    const Printers::Opened opened = machine.printers.open(kBuiltIn);
+    QVERIFY(opened.access == Printers::Access::Granted);
+    QVERIFY(machine.printers.print(job(kBuiltIn, QStringLiteral("a"), opened.traits.standard))
+                .finished);
+    QCOMPARE(QDir(machine.files.path()).entryList(QDir::Files).size(), 1);
+  }
+
+  void aPrinterThatIsNotThereIsDenied() {
+    Machine machine("127.0.0.1:1");
+    QVERIFY(machine.printers.open(QStringLiteral("Nessuna")).access == Printers::Access::Denied);
+    const platform::PrintResult result =
+        machine.printers.print(job(QStringLiteral("Nessuna"), QStringLiteral("a"), {}));
+    QCOMPARE(result.job, 0);
+    QVERIFY(!result.finished);
+  }
+
+  void aServerThatDoesNotAnswerNeverHoldsTheWindow() {
+    const SilentServer silent;
+    Machine machine(silent.address());
+    Printers::List list;
+    qint64 gap = longestGap([&] { list = machine.printers.list(); });
+    QVERIFY2(gap < 200, qPrintable(QString::number(gap)));
+    QCOMPARE(list.names, QStringList{kBuiltIn});
+    QCOMPARE(list.standard, kBuiltIn);
+    gap = longestGap(
+        [&] { QVERIFY(machine.printers.open(kQueue).access == Printers::Access::Denied); });
+    QVERIFY2(gap < 200, qPrintable(QString::number(gap)));
+  }
+
+  void theQueuesOfTheServerComeBeforeTheBuiltInPrinter() {
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kQueue));
+    QVERIFY(server.addQueue(QStringLiteral("Altra")));
+    Machine machine(server.address());
+    const Printers::List list = machine.printers.list();
+    QCOMPARE(list.names, (QStringList{QStringLiteral("Altra"), kQueue, kBuiltIn}));
+    QCOMPARE(list.standard, kBuiltIn);
+    QVERIFY(server.administer({QStringLiteral("-d"), kQueue}));
+    QCOMPARE(machine.printers.list().standard, kQueue);
+  }
+
+  void aQueueWithTheNameOfTheBuiltInPrinterKeepsIt() {
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kBuiltIn));
+    Machine machine(server.address());
+    const Printers::List list = machine.printers.list();
+    QCOMPARE(list.names, (QStringList{kBuiltIn, QStringLiteral("PDF (file)")}));
+    QVERIFY(machine.printers.open(kBuiltIn).traits.feedsUpright);
+    QVERIFY(!machine.printers.open(list.names.last()).traits.feedsUpright);
+  }
+
+  void aQueueTellsItsPapersAndColours() {
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kQueue));
+    Machine machine(server.address());
+    const Printers::Opened opened = machine.printers.open(kQueue);
+    QVERIFY(opened.access == Printers::Access::Granted);
+    const platform::PrinterTraits& traits = opened.traits;
+    QCOMPARE(traits.standard.paper.code, platform::kPaperA4);
+    QVERIFY(std::abs(traits.standard.paper.width - 210) < 0.2);
+    QVERIFY(std::abs(traits.standard.paper.height - 297) < 0.2);
+    QVERIFY(std::any_of(traits.papers.begin(), traits.papers.end(),
+                        [](const auto& paper) { return paper.code == platform::kPaperA3; }));
+    QVERIFY(traits.printsColour);
+    QVERIFY(traits.takesPages);
+    QVERIFY(traits.feedsUpright);
+    QVERIFY(traits.standard.orientation == platform::Orientation::Portrait);
+  }
+
+  void aJobGoesThroughTheQueue() {
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kQueue));
+    Machine machine(server.address());
+    const Printers::Opened opened = machine.printers.open(kQueue);
+    const platform::PrintResult result = machine.printers.print(
+        job(kQueue, QStringLiteral("lavoro-di-prova-uno"), opened.traits.standard));
+    QVERIFY(result.job > 0);
+    QVERIFY(result.finished);
+    QVERIFY(server.takePrinted(QStringLiteral("lavoro-di-prova-uno")).startsWith("%PDF"));
+  }
+
+  void aQueueThatRefusesJobsGetsNone() {
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kQueue));
+    Machine machine(server.address());
+    const Printers::Opened opened = machine.printers.open(kQueue);
+    QProcess reject;
+    reject.start(QStringLiteral("cupsreject"),
+                 {QStringLiteral("-h"), QString::fromUtf8(server.address()), kQueue});
+    QVERIFY(reject.waitForFinished() && reject.exitCode() == 0);
+    const platform::PrintResult result = machine.printers.print(
+        job(kQueue, QStringLiteral("lavoro-di-prova-due"), opened.traits.standard));
+    QCOMPARE(result.job, 0);
+    QVERIFY(!result.finished);
+    QCOMPARE(server.openJobs(), QString());
+  }
+
+  void aQueueThatVanishesBetweenOpeningAndPrintingIsNoPrinter() {
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kQueue));
+    Machine machine(server.address());
+    const Printers::Opened opened = machine.printers.open(kQueue);
+    QVERIFY(opened.access == Printers::Access::Granted);
+    QVERIFY(server.removeQueue(kQueue));
+    QVERIFY(machine.printers.open(kQueue).access == Printers::Access::Denied);
+    QVERIFY(!machine.printers
+                 .print(job(kQueue, QStringLiteral("lavoro-di-prova-tre"), opened.traits.standard))
+                 .finished);
+  }
+
+  void nothingOfCupsIsLoadedBeforeTheFirstCall() {
+    // Its own process is too full for this; a library that is missing tells the rest.
+    QVERIFY(!platform::CupsLibrary::load("libcups-that-is-not-there.so.2"));
+    QVERIFY(platform::CupsLibrary::load().has_value());
+  }
+};
+
+QTEST_GUILESS_MAIN(SystemPrintersTest)
+#include "system_printers_test.moc"

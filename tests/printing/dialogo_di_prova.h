@@ -1,0 +1,94 @@
+#pragma once
+
+#include "app/shared/nomi_forme.h"
+#include "exercises/bars/form_barre10.h"
+#include "printing/frm_avvia_stampa.h"
+#include "support/banco.h"
+
+namespace prova {
+
+// The print dialog over a form of the program, and the hands of whoever uses it.
+class DialogoDiProva {
+ public:
+  DialogoDiProva() : forma(apriForma()) {}
+
+  // A sheet of the form on the screen as the sheets ask for it: across, without margins.
+  [[nodiscard]] somme::frmAvviaStampa::Richiesta richiesta() {
+    somme::frmAvviaStampa::Richiesta r;
+    r.oggetto = static_cast<platform::Form*>(&forma);
+    r.larghezza = 420;
+    r.altezza = 297;
+    r.orientamento = 2;
+    r.titolo = QStringLiteral("Stampa foglio di prova");
+    return r;
+  }
+
+  // Loads the dialog and lets a handler of the form work with it.
+  void conDialogo(const std::function<void(somme::frmAvviaStampa&)>& azione) {
+    auto& dialogo = static_cast<somme::frmAvviaStampa&>(
+        banco.ambiente->fondo.forms().loaded(somme::forme::kFrmAvviaStampa));
+    forma.run([&] { azione(dialogo); });
+    QCoreApplication::processEvents();
+  }
+
+  // Opens the dialog, does something while it stands open, and closes it where that has not.
+  // Gives what `StampaFCPB` gave.
+  bool apri(const somme::frmAvviaStampa::Richiesta& r,
+            const std::function<void(somme::frmAvviaStampa&)>& mentre = {}) {
+    bool ok = false;
+    conDialogo([&](somme::frmAvviaStampa& dialogo) {
+      const auto vivo = dialogo.shared_from_this();
+      aperto_ = &dialogo;
+      banco.tempo.after(0.1, [&] {
+        if (dialogo.isUnloaded()) return;
+        QCoreApplication::processEvents();
+        visto = true;
+        if (mentre) mentre(dialogo);
+        if (!dialogo.isUnloaded()) dialogo.cmdChiudi.click();
+      });
+      ok = dialogo.StampaFCPB(r);
+    });
+    return ok;
+  }
+
+  [[nodiscard]] QWindow* finestra() const { return aperto_->page()->window()->windowHandle(); }
+  void clicca(const platform::Control& controllo) const {
+    const QWidget* widget = controllo.widget();
+    QTest::mouseClick(finestra(), Qt::LeftButton, {},
+                      widget->mapTo(widget->window(), widget->rect().center()));
+    QCoreApplication::processEvents();
+  }
+  void batti(int tasto, Qt::KeyboardModifiers con = {}) const {
+    QTest::keyClick(finestra(), Qt::Key(tasto), con);
+    QCoreApplication::processEvents();
+  }
+  // Text in the place of what the box holds, typed.
+  void scrivi(platform::TextBox& casella, const QString& testo) const {
+    casella.setFocus();
+    static_cast<QLineEdit*>(casella.widget())->selectAll();
+    for (const QChar c : testo) {
+      QTest::keyClick(finestra(), c.toLatin1());
+      QCoreApplication::processEvents();
+    }
+  }
+  void stampante(const platform::PrinterTraits& caratteristiche) {
+    banco.stampanti.metti(QStringLiteral("Prova"), caratteristiche);
+  }
+  [[nodiscard]] const std::vector<platform::MessageBox>& messaggi() const {
+    return banco.messaggi.mostrati;
+  }
+
+  Banco banco;
+  somme::FormBarre10& forma;
+  bool visto = false;  // whether the dialog was ever open
+
+ private:
+  somme::FormBarre10& apriForma() {
+    banco.ambiente->stato.LimiteEsercizio = 10;
+    return banco.apri<somme::FormBarre10>(somme::forme::kFormBarre10);
+  }
+
+  somme::frmAvviaStampa* aperto_ = nullptr;
+};
+
+}  // namespace prova

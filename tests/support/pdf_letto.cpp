@@ -1,0 +1,93 @@
+#include "support/pdf_letto.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <stdexcept>
+
+namespace prova {
+
+namespace {
+
+constexpr double kMillimetriPerPunto = 25.4 / 72;
+
+}  // namespace
+
+PdfLetto::PdfLetto(const QByteArray& documento)
+    : file_(cartella_.filePath(QStringLiteral("a.pdf"))) {
+  QFile file(file_);
+  if (!file.open(QIODevice::WriteOnly) || file.write(documento) != documento.size()) {
+    throw std::runtime_error("the test cannot write its own folder");
+  }
+  file.close();
+  const QString detto = QString::fromUtf8(
+      esegui(QStringLiteral("pdfinfo"), {QStringLiteral("-l"), QStringLiteral("100000"), file_}));
+  static const QRegularExpression misura(
+      QStringLiteral("Page +\\d+ size: +([\\d.]+) x ([\\d.]+) pts"));
+  for (auto i = misura.globalMatch(detto); i.hasNext();) {
+    const QRegularExpressionMatch trovata = i.next();
+    misure_.emplace_back(trovata.captured(1).toDouble() * kMillimetriPerPunto,
+                         trovata.captured(2).toDouble() * kMillimetriPerPunto);
+  }
+  static const QRegularExpression titolo(QStringLiteral("Title: +(.*)\n"));
+  titolo_ = titolo.match(detto).captured(1);
+}
+
+QByteArray PdfLetto::esegui(const QString& programma, const QStringList& argomenti) const {
+  QProcess processo;
+  processo.start(programma, argomenti);
+  if (!processo.waitForFinished(60000) || processo.exitCode() != 0) {
+    throw std::runtime_error(programma.toStdString() +
+                             " failed: " + processo.readAllStandardError().toStdString());
+  }
+  return processo.readAllStandardOutput();
+}
+
+QString PdfLetto::testo(int pagina) const {
+  const QString numero = QString::number(pagina);
+  return QString::fromUtf8(esegui(QStringLiteral("pdftotext"),
+                                  {QStringLiteral("-layout"), QStringLiteral("-f"), numero,
+                                   QStringLiteral("-l"), numero, file_, QStringLiteral("-")}));
+}
+
+bool PdfLetto::caratteriInclusi() const {
+  const QStringList righe = QString::fromUtf8(esegui(QStringLiteral("pdffonts"), {file_}))
+                                .split(u'\n', Qt::SkipEmptyParts);
+  for (int i = 2; i < righe.size(); ++i) {
+    // ... emb sub uni object ID
+    static const QRegularExpression coda(
+        QStringLiteral("(yes|no) +(yes|no) +(yes|no) +\\d+ +\\d+$"));
+    if (coda.match(righe[i].trimmed()).captured(1) != QStringLiteral("yes")) return false;
+  }
+  return righe.size() > 2;
+}
+
+QImage PdfLetto::immagine(int pagina, int puntiPerPollice) const {
+  const QString numero = QString::number(pagina);
+  const QString uscita = cartella_.filePath(QStringLiteral("pagina"));
+  (void)esegui(QStringLiteral("pdftoppm"),
+         {QStringLiteral("-r"), QString::number(puntiPerPollice), QStringLiteral("-f"), numero,
+          QStringLiteral("-l"), numero, QStringLiteral("-png"), QStringLiteral("-singlefile"),
+          file_, uscita});
+  return QImage(uscita + QStringLiteral(".png"));
+}
+
+QRectF inchiostro(const QImage& immagine, int puntiPerPollice, int soglia) {
+  int sinistra = immagine.width();
+  int destra = -1;
+  int alto = immagine.height();
+  int basso = -1;
+  for (int y = 0; y < immagine.height(); ++y) {
+    for (int x = 0; x < immagine.width(); ++x) {
+      if (qGray(immagine.pixel(x, y)) >= soglia) continue;
+      sinistra = std::min(sinistra, x);
+      destra = std::max(destra, x);
+      alto = std::min(alto, y);
+      basso = std::max(basso, y);
+    }
+  }
+  const double mm = 25.4 / puntiPerPollice;
+  return {sinistra * mm, alto * mm, (destra + 1 - sinistra) * mm, (basso + 1 - alto) * mm};
+}
+
+}  // namespace prova
