@@ -5,6 +5,8 @@
 #include "printing/frm_avvia_stampa.h"
 #include "support/banco.h"
 
+#include <QLineEdit>
+
 namespace prova {
 
 // The print dialog over a form of the program, and the hands of whoever uses it.

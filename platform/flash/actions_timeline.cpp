@@ -1,0 +1,177 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+
+#include "platform/flash/actions.h"
+#include "platform/flash/targets.h"
+#include "platform/flash/timeline.h"
+
+namespace platform::flash {
+
+namespace {
+
+constexpr int farthestFrame = 1 << 20;  // beyond any timeline
+
+// The frame, from 0, that a value means for a clip: a number from 1, or a label. None for what is
+// neither.
+std::optional<int> frameOf(ScriptRun& run, const Clip& clip, const Value& value) {
+  if (const auto* label = std::get_if<QString>(&value)) {
+    if (const auto frame = frameOfLabel(run.stage(), clip, *label)) {
+      return frame;
+    }
+  }
+  const double number = std::holds_alternative<QString>(value)
+                            ? numberOf(std::get<QString>(value), 5)
+                            : toNumber(value, 7);
+  if (std::isnan(number) || number < 1) {
+    return std::nullopt;
+  }
+  return static_cast<int>(std::min<double>(number, farthestFrame)) - 1;
+}
+
+// value may name another clip in front of the frame: "a/b:label".
+void goTo(ScriptRun& run, Clip* clip, Value value, int bias, bool play) {
+  if (const auto* text = std::get_if<QString>(&value)) {
+    const qsizetype colon = text->lastIndexOf(u':');
+    if (colon >= 0) {
+      clip = asClip(run.resolve(QStringView(*text).first(colon)));
+      value = text->mid(colon + 1);
+    }
+  }
+  if (clip == nullptr) {
+    return;
+  }
+  if (const auto frame = frameOf(run, *clip, value)) {
+    gotoFrame(run.stage(), *clip, *frame + bias, play);
+  }
+}
+
+void step(ScriptRun& run, Clip& clip, int by) {
+  gotoFrame(run.stage(), clip, std::min(clip.frame + by, clip.timeline.frameCount() - 1), false);
+}
+
+void play(ScriptRun& run, ByteReader&) {
+  if (Clip* clip = run.target()) {
+    clip->playing = true;
+  }
+}
+
+void stop(ScriptRun& run, ByteReader&) {
+  if (Clip* clip = run.target()) {
+    clip->playing = false;
+  }
+}
+
+void nextFrame(ScriptRun& run, ByteReader&) {
+  if (Clip* clip = run.target()) {
+    step(run, *clip, 1);
+  }
+}
+
+void previousFrame(ScriptRun& run, ByteReader&) {
+  if (Clip* clip = run.target()) {
+    step(run, *clip, -1);
+  }
+}
+
+// The number counts from 0 here, and nowhere else.
+void gotoNumber(ScriptRun& run, ByteReader& operand) {
+  const int frame = operand.u16();
+  if (Clip* clip = run.target()) {
+    gotoFrame(run.stage(), *clip, frame, false);
+  }
+}
+
+void gotoLabel(ScriptRun& run, ByteReader& operand) {
+  const QString label = run.stage().movie().decoded(operand.string());
+  if (Clip* clip = run.target()) {
+    if (const auto frame = frameOfLabel(run.stage(), *clip, label)) {
+      gotoFrame(run.stage(), *clip, *frame, false);
+    }
+  }
+}
+
+void gotoValue(ScriptRun& run, ByteReader& operand) {
+  constexpr unsigned playBit = 1;
+  constexpr unsigned biasBit = 2;
+  const unsigned flags = operand.u8();
+  const int bias = (flags & biasBit) != 0 ? operand.u16() : 0;
+  const Value value = run.pop();
+  goTo(run, run.target(), value, bias, (flags & playBit) != 0);
+}
+
+// Of all addresses only those that speak to the host mean anything here.
+void openAddress(ScriptRun& run, const QString& url, const QString& target) {
+  constexpr QStringView prefix = u"FSCommand:";
+  if (url.startsWith(prefix, Qt::CaseInsensitive)) {
+    run.machine().raiseCommand(url.mid(prefix.size()), target);
+  }
+}
+
+void getUrl(ScriptRun& run, ByteReader& operand) {
+  const QString url = run.stage().movie().decoded(operand.string());
+  openAddress(run, url,
+              operand.atEnd() ? QString() : run.stage().movie().decoded(operand.string()));
+}
+
+void getUrlFromStack(ScriptRun& run, ByteReader&) {
+  // An argument that is missing is empty, also where undefined is a word.
+  const Value target = run.pop();
+  const bool missing = std::holds_alternative<Undefined>(target);
+  openAddress(run, run.popText(), missing ? QString() : run.text(target));
+}
+
+void setTarget(ScriptRun& run, ByteReader& operand) {
+  run.setTarget(run.stage().movie().decoded(operand.string()));
+}
+
+void setTargetFromStack(ScriptRun& run, ByteReader&) {
+  run.setTarget(run.popText());
+}
+
+constexpr std::array rows{
+    ActionRow{0x04, nextFrame},
+    ActionRow{0x05, previousFrame},
+    ActionRow{0x06, play},
+    ActionRow{0x07, stop},
+    ActionRow{0x81, gotoNumber},
+    ActionRow{0x8C, gotoLabel},
+    ActionRow{0x9F, gotoValue},
+    ActionRow{0x83, getUrl},
+    ActionRow{0x9A, getUrlFromStack},
+    ActionRow{0x8B, setTarget},
+    ActionRow{0x20, setTargetFromStack},
+};
+
+}  // namespace
+
+bool callTimelineMethod(ScriptRun& run, Clip& clip, const QString& name,
+                        const std::vector<Value>& arguments) {
+  const Qt::CaseSensitivity sensitivity =
+      run.version() <= 6 ? Qt::CaseInsensitive : Qt::CaseSensitive;
+  const auto is = [&](QStringView word) { return name.compare(word, sensitivity) == 0; };
+  const Value first = arguments.empty() ? Value() : arguments.front();
+  if (is(u"gotoAndStop")) {
+    goTo(run, &clip, first, 0, false);
+  } else if (is(u"gotoAndPlay")) {
+    goTo(run, &clip, first, 0, true);
+  } else if (is(u"play")) {
+    clip.playing = true;
+  } else if (is(u"stop")) {
+    clip.playing = false;
+  } else if (is(u"nextFrame")) {
+    step(run, clip, 1);
+  } else if (is(u"prevFrame")) {
+    step(run, clip, -1);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+std::span<const ActionRow> timelineActions() {
+  return rows;
+}
+
+}  // namespace platform::flash

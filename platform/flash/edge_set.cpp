@@ -1,0 +1,206 @@
+#include "platform/flash/edge_set.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace platform::flash {
+
+namespace {
+
+constexpr double flatness = 0.1;  // pixels
+
+constexpr double farthest = 1e8;  // pixels; nothing beyond is seen
+constexpr int places = 32;        // behind the point of Across
+constexpr Across onePixel = Across(1) << places;
+
+// Where the sample of each row of samples lies in its pixel, in sixteenths and a half: the numbers
+// 0 to 15 with their bits turned round, so that neighbouring rows lie far apart.
+constexpr std::array<unsigned, samples> columns = [] {
+  std::array<unsigned, samples> all{};
+  for (unsigned i = 0; i < samples; ++i) {
+    all[i] = ((i & 1U) << 3U) | ((i & 2U) << 1U) | ((i & 4U) >> 1U) | (i >> 3U);
+  }
+  return all;
+}();
+
+constexpr std::array<Across, samples> offsets = [] {
+  std::array<Across, samples> all{};
+  for (std::size_t i = 0; i < samples; ++i) {
+    all[i] = (2 * Across(columns[i]) + 1) * onePixel / (2 * samples);
+  }
+  return all;
+}();
+
+constexpr std::array<std::uint32_t, samples> offsetsInPixel = [] {
+  std::array<std::uint32_t, samples> all{};
+  for (std::size_t i = 0; i < samples; ++i) {
+    all[i] = static_cast<std::uint32_t>(offsets[i]);
+  }
+  return all;
+}();
+
+// For each number of columns, the samples that do not lie in the first so many of them.
+constexpr std::array<SampleMask, samples + 1> behind = [] {
+  std::array<SampleMask, samples + 1> all{};
+  for (unsigned first = 0; first <= samples; ++first) {
+    for (unsigned i = 0; i < samples; ++i) {
+      all[first] |= static_cast<SampleMask>(columns[i] >= first ? 1U << i : 0U);
+    }
+  }
+  return all;
+}();
+
+Across across(double pixels) {
+  return static_cast<Across>(std::clamp(pixels, -farthest, farthest) * double(onePixel));
+}
+
+}  // namespace
+
+void RowCoverage::cross(int first, int end, Across x, Across slope) {
+  const std::int64_t pixel = x >> places;
+  const unsigned rows = (1U << unsigned(end)) - (1U << unsigned(first));
+  if (slope == 0) {
+    // How many columns lie to the left of x.
+    const Across rest = x & (onePixel - 1);
+    const auto left = static_cast<std::size_t>((rest * samples + onePixel / 2 - 1) >> places);
+    toggle(pixel, behind[left] & rows);
+    toggle(pixel + 1, ~unsigned(behind[left]) & rows);
+    return;
+  }
+  if ((x + slope * (end - first - 1)) >> places == pixel) {
+    // Within one pixel, 32 bits do, and all sixteen rows at once take no longer than a few.
+    const auto step = static_cast<std::uint32_t>(slope);
+    const std::uint32_t begin = static_cast<std::uint32_t>(x) - step * std::uint32_t(first);
+    unsigned mask = 0;
+    for (std::uint32_t row = 0; row < samples; ++row) {
+      mask |= begin + step * row <= offsetsInPixel[row] ? 1U << row : 0U;
+    }
+    toggle(pixel, mask & rows);
+    toggle(pixel + 1, ~mask & rows);
+    return;
+  }
+  for (int row = first; row < end; ++row, x += slope) {
+    // The first pixel whose sample in this row lies at x or to the right of it.
+    toggle((x - offsets[std::size_t(row)] + onePixel - 1) >> places, 1U << unsigned(row));
+  }
+}
+
+void EdgeSet::addLine(QPointF from, QPointF to) {
+  const int direction = from.y() <= to.y() ? 1 : -1;
+  if (direction < 0) {
+    std::swap(from, to);
+  }
+  // Rows of samples run through the middle of their stripes.
+  const auto subrow = [&](double y) {
+    return static_cast<int>(std::ceil(std::clamp(y * samples - 0.5, -1.0, double(lastSubrow_))));
+  };
+  const int top = std::max(0, subrow(from.y()));
+  const int bottom = subrow(to.y());
+  if (top >= bottom) {
+    return;
+  }
+  const double slope = (to.x() - from.x()) / (to.y() - from.y());
+  const double x = from.x() + slope * ((top + 0.5) / samples - from.y());
+  edges_.push_back({across(x), across(slope / samples), top, bottom, direction});
+  firstSubrow_ = std::min(firstSubrow_, top);
+  endSubrow_ = std::max(endSubrow_, bottom);
+}
+
+std::size_t EdgeSet::add(const Outline& outline, const QTransform& matrix) {
+  const double m11 = matrix.m11();
+  const double m12 = matrix.m12();
+  const double m21 = matrix.m21();
+  const double m22 = matrix.m22();
+  const double dx = matrix.dx();
+  const double dy = matrix.dy();
+  // Affine, and called for every piece of every picture.
+  const auto map = [=](QPointF p) {
+    return QPointF(m11 * p.x() + m21 * p.y() + dx, m12 * p.x() + m22 * p.y() + dy);
+  };
+  const double scale = std::max(std::hypot(m11, m12), std::hypot(m21, m22));
+  std::size_t pieces = 0;
+  flatten(outline, scale, flatness, [&](QPointF from, QPointF to) {
+    ++pieces;
+    addLine(map(from), map(to));
+  });
+  return pieces;
+}
+
+void EdgeSet::prepare() {
+  std::sort(edges_.begin(), edges_.end(),
+            [](const Edge& left, const Edge& right) { return left.top < right.top; });
+  firstSubrow_ = std::min(firstSubrow_, endSubrow_);
+}
+
+void EdgeSet::goTo(int row) {
+  row_ = row;
+  const int first = row * samples;
+  std::erase_if(active_, [first](const Edge* edge) { return edge->bottom <= first; });
+  for (; next_ < edges_.size() && edges_[next_].top < first + samples; ++next_) {
+    if (edges_[next_].bottom > first) {
+      active_.push_back(&edges_[next_]);
+    }
+  }
+}
+
+int EdgeSet::gatherLive(int subrow) {
+  int end = (row_ + 1) * samples;
+  live_.clear();
+  for (const Edge* edge : active_) {
+    if (edge->top > subrow) {
+      end = std::min(end, edge->top);
+    } else if (edge->bottom > subrow) {
+      end = std::min(end, edge->bottom);
+      // The edges in work are nearly in order.
+      const Across x = edge->at(subrow);
+      live_.push_back(edge);
+      std::size_t at = live_.size() - 1;
+      for (; at > 0 && x < live_[at - 1]->at(subrow); --at) {
+        live_[at] = live_[at - 1];
+      }
+      live_[at] = edge;
+    }
+  }
+  if (live_.size() == active_.size()) {
+    active_ = live_;  // in order for the rows that follow
+  }
+  return end;
+}
+
+bool EdgeSet::keepOrder(int subrow) const {
+  for (std::size_t i = 1; i < live_.size(); ++i) {
+    if (live_[i]->at(subrow) < live_[i - 1]->at(subrow)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+void EdgeSet::coverLive(RowCoverage& coverage, int subrow, int end) const {
+  const int first = row_ * samples;
+  int winding = 0;
+  for (const Edge* edge : live_) {
+    const int after = windingAfter(winding, edge->direction);
+    if ((winding == 0) != (after == 0)) {
+      coverage.cross(subrow - first, end - first, edge->at(subrow), edge->slope);
+    }
+    winding = after;
+  }
+}
+
+void EdgeSet::cover(RowCoverage& coverage) {
+  const int end = (row_ + 1) * samples;
+  for (int subrow = row_ * samples; subrow < end;) {
+    const int next = gatherLive(subrow);
+    if (keepOrder(next - 1)) {
+      coverLive(coverage, subrow, next);
+      subrow = next;
+    } else {
+      coverLive(coverage, subrow, subrow + 1);
+      ++subrow;
+    }
+  }
+}
+
+}  // namespace platform::flash

@@ -1,0 +1,110 @@
+#include "platform/flash/interpreter.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/flash/actions.h"
+#include "platform/flash/limits.h"
+
+namespace platform::flash {
+
+Interpreter::Interpreter(Stage& stage, CommandSink onCommand)
+    : stage_(stage), onCommand_(std::move(onCommand)) {
+  for (const std::span<const ActionRow> family :
+       {flowActions(), arithmeticActions(), variableActions(), timelineActions()}) {
+    for (const ActionRow& row : family) {
+      actions_[row.code] = row.action;
+    }
+  }
+}
+
+void Interpreter::execute(ScriptRun& run) {
+  constexpr unsigned firstWithOperand = 0x80;
+  try {
+    while (!run.ended_ && !run.code_.atEnd() && stage_.spend(1)) {
+      const unsigned code = run.code_.u8();
+      if (code == 0) {
+        return;
+      }
+      ByteReader operand(code >= firstWithOperand ? run.code_.bytes(run.code_.u16()) : Bytes());
+      if (const Action action = actions_[code]) {
+        action(run, operand);
+      }
+    }
+  } catch (const MovieError&) {
+    // The script leads outside of its bytes: it ends here.
+  }
+}
+
+void Interpreter::run(const QueuedScript& script) {
+  if (script.function != nullptr) {
+    (void)call(*script.function, ObjectRef{script.clip}, {});
+    return;
+  }
+  ScriptRun run(*this, script.block, script.clip);
+  execute(run);
+}
+
+void Interpreter::bindRegisters(ScriptRun& run, const ScriptFunction& function,
+                                const Value& thisValue) {
+  constexpr unsigned preloadThis = 0x01;
+  constexpr unsigned preloadArguments = 0x04;
+  constexpr unsigned preloadSuper = 0x10;
+  constexpr unsigned preloadRoot = 0x40;
+  constexpr unsigned preloadParent = 0x80;
+  constexpr unsigned preloadGlobal = 0x100;
+
+  run.registers_.resize(std::size_t(function.registers));
+  std::size_t next = 1;
+  const auto preload = [&](unsigned flag, const Value& value) {
+    if ((function.preloads & flag) != 0) {
+      if (next < run.registers_.size()) {
+        run.registers_[next] = value;
+      }
+      ++next;
+    }
+  };
+  const Container* self = stage_.find(run.self_);
+  const Value parent =
+      self != nullptr && self->parent != nullptr ? Value(ObjectRef{self->parent->id}) : Value();
+  preload(preloadThis, thisValue);
+  preload(preloadArguments, {});
+  preload(preloadSuper, {});
+  preload(preloadRoot, ObjectRef{stage_.root().id});
+  preload(preloadParent, parent);
+  preload(preloadGlobal, {});
+}
+
+Value Interpreter::call(const ScriptFunction& function, const Value& thisValue,
+                        std::vector<Value> arguments) {
+  constexpr int callWork = 10;
+  if (callDepth_ >= limits::callDepth || !stage_.spend(callWork + function.registers)) {
+    return {};
+  }
+  ++callDepth_;
+  ScriptRun run(*this, function.body, function.clip);
+  run.inFunction_ = true;
+  run.thisValue_ = thisValue;
+  run.constants_ = function.constants;
+  bindRegisters(run, function, thisValue);
+  arguments.resize(function.parameters.size());
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const ScriptFunction::Parameter& parameter = function.parameters[i];
+    if (parameter.reg == 0) {
+      run.locals_.insert(stage_.movie().folded(parameter.name), arguments[i]);
+    } else if (std::size_t(parameter.reg) < run.registers_.size()) {
+      run.registers_[std::size_t(parameter.reg)] = arguments[i];
+    }
+  }
+  execute(run);
+  --callDepth_;
+  return std::move(run.result_);
+}
+
+void Interpreter::raiseCommand(const QString& command, const QString& args) {
+  if (stage_.spendCommand()) {
+    onCommand_(command, args);
+  }
+}
+
+}  // namespace platform::flash

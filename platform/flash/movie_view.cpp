@@ -1,0 +1,271 @@
+#include "platform/flash/movie_view.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/flash/accessible_movie.h"
+#include "platform/flash/movie_file.h"
+#include "platform/flash/player.h"
+
+namespace platform::flash {
+
+namespace {
+
+constexpr double twips = 20;
+constexpr double slowest = 0.5;  // frames a second
+constexpr double fastest = 120;
+constexpr QRgb emptyBoard = 0xFFFFFFFF;
+
+}  // namespace
+
+MovieView::MovieView(TimeSource& time, QWidget* parent)
+    : QWidget(parent), ticker_(time.makeTicker([this] { tick(); })) {
+  installMovieAccessibility();
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+MovieView::~MovieView() {
+  ticker_->stop();
+}
+
+void MovieView::setMovie(const QString& path) {
+  ++generation_;
+  ticker_->stop();
+  player_.reset();
+  renderer_.clear();
+  scene_ = {};
+  startPlayer(path);
+  update();
+  changed();
+}
+
+void MovieView::startPlayer(const QString& path) {
+  std::shared_ptr<const Movie> movie;
+  try {
+    movie = loadMovie(path);
+  } catch (const MovieError& error) {
+    qWarning("Movie %s cannot be shown: %s", qUtf8Printable(path), error.what());
+    return;
+  }
+  const double rate = std::clamp(movie->frameRate, slowest, fastest);
+  player_ = std::make_unique<Player>(
+      std::move(movie),
+      [this](const QString& command, const QString& args) { post(command, args); });
+  ticker_->setInterval(static_cast<int>(std::lround(1000 / rate)));
+  adjustTicker();
+  if (const auto position = mouse_ ? stagePixel(*mouse_) : std::nullopt) {
+    player_->mouseMove(*position);
+  }
+}
+
+void MovieView::post(const QString& command, const QString& args) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, command, args, generation = generation_] {
+        if (generation == generation_) {
+          Q_EMIT fsCommand(command, args);
+        }
+      },
+      Qt::QueuedConnection);
+}
+
+void MovieView::setClipProperty(const QString& target, int property, const QString& value) {
+  if (player_ != nullptr) {
+    player_->setProperty(target, property, value);
+    changed();
+  }
+}
+
+void MovieView::gotoFrame(int frame) {
+  if (player_ != nullptr) {
+    player_->gotoFrame(frame);
+    adjustTicker();
+    changed();
+  }
+}
+
+void MovieView::play() {
+  if (player_ != nullptr) {
+    player_->play();
+    adjustTicker();
+  }
+}
+
+int MovieView::currentFrame() const {
+  return player_ == nullptr ? 0 : player_->currentFrame();
+}
+
+void MovieView::tick() {
+  if (player_ != nullptr) {
+    player_->tick();
+    adjustTicker();
+    changed();
+  }
+}
+
+void MovieView::adjustTicker() {
+  const bool needed = player_->canChange();
+  if (needed && !ticker_->isRunning()) {
+    ticker_->start();
+  } else if (!needed) {
+    ticker_->stop();
+  }
+}
+
+void MovieView::changed() {
+  if (!refreshPosted_) {
+    refreshPosted_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          refreshPosted_ = false;
+          refresh();
+        },
+        Qt::QueuedConnection);
+  }
+}
+
+void MovieView::refresh() {
+  if (player_ == nullptr) {
+    showHand(false);
+    return;
+  }
+  Scene now = player_->scene();
+  const QTransform toWidget = stageToWidget();
+  for (const QRectF& place : differences(scene_, now)) {
+    // A pixel more for the smoothed edge, and for lines thinner than a pixel.
+    update(toWidget.mapRect(place).toAlignedRect().adjusted(-1, -1, 1, 1) & rect());
+  }
+  scene_ = std::move(now);
+  showHand(player_->showsHand());
+}
+
+void MovieView::showHand(bool hand) {
+  if (hand == handShown_) {
+    return;
+  }
+  handShown_ = hand;
+  if (hand) {
+    ownersCursor_ = testAttribute(Qt::WA_SetCursor) ? std::optional(cursor()) : std::nullopt;
+    setCursor(Qt::PointingHandCursor);
+  } else if (ownersCursor_) {
+    setCursor(*ownersCursor_);
+  } else {
+    unsetCursor();
+  }
+}
+
+QTransform MovieView::stageToWidget() const {
+  const QRectF stage = player_->movie().stage;
+  const double scale = std::min(width() / stage.width(), height() / stage.height());
+  const QPointF middle = QRectF(rect()).center() - stage.center() * scale;
+  return {scale, 0, 0, scale, middle.x(), middle.y()};
+}
+
+// Nothing beside the stage.
+std::optional<QPointF> MovieView::stagePixel(QPointF position) const {
+  bool possible = false;
+  const QPointF point = stageToWidget().inverted(&possible).map(position);
+  const QRectF stage = player_->movie().stage;
+  if (!possible || !stage.contains(point)) {
+    return std::nullopt;
+  }
+  return (point - stage.topLeft()) / twips;
+}
+
+void MovieView::mouseMoveEvent(QMouseEvent* event) {
+  mouse_ = event->position();
+  if (player_ == nullptr) {
+    return;
+  }
+  if (const auto position = stagePixel(*mouse_)) {
+    player_->mouseMove(*position);
+  } else {
+    player_->mouseLeave();
+  }
+  adjustTicker();
+  changed();
+}
+
+void MovieView::mousePressEvent(QMouseEvent* event) {
+  mouse_ = event->position();
+  const auto position = player_ == nullptr ? std::nullopt : stagePixel(*mouse_);
+  if (event->button() != Qt::LeftButton || !position) {
+    return;
+  }
+  player_->mousePress(*position);
+  adjustTicker();
+  changed();
+}
+
+void MovieView::mouseReleaseEvent(QMouseEvent* event) {
+  mouse_ = event->position();
+  if (event->button() != Qt::LeftButton || player_ == nullptr) {
+    return;
+  }
+  if (const auto position = stagePixel(*mouse_)) {
+    player_->mouseRelease(*position);
+  } else {
+    player_->mouseReleaseOutside();
+  }
+  adjustTicker();
+  changed();
+}
+
+void MovieView::leaveEvent(QEvent* event) {
+  mouse_.reset();
+  if (player_ != nullptr) {
+    player_->mouseLeave();
+    adjustTicker();
+    changed();
+  }
+  QWidget::leaveEvent(event);
+}
+
+// A press that the view does not live to see the end of must not be taken for one still held.
+void MovieView::hideEvent(QHideEvent* event) {
+  mouse_.reset();
+  if (player_ != nullptr) {
+    player_->mouseReleaseOutside();
+    adjustTicker();
+    changed();
+  }
+  QWidget::hideEvent(event);
+}
+
+void MovieView::paintEvent(QPaintEvent* event) {
+  refresh();
+  QPainter painter(this);
+  for (const QRect& rect : event->region()) {
+    paintRect(painter, rect);
+  }
+}
+
+// The picture is made in the pixels of the device, so that it is sharp where a logical pixel is
+// more than one of them, or one and a half.
+void MovieView::paintRect(QPainter& painter, const QRect& rect) {
+  if (player_ == nullptr) {
+    painter.fillRect(rect, QColor::fromRgb(emptyBoard));
+    return;
+  }
+  const QRgb background = player_->movie().background;
+  painter.fillRect(rect, QColor::fromRgb(background));
+  const QTransform toDevice = painter.deviceTransform();
+  const QTransform stageToDevice = stageToWidget() * toDevice;
+  const QRect stage = stageToDevice.mapRect(player_->movie().stage).toAlignedRect();
+  const QRect part = toDevice.mapRect(QRectF(rect)).toAlignedRect() & stage;
+  if (part.isEmpty()) {
+    return;
+  }
+  QImage image(part.size(), QImage::Format_RGB32);
+  renderer_.paint(scene_, stageToDevice * QTransform::fromTranslate(-part.x(), -part.y()),
+                  background, image);
+  painter.drawImage(toDevice.inverted().mapRect(QRectF(part)), image);
+}
+
+}  // namespace platform::flash

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QCursor>
+#include <QString>
+#include <QTransform>
+#include <QWidget>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "platform/base/time_source.h"
+#include "platform/flash/renderer.h"
+#include "platform/flash/scene.h"
+
+namespace platform::flash {
+
+class Player;
+
+// A control that plays a movie: as large as fits in while it keeps its shape, in the middle, the
+// rest in the movie's background colour; smooth and sharp at any size. It speaks with its owner by
+// the operations below and by one signal, and takes the mouse but never the focus. To assistive
+// technology it is a graphic; its name and description are the owner's to set.
+class MovieView final : public QWidget {
+  Q_OBJECT
+
+ public:
+  // time: paces the frames; it must outlive the view.
+  explicit MovieView(TimeSource& time, QWidget* parent = nullptr);
+  ~MovieView() override;
+
+  // Loads the movie anew, also the one that is loaded already, and starts it. A file that is
+  // missing or broken gives an empty or partial board; nothing fails. Commands of the old movie
+  // that have not been delivered yet are dropped.
+  void setMovie(const QString& path);
+  // target: the name of a clip, or a path from the root as "a/b"; empty for the root. property: 0
+  // x, 1 y (pixels), 2 x scale, 3 y scale (percent), 6 alpha (percent), 7 visible ("0", "1"), 10
+  // rotation (degrees). Nothing happens for a name that no clip has, or a value that is no number.
+  // (QObject::setProperty is something else.)
+  void setClipProperty(const QString& target, int property, const QString& value);
+  // Shows a frame of the main timeline, counted from 1, runs its scripts, and stops there.
+  void gotoFrame(int frame);
+  // Lets the main timeline run on.
+  void play();
+
+  // The frame of the main timeline, from 1; 0 without a movie.
+  [[nodiscard]] int currentFrame() const;
+
+ Q_SIGNALS:
+  // The movie speaks to its owner. Always sent from the event queue, never from within one of the
+  // operations above, so a receiver may call them, wait, or destroy the view.
+  void fsCommand(const QString& command, const QString& args);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  // From twips of the stage to this widget's own pixels.
+  [[nodiscard]] QTransform stageToWidget() const;
+  [[nodiscard]] std::optional<QPointF> stagePixel(QPointF position) const;
+  void startPlayer(const QString& path);
+  void post(const QString& command, const QString& args);
+  void tick();
+  // The movie may have changed: looks at it when the events that are waiting have been handled.
+  void changed();
+  void adjustTicker();
+  void refresh();
+  void showHand(bool hand);
+  void paintRect(QPainter& painter, const QRect& rect);
+
+  std::unique_ptr<Ticker> ticker_;
+  std::unique_ptr<Player> player_;  // null: no movie
+  Renderer renderer_;
+  Scene scene_;  // what the widget shows, or has asked to be repainted to
+  // Counts the movies loaded, so that a late command knows whether it still matters.
+  std::uint64_t generation_ = 0;
+  bool refreshPosted_ = false;
+  std::optional<QPointF> mouse_;
+  // The owner's cursor, while the hand is shown; without a value inside: none of its own.
+  bool handShown_ = false;
+  std::optional<QCursor> ownersCursor_;
+};
+
+}  // namespace platform::flash

@@ -1,0 +1,116 @@
+#include "platform/flash/player.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/flash/properties.h"
+#include "platform/flash/targets.h"
+#include "platform/flash/timeline.h"
+
+namespace platform::flash {
+
+namespace {
+
+constexpr double twips = 20;
+
+}  // namespace
+
+Player::Player(std::shared_ptr<const Movie> movie, CommandSink onCommand)
+    : stage_(std::move(movie)), interpreter_(stage_, std::move(onCommand)), pointer_(stage_) {
+  enter([this] { workOffFrame(stage_, stage_.root()); });
+}
+
+template <typename Call>
+void Player::enter(Call call) {
+  stage_.beginEntry();
+  call();
+  runScripts();
+  stage_.endEntry();
+}
+
+void Player::runScripts() {
+  QueuedScript script;
+  while (stage_.spend(1) && stage_.nextScript(script)) {
+    interpreter_.run(script);
+  }
+}
+
+void Player::tick() {
+  enter([this] {
+    stage_.eachClip([this](Clip& clip) {
+      stage_.raise(clip, ClipEvent::EnterFrame);
+      advance(stage_, clip);
+    });
+    runScripts();
+    pointer_.update();
+  });
+}
+
+bool Player::canChange() const {
+  bool can = false;
+  stage_.eachClip([&](const Clip& clip) {
+    can = can || (clip.playing && clip.timeline.frameCount() > 1) ||
+          stage_.listens(clip, static_cast<std::uint32_t>(ClipEvent::EnterFrame));
+  });
+  return can;
+}
+
+void Player::gotoFrame(int frame) {
+  enter([&] { platform::flash::gotoFrame(stage_, stage_.root(), std::max(frame, 1) - 1, false); });
+}
+
+void Player::play() {
+  stage_.root().playing = true;
+}
+
+void Player::stop() {
+  stage_.root().playing = false;
+}
+
+void Player::setProperty(const QString& target, int property, const QString& value) {
+  Container* of = resolveTarget(stage_, &stage_.root(), target);
+  const auto known = propertyOfNumber(property);
+  if (of != nullptr && known) {
+    setPropertyOf(stage_, *of, *known, value);
+  }
+}
+
+QString Player::property(const QString& target, int property) const {
+  const Container* root = &stage_.root();
+  const Container* of = resolveTarget(stage_, const_cast<Container*>(root), target);
+  const auto known = propertyOfNumber(property);
+  if (of == nullptr || !known) {
+    return {};
+  }
+  const Value value = propertyOf(stage_, *of, *known);
+  if (const bool* truth = std::get_if<bool>(&value)) {
+    return *truth ? QStringLiteral("1") : QStringLiteral("0");
+  }
+  return toText(value, 6);
+}
+
+QPointF Player::toStage(QPointF position) const {
+  return position * twips + movie().stage.topLeft();
+}
+
+void Player::mouseMove(QPointF position) {
+  enter([&] { pointer_.moveTo(toStage(position)); });
+}
+
+void Player::mousePress(QPointF position) {
+  enter([&] { pointer_.press(toStage(position)); });
+}
+
+void Player::mouseRelease(QPointF position) {
+  enter([&] { pointer_.release(toStage(position)); });
+}
+
+void Player::mouseReleaseOutside() {
+  enter([&] { pointer_.releaseOutside(); });
+}
+
+void Player::mouseLeave() {
+  enter([&] { pointer_.leave(); });
+}
+
+}  // namespace platform::flash

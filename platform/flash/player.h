@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "platform/flash/interpreter.h"
+#include "platform/flash/pointer.h"
+#include "platform/flash/scene.h"
+#include "platform/flash/stage.h"
+
+namespace platform::flash {
+
+// A running movie without a window. Time passes only by tick(); each call works off everything that
+// follows from it before it returns, within bounds (limits.h). It draws nothing: who wants a
+// picture takes the scene.
+class Player {
+ public:
+  using CommandSink = Interpreter::CommandSink;
+
+  // Shows the first frame and runs its scripts. onCommand takes what scripts tell the host by
+  // fscommand, in the middle of the call that caused it; it must not call the player.
+  Player(std::shared_ptr<const Movie> movie, CommandSink onCommand);
+
+  [[nodiscard]] const Movie& movie() const { return stage_.movie(); }
+
+  // One frame of time.
+  void tick();
+  // Whether a tick could change anything or run a script: something plays, or listens to frames.
+  [[nodiscard]] bool canChange() const;
+
+  // The frame of the main timeline, from 1.
+  [[nodiscard]] int currentFrame() const { return stage_.root().frame + 1; }
+  // Shows a frame of the main timeline, counted from 1, and stops there. Below 1 means 1, beyond
+  // the end the last one.
+  void gotoFrame(int frame);
+  void play();
+  void stop();
+  // property: a number as in Property. Nothing happens for a target that does not exist, a
+  // property that cannot be set, or a value that is no number where one is needed.
+  void setProperty(const QString& target, int property, const QString& value);
+  // Empty for what does not exist. Truth values are "1" and "0".
+  [[nodiscard]] QString property(const QString& target, int property) const;
+
+  // The mouse; positions in pixels of the stage at its own size, from its upper left corner.
+  void mouseMove(QPointF position);
+  void mousePress(QPointF position);
+  void mouseRelease(QPointF position);
+  void mouseLeave();
+  // Lets go of what is pressed, beside the stage.
+  void mouseReleaseOutside();
+  // Whether the pointer should be the pointing hand.
+  [[nodiscard]] bool showsHand() const { return pointer_.isOverInteractive(); }
+
+  [[nodiscard]] Scene scene() const { return sceneOf(stage_); }
+
+ private:
+  // Runs what call does as one entry: full budgets before, all scripts after.
+  template <typename Call>
+  void enter(Call call);
+  void runScripts();
+  [[nodiscard]] QPointF toStage(QPointF position) const;
+
+  Stage stage_;
+  Interpreter interpreter_;
+  Pointer pointer_;
+};
+
+}  // namespace platform::flash

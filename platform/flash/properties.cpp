@@ -1,0 +1,173 @@
+#include "platform/flash/properties.h"
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "platform/flash/bounds.h"
+#include "platform/flash/stage.h"
+#include "platform/flash/targets.h"
+
+namespace platform::flash {
+
+namespace {
+
+constexpr std::array<QStringView, 19> names{
+    u"_x",           u"_y",           u"_xscale",       u"_yscale",      u"_currentframe",
+    u"_totalframes", u"_alpha",       u"_visible",      u"_width",       u"_height",
+    u"_rotation",    u"_target",      u"_framesloaded", u"_name",        u"_droptarget",
+    u"_url",         u"_highquality", u"_focusrect",    u"_soundbuftime"};
+
+constexpr double twips = 20;
+constexpr double percent = 100;
+constexpr double farthest = 1 << 23;  // twips
+constexpr double degree = std::numbers::pi / 180;
+
+// A matrix taken apart: lengths of the two axes and where they point, in radians.
+struct Axes {
+  double scaleX, scaleY, angleX, angleY;
+
+  explicit Axes(const QTransform& m)
+      : scaleX(std::hypot(m.m11(), m.m12())),
+        scaleY(std::hypot(m.m21(), m.m22())),
+        angleX(std::atan2(m.m12(), m.m11())),
+        angleY(std::atan2(-m.m21(), m.m22())) {}
+
+  [[nodiscard]] QTransform at(double x, double y) const {
+    return {scaleX * std::cos(angleX),
+            scaleX * std::sin(angleX),
+            -scaleY * std::sin(angleY),
+            scaleY * std::cos(angleY),
+            x,
+            y};
+  }
+};
+
+void setAxes(Container& of, Property property, double number) {
+  Axes axes(of.matrix);
+  if (property == Property::ScaleX) {
+    axes.scaleX = number / percent;
+  } else if (property == Property::ScaleY) {
+    axes.scaleY = number / percent;
+  } else {
+    const double turn = number * degree - axes.angleX;
+    axes.angleX += turn;
+    axes.angleY += turn;
+  }
+  of.matrix = axes.at(of.matrix.dx(), of.matrix.dy());
+}
+
+void setSize(Container& of, Property property, double pixels) {
+  const QRectF bounds = boundsInParent(of);
+  const bool isWidth = property == Property::Width;
+  const double now = isWidth ? bounds.width() : bounds.height();
+  if (now > 0 && pixels >= 0) {
+    Axes axes(of.matrix);
+    (isWidth ? axes.scaleX : axes.scaleY) *= pixels * twips / now;
+    of.matrix = axes.at(of.matrix.dx(), of.matrix.dy());
+  }
+}
+
+}  // namespace
+
+std::optional<Property> propertyOfNumber(int number) {
+  if (number < 0 || number >= static_cast<int>(names.size())) {
+    return std::nullopt;
+  }
+  return Property(number);
+}
+
+std::optional<Property> propertyOfName(QStringView name) {
+  if (!name.startsWith(u'_')) {
+    return std::nullopt;
+  }
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (name.compare(names[i], Qt::CaseInsensitive) == 0) {
+      return Property(i);
+    }
+  }
+  return std::nullopt;
+}
+
+Value propertyOf(const Stage& stage, const Container& of, Property property) {
+  const Clip* clip = asClip(&of);
+  const Axes axes(of.matrix);
+  switch (property) {
+    case Property::X:
+      return of.matrix.dx() / twips;
+    case Property::Y:
+      return of.matrix.dy() / twips;
+    case Property::ScaleX:
+      return axes.scaleX * percent;
+    case Property::ScaleY:
+      return axes.scaleY * percent;
+    case Property::CurrentFrame:
+      return clip == nullptr ? Value() : Value(double(clip->frame + 1));
+    case Property::TotalFrames:
+    case Property::FramesLoaded:
+      return clip == nullptr ? Value() : Value(double(clip->timeline.frameCount()));
+    case Property::Alpha:
+      return of.color.multiply[3] * percent;
+    case Property::Visible:
+      return stage.movie().version >= 5 ? Value(of.visible) : Value(of.visible ? 1.0 : 0.0);
+    case Property::Width:
+      return boundsInParent(of).width() / twips;
+    case Property::Height:
+      return boundsInParent(of).height() / twips;
+    case Property::Rotation:
+      return axes.angleX / degree;
+    case Property::Target:
+      return slashPath(of);
+    case Property::Name:
+      return of.name;
+    case Property::DropTarget:
+    case Property::Url:
+      return QString();
+    case Property::HighQuality:
+    case Property::FocusRect:
+    case Property::SoundBufTime:
+      break;
+  }
+  return {};
+}
+
+void setPropertyOf(const Stage& stage, Container& of, Property property, const Value& value) {
+  if (property == Property::Name) {
+    of.name = toText(value, stage.movie().version);
+    return;
+  }
+  const double number = toNumber(value, stage.movie().version);
+  if (!std::isfinite(number) || std::abs(number) > farthest) {
+    return;
+  }
+  const QTransform& m = of.matrix;
+  switch (property) {
+    case Property::Visible:
+      of.visible = number != 0;
+      return;
+    case Property::X:
+      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), std::round(number * twips), m.dy()};
+      break;
+    case Property::Y:
+      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), std::round(number * twips)};
+      break;
+    case Property::ScaleX:
+    case Property::ScaleY:
+    case Property::Rotation:
+      setAxes(of, property, number);
+      break;
+    case Property::Width:
+    case Property::Height:
+      setSize(of, property, number);
+      break;
+    case Property::Alpha:
+      // Held in 256ths, without the rest.
+      of.color.multiply[3] = std::trunc(number * 256 / percent) / 256;
+      break;
+    default:
+      return;
+  }
+  of.steered = true;
+}
+
+}  // namespace platform::flash

@@ -1,0 +1,118 @@
+#include "platform/flash/row_painter.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace platform::flash {
+
+namespace {
+
+// So many sixteenths of one colour, the rest of the other.
+QRgb mixed(QRgb above, QRgb below, std::uint32_t sixteenths) {
+  const auto two = [&](std::uint32_t a, std::uint32_t b) {
+    const std::uint32_t sum =
+        (a & 0x00FF00FFU) * sixteenths + (b & 0x00FF00FFU) * (samples - sixteenths);
+    return ((sum + 0x00080008U) >> 4U) & 0x00FF00FFU;
+  };
+  return two(above, below) | (two(above >> 8U, below >> 8U) << 8U);
+}
+
+QRgb average(const std::array<QRgb, samples>& colors) {
+  // Two channels in each sum; sixteen times 255 does not run over.
+  std::uint32_t low = 0;
+  std::uint32_t high = 0;
+  for (const QRgb color : colors) {
+    low += color & 0x00FF00FFU;
+    high += (color >> 8U) & 0x00FF00FFU;
+  }
+  const auto divided = [](std::uint32_t sum) { return ((sum + 0x00080008U) >> 4U) & 0x00FF00FFU; };
+  return divided(low) | (divided(high) << 8U);
+}
+
+}  // namespace
+
+void RowPainter::paintPart(int x, SampleMask mask, QRgb color) {
+  int& place = places_[std::size_t(x)];
+  if (place != none) {
+    paintMore(entries_[std::size_t(place)], mask, color);
+    return;
+  }
+  place = static_cast<int>(entries_.size());
+  firstEntry_ = std::min(firstEntry_, x);
+  lastEntry_ = std::max(lastEntry_, x);
+  const QRgb below = pixels_[std::size_t(x)];
+  entries_.push_back({x, mask, below, over(color, below), none});
+}
+
+void RowPainter::paintMore(Entry& entry, SampleMask mask, QRgb color) {
+  if (entry.samples == none) {
+    if (mask == entry.mask) {
+      entry.above = over(color, entry.above);
+      return;
+    }
+    entry.samples = static_cast<int>(samples_.size());
+    Samples& fresh = samples_.emplace_back();
+    for (unsigned i = 0; i < fresh.size(); ++i) {
+      fresh[i] = ((unsigned(entry.mask) >> i) & 1U) != 0 ? entry.above : entry.below;
+    }
+  }
+  Samples& colors = samples_[std::size_t(entry.samples)];
+  for (unsigned left = mask; left != 0; left &= left - 1) {
+    QRgb& sample = colors[std::size_t(std::countr_zero(left))];
+    sample = over(color, sample);
+  }
+}
+
+void RowPainter::paintWhole(int begin, int end, const PixelSource& source) {
+  const auto count = static_cast<std::size_t>(end - begin);
+  if (source.isOpaque()) {
+    source.fill(pixels_.subspan(std::size_t(begin), count), begin, y_);
+    if (begin <= lastEntry_ && end > firstEntry_) {
+      std::fill(places_.begin() + std::max(begin, firstEntry_),
+                places_.begin() + std::min(end, lastEntry_ + 1), none);
+    }
+    return;
+  }
+  source.fill(std::span(colors_).first(count), begin, y_);
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::size_t x = static_cast<std::size_t>(begin) + i;
+    if (places_[x] == none) {
+      pixels_[x] = over(colors_[i], pixels_[x]);
+    } else {
+      paintPart(static_cast<int>(x), allSamples, colors_[i]);
+    }
+  }
+}
+
+void RowPainter::paint(int begin, int end, SampleMask mask, const PixelSource& source) {
+  if (mask == allSamples) {
+    paintWhole(begin, end, source);
+    return;
+  }
+  const auto count = static_cast<std::size_t>(end - begin);
+  source.fill(std::span(colors_).first(count), begin, y_);
+  for (std::size_t i = 0; i < count; ++i) {
+    paintPart(begin + static_cast<int>(i), mask, colors_[i]);
+  }
+}
+
+void RowPainter::finish() {
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const Entry& entry = entries_[i];
+    int& place = places_[std::size_t(entry.x)];
+    // Others have been painted over whole since.
+    if (place == static_cast<int>(i)) {
+      pixels_[std::size_t(entry.x)] =
+          entry.samples != none
+              ? average(samples_[std::size_t(entry.samples)])
+              : mixed(entry.above, entry.below, std::uint32_t(std::popcount(entry.mask)));
+      place = none;
+    }
+  }
+  entries_.clear();
+  firstEntry_ = INT32_MAX;
+  lastEntry_ = -1;
+  samples_.clear();
+}
+
+}  // namespace platform::flash

@@ -1,0 +1,184 @@
+#include "platform/flash/shape_builder.h"
+
+#include <unordered_map>
+#include <utility>
+
+#include "platform/flash/movie_error.h"
+
+namespace platform::flash {
+
+namespace {
+
+// Further out nothing can be drawn, and a float still holds every twip.
+constexpr std::int64_t farthest = 1 << 23;
+
+}  // namespace
+
+ShapeBuilder::Point ShapeBuilder::checked(std::int64_t x, std::int64_t y) {
+  if (x < -farthest || x > farthest || y < -farthest || y > farthest) {
+    throw MovieError("an edge leads too far away", 0);
+  }
+  return {static_cast<std::int32_t>(x), static_cast<std::int32_t>(y)};
+}
+
+void ShapeBuilder::newStyles(std::vector<Paint> fills, std::vector<LineStyle> lines) {
+  endLayer();
+  allowance_.spend((fills.size() + lines.size()) * (sizeof(LineStyle) + sizeof(Edges)));
+  fills_ = std::move(fills);
+  lines_ = std::move(lines);
+  fillEdges_.assign(fills_.size(), {});
+  lineEdges_.assign(lines_.size(), {});
+  fill0_ = 0;
+  fill1_ = 0;
+  line_ = 0;
+}
+
+void ShapeBuilder::moveTo(std::int64_t x, std::int64_t y) {
+  at_ = checked(x, y);
+}
+
+void ShapeBuilder::lineBy(std::int64_t dx, std::int64_t dy) {
+  const Point to = checked(at_.x + dx, at_.y + dy);
+  add({at_, {}, to, false});
+}
+
+void ShapeBuilder::curveBy(std::int64_t controlDx, std::int64_t controlDy, std::int64_t dx,
+                           std::int64_t dy) {
+  const Point control = checked(at_.x + controlDx, at_.y + controlDy);
+  const Point to = checked(control.x + dx, control.y + dy);
+  add({at_, control, to, true});
+}
+
+void ShapeBuilder::add(const Edge& edge) {
+  at_ = edge.to;
+  const auto keep = [&](std::vector<Edges>& lists, std::uint32_t index, const Edge& kept) {
+    if (index >= 1 && index <= lists.size()) {
+      allowance_.spend(sizeof(Edge) + sizeof(Outline::Segment));
+      lists[index - 1].push_back(kept);
+    }
+  };
+  // The same fill on both sides makes no border.
+  if (fill0_ != fill1_) {
+    keep(fillEdges_, fill0_, edge.reversed());
+    keep(fillEdges_, fill1_, edge);
+  }
+  keep(lineEdges_, line_, edge);
+}
+
+// Edges by the point that they start from, to be taken one by one.
+class ShapeBuilder::EdgesByStart {
+ public:
+  static constexpr std::size_t none = SIZE_MAX;
+
+  explicit EdgesByStart(const Edges& edges)
+      : next_(edges.size(), none), used_(edges.size(), false) {
+    for (std::size_t i = edges.size(); i-- > 0;) {
+      const auto [place, isNew] = first_.try_emplace(key(edges[i].from), i);
+      if (!isNew) {
+        next_[i] = std::exchange(place->second, i);
+      }
+    }
+  }
+
+  [[nodiscard]] bool isUsed(std::size_t edge) const { return used_[edge]; }
+  void use(std::size_t edge) { used_[edge] = true; }
+  // An edge from there that is not used yet, or none.
+  std::size_t from(Point point) {
+    const auto place = first_.find(key(point));
+    if (place == first_.end()) {
+      return none;
+    }
+    std::size_t& head = place->second;
+    while (head != none && used_[head]) {
+      head = next_[head];
+    }
+    return head;
+  }
+
+ private:
+  static std::uint64_t key(Point point) {
+    return (std::uint64_t(std::uint32_t(point.x)) << 32U) | std::uint32_t(point.y);
+  }
+
+  std::unordered_map<std::uint64_t, std::size_t> first_;
+  std::vector<std::size_t> next_;  // a chain for each point
+  std::vector<bool> used_;
+};
+
+void ShapeBuilder::append(Outline& outline, const Edge& edge) {
+  const QPointF to(edge.to.x, edge.to.y);
+  if (edge.curved) {
+    outline.curveTo(QPointF(edge.control.x, edge.control.y), to);
+  } else {
+    outline.lineTo(to);
+  }
+}
+
+// Joins edges end to start into closed contours. A contour that finds no further edge is closed by
+// a straight line, so that an odd file fills something instead of leaking to the border.
+Outline ShapeBuilder::linked(const Edges& edges) {
+  EdgesByStart byStart(edges);
+  Outline outline;
+  for (std::size_t i = 0; i < edges.size(); ++i) {
+    if (byStart.isUsed(i)) {
+      continue;
+    }
+    const Point start = edges[i].from;
+    outline.moveTo(QPointF(start.x, start.y));
+    Point end = start;
+    for (std::size_t at = i; at != EdgesByStart::none;) {
+      byStart.use(at);
+      append(outline, edges[at]);
+      end = edges[at].to;
+      at = end == start ? EdgesByStart::none : byStart.from(end);
+    }
+    if (!(end == start)) {
+      outline.lineTo(QPointF(start.x, start.y));
+    }
+  }
+  return outline;
+}
+
+Outline ShapeBuilder::inOrder(const Edges& edges) {
+  Outline outline;
+  const Edge* last = nullptr;
+  for (const Edge& edge : edges) {
+    if (last == nullptr || !(last->to == edge.from)) {
+      outline.moveTo(QPointF(edge.from.x, edge.from.y));
+    }
+    append(outline, edge);
+    last = &edge;
+  }
+  return outline;
+}
+
+void ShapeBuilder::endLayer() {
+  for (std::size_t i = 0; i < fills_.size(); ++i) {
+    if (fillEdges_[i].empty() || fills_[i].kind == Paint::Kind::Nothing) {
+      continue;
+    }
+    ShapePart part{linked(fillEdges_[i]), std::move(fills_[i]), false, 0, {}};
+    part.bounds = part.outline.bounds();
+    shape_.parts.push_back(std::move(part));
+  }
+  for (std::size_t i = 0; i < lines_.size(); ++i) {
+    if (lineEdges_[i].empty() || lines_[i].paint.kind == Paint::Kind::Nothing) {
+      continue;
+    }
+    ShapePart part{inOrder(lineEdges_[i]), std::move(lines_[i].paint), true, lines_[i].width, {}};
+    const double half = part.lineWidth / 2.0;
+    part.bounds = part.outline.bounds().adjusted(-half, -half, half, half);
+    shape_.parts.push_back(std::move(part));
+  }
+  fills_.clear();
+  lines_.clear();
+  fillEdges_.clear();
+  lineEdges_.clear();
+}
+
+Shape ShapeBuilder::take() {
+  endLayer();
+  return std::move(shape_);
+}
+
+}  // namespace platform::flash

@@ -1,0 +1,319 @@
+#include "platform/flash/stage.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/flash/limits.h"
+#include "platform/flash/timeline.h"
+
+namespace platform::flash {
+
+namespace {
+
+constexpr int placeWork = 50;
+constexpr std::uint32_t rootId = 1;
+
+struct NamedEvent {
+  ClipEvent event;
+  const char16_t* name;
+};
+
+// The members in which scripts keep their handlers.
+constexpr std::array namedEvents{
+    NamedEvent{ClipEvent::Load, u"onLoad"},
+    NamedEvent{ClipEvent::EnterFrame, u"onEnterFrame"},
+    NamedEvent{ClipEvent::Unload, u"onUnload"},
+    NamedEvent{ClipEvent::MouseMove, u"onMouseMove"},
+    NamedEvent{ClipEvent::MouseDown, u"onMouseDown"},
+    NamedEvent{ClipEvent::MouseUp, u"onMouseUp"},
+    NamedEvent{ClipEvent::Press, u"onPress"},
+    NamedEvent{ClipEvent::Release, u"onRelease"},
+    NamedEvent{ClipEvent::ReleaseOutside, u"onReleaseOutside"},
+    NamedEvent{ClipEvent::RollOver, u"onRollOver"},
+    NamedEvent{ClipEvent::RollOut, u"onRollOut"},
+    NamedEvent{ClipEvent::DragOver, u"onDragOver"},
+    NamedEvent{ClipEvent::DragOut, u"onDragOut"},
+};
+
+qsizetype textLength(const Value& value) {
+  const auto* text = std::get_if<QString>(&value);
+  return text == nullptr ? 0 : text->size();
+}
+
+}  // namespace
+
+Stage::Stage(std::shared_ptr<const Movie> movie)
+    : movie_(std::move(movie)), root_(std::make_unique<Clip>(rootId, nullptr, movie_->timeline)) {
+  containers_.emplace(root_->id, root_.get());
+}
+
+Container* Stage::find(std::uint32_t id) const {
+  const auto found = containers_.find(id);
+  return found == containers_.end() ? nullptr : found->second;
+}
+
+void Stage::eachClip(const std::function<void(Clip&)>& visit) const {
+  std::vector<std::uint32_t> ids;
+  for (auto at = containers_.rbegin(); at != containers_.rend(); ++at) {
+    ids.push_back(at->first);
+  }
+  for (const std::uint32_t id : ids) {
+    if (Clip* clip = asClip(find(id))) {
+      visit(*clip);
+    }
+  }
+}
+
+std::unique_ptr<Instance> Stage::make(const Character& character) {
+  const std::uint32_t id = lastId_ + 1;
+  std::unique_ptr<Instance> made;
+  if (const auto* sprite = character.as<Sprite>()) {
+    made = std::make_unique<Clip>(id, &character, sprite->timeline);
+  } else if (const auto* button = character.as<Button>()) {
+    made = std::make_unique<ButtonInstance>(id, &character, *button);
+  } else if (character.as<Font>() == nullptr) {
+    made = std::make_unique<Instance>(Instance::Kind::Graphic, id, &character);
+  }
+  if (made != nullptr) {
+    ++lastId_;
+    ++instances_;
+  }
+  return made;
+}
+
+Instance* Stage::place(Container& parent, const Placement& placement) {
+  const Character* character = movie_->character(placement.character);
+  remove(parent, placement.depth);
+  if (character == nullptr || instances_ >= limits::instances || !spend(placeWork)) {
+    return nullptr;
+  }
+  std::unique_ptr<Instance> made = make(*character);
+  if (made == nullptr) {
+    return nullptr;
+  }
+  made->depth = placement.depth;
+  made->clipDepth = placement.clipDepth;
+  made->matrix = placement.matrix;
+  made->color = placement.color;
+  made->name = placement.name;
+  made->placeFrame = placement.frame;
+  made->placeIndex = placement.index;
+  if (Clip* clip = asClip(made.get())) {
+    clip->handlers = placement.handlers;
+  }
+  Instance* instance = made.get();
+  enter(parent, std::move(made));
+  return instance;
+}
+
+void Stage::enter(Container& parent, std::unique_ptr<Instance> instance) {
+  Instance& placed = *instance;
+  placed.parent = &parent;
+  parent.children[placed.depth] = std::move(instance);
+  Container* container = asContainer(&placed);
+  if (container == nullptr) {
+    return;
+  }
+  containers_.emplace(placed.id, container);
+  if (placed.name.isEmpty()) {
+    placed.name = QStringLiteral("instance%1").arg(++lastInstanceName_);
+  }
+  if (Clip* clip = asClip(&placed)) {
+    raise(*clip, ClipEvent::Initialize);
+    raise(*clip, ClipEvent::Construct);
+    raise(*clip, ClipEvent::Load);
+    workOffFrame(*this, *clip);
+  } else {
+    setState(static_cast<ButtonInstance&>(placed), ButtonState::Up);
+  }
+}
+
+void Stage::bury(Instance& instance) {
+  instance.removed = true;
+  --instances_;
+  Container* container = asContainer(&instance);
+  if (container == nullptr) {
+    return;
+  }
+  if (Clip* clip = asClip(&instance)) {
+    raise(*clip, ClipEvent::Unload, true);
+  }
+  containers_.erase(instance.id);
+  for (const Value& value : std::as_const(container->variables)) {
+    scriptCharacters_ -= textLength(value);
+  }
+  for (const auto& [depth, child] : container->children) {
+    bury(*child);
+  }
+}
+
+void Stage::remove(Container& parent, int depth) {
+  const auto found = parent.children.find(depth);
+  if (found == parent.children.end()) {
+    return;
+  }
+  bury(*found->second);
+  graveyard_.push_back(std::move(found->second));
+  parent.children.erase(found);
+}
+
+void Stage::setState(ButtonInstance& button, ButtonState state) {
+  button.state = state;
+  const auto shows = [state](const ButtonRecord& record) {
+    return (record.states & static_cast<unsigned>(state)) != 0;
+  };
+  const std::vector<ButtonRecord>& records = button.button.records;
+  std::vector<int> leaving;
+  for (const auto& [depth, child] : button.children) {
+    if (!shows(records[static_cast<std::size_t>(child->placeIndex)])) {
+      leaving.push_back(depth);
+    }
+  }
+  for (const int depth : leaving) {
+    remove(button, depth);
+  }
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    const ButtonRecord& record = records[i];
+    const int index = static_cast<int>(i);
+    const auto there = button.children.find(record.depth);
+    const bool stays = there != button.children.end() && there->second->placeIndex == index;
+    if (shows(record) && !stays) {
+      place(
+          button,
+          {record.character, record.depth, record.matrix, record.color, {}, 0, nullptr, 0, index});
+    }
+  }
+}
+
+bool Stage::raise(Clip& clip, ClipEvent event, bool whenRemoved) {
+  bool any = false;
+  if (clip.handlers != nullptr) {
+    for (const ClipHandler& handler : *clip.handlers) {
+      if (handler.takes(event)) {
+        enqueue({clip.id, handler.actions, nullptr, whenRemoved});
+        any = true;
+      }
+    }
+  }
+  return (!whenRemoved && raiseMember(clip, event)) || any;
+}
+
+bool Stage::raiseMember(Container& owner, ClipEvent event) {
+  if (owner.variables.isEmpty()) {
+    return false;
+  }
+  const auto named = std::find_if(namedEvents.begin(), namedEvents.end(),
+                                  [event](const NamedEvent& row) { return row.event == event; });
+  if (named == namedEvents.end()) {
+    return false;
+  }
+  FunctionRef function = memberFunction(owner, QString::fromUtf16(named->name));
+  if (function == nullptr) {
+    return false;
+  }
+  enqueue({owner.id, {}, std::move(function), false});
+  return true;
+}
+
+void Stage::raiseButton(ButtonInstance& button, ButtonEvent event, ClipEvent clipEvent) {
+  // A button within a button has no clip of its own; the scripts run for the next one outwards.
+  Container* clip = button.parent;
+  while (clip != nullptr && asClip(clip) == nullptr) {
+    clip = clip->parent;
+  }
+  for (const ButtonHandler& handler : button.button.handlers) {
+    if ((handler.events & static_cast<unsigned>(event)) != 0 && clip != nullptr) {
+      enqueue({clip->id, handler.actions, nullptr, false});
+    }
+  }
+  raiseMember(button, clipEvent);
+}
+
+bool Stage::listens(const Container& owner, std::uint32_t events) const {
+  if (const Clip* clip = asClip(&owner); clip != nullptr && clip->handlers != nullptr) {
+    for (const ClipHandler& handler : *clip->handlers) {
+      if ((handler.events & events) != 0) {
+        return true;
+      }
+    }
+  }
+  if (owner.variables.isEmpty()) {
+    return false;
+  }
+  for (const NamedEvent& named : namedEvents) {
+    if ((static_cast<std::uint32_t>(named.event) & events) != 0 &&
+        memberFunction(owner, QString::fromUtf16(named.name)) != nullptr) {
+      return true;
+    }
+  }
+  return false;
+}
+
+FunctionRef Stage::memberFunction(const Container& owner, const QString& name) const {
+  const Value value = owner.variables.value(movie_->folded(name));
+  const auto* function = std::get_if<FunctionRef>(&value);
+  return function == nullptr ? nullptr : *function;
+}
+
+void Stage::enqueue(QueuedScript script) {
+  if (queue_.size() < std::size_t(limits::queuedBlocks)) {
+    queue_.push_back(std::move(script));
+  }
+}
+
+void Stage::enqueueInit(CharacterId sprite, Clip& clip, ActionBlock block) {
+  if (initialized_.insert(sprite).second) {
+    initQueue_.push_back({clip.id, block, nullptr, false});
+  }
+}
+
+bool Stage::nextScript(QueuedScript& script) {
+  while (!initQueue_.empty() || !queue_.empty()) {
+    std::deque<QueuedScript>& from = initQueue_.empty() ? queue_ : initQueue_;
+    script = std::move(from.front());
+    from.pop_front();
+    if (script.whenRemoved || find(script.clip) != nullptr) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void Stage::beginEntry() {
+  workLeft_ = limits::workPerTick;
+  gotosLeft_ = limits::gotosPerTick;
+  commandsLeft_ = limits::commandsPerTick;
+}
+
+void Stage::endEntry() {
+  queue_.clear();
+  initQueue_.clear();
+  graveyard_.clear();
+}
+
+bool Stage::spend(int work) {
+  workLeft_ = work > workLeft_ ? 0 : workLeft_ - work;
+  return workLeft_ > 0;
+}
+
+void Stage::store(Container& owner, const QString& name, Value value) {
+  const QString key = movie_->folded(name);
+  const auto found = owner.variables.find(key);
+  const bool isNew = found == owner.variables.end();
+  // A name counts as well, so that variables without a value are bounded, too.
+  constexpr qsizetype variableCharacters = 32;
+  const qsizetype growth =
+      textLength(value) - (isNew ? -key.size() - variableCharacters : textLength(found.value()));
+  if (scriptCharacters_ + growth > limits::scriptCharacters) {
+    return;
+  }
+  scriptCharacters_ += growth;
+  if (isNew) {
+    owner.variables.insert(key, std::move(value));
+  } else {
+    found.value() = std::move(value);
+  }
+}
+
+}  // namespace platform::flash

@@ -1,0 +1,107 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <vector>
+
+#include "platform/flash/instance.h"
+
+namespace platform::flash {
+
+// What is to be placed, and by which command.
+struct Placement {
+  CharacterId character = 0;
+  int depth = 0;
+  QTransform matrix;
+  ColorTransform color;
+  QString name;
+  int clipDepth = 0;
+  const std::vector<ClipHandler>* handlers = nullptr;
+  int frame = 0;
+  int index = 0;
+};
+
+// A piece of script that waits for its turn.
+struct QueuedScript {
+  std::uint32_t clip = 0;
+  ActionBlock block;         // either this
+  FunctionRef function;      // or this
+  bool whenRemoved = false;  // runs although its clip has gone
+};
+
+// Everything that stands on the stage of one running movie, the scripts that wait, and what they
+// may yet cost in this tick. It keeps the books; frames are worked off by timeline.h, scripts run
+// in the Interpreter, both on the Player's word.
+class Stage {
+ public:
+  explicit Stage(std::shared_ptr<const Movie> movie);
+
+  [[nodiscard]] const Movie& movie() const { return *movie_; }
+  [[nodiscard]] Clip& root() { return *root_; }
+  [[nodiscard]] const Clip& root() const { return *root_; }
+  // The clip or button of that number; null once it has been removed.
+  [[nodiscard]] Container* find(std::uint32_t id) const;
+  // Calls visit for each clip, the newest first, those that come meanwhile not.
+  void eachClip(const std::function<void(Clip&)>& visit) const;
+
+  // Makes the thing and hands it to the parent, where it takes the depth from what was there. A
+  // sprite's first frame is worked off at once, its scripts wait their turn. Null when the
+  // character cannot be shown or a limit is reached.
+  Instance* place(Container& parent, const Placement& placement);
+  void remove(Container& parent, int depth);
+  // Shows what the button shows in a state; what it shows in both states stays.
+  void setState(ButtonInstance& button, ButtonState state);
+
+  // Lets the handlers of a clip for an event wait their turn. True when there is one.
+  bool raise(Clip& clip, ClipEvent event, bool whenRemoved = false);
+  // The same for a button, whose handlers run on behalf of the clip that it lies in. clipEvent:
+  // what the event is called where a script has put a function for it into the button.
+  void raiseButton(ButtonInstance& button, ButtonEvent event, ClipEvent clipEvent);
+  // Whether a clip has a handler for one of the events.
+  [[nodiscard]] bool listens(const Container& clip, std::uint32_t events) const;
+  // The function that a script has put into the member of that name (onPress, ...), if any.
+  [[nodiscard]] FunctionRef memberFunction(const Container& owner, const QString& name) const;
+
+  void enqueue(QueuedScript script);
+  // Before all others, once for each sprite.
+  void enqueueInit(CharacterId sprite, Clip& clip, ActionBlock block);
+  // The next script whose clip is still there; false when none is left.
+  bool nextScript(QueuedScript& script);
+
+  // Begins a tick or the handling of one call from outside: the budgets are full again.
+  void beginEntry();
+  // Ends it: what was removed is destroyed, what still waits is dropped.
+  void endEntry();
+  // Takes work off the budget; false when there is no more.
+  bool spend(int work);
+  bool spendGoto() { return --gotosLeft_ >= 0; }
+  bool spendCommand() { return --commandsLeft_ >= 0; }
+  // Stores a variable; it is left out where scripts hold too much text already.
+  void store(Container& owner, const QString& name, Value value);
+
+ private:
+  std::unique_ptr<Instance> make(const Character& character);
+  void enter(Container& parent, std::unique_ptr<Instance> instance);
+  void bury(Instance& instance);
+  bool raiseMember(Container& owner, ClipEvent event);
+
+  std::shared_ptr<const Movie> movie_;
+  std::map<std::uint32_t, Container*> containers_;  // by number, so by age
+  std::vector<std::unique_ptr<Instance>> graveyard_;
+  std::unique_ptr<Clip> root_;
+  std::deque<QueuedScript> queue_;
+  std::deque<QueuedScript> initQueue_;
+  std::set<CharacterId> initialized_;
+  std::uint32_t lastId_ = 1;  // the root's
+  int lastInstanceName_ = 0;
+  int instances_ = 0;
+  int workLeft_ = 0;
+  int gotosLeft_ = 0;
+  int commandsLeft_ = 0;
+  qsizetype scriptCharacters_ = 0;
+};
+
+}  // namespace platform::flash

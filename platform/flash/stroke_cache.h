@@ -1,0 +1,35 @@
+#pragma once
+
+#include <compare>
+#include <map>
+
+#include "platform/flash/outline.h"
+
+namespace platform::flash {
+
+// The surfaces of lines, with round ends and corners. Making one takes long, so they are kept for
+// the next picture.
+class StrokeCache {
+ public:
+  struct Key {
+    const Outline* line;
+    double width;  // twips, at which the line is to be drawn
+    double scale;  // pixels for each twip: how finely the surface has to follow curves
+
+    auto operator<=>(const Key&) const = default;
+  };
+
+  // The surface, in twips; to be filled by the winding rule.
+  [[nodiscard]] const Outline& stroke(const Key& key);
+  // Whether the next stroke() of this line is quick.
+  [[nodiscard]] bool holds(const Key& key) const { return strokes_.contains(key); }
+  // To be called between pictures: forgets everything when it has become too much.
+  void trim();
+  void clear();
+
+ private:
+  std::map<Key, Outline> strokes_;
+  std::size_t segments_ = 0;
+};
+
+}  // namespace platform::flash

@@ -1,0 +1,82 @@
+#include "platform/flash/targets.h"
+
+#include <algorithm>
+
+#include "platform/flash/stage.h"
+
+namespace platform::flash {
+
+namespace {
+
+bool isSeparator(QChar c) {
+  return c == u'/' || c == u'.' || c == u':';
+}
+
+// The front of the path up to a separator; takes it and the separator away.
+QStringView takeStep(QStringView& path) {
+  qsizetype end = 0;
+  if (path.startsWith(u"..")) {
+    end = 2;
+  } else {
+    while (end < path.size() && !isSeparator(path[end])) {
+      ++end;
+    }
+  }
+  const QStringView step = path.first(end);
+  path = path.sliced(std::min(end + 1, path.size()));
+  return step;
+}
+
+QString pathFrom(const Instance& instance, QChar separator) {
+  QString path;
+  for (const Instance* at = &instance; at->parent != nullptr; at = at->parent) {
+    path.prepend(at->name).prepend(separator);
+  }
+  return path;
+}
+
+}  // namespace
+
+Container* childNamed(const Stage& stage, const Container& parent, QStringView name) {
+  const Qt::CaseSensitivity sensitivity =
+      stage.movie().version <= 6 ? Qt::CaseInsensitive : Qt::CaseSensitive;
+  for (const auto& [depth, child] : parent.children) {
+    if (child->kind != Instance::Kind::Graphic && name.compare(child->name, sensitivity) == 0) {
+      return asContainer(child.get());
+    }
+  }
+  return nullptr;
+}
+
+Container* resolveTarget(const Stage& stage, Container* from, QStringView path) {
+  Container* at = from;
+  Container* root = stage.find(stage.root().id);
+  if (path.startsWith(u'/')) {
+    at = root;
+    path = path.sliced(1);
+  }
+  while (at != nullptr && !path.isEmpty()) {
+    const QStringView step = takeStep(path);
+    const auto is = [step](QStringView name) {
+      return step.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    if (is(u"_root") || is(u"_level0")) {
+      at = root;
+    } else if (is(u"..") || is(u"_parent")) {
+      at = at->parent;
+    } else if (!step.isEmpty() && !is(u"this")) {
+      at = childNamed(stage, *at, step);
+    }
+  }
+  return at;
+}
+
+QString slashPath(const Instance& instance) {
+  return instance.parent == nullptr ? QStringLiteral("/") : pathFrom(instance, u'/');
+}
+
+QString dotPath(const Instance& instance) {
+  return QStringLiteral("_level0") + pathFrom(instance, u'.');
+}
+
+}  // namespace platform::flash

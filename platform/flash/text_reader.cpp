@@ -1,0 +1,110 @@
+#include <QByteArrayView>
+
+#include "platform/flash/bit_reader.h"
+#include "platform/flash/definitions.h"
+#include "platform/flash/shape_reader.h"
+#include "platform/flash/structures.h"
+
+namespace platform::flash {
+
+namespace {
+
+// Reads glyphs that begin at the offsets, counted from tableAt; the last one ends where the body
+// does. A glyph that cannot be read is empty, the others are read all the same.
+Font readGlyphs(ByteReader& body, std::size_t tableAt, const std::vector<std::size_t>& offsets,
+                Allowance& allowance) {
+  Font font;
+  for (const std::size_t offset : offsets) {
+    allowance.spend(sizeof(Outline));
+    font.glyphs.emplace_back();
+    try {
+      body.seek(tableAt + offset);
+      font.glyphs.back() = readGlyph(body, allowance);
+    } catch (const MovieError&) {
+      if (allowance.isSpent()) {
+        throw;
+      }
+    }
+  }
+  return font;
+}
+
+}  // namespace
+
+Font readFont(ByteReader& body, Allowance& allowance) {
+  const std::size_t tableAt = body.position();
+  std::vector<std::size_t> offsets;
+  if (body.atEnd()) {
+    return {};
+  }
+  // The first offset tells how long the table is, since the first glyph follows it.
+  offsets.push_back(body.u16());
+  for (std::size_t i = 1; i < offsets.front() / 2; ++i) {
+    offsets.push_back(body.u16());
+  }
+  return readGlyphs(body, tableAt, offsets, allowance);
+}
+
+Font readFont2(ByteReader& body, double unitsPerEm, Allowance& allowance) {
+  constexpr unsigned wideOffsets = 0x08;
+  const unsigned flags = body.u8();
+  body.skip(1);          // language
+  body.skip(body.u8());  // name
+  const std::size_t count = body.u16();
+  const std::size_t tableAt = body.position();
+  std::vector<std::size_t> offsets;
+  for (std::size_t i = 0; i < count; ++i) {
+    offsets.push_back((flags & wideOffsets) != 0 ? body.u32() : body.u16());
+  }
+  Font font = readGlyphs(body, tableAt, offsets, allowance);
+  font.unitsPerEm = unitsPerEm;
+  return font;
+}
+
+Text readText(ByteReader& body, bool withAlpha, const ReadContext& context) {
+  constexpr unsigned hasFont = 8;
+  constexpr unsigned hasColor = 4;
+  constexpr unsigned hasY = 2;
+  constexpr unsigned hasX = 1;
+  Text text;
+  (void)readRect(body);
+  text.matrix = readMatrix(body);
+  const int glyphBits = body.u8();
+  const int advanceBits = body.u8();
+  if (glyphBits > 32 || advanceBits > 32) {
+    throw MovieError("a glyph has too many bits", body.position());
+  }
+  const Font* font = nullptr;
+  QRgb color = qRgb(0, 0, 0);
+  double height = 0;
+  double x = 0;
+  double y = 0;
+  for (unsigned flags = body.u8(); flags != 0; flags = body.u8()) {
+    if ((flags & hasFont) != 0) {
+      const Character* character = context.movie.character(body.u16());
+      font = character == nullptr ? nullptr : character->as<Font>();
+    }
+    if ((flags & hasColor) != 0) {
+      color = readColor(body, withAlpha);
+    }
+    x = (flags & hasX) != 0 ? body.s16() : x;
+    y = (flags & hasY) != 0 ? body.s16() : y;
+    height = (flags & hasFont) != 0 ? body.u16() : height;
+    int count = body.u8();
+    BitReader bits(body);
+    for (; count > 0; --count) {
+      const std::size_t glyph = bits.unsignedBits(glyphBits);
+      const double advance = bits.signedBits(advanceBits);
+      if (font != nullptr && glyph < font->glyphs.size() && !font->glyphs[glyph].isEmpty()) {
+        context.allowance.spend(sizeof(Text::Glyph));
+        const double scale = height / font->unitsPerEm;
+        text.glyphs.push_back({&font->glyphs[glyph], QTransform(scale, 0, 0, scale, x, y), color,
+                               font->glyphs[glyph].bounds()});
+      }
+      x += advance;
+    }
+  }
+  return text;
+}
+
+}  // namespace platform::flash

@@ -1,0 +1,512 @@
+#include "platform/flash/renderer.h"
+
+#include <QTest>
+#include <cmath>
+
+#include "hand_made.h"
+#include "platform/flash/player.h"
+
+using namespace hand_made;
+using platform::flash::Player;
+using platform::flash::Renderer;
+
+namespace {
+
+constexpr QRgb white = 0xFFFFFFFF;
+
+// The stage of a movie at a scale, 1 being its own size.
+QImage picture(const Player& player, double scale = 1) {
+  const QRectF stage = player.movie().stage;
+  QImage image(QSizeF(stage.size() * scale / 20).toSize(), QImage::Format_RGB32);
+  Renderer().paint(player.scene(), QTransform::fromScale(scale / 20, scale / 20),
+                   player.movie().background, image);
+  return image;
+}
+
+QImage picture(const QByteArray& tags, double scale = 1, int version = 6) {
+  return picture(Player(movie(file(tags, version, 20, 20)), [](auto&&...) {}), scale);
+}
+
+// Channel by channel, by no more than allowed.
+bool isNear(QRgb actual, QRgb expected, int allowed = 2) {
+  return std::abs(qRed(actual) - qRed(expected)) <= allowed &&
+         std::abs(qGreen(actual) - qGreen(expected)) <= allowed &&
+         std::abs(qBlue(actual) - qBlue(expected)) <= allowed;
+}
+
+#define COMPARE_COLOR(image, x, y, expected)      \
+  QVERIFY2(isNear((image).pixel(x, y), expected), \
+           qPrintable(QString::number((image).pixel(x, y), 16)))
+
+// A DefineShape of version 3 (tag 32) or below: styles as bytes, records as bits.
+QByteArray shape(unsigned code, const QByteArray& styles, const Bits& records) {
+  return tag(code, u16(1) + rect(0, 400, 0, 400) + styles + records.bytes());
+}
+
+QByteArray shown(const QByteArray& definition) {
+  return definition + place(1, 1) + showFrame();
+}
+
+QByteArray solid(unsigned rgb) {
+  return u8(0) + u8(rgb >> 16U) + u8((rgb >> 8U) & 255U) + u8(rgb & 255U);
+}
+
+// An edge of the given distance.
+Bits& edge(Bits& bits, int dx, int dy) {
+  return bits.raw("1 1 1111 1").number(17, dx).number(17, dy);
+}
+
+// Choose styles (two bits each for both fills, one for the line) and move.
+Bits& begin(Bits& bits, int fill0, int fill1, int line, int x, int y) {
+  return bits.raw("0 01111 10001")
+      .number(17, x)
+      .number(17, y)
+      .number(2, fill0)
+      .number(2, fill1)
+      .number(1, line);
+}
+
+// A gradient square laid over the 20 pixels of the stage: 400 twips are 32768 units.
+QByteArray gradientMatrix() {
+  // Scales of 400 / 32768 as 16.16 in 12 bits: 800; shifted by half the stage.
+  return Bits()
+      .raw("1 01100")
+      .number(12, 800)
+      .number(12, 800)
+      .raw("0 01010")
+      .number(10, 200)
+      .number(10, 200)
+      .bytes();
+}
+
+}  // namespace
+
+class RendererTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void theGroundHasTheMoviesBackgroundColour() {
+    const QImage image = picture(tag(9, u8(10) + u8(20) + u8(30)) + showFrame());
+    QCOMPARE(image.pixel(0, 0), qRgb(10, 20, 30));
+    QCOMPARE(picture(showFrame()).pixel(5, 5), white);
+  }
+
+  void aRectangleFillsExactlyItsPixels() {
+    const QImage image = picture(shown(rectangleShape(1, 100, 60, 200, 160, 0x3366CC)));
+    for (int y = 0; y < 20; ++y) {
+      for (int x = 0; x < 20; ++x) {
+        const bool inside = x >= 5 && x < 10 && y >= 3 && y < 8;
+        QCOMPARE(image.pixel(x, y), inside ? 0xFF3366CC : white);
+      }
+    }
+  }
+
+  void anEdgeWithinAPixelCoversItInProportion() {
+    // 5.5 to 10.25 pixels across: half a pixel on the left, a quarter on the right.
+    const QImage image = picture(shown(rectangleShape(1, 110, 60, 205, 165, 0x000000)));
+    COMPARE_COLOR(image, 5, 5, 0xFF808080);
+    COMPARE_COLOR(image, 6, 5, 0xFF000000);
+    COMPARE_COLOR(image, 10, 5, 0xFFBFBFBF);
+    COMPARE_COLOR(image, 7, 8, 0xFFBFBFBF);
+  }
+
+  void twoFillsThatShareAnEdgeShowNoSeam() {
+    // Red on the left and green on the right of a slanting edge, on a black ground: nothing black
+    // may shine through. The edge is drawn once, with fill0 on its one and fill1 on its other side.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 133, 0);  // down the slanting edge, red (1) beside green (2)
+    records = Bits();
+    records.raw("0010 0001");
+    begin(records, 1, 2, 0, 133, 400);  // upwards: left of it red, right of it green
+    edge(records, 90, -400);
+    begin(records, 0, 2, 0, 223, 0);
+    edge(edge(edge(records, 177, 0), 0, 400), -267, 0);
+    begin(records, 0, 1, 0, 133, 400);
+    edge(edge(edge(records, -133, 0), 0, -400), 223, 0);
+    records.raw("000000");
+    const QByteArray styles = u8(2) + solid(0xFF0000) + solid(0x00FF00) + u8(0);
+    const QByteArray tags = tag(9, u8(0) + u8(0) + u8(0)) + shown(shape(2, styles, records));
+    for (const double scale : {1.0, 1.37, 3.0}) {
+      const QImage image = picture(tags, scale);
+      for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+          const QRgb pixel = image.pixel(x, y);
+          QVERIFY(std::abs(qRed(pixel) + qGreen(pixel) - 255) <= 2);
+        }
+      }
+      COMPARE_COLOR(image, 1, image.height() / 2, 0xFFFF0000);
+      COMPARE_COLOR(image, image.width() - 2, image.height() / 2, 0xFF00FF00);
+    }
+  }
+
+  void twoShapesThatMeetWithinAPixelShowNoSeam() {
+    const QByteArray tags =
+        tag(9, u8(0) + u8(0) + u8(0)) + rectangleShape(1, 0, 0, 110, 400, 0xFFFFFF) +
+        rectangleShape(2, 110, 0, 400, 400, 0xFFFFFF) + place(1, 1) + place(2, 2) + showFrame();
+    const QImage image = picture(tags, 1.3);
+    for (int x = 0; x < image.width(); ++x) {
+      QCOMPARE(image.pixel(x, 10), white);
+    }
+  }
+
+  void laterFillsOfOneShapeCoverEarlierOnes() {
+    // Two squares that overlap, drawn one after the other without new styles, as some tools write.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 0, 0);
+    rectangleEdges(records, 0, 0, 200, 200);
+    begin(records, 0, 2, 0, 100, 100);
+    rectangleEdges(records, 100, 100, 300, 300);
+    records.raw("000000");
+    const QImage image =
+        picture(shown(shape(2, u8(2) + solid(0xFF0000) + solid(0x0000FF) + u8(0), records)));
+    QCOMPARE(image.pixel(2, 2), 0xFFFF0000);
+    QCOMPARE(image.pixel(7, 7), 0xFF0000FF);
+  }
+
+  void aContourWithinAnotherOneIsAHole() {
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 0, 0);
+    rectangleEdges(records, 0, 0, 400, 400);
+    begin(records, 0, 1, 0, 100, 100);
+    rectangleEdges(records, 100, 100, 300, 300);
+    records.raw("000000");
+    const QImage image = picture(shown(shape(2, u8(1) + solid(0xFF0000) + u8(0), records)));
+    QCOMPARE(image.pixel(2, 2), 0xFFFF0000);
+    QCOMPARE(image.pixel(10, 10), white);
+  }
+
+  void aCurveBulgesByHalfTheWayToItsControlPoint() {
+    // From (0,200) over the control point (200,-200) to (400,200): at x 200 the curve is at y 0.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 0, 200);
+    records.raw("1 0 1111").number(17, 200).number(17, -400).number(17, 200).number(17, 400);
+    edge(records, -400, 0);
+    records.raw("000000");
+    const QImage image = picture(shown(shape(2, u8(1) + solid(0x0000FF) + u8(0), records)));
+    COMPARE_COLOR(image, 10, 1, 0xFF0000FF);
+    QCOMPARE(image.pixel(1, 1), white);
+    // At x 100 (5 pixels) the curve is at y 200 - 2*0.25*0.75*400 = 50, 2.5 pixels.
+    QCOMPARE(image.pixel(4, 1), white);
+    COMPARE_COLOR(image, 5, 3, 0xFF0000FF);
+  }
+
+  void aLinearGradientGoesFromTheLeftToTheRightOfItsSquare() {
+    // Black at ratio 0 to white at ratio 255.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 0, 0);
+    rectangleEdges(records, 0, 0, 400, 400).raw("000000");
+    const QByteArray fill = u8(0x10) + gradientMatrix() + u8(2) + u8(0) + solid(0).mid(1) +
+                            u8(255) + solid(0xFFFFFF).mid(1);
+    const QImage image = picture(shown(shape(2, u8(1) + fill + u8(0), records)));
+    // The middle of pixel x lies at (x + 0.5) / 20 of the way.
+    for (int x = 0; x < 20; ++x) {
+      const int grey = qRound((x + 0.5) / 20 * 255);
+      QVERIFY(isNear(image.pixel(x, 7), qRgb(grey, grey, grey), 2));
+    }
+  }
+
+  void aRadialGradientGoesFromTheCentreToTheInscribedCircle() {
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 0, 0);
+    rectangleEdges(records, 0, 0, 400, 400).raw("000000");
+    const QByteArray fill = u8(0x12) + gradientMatrix() + u8(2) + u8(0) + solid(0).mid(1) +
+                            u8(255) + solid(0xFFFFFF).mid(1);
+    const QImage image = picture(shown(shape(2, u8(1) + fill + u8(0), records)));
+    // 5.5 pixels to the left and half a pixel up from the centre, of 10 pixels.
+    const int grey = qRound(std::hypot(5.5, 0.5) / 10 * 255);
+    QVERIFY(isNear(image.pixel(4, 9), qRgb(grey, grey, grey), 2));
+    QCOMPARE(image.pixel(0, 0), white);  // the end goes on
+  }
+
+  void stopsOfAGradientLieAtTheirRatios() {
+    // Red up to ratio 128, then to blue.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 0, 0);
+    rectangleEdges(records, 0, 0, 400, 400).raw("000000");
+    const QByteArray fill = u8(0x10) + gradientMatrix() + u8(3) + u8(0) + solid(0xFF0000).mid(1) +
+                            u8(128) + solid(0xFF0000).mid(1) + u8(255) + solid(0x0000FF).mid(1);
+    const QImage image = picture(shown(shape(2, u8(1) + fill + u8(0), records)));
+    QVERIFY(isNear(image.pixel(3, 7), qRgb(255, 0, 0), 2));
+    QVERIFY(isNear(image.pixel(9, 7), qRgb(255, 0, 0), 2));
+    const double t = (14.5 / 20 * 255 - 128) / 127;
+    QVERIFY(isNear(image.pixel(14, 7), qRgb(qRound(255 * (1 - t)), 0, qRound(255 * t)), 3));
+  }
+
+  void aLineIsAsWideAsItsStyleSaysAndItsEndsAreRound() {
+    // Four pixels wide, along y 10, from x 5 to x 15.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 0, 1, 100, 200);
+    edge(records, 200, 0).raw("000000");
+    const QByteArray styles = u8(0) + u8(1) + u16(80) + u8(255) + u8(0) + u8(0);
+    const QImage image = picture(shown(shape(2, styles, records)));
+    QCOMPARE(image.pixel(10, 7), white);
+    QCOMPARE(image.pixel(10, 8), 0xFFFF0000);
+    QCOMPARE(image.pixel(10, 11), 0xFFFF0000);
+    QCOMPARE(image.pixel(10, 12), white);
+    COMPARE_COLOR(image, 3, 10,
+                  image.pixel(16, 9));  // the caps reach two pixels out, symmetrically
+    QVERIFY(image.pixel(3, 10) != white);
+    QCOMPARE(image.pixel(2, 10), white);
+    QVERIFY(image.pixel(3, 8) != 0xFFFF0000);  // round, not square
+  }
+
+  void aLineScalesWithTheMatrix() {
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 0, 1, 100, 100);
+    edge(records, 100, 0).raw("000000");
+    const QByteArray styles = u8(0) + u8(1) + u16(40) + u8(255) + u8(0) + u8(0);
+    // Scaled to the double: 2.0 as 16.16 in 19 bits.
+    const QByteArray twice =
+        Bits().raw("1 10011").number(19, 131072).number(19, 131072).raw("0 00000").bytes();
+    const QImage image =
+        picture(shape(2, styles, records) + tag(26, u8(6) + u16(1) + u16(1) + twice) + showFrame());
+    QCOMPARE(image.pixel(15, 7), white);
+    QCOMPARE(image.pixel(15, 8), 0xFFFF0000);
+    QCOMPARE(image.pixel(15, 11), 0xFFFF0000);
+    QCOMPARE(image.pixel(15, 12), white);
+  }
+
+  void aHairlineIsNeverThinnerThanAPixel() {
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 0, 1, 0, 210);  // along the middle of pixel row 10
+    edge(records, 400, 0).raw("000000");
+    const QByteArray styles = u8(0) + u8(1) + u16(0) + u8(0) + u8(0) + u8(0);
+    const QImage image = picture(shown(shape(2, styles, records)));
+    COMPARE_COLOR(image, 10, 10, 0xFF000000);
+    // Drawn at a quarter of its size it still is one pixel of full darkness, spread over two rows.
+    const QImage tiny = picture(shown(shape(2, styles, records)), 0.25);
+    QVERIFY(qRed(tiny.pixel(2, 2)) + qRed(tiny.pixel(2, 1)) + qRed(tiny.pixel(2, 3)) <=
+            2 * 255 + 4);
+  }
+
+  void transparentColoursLetTheGroundThrough() {
+    // DefineShape3: half transparent blue.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 0, 0);
+    rectangleEdges(records, 0, 0, 200, 200).raw("000000");
+    const QImage image =
+        picture(shown(shape(32, u8(1) + solid(0x0000FF) + u8(128) + u8(0), records)));
+    COMPARE_COLOR(image, 5, 5, 0xFF7F7FFF);
+  }
+
+  void newStylesBeginALayerAbove() {
+    // DefineShape2: a red square, then new styles and a smaller blue one within it.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 1, 0, 0, 0);
+    rectangleEdges(records, 0, 0, 400, 400).raw("0 10000");
+    const QByteArray more = u8(1) + solid(0x0000FF) + u8(0);
+    Bits rest;
+    rest.raw("0010 0001");
+    begin(rest, 0, 1, 0, 100, 100);
+    rectangleEdges(rest, 100, 100, 300, 300).raw("000000");
+    const QByteArray tags = tag(22, u16(1) + rect(0, 400, 0, 400) + u8(1) + solid(0xFF0000) +
+                                        u8(0) + records.bytes() + more + rest.bytes());
+    const QImage image = picture(shown(tags));
+    QCOMPARE(image.pixel(2, 2), 0xFFFF0000);
+    QCOMPARE(image.pixel(10, 10), 0xFF0000FF);
+  }
+
+  void moreThanTwoHundredAndFiftyFourStylesCanBeUsed() {
+    // The count 255 says that two bytes of count follow. The last of 300 styles is used.
+    QByteArray styles = u8(255) + u16(300);
+    for (int i = 0; i < 299; ++i) {
+      styles += solid(0xFF0000);
+    }
+    styles += solid(0x00FF00) + u8(0);
+    Bits records;
+    records.raw("1001 0000");
+    records.raw("0 00101 10001").number(17, 0).number(17, 0).number(9, 300);
+    rectangleEdges(records, 0, 0, 400, 400).raw("000000");
+    QCOMPARE(picture(shown(shape(22, styles, records))).pixel(9, 9), 0xFF00FF00);
+  }
+
+  void colourTransformsMultiplyThenAddAndClampChildBeforeParent() {
+    // Inner: red * 0.5 + 100; outer: green + 300 (clamped), blue * 0.
+    const QByteArray inner = Bits()
+                                 .raw("1 1 1011")
+                                 .number(11, 128)
+                                 .number(11, 256)
+                                 .number(11, 256)
+                                 .number(11, 256)
+                                 .number(11, 100)
+                                 .number(11, 0)
+                                 .number(11, 0)
+                                 .number(11, 0)
+                                 .bytes();
+    const QByteArray outer = Bits()
+                                 .raw("1 1 1011")
+                                 .number(11, 128)
+                                 .number(11, 256)
+                                 .number(11, 0)
+                                 .number(11, 256)
+                                 .number(11, 0)
+                                 .number(11, 300)
+                                 .number(11, 0)
+                                 .number(11, 0)
+                                 .bytes();
+    const auto placed = [](unsigned id, const QByteArray& color) {
+      return tag(26, u8(0x0E) + u16(1) + u16(id) + shift(0, 0) + color);
+    };
+    const QByteArray tags = square(1, 20, 0xC86432) + sprite(2, placed(1, inner) + showFrame()) +
+                            placed(2, outer) + showFrame();
+    // 200 * 0.5 + 100 = 200, then * 0.5 = 100; 100 + 300 clamps; 50 * 0.
+    COMPARE_COLOR(picture(tags), 5, 5, qRgb(100, 255, 0));
+  }
+
+  void theFirstPlaceObjectKnowsMatrixAndColoursWithoutAlpha() {
+    const QByteArray halfRed =
+        Bits().raw("0 1 1010").number(10, 128).number(10, 256).number(10, 256).bytes();
+    const QImage image = picture(square(1, 5, 0xFFFFFF) +
+                                 tag(4, u16(1) + u16(1) + shift(100, 100) + halfRed) + showFrame());
+    COMPARE_COLOR(image, 7, 7, qRgb(128, 255, 255));
+    QCOMPARE(image.pixel(4, 4), white);
+    const QImage plain =
+        picture(square(1, 5, 0x00FF00) + tag(4, u16(1) + u16(1) + shift(100, 100)) + showFrame());
+    QCOMPARE(plain.pixel(7, 7), 0xFF00FF00);
+  }
+
+  void higherDepthsCoverLowerOnes() {
+    const QImage image = picture(square(1, 10, 0xFF0000) + square(2, 10, 0x0000FF) + place(7, 1) +
+                                 place(3, 2, 5, 5) + showFrame());
+    QCOMPARE(image.pixel(7, 7), 0xFFFF0000);
+    QCOMPARE(image.pixel(12, 12), 0xFF0000FF);
+  }
+
+  void aMaskShowsTheDepthsAboveItUpToItsClipDepthOnlyWhereItLies() {
+    // The mask: depth 2, clip depth 4, the left half.
+    const QByteArray mask = tag(26, u8(0x46) + u16(2) + u16(1) + shift(0, 0) + u16(4));
+    const QImage image = picture(rectangleShape(1, 0, 0, 200, 400, 0x123456) +
+                                 rectangleShape(2, 0, 0, 400, 100, 0xFF0000) +
+                                 rectangleShape(3, 0, 200, 400, 400, 0x00FF00) + mask +
+                                 place(4, 2) + place(5, 3) + showFrame());
+    QCOMPARE(image.pixel(5, 2), 0xFFFF0000);
+    QCOMPARE(image.pixel(15, 2), white);        // masked out
+    QCOMPARE(image.pixel(15, 15), 0xFF00FF00);  // above the clip depth
+    QCOMPARE(image.pixel(5, 7), white);         // the mask itself is not seen
+  }
+
+  void aMaskWithinAMaskShowsOnlyWhatBothLetThrough() {
+    const auto mask = [](unsigned depth, unsigned id, unsigned upTo) {
+      return tag(26, u8(0x46) + u16(depth) + u16(id) + shift(0, 0) + u16(upTo));
+    };
+    const QImage image = picture(rectangleShape(1, 0, 0, 200, 400, 0) +
+                                 rectangleShape(2, 0, 0, 400, 200, 0) + square(3, 20, 0xFF0000) +
+                                 mask(1, 1, 9) + mask(2, 2, 9) + place(3, 3) + showFrame());
+    QCOMPARE(image.pixel(5, 5), 0xFFFF0000);
+    QCOMPARE(image.pixel(15, 5), white);
+    QCOMPARE(image.pixel(5, 15), white);
+  }
+
+  void hiddenAndTransparentClipsAreNotDrawn() {
+    Player player(movie(file(square(1, 20, 0xFF0000) + sprite(2, place(1, 1) + showFrame()) +
+                                 place(1, 2, 0, 0, "c") + showFrame(),
+                             6, 20, 20)),
+                  [](auto&&...) {});
+    QCOMPARE(picture(player).pixel(5, 5), 0xFFFF0000);
+    player.setProperty(QStringLiteral("c"), 6, QStringLiteral("50"));
+    COMPARE_COLOR(picture(player), 5, 5, 0xFFFF7F7F);
+    player.setProperty(QStringLiteral("c"), 6, QStringLiteral("0"));
+    QCOMPARE(picture(player).pixel(5, 5), white);
+    player.setProperty(QStringLiteral("c"), 6, QStringLiteral("100"));
+    player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+    QCOMPARE(picture(player).pixel(5, 5), white);
+    player.setProperty(QStringLiteral("c"), 7, QStringLiteral("1"));
+    QCOMPARE(picture(player).pixel(5, 5), 0xFFFF0000);
+  }
+
+  void matricesRotateAndSkew() {
+    // A quarter turn clockwise: scales 0, skews 1 and -1, shifted right by 20 pixels.
+    const QByteArray turned = Bits()
+                                  .raw("1 00010 00 00  1 10010")
+                                  .number(18, 65536)
+                                  .number(18, -65536)
+                                  .raw("01010")
+                                  .number(10, 400)
+                                  .number(10, 0)
+                                  .bytes();
+    const QImage image = picture(rectangleShape(1, 0, 0, 200, 100, 0xFF0000) +
+                                 tag(26, u8(6) + u16(1) + u16(1) + turned) + showFrame());
+    QCOMPARE(image.pixel(17, 5), 0xFFFF0000);  // 5 pixels wide, 10 high, at the right
+    QCOMPARE(image.pixel(14, 5), white);
+    QCOMPARE(image.pixel(17, 11), white);
+  }
+
+  void textIsDrawnWithTheOutlinesOfItsFont_data() {
+    QTest::addColumn<int>("fontTag");
+    QTest::addColumn<int>("textTag");
+    QTest::newRow("DefineFont") << 10 << 11;
+    QTest::newRow("DefineFont2") << 48 << 11;
+    QTest::newRow("DefineFont3") << 75 << 11;
+    QTest::newRow("DefineText2") << 48 << 33;
+  }
+
+  void textIsDrawnWithTheOutlinesOfItsFont() {
+    QFETCH(int, fontTag);
+    QFETCH(int, textTag);
+    // Two glyphs: none, and the em square (from the base line upwards).
+    const int em = fontTag == 75 ? 20480 : 1024;
+    Bits filled;
+    filled.raw("0001 0000  0 00101 10001").number(17, 0).number(17, -em).raw("1");
+    rectangleEdges(filled, 0, -em, em, 0).raw("000000");
+    const QByteArray blank = Bits().raw("0001 0000 000000").bytes();
+    const QByteArray glyphs = blank + filled.bytes();
+    const QByteArray font =
+        fontTag == 10 ? tag(10, u16(1) + u16(4) + u16(4 + unsigned(blank.size())) + glyphs)
+                      : tag(unsigned(fontTag), u16(1) + u8(0) + u8(0) + u8(1) + "F" + u16(2) +
+                                                   u16(6) + u16(6 + unsigned(blank.size())) +
+                                                   u16(6 + unsigned(glyphs.size())) + glyphs +
+                                                   u8(65) + u8(66));
+    // Glyphs 1, 0, 1 in green, 100 twips high, 100 twips apart, from (100, 200).
+    // The second kind of text has colours with alpha.
+    const QByteArray color = u8(0) + u8(255) + u8(0) + (textTag == 33 ? u8(255) : QByteArray());
+    const QByteArray written = tag(
+        unsigned(textTag), u16(2) + rect(0, 400, 0, 400) + shift(0, 0) + u8(1) + u8(8) + u8(0x8F) +
+                               u16(1) + color + u16(100) + u16(200) + u16(100) + u8(3) +
+                               Bits().raw("1 01100100 0 01100100 1 01100100").bytes() + u8(0));
+    const QImage image = picture(font + written + place(1, 2) + showFrame());
+    QCOMPARE(image.pixel(7, 7), 0xFF00FF00);
+    QCOMPARE(image.pixel(12, 7), white);
+    QCOMPARE(image.pixel(17, 7), 0xFF00FF00);
+    QCOMPARE(image.pixel(7, 4), white);
+    QCOMPARE(image.pixel(7, 11), white);
+  }
+
+  void linesWithCapsOfTheirOwnAreReadFromTheFourthShape() {
+    // DefineShape4: width 80, no join of its own, colour with alpha.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 0, 1, 100, 200);
+    edge(records, 200, 0).raw("000000");
+    const QByteArray line = u16(80) + u8(0) + u8(0) + u8(255) + u8(0) + u8(0) + u8(255);
+    const QImage image =
+        picture(shown(tag(83, u16(1) + rect(0, 400, 0, 400) + rect(0, 400, 0, 400) + u8(0) + u8(0) +
+                                  u8(1) + line + records.bytes())),
+                1, 8);
+    QCOMPARE(image.pixel(10, 9), 0xFFFF0000);
+  }
+
+  void aPictureIsSharpAtAnyScale() {
+    // An edge on a whole pixel stays sharp when the picture is made larger.
+    const QByteArray tags = shown(rectangleShape(1, 100, 100, 200, 200, 0));
+    const QImage image = picture(tags, 7);
+    QCOMPARE(image.pixel(34, 50), white);
+    QCOMPARE(image.pixel(35, 50), 0xFF000000);
+    QCOMPARE(image.pixel(69, 50), 0xFF000000);
+    QCOMPARE(image.pixel(70, 50), white);
+  }
+};
+
+QTEST_APPLESS_MAIN(RendererTest)
+#include "renderer_test.moc"
