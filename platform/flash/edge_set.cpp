@@ -152,38 +152,53 @@ int EdgeSet::gatherLive(int subrow) {
       end = std::min(end, edge->top);
     } else if (edge->bottom > subrow) {
       end = std::min(end, edge->bottom);
-      // The edges in work are nearly in order.
-      const Across x = edge->at(subrow);
-      live_.push_back(edge);
-      std::size_t at = live_.size() - 1;
-      for (; at > 0 && x < live_[at - 1]->at(subrow); --at) {
-        live_[at] = live_[at - 1];
-      }
-      live_[at] = edge;
+      live_.push_back({edge->at(subrow), edge});
     }
   }
+  sortLive();
   if (live_.size() == active_.size()) {
-    active_ = live_;  // in order for the rows that follow
+    // In order for the rows that follow.
+    std::transform(live_.begin(), live_.end(), active_.begin(),
+                   [](const Crossing& crossing) { return crossing.edge; });
   }
   return end;
 }
 
-bool EdgeSet::keepOrder(int subrow) const {
+void EdgeSet::sortLive() {
+  // The edges in work are nearly in order, so they are put in one by one; but not for longer than
+  // sorting takes.
+  std::size_t moves = 8 * live_.size();
   for (std::size_t i = 1; i < live_.size(); ++i) {
-    if (live_[i]->at(subrow) < live_[i - 1]->at(subrow)) {
-      return false;
+    const Crossing crossing = live_[i];
+    std::size_t at = i;
+    for (; at > 0 && crossing.x < live_[at - 1].x; --at) {
+      live_[at] = live_[at - 1];
     }
+    live_[at] = crossing;
+    if (i - at > moves) {
+      std::stable_sort(live_.begin(), live_.end(), [](const Crossing& left, const Crossing& right) {
+        return left.x < right.x;
+      });
+      return;
+    }
+    moves -= i - at;
   }
-  return true;
+}
+
+bool EdgeSet::keepOrder(int subrow) const {
+  return std::is_sorted(live_.begin(), live_.end(),
+                        [subrow](const Crossing& left, const Crossing& right) {
+                          return left.edge->at(subrow) < right.edge->at(subrow);
+                        });
 }
 
 void EdgeSet::coverLive(RowCoverage& coverage, int subrow, int end) const {
   const int first = row_ * samples;
   int winding = 0;
-  for (const Edge* edge : live_) {
+  for (const auto& [x, edge] : live_) {
     const int after = windingAfter(winding, edge->direction);
     if ((winding == 0) != (after == 0)) {
-      coverage.cross(subrow - first, end - first, edge->at(subrow), edge->slope);
+      coverage.cross(subrow - first, end - first, x, edge->slope);
     }
     winding = after;
   }

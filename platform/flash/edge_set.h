@@ -101,8 +101,10 @@ class EdgeSet {
   // Gathers the edges that cross a row of samples, from the left to the right. Returns the row of
   // samples from which on others do.
   int gatherLive(int subrow);
+  void sortLive();
   // Whether the live edges keep their order down to that row of samples.
   [[nodiscard]] bool keepOrder(int subrow) const;
+  // Covers the rows of samples from the one that the live edges were gathered for.
   void coverLive(RowCoverage& coverage, int subrow, int end) const;
 
   Rule rule_;
@@ -113,7 +115,12 @@ class EdgeSet {
   std::vector<Edge> edges_;
   std::size_t next_ = 0;
   std::vector<const Edge*> active_;
-  std::vector<const Edge*> live_;
+  // An edge and where it crosses the row of samples in work.
+  struct Crossing {
+    Across x;
+    const Edge* edge;
+  };
+  std::vector<Crossing> live_;
 };
 
 template <typename Run>
