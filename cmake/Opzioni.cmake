@@ -14,7 +14,6 @@ target_compile_definitions(somme_opzioni INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 target_compile_options(somme_opzioni INTERFACE -Wall -Wextra -Wpedantic -Wshadow
-  $<$<CXX_COMPILER_ID:Clang>:-Wno-missing-designated-field-initializers>
   -Wno-missing-field-initializers
   # GCC 12 sees strings in a std::variant as uninitialized where they are not.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
