@@ -27,12 +27,13 @@ def risvegli(processo):
 def riposo(schermo, programma, cartella):
     """The bars at rest, after a wrong and a right answer with their sounds."""
     from albero import Albero
-    from gioca import Giocatore
+    from giocatore import Giocatore
+    from partite import barre
     processo = schermo.avvia(programma, stderr=subprocess.DEVNULL)
     with open(os.devnull, "w", encoding="ascii") as nulla:
         voce, sys.stdout = sys.stdout, nulla
         try:
-            Giocatore(schermo, Albero(processo), cartella).gioca()
+            barre(Giocatore(schermo, Albero(processo), cartella))
         finally:
             sys.stdout = voce
     time.sleep(QUIETE)

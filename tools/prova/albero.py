@@ -43,6 +43,11 @@ class Oggetto:
         return self._chiedi(lambda a: a.description or "", "")
 
     @property
+    def testo(self):
+        """What a text control holds; empty for others."""
+        return self._chiedi(lambda a: a.queryText().getText(0, -1), "")
+
+    @property
     def ruolo(self):
         """As the library writes it: "push button", "label", "menu item"."""
         return self._chiedi(lambda a: a.getRoleName(), "")
