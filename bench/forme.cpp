@@ -1,8 +1,10 @@
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
 #include <vector>
@@ -19,6 +21,7 @@
 #include "platform/forms/fonts.h"
 #include "platform/forms/keys/key_guard.h"
 #include "schermo.h"
+#include "servizi_fermi.h"
 
 // The forms from inside the program, on a real display: how long a form takes to show, against as
 // many plain widgets of Qt's with the same texts and fonts; and how soon a verdict is painted.
@@ -29,46 +32,63 @@ using platform::Form;
 
 constexpr int kTimes = 20;
 
-struct Muto final : platform::Sound {
-  void play(const QString& /*path*/) override {}
-};
-struct Chiuso final : platform::Documents {
-  void open(const QString& /*path*/) override {}
-};
-struct Uscita final : platform::ProcessEnd {
-  void end(int status) override { std::exit(status); }
-};
-struct Solo final : platform::InstanceLock {
-  [[nodiscard]] bool take() override { return true; }
-};
-struct SenzaStampanti final : platform::Printers {
-  [[nodiscard]] List list() override { return {}; }
-  [[nodiscard]] Opened open(const QString& /*name*/) override { return {}; }
-  [[nodiscard]] platform::PrintResult print(const platform::PrintJob& /*job*/) override {
-    return {};
-  }
-};
-struct SenzaPagina final : platform::PageSetup {
-  [[nodiscard]] bool choose(const QString& /*printer*/, const platform::PrinterTraits& /*traits*/,
-                            platform::PrinterSettings& /*settings*/) override {
-    return false;
-  }
-};
-struct Zitto final : platform::MessageBoxes {
-  platform::BoxAnswer show(const platform::MessageBox& /*box*/) override {
-    return platform::BoxAnswer::Ok;
-  }
-};
-
 double millisecondi(const QElapsedTimer& orologio) {
   return static_cast<double>(orologio.nsecsElapsed()) / 1e6;
 }
 
+// The program's folder as it is, but for a language file whose length can be changed.
+class Cartella {
+ public:
+  explicit Cartella(const QString& vera) {
+    for (const QFileInfo& voce :
+         QDir(vera).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
+      const QString qui = cartella_.filePath(voce.fileName());
+      if (voce.fileName() != kLingua) QFile::link(voce.absoluteFilePath(), qui);
+    }
+    QFile file(vera + u'/' + kLingua);
+    if (!file.open(QIODevice::ReadOnly)) qFatal("no language file");
+    corto_ = file.readAll();
+    scrivi(corto_);
+  }
+
+  [[nodiscard]] QString percorso() const { return cartella_.path(); }
+
+  void scriviCorta() const { scrivi(corto_); }
+  // 64,000 bytes, the program's own sections behind those of others.
+  void scriviLunga() const {
+    QByteArray testo;
+    for (int sezione = 0; testo.size() + corto_.size() < 64'000; ++sezione) {
+      testo += "[Altro" + QByteArray::number(sezione) + "]\r\n";
+      for (int i = 0; i < 20; ++i) {
+        testo += "Label" + QByteArray::number(i) + ".Caption=\"Un testo di un'altra forma\"\r\n";
+      }
+    }
+    scrivi(testo.left(64'000 - corto_.size() - 2) + "\r\n" + corto_);
+  }
+
+ private:
+  static inline const QString kLingua = QStringLiteral("Italiano.lng");
+
+  void scrivi(const QByteArray& testo) const {
+    QFile file(cartella_.filePath(kLingua));
+    if (!file.open(QIODevice::WriteOnly) || file.write(testo) != testo.size()) {
+      qFatal("cannot write the language file");
+    }
+    file.close();
+    // What has just changed is read anew each time; on any day it has not.
+    QTest::qWait(200);
+  }
+
+  QTemporaryDir cartella_;
+  QByteArray corto_;
+};
+
 class Misura {
  public:
   explicit Misura(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
-                   pagina_, cartella},
+      : cartella_(cartella),
+        ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
+                   pagina_, cartella_.percorso()},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     somme::Avvia(ambiente_);
     QTest::qWait(500);
@@ -77,6 +97,7 @@ class Misura {
   void mostra(std::string_view nome) {
     std::vector<double> forma;
     std::vector<double> nudi;
+    std::vector<double> lunga;
     int controlli = 0;
     for (int i = 0; i <= kTimes; ++i) {
       const double proprio = mostraForma(nome, controlli);
@@ -85,11 +106,19 @@ class Misura {
       forma.push_back(proprio);
       nudi.push_back(semplice);
     }
+    cartella_.scriviLunga();
+    for (int i = 0; i <= kTimes; ++i) {
+      const double proprio = mostraForma(nome, controlli);
+      if (i > 0) lunga.push_back(proprio);
+    }
+    cartella_.scriviCorta();
     const double a = bench::mediana(forma);
     const double b = bench::mediana(nudi);
     std::printf(
-        "showing %.*s (%d controls): %.2f ms, plain widgets %.2f ms: %.2f times (at most 2)\n",
-        static_cast<int>(nome.size()), nome.data(), controlli, a, b, a / b);
+        "showing %.*s (%d controls): %.2f ms, plain widgets %.2f ms: %.2f times (at most 2); "
+        "with 64,000 bytes of language %.2f times (1.5)\n",
+        static_cast<int>(nome.size()), nome.data(), controlli, a, b, a / b,
+        bench::mediana(lunga) / a);
   }
 
   void verdetti() {
@@ -116,6 +145,30 @@ class Misura {
     std::printf(
         "from the key to the painted verdict: median %.2f ms, 95 of 100 within %.2f ms (16)\n",
         tempi[tempi.size() / 2], tempi[tempi.size() * 95 / 100]);
+  }
+
+  // The record of solved cases: what the last of ten thousand lines costs against the first ones,
+  // hidden as while answering.
+  void elenco() {
+    constexpr int kRighe = 10'000;
+    constexpr int kCampione = 50;
+    ambiente_.fondo.forms().show(somme::forme::kFormBarre10);
+    QTest::qWait(300);
+    auto& forma = *dynamic_cast<somme::FormBarre10*>(ambiente_.fondo.forms().current());
+    std::vector<double> prime;
+    std::vector<double> ultime;
+    for (int i = 0; i < kRighe; ++i) {
+      QElapsedTimer orologio;
+      orologio.start();
+      forma.TestoStampa.append(QStringLiteral(" 3 +  4 =  7\r\n"));
+      QCoreApplication::processEvents();
+      if (i < kCampione) prime.push_back(millisecondi(orologio));
+      if (i >= kRighe - kCampione) ultime.push_back(millisecondi(orologio));
+    }
+    const double prima = bench::mediana(prime);
+    const double ultima = bench::mediana(ultime);
+    std::printf("a line of the record: first %.4f ms, of %d the last %.4f ms: %.2f times (2)\n",
+                prima, kRighe, ultima, ultima / prima);
   }
 
   // What the key guard adds to a key that does nothing, told apart: the same taps with it and
@@ -207,15 +260,16 @@ class Misura {
     return tempo;
   }
 
+  Cartella cartella_;
   platform::QtTimeSource tempo_;
   platform::SeededChance sorte_{1};
-  Muto suono_;
-  Zitto messaggi_;
-  Chiuso documenti_;
-  Uscita fine_;
-  Solo istanza_;
-  SenzaStampanti stampanti_;
-  SenzaPagina pagina_;
+  bench::Muto suono_;
+  bench::Zitto messaggi_;
+  bench::Chiuso documenti_;
+  bench::Uscita fine_;
+  bench::Solo istanza_;
+  bench::SenzaStampanti stampanti_;
+  bench::SenzaPagina pagina_;
   somme::Ambiente ambiente_;
   std::vector<Descrizione> modello_;
 };
@@ -236,6 +290,7 @@ int main(int argc, char* argv[]) {
   }
   misura.verdetti();
   misura.guardia();
+  misura.elenco();
   std::fflush(stdout);
   std::_Exit(0);
 }

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdlib>
+
+#include "app/shared/ambiente.h"
+
+// Services that do nothing: what is measured is the program, not the machine around it.
+namespace bench {
+
+struct Muto final : platform::Sound {
+  void play(const QString& /*path*/) override {}
+};
+struct Chiuso final : platform::Documents {
+  void open(const QString& /*path*/) override {}
+};
+struct Uscita final : platform::ProcessEnd {
+  void end(int status) override { std::exit(status); }
+};
+struct Solo final : platform::InstanceLock {
+  [[nodiscard]] bool take() override { return true; }
+};
+struct SenzaStampanti final : platform::Printers {
+  [[nodiscard]] List list() override { return {}; }
+  [[nodiscard]] Opened open(const QString& /*name*/) override { return {}; }
+  [[nodiscard]] platform::PrintResult print(const platform::PrintJob& /*job*/) override {
+    return {};
+  }
+};
+struct SenzaPagina final : platform::PageSetup {
+  [[nodiscard]] bool choose(const QString& /*printer*/, const platform::PrinterTraits& /*traits*/,
+                            platform::PrinterSettings& /*settings*/) override {
+    return false;
+  }
+};
+struct Zitto final : platform::MessageBoxes {
+  platform::BoxAnswer show(const platform::MessageBox& /*box*/) override {
+    return platform::BoxAnswer::Ok;
+  }
+};
+
+}  // namespace bench
