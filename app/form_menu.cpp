@@ -101,6 +101,9 @@ FormMenu::FormMenu(Ambiente& ambiente) : Forma(ambiente, kDisegno) {
   Command4.onClick([this] { VaiA(forme::kFormMenuPLU); });
   Command5.onClick([this] { VaiA(forme::kFormMenuAbaco); });
   Command6.onClick([this] { VaiA(forme::kFormMenuTabella); });
+  for (platform::Button* strada : {&Command2, &Command3, &Command4, &Command5, &Command6}) {
+    strada->shareCaptionSize(scritte_);
+  }
   HScrollScansione.onChange([this] { CambiaTempo(); });
   CommandConfermaTempoInput.onClick([this] { PictureTempoScansione.setVisible(false); });
   CollegaMenu();

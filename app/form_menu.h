@@ -2,6 +2,7 @@
 
 #include "app/shared/forma.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/caption_size.h"
 #include "platform/forms/controls/label.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/controls/picture_box.h"
@@ -48,6 +49,8 @@ class FormMenu final : public Forma {
   void onActivate() override;
 
  private:
+  platform::CaptionSize scritte_;  // of the ways to the families
+
   void CollegaMenu();
   void InvertiSuoni();
   void InvertiCursore();

@@ -19,6 +19,7 @@ void FormaMenu::onActivate() {
 }
 
 void FormaMenu::Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta) {
+  pulsante.shareCaptionSize(scritte_);
   pulsante.setEnabled(StradaAperta(ambiente(), famiglia));
   pulsante.onClick([this, famiglia, scelta = std::move(scelta)] {
     scelta();

@@ -5,6 +5,7 @@
 #include "app/shared/forma.h"
 #include "app/strade.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/caption_size.h"
 #include "platform/forms/controls/label.h"
 
 namespace somme {
@@ -26,6 +27,9 @@ class FormaMenu : public Forma {
   // fits the pupil's input mode is shown. Where there is no such form the button is disabled.
   void Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta);
   void TornaAlMenu();
+
+ private:
+  platform::CaptionSize scritte_;  // of the buttons that open exercises
 };
 
 }  // namespace somme

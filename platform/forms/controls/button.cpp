@@ -1,6 +1,7 @@
 #include "platform/forms/controls/button.h"
 
 #include "platform/forms/controls/button_widget.h"
+#include "platform/forms/controls/caption_size.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/form.h"
 #include "platform/forms/runtime.h"
@@ -10,6 +11,7 @@ namespace platform {
 QWidget* Button::create(QWidget* parent) {
   auto* button = new ButtonWidget(parent, runtime().pictures(), [this] { click(); });
   button->setPicture(QString::fromUtf8(look().picture.data(), qsizetype(look().picture.size())));
+  if (captionSize_ != nullptr) captionSize_->add(*button);
   return button;
 }
 
@@ -33,6 +35,11 @@ void Button::setCaption(const QString& caption) {
 void Button::setSpokenName(const QString& name) {
   spokenName_ = name;
   if (widget() != nullptr) applyLook();
+}
+
+void Button::shareCaptionSize(CaptionSize& shared) {
+  captionSize_ = &shared;
+  if (auto* button = static_cast<ButtonWidget*>(widget())) shared.add(*button);
 }
 
 QChar Button::accessKey() const {

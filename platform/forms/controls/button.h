@@ -7,6 +7,7 @@
 namespace platform {
 
 class ButtonWidget;
+class CaptionSize;
 
 // A button with a caption, a picture, or both, plain or on a colour. It is clicked by Enter at the
 // press, by Space at the release, by its access key at the press, by assistive technology, and by
@@ -27,6 +28,9 @@ class Button : public Control {
   void setCaption(const QString& caption) override;
   // What assistive technology calls the button while it has neither words nor a tool tip.
   void setSpokenName(const QString& name);
+  // The caption is set in letters no larger than those of others; shared must live while the form
+  // does, or be let go first.
+  void shareCaptionSize(CaptionSize& shared);
   [[nodiscard]] QChar accessKey() const override;
   void access() override { click(); }
   void keysLetGo() override;
@@ -39,6 +43,7 @@ class Button : public Control {
   QString caption_;
   QString spokenName_;
   std::function<void()> clicked_;
+  CaptionSize* captionSize_ = nullptr;
 };
 
 }  // namespace platform

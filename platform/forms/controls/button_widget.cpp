@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "platform/forms/controls/caption_size.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
 
@@ -28,9 +29,39 @@ ButtonWidget::ButtonWidget(QWidget* parent, Pictures& pictures, std::function<vo
   setFocusPolicy(Qt::StrongFocus);
 }
 
+ButtonWidget::~ButtonWidget() {
+  if (shared_ != nullptr) shared_->remove(*this);
+}
+
 void ButtonWidget::setCaption(const QString& caption) {
+  if (caption == caption_) return;
   caption_ = caption;
+  captionChanged();
   update();
+}
+
+void ButtonWidget::shareCaptionSize(CaptionSize* shared) {
+  shared_ = shared;
+  update();
+}
+
+void ButtonWidget::captionChanged() {
+  if (shared_ != nullptr) shared_->changed();
+}
+
+int ButtonWidget::fittedCaption() {
+  block_.set(caption_, font(), rooms().text.size(), Align::Centre, true);
+  return block_.pixelSize();
+}
+
+void ButtonWidget::resizeEvent(QResizeEvent* event) {
+  QAbstractButton::resizeEvent(event);
+  captionChanged();
+}
+
+void ButtonWidget::changeEvent(QEvent* event) {
+  QAbstractButton::changeEvent(event);
+  if (event->type() == QEvent::FontChange) captionChanged();
 }
 
 void ButtonWidget::setColours(QColor ink, std::optional<QColor> ground) {
@@ -127,7 +158,9 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   if (!isEnabled() && !ground_) painter.setOpacity(kDisabledInk);
   const Rooms room = rooms();
   if (!picture_.isEmpty()) pictures_.paint(painter, picture_, room.picture);
-  block_.set(caption_, font(), room.text.size(), Align::Centre, true);
+  QFont letters = font();
+  if (shared_ != nullptr) letters.setPixelSize(std::min(letters.pixelSize(), shared_->pixelSize()));
+  block_.set(caption_, letters, room.text.size(), Align::Centre, true);
   block_.paint(painter, room.text, ink_, face);
 }
 

@@ -8,6 +8,7 @@
 
 namespace platform {
 
+class CaptionSize;
 class Pictures;
 
 // The widget of a button: paints it and turns mouse and keys into clicks. Keys come here already
@@ -17,11 +18,16 @@ class ButtonWidget final : public QAbstractButton {
 
  public:
   ButtonWidget(QWidget* parent, Pictures& pictures, std::function<void()> clicked);
+  ~ButtonWidget() override;
 
   void setCaption(const QString& caption);
   void setPicture(const QString& name) { picture_ = name; }
   // ground: the colour of the face; without one the button is plain.
   void setColours(QColor ink, std::optional<QColor> ground);
+  // Sets the caption in letters no larger than those of other buttons; null for none.
+  void shareCaptionSize(CaptionSize* shared);
+  // The pixel size of letters that the caption has room for, at most that of the font.
+  [[nodiscard]] int fittedCaption();
   // A click from outside of mouse and keys.
   void press() { clicked_(); }
   // Takes a held key or mouse button as let go without effect.
@@ -34,6 +40,8 @@ class ButtonWidget final : public QAbstractButton {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   struct Rooms {
@@ -42,6 +50,7 @@ class ButtonWidget final : public QAbstractButton {
   };
   [[nodiscard]] Rooms rooms() const;
   void paintFace(QPainter& painter, const QColor& face) const;
+  void captionChanged();
 
   Pictures& pictures_;
   std::function<void()> clicked_;
@@ -50,6 +59,7 @@ class ButtonWidget final : public QAbstractButton {
   QColor ink_ = Qt::black;
   std::optional<QColor> ground_;
   TextBlock block_;
+  CaptionSize* shared_ = nullptr;
 };
 
 }  // namespace platform
