@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
 #include <QStyleOptionButton>
@@ -13,7 +14,7 @@ namespace platform {
 // A check box or an option button of Qt's, whose words take a smaller size or wrap rather than be
 // cut, and whose focus shows like that of all controls.
 template <class Base, QStyle::PrimitiveElement Mark>
-class ToggleWidget final : public Base {
+class ToggleWidget : public Base {
  public:
   explicit ToggleWidget(QWidget* parent) : Base(parent) {}
 
@@ -54,6 +55,16 @@ class ToggleWidget final : public Base {
 };
 
 using CheckBoxWidget = ToggleWidget<QCheckBox, QStyle::PE_IndicatorCheckBox>;
-using OptionButtonWidget = ToggleWidget<QRadioButton, QStyle::PE_IndicatorRadioButton>;
+
+// Qt's arrows go by where the options stand, so that Down does nothing in a row of them; here they
+// go by their order, round and round.
+class OptionButtonWidget final
+    : public ToggleWidget<QRadioButton, QStyle::PE_IndicatorRadioButton> {
+ public:
+  using ToggleWidget::ToggleWidget;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
 
 }  // namespace platform
