@@ -53,8 +53,8 @@ inline constexpr auto kControlli = std::to_array<Row>({
     row<&F::imgPrinter>({4200, 1200, 1200, 1200},
                         {.toolTip = "Una stampante", .picture = "stampante_grande"}),
 
-    row<&F::fraFoglio>({120, 930, 3840, 3210},
-                       {.caption = " Dimensioni foglio: ", .font = kPiccolo}),
+    // Its caption tells the sheet and is made anew with it.
+    row<&F::fraFoglio>({120, 930, 3840, 3210}, {.font = kPiccolo}),
     row<&F::shpBordo>({420, 210, 2970, 2970}, {.fore = kOmbra, .back = kOmbra, .in = kFoglio}),
     row<&F::shpFoglio>({465, 255, 2880, 2880}, {.fore = kBlack, .back = kWhite, .in = kFoglio}),
     row<&F::PictureAnteprima>({480, 270, 2850, 2850},
