@@ -55,11 +55,11 @@ inline constexpr auto kControlli = std::to_array<Row>({
 
     // Its caption tells the sheet and is made anew with it.
     row<&F::fraFoglio>({120, 930, 3840, 3210}, {.font = kPiccolo}),
-    row<&F::shpBordo>({420, 210, 2970, 2970}, {.fore = kOmbra, .back = kOmbra, .in = kFoglio}),
-    row<&F::shpFoglio>({465, 255, 2880, 2880}, {.fore = kBlack, .back = kWhite, .in = kFoglio}),
-    row<&F::PictureAnteprima>({480, 270, 2850, 2850},
+    row<&F::shpBordo>({510, 330, 2820, 2820}, {.fore = kOmbra, .back = kOmbra, .in = kFoglio}),
+    row<&F::shpFoglio>({555, 375, 2730, 2730}, {.fore = kBlack, .back = kWhite, .in = kFoglio}),
+    row<&F::PictureAnteprima>({570, 390, 2700, 2700},
                               {.toolTip = "Anteprima", .back = kWhite, .in = kFoglio}),
-    row<&F::Label1>({480, 270, 2820, 240}, {.hidden = true, .in = kFoglio}),
+    row<&F::Label1>({570, 390, 2700, 240}, {.hidden = true, .in = kFoglio}),
     row<&F::lblStampaInCorso>({600, 1500, 2520, 480}, {.caption = "Stampa in corso...",
                                                        .font = kGrande,
                                                        .back = kGiallo,

@@ -306,7 +306,13 @@ void frmAvviaStampa::DisegnaAnteprima(const QRect& dove) {
                        BoxIcon::Critical, BoxButtons::Ok});
     return;
   }
-  PictureAnteprima.setPicture(immagine_.Ridotta(monocromatica_), dove);
+  const QImage& ridotta = immagine_.Ridotta(monocromatica_);
+  // Made smaller with all its points taken in; made larger by whoever paints it.
+  const bool minore = dove.width() < ridotta.width() && dove.height() < ridotta.height();
+  PictureAnteprima.setPicture(
+      minore ? ridotta.scaled(dove.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+             : ridotta,
+      dove);
 }
 
 void frmAvviaStampa::Lampeggia() {

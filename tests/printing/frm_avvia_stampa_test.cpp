@@ -206,6 +206,21 @@ class FrmAvviaStampaTest : public QObject {
     QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
   }
 
+  void everyArrowGoesThroughTheOptionsRoundAndRound() {
+    DialogoDiProva prova;
+    prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
+      d.A3[0].setFocus();
+      int chiesto = 0;
+      for (const int tasto : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up, Qt::Key_Right,
+                              Qt::Key_Right, Qt::Key_Left, Qt::Key_Left}) {
+        chiesto = 1 - chiesto;
+        prova.batti(tasto);
+        QVERIFY(d.A3[chiesto].isSelected());
+        QVERIFY(d.A3[chiesto].hasFocus());
+      }
+    });
+  }
+
   void stampaShowsThatItPrintsAndThenTheDialogGoes() {
     DialogoDiProva prova;
     prova.stampante(prova::StampanteDiProva(prova::CartaA3()));

@@ -30,7 +30,9 @@ class ToggleWidget : public Base {
     QPainter painter(this);
     QStyleOptionButton option;
     this->initStyleOption(&option);
-    const int side = std::clamp(this->height() - 2 * int(kFocusRingWidth) - 2, 8, kLargestMark);
+    // As large as the words beside it.
+    const int largest = std::max(kPlainMark, this->fontMetrics().height() * 4 / 5);
+    const int side = std::clamp(this->height() - 2 * int(kFocusRingWidth) - 2, 8, largest);
     const int margin = int(kFocusRingWidth) + 2;
     option.rect = QRect(margin, (this->height() - side) / 2, side, side);
     option.state &= ~QStyle::State_HasFocus;
@@ -48,7 +50,7 @@ class ToggleWidget : public Base {
   }
 
  private:
-  static constexpr int kLargestMark = 22;  // pixels
+  static constexpr int kPlainMark = 22;  // pixels
 
   QString caption_;
   TextBlock block_;
