@@ -49,7 +49,8 @@ def main():
     programma = os.path.join(cartella, "somme", "somme")
     misure = [[os.path.join(cartella, "bench", "bench_avvio"), programma,
                os.path.join(cartella, "bench", "bench_vuoto")],
-              [os.path.join(cartella, "bench", "bench_forme"), os.path.dirname(programma)]]
+              [os.path.join(cartella, "bench", "bench_forme"), os.path.dirname(programma)],
+              [os.path.join(cartella, "bench", "bench_stampa")]]
     with Schermo(1366, 768):
         # As on a desktop without assistive technology: nobody listens to the tree.
         os.environ.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", None)

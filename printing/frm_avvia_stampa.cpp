@@ -6,7 +6,7 @@
 #include "platform/base/numbers.h"
 #include "platform/base/run_time_error.h"
 #include "platform/forms/capture.h"
-#include "platform/forms/keys/key_codes.h"
+#include "printing/campo_millimetri.h"
 #include "printing/disegno_avvia_stampa.h"
 #include "printing/errore_di_stampa.h"
 #include "printing/nome_formato_carta.h"
@@ -26,7 +26,6 @@ namespace {
 
 constexpr QLatin1String kErroreDocumento(" Errore nella stampa del documento.");
 constexpr int kIntervalloLampeggio = 500;  // milliseconds
-constexpr int kMassimo = 2000;             // of every field, millimetres
 constexpr int kA3 = 0;
 constexpr Rgb kRosso{255, 0, 0};
 constexpr Rgb kBianco{255, 255, 255};
@@ -40,31 +39,6 @@ bool EOrientamento(int valore) {
 
 qint32 Arrotonda(double valore) {
   return static_cast<qint32>(platform::roundHalfEven(valore));
-}
-
-// What an object of any kind is called, and its window where it has one.
-struct Finestra {
-  QString nome;
-  QWidget* widget = nullptr;
-};
-
-Finestra FinestraDi(platform::Form& forma) {
-  return {forma.name(), forma.page() == nullptr ? nullptr : forma.page()->canvas()};
-}
-Finestra FinestraDi(Control& controllo) {
-  return {controllo.name(), controllo.widget()};
-}
-
-Finestra FinestraDi(const OggettoDaStampare& oggetto) {
-  if (auto* const* forma = std::get_if<platform::Form*>(&oggetto); forma != nullptr && *forma) {
-    return FinestraDi(**forma);
-  }
-  if (auto* const* controllo = std::get_if<Control*>(&oggetto);
-      controllo != nullptr && *controllo) {
-    return FinestraDi(**controllo);
-  }
-  throw ErroreDiStampa{ErroreDiStampa::kOggettoErrato,
-                       QStringLiteral("L' oggetto da stampare\ne' di tipo errato.")};
 }
 
 }  // namespace
@@ -98,8 +72,8 @@ void frmAvviaStampa::onLoad() {
   Forma::onLoad();
   Timer1.setInterval(kIntervalloLampeggio);
   for (const int i : {0, 1}) A3[i].onClick([this, i] { ScegliFormato(i); });
-  PreparaCampo({txtPrX, updPrX, -kMassimo, posto_.sinistra});
-  PreparaCampo({txtPrY, updPrY, -kMassimo, posto_.alto});
+  PreparaCampo({txtPrX, updPrX, -kMassimoCampo, posto_.sinistra});
+  PreparaCampo({txtPrY, updPrY, -kMassimoCampo, posto_.alto});
   PreparaCampo({txtPrW, updPrW, 1, posto_.larghezza});
   PreparaCampo({txtPrH, updPrH, 1, posto_.altezza});
   const auto aggiorna = [this] { AggiornaAnteprima(); };
@@ -111,32 +85,6 @@ void frmAvviaStampa::onLoad() {
   updPrW.onChange([this] { CambiaLarghezza(); });
   txtPrH.onKeyUp([this](int) { CambiaAltezza(); });
   updPrH.onChange([this] { CambiaAltezza(); });
-}
-
-// A field that takes whole numbers within its limits; only a margin may be negative.
-void frmAvviaStampa::PreparaCampo(const Campo& campo) {
-  platform::TextBox& testo = campo.testo;
-  testo.onKeyPress([&testo, conMeno = campo.minimo < 0](int& keyAscii) {
-    const bool cifra = keyAscii >= u'0' && keyAscii <= u'9';
-    // Esc is for the dialog and never becomes text.
-    if (cifra || keyAscii == platform::kKeyBackspace || keyAscii == platform::kKeyEscape) return;
-    const bool tutto = testo.selLength() == testo.text().size();
-    const bool inTesta = testo.selStart() == 0 && !testo.text().startsWith(u'-');
-    if (conMeno && keyAscii == u'-' && (inTesta || tutto)) return;
-    keyAscii = 0;
-  });
-  testo.onChange([this, campo] { CambiaCampo(campo); });
-  campo.freccia.bind(testo, campo.minimo, kMassimo);
-}
-
-void frmAvviaStampa::CambiaCampo(const Campo& campo) {
-  const double letto = platform::leadingNumber(campo.testo.text());
-  const double ammesso = std::clamp<double>(letto, campo.minimo, kMassimo);
-  if (ammesso != letto) {
-    campo.testo.setText(plain(Arrotonda(ammesso)));
-    return;  // the new text has come through here itself
-  }
-  campo.valore = Arrotonda(ammesso);
 }
 
 frmAvviaStampa::Foglio frmAvviaStampa::FoglioStampa(std::optional<int> orientamento) {
@@ -190,7 +138,7 @@ void frmAvviaStampa::Prepara(const Richiesta& richiesta) {
   orientamento_ = richiesta.orientamento;
   titolo_ = richiesta.titolo;
   if (!conOggetto_) return;
-  const Finestra finestra = FinestraDi(richiesta.oggetto);
+  const FinestraDaStampare finestra = FinestraDi(richiesta.oggetto);
   if (finestra.widget == nullptr) {
     throw ErroreDiStampa{ErroreDiStampa::kOggettoErrato,
                          QStringLiteral("L' oggetto da stampare \"%1\"\n"
@@ -213,7 +161,7 @@ void frmAvviaStampa::Prepara(const Richiesta& richiesta) {
 }
 
 void frmAvviaStampa::LeggiOggetto(const Richiesta& richiesta) {
-  const Finestra finestra = FinestraDi(richiesta.oggetto);
+  const FinestraDaStampare finestra = FinestraDi(richiesta.oggetto);
   auto* const* controllo = std::get_if<Control*>(&richiesta.oggetto);
   auto* riquadro = controllo == nullptr ? nullptr : dynamic_cast<platform::PictureBox*>(*controllo);
   if (riquadro == nullptr || richiesta.usaImmagine) {
@@ -358,7 +306,13 @@ void frmAvviaStampa::DisegnaAnteprima(const QRect& dove) {
                        BoxIcon::Critical, BoxButtons::Ok});
     return;
   }
-  PictureAnteprima.setPicture(immagine_.Ridotta(monocromatica_), dove);
+  const QImage& ridotta = immagine_.Ridotta(monocromatica_);
+  // Made smaller with all its points taken in; made larger by whoever paints it.
+  const bool minore = dove.width() < ridotta.width() && dove.height() < ridotta.height();
+  PictureAnteprima.setPicture(
+      minore ? ridotta.scaled(dove.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+             : ridotta,
+      dove);
 }
 
 void frmAvviaStampa::Lampeggia() {

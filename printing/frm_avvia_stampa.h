@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <variant>
 
 #include "app/shared/forma.h"
 #include "platform/forms/controls/button.h"
@@ -18,14 +17,10 @@
 #include "platform/forms/controls/up_down.h"
 #include "printing/esegui_stampa.h"
 #include "printing/immagine_di_stampa.h"
+#include "printing/oggetto_da_stampare.h"
 #include "printing/stampante_in_uso.h"
 
 namespace somme {
-
-// What is handed over for printing: a form, a control, or nothing at all; an object of any other
-// kind is refused.
-using OggettoDaStampare =
-    std::variant<std::monostate, platform::Form*, platform::Control*, QObject*>;
 
 // The print dialog: the printer in use, its sheet with the image on it at scale, the place and the
 // size of the print. Whoever wants a form printed loads it, asks `FoglioStampa` for the sheet and
@@ -109,15 +104,6 @@ class frmAvviaStampa final : public Forma {
   void onClose() override;
 
  private:
-  struct Campo {
-    platform::TextBox& testo;
-    platform::UpDown& freccia;
-    int minimo;
-    qint32& valore;
-  };
-
-  void PreparaCampo(const Campo& campo);
-  void CambiaCampo(const Campo& campo);
   [[nodiscard]] bool ApriLaPredefinita();
   void Prepara(const Richiesta& richiesta);
   void LeggiOggetto(const Richiesta& richiesta);

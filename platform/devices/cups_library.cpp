@@ -26,6 +26,7 @@ std::optional<CupsLibrary> CupsLibrary::load(const char* file) {
                         find(library, "cupsFreeDestInfo", cups.freeDestInfo) &&
                         find(library, "cupsGetDestMediaCount", cups.getDestMediaCount) &&
                         find(library, "cupsGetDestMediaByIndex", cups.getDestMediaByIndex) &&
+                        find(library, "cupsGetDestMediaByName", cups.getDestMediaByName) &&
                         find(library, "cupsGetDestMediaDefault", cups.getDestMediaDefault) &&
                         find(library, "cupsFindDestSupported", cups.findDestSupported) &&
                         find(library, "cupsFindDestDefault", cups.findDestDefault) &&

@@ -21,6 +21,7 @@ struct CupsLibrary {
   decltype(&cupsFreeDestInfo) freeDestInfo = nullptr;
   decltype(&cupsGetDestMediaCount) getDestMediaCount = nullptr;
   decltype(&cupsGetDestMediaByIndex) getDestMediaByIndex = nullptr;
+  decltype(&cupsGetDestMediaByName) getDestMediaByName = nullptr;
   decltype(&cupsGetDestMediaDefault) getDestMediaDefault = nullptr;
   decltype(&cupsFindDestSupported) findDestSupported = nullptr;
   decltype(&cupsFindDestDefault) findDestDefault = nullptr;

@@ -73,8 +73,15 @@ class CupsQueues::Queue {
     return result;
   }
 
+  // The library's own answer comes last: it takes a user's choice for the queue and Letter where
+  // there is none, and never looks at what the queue itself does.
   [[nodiscard]] std::optional<Paper> standardPaper() const {
     cups_size_t size;
+    const QByteArray name = standard("media");
+    if (!name.isEmpty() && cups_.getDestMediaByName(CUPS_HTTP_DEFAULT, dest_, info_,
+                                                    name.constData(), 0, &size) != 0) {
+      return paperOf(size);
+    }
     if (cups_.getDestMediaDefault(CUPS_HTTP_DEFAULT, dest_, info_, 0, &size) == 0) {
       return std::nullopt;
     }

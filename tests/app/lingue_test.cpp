@@ -111,7 +111,8 @@ class LingueTest : public QObject {
   void everySectionBelongsToAForm() {
     QFETCH(QString, lingua);
     const Banco banco({640, 480});
-    QSet<QString> note{QStringLiteral("Strings"), QStringLiteral("MessageBox")};
+    QSet<QString> note{QStringLiteral("Strings"), QStringLiteral("MessageBox"),
+                       QStringLiteral("PageSetup")};
     for (const std::string_view nome : somme::NomiDelleForme()) note.insert(testo(nome));
     const QStringList sezioni = leggi(banco.percorso(lingua)).keys();
     const QSet<QString> ignote = QSet<QString>(sezioni.begin(), sezioni.end()) - note;
@@ -148,6 +149,18 @@ class LingueTest : public QObject {
     const Banco banco({640, 480});
     QCOMPARE(leggi(banco.percorso(lingua)).value(QStringLiteral("MessageBox")).keys(),
              QStringList({QStringLiteral("No"), QStringLiteral("Ok"), QStringLiteral("Si")}));
+  }
+
+  void theWordsOfThePageSetUpAreThere_data() { lingue(); }
+  void theWordsOfThePageSetUpAreThere() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    QCOMPARE(
+        leggi(banco.percorso(lingua)).value(QStringLiteral("PageSetup")).keys(),
+        QStringList({QStringLiteral("AColori"), QStringLiteral("Annulla"), QStringLiteral("Carta"),
+                     QStringLiteral("Colore"), QStringLiteral("InGrigio"),
+                     QStringLiteral("Orientamento"), QStringLiteral("Orizzontale"),
+                     QStringLiteral("Titolo"), QStringLiteral("Verticale")}));
   }
 
   void noFileIsTooLargeToBeReadBySections_data() { lingue(); }

@@ -12,7 +12,31 @@ OptionButtonWidget* optionOf(QWidget* widget) {
   return static_cast<OptionButtonWidget*>(widget);
 }
 
+// 1 for the keys that go on to the next option, -1 for those that go back, 0 for any other.
+int stepOf(int key) {
+  if (key == Qt::Key_Down || key == Qt::Key_Right) return 1;
+  return key == Qt::Key_Up || key == Qt::Key_Left ? -1 : 0;
+}
+
 }  // namespace
+
+void OptionButtonWidget::keyPressEvent(QKeyEvent* event) {
+  const int step = stepOf(event->key());
+  if (step == 0) {
+    ToggleWidget::keyPressEvent(event);
+    return;
+  }
+  const auto options =
+      parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+  const qsizetype count = options.size();
+  for (qsizetype i = options.indexOf(this) + step, tries = 1; tries < count; i += step, ++tries) {
+    QRadioButton* option = options[(i + count) % count];
+    if (!option->isEnabled() || option->isHidden()) continue;
+    option->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    option->setChecked(true);
+    return;
+  }
+}
 
 QWidget* OptionButton::create(QWidget* parent) {
   auto* option = new OptionButtonWidget(parent);

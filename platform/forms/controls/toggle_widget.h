@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
 #include <QStyleOptionButton>
@@ -13,7 +14,7 @@ namespace platform {
 // A check box or an option button of Qt's, whose words take a smaller size or wrap rather than be
 // cut, and whose focus shows like that of all controls.
 template <class Base, QStyle::PrimitiveElement Mark>
-class ToggleWidget final : public Base {
+class ToggleWidget : public Base {
  public:
   explicit ToggleWidget(QWidget* parent) : Base(parent) {}
 
@@ -29,7 +30,9 @@ class ToggleWidget final : public Base {
     QPainter painter(this);
     QStyleOptionButton option;
     this->initStyleOption(&option);
-    const int side = std::clamp(this->height() - 2 * int(kFocusRingWidth) - 2, 8, kLargestMark);
+    // As large as the words beside it.
+    const int largest = std::max(kPlainMark, this->fontMetrics().height() * 4 / 5);
+    const int side = std::clamp(this->height() - 2 * int(kFocusRingWidth) - 2, 8, largest);
     const int margin = int(kFocusRingWidth) + 2;
     option.rect = QRect(margin, (this->height() - side) / 2, side, side);
     option.state &= ~QStyle::State_HasFocus;
@@ -47,13 +50,23 @@ class ToggleWidget final : public Base {
   }
 
  private:
-  static constexpr int kLargestMark = 22;  // pixels
+  static constexpr int kPlainMark = 22;  // pixels
 
   QString caption_;
   TextBlock block_;
 };
 
 using CheckBoxWidget = ToggleWidget<QCheckBox, QStyle::PE_IndicatorCheckBox>;
-using OptionButtonWidget = ToggleWidget<QRadioButton, QStyle::PE_IndicatorRadioButton>;
+
+// Qt's arrows go by where the options stand, so that Down does nothing in a row of them; here they
+// go by their order, round and round.
+class OptionButtonWidget final
+    : public ToggleWidget<QRadioButton, QStyle::PE_IndicatorRadioButton> {
+ public:
+  using ToggleWidget::ToggleWidget;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
 
 }  // namespace platform

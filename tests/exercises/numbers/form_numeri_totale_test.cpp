@@ -226,9 +226,11 @@ class FormNumeriTotaleTest : public QObject {
     forma.mnuStampa.click();
     QCOMPARE(forma.PictureStampa.width(), forma.width());
     QCOMPARE(forma.PictureStampa.height(), forma.height());
-    QVERIFY(forma.CommandChiudi.hasFocus());
-    banco.batti(Qt::Key_Tab);
-    QVERIFY(!forma.TestoInput.hasFocus());
+    QVERIFY(forma.CommandStampa.hasFocus());
+    for (int i = 0; i < 4; ++i) {
+      banco.batti(Qt::Key_Tab);
+      QVERIFY(!forma.TestoInput.TestoInput.hasFocus());
+    }
     banco.clicca(forma.CommandChiudi);
     QVERIFY(forma.TestoInput.TestoInput.hasFocus());
     rispondi(banco, QStringLiteral("7"));

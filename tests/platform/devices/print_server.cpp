@@ -1,5 +1,6 @@
 #include "print_server.h"
 
+#include <unistd.h>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -40,9 +41,17 @@ PrintServer::PrintServer() : port_(freePort()) {
     problem_ = QStringLiteral("cupsd is missing (package cups-daemon)");
     return;
   }
+  if (::geteuid() != 0) {
+    problem_ = QStringLiteral("the PDF backend of CUPS works for a server of root's only");
+    return;
+  }
   for (const char* name : {"etc/ppd", "spool/tmp", "cache", "state/certs", "log"}) {
     QDir(folder_.path()).mkpath(QLatin1String(name));
   }
+  // Started by root, the server has its filters run by another user, who must get at its files.
+  QFile(folder_.path())
+      .setPermissions(QFile::permissions(folder_.path()) | QFile::ReadGroup | QFile::ExeGroup |
+                      QFile::ReadOther | QFile::ExeOther);
   const QByteArray root = folder_.path().toUtf8();
   write(QStringLiteral("etc/cupsd.conf"),
         "Listen 127.0.0.1:" + QByteArray::number(port_) +
