@@ -35,6 +35,10 @@ void Button::setSpokenName(const QString& name) {
   if (widget() != nullptr) applyLook();
 }
 
+void Button::makeForShow() {
+  if (widget() != nullptr) widget()->setFocusPolicy(Qt::NoFocus);
+}
+
 QChar Button::accessKey() const {
   return accessKeyOf(caption_);
 }

@@ -27,6 +27,8 @@ class Button : public Control {
   void setCaption(const QString& caption) override;
   // What assistive technology calls the button while it has neither words nor a tool tip.
   void setSpokenName(const QString& name);
+  // From here on the button only shows something: it never takes the focus and offers no press.
+  void makeForShow();
   [[nodiscard]] QChar accessKey() const override;
   void access() override { click(); }
   void keysLetGo() override;
