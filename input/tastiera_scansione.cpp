@@ -13,8 +13,8 @@ using platform::toInt16;
 
 namespace {
 
-constexpr int kTienilFuoco = 10;  // milliseconds of `Timer1`
-constexpr int kQuarto = 250;      // milliseconds
+constexpr int kTienilFuoco = 10;     // milliseconds of `Timer1`
+constexpr int kQuarto = 250;         // milliseconds
 constexpr double kCarattere = 0.55;  // of a button's side
 constexpr double kTwipPerPunto = 20;
 

@@ -42,7 +42,7 @@ class TastieraScansione : public platform::UserControl {
   };
 
   // The inner controls; rows make them in the keyboard's own order.
-  platform::Timer TimerScansione{*this};        // moves the light
+  platform::Timer TimerScansione{*this};       // moves the light
   platform::KeyPanel PictureScansione{*this};  // holds the focus and hears the keys
   platform::Timer Timer1{*this};               // gives the focus back to it
 

@@ -16,8 +16,8 @@ constexpr auto kControlli = std::to_array<Row>({
     TastieraNumerica<FormBarre10Scansione>({3120, 6240, 7455, 555}, false),
 });
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kSommaSotto, kBarre10Basse, kControlli,
-                                                      kRestoScansione, kMenuBarre, kUscita};
+constexpr std::array<std::span<const Row>, 6> kTavole{kSommaSotto,     kBarre10Basse, kControlli,
+                                                      kRestoScansione, kMenuBarre,    kUscita};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre10Scansione,
                               .caption = "Esercitazioni sulle somme",

@@ -21,7 +21,7 @@ constexpr auto kControlli = std::to_array<Row>({
     TastieraNumerica<FormBarre20Scansione>({3240, 6600, 7455, 555}, false),
 });
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kSommaSotto, kBarre20, kControlli,
+constexpr std::array<std::span<const Row>, 6> kTavole{kSommaSotto,     kBarre20,   kControlli,
                                                       kRestoScansione, kMenuBarre, kUscita};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre20Scansione,

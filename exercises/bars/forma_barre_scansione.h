@@ -11,7 +11,7 @@ class FormaBarreScansione : public ConScansione<FormaBarre> {
  public:
   FormaBarreScansione(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti);
 
-  platform::TextBox TestoInput{*this};                // only the program writes in it
+  platform::TextBox TestoInput{*this};             // only the program writes in it
   platform::Label LabelDimensioneTastiera{*this};  // hidden: the keyboard's place
 
   // Judges what stands in the box; an empty one is 0.

@@ -47,8 +47,7 @@ class AccessibleButton final : public QAccessibleWidget {
 // The keys that it holds act on what it points at, which is what has the focus for whoever listens.
 class AccessibleKeyPanel final : public QAccessibleWidget {
  public:
-  explicit AccessibleKeyPanel(QWidget* widget)
-      : QAccessibleWidget(widget, QAccessible::Grouping) {}
+  explicit AccessibleKeyPanel(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
 
   [[nodiscard]] QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();

@@ -8,9 +8,9 @@ namespace platform {
 
 namespace {
 
-constexpr int kThinnest = 8;        // pixels of the dark ring
+constexpr int kThinnest = 8;         // pixels of the dark ring
 constexpr double kThickness = 0.13;  // of the side of what it surrounds
-constexpr int kEdge = 2;            // pixels of each light edge
+constexpr int kEdge = 2;             // pixels of each light edge
 constexpr QColor kDark(0, 0, 0);
 constexpr double kCorner = 8;
 
