@@ -13,9 +13,14 @@
 #include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
+#include "exercises/bars/form_barre10_scansione.h"
+#include "exercises/bars/form_barre10_tastiera.h"
 #include "exercises/bars/form_barre20.h"
+#include "exercises/bars/form_barre20_scansione.h"
 #include "exercises/numbers/form_numeri_addendo.h"
+#include "exercises/numbers/form_numeri_addendo_scansione.h"
 #include "exercises/numbers/form_numeri_totale.h"
+#include "exercises/numbers/form_numeri_totale_scansione.h"
 #include "exercises/table/form_tabella.h"
 #include "printing/frm_avvia_stampa.h"
 
@@ -43,9 +48,14 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormMenuBarre, Crea<FormMenuBarre>},
     {forme::kFormMenuTabella, Crea<FormMenuTabella>},
     {forme::kFormNumeriTotale, Crea<FormNumeriTotale>},
+    {forme::kFormNumeriTotaleScansione, Crea<FormNumeriTotaleScansione>},
     {forme::kFormNumeriAddendo, Crea<FormNumeriAddendo>},
+    {forme::kFormNumeriAddendoScansione, Crea<FormNumeriAddendoScansione>},
     {forme::kFormBarre10, Crea<FormBarre10>},
+    {forme::kFormBarre10Tastiera, Crea<FormBarre10Tastiera>},
+    {forme::kFormBarre10Scansione, Crea<FormBarre10Scansione>},
     {forme::kFormBarre20, Crea<FormBarre20>},
+    {forme::kFormBarre20Scansione, Crea<FormBarre20Scansione>},
     {forme::kFormTabella, Crea<FormTabella>},
     {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
 });

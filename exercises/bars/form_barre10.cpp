@@ -55,9 +55,8 @@ constexpr auto kControlli = std::to_array<Row>({
     Chiudi({7440, 6240, 2580, 1155}),
 });
 
-// The way to the typed answers opens with the form that takes them.
 constexpr auto kMenuProprio = std::to_array<Row>({
-    item<&FormBarre10::mnuTastiera>({.caption = "&Utilizza la tastiera", .disabled = true}),
+    item<&FormBarre10::mnuTastiera>({.caption = "&Utilizza la tastiera"}),
     item<&FormBarre10::mnuEsci>({.caption = "&Esci"}),
 });
 

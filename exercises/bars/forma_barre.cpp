@@ -38,6 +38,12 @@ FormaBarre::FormaBarre(Ambiente& ambiente, const platform::FormDesign& disegno, 
   mnuTutteBarre.onClick([this] { ScegliTipo(kTrovaUna); });
 }
 
+void FormaBarre::IniziaEsercizio() {
+  ScriviEsatti();
+  ScriviErrati();
+  stato().TipoEsercizio = kTrovaRossa;
+}
+
 void FormaBarre::ScegliTipo(qint16 tipo) {
   stato().TipoEsercizio = tipo;
   mnuRossa.setChecked(tipo == kTrovaRossa);
@@ -188,10 +194,11 @@ void FormaBarre::CreaAiuti() {
   }
 }
 
-void FormaBarre::ColoraTermini() {
+void FormaBarre::ColoraTermini(std::optional<platform::Rgb> primo) {
   for (const DomandaBarre& domanda : {kChiediPrimo, kChiediSecondo, kChiediTotale}) {
     Label4[domanda.termine].setForeColor(domanda.colore);
   }
+  if (primo) Label4[kPrimoTermine].setForeColor(*primo);
 }
 
 }  // namespace somme

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "exercises/core/disegno_comune.h"
 #include "exercises/core/forma_esercizio.h"
 
@@ -46,6 +48,7 @@ class FormaBarre : public FormaEsercizio {
   virtual void Chiedi(const DomandaBarre& domanda) = 0;
 
   // The steps that the forms' own NuovoCaso, Load and Activate are made of.
+  void IniziaEsercizio();  // the counters, and the first kind of exercise
   void NascondiAiuti();
   void GeneraSecondoTipo();
   // The unit and the origin, from `n1` as it stands now; the other bars take its height.
@@ -53,7 +56,8 @@ class FormaBarre : public FormaEsercizio {
   void MisuraAiuti();
   void ScriviTitolo(const QString& esercizio);
   void CreaAiuti();
-  void ColoraTermini();
+  // The written numbers in the colours of the answers; primo: another one for the first.
+  void ColoraTermini(std::optional<platform::Rgb> primo = {});
 
   virtual void MostraAiuto();
   // The numbers come back on the bars, so that the "?" goes.

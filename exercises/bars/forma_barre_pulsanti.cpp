@@ -11,9 +11,7 @@ FormaBarrePulsanti::FormaBarrePulsanti(Ambiente& ambiente, const platform::FormD
 void FormaBarrePulsanti::onLoad() {
   ConAvanti::onLoad();
   PulsanteAvanti.setVisible(true);
-  ScriviEsatti();
-  ScriviErrati();
-  stato().TipoEsercizio = 1;
+  IniziaEsercizio();
   if (stato().CursoreDiSistema) ImpostaCursoreSistema();
 }
 

@@ -1,38 +1,20 @@
 #include "exercises/numbers/forma_numeri_tastiera.h"
 
-#include "platform/base/numbers.h"
-
 namespace somme {
 
 FormaNumeriTastiera::FormaNumeriTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
                                          const EsercizioNumeri& esercizio)
-    : ConAvanti(ambiente, disegno, esercizio) {
-  TestoInput.onConfermato([this] { Giudica(); });
-}
+    : ConAvanti(ambiente, disegno, esercizio) {}
 
 void FormaNumeriTastiera::onLoad() {
   ConAvanti::onLoad();
   PulsanteAvanti.setVisible(true);
-  ScriviEsatti();
-  ScriviErrati();
-  TestoInput.setVisible(false);
-  ImpostaCursoreSistema();
+  PreparaInput();
 }
 
 void FormaNumeriTastiera::onActivate() {
-  IniziaElenco(stato().TitoloEsercizio);
-  letEventsRun();
-  PosaTestoInput();
-  TestoInput.setVisible(true);
+  MostraInput();
   NuovoCaso();
-}
-
-void FormaNumeriTastiera::PosaTestoInput() {
-  TestoInput.DimensioneTesto.set(platform::toInt16(TestoInputInvisibile.fontSize()));
-  TestoInput.setTop(TestoInputInvisibile.top());
-  TestoInput.setLeft(TestoInputInvisibile.left());
-  TestoInput.setWidth(TestoInputInvisibile.width());
-  TestoInput.setHeight(TestoInputInvisibile.height());
 }
 
 void FormaNumeriTastiera::NuovoCaso() {
@@ -44,14 +26,6 @@ void FormaNumeriTastiera::NuovoCaso() {
   if (const Livello* livello = GeneraCaso()) TestoInput.MaxLength.set(livello->cifre);
   ScriviDomanda();
   TestoInput.setFocus();
-}
-
-void FormaNumeriTastiera::Giudica() {
-  if (TestoInput.ValoreInserito == Cercato()) {
-    RispostaGiusta();
-  } else {
-    SegnaSbagliato();
-  }
 }
 
 void FormaNumeriTastiera::RispostaGiusta() {

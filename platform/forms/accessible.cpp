@@ -2,9 +2,11 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/image_widget.h"
+#include "platform/forms/controls/key_panel_widget.h"
 #include "platform/forms/controls/panel_widget.h"
 
 namespace platform {
@@ -17,8 +19,16 @@ class AccessibleButton final : public QAccessibleWidget {
  public:
   explicit AccessibleButton(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Button) {}
 
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    if (widget() == focusSpoken()) state.focused = true;
+    return state;
+  }
+
   [[nodiscard]] QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();
+    // A button that is for show alone cannot be pressed.
+    if (widget()->focusPolicy() == Qt::NoFocus) return names;
     if (widget()->isEnabled() && !names.contains(pressAction())) names.prepend(pressAction());
     return names;
   }
@@ -34,6 +44,23 @@ class AccessibleButton final : public QAccessibleWidget {
   }
 };
 
+// The keys that it holds act on what it points at, which is what has the focus for whoever listens.
+class AccessibleKeyPanel final : public QAccessibleWidget {
+ public:
+  explicit AccessibleKeyPanel(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    if (widget() != focusSpoken()) state.focused = false;
+    return state;
+  }
+
+  [[nodiscard]] QAccessibleInterface* focusChild() const override {
+    QWidget* spoken = focusSpoken();
+    return widget()->hasFocus() ? QAccessible::queryAccessibleInterface(spoken) : nullptr;
+  }
+};
+
 QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
   if (className == QLatin1String("platform::ButtonWidget")) {
     return new AccessibleButton(static_cast<QWidget*>(object));
@@ -42,6 +69,9 @@ QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
       className == QLatin1String("platform::LineWidget")) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
   }
+  if (className == QLatin1String("platform::KeyPanelWidget")) {
+    return new AccessibleKeyPanel(static_cast<QWidget*>(object));
+  }
   if (className == QLatin1String("platform::PanelWidget")) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
   }
@@ -49,6 +79,12 @@ QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
 }
 
 }  // namespace
+
+QWidget* focusSpoken() {
+  QWidget* focus = QApplication::focusWidget();
+  const auto* panel = qobject_cast<KeyPanelWidget*>(focus);
+  return panel != nullptr && panel->pointed() != nullptr ? panel->pointed() : focus;
+}
 
 void installAccessibility() {
   QAccessible::installFactory(interfaceFor);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <algorithm>
 
+#include "platform/forms/accessible.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/menu_bar.h"
@@ -229,7 +230,7 @@ void Form::keysLetGo() {
 }
 
 void Form::announce(const QString& sentence) {
-  QWidget* focus = QApplication::focusWidget();
+  QWidget* focus = focusSpoken();
   if (described_ && described_ != focus) described_->setAccessibleDescription({});
   described_ = focus;
   if (focus != nullptr) focus->setAccessibleDescription(sentence);

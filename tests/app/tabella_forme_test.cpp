@@ -130,12 +130,13 @@ class TabellaFormeTest : public QObject {
     const Form& form = open(banco, nome);
     std::vector<const QWidget*> expected;
     for (const Control* control : form.controls()) {
-      const QWidget* widget = control->widget();
-      if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) continue;
       // Options of one group are one stop, at the selected one; arrows go on from there.
       const auto* option = dynamic_cast<const platform::OptionButton*>(control);
       if (option != nullptr && !option->isSelected()) continue;
-      if ((widget->focusPolicy() & Qt::TabFocus) != 0) expected.push_back(widget);
+      for (const QWidget* widget : control->tabStops()) {
+        if (!widget->isVisible() || !widget->isEnabled()) continue;
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0) expected.push_back(widget);
+      }
     }
     if (expected.empty()) return;
     const_cast<QWidget*>(expected.front())->setFocus();

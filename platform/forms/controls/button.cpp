@@ -42,6 +42,10 @@ void Button::shareCaptionSize(CaptionSize& shared) {
   if (auto* button = static_cast<ButtonWidget*>(widget())) shared.add(*button);
 }
 
+void Button::makeForShow() {
+  if (widget() != nullptr) widget()->setFocusPolicy(Qt::NoFocus);
+}
+
 QChar Button::accessKey() const {
   return accessKeyOf(caption_);
 }

@@ -31,6 +31,8 @@ class Button : public Control {
   // The caption is set in letters no larger than those of others; shared must live while the form
   // does, or be let go first.
   void shareCaptionSize(CaptionSize& shared);
+  // From here on the button only shows something: it never takes the focus and offers no press.
+  void makeForShow();
   [[nodiscard]] QChar accessKey() const override;
   void access() override { click(); }
   void keysLetGo() override;

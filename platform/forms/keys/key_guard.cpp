@@ -151,7 +151,10 @@ bool KeyGuard::keyRelease(QWindow& window, QKeyEvent& event) {
   const KeyState::ReleaseResult release = state_.release(inputOf(event));
   switch (release.verdict) {
     case KeyState::Release::Accepted:
-      return release.destination != destinationOf(window);
+      if (release.destination == destinationOf(window)) return false;
+      // A menu opened over the page that had the press: what the key holds there is let go.
+      if (release.destination == runtime_.forms().pageNumber()) letGo();
+      return true;
     case KeyState::Release::Deferred: {
       const KeyId key = keyOf(event);
       std::erase_if(heldBack_, [key](const auto& held) { return held.first == key; });

@@ -1,0 +1,70 @@
+#include "exercises/bars/form_barre20_scansione.h"
+
+#include "app/shared/nomi_forme.h"
+#include "exercises/bars/disegno_barre_scansione.h"
+
+namespace somme {
+
+using namespace disegno;
+
+namespace {
+
+constexpr int kAiuti = 20;
+constexpr int kDecina = 10;
+constexpr Rgb kGiallo{255, 255, 0};
+
+constexpr auto kControlli = std::to_array<Row>({
+    row<&FormBarre20Scansione::Line1>({4890, 480, 0, 2520}, {.toolTip = "Qui finisce la decina",
+                                                             .borderWidth = 2,
+                                                             .in = nameOf<&FormaBarre::Picture1>}),
+    row<&FormBarre20Scansione::LabelDimensioneTastiera>({3240, 6600, 7455, 555}, {.hidden = true}),
+    TastieraNumerica<FormBarre20Scansione>({3240, 6600, 7455, 555}, false),
+});
+
+constexpr std::array<std::span<const Row>, 6> kTavole{kSommaSotto,     kBarre20,   kControlli,
+                                                      kRestoScansione, kMenuBarre, kUscita};
+
+constexpr FormDesign kDisegno{.name = forme::kFormBarre20Scansione,
+                              .caption = "Esercitazioni sulle somme",
+                              .width = 11190,
+                              .height = 7500,
+                              .back = kGialloPallido,
+                              .tables = kTavole};
+
+}  // namespace
+
+FormBarre20Scansione::FormBarre20Scansione(Ambiente& ambiente)
+    : FormaBarreScansione(ambiente, kDisegno, kAiuti) {}
+
+void FormBarre20Scansione::onActivate() {
+  LeggiMisure();
+  Line1.setX1(FineDi(kDecina));
+  Line1.setX2(FineDi(kDecina));
+  MisuraAiuti();
+  ScriviTitolo(stringhe().TitoloFinoAl20);
+  CreaAiuti();
+  PosaTastiera(TastieraNumericaScansione1, LabelDimensioneTastiera);
+  ColoraTermini();
+  NuovoCaso();
+  MettiModo(TastieraNumericaScansione1);
+  TastieraNumericaScansione1.Attiva();
+}
+
+void FormBarre20Scansione::NuovoCaso() {
+  FormaBarreScansione::NuovoCaso();
+  ColoraTermini(kGiallo);
+  ScriviSomma();
+}
+
+void FormBarre20Scansione::MostraAiuto() {
+  Line1.setVisible(true);
+  FormaBarreScansione::MostraAiuto();
+}
+
+void FormBarre20Scansione::ChiudiPannelloStampa() {
+  TastieraNumericaScansione1.Attiva();
+  FormaBarreScansione::ChiudiPannelloStampa();
+  NuovoCaso();
+}
+
+}  // namespace somme
