@@ -1,24 +1,24 @@
 #pragma once
 
 #include "exercises/core/disegno_comune.h"
-#include "exercises/numbers/forma_numeri_tastiera.h"
+#include "exercises/numbers/forma_numeri.h"
 
-// Rows that the number forms share: those for mouse and keyboard differ in none.
+// Rows that all number forms share. Between the operation and the verdict each way of input has its
+// own: the box for the answer, and what leads to the next case.
 namespace somme::disegno {
 
 inline constexpr Rgb kRosaPallido{255, 192, 255};
-inline constexpr TwipsRect kPostoTestoInput{3360, 2760, 2655, 1095};
 
-inline constexpr auto kControlliNumeri = std::to_array<Row>({
+inline constexpr auto kDomandaNumeri = std::to_array<Row>({
     row<&FormaNumeri::EtOperazione>({960, 600, 7935, 975}, {.toolTip = "Operazione",
                                                             .font = {Face::Tahoma, 26.25},
                                                             .back = kWhite,
                                                             .align = Align::Centre}),
-    row<&FormaNumeriTastiera::TestoInputInvisibile>(kPostoTestoInput,
-                                                    {.font = {Face::Tahoma, 36}, .hidden = true}),
-    row<&FormaNumeriTastiera::TestoInput>(kPostoTestoInput,
-                                          {.toolTip = "Scrivi il numero e premi Invio"}),
-    Avanti<FormaNumeriTastiera>({8280, 5520, 1935, 975}),
+});
+
+inline constexpr TwipsRect kPostoAvantiNumeri{8280, 5520, 1935, 975};
+
+inline constexpr auto kVerdettoNumeri = std::to_array<Row>({
     Esatti({2160, 5640, 2415, 375}),
     Errati({2160, 6000, 2175, 495}),
     Si({960, 5520, 855, 855}),
@@ -35,15 +35,14 @@ inline constexpr auto kMenuNumeri = std::to_array<Row>({
     item<&FormaNumeri::mnuEsci>({.caption = "&Esci"}),
 });
 
-inline constexpr std::array<std::span<const Row>, 2> kTavoleNumeri{kControlliNumeri, kMenuNumeri};
-
-constexpr FormDesign DisegnoNumeri(std::string_view nome) {
+constexpr FormDesign DisegnoNumeri(std::string_view nome,
+                                   std::span<const std::span<const Row>> tavole) {
   return {.name = nome,
           .caption = "Esercitazioni sulle somme",
           .width = 10725,
           .height = 7365,
           .back = kRosaPallido,
-          .tables = kTavoleNumeri};
+          .tables = tavole};
 }
 
 }  // namespace somme::disegno
