@@ -236,8 +236,9 @@ class ConHelpiKeysTest : public QObject {
     }
     QVERIFY(fuori);
     QCOMPARE(scena.messaggi.mostrati.size(), std::size_t(1));
-    QCOMPARE(scena.errore(), QStringLiteral("Errore di run-time '40006':\n\nProtocollo o stato di "
-                                            "connessione errato per la transazione o la richiesta"));
+    QCOMPARE(scena.errore(),
+             QStringLiteral("Errore di run-time '40006':\n\nProtocollo o stato di "
+                            "connessione errato per la transazione o la richiesta"));
     QVERIFY(scena.messaggi.mostrati[0].icon == platform::BoxIcon::Critical);
     QCOMPARE(scena.fine.stato, std::optional(1));
     QVERIFY(scena.rete.ricevuti.isEmpty());
