@@ -8,6 +8,7 @@
 #include "platform/base/chance.h"
 #include "platform/devices/desktop_documents.h"
 #include "platform/devices/file_instance_lock.h"
+#include "platform/devices/loopback_network.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/devices/sdl_sound.h"
 #include "platform/devices/system_printers.h"
@@ -33,6 +34,8 @@ int main(int argc, char* argv[]) {
   platform::SystemPrinters stampanti(
       tempo, {platform::PdfFolder::usualFolders(), [] { return QDateTime::currentDateTime(); }});
 
+  platform::LoopbackNetwork rete;
+
   // The message boxes speak the language of the whole that they are a part of, and stand over the
   // window in use.
   somme::Ambiente* tutto = nullptr;
@@ -45,7 +48,7 @@ int main(int argc, char* argv[]) {
       [&tutto] { return somme::ParolePagina(*tutto); },
       [](const platform::Paper& carta) { return somme::NomeDellaCarta(carta); }, sopra);
   somme::Ambiente ambiente(
-      {tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina,
+      {tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina, rete,
        QCoreApplication::applicationDirPath()},
       [&tutto](std::string_view nome) { return somme::CreaForma(*tutto, nome); });
   tutto = &ambiente;

@@ -21,6 +21,13 @@
 #include "exercises/numbers/form_numeri_addendo_scansione.h"
 #include "exercises/numbers/form_numeri_totale.h"
 #include "exercises/numbers/form_numeri_totale_scansione.h"
+#include "exercises/bars/form_barre10_hk.h"
+#include "exercises/bars/form_barre20.h"
+#include "exercises/bars/form_barre20_hk.h"
+#include "exercises/numbers/form_numeri_addendo.h"
+#include "exercises/numbers/form_numeri_addendo_hk.h"
+#include "exercises/numbers/form_numeri_totale.h"
+#include "exercises/numbers/form_numeri_totale_hk.h"
 #include "exercises/table/form_tabella.h"
 #include "printing/frm_avvia_stampa.h"
 
@@ -56,6 +63,13 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormBarre10Scansione, Crea<FormBarre10Scansione>},
     {forme::kFormBarre20, Crea<FormBarre20>},
     {forme::kFormBarre20Scansione, Crea<FormBarre20Scansione>},
+    {forme::kFormNumeriTotaleHK, Crea<FormNumeriTotaleHK>},
+    {forme::kFormNumeriAddendo, Crea<FormNumeriAddendo>},
+    {forme::kFormNumeriAddendoHK, Crea<FormNumeriAddendoHK>},
+    {forme::kFormBarre10, Crea<FormBarre10>},
+    {forme::kFormBarre10HK, Crea<FormBarre10HK>},
+    {forme::kFormBarre20, Crea<FormBarre20>},
+    {forme::kFormBarre20HK, Crea<FormBarre20HK>},
     {forme::kFormTabella, Crea<FormTabella>},
     {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
 });

@@ -88,7 +88,7 @@ class Misura {
   explicit Misura(const QString& cartella)
       : cartella_(cartella),
         ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
-                   pagina_, cartella_.percorso()},
+                   pagina_, rete_, cartella_.percorso()},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     somme::Avvia(ambiente_);
     QTest::qWait(500);
@@ -270,6 +270,7 @@ class Misura {
   bench::Solo istanza_;
   bench::SenzaStampanti stampanti_;
   bench::SenzaPagina pagina_;
+  bench::ReteSorda rete_;
   somme::Ambiente ambiente_;
   std::vector<Descrizione> modello_;
 };

@@ -32,6 +32,21 @@ struct SenzaPagina final : platform::PageSetup {
     return false;
   }
 };
+// Takes every connection and never says anything.
+struct Sorda final : platform::Connection {
+  void open(quint16 /*port*/) override {}
+  [[nodiscard]] bool isOpening() const override { return false; }
+  [[nodiscard]] bool isOpen() const override { return true; }
+  void send(const QByteArray& /*bytes*/) override {}
+  [[nodiscard]] QByteArray take() override { return {}; }
+  void close() override {}
+};
+struct ReteSorda final : platform::Network {
+  [[nodiscard]] std::unique_ptr<platform::Connection> makeConnection(
+      std::function<void()> /*arrived*/) override {
+    return std::make_unique<Sorda>();
+  }
+};
 struct Zitto final : platform::MessageBoxes {
   platform::BoxAnswer show(const platform::MessageBox& /*box*/) override {
     return platform::BoxAnswer::Ok;

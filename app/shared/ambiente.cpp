@@ -2,11 +2,13 @@
 
 namespace somme {
 
-QString TitoloProgramma() { return QStringLiteral("Esercitazioni sulle somme"); }
+QString TitoloProgramma() {
+  return QStringLiteral("Esercitazioni sulle somme");
+}
 
 Ambiente::Ambiente(const Servizi& dati, platform::Forms::Factory forme)
     : servizi(dati),
-      fondo({dati.tempo, dati.messaggi, dati.fine}, TitoloProgramma(),
+      fondo({dati.tempo, dati.messaggi, dati.fine, &dati.rete}, TitoloProgramma(),
             QStringLiteral(":/immagini"), QStringLiteral("puntatore"), std::move(forme)) {}
 
 }  // namespace somme

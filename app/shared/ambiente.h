@@ -5,6 +5,7 @@
 #include "app/shared/stato_condiviso.h"
 #include "app/shared/stringhe_condivise.h"
 #include "platform/base/chance.h"
+#include "platform/base/network.h"
 #include "platform/base/printers.h"
 #include "platform/base/profile_reader.h"
 #include "platform/base/services.h"
@@ -23,7 +24,9 @@ struct Servizi {
   platform::InstanceLock& istanza;
   platform::Printers& stampanti;
   platform::PageSetup& pagina;  // how a printer prints, chosen by the user
-  QString cartella;             // the program's path: the executable's folder, links resolved
+  platform::Network& rete;
+  QString cartella;      // the program's path: the executable's folder, links resolved
+  quint16 porta = 1050;  // where HelpiKeys listens
 };
 
 // Everything that a form reaches besides its own controls: the services, the shared state, the

@@ -17,11 +17,13 @@ Forma::Forma(Ambiente& ambiente, const platform::FormDesign& disegno)
 
 void Forma::onLoad() {
   ApplicaLingua(ambiente_, *this);
-  EssResizer1.start();
+  AvviaResizer();
   PrendiIcona();
 }
 
-void Forma::onResize() { EssResizer1.resize(); }
+void Forma::onResize() {
+  EssResizer1.resize();
+}
 
 void Forma::PrendiIcona() {
   setIcon(ambiente_.fondo.forms().loaded(forme::kFormAvvio).icon());
@@ -32,6 +34,8 @@ void Forma::ImpostaCursoreSistema() {
   for (platform::Control* controllo : controls()) controllo->setMousePointer(valore);
 }
 
-void Forma::VaiA(std::string_view nome) { ambiente_.fondo.forms().pass(*this, nome); }
+void Forma::VaiA(std::string_view nome) {
+  ambiente_.fondo.forms().pass(*this, nome);
+}
 
 }  // namespace somme

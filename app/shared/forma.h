@@ -25,6 +25,8 @@ class Forma : public platform::Form {
   void onLoad() override;
   void onResize() override;
   void PrendiIcona();
+  // The layout's own step of the Load.
+  virtual void AvviaResizer() { EssResizer1.start(); }
 
   // Shows another form, then unloads this one.
   void VaiA(std::string_view nome);

@@ -43,6 +43,13 @@ inline constexpr std::string_view kFormAbacoHK = "FormAbacoHK";
 
 inline constexpr std::string_view kFormTabella = "FormTabella";
 
+// Keyboard sheets for the touch surface.
+inline constexpr std::string_view kFormStampaFoglioNumeri = "FormStampaFoglioNumeri";
+inline constexpr std::string_view kFormStampaFoglioNumeri2 = "FormStampaFoglioNumeri2";
+inline constexpr std::string_view kFormStampaLU = "FormStampaLU";
+inline constexpr std::string_view kFormStampaPLU = "FormStampaPLU";
+inline constexpr std::string_view kFormStampaAbaco = "FormStampaAbaco";
+
 inline constexpr std::string_view kFrmAvviaStampa = "frmAvviaStampa";
 
 }  // namespace somme::forme

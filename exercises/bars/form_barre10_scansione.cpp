@@ -11,13 +11,14 @@ namespace {
 
 constexpr int kAiuti = 10;
 
+constexpr auto kBarre = BarreInAlto(705);
 constexpr auto kControlli = std::to_array<Row>({
     row<&FormBarre10Scansione::LabelDimensioneTastiera>({3120, 6240, 7455, 555}, {.hidden = true}),
     TastieraNumerica<FormBarre10Scansione>({3120, 6240, 7455, 555}, false),
 });
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kSommaSotto,     kBarre10Basse, kControlli,
-                                                      kRestoScansione, kMenuBarre,    kUscita};
+constexpr std::array<std::span<const Row>, 6> kTavole{kBarre,          kSommaScritta, kControlli,
+                                                      kRestoScansione, kMenuBarre,    kEsciBarre};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre10Scansione,
                               .caption = "Esercitazioni sulle somme",

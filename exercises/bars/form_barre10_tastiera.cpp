@@ -1,7 +1,7 @@
 #include "exercises/bars/form_barre10_tastiera.h"
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/disegno_barre.h"
+#include "exercises/bars/disegno_barre_tastiera.h"
 
 namespace somme {
 
@@ -11,15 +11,15 @@ namespace {
 
 constexpr int kAiuti = 10;
 
-constexpr std::array<std::span<const Row>, 5> kTavole{kSommaSotto, kBarre10Basse, kRestoTastiera,
-                                                      kMenuBarre, kUscita};
+constexpr double kAltezza = 7905;
 
-constexpr FormDesign kDisegno{.name = forme::kFormBarre10Tastiera,
-                              .caption = "Esercitazioni sulle somme",
-                              .width = 10980,
-                              .height = 7905,
-                              .back = kGialloPallido,
-                              .tables = kTavole};
+constexpr auto kBarre = BarreInAlto(705);
+
+constexpr std::array<std::span<const Row>, 6> kTavole{
+    kBarre, kSommaScritta, kRispostaScritta, kVerdettoBarre, kMenuBarre, kEsciBarre};
+
+constexpr FormDesign kDisegno =
+    DisegnoBarreTastiera(forme::kFormBarre10Tastiera, kAltezza, kTavole);
 
 }  // namespace
 

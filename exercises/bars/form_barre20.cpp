@@ -1,7 +1,7 @@
 #include "exercises/bars/form_barre20.h"
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/disegno_barre.h"
+#include "exercises/bars/disegno_barre_tastiera.h"
 
 namespace somme {
 
@@ -10,43 +10,27 @@ using namespace disegno;
 namespace {
 
 constexpr int kAiuti = 20;
-constexpr int kDecina = 10;
 
-constexpr auto kLinea = std::to_array<Row>({
-    row<&FormBarre20::Line1>({4890, -120, 0, 3480}, {.toolTip = "Qui finisce la decina",
-                                                     .hidden = true,
-                                                     .borderWidth = 2,
-                                                     .in = nameOf<&FormBarre20::Picture1>}),
-});
+constexpr auto kBarre = BarreInAlto(465);
+constexpr auto kSegno = std::to_array<Row>({Segno<FormBarre20>(-120, 3360)});
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kSommaSotto,    kBarre20,   kLinea,
-                                                      kRestoTastiera, kMenuBarre, kUscita};
+constexpr std::array<std::span<const Row>, 7> kTavole{
+    kBarre, kSegno, kSommaScritta, kRispostaScritta, kVerdettoBarre, kMenuBarre, kEsciBarre};
 
-constexpr FormDesign kDisegno{.name = forme::kFormBarre20,
-                              .caption = "Esercitazioni sulle somme",
-                              .width = 10980,
-                              .height = 7605,
-                              .back = kGialloPallido,
-                              .tables = kTavole};
+constexpr FormDesign kDisegno = DisegnoBarreTastiera(forme::kFormBarre20, 7605, kTavole);
 
 }  // namespace
 
-FormBarre20::FormBarre20(Ambiente& ambiente) : FormaBarreTastiera(ambiente, kDisegno, kAiuti) {}
+FormBarre20::FormBarre20(Ambiente& ambiente) : ConSegno(ambiente, kDisegno, kAiuti) {}
 
 void FormBarre20::onActivate() {
   LeggiMisure();
-  Line1.setX1(FineDi(kDecina));
-  Line1.setX2(FineDi(kDecina));
+  PosaSegno();
   MisuraAiuti();
   ScriviTitolo(stringhe().TitoloFinoAl20);
   CreaAiuti();
   ColoraTermini();
   NuovoCaso();
-}
-
-void FormBarre20::MostraAiuto() {
-  if (stato().LimiteEsercizio == kAiuti) Line1.setVisible(true);
-  FormaBarreTastiera::MostraAiuto();
 }
 
 }  // namespace somme

@@ -1,21 +1,17 @@
 #pragma once
 
+#include "exercises/bars/con_segno.h"
 #include "exercises/bars/forma_barre_tastiera.h"
-#include "platform/forms/controls/line.h"
 
 namespace somme {
 
 // Bars up to 20; the answer is typed, and the help marks where ten ends.
-class FormBarre20 final : public FormaBarreTastiera {
+class FormBarre20 final : public ConSegno<FormaBarreTastiera> {
  public:
   explicit FormBarre20(Ambiente& ambiente);
 
-  platform::Line Line1{*this};
-
  protected:
   void onActivate() override;
-  void NascondiSegno() override { Line1.setVisible(false); }
-  void MostraAiuto() override;
 };
 
 }  // namespace somme

@@ -10,9 +10,9 @@ using namespace disegno;
 namespace {
 
 constexpr int kAiuti = 20;
-constexpr int kDecina = 10;
 constexpr Rgb kGiallo{255, 255, 0};
 
+constexpr auto kBarre = BarreInAlto(465);
 constexpr auto kControlli = std::to_array<Row>({
     row<&FormBarre20Scansione::Line1>({4890, 480, 0, 2520}, {.toolTip = "Qui finisce la decina",
                                                              .borderWidth = 2,
@@ -21,8 +21,8 @@ constexpr auto kControlli = std::to_array<Row>({
     TastieraNumerica<FormBarre20Scansione>({3240, 6600, 7455, 555}, false),
 });
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kSommaSotto,     kBarre20,   kControlli,
-                                                      kRestoScansione, kMenuBarre, kUscita};
+constexpr std::array<std::span<const Row>, 6> kTavole{kBarre,          kSommaScritta, kControlli,
+                                                      kRestoScansione, kMenuBarre,    kEsciBarre};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre20Scansione,
                               .caption = "Esercitazioni sulle somme",
@@ -34,12 +34,11 @@ constexpr FormDesign kDisegno{.name = forme::kFormBarre20Scansione,
 }  // namespace
 
 FormBarre20Scansione::FormBarre20Scansione(Ambiente& ambiente)
-    : FormaBarreScansione(ambiente, kDisegno, kAiuti) {}
+    : ConSegno(ambiente, kDisegno, kAiuti) {}
 
 void FormBarre20Scansione::onActivate() {
   LeggiMisure();
-  Line1.setX1(FineDi(kDecina));
-  Line1.setX2(FineDi(kDecina));
+  PosaSegno();
   MisuraAiuti();
   ScriviTitolo(stringhe().TitoloFinoAl20);
   CreaAiuti();

@@ -59,6 +59,9 @@ class FormaBarre : public FormaEsercizio {
   // The written numbers in the colours of the answers; primo: another one for the first.
   void ColoraTermini(std::optional<platform::Rgb> primo = {});
 
+  // The mark at the end of the tenth unit, on the forms that have one: puts it there, hides it.
+  virtual void PosaSegno() {}
+  virtual void NascondiSegno() {}
   virtual void MostraAiuto();
   // The numbers come back on the bars, so that the "?" goes.
   void MostraNumeri();

@@ -25,8 +25,6 @@ class FormaBarreScansione : public ConScansione<FormaBarre> {
   void SvuotaInput() override { TestoInput.setText({}); }
   void ChiediAiuto() override { MostraAiuto(); }
 
-  // Hides the mark at the end of the tenth unit, on the form that has one.
-  virtual void NascondiSegno() {}
   // The colour of the number in the box.
   [[nodiscard]] virtual platform::Rgb ColoreRisposta(const DomandaBarre& domanda) const {
     return domanda.colore;

@@ -16,10 +16,6 @@ class FormaBarreTastiera : public FormaBarrePulsanti {
  protected:
   void NuovoCaso() override;
   void Chiedi(const DomandaBarre& domanda) override;
-  // Hides the mark at the end of the tenth unit, on the forms that have one.
-  virtual void NascondiSegno() {}
-
- private:
   // It does not look at the locked state: Enter in the box of a solved case counts again, as
   // settled.
   void Controlla();

@@ -13,7 +13,7 @@ FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& d
   mnuStampa.onClick([this] { ApriPannelloStampa(); });
   CommandStampa.onClick([this] { StampaElenco(); });
   CommandChiudi.onClick([this] { ChiudiPannelloStampa(); });
-  mnuEsci.onClick([this] { VaiA(menu_); });
+  mnuEsci.onClick([this] { Esci(); });
 }
 
 void FormaEsercizio::ScriviEsatti() {

@@ -59,6 +59,8 @@ class FormaEsercizio : public Forma {
 
   // Both counters to 0; the case stays as it is.
   void AzzeraConteggio();
+  // Back to the menu that the form was opened from.
+  void Esci() { VaiA(menu_); }
   virtual void ApriPannelloStampa();
   virtual void ChiudiPannelloStampa();
   // The record on paper; the panel stays open.

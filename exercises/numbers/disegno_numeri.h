@@ -1,13 +1,13 @@
 #pragma once
 
 #include "exercises/core/disegno_comune.h"
-#include "exercises/numbers/forma_numeri_tastiera.h"
+#include "exercises/numbers/forma_numeri.h"
 
-// Rows that the number forms share; those of the answer are the ones for mouse and keyboard.
+// Rows that all number forms share. Between the operation and the verdict each way of input has its
+// own: the box for the answer, and what leads to the next case.
 namespace somme::disegno {
 
 inline constexpr Rgb kRosaPallido{255, 192, 255};
-inline constexpr TwipsRect kPostoTestoInput{3360, 2760, 2655, 1095};
 
 inline constexpr auto kDomandaNumeri = std::to_array<Row>({
     row<&FormaNumeri::EtOperazione>({960, 600, 7935, 975}, {.toolTip = "Operazione",
@@ -16,15 +16,9 @@ inline constexpr auto kDomandaNumeri = std::to_array<Row>({
                                                             .align = Align::Centre}),
 });
 
-inline constexpr auto kRispostaTastiera = std::to_array<Row>({
-    row<&FormaNumeriTastiera::TestoInputInvisibile>(kPostoTestoInput,
-                                                    {.font = {Face::Tahoma, 36}, .hidden = true}),
-    row<&FormaNumeriTastiera::TestoInput>(kPostoTestoInput,
-                                          {.toolTip = "Scrivi il numero e premi Invio"}),
-    Avanti<FormaNumeriTastiera>({8280, 5520, 1935, 975}),
-});
+inline constexpr TwipsRect kPostoAvantiNumeri{8280, 5520, 1935, 975};
 
-inline constexpr auto kRestoNumeri = std::to_array<Row>({
+inline constexpr auto kVerdettoNumeri = std::to_array<Row>({
     Esatti({2160, 5640, 2415, 375}),
     Errati({2160, 6000, 2175, 495}),
     Si({960, 5520, 855, 855}),
@@ -41,11 +35,8 @@ inline constexpr auto kMenuNumeri = std::to_array<Row>({
     item<&FormaNumeri::mnuEsci>({.caption = "&Esci"}),
 });
 
-inline constexpr std::array<std::span<const Row>, 4> kTavoleNumeri{
-    kDomandaNumeri, kRispostaTastiera, kRestoNumeri, kMenuNumeri};
-
 constexpr FormDesign DisegnoNumeri(std::string_view nome,
-                                   std::span<const std::span<const Row>> tavole = kTavoleNumeri) {
+                                   std::span<const std::span<const Row>> tavole) {
   return {.name = nome,
           .caption = "Esercitazioni sulle somme",
           .width = 10725,

@@ -20,7 +20,7 @@ inline constexpr auto kRispostaScansione = std::to_array<Row>({
 });
 
 inline constexpr std::array<std::span<const Row>, 4> kTavoleNumeriScansione{
-    kDomandaNumeri, kRispostaScansione, kRestoNumeri, kMenuNumeri};
+    kDomandaNumeri, kRispostaScansione, kVerdettoNumeri, kMenuNumeri};
 
 constexpr FormDesign DisegnoNumeriScansione(std::string_view nome) {
   return DisegnoNumeri(nome, kTavoleNumeriScansione);

@@ -1,13 +1,14 @@
 #include "exercises/numbers/form_numeri_addendo.h"
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/numbers/disegno_numeri.h"
+#include "exercises/numbers/disegno_numeri_tastiera.h"
 
 namespace somme {
 
 namespace {
 
-constexpr platform::FormDesign kDisegno = disegno::DisegnoNumeri(forme::kFormNumeriAddendo);
+constexpr platform::FormDesign kDisegno =
+    disegno::DisegnoNumeri(forme::kFormNumeriAddendo, disegno::kTavoleNumeriTastiera);
 
 }  // namespace
 

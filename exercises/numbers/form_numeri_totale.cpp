@@ -1,13 +1,14 @@
 #include "exercises/numbers/form_numeri_totale.h"
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/numbers/disegno_numeri.h"
+#include "exercises/numbers/disegno_numeri_tastiera.h"
 
 namespace somme {
 
 namespace {
 
-constexpr platform::FormDesign kDisegno = disegno::DisegnoNumeri(forme::kFormNumeriTotale);
+constexpr platform::FormDesign kDisegno =
+    disegno::DisegnoNumeri(forme::kFormNumeriTotale, disegno::kTavoleNumeriTastiera);
 
 }  // namespace
 

@@ -18,8 +18,8 @@ void FormaNumeri::ScriviDomanda() {
   EtOperazione.setCaption((this->*esercizio_.domanda)());
 }
 
-void FormaNumeri::ScriviRisolta(const QString& risposta) {
-  EtOperazione.setCaption((this->*esercizio_.risolta)(risposta));
+void FormaNumeri::ScriviRisolta(const QString& operazione) {
+  EtOperazione.setCaption(operazione);
   AggiungiRiga(EtOperazione.caption());
 }
 

@@ -42,7 +42,7 @@ class FormaNumeri : public FormaEsercizio {
   void ScriviDomanda();
   [[nodiscard]] qint16 Cercato() const { return stato().*esercizio_.cercato; }
   // The solved operation, on the form and in the record.
-  void ScriviRisolta(const QString& risposta);
+  void ScriviRisolta(const QString& operazione);
   [[nodiscard]] const EsercizioNumeri& esercizio() const { return esercizio_; }
 
  private:

@@ -31,7 +31,7 @@ void FormaNumeriTastiera::NuovoCaso() {
 void FormaNumeriTastiera::RispostaGiusta() {
   SegnaGiusto();
   PulsanteAvanti.setEnabled(true);
-  ScriviRisolta(TestoInput.TestoFormattato);
+  ScriviRisolta((this->*esercizio().risolta)(TestoInput.TestoFormattato));
   if (esercizio().finale == EsercizioNumeri::Finale::DisabilitaPoiFuoco) {
     TestoInput.Enabled.set(false);
     PulsanteAvanti.setFocus();

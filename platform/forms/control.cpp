@@ -74,6 +74,10 @@ void buildCopy(Control& copy, const Control& original, int index) {
   original.form().adopt(copy);
 }
 
+void takeOff(Control& control) {
+  control.form().release(control);
+}
+
 void Control::applyScale() {
   if (!widget_) return;
   Control::placeChanged();

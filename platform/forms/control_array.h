@@ -11,6 +11,8 @@ namespace platform {
 // Makes a hidden control at run time as a copy of another as that stands now: place, look, words.
 // Called by control arrays only.
 void buildCopy(Control& copy, const Control& original, int index);
+// Takes a control that is to be destroyed off its form's list. Called by control arrays only.
+void takeOff(Control& control);
 
 // Controls under one name with an index, as `PulsanteNumero(3)`. Elements come from the design rows
 // or are made at run time.
@@ -38,6 +40,13 @@ class ControlArray {
     T& copy = element(index);
     buildCopy(copy, (*this)[0], index);
     return copy;
+  }
+
+  // Destroys an element that was made at run time; without it nothing happens.
+  void unload(int index) {
+    if (!contains(index)) return;
+    takeOff((*this)[index]);
+    elements_.erase(index);
   }
 
   // In the order of the indices.

@@ -111,6 +111,11 @@ void Form::adopt(Control& control) {
   }
 }
 
+void Form::release(const Control& control) {
+  std::erase(controls_, &control);
+  std::erase(declared_, &control);
+}
+
 std::vector<const Control*> Form::withoutRow() const {
   std::vector<const Control*> result;
   std::copy_if(declared_.begin(), declared_.end(), std::back_inserter(result),

@@ -104,6 +104,7 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   void leave() { leaving_ = true; }
   [[nodiscard]] bool isLeaving() const { return leaving_; }
   void adopt(Control& control);
+  void release(const Control& control);
   void fireLoad() { onLoad(); }
   void fireResize() { onResize(); }
   void fireActivate() { onActivate(); }

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "platform/base/message_boxes.h"
+#include "platform/base/network.h"
 #include "platform/base/services.h"
 #include "platform/base/time_source.h"
 #include "platform/forms/forms.h"
@@ -21,6 +22,7 @@ struct RuntimeServices {
   TimeSource& time;
   MessageBoxes& boxes;
   ProcessEnd& end;
+  Network* network = nullptr;  // none under forms without sockets
 };
 
 // The ground under the forms of one program: its window, the forms now loaded, the gate of their
@@ -36,6 +38,7 @@ class Runtime {
   Runtime& operator=(const Runtime&) = delete;
 
   [[nodiscard]] TimeSource& time() { return services_.time; }
+  [[nodiscard]] Network* network() { return services_.network; }
   [[nodiscard]] Gate& gate() { return gate_; }
   [[nodiscard]] Forms& forms() { return forms_; }
   [[nodiscard]] Window& window() { return *window_; }

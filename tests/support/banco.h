@@ -8,6 +8,7 @@
 #include "app/shared/mod_language_support.h"
 #include "platform/forms/control.h"
 #include "platform/forms/form.h"
+#include "support/rete_di_prova.h"
 #include "support/scripted_time.h"
 #include "support/servizi_di_prova.h"
 #include "support/stampanti_di_prova.h"
@@ -70,6 +71,7 @@ class Banco {
   IstanzaDiProva istanza;
   StampantiDiProva stampanti;
   PaginaDiProva pagina;
+  ReteDiProva rete;
   std::unique_ptr<somme::Ambiente> ambiente;
 };
 

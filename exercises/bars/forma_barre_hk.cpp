@@ -1,0 +1,37 @@
+#include "exercises/bars/forma_barre_hk.h"
+
+namespace somme {
+
+namespace {
+
+constexpr TastieraHelpiKeys kTastiera{
+    .mappa = kMappaCifre,
+    .foglio = forme::kFormStampaFoglioNumeri,
+    .collega = TastieraHelpiKeys::Collega::PrimaDelResizer,
+};
+
+}  // namespace
+
+FormaBarreHK::FormaBarreHK(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti,
+                           QString StringheCondivise::*titolo)
+    : ConTastiCifre(kTastiera, ambiente, disegno, aiuti), titolo_(titolo) {
+  OffriFoglio(mnuStamopaHK);
+}
+
+void FormaBarreHK::DopoLaRichiesta() {
+  LeggiMisure();
+  PosaSegno();
+  MisuraAiuti();
+  ScriviTitolo(stringhe().*titolo_);
+  ColoraTermini();
+  // A later activation leaves the squares as they are.
+  if (aiuto1.count() < 2) CreaAiuti();
+  EtichettaEsatti.setFontSize(EtichettaErrati.fontSize());
+  NuovoCaso();
+}
+
+void FormaBarreHK::Aiuta() {
+  if (PulsanteAiuto.isEnabled()) MostraAiuto();
+}
+
+}  // namespace somme

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <string_view>
+#include <utility>
+
+#include "app/shared/nomi_forme.h"
+#include "exercises/core/foglio_tastiera.h"
+#include "input/collegamento_helpikeys.h"
+#include "platform/forms/controls/menu_item.h"
+
+namespace somme {
+
+// What the forms for the touch keyboard differ in, apart from what their keys do.
+struct TastieraHelpiKeys {
+  const MappaTasti& mappa;
+  std::string_view foglio;  // the form of its keyboard sheet
+  // When the Load connects: before or after the layout is started.
+  enum class Collega { PrimaDelResizer, DopoIlResizer } collega = Collega::DopoIlResizer;
+};
+
+// An exercise form, or a base of some, that is worked by touch: the pupil lays a hand on a printed
+// sheet, and HelpiKeys reports where. It opens the connection at the Load, asks for the touches as
+// the first thing at each activation, and gives them back when the form is left. Mouse and keyboard
+// go on working as on `Base`.
+//
+// A form says what its keys do (`InterpretaSegnale`), which menu item asks for its sheet
+// (`OffriFoglio`, in its constructor), and has a row for the socket that stands on it
+// (`disegno::Connessione`). Where its activation is another than that of `Base`, it overrides
+// `DopoLaRichiesta`, never `onActivate`.
+template <class Base>
+class ConHelpiKeys : public Base {
+ public:
+  template <class... Argomenti>
+  explicit ConHelpiKeys(const TastieraHelpiKeys& tastiera, Argomenti&&... argomenti)
+      : Base(std::forward<Argomenti>(argomenti)...),
+        tastiera_(tastiera),
+        collegamento_(this->ambiente(), ControlloConnessione, tastiera.mappa,
+                      [this](int tasto) { InterpretaSegnale(tasto); }) {
+    this->mnuEsci.onClick([this] {
+      collegamento_.Lascia();
+      this->Esci();
+    });
+  }
+
+  platform::ControlArray<platform::Socket> ControlloConnessione{*this};
+
+  [[nodiscard]] bool HelpiKeysConnesso() const { return collegamento_.HelpiKeysConnesso(); }
+  // The key of the sheet under a cell of the touch surface, both counted from 1; 0 for none.
+  [[nodiscard]] int DecodificaSegnali(int colonna, int riga) const {
+    return collegamento_.DecodificaSegnali(colonna, riga);
+  }
+  // Does what a key of the sheet does on this form. tasto: from 1, row by row.
+  virtual void InterpretaSegnale(int tasto) = 0;
+
+ protected:
+  // The menu item that asks for the keyboard sheet. It can be chosen once the sheet's form exists.
+  void OffriFoglio(platform::MenuItem& voce) {
+    voce_ = &voce;
+    voce.onClick([this] { ChiediFoglio(this->ambiente(), tastiera_.foglio); });
+  }
+  // What an activation does once the touches have been asked for.
+  virtual void DopoLaRichiesta() { Base::onActivate(); }
+
+  void onLoad() override {
+    Base::onLoad();
+    if (voce_ != nullptr) {
+      voce_->setEnabled(this->ambiente().fondo.forms().knows(tastiera_.foglio));
+    }
+  }
+  void AvviaResizer() final {
+    const bool prima = tastiera_.collega == TastieraHelpiKeys::Collega::PrimaDelResizer;
+    if (prima) collegamento_.Apri();
+    Base::AvviaResizer();
+    if (!prima) collegamento_.Apri();
+  }
+  void onActivate() final {
+    collegamento_.Richiedi();
+    DopoLaRichiesta();
+  }
+
+ private:
+  const TastieraHelpiKeys& tastiera_;
+  CollegamentoHelpiKeys collegamento_;
+  platform::MenuItem* voce_ = nullptr;
+};
+
+namespace disegno {
+
+// The socket that stands on a touch form; F is the form or its base that derives from ConHelpiKeys.
+template <class F>
+constexpr platform::Row Connessione() {
+  return platform::item<&F::ControlloConnessione>(0, {});
+}
+
+}  // namespace disegno
+
+}  // namespace somme

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+namespace somme {
+
+class Ambiente;
+
+// Asks whether the keyboard sheet is to be printed and, on Yes, shows its form over the exercise.
+// foglio: the name of that form.
+void ChiediFoglio(Ambiente& ambiente, std::string_view foglio);
+
+}  // namespace somme
