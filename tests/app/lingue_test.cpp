@@ -111,7 +111,8 @@ class LingueTest : public QObject {
   void everySectionBelongsToAForm() {
     QFETCH(QString, lingua);
     const Banco banco({640, 480});
-    QSet<QString> note{QStringLiteral("Strings"), QStringLiteral("MessageBox")};
+    QSet<QString> note{QStringLiteral("Strings"), QStringLiteral("MessageBox"),
+                       QStringLiteral("PageSetup"), QStringLiteral("Quantita")};
     for (const std::string_view nome : somme::NomiDelleForme()) note.insert(testo(nome));
     const QStringList sezioni = leggi(banco.percorso(lingua)).keys();
     const QSet<QString> ignote = QSet<QString>(sezioni.begin(), sezioni.end()) - note;
@@ -148,6 +149,16 @@ class LingueTest : public QObject {
     const Banco banco({640, 480});
     QCOMPARE(leggi(banco.percorso(lingua)).value(QStringLiteral("MessageBox")).keys(),
              QStringList({QStringLiteral("No"), QStringLiteral("Ok"), QStringLiteral("Si")}));
+  }
+
+  void theWordsForWhatStandsOnABoardAreThere_data() { lingue(); }
+  void theWordsForWhatStandsOnABoardAreThere() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    const QStringList chiavi =
+        leggi(banco.percorso(lingua)).value(QStringLiteral("Quantita")).keys();
+    QCOMPARE(chiavi.join(u' '), QStringLiteral("Centinaia Centinaio Decina Decine Migliaia "
+                                               "Migliaio UnaUnita Unita Vuoto"));
   }
 
   void noFileIsTooLargeToBeReadBySections_data() { lingue(); }
