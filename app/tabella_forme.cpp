@@ -14,6 +14,8 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "exercises/bars/form_barre20.h"
+#include "exercises/blocks/form_hlu.h"
+#include "exercises/blocks/form_lu.h"
 #include "exercises/numbers/form_numeri_addendo.h"
 #include "exercises/numbers/form_numeri_totale.h"
 #include "exercises/table/form_tabella.h"
@@ -46,6 +48,8 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormNumeriAddendo, Crea<FormNumeriAddendo>},
     {forme::kFormBarre10, Crea<FormBarre10>},
     {forme::kFormBarre20, Crea<FormBarre20>},
+    {forme::kFormLU, Crea<FormLU>},
+    {forme::kFormHLU, Crea<FormHLU>},
     {forme::kFormTabella, Crea<FormTabella>},
     {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
 });
