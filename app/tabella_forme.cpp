@@ -17,6 +17,8 @@
 #include "exercises/bars/form_barre10_tastiera.h"
 #include "exercises/bars/form_barre20.h"
 #include "exercises/bars/form_barre20_scansione.h"
+#include "exercises/blocks/form_hlu.h"
+#include "exercises/blocks/form_lu.h"
 #include "exercises/numbers/form_numeri_addendo.h"
 #include "exercises/numbers/form_numeri_addendo_scansione.h"
 #include "exercises/numbers/form_numeri_totale.h"
@@ -70,6 +72,8 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormBarre10HK, Crea<FormBarre10HK>},
     {forme::kFormBarre20, Crea<FormBarre20>},
     {forme::kFormBarre20HK, Crea<FormBarre20HK>},
+    {forme::kFormLU, Crea<FormLU>},
+    {forme::kFormHLU, Crea<FormHLU>},
     {forme::kFormTabella, Crea<FormTabella>},
     {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
 });

@@ -34,6 +34,15 @@ LineaTempo fermo(Filmato& filmato, const Specie& specie, double lato) {
   return clip;
 }
 
+/// The same, hidden as soon as it stands on its board.
+LineaTempo nascosto(Filmato& filmato, const Specie& specie, double lato) {
+  LineaTempo clip;
+  clip.poni(1, filmato.definisci(blocco(specie, lato)));
+  clip.esegui(Azioni().spingi("").spingi(swf::Proprieta::Visibile).spingi(0).scriviProprieta());
+  clip.mostra();
+  return clip;
+}
+
 std::vector<swf::Punto> insieme(std::vector<swf::Punto> primi,
                                 const std::vector<swf::Punto>& altri) {
   primi.insert(primi.end(), altri.begin(), altri.end());
@@ -156,7 +165,8 @@ Filmato unionehdau() {
   riquadro(fondo, {639, 4, 54, 273}, kBlu);
   LineaTempo& scena = filmato.scena();
   scena.poni(kSottoTutto, filmato.definisci(fondo));
-  schiera(scena, piatti, filmato.definisci(fermo(filmato, kPiatto, kLato)), kPiatti);
+  // The form hides no flats on this board, neither at its start nor between two cases.
+  schiera(scena, piatti, filmato.definisci(nascosto(filmato, kPiatto, kLato)), kPiatti);
   schiera(scena, lunghi,
           filmato.definisci(bloccoCheCambia(filmato, kLungo, kVerde, kLato, kTempiDaH.colore)),
           kLunghi);

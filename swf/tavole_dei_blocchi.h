@@ -4,8 +4,9 @@
 
 namespace somme::filmati {
 
-// The boards of the blocks. Every clip is visible when a movie is loaded: the form hides what it
-// does not want. The forms number blocks from 1.
+// The boards of the blocks. Every clip is visible when a movie is loaded, and the form hides what
+// it does not want, but for the flats of the joined board, which it never hides: they begin hidden.
+// The forms number blocks from 1.
 
 /// An addend of tens and units: "da1" to "da9" and "u1" to "u9", at rest.
 [[nodiscard]] swf::Filmato dau();

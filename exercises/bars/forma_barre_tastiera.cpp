@@ -1,27 +1,13 @@
 #include "exercises/bars/forma_barre_tastiera.h"
 
-#include "platform/base/numbers.h"
-#include "platform/forms/keys/key_codes.h"
+#include "exercises/core/testo_cifre.h"
 
 namespace somme {
-
-namespace {
-
-void SoloCifre(int& tasto) {
-  if (tasto != platform::kKeyBackspace && !platform::isNumericCharacter(QChar(char16_t(tasto)))) {
-    tasto = 0;
-  }
-}
-
-}  // namespace
 
 FormaBarreTastiera::FormaBarreTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
                                        int aiuti)
     : FormaBarrePulsanti(ambiente, disegno, aiuti) {
-  TestoInput.onKeyPress(SoloCifre);
-  TestoInput.onKeyUp([this](int tasto) {
-    if (tasto == platform::kKeyEnter) Controlla();
-  });
+  RaccogliCifre(TestoInput, [this] { Controlla(); });
 }
 
 void FormaBarreTastiera::NuovoCaso() {
@@ -42,9 +28,9 @@ void FormaBarreTastiera::Chiedi(const DomandaBarre& domanda) {
 }
 
 void FormaBarreTastiera::Controlla() {
-  const QString testo = TestoInput.text();
-  if (platform::trimBlanks(testo).isEmpty()) return;
-  if (platform::leadingNumber(testo) != risultatoAtteso()) {
+  const std::optional<double> risposta = NumeroScritto(TestoInput);
+  if (!risposta) return;
+  if (*risposta != risultatoAtteso()) {
     SegnaSbagliato();
     return;
   }

@@ -36,6 +36,13 @@ void FormaEsercizio::SegnaGiusto(const Passo& primaDellEtichetta) {
   Annuncia(ImgSi, EtichettaEsatti);
 }
 
+void FormaEsercizio::SegnaPassoGiusto() {
+  ImgSi.setVisible(true);
+  ImgNo.setVisible(false);
+  announce(ImgSi.toolTip());
+  RiproduciSuono(ambiente(), QStringLiteral("si"));
+}
+
 void FormaEsercizio::SegnaSbagliato(const Passo& primaDelSuono) {
   stato().ContaErrati = platform::toInt16(stato().ContaErrati + 1);
   ScriviErrati();

@@ -43,6 +43,8 @@ class FormaEsercizio : public Forma {
   using Passo = std::function<void()>;
   // A right answer: picture, count, sound, whatever a form does before its label, the label.
   void SegnaGiusto(const Passo& primaDellEtichetta = {});
+  // A step on the way to the answer is right: picture and sound, and nothing is counted.
+  void SegnaPassoGiusto();
   // A wrong answer: count and label, picture, whatever a form does before the sound, the sound.
   void SegnaSbagliato(const Passo& primaDelSuono = {});
 

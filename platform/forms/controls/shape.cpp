@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QWidget>
+#include <algorithm>
 #include <optional>
 
 #include "platform/forms/text_block.h"
@@ -12,8 +13,13 @@ namespace {
 
 class ShapeWidget final : public QWidget {
  public:
-  ShapeWidget(QWidget* parent, int edge) : QWidget(parent), edge_(edge) {
+  explicit ShapeWidget(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+
+  void setEdge(int pixels) {
+    edge_ = pixels;
+    update();
   }
 
   void setColours(const QColor& ink, std::optional<QColor> ground) {
@@ -32,7 +38,7 @@ class ShapeWidget final : public QWidget {
   }
 
  private:
-  int edge_;
+  int edge_ = 1;
   QColor ink_;
   std::optional<QColor> ground_;
 };
@@ -40,7 +46,24 @@ class ShapeWidget final : public QWidget {
 }  // namespace
 
 QWidget* Shape::create(QWidget* parent) {
-  return new ShapeWidget(parent, look().borderWidth);
+  return new ShapeWidget(parent);
+}
+
+int Shape::edge() const {
+  const double grown = scale().font() * kTwipsPerPixel / scale().twipsPerPixel;
+  return std::max(look().borderWidth, qRound(look().borderWidth * grown));
+}
+
+void Shape::applyScale() {
+  placeChanged();
+  applyLook();
+}
+
+void Shape::placeChanged() {
+  const int outside = edge() / 2;
+  widget()->setGeometry(
+      scale().pixels(designPlace()).adjusted(-outside, -outside, outside, outside));
+  static_cast<ShapeWidget*>(widget())->setEdge(edge());
 }
 
 void Shape::applyLook() {

@@ -1,0 +1,272 @@
+#include "exercises/blocks/forma_blocchi.h"
+
+#include <algorithm>
+
+#include "app/shared/modulo_colori_suoni.h"
+#include "app/shared/nomi_forme.h"
+#include "platform/base/numbers.h"
+
+namespace somme {
+
+using platform::leadingBlank;
+
+namespace {
+
+// A property of a clip.
+constexpr int kVisibile = 7;
+
+constexpr double kAttesaUnione = 2;  // seconds
+constexpr double kAttesaCambio = 4;  // the movie's stretch must be over by then
+
+}  // namespace
+
+FormaBlocchi::FormaBlocchi(Ambiente& ambiente, const platform::FormDesign& disegno,
+                           const EsercizioBlocchi& esercizio)
+    : FormaEsercizio(ambiente, disegno, forme::kFormMenuPLU), esercizio_(esercizio) {
+  ShockwaveFlash3.onFsCommand(
+      [this](const QString& /*command*/, const QString& args) { ComandoDelFilmato(args); });
+}
+
+void FormaBlocchi::onLoad() {
+  FormaEsercizio::onLoad();
+  ScriviEsatti();
+  ScriviErrati();
+}
+
+void FormaBlocchi::onActivate() {
+  PosaTavole();
+  IniziaElencoDelLivello();
+  CaricaFilmati();
+  PosaTastiere();
+  letEventsRun();
+  NuovoCaso();
+}
+
+void FormaBlocchi::PosaTavole() {
+  const auto posa = [](platform::Board& tavola, const platform::Label& ancora) {
+    tavola.setTop(ancora.top());
+    tavola.setLeft(ancora.left());
+    tavola.setWidth(ancora.width());
+    tavola.setHeight(ancora.height());
+  };
+  posa(ShockwaveFlash1, Label1);
+  posa(ShockwaveFlash2, Label2);
+  posa(ShockwaveFlash3, Label3);
+}
+
+void FormaBlocchi::IniziaElencoDelLivello() {
+  const int tipo = stato().TipoEsercizio;
+  if (tipo < 1 || tipo > int(esercizio_.nomi.size())) return;
+  const auto nome = esercizio_.nomi[std::size_t(tipo - 1)];
+  IniziaElenco(QStringLiteral("     ") + stringhe().*esercizio_.titolo + stringhe().Trattino +
+               stringhe().*nome);
+}
+
+void FormaBlocchi::CaricaFilmati() {
+  const auto percorso = [this](QStringView filmato) {
+    return QStringLiteral("%1/%2").arg(ambiente().servizi.cartella, filmato);
+  };
+  ShockwaveFlash1.setMovie(percorso(esercizio_.filmatoAddendo));
+  ShockwaveFlash2.setMovie(percorso(esercizio_.filmatoAddendo));
+  ShockwaveFlash3.setMovie(percorso(esercizio_.filmatoUnione));
+  // What no new case hides on the joined board begins hidden, also in a movie that shows it.
+  MostraBlocchi(ShockwaveFlash3, kPiatti, 1, kMassimoPerSpecie, false);
+  SW3 = {};
+  cambioDelCaso_.reset();
+}
+
+void FormaBlocchi::NuovoCaso() {
+  newCase();
+  ChiudiAvanti();
+  Fase = 1;
+  SW1 = {};
+  SW2 = {};
+  EliminaNumeroSW1();
+  EliminaNumeroSW2();
+  EliminaNumeroSW3();
+  // A carry that the last case was left in must not go on under this one.
+  if (cambioDelCaso_) ShockwaveFlash3.gotoFrame(1);
+  for (std::size_t i = 0; i < esercizio_.cambi.size(); ++i) {
+    PulsanteDelCambio(i).setVisible(false);
+  }
+  ShockwaveFlash3.setVisible(false);
+  NascondiRisultato();
+  MettiComandi(Label1);
+  if (const Livello* livello = LivelloDi(esercizio_.livelli, stato().TipoEsercizio)) {
+    livello->genera(stato(), ambiente().servizi.sorte);
+  }
+  EtOperazione.setCaption(leadingBlank(stato().Addendo1) + stringhe().SegnoPiu +
+                          leadingBlank(stato().Addendo2) + stringhe().SegnoUguale);
+  ShockwaveFlash1.setVisible(true);
+  ShockwaveFlash2.setVisible(true);
+  Incornicia(Label1);
+  Racconta();
+  CasoPronto();
+}
+
+void FormaBlocchi::MostraBlocchi(platform::Board& filmato, const SpecieBlocchi& specie, int da,
+                                 int a, bool visibili) {
+  const QString valore = visibili ? QStringLiteral("1") : QStringLiteral("0");
+  for (int i = da; i <= a; ++i) {
+    filmato.tSetProperty(QStringLiteral("%1%2").arg(specie.clip).arg(i), kVisibile, valore);
+  }
+}
+
+void FormaBlocchi::EliminaNumeroSW1() {
+  for (const SpecieBlocchi* specie : esercizio_.specie) {
+    MostraBlocchi(ShockwaveFlash1, *specie, 1, kMassimoPerSpecie, false);
+  }
+}
+
+void FormaBlocchi::EliminaNumeroSW2() {
+  for (const SpecieBlocchi* specie : esercizio_.specie) {
+    MostraBlocchi(ShockwaveFlash2, *specie, 1, kMassimoPerSpecie, false);
+  }
+}
+
+void FormaBlocchi::EliminaNumeroSW3() {
+  for (const Sgombero& sgombero : esercizio_.sgombero) {
+    MostraBlocchi(ShockwaveFlash3, sgombero.specie, 1, sgombero.quanti, false);
+    SW3.*sgombero.specie.quanti = 0;
+  }
+}
+
+// The edge's width is a number of pixels and is taken off twips as it is, so that the frame stands
+// that many twips outside of the board.
+void FormaBlocchi::Incornicia(const platform::Label& ancora) {
+  const int bordo = Shape1.look().borderWidth;
+  Shape1.setPlace(ancora.left() - bordo, ancora.top() - bordo, ancora.width() + 2 * bordo,
+                  ancora.height() + 2 * bordo);
+  Shape1.setVisible(true);
+}
+
+std::optional<FormaBlocchi::Tavola> FormaBlocchi::InUso() {
+  if (Fase == 1) return Tavola{ShockwaveFlash1, Label1, SW1, &Caso::Addendo1};
+  if (Fase == 2) return Tavola{ShockwaveFlash2, Label2, SW2, &Caso::Addendo2};
+  return std::nullopt;
+}
+
+void FormaBlocchi::MettiBlocco(const SpecieBlocchi& specie) {
+  const std::optional<Tavola> tavola = InUso();
+  if (!tavola) return;
+  int& quanti = tavola->blocchi.*specie.quanti;
+  if (quanti == kMassimoPerSpecie) return;
+  ++quanti;
+  MostraBlocchi(tavola->filmato, specie, quanti, quanti, true);
+  Racconta();
+  announce(InParole(ambiente(), tavola->blocchi));
+}
+
+void FormaBlocchi::Svuota() {
+  const std::optional<Tavola> tavola = InUso();
+  if (!tavola) return;
+  tavola->blocchi = {};
+  for (const SpecieBlocchi* specie : esercizio_.specie) {
+    MostraBlocchi(tavola->filmato, *specie, 1, kMassimoPerSpecie, false);
+  }
+  Racconta();
+  announce(InParole(ambiente(), tavola->blocchi));
+}
+
+void FormaBlocchi::Conferma() {
+  const std::optional<Tavola> tavola = InUso();
+  if (!tavola) return;
+  int valore = 0;
+  for (const SpecieBlocchi* specie : esercizio_.specie) {
+    valore += tavola->blocchi.*specie->quanti * specie->valore;
+  }
+  if (valore != stato().*tavola->addendo) {
+    SegnaSbagliato();
+    return;
+  }
+  if (Fase == 1) {
+    Fase = 2;
+    SpostaComandi(Label2);
+    Incornicia(Label2);
+    SegnaPassoGiusto();
+    return;
+  }
+  Fase = 3;
+  Incornicia(Label3);
+  TogliComandi();
+  SegnaPassoGiusto();
+  Attendi(ambiente(), kAttesaUnione);
+  UnisciTavole();
+  letEventsRun();
+  ChiediCambioDa(0);
+}
+
+int FormaBlocchi::SuEntrambe(const SpecieBlocchi& specie) const {
+  return SW1.*specie.quanti + SW2.*specie.quanti;
+}
+
+void FormaBlocchi::UnisciTavole() {
+  ShockwaveFlash1.setVisible(false);
+  ShockwaveFlash2.setVisible(false);
+  ShockwaveFlash3.setVisible(true);
+  for (const SpecieBlocchi* specie : esercizio_.specie) {
+    const int quanti = SuEntrambe(*specie);
+    MostraBlocchi(ShockwaveFlash3, *specie, 1, quanti, true);
+    int& mostrati = SW3.*specie->quanti;
+    mostrati = std::max(mostrati, quanti);
+  }
+  Racconta();
+}
+
+// The sums are those of the boards as the pupil built them: what a carry has brought is not among
+// them, so that nine tens and a carried one ask for no further carry. That is settled.
+void FormaBlocchi::ChiediCambioDa(std::size_t quale) {
+  for (; quale < esercizio_.cambi.size(); ++quale) {
+    if (SuEntrambe(esercizio_.cambi[quale].da) >= kDieci) {
+      MostraCambio(PulsanteDelCambio(quale));
+      return;
+    }
+  }
+  ChiediRisultato();
+}
+
+void FormaBlocchi::Cambia(std::size_t quale) {
+  platform::Button& pulsante = PulsanteDelCambio(quale);
+  if (!pulsante.isVisible()) return;
+  pulsante.setVisible(false);
+  cambioDelCaso_ = caseNumber();
+  ShockwaveFlash3.gotoFrame(esercizio_.cambi[quale].fotogramma);
+  ShockwaveFlash3.play();
+  Attendi(ambiente(), kAttesaCambio);
+  ChiediCambioDa(quale + 1);
+}
+
+void FormaBlocchi::ComandoDelFilmato(const QString& args) {
+  if (cambioDelCaso_ && *cambioDelCaso_ != caseNumber()) return;
+  for (const CambioBlocchi& cambio : esercizio_.cambi) {
+    if (args == cambio.parola) FaiCambio(cambio);
+  }
+}
+
+void FormaBlocchi::FaiCambio(const CambioBlocchi& cambio) {
+  cambioDelCaso_.reset();
+  const int nuovo = SuEntrambe(cambio.a) + 1;
+  MostraBlocchi(ShockwaveFlash3, cambio.a, nuovo, nuovo, true);
+  if (cambio.tornaAlPrimo) ShockwaveFlash3.gotoFrame(1);
+  MostraBlocchi(ShockwaveFlash3, cambio.da, 1, kDieci, false);
+  int& arrivati = SW3.*cambio.a.quanti;
+  arrivati = std::max(arrivati, nuovo);
+  SW3.*cambio.da.quanti = std::max(SW3.*cambio.da.quanti - kDieci, 0);
+  Racconta();
+}
+
+void FormaBlocchi::SegnaRisolto() {
+  SegnaGiusto();
+  ApriAvanti();
+  EtOperazione.setCaption(EtOperazione.caption() + stringhe().Spazio +
+                          platform::plain(stato().Totale));
+  AggiungiRiga(EtOperazione.caption());
+}
+
+void FormaBlocchi::Racconta() {
+  ShockwaveFlash1.setDescription(InParole(ambiente(), SW1));
+  ShockwaveFlash2.setDescription(InParole(ambiente(), SW2));
+  ShockwaveFlash3.setDescription(InParole(ambiente(), SW3));
+}
+
+}  // namespace somme

@@ -1,0 +1,25 @@
+#include "exercises/core/testo_cifre.h"
+
+#include "platform/base/numbers.h"
+#include "platform/forms/keys/key_codes.h"
+
+namespace somme {
+
+void RaccogliCifre(platform::TextBox& casella, std::function<void()> conferma) {
+  casella.onKeyPress([](int& tasto) {
+    if (tasto != platform::kKeyBackspace && !platform::isNumericCharacter(QChar(char16_t(tasto)))) {
+      tasto = 0;
+    }
+  });
+  casella.onKeyUp([conferma = std::move(conferma)](int tasto) {
+    if (tasto == platform::kKeyEnter) conferma();
+  });
+}
+
+std::optional<double> NumeroScritto(const platform::TextBox& casella) {
+  const QString testo = casella.text();
+  if (platform::trimBlanks(testo).isEmpty()) return std::nullopt;
+  return platform::leadingNumber(testo);
+}
+
+}  // namespace somme

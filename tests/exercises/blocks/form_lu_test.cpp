@@ -1,0 +1,680 @@
+#include "exercises/blocks/form_lu.h"
+
+#include <cmath>
+
+#include "blocchi_di_prova.h"
+
+using namespace prova;
+using somme::FormLU;
+
+Q_DECLARE_METATYPE(std::vector<prova::SorteDiProva::Estrazione>)
+
+namespace {
+
+constexpr qint16 kConESenzaCambio = 3;
+const QString kSpecie = QStringLiteral("da u");
+
+}  // namespace
+
+// Longs and units up to 99, as a pupil uses them.
+class FormLUTest : public QObject {
+  Q_OBJECT
+
+  // What the level with and without carries draws for a case.
+  static std::vector<SorteDiProva::Estrazione> caso(int addendo1, int addendo2) {
+    const int totale = addendo1 + addendo2;
+    return {{totale - 1, 99}, {addendo1, totale}};
+  }
+  static FormLU& apri(Banco& banco, int addendo1, int addendo2) {
+    banco.ambiente->stato.TipoEsercizio = kConESenzaCambio;
+    banco.sorte.scrivi(caso(addendo1, addendo2));
+    return banco.apri<FormLU>(somme::forme::kFormLU);
+  }
+  static QString suono(const Banco& banco, const char* nome) {
+    return banco.percorso(QStringLiteral("suoni/%1.wav").arg(QLatin1String(nome)));
+  }
+  static double adesso(const Banco& banco) { return banco.tempo.secondsSinceMidnight(); }
+
+ private Q_SLOTS:
+  void aCaseBeginsWithTwoEmptyBoardsAndTheButtonsUnderTheFirst() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
+    QVERIFY(forma.ShockwaveFlash1.isVisible());
+    QVERIFY(forma.ShockwaveFlash2.isVisible());
+    QVERIFY(!forma.ShockwaveFlash3.isVisible());
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("0da 0u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0da 0u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0da 0u"));
+    QVERIFY(incorniciata(forma, forma.Label1));
+    QCOMPARE(forma.PicturePulsanti.left(), forma.Label1.left());
+    QVERIFY(forma.PicturePulsanti.isVisible());
+    QVERIFY(!forma.TestoInput.isVisible());
+    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    // The verdict of no answer yet.
+    QVERIFY(forma.ImgSi.isVisible());
+    QVERIFY(!forma.ImgNo.isVisible());
+  }
+
+  void theBoardsStandWhereTheirLabelsDo() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    const std::pair<platform::Board*, platform::Label*> coppie[] = {
+        {&forma.ShockwaveFlash1, &forma.Label1},
+        {&forma.ShockwaveFlash2, &forma.Label2},
+        {&forma.ShockwaveFlash3, &forma.Label3}};
+    for (const QSize lato : {QSize(1024, 768), QSize(700, 500)}) {
+      banco.ridimensiona(lato);
+      for (const auto& [tavola, ancora] : coppie) {
+        QVERIFY(std::abs(tavola->left() - ancora->left()) < 1e-6);
+        QVERIFY(std::abs(tavola->top() - ancora->top()) < 1e-6);
+        QVERIFY(std::abs(tavola->width() - ancora->width()) < 1e-6);
+        QVERIFY(std::abs(tavola->height() - ancora->height()) < 1e-6);
+      }
+    }
+  }
+
+  void noBlockIsEverPaintedBeforeThePupilPutsIt() {
+    OcchioSuiBlocchi occhio(QStringLiteral("u1"));
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    forma.page()->grab();
+    riattiva(banco);
+    forma.page()->grab();
+    QVERIFY(occhio.dipinti > 0);
+    QCOMPARE(occhio.visti, 0);
+    banco.clicca(forma.PulsanteU);
+    forma.page()->grab();
+    QVERIFY(occhio.visti > 0);
+  }
+
+  void eachPressPutsTheNextBlock() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.clicca(forma.PulsanteDa);
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("1da 0u"));
+    ripeti(banco, forma.PulsanteU, 3);
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("1da 3u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0da 0u"));
+    QVERIFY(banco.suono.suonati.isEmpty());
+  }
+
+  void theTenthBlockIsSilentlyRefused() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    ripeti(banco, forma.PulsanteU, 10);
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("0da 9u"));
+    ripeti(banco, forma.PulsanteDa, 10);
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("9da 9u"));
+    QVERIFY(banco.suono.suonati.isEmpty());
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    // Nine stand there, not ten: the basket and then four units make 4.
+    banco.clicca(forma.PulsanteCestino);
+    costruisci(banco, forma, 24);
+    banco.clicca(forma.PulsanteConferma);
+    QCOMPARE(banco.suono.suonati, QStringList{suono(banco, "si")});
+  }
+
+  void theBasketEmptiesTheBoardInUseAndCostsNothing() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    costruisci(banco, forma, 24);
+    banco.clicca(forma.PulsanteConferma);
+    costruisci(banco, forma, 35);
+    banco.clicca(forma.PulsanteCestino);
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("2da 4u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0da 0u"));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QCOMPARE(banco.suono.suonati.size(), 1);
+    costruisci(banco, forma, 13);
+    banco.clicca(forma.PulsanteConferma);
+    QVERIFY(forma.TestoInput.isVisible());
+  }
+
+  void aWrongBoardCountsAndKeepsItsBlocksToBeMended() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    costruisci(banco, forma, 23);
+    banco.clicca(forma.PulsanteConferma);
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
+    QVERIFY(forma.ImgNo.isVisible());
+    QVERIFY(!forma.ImgSi.isVisible());
+    QCOMPARE(banco.suono.suonati, QStringList{suono(banco, "no")});
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("2da 3u"));
+    QVERIFY(incorniciata(forma, forma.Label1));
+    banco.clicca(forma.PulsanteU);
+    banco.clicca(forma.PulsanteConferma);
+    QVERIFY(incorniciata(forma, forma.Label2));
+    QVERIFY(forma.ImgSi.isVisible());
+    QVERIFY(!forma.ImgNo.isVisible());
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+  }
+
+  void everyWrongBoardCountsOnItsOwnWithoutLimit() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    ripeti(banco, forma.PulsanteConferma, 5);
+    costruisci(banco, forma, 24);
+    banco.clicca(forma.PulsanteConferma);
+    ripeti(banco, forma.PulsanteConferma, 2);
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(7));
+    QVERIFY(incorniciata(forma, forma.Label2));
+  }
+
+  void anEmptyBoardIsWrong() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.clicca(forma.PulsanteConferma);
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+  }
+
+  void anEmptyBoardIsRightForAnAddendOfNothing() {
+    Banco banco;
+    FormLU& forma = apri(banco, 0, 13);
+    banco.clicca(forma.PulsanteConferma);
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QVERIFY(incorniciata(forma, forma.Label2));
+  }
+
+  void theRightFirstBoardLeadsToTheSecond() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    costruisci(banco, forma, 24);
+    banco.clicca(forma.PulsanteConferma);
+    QCOMPARE(banco.suono.suonati, QStringList{suono(banco, "si")});
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
+    QCOMPARE(forma.PicturePulsanti.left(), forma.Label2.left());
+    QVERIFY(incorniciata(forma, forma.Label2));
+    banco.clicca(forma.PulsanteU);
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("2da 4u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0da 1u"));
+  }
+
+  void theRightSecondBoardIsJoinedWithTheFirstAfterTwoSeconds() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    costruisci(banco, forma, 24);
+    banco.clicca(forma.PulsanteConferma);
+    costruisci(banco, forma, 13);
+    bool guardato = false;
+    banco.tempo.after(1.9, [&] {
+      guardato = true;
+      QVERIFY(forma.ShockwaveFlash1.isVisible());
+      QVERIFY(!forma.ShockwaveFlash3.isVisible());
+      QVERIFY(!forma.PicturePulsanti.isVisible());
+      QVERIFY(incorniciata(forma, forma.Label3));
+      QCOMPARE(banco.suono.suonati.size(), 2);
+      QVERIFY(!forma.TestoInput.isVisible());
+    });
+    const double prima = adesso(banco);
+    banco.clicca(forma.PulsanteConferma);
+    QVERIFY(guardato);
+    QVERIFY(std::abs(adesso(banco) - prima - 2) < 0.05);
+    QVERIFY(!forma.ShockwaveFlash1.isVisible());
+    QVERIFY(!forma.ShockwaveFlash2.isVisible());
+    QVERIFY(forma.ShockwaveFlash3.isVisible());
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 7u"));
+    QVERIFY(forma.TestoInput.isVisible());
+    QVERIFY(forma.TestoInput.hasFocus());
+    QVERIFY(!forma.PulsanteCambio.isVisible());
+  }
+
+  void twelveUnitsAskForTheCarryAndTwoRemain() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    unisci(banco, forma);
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 12u"));
+    QVERIFY(forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.TestoInput.isVisible());
+    bool guardato = false;
+    banco.tempo.after(3.9, [&] {
+      guardato = true;
+      QVERIFY(!forma.PulsanteCambio.isVisible());
+      QVERIFY(!forma.TestoInput.isVisible());
+      // The movie has said its word inside the wait.
+      QVERIFY(Banco::siVede(forma.ShockwaveFlash3, QStringLiteral("da4")));
+    });
+    const double prima = adesso(banco);
+    banco.clicca(forma.PulsanteCambio);
+    QVERIFY(guardato);
+    QVERIFY(std::abs(adesso(banco) - prima - 4) < 0.05);
+    QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 4);
+    QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u"), 11), 2);
+    for (int i = 1; i <= 10; ++i) {
+      QVERIFY(!Banco::siVede(forma.ShockwaveFlash3, QStringLiteral("u%1").arg(i)));
+    }
+    QCOMPARE(Banco::filmato(forma.ShockwaveFlash3).currentFrame(), 1);
+    QVERIFY(forma.TestoInput.hasFocus());
+    QCOMPARE(banco.suono.suonati.size(), 2);
+    rispondi(banco, forma, QStringLiteral("42"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void tenUnitsAreEnoughForTheCarryAndNoneRemains() {
+    Banco banco;
+    FormLU& forma = apri(banco, 5, 5);
+    unisci(banco, forma);
+    banco.clicca(forma.PulsanteCambio);
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("1da 0u"));
+  }
+
+  void nineUnitsHaveNoCarryAndTheBoxComesAtOnce() {
+    Banco banco;
+    FormLU& forma = apri(banco, 14, 25);
+    unisci(banco, forma);
+    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(forma.TestoInput.hasFocus());
+  }
+
+  void theTenCarriedUnitsStandInTheirPlacesAgainInTheNextCase() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    unisci(banco, forma);
+    const auto posto = [&](int i) {
+      return Banco::filmato(forma.ShockwaveFlash3).clipPlace(QStringLiteral("u%1").arg(i));
+    };
+    std::vector<QRectF> prima;
+    for (int i = 1; i <= 10; ++i) prima.push_back(posto(i));
+    banco.clicca(forma.PulsanteCambio);
+    rispondi(banco, forma, QStringLiteral("42"));
+    banco.sorte.scrivi(caso(24, 13));
+    banco.clicca(forma.PulsanteAvanti);
+    unisci(banco, forma);
+    for (int i = 1; i <= 10; ++i) QCOMPARE(posto(i), prima[std::size_t(i - 1)]);
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 7u"));
+  }
+
+  void aWrongResultCountsAndStaysToBeCorrected() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("36"));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    QCOMPARE(forma.TestoInput.text(), QStringLiteral("36"));
+    QVERIFY(forma.ImgNo.isVisible());
+    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    QCOMPARE(banco.suono.suonati.last(), suono(banco, "no"));
+    banco.batti(Qt::Key_Backspace);
+    banco.scrivi(QStringLiteral("7"));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void theRightResultSolvesTheCaseOnce() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("37"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 =  37"));
+    QCOMPARE(banco.suono.suonati.size(), 3);
+    QVERIFY(forma.TestoInput.isLocked());
+    QVERIFY(forma.PulsanteAvanti.isEnabled());
+    QVERIFY(forma.PulsanteAvanti.hasFocus());
+    // A second Enter in the locked box changes nothing.
+    forma.TestoInput.setFocus();
+    banco.scrivi(QStringLiteral("5"));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(forma.TestoInput.text(), QStringLiteral("37"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QCOMPARE(forma.TestoStampa.text().count(u'='), 1);
+  }
+
+  void theBoxTakesTwoDigitsAndNothingElse() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    banco.scrivi(QStringLiteral("a -1.2x34"));
+    QCOMPARE(forma.TestoInput.text(), QStringLiteral("12"));
+    banco.batti(Qt::Key_Backspace);
+    QCOMPARE(forma.TestoInput.text(), QStringLiteral("1"));
+    banco.batti(Qt::Key_Backspace);
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+  }
+
+  void aResultWithALeadingZeroIsTheNumberThatItMeans() {
+    Banco banco;
+    FormLU& forma = apri(banco, 4, 3);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("07"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 +  3 =  7"));
+  }
+
+  void goingOnBeginsTheNextCaseAndKeepsThePicture() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    unisci(banco, forma);
+    banco.clicca(forma.PulsanteCambio);
+    rispondi(banco, forma, QStringLiteral("42"));
+    banco.sorte.scrivi(caso(30, 8));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
+    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    QVERIFY(!forma.TestoInput.isVisible());
+    QVERIFY(!forma.TestoInput.isLocked());
+    QCOMPARE(forma.TestoInput.text(), QString());
+    QVERIFY(!forma.ShockwaveFlash3.isVisible());
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("0da 0u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0da 0u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0da 0u"));
+    QVERIFY(incorniciata(forma, forma.Label1));
+    QCOMPARE(forma.PicturePulsanti.left(), forma.Label1.left());
+    QVERIFY(forma.ImgSi.isVisible());
+    QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral(" 27 +  15 =  42\r\n")));
+  }
+
+  void goingOnIsImpossibleBeforeTheRightResult() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.clicca(forma.PulsanteAvanti);
+    banco.batti(Qt::Key_V, Qt::AltModifier);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
+    unisci(banco, forma);
+    banco.clicca(forma.PulsanteAvanti);
+    QVERIFY(forma.ShockwaveFlash3.isVisible());
+  }
+
+  void aWholeSumGoesByTheKeyboardAlone() {
+    Banco banco;
+    FormLU& forma = apri(banco, 11, 9);
+    forma.PulsanteDa.setFocus();
+    banco.batti(Qt::Key_Space);
+    banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Return);
+    banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Tab);
+    QVERIFY(forma.PulsanteConferma.hasFocus());
+    banco.batti(Qt::Key_Return);
+    QVERIFY(forma.PulsanteConferma.hasFocus());
+    banco.batti(Qt::Key_Backtab, Qt::ShiftModifier);
+    banco.batti(Qt::Key_Backtab, Qt::ShiftModifier);
+    for (int i = 0; i < 9; ++i) banco.batti(Qt::Key_Space);
+    banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Return);
+    QVERIFY(forma.PulsanteCambio.isVisible());
+    for (int i = 0; i < 4 && !forma.PulsanteCambio.hasFocus(); ++i) banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Space);
+    rispondi(banco, forma, QStringLiteral("20"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QVERIFY(forma.PulsanteAvanti.hasFocus());
+  }
+
+  void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord_data() {
+    QTest::addColumn<std::vector<SorteDiProva::Estrazione>>("sorte");
+    QTest::addColumn<QString>("operazione");
+    QTest::addColumn<QString>("nome");
+    using Sorte = std::vector<SorteDiProva::Estrazione>;
+    QTest::newRow("1") << Sorte{{3, 10}, {7, 10}, {2, 3}, {4, 7}} << QStringLiteral(" 24 +  13 = ")
+                       << QStringLiteral("senza cambio");
+    QTest::newRow("2") << Sorte{{22, 79}, {22, 32}} << QStringLiteral(" 27 +  15 = ")
+                       << QStringLiteral("con il cambio");
+    QTest::newRow("3") << caso(24, 13) << QStringLiteral(" 24 +  13 = ")
+                       << QStringLiteral("con e senza cambi");
+    QTest::newRow("4") << Sorte{{23, 98}, {5, 10}} << QStringLiteral(" 24 +  5 = ")
+                       << QStringLiteral("aggiungi solo unità");
+    QTest::newRow("5") << Sorte{{23, 88}, {3, 10}} << QStringLiteral(" 24 +  30 = ")
+                       << QStringLiteral("aggiungi solo decine");
+  }
+  void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord() {
+    QFETCH(std::vector<SorteDiProva::Estrazione>, sorte);
+    QFETCH(QString, operazione);
+    QFETCH(QString, nome);
+    Banco banco;
+    banco.ambiente->stato.TipoEsercizio = qint16(QByteArray(QTest::currentDataTag()).toInt());
+    banco.sorte.scrivi(sorte);
+    auto& forma = banco.apri<FormLU>(somme::forme::kFormLU);
+    QCOMPARE(banco.sorte.rimaste(), std::size_t(0));
+    QCOMPARE(forma.EtOperazione.caption(), operazione);
+    QCOMPARE(forma.TestoStampa.text(),
+             QStringLiteral("\r\n     Piatti, lunghi, unità: entro 99 - %1\r\n\r\n").arg(nome));
+  }
+
+  void aLevelThatTheTableDoesNotHaveKeepsCaseAndRecord() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    const QString elenco = forma.TestoStampa.text();
+    banco.ambiente->stato.TipoEsercizio = 6;
+    riattiva(banco);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
+    QCOMPARE(forma.TestoStampa.text(), elenco);
+  }
+
+  void comingBackStartsANewCaseAndRestartsTheRecord() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("37"));
+    banco.sorte.scrivi(caso(30, 8));
+    riattiva(banco);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
+    QVERIFY(!forma.TestoStampa.text().contains(u'='));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QVERIFY(!forma.ShockwaveFlash3.isVisible());
+    unisci(banco, forma);
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 8u"));
+  }
+
+  void comingBackInTheMiddleOfAnythingRestartsAtTheFirstBoard_data() {
+    QTest::addColumn<bool>("inCambio");
+    QTest::addColumn<double>("dopo");
+    QTest::newRow("before the boards are joined") << false << 1.0;
+    QTest::newRow("at the start of the carry") << true << 0.1;
+    QTest::newRow("in the flight of the units") << true << 2.0;
+    QTest::newRow("after the movie's word") << true << 3.8;
+  }
+  void comingBackInTheMiddleOfAnythingRestartsAtTheFirstBoard() {
+    QFETCH(bool, inCambio);
+    QFETCH(double, dopo);
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    costruisci(banco, forma, 27);
+    banco.clicca(forma.PulsanteConferma);
+    costruisci(banco, forma, 15);
+    const auto torna = [&] {
+      banco.sorte.scrivi(caso(30, 8));
+      riattiva(banco);
+    };
+    if (!inCambio) banco.tempo.after(dopo, torna);
+    banco.clicca(forma.PulsanteConferma);
+    if (inCambio) {
+      banco.tempo.after(dopo, torna);
+      banco.clicca(forma.PulsanteCambio);
+    }
+    banco.tempo.advance(10);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
+    QVERIFY(forma.ShockwaveFlash1.isVisible());
+    QVERIFY(!forma.ShockwaveFlash3.isVisible());
+    QVERIFY(!forma.TestoInput.isVisible());
+    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(incorniciata(forma, forma.Label1));
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0da 0u"));
+    unisci(banco, forma);
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 8u"));
+    rispondi(banco, forma, QStringLiteral("38"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void comingBackWhileTheCarryIsAskedForTakesItsButtonAway() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    unisci(banco, forma);
+    QVERIFY(forma.PulsanteCambio.isVisible());
+    banco.sorte.scrivi(caso(30, 8));
+    riattiva(banco);
+    QVERIFY(!forma.PulsanteCambio.isVisible());
+  }
+
+  void leavingInTheMiddleOfAWaitEndsIt_data() {
+    QTest::addColumn<bool>("inCambio");
+    QTest::newRow("before the boards are joined") << false;
+    QTest::newRow("in the carry") << true;
+  }
+  void leavingInTheMiddleOfAWaitEndsIt() {
+    QFETCH(bool, inCambio);
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    const double prima = adesso(banco);
+    const auto esci = [&] { forma.mnuEsci.click(); };
+    if (inCambio) unisci(banco, forma);
+    const double poi = adesso(banco);
+    banco.tempo.after(1, esci);
+    if (inCambio) {
+      banco.clicca(forma.PulsanteCambio);
+      QVERIFY(adesso(banco) - poi < 1.5);
+    } else {
+      unisci(banco, forma);
+      QVERIFY(adesso(banco) - prima < 1.5);
+    }
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuPLU"));
+    banco.tempo.advance(10);
+    QVERIFY(!banco.tempo.anyTicker());
+    QVERIFY(!banco.fine.stato);
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
+  }
+
+  void theButtonsDoNothingInTheMiddleOfTheWaits() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    const QPoint cestino = banco.centro(forma.PulsanteCestino);
+    const QPoint conferma = banco.centro(forma.PulsanteConferma);
+    int volte = 0;
+    const auto premiTutto = [&] {
+      ++volte;
+      banco.cliccaIn(cestino);
+      banco.cliccaIn(conferma);
+      banco.clicca(forma.PulsanteAvanti);
+      banco.clicca(forma.PulsanteCambio);
+      forma.MenuAzzera.click();
+    };
+    banco.tempo.after(1, premiTutto);
+    unisci(banco, forma);
+    banco.tempo.after(1, premiTutto);
+    banco.tempo.after(3.5, premiTutto);
+    banco.clicca(forma.PulsanteCambio);
+    QCOMPARE(volte, 3);
+    QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 4);
+    QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u"), 11), 2);
+    rispondi(banco, forma, QStringLiteral("42"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+  }
+
+  void thePrintViewOpenedInAWaitLetsTheBoxHaveTheFocusAfterwards() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.tempo.after(1, [&] { forma.mnuStampa.click(); });
+    unisci(banco, forma);
+    QVERIFY(forma.PictureStampa.isVisible());
+    QVERIFY(forma.TestoInput.isVisible());
+    QVERIFY(!forma.TestoInput.hasFocus());
+    banco.clicca(forma.CommandChiudi);
+    QVERIFY(forma.TestoInput.hasFocus());
+    rispondi(banco, forma, QStringLiteral("37"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void thePrintViewCoversTheBoards() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.batti(Qt::Key_S, Qt::AltModifier);
+    QCOMPARE(forma.PictureStampa.width(), forma.width());
+    QCOMPARE(forma.PictureStampa.height(), forma.height());
+    const QPoint punto = banco.centro(forma.ShockwaveFlash2);
+    QWidget* sotto = banco.ambiente->fondo.window().childAt(punto);
+    QVERIFY(sotto != nullptr && sotto != forma.ShockwaveFlash2.widget());
+  }
+
+  void aClickOnABlockDoesNothing() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    costruisci(banco, forma, 24);
+    QSignalSpy comandi(&Banco::filmato(forma.ShockwaveFlash1),
+                       &platform::flash::MovieView::fsCommand);
+    banco.cliccaClip(forma.ShockwaveFlash1, QStringLiteral("da2"));
+    banco.cliccaClip(forma.ShockwaveFlash1, QStringLiteral("u4"));
+    QCOMPARE(comandi.size(), 0);
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("2da 4u"));
+  }
+
+  void withoutItsMoviesTheExerciseGoesOn() {
+    Banco banco;
+    QDir(banco.percorso(QStringLiteral("swf"))).removeRecursively();
+    for (int i = 0; i < 3; ++i) {
+      QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be shown")));
+    }
+    FormLU& forma = apri(banco, 27, 15);
+    unisci(banco, forma);
+    banco.clicca(forma.PulsanteCambio);
+    rispondi(banco, forma, QStringLiteral("42"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void whatStandsOnEachBoardIsToldInWords() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    const auto parole = [](const platform::Board& tavola) {
+      return tavola.widget()->accessibleDescription();
+    };
+    QCOMPARE(forma.ShockwaveFlash1.widget()->accessibleName(), QStringLiteral("Primo addendo"));
+    QCOMPARE(parole(forma.ShockwaveFlash1), QStringLiteral("vuoto"));
+    banco.clicca(forma.PulsanteDa);
+    forma.PulsanteU.setFocus();
+    banco.clicca(forma.PulsanteU);
+    QCOMPARE(parole(forma.ShockwaveFlash1), QStringLiteral("1 decina, 1 unità"));
+    QCOMPARE(forma.PulsanteU.widget()->accessibleDescription(),
+             QStringLiteral("1 decina, 1 unità"));
+    banco.clicca(forma.PulsanteCestino);
+    QCOMPARE(parole(forma.ShockwaveFlash1), QStringLiteral("vuoto"));
+    unisci(banco, forma);
+    QCOMPARE(parole(forma.ShockwaveFlash1), QStringLiteral("2 decine, 7 unità"));
+    QCOMPARE(parole(forma.ShockwaveFlash2), QStringLiteral("1 decina, 5 unità"));
+    QCOMPARE(parole(forma.ShockwaveFlash3), QStringLiteral("3 decine, 12 unità"));
+    banco.clicca(forma.PulsanteCambio);
+    QCOMPARE(parole(forma.ShockwaveFlash3), QStringLiteral("4 decine, 2 unità"));
+  }
+
+  void theBoardsSpeakTheLanguageInUse() {
+    Banco banco;
+    banco.ambiente->stato.LinguaCorrente = QStringLiteral("English");
+    FormLU& forma = apri(banco, 27, 15);
+    costruisci(banco, forma, 27);
+    QCOMPARE(forma.ShockwaveFlash1.widget()->accessibleName(), QStringLiteral("First addend"));
+    QCOMPARE(forma.ShockwaveFlash1.widget()->accessibleDescription(),
+             QStringLiteral("2 tens, 7 units"));
+  }
+
+  void soundsOffKeepTheVerdictsSilent() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.ambiente->stato.SuoniAttivi = false;
+    banco.clicca(forma.PulsanteConferma);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("37"));
+    QVERIFY(banco.suono.suonati.isEmpty());
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void thePointerIsTheSystemsArrowOnlyWhenTheSettingAsksForIt() {
+    for (const bool diSistema : {false, true}) {
+      Banco banco;
+      banco.ambiente->stato.CursoreDiSistema = diSistema;
+      FormLU& forma = apri(banco, 24, 13);
+      for (const platform::Button* pulsante :
+           {&forma.PulsanteDa, &forma.PulsanteU, &forma.PulsanteCestino, &forma.PulsanteConferma,
+            &forma.PulsanteCambio, &forma.PulsanteAvanti}) {
+        QCOMPARE(pulsante->mousePointer(), diSistema ? 0 : 99);
+      }
+    }
+  }
+};
+
+QTEST_MAIN(FormLUTest)
+#include "form_lu_test.moc"
