@@ -111,9 +111,12 @@ class LingueTest : public QObject {
   void everySectionBelongsToAForm() {
     QFETCH(QString, lingua);
     const Banco banco({640, 480});
-    QSet<QString> note{QStringLiteral("Strings"), QStringLiteral("MessageBox"),
-                       QStringLiteral("PageSetup"), QStringLiteral("TastieraNumericaScansione"),
-                       QStringLiteral("TastieraHDUScansione")};
+    QSet<QString> note{QStringLiteral("Strings"),
+                       QStringLiteral("MessageBox"),
+                       QStringLiteral("PageSetup"),
+                       QStringLiteral("TastieraNumericaScansione"),
+                       QStringLiteral("TastieraHDUScansione"),
+                       QStringLiteral("Quantita")};
     for (const std::string_view nome : somme::NomiDelleForme()) note.insert(testo(nome));
     const QStringList sezioni = leggi(banco.percorso(lingua)).keys();
     const QSet<QString> ignote = QSet<QString>(sezioni.begin(), sezioni.end()) - note;
@@ -162,6 +165,16 @@ class LingueTest : public QObject {
                      QStringLiteral("Colore"), QStringLiteral("InGrigio"),
                      QStringLiteral("Orientamento"), QStringLiteral("Orizzontale"),
                      QStringLiteral("Titolo"), QStringLiteral("Verticale")}));
+  }
+
+  void theWordsForWhatStandsOnABoardAreThere_data() { lingue(); }
+  void theWordsForWhatStandsOnABoardAreThere() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    const QStringList chiavi =
+        leggi(banco.percorso(lingua)).value(QStringLiteral("Quantita")).keys();
+    QCOMPARE(chiavi.join(u' '), QStringLiteral("Centinaia Centinaio Decina Decine Migliaia "
+                                               "Migliaio UnaUnita Unita Vuoto"));
   }
 
   void noFileIsTooLargeToBeReadBySections_data() { lingue(); }
