@@ -45,6 +45,7 @@ void MovieView::setMovie(const QString& path) {
 }
 
 void MovieView::startPlayer(const QString& path) {
+  if (path.isEmpty()) return;
   std::shared_ptr<const Movie> movie;
   try {
     movie = loadMovie(path);
@@ -98,6 +99,14 @@ void MovieView::play() {
 
 int MovieView::currentFrame() const {
   return player_ == nullptr ? 0 : player_->currentFrame();
+}
+
+QString MovieView::clipProperty(const QString& target, int property) const {
+  return player_ == nullptr ? QString() : player_->property(target, property);
+}
+
+QRectF MovieView::clipPlace(const QString& name) const {
+  return player_ == nullptr ? QRectF() : stageToWidget().mapRect(player_->placeOf(name));
 }
 
 void MovieView::tick() {

@@ -29,8 +29,8 @@ class MovieView final : public QWidget {
   ~MovieView() override;
 
   // Loads the movie anew, also the one that is loaded already, and starts it. A file that is
-  // missing or broken gives an empty or partial board; nothing fails. Commands of the old movie
-  // that have not been delivered yet are dropped.
+  // missing or broken gives an empty or partial board; nothing fails. An empty path unloads the
+  // movie. Commands of the old movie that have not been delivered yet are dropped.
   void setMovie(const QString& path);
   // target: the name of a clip, or a path from the root as "a/b"; empty for the root. property: 0
   // x, 1 y (pixels), 2 x scale, 3 y scale (percent), 6 alpha (percent), 7 visible ("0", "1"), 10
@@ -44,6 +44,11 @@ class MovieView final : public QWidget {
 
   // The frame of the main timeline, from 1; 0 without a movie.
   [[nodiscard]] int currentFrame() const;
+  // What setClipProperty sets, as it stands now; empty for what does not exist.
+  [[nodiscard]] QString clipProperty(const QString& target, int property) const;
+  // Where a clip of the main timeline stands, shown or not, in pixels of this widget; empty for a
+  // name that no clip has.
+  [[nodiscard]] QRectF clipPlace(const QString& name) const;
 
  Q_SIGNALS:
   // The movie speaks to its owner. Always sent from the event queue, never from within one of the

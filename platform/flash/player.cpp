@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/flash/bounds.h"
 #include "platform/flash/properties.h"
 #include "platform/flash/targets.h"
 #include "platform/flash/timeline.h"
@@ -87,6 +88,11 @@ QString Player::property(const QString& target, int property) const {
     return *truth ? QStringLiteral("1") : QStringLiteral("0");
   }
   return toText(value, 6);
+}
+
+QRectF Player::placeOf(const QString& name) const {
+  const Container* child = childNamed(stage_, stage_.root(), name);
+  return child == nullptr ? QRectF() : boundsInParent(*child);
 }
 
 QPointF Player::toStage(QPointF position) const {

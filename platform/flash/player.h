@@ -41,6 +41,9 @@ class Player {
   void setProperty(const QString& target, int property, const QString& value);
   // Empty for what does not exist. Truth values are "1" and "0".
   [[nodiscard]] QString property(const QString& target, int property) const;
+  // What a clip or button of the main timeline covers, shown or not, in twips of the stage; empty
+  // for a name that nothing has.
+  [[nodiscard]] QRectF placeOf(const QString& name) const;
 
   // The mouse; positions in pixels of the stage at its own size, from its upper left corner.
   void mouseMove(QPointF position);

@@ -11,6 +11,12 @@
 
 namespace prova {
 
+namespace {
+
+constexpr int kVisibile = 7;
+
+}  // namespace
+
 Banco::Banco(QSize lato, Forme forme) {
   somme::PreparaImmagini();
   platform::applyAppearance();
@@ -18,6 +24,11 @@ Banco::Banco(QSize lato, Forme forme) {
   for (const QString& nome : lingue.entryList({QStringLiteral("*.lng"), QStringLiteral("*.ini")})) {
     QFile::copy(lingue.filePath(nome), percorso(nome));
     QFile::setPermissions(percorso(nome), QFile::ReadOwner | QFile::WriteOwner);
+  }
+  const QDir filmati(QStringLiteral(SOMME_FILMATI));
+  QDir(cartella.path()).mkdir(QStringLiteral("swf"));
+  for (const QString& nome : filmati.entryList({QStringLiteral("*.swf")})) {
+    QFile::copy(filmati.filePath(nome), percorso(QStringLiteral("swf/") + nome));
   }
   ambiente = std::make_unique<somme::Ambiente>(
       somme::Servizi{tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina,
@@ -61,6 +72,24 @@ void Banco::clicca(const platform::Control& controllo) {
 void Banco::cliccaIn(QPoint punto) {
   QTest::mouseClick(finestra(), Qt::LeftButton, {}, punto);
   QCoreApplication::processEvents();
+}
+
+QString Banco::proprieta(const platform::Board& tavola, const QString& clip, int quale) {
+  return filmato(tavola).clipProperty(clip, quale);
+}
+
+bool Banco::siVede(const platform::Board& tavola, const QString& clip) {
+  return proprieta(tavola, clip, kVisibile) == QStringLiteral("1");
+}
+
+void Banco::cliccaClip(const platform::Board& tavola, const QString& clip) {
+  const QRectF posto = filmato(tavola).clipPlace(clip);
+  if (posto.isEmpty()) throw std::logic_error("the movie has no clip of that name");
+  cliccaIn(tavola.widget()->mapTo(&ambiente->fondo.window(), posto.center().toPoint()));
+}
+
+platform::flash::MovieView& Banco::filmato(const platform::Board& tavola) {
+  return *qobject_cast<platform::flash::MovieView*>(tavola.widget());
 }
 
 void Banco::doppioClic(const platform::Control& controllo) {

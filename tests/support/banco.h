@@ -6,6 +6,8 @@
 
 #include "app/shared/ambiente.h"
 #include "app/shared/mod_language_support.h"
+#include "platform/boards/board.h"
+#include "platform/flash/movie_view.h"
 #include "platform/forms/control.h"
 #include "platform/forms/form.h"
 #include "support/scripted_time.h"
@@ -18,8 +20,8 @@ namespace prova {
 
 class Banco {
  public:
-  // lato: the size of the window. The folder holds the program's language files; the language is
-  // Italian.
+  // lato: the size of the window. The folder holds the program's language files and its movies; the
+  // language is Italian.
   // forme: makes the forms in the place of the program's own table.
   using Forme = std::function<std::shared_ptr<platform::Form>(somme::Ambiente& ambiente,
                                                               std::string_view nome)>;
@@ -46,6 +48,8 @@ class Banco {
   // The pupil's hands: real events at the window.
   void clicca(const platform::Control& controllo);
   void cliccaIn(QPoint punto);
+  // Into the middle of a clip of a board's movie, by its name.
+  void cliccaClip(const platform::Board& tavola, const QString& clip);
   void doppioClic(const platform::Control& controllo);
   void premi(int tasto, Qt::KeyboardModifiers con = {});
   // A repeat of a key that is held, as the desktop flags it.
@@ -55,6 +59,13 @@ class Banco {
   void scrivi(const QString& testo);
   [[nodiscard]] QPoint centro(const platform::Control& controllo) const;
   [[nodiscard]] QWindow* finestra() const { return ambiente->fondo.window().windowHandle(); }
+
+  // What a board's movie shows: a property of a clip by its number (6 alpha, 7 visible, ...), ""
+  // for a clip that the movie does not have.
+  [[nodiscard]] static QString proprieta(const platform::Board& tavola, const QString& clip,
+                                         int quale);
+  [[nodiscard]] static bool siVede(const platform::Board& tavola, const QString& clip);
+  [[nodiscard]] static platform::flash::MovieView& filmato(const platform::Board& tavola);
 
   [[nodiscard]] QString percorso(const QString& nome) const { return cartella.filePath(nome); }
   // Replaces a file of the program's folder.

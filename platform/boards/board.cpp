@@ -1,0 +1,70 @@
+#include "platform/boards/board.h"
+
+#include "platform/flash/movie_view.h"
+#include "platform/forms/form.h"
+#include "platform/forms/runtime.h"
+
+namespace platform {
+
+using flash::MovieView;
+
+namespace {
+
+MovieView& viewOf(QWidget* widget) {
+  return *static_cast<MovieView*>(widget);
+}
+
+}  // namespace
+
+QWidget* Board::create(QWidget* parent) {
+  auto* view = new MovieView(runtime().time(), parent);
+  QObject::connect(view, &MovieView::fsCommand, view,
+                   [this](const QString& command, const QString& args) {
+                     if (command_) raiseEvent([&] { command_(command, args); });
+                   });
+  return view;
+}
+
+void Board::applyLook() {
+  if (widget()->accessibleName() != toolTip()) widget()->setAccessibleName(toolTip());
+}
+
+void Board::setMovie(const QString& path) {
+  if (widget() == nullptr) return;
+  ++loading_;
+  widget()->hide();
+  viewOf(widget()).setMovie(path);
+  // The control lives as long as its widget.
+  runtime().gate().afterHandler([this, view = QPointer<QWidget>(widget())] {
+    if (view && --loading_ == 0) view->setVisible(isVisible());
+  });
+}
+
+void Board::setVisible(bool visible) {
+  Control::setVisible(visible);
+  if (loading_ > 0) widget()->hide();
+}
+
+void Board::tSetProperty(const QString& target, int property, const QString& value) {
+  if (widget() != nullptr) viewOf(widget()).setClipProperty(target, property, value);
+}
+
+void Board::gotoFrame(int frame) {
+  if (widget() != nullptr) viewOf(widget()).gotoFrame(frame);
+}
+
+void Board::play() {
+  if (widget() != nullptr) viewOf(widget()).play();
+}
+
+void Board::setDescription(const QString& words) {
+  if (widget() != nullptr && widget()->accessibleDescription() != words) {
+    widget()->setAccessibleDescription(words);
+  }
+}
+
+void Board::formGone() {
+  if (widget() != nullptr) viewOf(widget()).setMovie({});
+}
+
+}  // namespace platform
