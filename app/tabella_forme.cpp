@@ -12,6 +12,7 @@
 #include "app/form_menu_plu.h"
 #include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
+#include "exercises/abacus/form_abaco.h"
 #include "exercises/bars/form_barre10.h"
 #include "exercises/bars/form_barre10_scansione.h"
 #include "exercises/bars/form_barre10_tastiera.h"
@@ -56,6 +57,7 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormBarre10Scansione, Crea<FormBarre10Scansione>},
     {forme::kFormBarre20, Crea<FormBarre20>},
     {forme::kFormBarre20Scansione, Crea<FormBarre20Scansione>},
+    {forme::kFormAbaco, Crea<FormAbaco>},
     {forme::kFormTabella, Crea<FormTabella>},
     {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
 });

@@ -6,7 +6,6 @@
 // Rows that the number forms share; those of the answer are the ones for mouse and keyboard.
 namespace somme::disegno {
 
-inline constexpr Rgb kRosaPallido{255, 192, 255};
 inline constexpr TwipsRect kPostoTestoInput{3360, 2760, 2655, 1095};
 
 inline constexpr auto kDomandaNumeri = std::to_array<Row>({
