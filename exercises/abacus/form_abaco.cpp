@@ -12,8 +12,13 @@ using namespace disegno;
 
 namespace {
 
-constexpr Row Freccia(Row riga, std::string_view dice) {
-  riga.look = {.toolTip = dice, .hidden = true, .disabled = true, .picture = "freccia_cambio"};
+constexpr Row Freccia(Row riga, std::string_view scritta, std::string_view dice) {
+  riga.look = {.caption = scritta,
+               .toolTip = dice,
+               .font = {Face::Tahoma, 9},
+               .hidden = true,
+               .disabled = true,
+               .picture = "freccia_cambio"};
   return riga;
 }
 
@@ -21,11 +26,11 @@ constexpr auto kControlli = std::to_array<Row>({
     Ancora({120, 120, 7815, 5415}),
     Abaco({120, 120, 7815, 5415}),
     Operazione({120, 6720, 4815, 735}),
-    Freccia(row<&FormAbaco::PulsanteCambioHK>({960, 5760, 1815, 735}),
+    Freccia(row<&FormAbaco::PulsanteCambioHK>({960, 5760, 1815, 735}), "10 h = 1 k",
             "Cambia 10 centinaia con 1 migliaio"),
-    Freccia(row<&FormAbaco::PulsanteCambioDaH>({3240, 5760, 1815, 735}),
+    Freccia(row<&FormAbaco::PulsanteCambioDaH>({3240, 5760, 1815, 735}), "10 da = 1 h",
             "Cambia 10 decine con 1 centinaio"),
-    Freccia(row<&FormAbaco::PulsanteCambioUDa>({5520, 5760, 1815, 735}),
+    Freccia(row<&FormAbaco::PulsanteCambioUDa>({5520, 5760, 1815, 735}), "10 u = 1 da",
             "Cambia 10 unità con 1 decina"),
     // Behind the arrows: a carry disables its arrow and leaves the focus to the box.
     row<&FormAbaco::TestoInput>({4915, 6720, 2407, 735},
