@@ -12,6 +12,7 @@
 #include "app/form_menu_plu.h"
 #include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
+#include "exercises/abacus/form_abaco.h"
 #include "exercises/bars/form_barre10.h"
 #include "exercises/bars/form_barre10_scansione.h"
 #include "exercises/bars/form_barre10_tastiera.h"
@@ -74,6 +75,7 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormBarre20HK, Crea<FormBarre20HK>},
     {forme::kFormLU, Crea<FormLU>},
     {forme::kFormHLU, Crea<FormHLU>},
+    {forme::kFormAbaco, Crea<FormAbaco>},
     {forme::kFormTabella, Crea<FormTabella>},
     {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
 });

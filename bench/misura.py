@@ -50,6 +50,7 @@ def main():
     misure = [[os.path.join(cartella, "bench", "bench_avvio"), programma,
                os.path.join(cartella, "bench", "bench_vuoto")],
               [os.path.join(cartella, "bench", "bench_forme"), os.path.dirname(programma)],
+              [os.path.join(cartella, "bench", "bench_cambio"), os.path.dirname(programma)],
               [os.path.join(cartella, "bench", "bench_stampa")]]
     with Schermo(1366, 768):
         # As on a desktop without assistive technology: nobody listens to the tree.

@@ -28,6 +28,7 @@ inline constexpr Rgb kRosso{255, 0, 0};
 inline constexpr Rgb kGrigio{224, 224, 224};
 inline constexpr Rgb kVerdePallido{192, 255, 192};
 inline constexpr Rgb kGialloPallido{255, 255, 192};
+inline constexpr Rgb kRosaPallido{255, 192, 255};
 
 inline constexpr FontSpec kTahoma9{Face::Tahoma, 9.75};
 inline constexpr FontSpec kTahoma14{Face::Tahoma, 14.25};

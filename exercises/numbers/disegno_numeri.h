@@ -7,8 +7,6 @@
 // own: the box for the answer, and what leads to the next case.
 namespace somme::disegno {
 
-inline constexpr Rgb kRosaPallido{255, 192, 255};
-
 inline constexpr auto kDomandaNumeri = std::to_array<Row>({
     row<&FormaNumeri::EtOperazione>({960, 600, 7935, 975}, {.toolTip = "Operazione",
                                                             .font = {Face::Tahoma, 26.25},

@@ -15,7 +15,6 @@ namespace {
 constexpr int kCelle = 100;
 constexpr int kPerRiga = 10;
 
-constexpr Rgb kRosa{255, 192, 255};
 constexpr Rgb kGiallo{255, 255, 0};
 constexpr Rgb kAperta{192, 255, 255};
 
@@ -63,7 +62,7 @@ constexpr FormDesign kDisegno{.name = forme::kFormTabella,
                               .caption = "Esercitazioni sulle somme",
                               .width = 9315,
                               .height = 6525,
-                              .back = kRosa,
+                              .back = kRosaPallido,
                               .tables = kTavole};
 
 }  // namespace

@@ -1,0 +1,131 @@
+// The carry of the abacus on a real display: how long its two cross-fades take against as many bare
+// waits, and how much of one core the program uses meanwhile.
+//
+//   bench_cambio FOLDER-OF-THE-PROGRAM
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QTest>
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <functional>
+#include <vector>
+
+#include "app/modulo1.h"
+#include "app/shared/ambiente.h"
+#include "app/shared/modulo_colori_suoni.h"
+#include "app/shared/nomi_forme.h"
+#include "app/tabella_forme.h"
+#include "exercises/abacus/form_abaco.h"
+#include "immagini/immagini.h"
+#include "platform/devices/qt_time_source.h"
+#include "platform/forms/appearance.h"
+#include "schermo.h"
+#include "servizi_fermi.h"
+
+namespace {
+
+constexpr int kAttese = 200;
+constexpr double kAttesa = 0.03;  // seconds
+constexpr int kGiri = 5;
+constexpr qint16 kConESenzaCambio = 3;  // a level with the arrow from units to tens
+
+// Seconds of the clock on the wall and of the processor, of all threads of the process.
+struct Durata {
+  double muro;
+  double processore;
+};
+
+double processore() {
+  timespec tempo{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &tempo);
+  return static_cast<double>(tempo.tv_sec) + static_cast<double>(tempo.tv_nsec) / 1e9;
+}
+
+Durata misura(const std::function<void()>& lavoro) {
+  const double prima = processore();
+  QElapsedTimer orologio;
+  orologio.start();
+  lavoro();
+  return {static_cast<double>(orologio.nsecsElapsed()) / 1e9, processore() - prima};
+}
+
+class Cambio {
+ public:
+  explicit Cambio(const QString& cartella)
+      : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
+                   pagina_, cartella},
+                  [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
+    somme::Avvia(ambiente_);
+    ambiente_.stato.TipoEsercizio = kConESenzaCambio;
+    ambiente_.fondo.forms().show(somme::forme::kFormAbaco);
+    QTest::qWait(500);
+  }
+
+  void confronta() {
+    std::vector<double> rapporti;
+    std::vector<double> cambi;
+    std::vector<double> nude;
+    std::vector<double> quote;
+    for (int giro = 0; giro < kGiri; ++giro) {
+      const Durata attese = misura([this] {
+        for (int i = 0; i < kAttese; ++i) somme::Attendi(ambiente_, kAttesa);
+      });
+      metti();
+      const Durata cambio = misura([this] { forma().PulsanteCambioUDa.click(); });
+      nude.push_back(attese.muro);
+      cambi.push_back(cambio.muro);
+      rapporti.push_back(cambio.muro / attese.muro);
+      quote.push_back(cambio.processore / cambio.muro);
+      if (forma().DecineInserite != 1) std::printf("the carry was not made\n");
+    }
+    const QSize lato = ambiente_.fondo.window().size();
+    std::printf(
+        "carry on the abacus, window of %dx%d: %.3f s, %d bare waits %.3f s: %.3f times "
+        "(at most 1.05; %.3f to %.3f), %.1f %% of one core (under 30)\n",
+        lato.width(), lato.height(), bench::mediana(cambi), kAttese, bench::mediana(nude),
+        bench::mediana(rapporti), *std::min_element(rapporti.begin(), rapporti.end()),
+        *std::max_element(rapporti.begin(), rapporti.end()), 100 * bench::mediana(quote));
+  }
+
+ private:
+  somme::FormAbaco& forma() {
+    return *dynamic_cast<somme::FormAbaco*>(ambiente_.fondo.forms().current());
+  }
+  // Ten units on an otherwise empty abacus, and time for what that paints.
+  void metti() {
+    forma().EliminaNumeroSW1();
+    for (int i = 0; i < somme::FormaAbaco::kPalline; ++i) {
+      forma().InserisciUnita(QStringLiteral("ua%1").arg(i));
+    }
+    QTest::qWait(200);
+  }
+
+  platform::QtTimeSource tempo_;
+  platform::SeededChance sorte_{1};
+  bench::Muto suono_;
+  bench::Zitto messaggi_;
+  bench::Chiuso documenti_;
+  bench::Uscita fine_;
+  bench::Solo istanza_;
+  bench::SenzaStampanti stampanti_;
+  bench::SenzaPagina pagina_;
+  somme::Ambiente ambiente_;
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication programma(argc, argv);
+  platform::applyAppearance();
+  somme::PreparaImmagini();
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: bench_cambio FOLDER-OF-THE-PROGRAM\n");
+    return 2;
+  }
+  Cambio cambio(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
+  cambio.confronta();
+  std::fflush(stdout);
+  std::_Exit(0);
+}

@@ -1,0 +1,233 @@
+#include "exercises/abacus/form_abaco.h"
+
+#include <algorithm>
+
+#include "app/shared/nomi_forme.h"
+#include "exercises/abacus/disegno_abaco.h"
+#include "platform/base/numbers.h"
+
+namespace somme {
+
+using namespace disegno;
+
+namespace {
+
+constexpr Row Freccia(Row riga, std::string_view scritta, std::string_view dice) {
+  riga.look = {.caption = scritta,
+               .toolTip = dice,
+               .font = {Face::Tahoma, 9},
+               .hidden = true,
+               .disabled = true,
+               .picture = "freccia_cambio"};
+  return riga;
+}
+
+constexpr auto kControlli = std::to_array<Row>({
+    Ancora({120, 120, 7815, 5415}),
+    Abaco({120, 120, 7815, 5415}),
+    Operazione({120, 6720, 4815, 735}),
+    Freccia(row<&FormAbaco::PulsanteCambioHK>({960, 5760, 1815, 735}), "10 h = 1 k",
+            "Cambia 10 centinaia con 1 migliaio"),
+    Freccia(row<&FormAbaco::PulsanteCambioDaH>({3240, 5760, 1815, 735}), "10 da = 1 h",
+            "Cambia 10 decine con 1 centinaio"),
+    Freccia(row<&FormAbaco::PulsanteCambioUDa>({5520, 5760, 1815, 735}), "10 u = 1 da",
+            "Cambia 10 unità con 1 decina"),
+    // Behind the arrows: a carry disables its arrow and leaves the focus to the box.
+    row<&FormAbaco::TestoInput>({4915, 6720, 2407, 735},
+                                {.toolTip = "Scrivi il numero e premi Invio"}),
+    row<&FormAbaco::PulsanteCestino>({8640, 3000, 1455, 1095},
+                                     {.toolTip = "Svuota l'abaco", .picture = "cestino"}),
+    Avanti<FormAbaco>({8400, 6480, 1935, 975}),
+    Si({8940, 240, 855, 855}),
+    No({8940, 240, 855, 855}),
+    Esatti({8160, 1320, 2415, 375}),
+    Errati({8160, 1695, 2415, 375}),
+    Pannello({0, 0, 10860, 7650}),
+    Elenco({360, 240, 5775, 6975}),
+    Stampa({7440, 4680, 2580, 1155}),
+    Chiudi({7440, 6240, 2580, 1155}),
+});
+
+constexpr std::array<std::span<const Row>, 2> kTavole{kControlli, kMenuAbaco};
+
+constexpr FormDesign kDisegno{.name = forme::kFormAbaco,
+                              .caption = "Esercitazioni sulle somme",
+                              .width = 10860,
+                              .height = 7650,
+                              .back = kRosaPallido,
+                              .tables = kTavole};
+
+// The levels, from and to, and the arrows that they show. An arrow that is hidden forbids its
+// carry: ten beads stay on the spike.
+struct FrecceDelLivello {
+  int da, a;
+  bool UDa, DaH, HK;
+};
+constexpr auto kFrecce = std::to_array<FrecceDelLivello>({
+    {1, 1, false, false, false},
+    {2, 5, true, false, false},
+    {6, 6, false, false, false},
+    {7, 7, true, false, false},
+    {8, 8, false, true, false},
+    {9, 14, true, true, false},
+    {15, 15, false, false, false},
+    {16, 23, true, true, true},
+});
+
+// The words of the movie and what they ask for; any other is ignored.
+struct Parola {
+  QLatin1String parola;
+  void (*esegui)(FormAbaco& forma, const QString& clip);
+};
+constexpr auto kParole = std::to_array<Parola>({
+    {QLatin1String("migliaioinattesa"),
+     [](FormAbaco& f, const QString& clip) { f.InserisciMigliaio(clip); }},
+    {QLatin1String("centinaioinattesa"),
+     [](FormAbaco& f, const QString& clip) { f.InserisciCentinaio(clip); }},
+    {QLatin1String("decinainattesa"),
+     [](FormAbaco& f, const QString& clip) { f.InserisciDecina(clip); }},
+    {QLatin1String("unitainattesa"),
+     [](FormAbaco& f, const QString& clip) { f.InserisciUnita(clip); }},
+    {QLatin1String("migliaioinserito"), [](FormAbaco& f, const QString&) { f.RimuoviMigliaio(); }},
+    {QLatin1String("centinaioinserito"),
+     [](FormAbaco& f, const QString&) { f.RimuoviCentinaio(); }},
+    {QLatin1String("decinainserita"), [](FormAbaco& f, const QString&) { f.RimuoviDecina(); }},
+    {QLatin1String("unitainserita"), [](FormAbaco& f, const QString&) { f.RimuoviUnita(); }},
+});
+
+}  // namespace
+
+FormAbaco::FormAbaco(Ambiente& ambiente) : ConAvanti(ambiente, kDisegno) {
+  ShockwaveFlash1.onFsCommand(
+      [this](const QString& command, const QString& args) { Ascolta(command, args); });
+  PulsanteCambioUDa.onClick([this] { PremiFreccia(kUnita); });
+  PulsanteCambioDaH.onClick([this] { PremiFreccia(kDecine); });
+  PulsanteCambioHK.onClick([this] { PremiFreccia(kCentinaia); });
+  PulsanteCestino.onClick([this] { EliminaNumeroSW1(); });
+}
+
+void FormAbaco::onLoad() {
+  ConAvanti::onLoad();
+  PulsanteAvanti.setVisible(true);
+  ScriviEsatti();
+  ScriviErrati();
+  if (stato().CursoreDiSistema) ImpostaCursoreSistema();
+  TestoInput.setVisible(false);
+}
+
+void FormAbaco::onActivate() {
+  ApriAbaco();
+  PosaTestoInput();
+  TestoInput.setVisible(true);
+  NuovoCaso();
+}
+
+void FormAbaco::NuovoCaso() {
+  newCase();
+  PulsanteAvanti.setEnabled(false);
+  EliminaNumeroSW1();
+  TestoInput.Enabled.set(true);
+  letEventsRun();
+  TestoInput.Reimposta();
+  ScriviCaso();
+  TestoInput.setFocus();
+}
+
+void FormAbaco::ImpostaFrecce() {
+  for (const FrecceDelLivello& frecce : kFrecce) {
+    if (stato().TipoEsercizio < frecce.da || stato().TipoEsercizio > frecce.a) continue;
+    PulsanteCambioUDa.setVisible(frecce.UDa);
+    PulsanteCambioDaH.setVisible(frecce.DaH);
+    PulsanteCambioHK.setVisible(frecce.HK);
+  }
+}
+
+void FormAbaco::Ascolta(const QString& clip, const QString& parola) {
+  const auto uguale = [&parola](const Parola& p) { return parola == p.parola; };
+  const auto parole = std::find_if(kParole.begin(), kParole.end(), uguale);
+  if (parole != kParole.end()) parole->esegui(*this, clip);
+}
+
+void FormAbaco::InserisciMigliaio(const QString& clip) {
+  Inserisci(kMigliaia, clip);
+}
+
+void FormAbaco::InserisciCentinaio(const QString& clip) {
+  Inserisci(kCentinaia, clip);
+}
+
+void FormAbaco::InserisciDecina(const QString& clip) {
+  Inserisci(kDecine, clip);
+}
+
+void FormAbaco::InserisciUnita(const QString& clip) {
+  Inserisci(kUnita, clip);
+}
+
+void FormAbaco::RimuoviMigliaio() {
+  Rimuovi(kMigliaia);
+}
+
+void FormAbaco::RimuoviCentinaio() {
+  Rimuovi(kCentinaia);
+}
+
+void FormAbaco::RimuoviDecina() {
+  Rimuovi(kDecine);
+}
+
+void FormAbaco::RimuoviUnita() {
+  Rimuovi(kUnita);
+}
+
+void FormAbaco::Inserisci(const GenerePalline& genere, const QString& clip) {
+  qint16& inserite = this->*genere.inserite;
+  const int nuova = inserite;
+  inserite = platform::toInt16(inserite + 1);
+  Mostra(genere.sulFerro, nuova, true);
+  Sfuma(genere.sulFerro, nuova, kOpaca);
+  Mostra(clip, false);
+  const auto numero = static_cast<std::size_t>(platform::leadingNumber(clip.right(1)));
+  PallineInAttesa[numero][genere.colonna] = false;
+  if (platform::Button* freccia = Freccia(genere); freccia != nullptr && inserite == kPalline) {
+    freccia->setEnabled(true);
+  }
+  Descrivi();
+}
+
+void FormAbaco::Rimuovi(const GenerePalline& genere) {
+  qint16& inserite = this->*genere.inserite;
+  int libera = 0;  // the first place beside the spike that has no bead
+  while (libera < kPalline && PallineInAttesa[static_cast<std::size_t>(libera)][genere.colonna]) {
+    ++libera;
+  }
+  if (libera < kPalline) PallineInAttesa[static_cast<std::size_t>(libera)][genere.colonna] = true;
+  inserite = platform::toInt16(inserite - 1);
+  // A tenth thousand comes by a carry alone and goes where nobody sees it.
+  Mostra(genere.inAttesa, libera, &genere != &kMigliaia || libera != 0);
+  Sfuma(genere.inAttesa, libera, kOpaca);
+  Mostra(genere.sulFerro, inserite, false);
+  if (platform::Button* freccia = Freccia(genere); freccia != nullptr && inserite < kPalline) {
+    freccia->setEnabled(false);
+  }
+  Descrivi();
+}
+
+platform::Button* FormAbaco::Freccia(const GenerePalline& genere) {
+  const std::array<platform::Button*, 4> frecce{nullptr, &PulsanteCambioHK, &PulsanteCambioDaH,
+                                                &PulsanteCambioUDa};
+  return frecce[genere.colonna];
+}
+
+void FormAbaco::PremiFreccia(const GenerePalline& da) {
+  const GenerePalline& a = *kGeneri[da.colonna - 1];
+  if (this->*da.inserite < kPalline || this->*a.inserite == kPalline) return;
+  Freccia(da)->setEnabled(false);
+  Cambia(da, a);
+  if (platform::Button* prossima = Freccia(a);
+      prossima != nullptr && this->*a.inserite == kPalline) {
+    prossima->setEnabled(true);
+  }
+}
+
+}  // namespace somme

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QLatin1String>
+#include <array>
+
+#include "exercises/core/forma_esercizio.h"
+#include "platform/boards/board.h"
+
+namespace somme {
+
+class FormaAbaco;
+
+// One of the four kinds of bead.
+struct GenerePalline {
+  // The clips of the movie have these names, each with the bead's number, 0 to 9, behind it.
+  QLatin1String sulFerro;
+  QLatin1String inAttesa;
+  qint16 FormaAbaco::*inserite;  // how many are on the spike
+  std::size_t colonna;           // in `PallineInAttesa`
+};
+
+// The abacus exercises: a sum at the level that the menu chose, and an abacus of four spikes. A
+// spike fills upward, and the bead that its counter names is the next free one; of each kind ten
+// beads wait beside it. Who moves the beads, who carries and what is judged is left to the forms.
+class FormaAbaco : public FormaEsercizio {
+ public:
+  FormaAbaco(Ambiente& ambiente, const platform::FormDesign& disegno);
+
+  platform::Board ShockwaveFlash1{*this};
+  // Never shown: it carries the place of the abacus through the resizing of the form.
+  platform::Label Label1{*this};
+  platform::Label EtOperazione{*this};
+
+  static constexpr int kPalline = 10;  // of each kind
+  static constexpr int kOpaca = 100;   // the alpha of a clip, in percent
+
+  qint16 UnitaInserite = 0;
+  qint16 DecineInserite = 0;
+  qint16 CentinaiaInserite = 0;
+  qint16 MigliaiaInserite = 0;
+  // Whether waiting bead i of a kind stands beside its spike; a row for each number, in it the
+  // kinds from thousands to units.
+  std::array<std::array<bool, 4>, kPalline> PallineInAttesa{};
+
+  // Empties the spikes and puts the waiting beads of the level's kinds back. A bead that a carry
+  // has made transparent stays so, and can still be clicked. The thousands get nine beads on the
+  // screen, although the table says ten: "ka0" never shows.
+  void EliminaNumeroSW1();
+
+ protected:
+  // The activation up to the movie: place, record, abacus.
+  void ApriAbaco();
+  // Draws a case of the level, or none for a `TipoEsercizio` without one, and shows the operation.
+  void ScriviCaso();
+
+  // How many digits the answer can have at this level.
+  virtual void ImpostaCifre(qint16 /*cifre*/) {}
+  // Which arrows the level has.
+  virtual void ImpostaFrecce() {}
+
+  // Ten beads of a kind melt back beside their spike, then one of the next kind passes onto its
+  // own: some six seconds, in which events go on. It comes to its end whatever happens meanwhile,
+  // also to another case, on the state that it finds; only leaving the form ends it.
+  void Cambia(const GenerePalline& da, const GenerePalline& a);
+  // The waiting bead that the carry takes away; -1 when none is left.
+  virtual int PallinaPerIlCambio(const GenerePalline& genere) const;
+
+  // clip: the name, whole or without its number.
+  void Mostra(const QString& clip, bool visibile);
+  void Mostra(QLatin1String clip, int numero, bool visibile);
+  // alfa: 0 transparent, `kOpaca` opaque.
+  void Sfuma(QLatin1String clip, int numero, int alfa);
+  // Tells assistive technology what stands on the abacus.
+  void Descrivi();
+};
+
+inline constexpr GenerePalline kMigliaia{QLatin1String("k"), QLatin1String("ka"),
+                                         &FormaAbaco::MigliaiaInserite, 0};
+inline constexpr GenerePalline kCentinaia{QLatin1String("h"), QLatin1String("ha"),
+                                          &FormaAbaco::CentinaiaInserite, 1};
+inline constexpr GenerePalline kDecine{QLatin1String("da"), QLatin1String("daa"),
+                                       &FormaAbaco::DecineInserite, 2};
+inline constexpr GenerePalline kUnita{QLatin1String("u"), QLatin1String("ua"),
+                                      &FormaAbaco::UnitaInserite, 3};
+// By their column.
+inline constexpr std::array<const GenerePalline*, 4> kGeneri{&kMigliaia, &kCentinaia, &kDecine,
+                                                             &kUnita};
+
+}  // namespace somme

@@ -1,0 +1,371 @@
+#include "exercises/abacus/form_abaco.h"
+
+#include <QAccessible>
+#include <QFile>
+
+#include "abaco_di_prova.h"
+
+using prova::BancoAbaco;
+using prova::kTutti;
+
+// The abacus as an aid to a sum, as a pupil with a mouse uses it; the carry has its own tests.
+class FormAbacoTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void itOpensWithAQuestionAnEmptyAbacusAndTheBoxBehindTheOperation() {
+    BancoAbaco banco(3, BancoAbaco::caso(3, 82, 47));
+    somme::FormAbaco& forma = banco.forma;
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QCOMPARE(forma.TestoStampa.text(), QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n"));
+    QVERIFY(forma.TestoInput.isVisible());
+    QVERIFY(forma.TestoInput.TestoInput.hasFocus());
+    QCOMPARE(forma.TestoInput.Text.get(), QString());
+    QCOMPARE(forma.TestoInput.top(), forma.EtOperazione.top());
+    QCOMPARE(forma.TestoInput.left(), forma.EtOperazione.left() + forma.EtOperazione.width() - 20);
+    QCOMPARE(forma.TestoInput.width(), std::floor(std::round(forma.EtOperazione.width()) / 2));
+    QCOMPARE(forma.TestoInput.height(), forma.EtOperazione.height());
+    QCOMPARE(forma.TestoInput.DimensioneTesto.get(),
+             qint16(std::lrint(forma.EtOperazione.fontSize())));
+    QVERIFY(forma.PulsanteAvanti.isVisible());
+    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    QVERIFY(forma.ImgSi.isVisible());
+    QVERIFY(!forma.ImgNo.isVisible());
+    QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  0"));
+    QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  0"));
+    QVERIFY(!forma.Label1.isVisible());
+    QVERIFY(forma.withoutRow().empty());
+  }
+
+  void theAbacusLiesWhereItsHiddenLabelLiesAtEverySize() {
+    BancoAbaco banco(3);
+    const auto& forma = banco.forma;
+    banco.ridimensiona({1500, 1100});
+    QCOMPARE(forma.ShockwaveFlash1.left(), forma.Label1.left());
+    QCOMPARE(forma.ShockwaveFlash1.top(), forma.Label1.top());
+    QCOMPARE(forma.ShockwaveFlash1.width(), forma.Label1.width());
+    QCOMPARE(forma.ShockwaveFlash1.height(), forma.Label1.height());
+  }
+
+  void theFirstLevelHasTensAndUnitsAloneAndTenUnitsStayTenUnits() {
+    BancoAbaco banco(1, {{8, 10}, {6, 10}, {4, 8}, {3, 6}});
+    QCOMPARE(banco.visti("k") + banco.visti("ka") + banco.visti("h") + banco.visti("ha"),
+             QString());
+    QCOMPARE(banco.visti("daa"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
+    banco.metti("ua", 10);
+    QCOMPARE(banco.forma.UnitaInserite, qint16(10));
+    QCOMPARE(banco.visti("u"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.visti("ua"), QString());
+    QVERIFY(!banco.forma.PulsanteCambioUDa.isVisible());
+    QVERIFY(!banco.forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!banco.forma.PulsanteCambioHK.isVisible());
+  }
+
+  void theTenthUnitEnablesItsArrowAndTakingOneAwayDisablesIt() {
+    BancoAbaco banco(3);
+    banco.metti("ua", 9);
+    QVERIFY(!banco.forma.PulsanteCambioUDa.isEnabled());
+    banco.tocca("ua", 9);
+    QVERIFY(banco.forma.PulsanteCambioUDa.isEnabled());
+    QVERIFY(!banco.forma.PulsanteCambioDaH.isEnabled());
+    banco.tocca("u", 4);
+    QVERIFY(!banco.forma.PulsanteCambioUDa.isEnabled());
+    QCOMPARE(banco.forma.UnitaInserite, qint16(9));
+  }
+
+  void eachKindEnablesItsOwnArrowAndTheThousandsNone() {
+    BancoAbaco banco(19);
+    banco.metti("daa", 10);
+    QVERIFY(banco.forma.PulsanteCambioDaH.isEnabled());
+    QVERIFY(!banco.forma.PulsanteCambioHK.isEnabled());
+    banco.metti("ha", 10);
+    QVERIFY(banco.forma.PulsanteCambioHK.isEnabled());
+    QVERIFY(!banco.forma.PulsanteCambioUDa.isEnabled());
+    banco.metti("ka", 9, 1);
+    QCOMPARE(banco.forma.MigliaiaInserite, qint16(9));
+    QVERIFY(!banco.forma.PulsanteCambioUDa.isEnabled());
+    banco.tocca("h", 0);
+    QVERIFY(!banco.forma.PulsanteCambioHK.isEnabled());
+    QVERIFY(banco.forma.PulsanteCambioDaH.isEnabled());
+  }
+
+  void aClickedBeadGoesToTheTopOfTheSpikeWhicheverItWas() {
+    BancoAbaco banco(3);
+    banco.tocca("ua", 7);
+    QCOMPARE(banco.visti("u"), QStringLiteral("0"));
+    QCOMPARE(banco.visti("ua"), QStringLiteral("0 1 2 3 4 5 6 8 9"));
+    banco.tocca("ua", 2);
+    QCOMPARE(banco.visti("u"), QStringLiteral("0 1"));
+    QCOMPARE(banco.visti("ua"), QStringLiteral("0 1 3 4 5 6 8 9"));
+    QCOMPARE(banco.forma.UnitaInserite, qint16(2));
+    QVERIFY(!banco.forma.PallineInAttesa[2][3]);
+    QVERIFY(!banco.forma.PallineInAttesa[7][3]);
+    QVERIFY(banco.forma.PallineInAttesa[2][2]);
+    QCOMPARE(banco.alfa("u", 1), 100);
+  }
+
+  void aClickOnAnyBeadOfASpikeTakesTheTopmostAndFillsTheFirstPlace() {
+    BancoAbaco banco(3);
+    for (const int i : {7, 2, 5}) banco.tocca("daa", i);
+    banco.tocca("da", 0);
+    QCOMPARE(banco.visti("da"), QStringLiteral("0 1"));
+    QCOMPARE(banco.visti("daa"), QStringLiteral("0 1 2 3 4 6 8 9"));
+    QCOMPARE(banco.forma.DecineInserite, qint16(2));
+    QVERIFY(banco.forma.PallineInAttesa[2][2]);
+    banco.tocca("da", 1);
+    banco.tocca("da", 0);
+    QCOMPARE(banco.visti("da"), QString());
+    QCOMPARE(banco.visti("daa"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.forma.DecineInserite, qint16(0));
+  }
+
+  void theLevelsShowTheirBeadsTheirArrowsAndTakeTheirDigits_data() {
+    QTest::addColumn<int>("tipo");
+    QTest::addColumn<bool>("centinaia");
+    QTest::addColumn<bool>("migliaia");
+    QTest::addColumn<int>("cifre");
+    QTest::addColumn<QString>("frecce");
+    for (int tipo = 1; tipo <= 23; ++tipo) {
+      const bool due = tipo <= 5;
+      const bool quattro = tipo >= 15;
+      const QString frecce = tipo == 1 || tipo == 6 || tipo == 15 ? QStringLiteral("---")
+                             : due || tipo == 7                   ? QStringLiteral("u--")
+                             : tipo == 8                          ? QStringLiteral("-d-")
+                             : quattro                            ? QStringLiteral("udh")
+                                                                  : QStringLiteral("ud-");
+      QTest::addRow("%d", tipo) << tipo << !due << quattro << (due ? 2 : quattro ? 5 : 3) << frecce;
+    }
+  }
+  void theLevelsShowTheirBeadsTheirArrowsAndTakeTheirDigits() {
+    QFETCH(int, tipo);
+    QFETCH(bool, centinaia);
+    QFETCH(bool, migliaia);
+    BancoAbaco banco(qint16(tipo),
+                     tipo == 1   ? BancoAbaco::caso(3, 82, 47)
+                     : tipo == 6 ? std::vector<prova::SorteDiProva::Estrazione>(
+                                       {{7, 9}, {8, 10}, {6, 10}, {4, 8}, {4, 8}, {3, 6}})
+                     : tipo == 15
+                         ? std::vector<prova::SorteDiProva::Estrazione>(
+                               {{7, 10}, {8, 10}, {6, 10}, {5, 10}, {4, 8}, {4, 8}, {3, 6}, {2, 5}})
+                         : std::vector<prova::SorteDiProva::Estrazione>());
+    const auto& forma = banco.forma;
+    QCOMPARE(banco.visti("u") + banco.visti("da") + banco.visti("h") + banco.visti("k"), QString());
+    QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.visti("daa"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.visti("ha"), centinaia ? QString::fromLatin1(kTutti) : QString());
+    QCOMPARE(banco.visti("ka"), migliaia ? QStringLiteral("1 2 3 4 5 6 7 8 9") : QString());
+    QTEST(int(forma.TestoInput.MaxLength.get()), "cifre");
+    QString frecce;
+    frecce += forma.PulsanteCambioUDa.isVisible() ? u'u' : u'-';
+    frecce += forma.PulsanteCambioDaH.isVisible() ? u'd' : u'-';
+    frecce += forma.PulsanteCambioHK.isVisible() ? u'h' : u'-';
+    QTEST(frecce, "frecce");
+    for (const auto& riga : forma.PallineInAttesa) {
+      QCOMPARE(riga, (std::array<bool, 4>{true, true, true, true}));
+    }
+  }
+
+  void anUnknownLevelLeavesTheCaseAndWhatTheLevelBeforeShowed() {
+    BancoAbaco banco(11, BancoAbaco::caso(11, 300, 120));
+    banco.tocca("ua", 0);
+    banco.ambiente->stato.TipoEsercizio = 24;
+    banco.clicca(banco.forma.PulsanteCestino);
+    QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.visti("ha"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.visti("ka"), QString());
+    QVERIFY(banco.forma.PulsanteCambioUDa.isVisible());
+    QCOMPARE(int(banco.forma.TestoInput.MaxLength.get()), 3);
+    banco.rispondi(QStringLiteral("300"));
+    banco.clicca(banco.forma.PulsanteAvanti);
+    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 120 +  180 = "));
+  }
+
+  void aRightResultCountsWithAnEmptyAbacusAsWithTheRightBeads() {
+    for (const bool conPalline : {false, true}) {
+      BancoAbaco banco(3, BancoAbaco::caso(3, 12, 7));
+      if (conPalline) {
+        banco.metti("daa", 1);
+        banco.metti("ua", 2);
+      }
+      banco.rispondi(QStringLiteral("12"));
+      QVERIFY(banco.forma.ImgSi.isVisible());
+      QVERIFY(!banco.forma.ImgNo.isVisible());
+      QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+      QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+      QCOMPARE(banco.suono.suonati, QStringList{banco.percorso(QStringLiteral("suoni/si.wav"))});
+      QCOMPARE(banco.forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
+      QVERIFY(banco.forma.PulsanteAvanti.isEnabled());
+      QVERIFY(banco.forma.PulsanteAvanti.hasFocus());
+      QVERIFY(!banco.forma.TestoInput.isEnabled());
+      QCOMPARE(banco.forma.TestoStampa.text(),
+               QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n 7 +  5 =  12\r\n"));
+    }
+  }
+
+  void aWrongResultCountsAndPutsThePupilBackIntoTheNumber() {
+    BancoAbaco banco(3, BancoAbaco::caso(3, 12, 7));
+    banco.metti("ua", 2);
+    banco.rispondi(QStringLiteral("13"));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    QCOMPARE(banco.forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
+    QVERIFY(banco.forma.ImgNo.isVisible());
+    QVERIFY(!banco.forma.ImgSi.isVisible());
+    QCOMPARE(banco.suono.suonati, QStringList{banco.percorso(QStringLiteral("suoni/no.wav"))});
+    QVERIFY(!banco.forma.PulsanteAvanti.isEnabled());
+    QVERIFY(banco.forma.TestoInput.TestoInput.isVisible());
+    QVERIFY(banco.forma.TestoInput.TestoInput.hasFocus());
+    QCOMPARE(banco.forma.TestoInput.Text.get(), QStringLiteral("13"));
+    QCOMPARE(banco.visti("u"), QStringLiteral("0 1"));
+    banco.batti(Qt::Key_Backspace);
+    banco.rispondi(QStringLiteral("2"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(banco.forma.TestoStampa.text().count(QStringLiteral(" 7 +  5 =")), 1);
+  }
+
+  void theBinClearsTheAbacusAndNothingElse() {
+    BancoAbaco banco(3, BancoAbaco::caso(3, 82, 47));
+    banco.rispondi(QStringLiteral("81"));
+    banco.metti("ua", 10);
+    banco.metti("daa", 4);
+    banco.clicca(banco.forma.PulsanteCestino);
+    QCOMPARE(banco.visti("u") + banco.visti("da"), QString());
+    QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.visti("daa"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
+    QCOMPARE(banco.forma.DecineInserite, qint16(0));
+    QCOMPARE(banco.forma.TestoInput.Text.get(), QStringLiteral("81"));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    QCOMPARE(banco.forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
+    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    // Its arrow stays enabled and refuses.
+    QVERIFY(banco.forma.PulsanteCambioUDa.isEnabled());
+    const double prima = banco.tempo.secondsSinceMidnight();
+    banco.clicca(banco.forma.PulsanteCambioUDa);
+    QCOMPARE(banco.tempo.secondsSinceMidnight(), prima);
+    QCOMPARE(banco.forma.DecineInserite, qint16(0));
+    QVERIFY(banco.forma.PulsanteCambioUDa.isEnabled());
+  }
+
+  void goingOnClearsTheAbacusAndAsksTheNextCase() {
+    BancoAbaco banco(3, BancoAbaco::caso(3, 12, 7));
+    banco.metti("ua", 2);
+    banco.rispondi(QStringLiteral("12"));
+    banco.sorte.scrivi(BancoAbaco::caso(3, 82, 47));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QCOMPARE(banco.visti("u"), QString());
+    QCOMPARE(banco.forma.TestoInput.Text.get(), QString());
+    QVERIFY(banco.forma.TestoInput.isEnabled());
+    QVERIFY(banco.forma.TestoInput.TestoInput.hasFocus());
+    QVERIFY(!banco.forma.PulsanteAvanti.isEnabled());
+    QVERIFY(banco.forma.ImgSi.isVisible());
+    // The record keeps the case before.
+    QVERIFY(banco.forma.TestoStampa.text().endsWith(QStringLiteral(" 7 +  5 =  12\r\n")));
+  }
+
+  void theBeadOfNumberNoughtOfTheThousandsNeverShows() {
+    BancoAbaco banco(19);
+    QVERIFY(!banco.vede("ka", 0));
+    banco.metti("ka", 9, 1);
+    banco.clicca(banco.forma.PulsanteCestino);
+    QVERIFY(!banco.vede("ka", 0));
+    // A click where it would stand does nothing.
+    banco.tocca("ka", 0);
+    QCOMPARE(banco.forma.MigliaiaInserite, qint16(0));
+    // The tenth thousand comes by a carry and takes it; given back, it is not seen either.
+    banco.metti("ka", 9, 1);
+    banco.metti("ha", 10);
+    banco.clicca(banco.forma.PulsanteCambioHK);
+    QCOMPARE(banco.forma.MigliaiaInserite, qint16(10));
+    QCOMPARE(banco.visti("k"), QString::fromLatin1(kTutti));
+    QVERIFY(!banco.vede("ka", 0));
+    banco.tocca("k", 0);
+    QCOMPARE(banco.forma.MigliaiaInserite, qint16(9));
+    QCOMPARE(banco.visti("ka"), QString());
+    banco.tocca("k", 0);
+    QCOMPARE(banco.visti("ka"), QStringLiteral("1"));
+  }
+
+  void aSecondActivationStartsACaseAndARecordAnew() {
+    BancoAbaco banco(3, BancoAbaco::caso(3, 12, 7));
+    banco.metti("ua", 3);
+    banco.rispondi(QStringLiteral("12"));
+    banco.sorte.scrivi(BancoAbaco::caso(3, 82, 47));
+    banco.mostra(somme::forme::kFormAbaco);
+    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QCOMPARE(banco.forma.TestoStampa.text(), QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n"));
+    QCOMPARE(banco.visti("u"), QString());
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QVERIFY(!banco.forma.PulsanteAvanti.isEnabled());
+  }
+
+  void theWayOutLeadsToTheMainMenu() {
+    BancoAbaco banco(3);
+    banco.batti(Qt::Key_E, Qt::AltModifier);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
+  }
+
+  void clearingTheCountKeepsTheAbacusAndTheCase() {
+    BancoAbaco banco(3, BancoAbaco::caso(3, 82, 47));
+    banco.rispondi(QStringLiteral("11"));
+    banco.metti("ua", 2);
+    banco.batti(Qt::Key_Z, Qt::AltModifier);
+    QCOMPARE(banco.forma.EtichettaErrati.caption(), QStringLiteral("Errati  0"));
+    QCOMPARE(banco.visti("u"), QStringLiteral("0 1"));
+    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QVERIFY(banco.forma.ImgNo.isVisible());
+  }
+
+  void thePrintPanelCoversTheAbacus() {
+    BancoAbaco banco(3);
+    banco.batti(Qt::Key_S, Qt::AltModifier);
+    QVERIFY(banco.forma.PictureStampa.isVisible());
+    banco.tocca("ua", 0);
+    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
+    banco.clicca(banco.forma.CommandChiudi);
+    banco.tocca("ua", 0);
+    QCOMPARE(banco.forma.UnitaInserite, qint16(1));
+  }
+
+  void whatStandsOnTheAbacusIsToldInTheWordsOfTheLanguage() {
+    BancoAbaco banco(19);
+    QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
+    banco.metti("daa", 3);
+    banco.metti("ua", 4);
+    QCOMPARE(banco.detto(), QStringLiteral("3 decine, 4 unità"));
+    banco.metti("ka", 1, 5);
+    banco.tocca("da", 0);
+    QCOMPARE(banco.detto(), QStringLiteral("1 migliaio, 2 decine, 4 unità"));
+    QAccessibleInterface* voce =
+        QAccessible::queryAccessibleInterface(banco.forma.ShockwaveFlash1.widget());
+    QCOMPARE(voce->text(QAccessible::Name), QStringLiteral("Abaco"));
+    QCOMPARE(voce->text(QAccessible::Description), banco.detto());
+    banco.ambiente->stato.LinguaCorrente = QStringLiteral("English");
+    banco.clicca(banco.forma.PulsanteCestino);
+    QCOMPARE(banco.detto(), QStringLiteral("empty"));
+  }
+
+  void withoutItsMovieTheExerciseGoesOn() {
+    BancoAbaco banco(3, BancoAbaco::caso(3, 82, 47));
+    QVERIFY(QFile::remove(banco.percorso(QStringLiteral("swf/abaco.swf"))));
+    banco.sorte.scrivi(BancoAbaco::caso(3, 12, 7));
+    banco.mostra(somme::forme::kFormAbaco);
+    banco.clicca(banco.forma.PulsanteCestino);
+    banco.clicca(banco.forma.TestoInput);
+    banco.rispondi(QStringLiteral("12"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void thePointerIsLeftAloneUnlessTheSystemsIsWanted() {
+    BancoAbaco banco(3);
+    QCOMPARE(banco.forma.PulsanteCestino.mousePointer(), 99);
+    banco.batti(Qt::Key_E, Qt::AltModifier);
+    banco.ambiente->stato.CursoreDiSistema = true;
+    auto& forma = banco.apri<somme::FormAbaco>(somme::forme::kFormAbaco);
+    QCOMPARE(forma.PulsanteCestino.mousePointer(), 0);
+  }
+};
+
+QTEST_MAIN(FormAbacoTest)
+#include "form_abaco_test.moc"
