@@ -24,6 +24,8 @@ struct Servizi {
   platform::Printers& stampanti;
   platform::PageSetup& pagina;  // how a printer prints, chosen by the user
   QString cartella;             // the program's path: the executable's folder, links resolved
+  // Where this user's settings go when that folder cannot be written; it need not exist.
+  QString cartellaUtente;
 };
 
 // Everything that a form reaches besides its own controls: the services, the shared state, the
