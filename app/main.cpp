@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QStandardPaths>
 
 #include "app/modulo1.h"
 #include "app/shared/ambiente.h"
@@ -49,7 +50,9 @@ int main(int argc, char* argv[]) {
       [](const platform::Paper& carta) { return somme::NomeDellaCarta(carta); }, sopra);
   somme::Ambiente ambiente(
       {tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina, rete,
-       QCoreApplication::applicationDirPath()},
+       QCoreApplication::applicationDirPath(),
+       QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/somme")},
       [&tutto](std::string_view nome) { return somme::CreaForma(*tutto, nome); });
   tutto = &ambiente;
 

@@ -25,7 +25,9 @@ struct Servizi {
   platform::Printers& stampanti;
   platform::PageSetup& pagina;  // how a printer prints, chosen by the user
   platform::Network& rete;
-  QString cartella;      // the program's path: the executable's folder, links resolved
+  QString cartella;  // the program's path: the executable's folder, links resolved
+  // Where this user's settings go when that folder cannot be written; it need not exist.
+  QString cartellaUtente;
   quint16 porta = 1050;  // where HelpiKeys listens
 };
 

@@ -1,5 +1,7 @@
 #include "app/shared/mod_language_support.h"
 
+#include <QDir>
+
 #include "app/shared/ambiente.h"
 #include "platform/base/profile_file.h"
 #include "platform/base/run_time_error.h"
@@ -28,8 +30,19 @@ QString FileLingua(const Ambiente& ambiente) {
   return percorso + ambiente.stato.LinguaCorrente + QStringLiteral(".lng");
 }
 
+const QString kFileImpostazioni = QStringLiteral("/LangSetting.ini");
+
 QString FileImpostazioni(const Ambiente& ambiente) {
-  return ambiente.servizi.cartella + QStringLiteral("/LangSetting.ini");
+  return ambiente.servizi.cartella + kFileImpostazioni;
+}
+
+QString FileImpostazioniUtente(const Ambiente& ambiente) {
+  return ambiente.servizi.cartellaUtente + kFileImpostazioni;
+}
+
+// The language that a settings file names. Throws RunTimeError(FileNotFound) without that file.
+QString LinguaNelFile(Ambiente& ambiente, const QString& file) {
+  return LeggiChiave(ambiente, file, QStringLiteral("Language"), QStringLiteral("CurrentLanguage"));
 }
 
 void ApplicaAlControllo(Ambiente& ambiente, const QString& file, platform::Form& form,
@@ -65,13 +78,20 @@ void ScriviChiave(const QString& file, const QString& sezione, const QString& ch
 }
 
 QString LinguaScelta(Ambiente& ambiente) {
-  return LeggiChiave(ambiente, FileImpostazioni(ambiente), QStringLiteral("Language"),
-                     QStringLiteral("CurrentLanguage"));
+  QString lingua;
+  if (!platform::isProfileWritable(FileImpostazioni(ambiente))) {
+    IgnoraErrori([&] { lingua = LinguaNelFile(ambiente, FileImpostazioniUtente(ambiente)); });
+  }
+  return lingua.isEmpty() ? LinguaNelFile(ambiente, FileImpostazioni(ambiente)) : lingua;
 }
 
 void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua) {
-  ScriviChiave(FileImpostazioni(ambiente), QStringLiteral("Language"),
-               QStringLiteral("CurrentLanguage"), lingua);
+  QString file = FileImpostazioni(ambiente);
+  if (!platform::isProfileWritable(file)) {
+    file = FileImpostazioniUtente(ambiente);
+    QDir().mkpath(ambiente.servizi.cartellaUtente);
+  }
+  ScriviChiave(file, QStringLiteral("Language"), QStringLiteral("CurrentLanguage"), lingua);
 }
 
 QString TestoLingua(Ambiente& ambiente, const QString& chiave) {

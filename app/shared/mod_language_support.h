@@ -30,9 +30,12 @@ void ScriviChiave(const QString& file, const QString& sezione, const QString& ch
 // read leaves its text as it is. Lets events run after each control.
 void ApplicaLingua(Ambiente& ambiente, platform::Form& form);
 
-// The language written in LangSetting.ini. Throws RunTimeError(FileNotFound) without that file.
+// The language written in LangSetting.ini. Where the one in the program's folder cannot be written,
+// the user's own copy comes first, as far as it names a language. Throws RunTimeError(FileNotFound)
+// without the program's own file, when that is the one to read.
 [[nodiscard]] QString LinguaScelta(Ambiente& ambiente);
-// Keeps the choice for the next run.
+// Keeps the choice for the next run: in the program's folder or, where that cannot be written, for
+// this user alone. Where neither can, the choice lasts as long as the run.
 void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua);
 
 // A text of the ground's own dialogs in the current language, or the Italian one where the language

@@ -14,6 +14,14 @@ QString readProfileValue(const QString& path, const QString& section, const QStr
   return ProfileReader().read(path, section, key);
 }
 
+bool isProfileWritable(const QString& path) {
+  const QFileInfo file(path);
+  // Of a link, it is the file behind it that is written.
+  const QFileInfo folder(file.exists() ? file.canonicalPath() : file.absolutePath());
+  if (!folder.isDir() || !folder.isWritable()) return false;
+  return !file.exists() || (file.isFile() && file.isWritable());
+}
+
 void writeProfileValue(const QString& path, const QString& section, const QString& key,
                        const QString& value) {
   QByteArray old;

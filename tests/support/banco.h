@@ -73,6 +73,7 @@ class Banco {
   void metti(const QString& nome, const QByteArray& contenuto) const;
 
   QTemporaryDir cartella;
+  QTemporaryDir utente;  // the user's home; the folder for settings in it is not yet there
   ScriptedTime tempo;
   SorteDiProva sorte;
   SuonoDiProva suono;

@@ -76,7 +76,8 @@ class Schermo:
         return numero
 
     def _avvia_bus(self):
-        bus = self.avvia("dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address",
+        bus = self.avvia("dbus-daemon", "--session", f"--address=unix:tmpdir={self._cartella}",
+                         "--nofork", "--nopidfile", "--print-address",
                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         return _prima_riga(bus.stdout, "the message bus (dbus-daemon)")
 

@@ -1,5 +1,6 @@
 #include "platform/base/profile_file.h"
 
+#include <grp.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -118,6 +119,49 @@ class ProfileFileTest : public QObject {
     QCOMPARE(bytesOf(path()), oldBytes);
     QCOMPARE(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden).filter(u"Lang"_qs).size(),
              1);
+  }
+
+  void whatCanBeWrittenIsKnownBeforehand() {
+    QVERIFY(platform::isProfileWritable(path()));  // not there yet
+    put(path(), oldBytes);
+    QVERIFY(platform::isProfileWritable(path()));
+    QVERIFY(!platform::isProfileWritable(folder_.path()));
+    QVERIFY(!platform::isProfileWritable(QStringLiteral("/no/such/folder/a.ini")));
+  }
+
+  // As another user where this is root, to whom every file is open. 1: the file, 2: its folder, 3:
+  // a link to it from a folder that can be written.
+  void aFileOrFolderThatCannotBeWrittenIsKnownBeforehand() {
+    put(path(), oldBytes);
+    const auto all =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    QTemporaryDir elsewhere;
+    const QString link = elsewhere.filePath(QStringLiteral("link.ini"));
+    QVERIFY(QFile::link(path(), link));
+    QVERIFY(QFile::setPermissions(elsewhere.path(), all | QFile::WriteOther));
+    QVERIFY(QFile::setPermissions(path(), QFile::ReadOwner | QFile::ReadOther));
+    QVERIFY(QFile::setPermissions(folder_.path(), all | QFile::WriteOther));
+    const auto writable = [&](const QString& file) {
+      return statusOfChild([&] {
+        // Without root's groups, too: their rights would come before those of all others.
+        if (::geteuid() == 0 &&
+            (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0)) {
+          ::_exit(9);
+        }
+        ::_exit(platform::isProfileWritable(file) ? 1 : 0);
+      });
+    };
+    const int file = writable(path());
+    QVERIFY(QFile::setPermissions(path(), all | QFile::WriteOther));
+    const int open = writable(path());
+    QVERIFY(QFile::setPermissions(folder_.path(), all & ~QFile::WriteOwner));
+    const int folder = writable(path());
+    const int linked = writable(link);
+    QVERIFY(QFile::setPermissions(folder_.path(), all));
+    QCOMPARE(WEXITSTATUS(open), 1);
+    QCOMPARE(file, 0);
+    QCOMPARE(folder, 0);
+    QCOMPARE(linked, 0);
   }
 
   void whereNoFileCanBeNothingHappens() {
