@@ -100,9 +100,9 @@ constexpr auto kParole = std::to_array<Parola>({
 FormAbaco::FormAbaco(Ambiente& ambiente) : ConAvanti(ambiente, kDisegno) {
   ShockwaveFlash1.onFsCommand(
       [this](const QString& command, const QString& args) { Ascolta(command, args); });
-  PulsanteCambioUDa.onClick([this] { PremiFreccia(kUnita); });
-  PulsanteCambioDaH.onClick([this] { PremiFreccia(kDecine); });
-  PulsanteCambioHK.onClick([this] { PremiFreccia(kCentinaia); });
+  PulsanteCambioUDa.onClick([this] { PremiFreccia(kPallineUnita); });
+  PulsanteCambioDaH.onClick([this] { PremiFreccia(kPallineDecine); });
+  PulsanteCambioHK.onClick([this] { PremiFreccia(kPallineCentinaia); });
   PulsanteCestino.onClick([this] { EliminaNumeroSW1(); });
 }
 
@@ -149,35 +149,35 @@ void FormAbaco::Ascolta(const QString& clip, const QString& parola) {
 }
 
 void FormAbaco::InserisciMigliaio(const QString& clip) {
-  Inserisci(kMigliaia, clip);
+  Inserisci(kPallineMigliaia, clip);
 }
 
 void FormAbaco::InserisciCentinaio(const QString& clip) {
-  Inserisci(kCentinaia, clip);
+  Inserisci(kPallineCentinaia, clip);
 }
 
 void FormAbaco::InserisciDecina(const QString& clip) {
-  Inserisci(kDecine, clip);
+  Inserisci(kPallineDecine, clip);
 }
 
 void FormAbaco::InserisciUnita(const QString& clip) {
-  Inserisci(kUnita, clip);
+  Inserisci(kPallineUnita, clip);
 }
 
 void FormAbaco::RimuoviMigliaio() {
-  Rimuovi(kMigliaia);
+  Rimuovi(kPallineMigliaia);
 }
 
 void FormAbaco::RimuoviCentinaio() {
-  Rimuovi(kCentinaia);
+  Rimuovi(kPallineCentinaia);
 }
 
 void FormAbaco::RimuoviDecina() {
-  Rimuovi(kDecine);
+  Rimuovi(kPallineDecine);
 }
 
 void FormAbaco::RimuoviUnita() {
-  Rimuovi(kUnita);
+  Rimuovi(kPallineUnita);
 }
 
 void FormAbaco::Inserisci(const GenerePalline& genere, const QString& clip) {
@@ -204,7 +204,7 @@ void FormAbaco::Rimuovi(const GenerePalline& genere) {
   if (libera < kPalline) PallineInAttesa[static_cast<std::size_t>(libera)][genere.colonna] = true;
   inserite = platform::toInt16(inserite - 1);
   // A tenth thousand comes by a carry alone and goes where nobody sees it.
-  Mostra(genere.inAttesa, libera, &genere != &kMigliaia || libera != 0);
+  Mostra(genere.inAttesa, libera, &genere != &kPallineMigliaia || libera != 0);
   Sfuma(genere.inAttesa, libera, kOpaca);
   Mostra(genere.sulFerro, inserite, false);
   if (platform::Button* freccia = Freccia(genere); freccia != nullptr && inserite < kPalline) {
@@ -220,7 +220,7 @@ platform::Button* FormAbaco::Freccia(const GenerePalline& genere) {
 }
 
 void FormAbaco::PremiFreccia(const GenerePalline& da) {
-  const GenerePalline& a = *kGeneri[da.colonna - 1];
+  const GenerePalline& a = *kGeneriPalline[da.colonna - 1];
   if (this->*da.inserite < kPalline || this->*a.inserite == kPalline) return;
   Freccia(da)->setEnabled(false);
   Cambia(da, a);

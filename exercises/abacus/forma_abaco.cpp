@@ -47,19 +47,19 @@ void FormaAbaco::ScriviCaso() {
 void FormaAbaco::EliminaNumeroSW1() {
   const Livello* livello = LivelloDi(LivelliAbaco, stato().TipoEsercizio);
   for (int i = 0; i < kPalline; ++i) {
-    for (const GenerePalline* genere : kGeneri) Mostra(genere->sulFerro, i, false);
+    for (const GenerePalline* genere : kGeneriPalline) Mostra(genere->sulFerro, i, false);
     if (livello != nullptr) {
-      Mostra(kMigliaia.inAttesa, i, livello->gruppo == Gruppo::Entro9999);
-      Mostra(kCentinaia.inAttesa, i, livello->gruppo != Gruppo::Entro99);
+      Mostra(kPallineMigliaia.inAttesa, i, livello->gruppo == Gruppo::Entro9999);
+      Mostra(kPallineCentinaia.inAttesa, i, livello->gruppo != Gruppo::Entro99);
     }
-    Mostra(kDecine.inAttesa, i, true);
-    Mostra(kUnita.inAttesa, i, true);
+    Mostra(kPallineDecine.inAttesa, i, true);
+    Mostra(kPallineUnita.inAttesa, i, true);
     PallineInAttesa[static_cast<std::size_t>(i)].fill(true);
   }
   if (livello != nullptr) ImpostaCifre(livello->cifre);
   ImpostaFrecce();
-  for (const GenerePalline* genere : kGeneri) this->*genere->inserite = 0;
-  Mostra(kMigliaia.inAttesa, 0, false);
+  for (const GenerePalline* genere : kGeneriPalline) this->*genere->inserite = 0;
+  Mostra(kPallineMigliaia.inAttesa, 0, false);
   Descrivi();
 }
 

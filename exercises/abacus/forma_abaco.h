@@ -74,16 +74,16 @@ class FormaAbaco : public FormaEsercizio {
   void Descrivi();
 };
 
-inline constexpr GenerePalline kMigliaia{QLatin1String("k"), QLatin1String("ka"),
-                                         &FormaAbaco::MigliaiaInserite, 0};
-inline constexpr GenerePalline kCentinaia{QLatin1String("h"), QLatin1String("ha"),
-                                          &FormaAbaco::CentinaiaInserite, 1};
-inline constexpr GenerePalline kDecine{QLatin1String("da"), QLatin1String("daa"),
-                                       &FormaAbaco::DecineInserite, 2};
-inline constexpr GenerePalline kUnita{QLatin1String("u"), QLatin1String("ua"),
-                                      &FormaAbaco::UnitaInserite, 3};
+inline constexpr GenerePalline kPallineMigliaia{QLatin1String("k"), QLatin1String("ka"),
+                                                &FormaAbaco::MigliaiaInserite, 0};
+inline constexpr GenerePalline kPallineCentinaia{QLatin1String("h"), QLatin1String("ha"),
+                                                 &FormaAbaco::CentinaiaInserite, 1};
+inline constexpr GenerePalline kPallineDecine{QLatin1String("da"), QLatin1String("daa"),
+                                              &FormaAbaco::DecineInserite, 2};
+inline constexpr GenerePalline kPallineUnita{QLatin1String("u"), QLatin1String("ua"),
+                                             &FormaAbaco::UnitaInserite, 3};
 // By their column.
-inline constexpr std::array<const GenerePalline*, 4> kGeneri{&kMigliaia, &kCentinaia, &kDecine,
-                                                             &kUnita};
+inline constexpr std::array<const GenerePalline*, 4> kGeneriPalline{
+    &kPallineMigliaia, &kPallineCentinaia, &kPallineDecine, &kPallineUnita};
 
 }  // namespace somme

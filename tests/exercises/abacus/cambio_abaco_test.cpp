@@ -96,8 +96,8 @@ class CambioAbacoTest : public QObject {
   }
   void tensAndHundredsCarryInTheSameWay() {
     QFETCH(int, colonna);
-    const auto& da = *somme::kGeneri[std::size_t(colonna)];
-    const auto& a = *somme::kGeneri[std::size_t(colonna - 1)];
+    const auto& da = *somme::kGeneriPalline[std::size_t(colonna)];
+    const auto& a = *somme::kGeneriPalline[std::size_t(colonna - 1)];
     BancoAbaco banco(19);
     banco.metti(da.inAttesa.data(), 10);
     banco.clicca(colonna == 2 ? banco.forma.PulsanteCambioDaH : banco.forma.PulsanteCambioHK);

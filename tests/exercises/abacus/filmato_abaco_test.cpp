@@ -25,7 +25,7 @@ class FilmatoAbacoTest : public QObject {
   void everyWaitingBeadCanBeClickedAndTellsItsKindAndItself_data() { generi(); }
   void everyWaitingBeadCanBeClickedAndTellsItsKindAndItself() {
     QFETCH(int, colonna);
-    const auto& genere = *somme::kGeneri[std::size_t(colonna)];
+    const auto& genere = *somme::kGeneriPalline[std::size_t(colonna)];
     BancoAbaco banco(19);
     const int primo = colonna == 0 ? 1 : 0;
     for (int i = primo; i < somme::FormaAbaco::kPalline; ++i) {
@@ -41,7 +41,7 @@ class FilmatoAbacoTest : public QObject {
   void everyBeadOnASpikeCanBeClickedAndTellsItsKind_data() { generi(); }
   void everyBeadOnASpikeCanBeClickedAndTellsItsKind() {
     QFETCH(int, colonna);
-    const auto& genere = *somme::kGeneri[std::size_t(colonna)];
+    const auto& genere = *somme::kGeneriPalline[std::size_t(colonna)];
     BancoAbaco banco(19);
     const int primo = colonna == 0 ? 1 : 0;
     const int quante = somme::FormaAbaco::kPalline - primo;
@@ -67,11 +67,11 @@ class FilmatoAbacoTest : public QObject {
   static void generi() {
     QTest::addColumn<int>("colonna");
     for (int i = 0; i < 4; ++i) {
-      QTest::newRow(somme::kGeneri[std::size_t(i)]->sulFerro.data()) << i;
+      QTest::newRow(somme::kGeneriPalline[std::size_t(i)]->sulFerro.data()) << i;
     }
   }
   static void nientAltro(const BancoAbaco& banco, const somme::GenerePalline& genere) {
-    for (const somme::GenerePalline* altro : somme::kGeneri) {
+    for (const somme::GenerePalline* altro : somme::kGeneriPalline) {
       if (altro != &genere) QCOMPARE(banco.forma.*altro->inserite, qint16(0));
     }
   }
