@@ -136,7 +136,6 @@ class Collaudo:
         self._schermo = schermo
         self._albero = albero
         self._cartella = cartella
-        self._foto = 0
 
     def avvia(self):
         from albero import Albero as Lettura
