@@ -48,7 +48,7 @@ class ConPiatti : public Base {
  public:
   template <class... Argomenti>
   explicit ConPiatti(Argomenti&&... argomenti) : Base(std::forward<Argomenti>(argomenti)...) {
-    PulsanteH.onClick([this] { this->ClicSpecie(PulsanteH, kPiatti); });
+    PulsanteH.onClick([this] { this->ClicSpecie(PulsanteH, blocchi::kPiatti); });
   }
 
   platform::Button PulsanteH{*this};

@@ -19,17 +19,20 @@ constexpr std::array<Stringa, 9> kNomiEntro999{
     &StringheCondivise::TipoSoloUnita,    &StringheCondivise::TipoSoloDecine,
     &StringheCondivise::TipoSoloCentinaia};
 
-constexpr std::array kSpecieEntro99{&kUnita, &kLunghi};
-constexpr std::array kSpecieEntro999{&kUnita, &kLunghi, &kPiatti};
+constexpr std::array kSpecieEntro99{&blocchi::kUnita, &blocchi::kLunghi};
+constexpr std::array kSpecieEntro999{&blocchi::kUnita, &blocchi::kLunghi, &blocchi::kPiatti};
 
-constexpr std::array kSgomberoEntro99{Sgombero{kLunghi, 9}, Sgombero{kUnita, 19}};
+constexpr std::array kSgomberoEntro99{Sgombero{blocchi::kLunghi, 9}, Sgombero{blocchi::kUnita, 19}};
 // The flats are not among them: those that a case has shown stay on the joined board until the
 // movie is loaded again. That is settled.
-constexpr std::array kSgomberoEntro999{Sgombero{kLunghi, 19}, Sgombero{kUnita, 19}};
+constexpr std::array kSgomberoEntro999{Sgombero{blocchi::kLunghi, 19},
+                                       Sgombero{blocchi::kUnita, 19}};
 
-constexpr std::array kCambiEntro99{CambioBlocchi{kUnita, kLunghi, 2, u"cambio", true}};
-constexpr std::array kCambiEntro999{CambioBlocchi{kUnita, kLunghi, 2, u"cambiouda", false},
-                                    CambioBlocchi{kLunghi, kPiatti, 51, u"cambiodah", false}};
+constexpr std::array kCambiEntro99{
+    CambioBlocchi{blocchi::kUnita, blocchi::kLunghi, 2, u"cambio", true}};
+constexpr std::array kCambiEntro999{
+    CambioBlocchi{blocchi::kUnita, blocchi::kLunghi, 2, u"cambiouda", false},
+    CambioBlocchi{blocchi::kLunghi, blocchi::kPiatti, 51, u"cambiodah", false}};
 
 }  // namespace
 

@@ -17,6 +17,8 @@ struct SpecieBlocchi {
   int Quantita::*quanti;
 };
 
+namespace blocchi {
+
 inline constexpr SpecieBlocchi kUnita{u"u", 1, &Quantita::unita};
 inline constexpr SpecieBlocchi kLunghi{u"da", 10, &Quantita::decine};
 inline constexpr SpecieBlocchi kPiatti{u"h", 100, &Quantita::centinaia};
@@ -25,6 +27,8 @@ inline constexpr SpecieBlocchi kPiatti{u"h", 100, &Quantita::centinaia};
 inline constexpr int kMassimoPerSpecie = 9;
 // Of one kind that become one of the next.
 inline constexpr int kDieci = 10;
+
+}  // namespace blocchi
 
 // A carry: ten blocks of a kind become one of the next, in a stretch of the joined board's movie
 // that ends with the movie's word.

@@ -112,13 +112,13 @@ void FormaBlocchi::MostraBlocchi(platform::Board& filmato, const SpecieBlocchi& 
 
 void FormaBlocchi::EliminaNumeroSW1() {
   for (const SpecieBlocchi* specie : esercizio_.specie) {
-    MostraBlocchi(ShockwaveFlash1, *specie, 1, kMassimoPerSpecie, false);
+    MostraBlocchi(ShockwaveFlash1, *specie, 1, blocchi::kMassimoPerSpecie, false);
   }
 }
 
 void FormaBlocchi::EliminaNumeroSW2() {
   for (const SpecieBlocchi* specie : esercizio_.specie) {
-    MostraBlocchi(ShockwaveFlash2, *specie, 1, kMassimoPerSpecie, false);
+    MostraBlocchi(ShockwaveFlash2, *specie, 1, blocchi::kMassimoPerSpecie, false);
   }
 }
 
@@ -148,7 +148,7 @@ void FormaBlocchi::MettiBlocco(const SpecieBlocchi& specie) {
   const std::optional<Tavola> tavola = InUso();
   if (!tavola) return;
   int& quanti = tavola->blocchi.*specie.quanti;
-  if (quanti == kMassimoPerSpecie) return;
+  if (quanti == blocchi::kMassimoPerSpecie) return;
   ++quanti;
   MostraBlocchi(tavola->filmato, specie, quanti, quanti, true);
   Racconta();
@@ -160,7 +160,7 @@ void FormaBlocchi::Svuota() {
   if (!tavola) return;
   tavola->blocchi = {};
   for (const SpecieBlocchi* specie : esercizio_.specie) {
-    MostraBlocchi(tavola->filmato, *specie, 1, kMassimoPerSpecie, false);
+    MostraBlocchi(tavola->filmato, *specie, 1, blocchi::kMassimoPerSpecie, false);
   }
   Racconta();
   announce(InParole(ambiente(), tavola->blocchi));
@@ -215,7 +215,7 @@ void FormaBlocchi::UnisciTavole() {
 // them, so that nine tens and a carried one ask for no further carry. That is settled.
 void FormaBlocchi::ChiediCambioDa(std::size_t quale) {
   for (; quale < esercizio_.cambi.size(); ++quale) {
-    if (SuEntrambe(esercizio_.cambi[quale].da) >= kDieci) {
+    if (SuEntrambe(esercizio_.cambi[quale].da) >= blocchi::kDieci) {
       MostraCambio(PulsanteDelCambio(quale));
       return;
     }
@@ -246,10 +246,10 @@ void FormaBlocchi::FaiCambio(const CambioBlocchi& cambio) {
   const int nuovo = SuEntrambe(cambio.a) + 1;
   MostraBlocchi(ShockwaveFlash3, cambio.a, nuovo, nuovo, true);
   if (cambio.tornaAlPrimo) ShockwaveFlash3.gotoFrame(1);
-  MostraBlocchi(ShockwaveFlash3, cambio.da, 1, kDieci, false);
+  MostraBlocchi(ShockwaveFlash3, cambio.da, 1, blocchi::kDieci, false);
   int& arrivati = SW3.*cambio.a.quanti;
   arrivati = std::max(arrivati, nuovo);
-  SW3.*cambio.da.quanti = std::max(SW3.*cambio.da.quanti - kDieci, 0);
+  SW3.*cambio.da.quanti = std::max(SW3.*cambio.da.quanti - blocchi::kDieci, 0);
   Racconta();
 }
 

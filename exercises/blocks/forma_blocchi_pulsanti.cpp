@@ -5,8 +5,8 @@ namespace somme {
 FormaBlocchiPulsanti::FormaBlocchiPulsanti(Ambiente& ambiente, const platform::FormDesign& disegno,
                                            const EsercizioBlocchi& esercizio)
     : ConAvanti(ambiente, disegno, esercizio) {
-  PulsanteDa.onClick([this] { ClicSpecie(PulsanteDa, kLunghi); });
-  PulsanteU.onClick([this] { ClicSpecie(PulsanteU, kUnita); });
+  PulsanteDa.onClick([this] { ClicSpecie(PulsanteDa, blocchi::kLunghi); });
+  PulsanteU.onClick([this] { ClicSpecie(PulsanteU, blocchi::kUnita); });
   PulsanteCestino.onClick([this] { ClicCestino(); });
   PulsanteConferma.onClick([this] { ClicConferma(); });
 }
