@@ -69,8 +69,6 @@ void FormaBlocchi::CaricaFilmati() {
   ShockwaveFlash1.setMovie(percorso(esercizio_.filmatoAddendo));
   ShockwaveFlash2.setMovie(percorso(esercizio_.filmatoAddendo));
   ShockwaveFlash3.setMovie(percorso(esercizio_.filmatoUnione));
-  // What no new case hides on the joined board begins hidden, also in a movie that shows it.
-  MostraBlocchi(ShockwaveFlash3, kPiatti, 1, kMassimoPerSpecie, false);
   SW3 = {};
   cambioDelCaso_.reset();
 }

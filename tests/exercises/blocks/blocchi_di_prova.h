@@ -62,10 +62,14 @@ void rispondi(Banco& banco, F& forma, const QString& testo) {
   banco.batti(Qt::Key_Return);
 }
 
-// Another activation of the form on the screen, as after the print dialog.
+// Another activation of the form on the screen, as after the print dialog: from a handler of its
+// own, so that it comes also in the middle of a wait of another handler.
 inline void riattiva(Banco& banco) {
-  banco.mostra(somme::forme::kFormAvvio);
-  banco.ambiente->fondo.forms().closeCurrent();
+  platform::Forms& forme = banco.ambiente->fondo.forms();
+  forme.current()->run([&forme] {
+    forme.show(somme::forme::kFormAvvio);
+    forme.closeCurrent();
+  });
   QCoreApplication::processEvents();
 }
 

@@ -109,11 +109,16 @@ class FormLUTest : public QObject {
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("9da 9u"));
     QVERIFY(banco.suono.suonati.isEmpty());
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
-    // Nine stand there, not ten: the basket and then four units make 4.
-    banco.clicca(forma.PulsanteCestino);
-    costruisci(banco, forma, 24);
+  }
+
+  void aRefusedBlockIsNotCounted() {
+    Banco banco;
+    FormLU& forma = apri(banco, 19, 13);
+    banco.clicca(forma.PulsanteDa);
+    ripeti(banco, forma.PulsanteU, 12);
     banco.clicca(forma.PulsanteConferma);
-    QCOMPARE(banco.suono.suonati, QStringList{suono(banco, "si")});
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QVERIFY(incorniciata(forma, forma.Label2));
   }
 
   void theBasketEmptiesTheBoardInUseAndCostsNothing() {
