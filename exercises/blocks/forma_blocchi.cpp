@@ -70,7 +70,7 @@ void FormaBlocchi::CaricaFilmati() {
   ShockwaveFlash2.setMovie(percorso(esercizio_.filmatoAddendo));
   ShockwaveFlash3.setMovie(percorso(esercizio_.filmatoUnione));
   // What no new case hides on the joined board begins hidden, also in a movie that shows it.
-  MostraBlocchi(ShockwaveFlash3, kPiatti, 1, kMassimoPerSpecie, false);
+  MostraBlocchi(ShockwaveFlash3, blocchi::kPiatti, 1, blocchi::kMassimoPerSpecie, false);
   SW3 = {};
   cambioDelCaso_.reset();
 }

@@ -17,7 +17,7 @@ class Ascolto:
         """processo: what Schermo.avvia gave back."""
         self._righe = []
         self._pronto = threading.Event()
-        self._figlio = subprocess.Popen([sys.executable, __file__, str(processo.pid)],
+        self._figlio = subprocess.Popen(["/usr/bin/python3", __file__, str(processo.pid)],
                                         stdout=subprocess.PIPE, text=True)
         threading.Thread(target=self._leggi, daemon=True).start()
         if not self._pronto.wait(20):
