@@ -80,10 +80,13 @@ void TastieraScansione::DisattivaAutomatica() {
 
 void TastieraScansione::Accendi(qint16 indice) {
   pulsanti_[indice].setBackColor(platform::rgbOf(comuni_.ColoreScansione.get()));
+  // Light letters, outlined where the ground needs it: black ones drown in the red.
+  pulsanti_[indice].setForeColor(platform::kWhite);
 }
 
 void TastieraScansione::Spegni(int indice) {
   pulsanti_[indice].setBackColor(platform::rgbOf(comuni_.ColoreSfondo.get()));
+  pulsanti_[indice].setForeColor(platform::kBlack);
 }
 
 void TastieraScansione::SpegniTutti() {

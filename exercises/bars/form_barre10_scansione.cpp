@@ -17,8 +17,8 @@ constexpr auto kControlli = std::to_array<Row>({
     TastieraNumerica<FormBarre10Scansione>({3120, 6240, 7455, 555}, false),
 });
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kBarre,          kSommaScritta, kControlli,
-                                                      kRestoScansione, kMenuBarre,    kEsciBarre};
+constexpr std::array<std::span<const Row>, 6> kTavole{kBarre,     kSommaScritta, kRestoScansione,
+                                                      kControlli, kMenuBarre,    kEsciBarre};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre10Scansione,
                               .caption = "Esercitazioni sulle somme",

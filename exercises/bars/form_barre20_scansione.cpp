@@ -19,10 +19,14 @@ constexpr auto kControlli = std::to_array<Row>({
                                                              .in = nameOf<&FormaBarre::Picture1>}),
     row<&FormBarre20Scansione::LabelDimensioneTastiera>({3240, 6600, 7455, 555}, {.hidden = true}),
     TastieraNumerica<FormBarre20Scansione>({3240, 6600, 7455, 555}, false),
+    Si({240, 6450, 795, 795}),
+    No({240, 6450, 795, 795}),
+    Esatti({1140, 6450, 1860, 390}),
+    Errati({1140, 6870, 1860, 390}),
 });
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kBarre,          kSommaScritta, kControlli,
-                                                      kRestoScansione, kMenuBarre,    kEsciBarre};
+constexpr std::array<std::span<const Row>, 6> kTavole{kBarre,     kSommaScritta, kRestoScansione,
+                                                      kControlli, kMenuBarre,    kEsciBarre};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre20Scansione,
                               .caption = "Esercitazioni sulle somme",

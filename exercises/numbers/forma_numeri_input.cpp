@@ -32,6 +32,10 @@ void FormaNumeriInput::PosaTestoInput() {
   TestoInput.setHeight(TestoInputInvisibile.height());
 }
 
+void FormaNumeriInput::ScriviConRisposta() {
+  ScriviRisolta((this->*esercizio().risolta)(TestoInput.TestoFormattato));
+}
+
 void FormaNumeriInput::Giudica() {
   if (TestoInput.ValoreInserito == Cercato()) {
     RispostaGiusta();

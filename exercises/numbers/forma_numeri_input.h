@@ -21,6 +21,8 @@ class FormaNumeriInput : public FormaNumeri {
   // The first steps of Activate: the record, a yield, the box at its place.
   void MostraInput();
   virtual void RispostaGiusta() = 0;
+  // The operation with the confirmed answer, on the form and in the record.
+  void ScriviConRisposta();
 
  private:
   void PosaTestoInput();

@@ -35,7 +35,7 @@ void FormaNumeriScansione::SvuotaInput() {
 
 void FormaNumeriScansione::RispostaGiusta() {
   SegnaGiusto();
-  ScriviRisolta(TestoInput.TestoFormattato);
+  ScriviConRisposta();
   TastieraNumericaScansione1.AttivaAvanti();
 }
 

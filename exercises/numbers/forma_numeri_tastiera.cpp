@@ -31,7 +31,7 @@ void FormaNumeriTastiera::NuovoCaso() {
 void FormaNumeriTastiera::RispostaGiusta() {
   SegnaGiusto();
   PulsanteAvanti.setEnabled(true);
-  ScriviRisolta((this->*esercizio().risolta)(TestoInput.TestoFormattato));
+  ScriviConRisposta();
   if (esercizio().finale == EsercizioNumeri::Finale::DisabilitaPoiFuoco) {
     TestoInput.Enabled.set(false);
     PulsanteAvanti.setFocus();

@@ -111,14 +111,14 @@ class Albero:
 
     def __init__(self, processo):
         """processo: what Schermo.avvia gave back."""
-        self._processo = processo
+        self.processo = processo
 
     def radice(self):
         desktop = pyatspi.Registry.getDesktop(0)
         desktop.set_cache_mask(NIENTE)
         for figlio in Oggetto(desktop).figli():
             accessibile = figlio._accessibile
-            if figlio._chiedi(lambda a: a.get_process_id(), 0) == self._processo.pid:
+            if figlio._chiedi(lambda a: a.get_process_id(), 0) == self.processo.pid:
                 accessibile.set_cache_mask(NIENTE)
                 return figlio
         return None
@@ -145,7 +145,7 @@ class Albero:
             risposta = domanda()
             if risposta:
                 return risposta
-            stato = self._processo.poll()
+            stato = self.processo.poll()
             if stato is not None:
                 raise TempoScaduto(f"waiting for {che_cosa}: the program has ended ({stato})")
             if time.monotonic() > fine:

@@ -4,6 +4,7 @@ import os
 import re
 import subprocess
 
+from ascolto import Ascolto
 from mani import Mani
 
 # How the controls are called in the accessibility tree, in one place: role and name.
@@ -85,6 +86,10 @@ class Giocatore:
         bottone = self.albero.aspetta_oggetto(BOTTONE, AVANTI)
         self.albero.aspetta(f"the focus on {AVANTI!r}", lambda: bottone.ha_il_fuoco)
         self.mani.batti(tasto)
+
+    def ascolta(self):
+        """Begins to hear what a screen reader hears of the focus."""
+        return Ascolto(self.albero.processo)
 
     def chiudi(self, processo):
         """Closes the window as the window manager does; the program ends by itself."""

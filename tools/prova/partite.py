@@ -4,6 +4,7 @@ What is asked is read from the screen, and the answer worked out from it.
 """
 
 import re
+import time
 
 from giocatore import BOTTONE, TESTO, VOCE, Errore
 
@@ -115,4 +116,109 @@ def numeri(giocatore):
     giocatore.fotografa("di-nuovo-al-menu")
 
 
-PARTITE = {partita.__name__: partita for partita in (barre, numeri)}
+def scansione(giocatore):
+    """Plain numbers by scanning: manual with two keys, held and tapped, then automatic with one."""
+    albero, mani = giocatore.albero, giocatore.mani
+    cancella, conferma, avanti = "Cancella", "Conferma", "Avanti"
+
+    def operazione():
+        for etichetta in giocatore.etichette():
+            trovato = re.fullmatch(r" *(\d+) *\+ *(\d+) *= *", etichetta.nome)
+            if trovato:
+                return [int(n) for n in trovato.groups()]
+        return None
+
+    def acceso():
+        """The key that assistive technology takes for the focus."""
+        return next((o.nome for o in albero.visibili() if o.ruolo == BOTTONE and o.ha_il_fuoco),
+                    None)
+
+    def passo(tasto, tieni=0.0):
+        """One step by a key that is held so many seconds; while it is, nothing moves."""
+        prima = acceso()
+        mani.giu(tasto)
+        if tieni:
+            time.sleep(tieni)
+            if acceso() != prima:
+                raise Errore(f"the light went from {prima!r} to {acceso()!r} under a held key")
+        mani.su(tasto)
+        albero.aspetta("a step of the light", lambda: acceso() not in (None, prima))
+
+    def scegli_a_mano(nome):
+        while acceso() != nome:
+            passo("space")
+        mani.batti("Return")
+
+    def scegli_aspettando(nome):
+        albero.aspetta(f"the light on {nome!r}", lambda: acceso() == nome, 60)
+        mani.giu("space")
+        time.sleep(4)
+        if acceso() != nome:
+            raise Errore(f"the light went on from {nome!r} under a held key")
+        mani.su("space")
+
+    def somma(scegli):
+        """A wrong answer, the bin, the right answer, the way on."""
+        a, b = albero.aspetta("a sum to be found", operazione)
+        print("Asked:    " + scrivi((a, b, "")))
+        albero.aspetta("the light on '0'", lambda: acceso() == "0")
+
+        def dai(numero):
+            for cifra in str(numero):
+                scegli(cifra)
+            scegli(conferma)
+
+        return a + b, dai
+
+    def apri():
+        giocatore.premi("Solo numeri")
+        giocatore.premi("senza cambio")
+
+    giocatore.segui([])
+    albero.aspetta_oggetto(BOTTONE, "Solo numeri")
+    mani.batti("ctrl+m")
+    apri()
+    risposta, dai = somma(scegli_a_mano)
+    ascolto = giocatore.ascolta()
+    passo("space", tieni=1.5)
+    for _ in range(5):
+        passo("space")
+    attesi = [(BOTTONE, str(n)) for n in range(1, 7)]
+    albero.aspetta("six steps to be heard", lambda: len(ascolto.uditi()) >= 6)
+    time.sleep(0.5)
+    if ascolto.uditi() != attesi:
+        raise Errore(f"heard of six steps: {ascolto.uditi()}")
+    ascolto.chiudi()
+    print("Heard:    " + " ".join(nome for _, nome in attesi))
+    giocatore.fotografa("accesa")
+    giocatore.rispondi((risposta + 1) % 10, dai, giusto=False)
+    giocatore.fotografa("sbagliato")
+    scegli_a_mano(cancella)
+    giocatore.rispondi(risposta, dai, giusto=True)
+    albero.aspetta("the light on the way on", lambda: acceso() == avanti)
+    giocatore.fotografa("giusto")
+    mani.batti("Return")
+    albero.aspetta("the next sum", lambda: operazione() is not None)
+
+    giocatore.premi("Esci", VOCE)
+    giocatore.premi("Torna al menù principale")
+    albero.aspetta_oggetto(BOTTONE, "Solo numeri")
+    mani.batti("ctrl+a")
+    mani.batti("ctrl+t")
+    mani.batti("shift+Tab")
+    for _ in range(8):
+        mani.batti("Right")
+    giocatore.fotografa("tre-secondi")
+    mani.batti("Tab")
+    mani.batti("Return")
+    apri()
+    risposta, dai = somma(scegli_aspettando)
+    giocatore.rispondi(risposta, dai, giusto=True)
+    albero.aspetta("the light on the way on", lambda: acceso() == avanti)
+    time.sleep(4)
+    mani.batti("space")
+    albero.aspetta("the next sum", lambda: operazione() is not None)
+    giocatore.fotografa("automatica")
+
+
+PARTITE = {partita.__name__: partita for partita in (barre, numeri, scansione)}

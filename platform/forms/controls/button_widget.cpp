@@ -154,10 +154,12 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   paintFace(painter, face);
   if (hasFocus()) paintFocusRing(painter, rect(), kCorner);
 
-  // What a coloured button says stays readable when the button is spent; a plain one fades.
-  if (!isEnabled() && !ground_) painter.setOpacity(kDisabledInk);
+  // What a coloured button says stays readable when the button is spent; pictures fade, and so does
+  // all of a plain one.
   const Rooms room = rooms();
+  if (!isEnabled()) painter.setOpacity(kDisabledInk);
   if (!picture_.isEmpty()) pictures_.paint(painter, picture_, room.picture);
+  if (ground_) painter.setOpacity(1);
   QFont letters = font();
   if (shared_ != nullptr) letters.setPixelSize(std::min(letters.pixelSize(), shared_->pixelSize()));
   block_.set(caption_, letters, room.text.size(), Align::Centre, true);

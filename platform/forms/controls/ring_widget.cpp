@@ -31,9 +31,9 @@ RingWidget::RingWidget(QWidget* parent) : QWidget(parent) {
   hide();
 }
 
-// Half of the ring lies outside.
+// The larger half of the ring lies outside, so that what it surrounds keeps its room.
 int RingWidget::reach(int side) {
-  return thickness(side) / 2 + kEdge;
+  return (thickness(side) * 5 + 4) / 8 + kEdge;
 }
 
 void RingWidget::surround(const QRect& area) {

@@ -1,0 +1,84 @@
+#include "exercises/bars/form_barre10_tastiera.h"
+
+#include "app/shared/nomi_forme.h"
+#include "exercises/bars/form_barre10.h"
+#include "support/banco.h"
+
+using prova::Banco;
+using somme::FormBarre10;
+using somme::FormBarre10Tastiera;
+
+namespace {
+
+FormBarre10Tastiera& apri(Banco& banco, int totale, int addendo1) {
+  banco.ambiente->stato.LimiteEsercizio = 10;
+  banco.sorte.scrivi({{totale - 1, 10}, {addendo1, totale}});
+  return banco.apri<FormBarre10Tastiera>(somme::forme::kFormBarre10Tastiera);
+}
+
+}  // namespace
+
+// The bars up to 10 with a typed answer, in what they differ from those up to 20.
+class FormBarre10TastieraTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void itIsReachedFromTheNumberedButtonsWithTheCountersAndTheLimitUnchanged() {
+    Banco banco;
+    banco.ambiente->stato.LimiteEsercizio = 10;
+    banco.ambiente->stato.ContaEsatti = 3;
+    banco.ambiente->stato.ContaErrati = 2;
+    auto& prima = banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+    QVERIFY(prima.mnuTastiera.isEnabled());
+    prima.mnuTastiera.click();
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormBarre10Tastiera"));
+    auto& forma = banco.forma<FormBarre10Tastiera>();
+    QCOMPARE(banco.ambiente->stato.LimiteEsercizio, 10);
+    QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  3"));
+    QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  2"));
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(1));
+    forma.mnuEsci.click();
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuBarre"));
+  }
+
+  void itOpensWithTheBoxOverTheTotalAndTenHelpSquaresARow() {
+    Banco banco;
+    FormBarre10Tastiera& forma = apri(banco, 7, 3);
+    QVERIFY(forma.withoutRow().empty());
+    QVERIFY(forma.TestoInput.hasFocus());
+    QVERIFY(forma.TestoInput.widget()->geometry() == forma.Label4[4].widget()->geometry());
+    QCOMPARE(forma.aiuto1.count(), 10);
+    QCOMPARE(forma.aiuto3.count(), 10);
+    QCOMPARE(forma.TestoStampa.text(),
+             QStringLiteral("\r\n     Uso delle barre - Fino al 10\r\n\r\n"));
+  }
+
+  void helpShowsTheSquaresAndTheNextCaseHidesThem() {
+    Banco banco;
+    FormBarre10Tastiera& forma = apri(banco, 7, 3);
+    banco.clicca(forma.PulsanteAiuto);
+    QVERIFY(forma.aiuto1[2].isVisible());
+    QVERIFY(!forma.aiuto1[3].isVisible());
+    QVERIFY(forma.aiuto3[6].isVisible());
+    forma.mnuRossa.click();
+    QVERIFY(!forma.aiuto1[0].isVisible());
+    QVERIFY(!forma.aiuto3[0].isVisible());
+  }
+
+  void theRightAnswerRunsAgainOnEnterInTheLockedBox() {
+    Banco banco;
+    FormBarre10Tastiera& forma = apri(banco, 7, 3);
+    banco.scrivi(QStringLiteral("7"));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QVERIFY(forma.TestoInput.isLocked());
+    QVERIFY(forma.PulsanteAvanti.hasFocus());
+    banco.clicca(forma.TestoInput);
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
+    QCOMPARE(forma.TestoStampa.text().count(QStringLiteral("3 +  4 =  7")), 2);
+  }
+};
+
+QTEST_MAIN(FormBarre10TastieraTest)
+#include "form_barre10_tastiera_test.moc"

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/forms/controls/text_box.h"
+#include "platform/forms/proportional_layout.h"
+#include "support/fondo_di_prova.h"
+
+// A form with a scanning keyboard and a box beside it, and the keys that work the keyboard.
+namespace prova {
+
+inline constexpr platform::Rgb kSpento{224, 224, 224};
+inline constexpr platform::Rgb kAcceso{255, 0, 0};
+
+// The form's design: one for each kind of keyboard.
+template <class T>
+const platform::FormDesign& disegnoTastiera();
+
+template <class T>
+class OspiteTastiera : public platform::Form {
+ public:
+  explicit OspiteTastiera(platform::Runtime& runtime) : Form(runtime, disegnoTastiera<T>()) {
+    Tastiera1.onComunicaPulsante([this](qint16 pulsante) {
+      scelti.push_back(pulsante);
+      if (allaScelta) allaScelta(pulsante);
+    });
+  }
+
+  T Tastiera1{*this};
+  platform::TextBox Casella{*this};
+
+  std::vector<int> scelti;
+  std::function<void(qint16)> allaScelta;
+
+ protected:
+  void onLoad() override { layout_.start(); }
+  void onResize() override { layout_.resize(); }
+
+ private:
+  platform::ProportionalLayout layout_{*this};
+};
+
+template <class T>
+const platform::FormDesign& disegnoTastiera() {
+  using Ospite = OspiteTastiera<T>;
+  static constexpr auto kRighe = std::to_array<platform::Row>({
+      platform::row<&Ospite::Tastiera1>({300, 6000, 14000, 900}, {.toolTip = "Tasti"}),
+      platform::row<&Ospite::Casella>({300, 300, 3000, 900}, {.toolTip = "Casella"}),
+  });
+  static constexpr std::array<std::span<const platform::Row>, 1> kTavole{kRighe};
+  static constexpr platform::FormDesign kDisegno{
+      .name = "Prova", .caption = "Prova", .width = 15000, .height = 10500, .tables = kTavole};
+  return kDisegno;
+}
+
+// At this size one twip of the design is one of the page.
+template <class T>
+class FondoTastiera : public FondoDiProva<OspiteTastiera<T>> {
+ public:
+  FondoTastiera() : FondoDiProva<OspiteTastiera<T>>(), tastiera(this->forma().Tastiera1) {}
+
+  void premi(int tasto) {
+    QTest::keyPress(this->finestra(), Qt::Key(tasto));
+    QCoreApplication::processEvents();
+  }
+  void lascia(int tasto) {
+    QTest::keyRelease(this->finestra(), Qt::Key(tasto));
+    QCoreApplication::processEvents();
+  }
+  // A repeat of a key that is held, as the desktop flags it.
+  void ripeti(int tasto) {
+    qt_handleKeyEvent(this->finestra(), QEvent::KeyPress, tasto, {}, QString(), true);
+    QCoreApplication::processEvents();
+  }
+  void spazio(int volte = 1) {
+    for (int i = 0; i < volte; ++i) this->batti(Qt::Key_Space);
+  }
+  void invio() { this->batti(Qt::Key_Return); }
+  void passa(double secondi) {
+    this->tempo.advance(secondi);
+    QCoreApplication::processEvents();
+  }
+  [[nodiscard]] const std::vector<int>& scelti() { return this->forma().scelti; }
+
+  T& tastiera;
+};
+
+}  // namespace prova
