@@ -123,7 +123,7 @@ def scansione(giocatore):
 
     def operazione():
         for etichetta in giocatore.etichette():
-            trovato = re.fullmatch(r" *(\d+) *\+ *(\d+) *= *", etichetta.nome)
+            trovato = re.search(r"(\d+) *\+ *(\d+) *= *$", etichetta.nome)
             if trovato:
                 return [int(n) for n in trovato.groups()]
         return None
@@ -172,7 +172,7 @@ def scansione(giocatore):
 
     def apri():
         giocatore.premi("Solo numeri")
-        giocatore.premi("senza cambio")
+        giocatore.premi("con e senza cambio")
 
     giocatore.segui([])
     albero.aspetta_oggetto(BOTTONE, "Solo numeri")
@@ -191,7 +191,7 @@ def scansione(giocatore):
     ascolto.chiudi()
     print("Heard:    " + " ".join(nome for _, nome in attesi))
     giocatore.fotografa("accesa")
-    giocatore.rispondi((risposta + 1) % 10, dai, giusto=False)
+    giocatore.rispondi(risposta + 1, dai, giusto=False)
     giocatore.fotografa("sbagliato")
     scegli_a_mano(cancella)
     giocatore.rispondi(risposta, dai, giusto=True)
