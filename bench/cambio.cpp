@@ -55,7 +55,7 @@ class Cambio {
  public:
   explicit Cambio(const QString& cartella)
       : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
-                   pagina_, cartella},
+                   pagina_, rete_, cartella},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     somme::Avvia(ambiente_);
     ambiente_.stato.TipoEsercizio = kConESenzaCambio;
@@ -111,6 +111,7 @@ class Cambio {
   bench::Solo istanza_;
   bench::SenzaStampanti stampanti_;
   bench::SenzaPagina pagina_;
+  bench::ReteSorda rete_;
   somme::Ambiente ambiente_;
 };
 

@@ -1,0 +1,179 @@
+// Automatic scanning on a real display: how even its steps are, idle and with every core busy, and
+// what a scanning form uses at rest.
+//
+//   bench_scansione FOLDER-OF-THE-PROGRAM
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QFileInfo>
+#include <QTest>
+#include <algorithm>
+#include <cmath>
+#include <csignal>
+#include <cstdio>
+#include <ctime>
+#include <functional>
+#include <numeric>
+#include <thread>
+#include <vector>
+
+#include "app/modulo1.h"
+#include "app/shared/ambiente.h"
+#include "app/shared/nomi_forme.h"
+#include "app/tabella_forme.h"
+#include "exercises/numbers/form_numeri_totale_scansione.h"
+#include "immagini/immagini.h"
+#include "platform/devices/qt_time_source.h"
+#include "platform/forms/appearance.h"
+#include "platform/forms/controls/ring_widget.h"
+#include "servizi_fermi.h"
+
+namespace {
+
+constexpr int kPassi = 100;
+constexpr double kIntervallo = 1000;  // milliseconds
+constexpr int kRiposo = 10;           // seconds watched
+
+double processore() {
+  timespec tempo{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &tempo);
+  return static_cast<double>(tempo.tv_sec) + static_cast<double>(tempo.tv_nsec) / 1e9;
+}
+
+// Processes that keep every core busy while one lives.
+class Carico {
+ public:
+  Carico() {
+    const unsigned quanti = std::max(1U, std::thread::hardware_concurrency());
+    const pid_t genitore = getpid();
+    for (unsigned i = 0; i < quanti; ++i) {
+      const pid_t figlio = fork();
+      if (figlio == 0) {
+        // Until nobody needs it.
+        while (getppid() == genitore) {
+        }
+        _exit(0);
+      }
+      figli_.push_back(figlio);
+    }
+  }
+  ~Carico() {
+    for (const pid_t figlio : figli_) {
+      kill(figlio, SIGKILL);
+      waitpid(figlio, nullptr, 0);
+    }
+  }
+  Carico(const Carico&) = delete;
+  Carico& operator=(const Carico&) = delete;
+
+ private:
+  std::vector<pid_t> figli_;
+};
+
+// When the ring is painted, in milliseconds: once for each step.
+class Occhio final : public QObject {
+ public:
+  Occhio() { orologio_.start(); }
+  bool eventFilter(QObject* osservato, QEvent* evento) override {
+    if (evento->type() == QEvent::Move) spostato_ = true;
+    if (evento->type() == QEvent::Paint && spostato_) {
+      spostato_ = false;
+      passi.push_back(static_cast<double>(orologio_.nsecsElapsed()) / 1e6);
+    }
+    return QObject::eventFilter(osservato, evento);
+  }
+  std::vector<double> passi;
+
+ private:
+  QElapsedTimer orologio_;
+  bool spostato_ = false;
+};
+
+class Scansione {
+ public:
+  explicit Scansione(const QString& cartella)
+      : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
+                   pagina_, rete_, cartella},
+                  [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
+    somme::Avvia(ambiente_);
+    ambiente_.stato.TipoEsercizio = 1;
+  }
+
+  void mostra(qint16 modo) {
+    ambiente_.stato.ModalitaInput = modo;
+    ambiente_.fondo.forms().show(somme::forme::kFormMenuNumeri);
+    ambiente_.stato.TipoEsercizio = 1;
+    ambiente_.fondo.forms().show(somme::forme::kFormNumeriTotaleScansione);
+    QTest::qWait(1500);
+  }
+
+  void passo(const char* come, double limite) {
+    auto& forma =
+        *dynamic_cast<somme::FormNumeriTotaleScansione*>(ambiente_.fondo.forms().current());
+    auto* anello = forma.TastieraNumericaScansione1.widget()->findChild<platform::RingWidget*>();
+    Occhio occhio;
+    anello->installEventFilter(&occhio);
+    while (int(occhio.passi.size()) <= kPassi) QTest::qWait(200);
+    anello->removeEventFilter(&occhio);
+    std::vector<double> intervalli(occhio.passi.size());
+    std::adjacent_difference(occhio.passi.begin(), occhio.passi.end(), intervalli.begin());
+    intervalli.erase(intervalli.begin());
+    intervalli.resize(kPassi);
+    double peggiore = 0;
+    for (const double i : intervalli) peggiore = std::max(peggiore, std::abs(i - kIntervallo));
+    const double media = (occhio.passi[kPassi] - occhio.passi[0]) / kPassi;
+    std::printf(
+        "automatic scanning at 1.00 s, %s: %d steps, mean %.2f ms (off by %.3f %%, at most 0.5), "
+        "worst off by %.1f ms (at most %.0f)\n",
+        come, kPassi, media, 100 * std::abs(media - kIntervallo) / kIntervallo, peggiore, limite);
+    std::fflush(stdout);
+  }
+
+  static void riposo(const char* come) {
+    const double prima = processore();
+    QTest::qWait(kRiposo * 1000);
+    std::printf("a scanning form at rest, %s: %.2f %% of one core (under 1)\n", come,
+                100 * (processore() - prima) / kRiposo);
+    std::fflush(stdout);
+  }
+
+ private:
+  platform::QtTimeSource tempo_;
+  platform::SeededChance sorte_{1};
+  bench::Muto suono_;
+  bench::Zitto messaggi_;
+  bench::Chiuso documenti_;
+  bench::Uscita fine_;
+  bench::Solo istanza_;
+  bench::SenzaStampanti stampanti_;
+  bench::SenzaPagina pagina_;
+  bench::ReteSorda rete_;
+  somme::Ambiente ambiente_;
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication programma(argc, argv);
+  platform::applyAppearance();
+  somme::PreparaImmagini();
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: bench_scansione FOLDER-OF-THE-PROGRAM\n");
+    return 2;
+  }
+  Scansione scansione(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
+  scansione.mostra(somme::kScansioneManuale);
+  Scansione::riposo("manual");
+  scansione.mostra(somme::kScansioneAutomatica);
+  Scansione::riposo("automatic");
+  scansione.passo("idle", 15);
+  {
+    const Carico carico;
+    scansione.passo("every core busy", 60);
+  }
+  std::fflush(stdout);
+  std::_Exit(0);
+}
