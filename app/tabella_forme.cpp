@@ -29,6 +29,13 @@
 #include "exercises/numbers/form_numeri_totale_hk.h"
 #include "exercises/numbers/form_numeri_totale_scansione.h"
 #include "exercises/table/form_tabella.h"
+#include "printing/form_stampa_abaco.h"
+#include "printing/form_stampa_foglio1.h"
+#include "printing/form_stampa_foglio4.h"
+#include "printing/form_stampa_foglio_numeri.h"
+#include "printing/form_stampa_foglio_numeri2.h"
+#include "printing/form_stampa_lu.h"
+#include "printing/form_stampa_plu.h"
 #include "printing/frm_avvia_stampa.h"
 
 namespace somme {
@@ -71,6 +78,13 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormHLU, Crea<FormHLU>},
     {forme::kFormAbaco, Crea<FormAbaco>},
     {forme::kFormTabella, Crea<FormTabella>},
+    {forme::kFormStampaFoglioNumeri, Crea<FormStampaFoglioNumeri>},
+    {forme::kFormStampaFoglioNumeri2, Crea<FormStampaFoglioNumeri2>},
+    {forme::kFormStampaLU, Crea<FormStampaLU>},
+    {forme::kFormStampaPLU, Crea<FormStampaPLU>},
+    {forme::kFormStampaAbaco, Crea<FormStampaAbaco>},
+    {forme::kFormStampaFoglio4, Crea<FormStampaFoglio4>},
+    {forme::kFormStampaFoglio1, Crea<FormStampaFoglio1>},
     {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
 });
 

@@ -50,6 +50,10 @@ inline constexpr std::string_view kFormStampaLU = "FormStampaLU";
 inline constexpr std::string_view kFormStampaPLU = "FormStampaPLU";
 inline constexpr std::string_view kFormStampaAbaco = "FormStampaAbaco";
 
+// Sheets to adjust the touch surface by; nothing in the program leads to them.
+inline constexpr std::string_view kFormStampaFoglio4 = "FormStampaFoglio4";
+inline constexpr std::string_view kFormStampaFoglio1 = "FormStampaFoglio1";
+
 inline constexpr std::string_view kFrmAvviaStampa = "frmAvviaStampa";
 
 }  // namespace somme::forme

@@ -86,6 +86,8 @@ struct FormDesign {
   double height = 0;
   Rgb back = kWhite;
   std::span<const std::span<const Row>> tables;
+  // Its page has the design's shape in any window. Other pages take the whole of a wide window.
+  bool keepsShape = false;
 };
 
 namespace design {

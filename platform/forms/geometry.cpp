@@ -24,10 +24,12 @@ QRect Scale::pixels(const TwipsRect& design) const {
   return {left, top, std::max(0, right - left), std::max(0, bottom - top)};
 }
 
-QSize clientPixels(QSize available, QSizeF designTwips) {
+QSize clientPixels(QSize available, QSizeF designTwips, bool keepsShape) {
   const double shape = designTwips.width() / designTwips.height();
+  const int widest = keepsShape ? rounded(available.height() * shape) : available.width();
   const int tallest = rounded(available.width() / shape);
-  return {std::max(1, available.width()), std::clamp(tallest, 1, std::max(1, available.height()))};
+  return {std::clamp(widest, 1, std::max(1, available.width())),
+          std::clamp(tallest, 1, std::max(1, available.height()))};
 }
 
 Scale scaleFor(QSize clientPixels, QSizeF designTwips) {

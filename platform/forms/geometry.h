@@ -41,8 +41,8 @@ struct Scale {
 };
 
 // The largest client area, in pixels, that fits `available` and is not narrower in shape than the
-// design: a narrower window letterboxes the page.
-[[nodiscard]] QSize clientPixels(QSize available, QSizeF designTwips);
+// design: a narrower window letterboxes the page. keepsShape: so does a wider one.
+[[nodiscard]] QSize clientPixels(QSize available, QSizeF designTwips, bool keepsShape = false);
 
 // The scale of a client area of so many pixels. A pixel is 15 twips until the area would pass
 // 24,000 twips in height or 32,000 in width; from there it is fewer, so that no length on a form

@@ -91,7 +91,8 @@ bool Page::arrange() {
     menuBar_->setGeometry(0, 0, width(), top);
   }
   const QSize room(width(), std::max(1, height() - top));
-  const QSize client = clientPixels(room, {form_.design().width, form_.design().height});
+  const QSize client =
+      clientPixels(room, {form_.design().width, form_.design().height}, form_.design().keepsShape);
   canvas_->setGeometry((room.width() - client.width()) / 2,
                        top + (room.height() - client.height()) / 2, client.width(),
                        client.height());

@@ -12,7 +12,8 @@ namespace prova {
 // The print dialog over a form of the program, and the hands of whoever uses it.
 class DialogoDiProva {
  public:
-  DialogoDiProva() : forma(apriForma()) {}
+  // finestra: the size of the main window.
+  explicit DialogoDiProva(QSize finestra = {1024, 768}) : banco(finestra), forma(apriForma()) {}
 
   // A sheet of the form on the screen as the sheets ask for it: across, without margins.
   [[nodiscard]] somme::frmAvviaStampa::Richiesta richiesta() {
@@ -40,17 +41,23 @@ class DialogoDiProva {
     bool ok = false;
     conDialogo([&](somme::frmAvviaStampa& dialogo) {
       const auto vivo = dialogo.shared_from_this();
-      aperto_ = &dialogo;
       banco.tempo.after(0.1, [&] {
-        if (dialogo.isUnloaded()) return;
-        QCoreApplication::processEvents();
-        visto = true;
-        if (mentre) mentre(dialogo);
-        if (!dialogo.isUnloaded()) dialogo.cmdChiudi.click();
+        if (!dialogo.isUnloaded()) lavora(dialogo, mentre);
       });
       ok = dialogo.StampaFCPB(r);
     });
     return ok;
+  }
+
+  // Does something in a dialog that stands open, and closes it where that has not.
+  void lavora(somme::frmAvviaStampa& dialogo,
+              const std::function<void(somme::frmAvviaStampa&)>& mentre) {
+    const auto vivo = dialogo.shared_from_this();
+    aperto_ = &dialogo;
+    QCoreApplication::processEvents();
+    visto = true;
+    if (mentre) mentre(dialogo);
+    if (!dialogo.isUnloaded()) dialogo.cmdChiudi.click();
   }
 
   [[nodiscard]] QWindow* finestra() const { return aperto_->page()->window()->windowHandle(); }

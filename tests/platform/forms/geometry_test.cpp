@@ -71,6 +71,13 @@ class GeometryTest : public QObject {
     QCOMPARE(clientPixels({0, 0}, kDesign), QSize(1, 1));
   }
 
+  void aDesignThatKeepsItsShapeLetterboxesAWiderWindowToo() {
+    QCOMPARE(clientPixels({800, 600}, kDesign, true), QSize(800, 600));
+    QCOMPARE(clientPixels({400, 600}, kDesign, true), QSize(400, 300));
+    QCOMPARE(clientPixels({1600, 600}, kDesign, true), QSize(800, 600));
+    QCOMPARE(clientPixels({0, 0}, kDesign, true), QSize(1, 1));
+  }
+
   void aPageOfNoSizeIsNoError() {
     const Scale scale = scaleFor({0, 0}, kDesign);
     QVERIFY(scale.x > 0 && scale.y > 0 && std::isfinite(scale.x) && std::isfinite(scale.y));

@@ -1,0 +1,37 @@
+#include "printing/foglio_calibrazione.h"
+
+#include "platform/base/numbers.h"
+
+namespace somme {
+
+namespace {
+
+constexpr int kUltima = 23;  // element 0 of each array is on the form and makes no line
+
+}  // namespace
+
+void FoglioCalibrazione::onLoad() {
+  FoglioTastiera::onLoad();
+  for (int i = 1; i <= kUltima; ++i) {
+    Line1.load(i).setVisible(true);
+    Line2.load(i).setVisible(true);
+    for (platform::Label* numero : {&Label1.load(i), &Label2.load(i)}) {
+      numero->setCaption(platform::plain(i));
+      numero->setVisible(true);
+    }
+  }
+}
+
+void FoglioCalibrazione::Disponi(const Griglia& griglia) {
+  for (int i = 1; i <= kUltima; ++i) {
+    const double x = double(i) * griglia.X;
+    const double y = double(i) * griglia.Y;
+    Line1[i].setPlace(x, 0, 0, height());
+    Line2[i].setPlace(0, y, width(), 0);
+    // In the cell that the line ends: numbers of lines are those of the cells.
+    Label1[i].setPlace(x - griglia.X, 0, griglia.X, griglia.Y);
+    Label2[i].setPlace(0, y - griglia.Y, griglia.X, griglia.Y);
+  }
+}
+
+}  // namespace somme

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/forms/controls/line.h"
+#include "printing/foglio_tastiera.h"
+
+namespace somme {
+
+// A sheet for adjusting the touch surface: frames, and the lines of the grid with their numbers.
+class FoglioCalibrazione : public FoglioTastiera {
+ public:
+  platform::ControlArray<platform::Line> Line1{*this};    // from top to bottom, one every X
+  platform::ControlArray<platform::Line> Line2{*this};    // from side to side, one every Y
+  platform::ControlArray<platform::Label> Label1{*this};  // the numbers of `Line1`, at the top
+  platform::ControlArray<platform::Label> Label2{*this};  // the numbers of `Line2`, at the left
+
+ protected:
+  using FoglioTastiera::FoglioTastiera;
+
+  void onLoad() override;
+  void Disponi(const Griglia& griglia) override;
+};
+
+}  // namespace somme

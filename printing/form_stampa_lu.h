@@ -1,0 +1,22 @@
+#pragma once
+
+#include "printing/foglio_tastiera.h"
+
+namespace somme {
+
+// The sheet of the longs and units.
+class FormStampaLU final : public FoglioTastiera {
+ public:
+  explicit FormStampaLU(Ambiente& ambiente);
+
+  platform::ControlArray<platform::Label> Label3{*this};
+  platform::Image Image1{*this};
+  platform::Image Image2{*this};
+  platform::Image Image3{*this};
+  platform::Image Image4{*this};
+
+ protected:
+  void Disponi(const Griglia& griglia) override;
+};
+
+}  // namespace somme

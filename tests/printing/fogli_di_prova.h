@@ -1,0 +1,71 @@
+#pragma once
+
+#include <type_traits>
+
+#include "dialogo_di_prova.h"
+#include "input/mappa_tasti.h"
+#include "printing/foglio_tastiera.h"
+
+// The keyboard sheets, each with the keys that lie under it.
+namespace prova {
+
+struct Foglio {
+  std::string_view nome;
+  const somme::MappaTasti& mappa;
+  std::vector<int> nascosti;  // frames
+};
+
+inline const std::vector<Foglio>& fogli() {
+  static const std::vector<Foglio> tutti{
+      {somme::forme::kFormStampaFoglioNumeri, somme::kMappaCifre, {10, 11}},
+      {somme::forme::kFormStampaFoglioNumeri2, somme::kMappaCifre, {10, 11, 13}},
+      {somme::forme::kFormStampaLU, somme::kMappaBlocchi, {0, 3, 4}},
+      {somme::forme::kFormStampaPLU, somme::kMappaBlocchi, {3}},
+      {somme::forme::kFormStampaAbaco, somme::kMappaAbaco, {4, 8}},
+  };
+  return tutti;
+}
+
+// Shows a sheet over an exercise; does something while its dialog stands open, and closes that
+// where it is still there.
+template <class F = somme::FoglioTastiera>
+void mostra(
+    DialogoDiProva& prova, std::string_view nome,
+    const std::type_identity_t<std::function<void(F&, somme::frmAvviaStampa&)>>& mentre = {}) {
+  platform::Forms& forme = prova.banco.ambiente->fondo.forms();
+  prova.banco.tempo.after(0.1, [&] {
+    auto* foglio = dynamic_cast<F*>(forme.current());
+    QVERIFY(foglio != nullptr);
+    auto& dialogo =
+        static_cast<somme::frmAvviaStampa&>(forme.loaded(somme::forme::kFrmAvviaStampa));
+    prova.lavora(dialogo, [&](somme::frmAvviaStampa& d) {
+      if (mentre) mentre(*foglio, d);
+    });
+  });
+  prova.forma.run([&] { forme.show(nome); });
+  QCoreApplication::processEvents();
+}
+
+// The cell of the surface under a point of the sheet, given as parts of the sheet's size.
+struct Cella {
+  int colonna;
+  int riga;
+};
+inline Cella cellaDi(double x, double y) {
+  return {int(x * somme::kColonneGriglia) + 1, int(y * somme::kRigheGriglia) + 1};
+}
+
+// The middle of a frame, and points inside of its corners by a tenth of a cell: no finger aims
+// finer, and the whole numbers of the grid leave up to half of that.
+inline std::vector<QPointF> puntiDi(const QRectF& cornice, const QSizeF& cella) {
+  const QRectF dentro = cornice.adjusted(cella.width() / 10, cella.height() / 10,
+                                         -cella.width() / 10, -cella.height() / 10);
+  return {cornice.center(), dentro.topLeft(), dentro.topRight(), dentro.bottomLeft(),
+          dentro.bottomRight()};
+}
+
+inline QRectF postoDi(const platform::Control& controllo) {
+  return {controllo.left(), controllo.top(), controllo.width(), controllo.height()};
+}
+
+}  // namespace prova

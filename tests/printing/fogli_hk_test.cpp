@@ -1,0 +1,140 @@
+#include "exercises/bars/form_barre10_hk.h"
+#include "exercises/bars/form_barre20_hk.h"
+#include "exercises/numbers/form_numeri_addendo_hk.h"
+#include "exercises/numbers/form_numeri_totale_hk.h"
+#include "fogli_di_prova.h"
+#include "platform/forms/controls/menu_item.h"
+
+using prova::Banco;
+using prova::fogli;
+using prova::Foglio;
+
+namespace {
+
+constexpr auto kRichiesta = "02#REQ-TOUCH";
+
+struct Voce {
+  std::string_view forma;
+  std::string_view voce;  // of the menu
+  std::string_view foglio;
+};
+
+constexpr std::array kVoci{
+    Voce{somme::forme::kFormBarre10HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri},
+    Voce{somme::forme::kFormBarre20HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri},
+    Voce{somme::forme::kFormNumeriAddendoHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2},
+    Voce{somme::forme::kFormNumeriTotaleHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2},
+};
+
+QString testo(std::string_view s) {
+  return QString::fromUtf8(s.data(), qsizetype(s.size()));
+}
+
+// A touch form as a family menu opens it, with HelpiKeys on the other side.
+platform::Form& apri(Banco& banco, std::string_view nome) {
+  const bool venti = nome == somme::forme::kFormBarre20HK;
+  banco.ambiente->stato.LimiteEsercizio = venti ? 20 : 10;
+  banco.ambiente->stato.TipoEsercizio = 1;
+  banco.mostra(nome);
+  return *banco.ambiente->fondo.forms().current();
+}
+
+platform::MenuItem* voceDi(const platform::Form& forma, std::string_view nome) {
+  for (platform::Control* controllo : forma.controls()) {
+    if (controllo->name() == testo(nome)) return dynamic_cast<platform::MenuItem*>(controllo);
+  }
+  return nullptr;
+}
+
+// Touches the middle of a frame of a sheet, wherever that frame is drawn.
+void toccaCornice(Banco& banco, const somme::PostiTasti& tasti, int cornice) {
+  const platform::TwipsRect posto = tasti.Posto(cornice, {1, 1});
+  const int colonna = int(posto.left + posto.width / 2) + 1;
+  const int riga = int(posto.top + posto.height / 2) + 1;
+  banco.rete.manda(QByteArray{}.append(char(64 + colonna)).append(char(64 + riga)).append('1'));
+}
+
+}  // namespace
+
+// The keyboard sheets from the forms that are worked by touch.
+class FogliHKTest : public QObject {
+  Q_OBJECT
+
+  static void voci() {
+    QTest::addColumn<int>("quale");
+    for (int i = 0; i < int(kVoci.size()); ++i) {
+      QTest::newRow(qPrintable(testo(kVoci.at(size_t(i)).forma))) << i;
+    }
+  }
+
+ private Q_SLOTS:
+  void yesShowsTheSheetOfTheFormAndItsEndActivatesTheForm_data() { voci(); }
+  void yesShowsTheSheetOfTheFormAndItsEndActivatesTheForm() {
+    QFETCH(int, quale);
+    const Voce& voce = kVoci.at(size_t(quale));
+    Banco banco;
+    platform::Form& forma = apri(banco, voce.forma);
+    QCOMPARE(banco.rete.ricevuti.count(kRichiesta), 1);
+    QString mostrato;
+    platform::Forms& forme = banco.ambiente->fondo.forms();
+    banco.messaggi.rispondi(platform::BoxAnswer::Yes);
+    banco.tempo.after(0.1, [&] {
+      mostrato = forme.current()->name();
+      static_cast<somme::frmAvviaStampa&>(forme.loaded(somme::forme::kFrmAvviaStampa))
+          .cmdChiudi.click();
+    });
+    platform::MenuItem* domanda = voceDi(forma, voce.voce);
+    QVERIFY(domanda != nullptr && domanda->isEnabled());
+    domanda->click();
+    // The sheet is activated again and goes; then the form is.
+    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+    QCOMPARE(mostrato, testo(voce.foglio));
+    QCOMPARE(banco.nomeForma(), testo(voce.forma));
+    QCOMPARE(banco.rete.ricevuti.count(kRichiesta), 2);
+    QVERIFY(!banco.fine.stato);
+  }
+
+  void noLeavesTheFormAsItIs_data() { voci(); }
+  void noLeavesTheFormAsItIs() {
+    QFETCH(int, quale);
+    const Voce& voce = kVoci.at(size_t(quale));
+    Banco banco;
+    platform::Form& forma = apri(banco, voce.forma);
+    banco.messaggi.rispondi(platform::BoxAnswer::No);
+    voceDi(forma, voce.voce)->click();
+    QCoreApplication::processEvents();
+    QCOMPARE(banco.nomeForma(), testo(voce.forma));
+    QCOMPARE(banco.rete.ricevuti.count(kRichiesta), 1);
+  }
+
+  void aTouchOnAHiddenFrameDoesNothing_data() { voci(); }
+  void aTouchOnAHiddenFrameDoesNothing() {
+    QFETCH(int, quale);
+    const Voce& voce = kVoci.at(size_t(quale));
+    Banco banco;
+    platform::Form& forma = apri(banco, voce.forma);
+    banco.rete.manda("OK");
+    banco.messaggi.mostrati.clear();
+    const auto ritratto = [&] {
+      QCoreApplication::processEvents();
+      return forma.page()->grab().toImage();
+    };
+    const QImage prima = ritratto();
+    const auto foglio = std::find_if(fogli().begin(), fogli().end(),
+                                     [&](const Foglio& f) { return f.nome == voce.foglio; });
+    QVERIFY(!foglio->nascosti.empty());
+    for (const int cornice : foglio->nascosti) {
+      toccaCornice(banco, somme::posti::kCifre, cornice);
+      QCOMPARE(ritratto(), prima);
+    }
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QVERIFY(banco.messaggi.mostrati.empty());
+    // The digits beside them act.
+    toccaCornice(banco, somme::posti::kCifre, 7);
+    QVERIFY(ritratto() != prima);
+  }
+};
+
+QTEST_MAIN(FogliHKTest)
+#include "fogli_hk_test.moc"

@@ -1,0 +1,76 @@
+#include "fogli_di_prova.h"
+#include "support/pdf_letto.h"
+
+using prova::Cella;
+using prova::cellaDi;
+using prova::DialogoDiProva;
+using prova::fogli;
+using prova::Foglio;
+using prova::mostra;
+using prova::PdfLetto;
+using prova::postoDi;
+using prova::puntiDi;
+using somme::FoglioTastiera;
+using somme::frmAvviaStampa;
+
+// The keyboard sheets on paper, where the frames are found by their ink.
+class FogliStampatiTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void everyPrintedFrameFallsOnItsKey_data() {
+    QTest::addColumn<int>("quale");
+    for (int i = 0; i < int(fogli().size()); ++i) {
+      QTest::newRow(std::string(fogli()[size_t(i)].nome).c_str()) << i;
+    }
+  }
+  void everyPrintedFrameFallsOnItsKey() {
+    QFETCH(int, quale);
+    const Foglio& foglio = fogli()[size_t(quale)];
+    DialogoDiProva prova({1366, 768});
+    prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
+    std::vector<QRectF> attesi(size_t(foglio.mappa.Tasti()));  // millimetres
+    mostra(prova, foglio.nome, [&](FoglioTastiera& f, frmAvviaStampa& d) {
+      for (int i = 0; i < f.Shape1.count(); ++i) {
+        const QRectF posto = postoDi(f.Shape1[i]);
+        attesi[size_t(i)] = {posto.x() / f.width() * 400, posto.y() / f.height() * 280,
+                             posto.width() / f.width() * 400, posto.height() / f.height() * 280};
+      }
+      d.cmdStampa.click();
+    });
+    QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
+    const PdfLetto letto(prova.banco.stampanti.lavori[0].pages);
+    QCOMPARE(letto.pagine(), 1);
+    constexpr int kPunti = 200;
+    const QImage pagina = letto.immagine(1, kPunti);
+    const double mm = 25.4 / kPunti;
+    for (size_t i = 0; i < attesi.size(); ++i) {
+      // The frame and half a cell around it, which is less than the gaps.
+      const QRectF stanza = attesi[i].adjusted(-8, -6, 8, 6);
+      const QRect ritaglio(qRound(stanza.x() / mm), qRound(stanza.y() / mm),
+                           qRound(stanza.width() / mm), qRound(stanza.height() / mm));
+      const QImage pezzo = pagina.copy(ritaglio);
+      if (std::find(foglio.nascosti.begin(), foglio.nascosti.end(), int(i)) !=
+          foglio.nascosti.end()) {
+        QVERIFY2(prova::inchiostro(pezzo, kPunti).width() <= 0, qPrintable(QString::number(i)));
+        continue;
+      }
+      const QRectF ink =
+          prova::inchiostro(pezzo, kPunti).translated(ritaglio.x() * mm, ritaglio.y() * mm);
+      // The edge is drawn half outside of the frame.
+      constexpr double kBordo = 1.3;
+      QVERIFY2(std::abs(ink.left() - attesi[i].left()) < kBordo, qPrintable(QString::number(i)));
+      QVERIFY2(std::abs(ink.top() - attesi[i].top()) < kBordo, qPrintable(QString::number(i)));
+      QVERIFY2(std::abs(ink.right() - attesi[i].right()) < kBordo, qPrintable(QString::number(i)));
+      QVERIFY2(std::abs(ink.bottom() - attesi[i].bottom()) < kBordo,
+               qPrintable(QString::number(i)));
+      for (const QPointF& punto : puntiDi(ink, {400.0 / 24, 280.0 / 23})) {
+        const Cella c = cellaDi(punto.x() / 400, punto.y() / 280);
+        QCOMPARE(foglio.mappa.Tasto(c.colonna, c.riga), int(i) + 1);
+      }
+    }
+  }
+};
+
+QTEST_MAIN(FogliStampatiTest)
+#include "fogli_stampati_test.moc"
