@@ -17,6 +17,18 @@ class LinguaDelMenuTest : public QObject {
   Q_OBJECT
 
   static FormMenu& apri(Banco& banco) { return banco.apri<FormMenu>(somme::forme::kFormMenu); }
+  // The item of a language that is there.
+  static platform::MenuItem& voce(FormMenu& menu, const QString& lingua) {
+    platform::MenuItem* trovata = nullptr;
+    menu.mnuLanguage.forEach([&](platform::MenuItem& una) {
+      if (una.caption() == lingua) trovata = &una;
+    });
+    if (trovata == nullptr) throw std::logic_error("no such language is in the menu");
+    return *trovata;
+  }
+  static platform::MenuItem& inglese(FormMenu& menu) {
+    return voce(menu, QStringLiteral("English"));
+  }
   static void scegli(const platform::MenuItem& voce) {
     voce.action()->trigger();
     QCoreApplication::processEvents();
@@ -41,9 +53,11 @@ class LinguaDelMenuTest : public QObject {
   void theLanguagesFoundStandInTheMenuByNameAndTheCurrentOneIsMarked() {
     Banco banco;
     FormMenu& menu = apri(banco);
-    QCOMPARE(menu.mnuLanguage.count(), 2);
-    QCOMPARE(menu.mnuLanguage[0].caption(), QStringLiteral("English"));
-    QCOMPARE(menu.mnuLanguage[1].caption(), QStringLiteral("Italiano"));
+    QStringList nomi;
+    menu.mnuLanguage.forEach([&nomi](platform::MenuItem& una) { nomi.append(una.caption()); });
+    QCOMPARE(nomi, QStringList({QStringLiteral("Deutsch"), QStringLiteral("English"),
+                                QStringLiteral("Español"), QStringLiteral("Français"),
+                                QStringLiteral("Italiano")}));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("Italiano")});
   }
 
@@ -57,7 +71,7 @@ class LinguaDelMenuTest : public QObject {
     QCOMPARE(seconda->parent(), prima->parent());
     const auto* tendina = menu.mnuLanguages.action()->menu();
     QVERIFY(tendina != nullptr);
-    QCOMPARE(tendina->actions().size(), 2);
+    QCOMPARE(tendina->actions().size(), qsizetype(menu.mnuLanguage.count()));
     QCOMPARE(tendina->actions()[1], seconda);
   }
 
@@ -71,7 +85,7 @@ class LinguaDelMenuTest : public QObject {
     auto* tendina = menu.mnuLanguages.action()->menu();
     QVERIFY(tendina->isVisible());
     QTest::mouseClick(tendina->windowHandle(), Qt::LeftButton, {},
-                      tendina->actionGeometry(menu.mnuLanguage[0].action()).center());
+                      tendina->actionGeometry(inglese(menu).action()).center());
     QCoreApplication::processEvents();
     QVERIFY(!tendina->isVisible());
     QCOMPARE(banco.ambiente->stato.LinguaCorrente, QStringLiteral("English"));
@@ -81,7 +95,7 @@ class LinguaDelMenuTest : public QObject {
   void choosingALanguageMarksItAppliesItAndWritesItAtOnce() {
     Banco banco;
     FormMenu& menu = apri(banco);
-    scegli(menu.mnuLanguage[0]);
+    scegli(inglese(menu));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
     QCOMPARE(menu.caption(), QStringLiteral("Addition exercises"));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
@@ -95,7 +109,7 @@ class LinguaDelMenuTest : public QObject {
 
   void theNextRunStartsInTheChosenLanguage() {
     Banco banco;
-    scegli(apri(banco).mnuLanguage[0]);
+    scegli(inglese(apri(banco)));
     Banco poi;
     poi.metti(QStringLiteral("LangSetting.ini"), leggi(banco, QStringLiteral("LangSetting.ini")));
     poi.ambiente->stato.LinguaCorrente.clear();
@@ -109,7 +123,7 @@ class LinguaDelMenuTest : public QObject {
 
   void theSharedStringsKeepTheLanguageOfTheStart() {
     Banco banco;
-    scegli(apri(banco).mnuLanguage[0]);
+    scegli(inglese(apri(banco)));
     QCOMPARE(banco.ambiente->stringhe.TestoEsatti, QStringLiteral("Esatti"));
     QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")), QStringLiteral("Right"));
   }
@@ -118,7 +132,7 @@ class LinguaDelMenuTest : public QObject {
     Banco banco;
     FormMenu& menu = apri(banco);
     QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("Disattiva i suoni"));
-    scegli(menu.mnuLanguage[0]);
+    scegli(inglese(menu));
     QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("Sounds"));
   }
 
@@ -126,9 +140,7 @@ class LinguaDelMenuTest : public QObject {
     Banco banco;
     banco.metti(QStringLiteral("Lingua semplice.lng"), "[FormMenu]\nCommand1.Caption=\"Via\"\n");
     FormMenu& menu = apri(banco);
-    QCOMPARE(menu.mnuLanguage.count(), 3);
-    QCOMPARE(menu.mnuLanguage[2].caption(), QStringLiteral("Lingua semplice"));
-    scegli(menu.mnuLanguage[2]);
+    scegli(voce(menu, QStringLiteral("Lingua semplice")));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Via"));
     QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
     // The form's own caption is set also where the file has none.
@@ -145,9 +157,10 @@ class LinguaDelMenuTest : public QObject {
 
   void withoutAnyLanguageFileEachLoadSaysSoAndTheDesignTextsStand() {
     Banco banco;
-    togli(banco, QStringLiteral("Italiano.lng"));
-    togli(banco, QStringLiteral("English.lng"));
-    togli(banco, QStringLiteral("LangSetting.ini"));
+    for (const QString& nome :
+         QDir(banco.cartella.path()).entryList({QStringLiteral("*.lng"), QStringLiteral("*.ini")})) {
+      togli(banco, nome);
+    }
     for (std::size_t volta = 1; volta <= 2; ++volta) {
       FormMenu& menu = apri(banco);
       QCOMPARE(banco.messaggi.mostrati.size(), volta);
@@ -201,7 +214,7 @@ class LinguaDelMenuTest : public QObject {
     Banco banco;
     FormMenu& menu = apri(banco);
     togli(banco, QStringLiteral("English.lng"));
-    scegli(menu.mnuLanguage[0]);
+    scegli(inglese(menu));
     QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
     QCOMPARE(menu.caption(), QStringLiteral("Esercitazioni sulle somme"));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
@@ -213,7 +226,7 @@ class LinguaDelMenuTest : public QObject {
     FormMenu& menu = apri(banco);
     togli(banco, QStringLiteral("LangSetting.ini"));
     QVERIFY(QDir(banco.cartella.path()).mkdir(QStringLiteral("LangSetting.ini")));
-    scegli(menu.mnuLanguage[0]);
+    scegli(inglese(menu));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
     QVERIFY(banco.messaggi.mostrati.empty());
     QVERIFY(!banco.fine.stato.has_value());

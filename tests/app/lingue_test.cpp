@@ -79,10 +79,11 @@ class LingueTest : public QObject {
   }
 
  private Q_SLOTS:
-  void italianAndEnglishAreThere() {
+  void fiveLanguagesAreThere() {
     const Banco banco({640, 480});
-    QVERIFY(QFile::exists(banco.percorso(QStringLiteral("Italiano.lng"))));
-    QVERIFY(QFile::exists(banco.percorso(QStringLiteral("English.lng"))));
+    for (const char* nome : {"Deutsch", "English", "Español", "Français", "Italiano"}) {
+      QVERIFY2(QFile::exists(banco.percorso(QString::fromUtf8(nome) + QStringLiteral(".lng"))), nome);
+    }
   }
 
   void everyFormHasASectionWithTheKeysOfItsDesignAndNoOther_data() { lingue(); }

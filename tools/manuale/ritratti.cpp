@@ -1,0 +1,81 @@
+// Takes pictures of the program: those of the manual, or every form for whoever translates or
+// draws.
+//
+//   ritratti FOLDER LANGUAGE               the manual's scenes, in a window of 800 by 560
+//   ritratti FOLDER LANGUAGE WIDTHxHEIGHT  every form at its start, in a window of that size
+//
+// Without a display: QT_QPA_PLATFORM=offscreen. QT_SCALE_FACTOR gives more pixels for each point.
+
+#include <QApplication>
+#include <QDir>
+#include <cstdio>
+
+#include "app/shared/nomi_forme.h"
+#include "app/shared/stringhe_condivise.h"
+#include "app/tabella_forme.h"
+#include "tools/manuale/scene.h"
+
+namespace {
+
+constexpr QSize kFinestra{800, 560};
+
+void ScegliLingua(prova::Banco& banco, const QString& lingua) {
+  banco.ambiente->stato.LinguaCorrente = lingua;
+  banco.metti(QStringLiteral("LangSetting.ini"),
+              "[Language]\nCurrentLanguage=" + lingua.toUtf8() + '\n');
+  somme::CaricaStringhe(*banco.ambiente);
+}
+
+bool Salva(prova::Banco& banco, const QDir& cartella, const QString& nome) {
+  const QString percorso = cartella.filePath(nome + QStringLiteral(".png"));
+  if (manuale::Ritratto(banco).save(percorso)) return true;
+  std::fprintf(stderr, "%s cannot be written\n", qPrintable(percorso));
+  return false;
+}
+
+bool Scene(const QDir& cartella, const QString& lingua) {
+  for (const manuale::Scena& scena : manuale::Scene()) {
+    prova::Banco banco(kFinestra);
+    ScegliLingua(banco, lingua);
+    scena.prepara(banco);
+    if (!Salva(banco, cartella, QLatin1String(scena.nome))) return false;
+  }
+  return true;
+}
+
+// As a family menu would leave the state for each.
+bool Forme(const QDir& cartella, const QString& lingua, QSize lato) {
+  for (const std::string_view nome : somme::NomiDelleForme()) {
+    prova::Banco banco(lato);
+    ScegliLingua(banco, lingua);
+    const QLatin1String scritto(nome.data(), qsizetype(nome.size()));
+    banco.ambiente->stato.LimiteEsercizio = scritto.contains(QLatin1String("20")) ? 20 : 10;
+    banco.ambiente->stato.TipoEsercizio =
+        scritto.contains(QLatin1String("LU")) || scritto.contains(QLatin1String("Abaco")) ? 3 : 1;
+    if (scritto.endsWith(QLatin1String("Scansione"))) {
+      banco.ambiente->stato.ModalitaInput = somme::kScansioneAutomatica;
+    }
+    banco.mostra(nome);
+    if (!Salva(banco, cartella, scritto)) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  const QApplication programma(argc, argv);
+  const QStringList argomenti = QCoreApplication::arguments();
+  const QStringList misure = argomenti.value(3).split(u'x');
+  const bool tutte = argomenti.size() == 4 && misure.size() == 2;
+  if (argomenti.size() != 3 && !tutte) {
+    std::fprintf(stderr, "ritratti FOLDER LANGUAGE [WIDTHxHEIGHT]\n");
+    return 2;
+  }
+  const QDir cartella(argomenti[1]);
+  cartella.mkpath(QStringLiteral("."));
+  const bool fatto =
+      tutte ? Forme(cartella, argomenti[2], QSize(misure[0].toInt(), misure[1].toInt()))
+            : Scene(cartella, argomenti[2]);
+  return fatto ? 0 : 1;
+}

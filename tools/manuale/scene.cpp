@@ -1,0 +1,259 @@
+#include "tools/manuale/scene.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QPainter>
+#include <array>
+
+#include "app/form_menu.h"
+#include "app/shared/nomi_forme.h"
+#include "exercises/abacus/form_abaco.h"
+#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/form_barre10_scansione.h"
+#include "exercises/bars/form_barre20.h"
+#include "exercises/blocks/form_hlu.h"
+#include "exercises/blocks/form_lu.h"
+#include "exercises/numbers/form_numeri_addendo.h"
+#include "exercises/numbers/form_numeri_totale.h"
+#include "exercises/numbers/form_numeri_totale_scansione.h"
+#include "exercises/table/form_tabella.h"
+#include "platform/forms/menu_bar.h"
+
+namespace manuale {
+
+namespace {
+
+using namespace somme;
+using prova::Banco;
+
+// The beginning of the record's heading, as the family menus write it.
+QString Titolo(Banco& banco, const char* inizio, const char* gruppo, const QString& livello) {
+  return TestoLingua(*banco.ambiente, QLatin1String(inizio)) +
+         TestoLingua(*banco.ambiente, QLatin1String(gruppo)) + livello;
+}
+
+void ApriMenu(const platform::MenuItem& titolo) {
+  auto* barra = qobject_cast<QMenuBar*>(titolo.action()->parent());
+  QMenu* tendina = titolo.action()->menu();
+  for (QWidget* finestra : QApplication::topLevelWidgets()) {
+    if (barra != nullptr) break;
+    barra = finestra->findChild<QMenuBar*>();
+  }
+  const QRect posto = barra->actionGeometry(titolo.action());
+  tendina->popup(barra->mapToGlobal(posto.bottomLeft()));
+  QCoreApplication::processEvents();
+}
+
+template <class F>
+F& Barre(Banco& banco, std::string_view nome, int limite, int totale, int addendo1) {
+  banco.ambiente->stato.LimiteEsercizio = limite;
+  banco.sorte.scrivi({{totale - 1, limite}, {addendo1, totale}});
+  return banco.apri<F>(nome);
+}
+
+void Avvio(Banco& banco) {
+  banco.mostra(forme::kFormAvvio);
+}
+void Menu(Banco& banco) {
+  banco.mostra(forme::kFormMenu);
+}
+void MenuImpostazioni(Banco& banco) {
+  auto& forma = banco.apri<FormMenu>(forme::kFormMenu);
+  ApriMenu(forma.mnuImpostazioni);
+  QMenu* tendina = forma.mnuImpostazioni.action()->menu();
+  QMenu* modi = forma.mnuModInput.action()->menu();
+  modi->popup(tendina->mapToGlobal(tendina->actionGeometry(forma.mnuModInput.action()).topRight()));
+  QCoreApplication::processEvents();
+}
+void MenuLingua(Banco& banco) {
+  ApriMenu(banco.apri<FormMenu>(forme::kFormMenu).mnuLanguages);
+}
+void TempoScansione(Banco& banco) {
+  banco.apri<FormMenu>(forme::kFormMenu).mnuTempoScansione.click();
+}
+void MenuBarre(Banco& banco) {
+  banco.mostra(forme::kFormMenuBarre);
+}
+void MenuBlocchi(Banco& banco) {
+  banco.mostra(forme::kFormMenuPLU);
+}
+void MenuNumeri(Banco& banco) {
+  banco.mostra(forme::kFormMenuNumeri);
+}
+void MenuAbaco(Banco& banco) {
+  banco.mostra(forme::kFormMenuAbaco);
+}
+void MenuTabella(Banco& banco) {
+  banco.mostra(forme::kFormMenuTabella);
+}
+
+void Barre10(Banco& banco) {
+  Barre<FormBarre10>(banco, forme::kFormBarre10, 10, 7, 3);
+}
+void Barre10Aiuto(Banco& banco) {
+  auto& forma = Barre<FormBarre10>(banco, forme::kFormBarre10, 10, 7, 3);
+  banco.clicca(forma.PulsanteNumero[6]);
+  banco.clicca(forma.PulsanteAiuto);
+}
+void Barre10Giusto(Banco& banco) {
+  auto& forma = Barre<FormBarre10>(banco, forme::kFormBarre10, 10, 7, 3);
+  banco.clicca(forma.PulsanteNumero[7]);
+}
+void Barre20(Banco& banco) {
+  Barre<FormBarre20>(banco, forme::kFormBarre20, 20, 15, 8);
+}
+void BarreScansione(Banco& banco) {
+  banco.ambiente->stato.ModalitaInput = kScansioneAutomatica;
+  Barre<FormBarre10Scansione>(banco, forme::kFormBarre10Scansione, 10, 7, 3);
+  banco.tempo.advance(3.2);
+}
+
+void Costruisci(Banco& banco, const platform::Button& pulsante, int quanti) {
+  for (int i = 0; i < quanti; ++i) banco.clicca(pulsante);
+}
+FormLU& LU(Banco& banco, int totale, int addendo1) {
+  banco.ambiente->stato.TipoEsercizio = 3;
+  banco.sorte.scrivi({{totale - 1, 99}, {addendo1, totale}});
+  return banco.apri<FormLU>(forme::kFormLU);
+}
+void Blocchi99(Banco& banco) {
+  auto& forma = LU(banco, 52, 27);
+  Costruisci(banco, forma.PulsanteDa, 2);
+  Costruisci(banco, forma.PulsanteU, 7);
+  banco.clicca(forma.PulsanteConferma);
+  Costruisci(banco, forma.PulsanteDa, 1);
+}
+FormLU& LUUnite(Banco& banco) {
+  auto& forma = LU(banco, 52, 27);
+  Costruisci(banco, forma.PulsanteDa, 2);
+  Costruisci(banco, forma.PulsanteU, 7);
+  banco.clicca(forma.PulsanteConferma);
+  Costruisci(banco, forma.PulsanteDa, 2);
+  Costruisci(banco, forma.PulsanteU, 5);
+  banco.clicca(forma.PulsanteConferma);
+  banco.tempo.advance(3);
+  return forma;
+}
+void BlocchiCambio(Banco& banco) {
+  LUUnite(banco);
+}
+void Blocchi999(Banco& banco) {
+  banco.ambiente->stato.TipoEsercizio = 6;
+  banco.sorte.scrivi({{365 - 1, 988}, {142, 365}});
+  auto& forma = banco.apri<FormHLU>(forme::kFormHLU);
+  Costruisci(banco, forma.PulsanteH, 1);
+  Costruisci(banco, forma.PulsanteDa, 4);
+  Costruisci(banco, forma.PulsanteU, 2);
+  banco.clicca(forma.PulsanteConferma);
+  Costruisci(banco, forma.PulsanteH, 2);
+}
+
+FormAbaco& Abaco(Banco& banco, qint16 tipo, int limite, int totale, int addendo1) {
+  banco.ambiente->stato.TipoEsercizio = tipo;
+  banco.sorte.scrivi({{totale - 1, limite}, {addendo1, totale}});
+  return banco.apri<FormAbaco>(forme::kFormAbaco);
+}
+// Puts so many of the waiting beads of a kind onto their spike.
+void Infila(Banco& banco, FormAbaco& forma, const char* palline, int da, int quante) {
+  for (int i = da; i < da + quante; ++i) {
+    banco.cliccaClip(forma.ShockwaveFlash1, QLatin1String(palline) + QString::number(i));
+  }
+}
+void AbacoDieciUnita(Banco& banco) {
+  auto& forma = Abaco(banco, 3, 99, 43, 28);
+  Infila(banco, forma, "daa", 0, 2);
+  Infila(banco, forma, "ua", 0, 10);
+}
+void AbacoMigliaia(Banco& banco) {
+  auto& forma = Abaco(banco, 19, 9888, 3456, 1234);
+  Infila(banco, forma, "ka", 1, 1);
+  Infila(banco, forma, "ha", 0, 2);
+  Infila(banco, forma, "daa", 0, 3);
+  Infila(banco, forma, "ua", 0, 4);
+}
+
+void Tabella(Banco& banco) {
+  banco.ambiente->stato.TipoEsercizio = 10;
+  banco.sorte.scrivi({{46, 99}, {12, 99}});
+  banco.mostra(forme::kFormTabella);
+}
+
+FormNumeriTotale& Numeri(Banco& banco) {
+  banco.ambiente->stato.TipoEsercizio = 7;
+  banco.ambiente->stato.TitoloEsercizio =
+      Titolo(banco, "0031", "0026", TestoLingua(*banco.ambiente, QStringLiteral("0012")));
+  banco.sorte.scrivi({{74, 99}, {47, 75}, {38, 99}, {21, 39}});
+  return banco.apri<FormNumeriTotale>(forme::kFormNumeriTotale);
+}
+void NumeriTotale(Banco& banco) {
+  Numeri(banco);
+  banco.scrivi(QStringLiteral("75"));
+}
+void NumeriElenco(Banco& banco) {
+  auto& forma = Numeri(banco);
+  banco.scrivi(QStringLiteral("75"));
+  banco.batti(Qt::Key_Return);
+  banco.clicca(forma.PulsanteAvanti);
+  banco.scrivi(QStringLiteral("39"));
+  banco.batti(Qt::Key_Return);
+  forma.mnuStampa.click();
+}
+void NumeriAddendo(Banco& banco) {
+  banco.ambiente->stato.TipoEsercizio = 1;
+  banco.mostra(forme::kFormNumeriAddendo);
+}
+void NumeriScansione(Banco& banco) {
+  banco.ambiente->stato.ModalitaInput = kScansioneAutomatica;
+  banco.ambiente->stato.TipoEsercizio = 7;
+  banco.sorte.scrivi({{74, 99}, {47, 75}});
+  banco.mostra(forme::kFormNumeriTotaleScansione);
+  banco.tempo.advance(4.2);
+}
+
+constexpr auto kScene = std::to_array<Scena>({
+    {"avvio", Avvio},
+    {"menu", Menu},
+    {"menu_impostazioni", MenuImpostazioni},
+    {"menu_lingua", MenuLingua},
+    {"tempo_scansione", TempoScansione},
+    {"menu_barre", MenuBarre},
+    {"menu_blocchi", MenuBlocchi},
+    {"menu_numeri", MenuNumeri},
+    {"menu_abaco", MenuAbaco},
+    {"menu_tabella", MenuTabella},
+    {"barre10", Barre10},
+    {"barre10_aiuto", Barre10Aiuto},
+    {"barre10_giusto", Barre10Giusto},
+    {"barre20", Barre20},
+    {"barre_scansione", BarreScansione},
+    {"blocchi99", Blocchi99},
+    {"blocchi_cambio", BlocchiCambio},
+    {"blocchi999", Blocchi999},
+    {"abaco_dieci", AbacoDieciUnita},
+    {"abaco_migliaia", AbacoMigliaia},
+    {"tabella", Tabella},
+    {"numeri", NumeriTotale},
+    {"numeri_elenco", NumeriElenco},
+    {"numeri_addendo", NumeriAddendo},
+    {"numeri_scansione", NumeriScansione},
+});
+
+}  // namespace
+
+std::span<const Scena> Scene() {
+  return kScene;
+}
+
+QImage Ritratto(Banco& banco) {
+  QWidget& finestra = banco.ambiente->fondo.window();
+  QPixmap insieme = finestra.grab();
+  QPainter pennello(&insieme);
+  for (QWidget* sopra : QApplication::topLevelWidgets()) {
+    if (sopra == &finestra || !sopra->isVisible()) continue;
+    pennello.drawPixmap(finestra.mapFromGlobal(sopra->mapToGlobal(QPoint())), sopra->grab());
+  }
+  pennello.end();
+  return insieme.toImage();
+}
+
+}  // namespace manuale
