@@ -1,32 +1,35 @@
 #!/usr/bin/python3
 """Plays one exercise of the program on a virtual display, as a pupil would, with mouse and keys.
 
-    gioca.py <program> <folder for the pictures> [<exercise>]
+    gioca.py <program> <folder for the pictures> [<exercise> [<stand-in for the touch surface>]]
 
 The exercises are those of partite.py; without one it is "barre". What is asked is read from
 outside, through the accessibility tree; the answers are worked out from it. Ends with 0 when the
 program took and judged every answer as it should.
 """
 
+import contextlib
 import os
 import signal
 import sys
 
 from giocatore import Errore, Giocatore
-from partite import PARTITE
+from partite import A_TOCCHI, PARTITE
 from schermo import ErroreSchermo, Schermo
+from tavoletta import ErroreTavoletta, Tavoletta
 
 
-def gioca(programma, cartella, nome):
+def gioca(programma, cartella, nome, tavoletta):
     """One exercise, from the start of the program to its end. Returns whether all was well."""
-    with Schermo() as schermo:
+    superficie = Tavoletta(tavoletta) if nome in A_TOCCHI else contextlib.nullcontext()
+    with Schermo() as schermo, superficie as tocchi:
         from albero import Albero, TempoScaduto
         processo = schermo.avvia(os.path.abspath(programma))
-        giocatore = Giocatore(schermo, Albero(processo), cartella)
+        giocatore = Giocatore(schermo, Albero(processo), cartella, tocchi)
         try:
             PARTITE[nome](giocatore)
             giocatore.chiudi(processo)
-        except (TempoScaduto, Errore) as errore:
+        except (TempoScaduto, Errore, ErroreTavoletta) as errore:
             print(f"Failed: {errore}", file=sys.stderr)
             giocatore.fotografa("errore")
             return False
@@ -34,8 +37,9 @@ def gioca(programma, cartella, nome):
 
 
 def main():
-    nome = sys.argv[3] if len(sys.argv) == 4 else "barre"
-    if len(sys.argv) not in (3, 4) or nome not in PARTITE:
+    nome = sys.argv[3] if len(sys.argv) > 3 else "barre"
+    tavoletta = sys.argv[4] if len(sys.argv) > 4 else ""
+    if not 3 <= len(sys.argv) <= 5 or nome not in PARTITE or (nome in A_TOCCHI) != bool(tavoletta):
         print(__doc__, file=sys.stderr)
         print("Exercises: " + ", ".join(PARTITE), file=sys.stderr)
         return 2
@@ -44,8 +48,8 @@ def main():
     # Ended from outside, it still leaves through the end of the Schermo.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:
-        return 0 if gioca(programma, cartella, nome) else 1
-    except ErroreSchermo as errore:
+        return 0 if gioca(programma, cartella, nome, tavoletta) else 1
+    except (ErroreSchermo, ErroreTavoletta) as errore:
         print(f"Failed: {errore}", file=sys.stderr)
         return 1
 

@@ -25,9 +25,10 @@ class Errore(Exception):
 class Giocatore:
     """What a pupil does on any form. What is asked and how it is answered differs: see partite."""
 
-    def __init__(self, schermo, albero, cartella):
-        """cartella: where the pictures go."""
+    def __init__(self, schermo, albero, cartella, tavoletta=None):
+        """cartella: where the pictures go. tavoletta: the touch surface, for who plays by touch."""
         self.albero = albero
+        self.tavoletta = tavoletta
         self.mani = Mani()
         self._schermo = schermo
         self._cartella = cartella

@@ -9,6 +9,8 @@ import time
 from giocatore import BOTTONE, TESTO, VOCE, Errore
 
 PIU, UGUALE = "+", "="
+# Seconds between two touches.
+PAUSA_DITO = 0.3
 
 
 def scrivi(termini):
@@ -221,4 +223,53 @@ def scansione(giocatore):
     giocatore.fotografa("automatica")
 
 
-PARTITE = {partita.__name__: partita for partita in (barre, numeri, scansione)}
+def tocco(giocatore):
+    """Plain numbers by touch: every answer by the keys of the sheet, then back to the menu."""
+    albero, tavoletta = giocatore.albero, giocatore.tavoletta
+    cestino, conferma, avanti = 13, 15, 16
+
+    def operazione():
+        for etichetta in giocatore.etichette():
+            trovato = re.search(r"(\d+) *\+ *(\d+) *= *$", etichetta.nome)
+            if trovato:
+                return [int(n) for n in trovato.groups()]
+        return None
+
+    def dai(numero):
+        tavoletta.fai(f"tasto {cestino}")
+        tavoletta.aspetta("mandato")
+        for cifra in str(numero):
+            # One touch after the other, as a hand is: two that come together are one.
+            time.sleep(PAUSA_DITO)
+            tavoletta.fai(f"tasto {int(cifra) + 1}")
+        time.sleep(PAUSA_DITO)
+        tavoletta.fai(f"tasto {conferma}")
+
+    giocatore.segui([])
+    albero.aspetta_oggetto(BOTTONE, "Solo numeri")
+    giocatore.mani.batti("ctrl+h")
+    giocatore.premi("Solo numeri")
+    giocatore.premi("senza cambio")
+    albero.aspetta_oggetto(BOTTONE, "OK")
+    giocatore.fotografa("pronta")
+    giocatore.premi("OK")
+    a, b = albero.aspetta("a sum to be found", operazione)
+    print("Asked:    " + scrivi((a, b, "")))
+    giocatore.fotografa("domanda")
+    giocatore.rispondi(a + b + 1, dai, giusto=False)
+    giocatore.fotografa("sbagliato")
+    giocatore.rispondi(a + b, dai, giusto=True)
+    giocatore.fotografa("giusto")
+    time.sleep(PAUSA_DITO)
+    tavoletta.fai(f"tasto {avanti}")
+    albero.aspetta("the next sum", lambda: operazione() is not None)
+    giocatore.premi("Esci", VOCE)
+    tavoletta.aspetta("ricevuto 02#REQ-DEFAULT")
+    tavoletta.aspetta("staccata")
+    albero.aspetta_oggetto(BOTTONE, "senza cambio")
+    giocatore.fotografa("di-nuovo-al-menu")
+
+
+PARTITE = {partita.__name__: partita for partita in (barre, numeri, scansione, tocco)}
+# Those that want a stand-in for the touch surface.
+A_TOCCHI = {"tocco"}
