@@ -24,7 +24,7 @@ def gioca(programma, cartella, nome, tavoletta):
     superficie = Tavoletta(tavoletta) if nome in A_TOCCHI else contextlib.nullcontext()
     with Schermo() as schermo, superficie as tocchi:
         from albero import Albero, TempoScaduto
-        processo = schermo.avvia(os.path.abspath(programma))
+        processo = schermo.avvia(schermo.copia(programma))
         giocatore = Giocatore(schermo, Albero(processo), cartella, tocchi)
         try:
             PARTITE[nome](giocatore)

@@ -60,6 +60,15 @@ class Schermo:
         self._processi.append(processo)
         return processo
 
+    def copia(self, programma):
+        """A copy of the program with its folder, which goes with the desktop.
+
+        Each copy is a program of its own: it runs beside others, and its folder can be changed.
+        """
+        cartella = os.path.join(self._cartella, "programma")
+        shutil.copytree(os.path.dirname(os.path.abspath(programma)), cartella)
+        return os.path.join(cartella, os.path.basename(programma))
+
     def fotografa(self, percorso):
         """Writes a picture of the whole screen; the format is that of the name."""
         os.makedirs(os.path.dirname(percorso) or ".", exist_ok=True)
