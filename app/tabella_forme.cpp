@@ -13,6 +13,8 @@
 #include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/form_abaco.h"
+#include "exercises/abacus/form_abaco_hk.h"
+#include "exercises/abacus/form_abaco_scansione.h"
 #include "exercises/bars/form_barre10.h"
 #include "exercises/bars/form_barre10_hk.h"
 #include "exercises/bars/form_barre10_scansione.h"
@@ -77,6 +79,8 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormLU, Crea<FormLU>},
     {forme::kFormHLU, Crea<FormHLU>},
     {forme::kFormAbaco, Crea<FormAbaco>},
+    {forme::kFormAbacoScansione, Crea<FormAbacoScansione>},
+    {forme::kFormAbacoHK, Crea<FormAbacoHK>},
     {forme::kFormTabella, Crea<FormTabella>},
     {forme::kFormStampaFoglioNumeri, Crea<FormStampaFoglioNumeri>},
     {forme::kFormStampaFoglioNumeri2, Crea<FormStampaFoglioNumeri2>},

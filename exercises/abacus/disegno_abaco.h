@@ -18,10 +18,27 @@ constexpr Row Operazione(TwipsRect posto) {
       {.toolTip = "Operazione", .font = {Face::Tahoma, 24}, .back = kWhite, .align = Align::Right});
 }
 
+inline constexpr auto kPannelloAbaco = std::to_array<Row>({
+    Pannello({0, 0, 10860, 7650}),
+    Elenco({360, 240, 5775, 6975}),
+    Stampa({7440, 4680, 2580, 1155}),
+    Chiudi({7440, 6240, 2580, 1155}),
+});
+
 inline constexpr auto kMenuAbaco = std::to_array<Row>({
     item<&FormaAbaco::MenuAzzera>({.caption = "A&zzera conteggio"}),
     item<&FormaAbaco::mnuStampa>({.caption = "&Stampa"}),
     item<&FormaAbaco::mnuEsci>({.caption = "&Esci"}),
 });
+
+constexpr FormDesign DisegnoAbaco(std::string_view nome,
+                                  std::span<const std::span<const Row>> tavole) {
+  return {.name = nome,
+          .caption = "Esercitazioni sulle somme",
+          .width = 10860,
+          .height = 7650,
+          .back = kRosaPallido,
+          .tables = tavole};
+}
 
 }  // namespace somme::disegno

@@ -42,20 +42,11 @@ constexpr auto kControlli = std::to_array<Row>({
     No({8940, 240, 855, 855}),
     Esatti({8160, 1320, 2415, 375}),
     Errati({8160, 1695, 2415, 375}),
-    Pannello({0, 0, 10860, 7650}),
-    Elenco({360, 240, 5775, 6975}),
-    Stampa({7440, 4680, 2580, 1155}),
-    Chiudi({7440, 6240, 2580, 1155}),
 });
 
-constexpr std::array<std::span<const Row>, 2> kTavole{kControlli, kMenuAbaco};
+constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kPannelloAbaco, kMenuAbaco};
 
-constexpr FormDesign kDisegno{.name = forme::kFormAbaco,
-                              .caption = "Esercitazioni sulle somme",
-                              .width = 10860,
-                              .height = 7650,
-                              .back = kRosaPallido,
-                              .tables = kTavole};
+constexpr FormDesign kDisegno = DisegnoAbaco(forme::kFormAbaco, kTavole);
 
 // The levels, from and to, and the arrows that they show. An arrow that is hidden forbids its
 // carry: ten beads stay on the spike.
@@ -109,10 +100,6 @@ FormAbaco::FormAbaco(Ambiente& ambiente) : ConAvanti(ambiente, kDisegno) {
 void FormAbaco::onLoad() {
   ConAvanti::onLoad();
   PulsanteAvanti.setVisible(true);
-  ScriviEsatti();
-  ScriviErrati();
-  if (stato().CursoreDiSistema) ImpostaCursoreSistema();
-  TestoInput.setVisible(false);
 }
 
 void FormAbaco::onActivate() {
@@ -129,7 +116,8 @@ void FormAbaco::NuovoCaso() {
   TestoInput.Enabled.set(true);
   letEventsRun();
   TestoInput.Reimposta();
-  ScriviCaso();
+  GeneraCaso();
+  ScriviDomanda();
   TestoInput.setFocus();
 }
 
@@ -220,7 +208,7 @@ platform::Button* FormAbaco::Freccia(const GenerePalline& genere) {
 }
 
 void FormAbaco::PremiFreccia(const GenerePalline& da) {
-  const GenerePalline& a = *kGeneriPalline[da.colonna - 1];
+  const GenerePalline& a = Superiore(da);
   if (this->*da.inserite < kPalline || this->*a.inserite == kPalline) return;
   Freccia(da)->setEnabled(false);
   Cambia(da, a);

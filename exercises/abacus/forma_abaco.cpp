@@ -27,6 +27,13 @@ QString NomeClip(QLatin1String clip, int numero) {
 FormaAbaco::FormaAbaco(Ambiente& ambiente, const platform::FormDesign& disegno)
     : FormaEsercizio(ambiente, disegno, forme::kFormMenu) {}
 
+void FormaAbaco::onLoad() {
+  FormaEsercizio::onLoad();
+  ScriviEsatti();
+  ScriviErrati();
+  if (stato().CursoreDiSistema) ImpostaCursoreSistema();
+}
+
 void FormaAbaco::ApriAbaco() {
   ShockwaveFlash1.setTop(Label1.top());
   ShockwaveFlash1.setLeft(Label1.left());
@@ -37,11 +44,10 @@ void FormaAbaco::ApriAbaco() {
   letEventsRun();
 }
 
-void FormaAbaco::ScriviCaso() {
+void FormaAbaco::GeneraCaso() {
   if (const Livello* livello = LivelloDi(LivelliAbaco, stato().TipoEsercizio)) {
     livello->genera(stato(), ambiente().servizi.sorte);
   }
-  EtOperazione.setCaption(SommaDaFare());
 }
 
 void FormaAbaco::EliminaNumeroSW1() {

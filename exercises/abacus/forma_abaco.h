@@ -17,6 +17,7 @@ struct GenerePalline {
   QLatin1String inAttesa;
   qint16 FormaAbaco::*inserite;  // how many are on the spike
   std::size_t colonna;           // in `PallineInAttesa`
+  int daTasti;                   // up to how many keys put onto the spike
 };
 
 // The abacus exercises: a sum at the level that the menu chose, and an abacus of four spikes. A
@@ -48,10 +49,13 @@ class FormaAbaco : public FormaEsercizio {
   void EliminaNumeroSW1();
 
  protected:
+  void onLoad() override;
+
   // The activation up to the movie: place, record, abacus.
   void ApriAbaco();
-  // Draws a case of the level, or none for a `TipoEsercizio` without one, and shows the operation.
-  void ScriviCaso();
+  // Draws a case of the level, or none for a `TipoEsercizio` without one.
+  void GeneraCaso();
+  void ScriviDomanda() { EtOperazione.setCaption(SommaDaFare()); }
 
   // How many digits the answer can have at this level.
   virtual void ImpostaCifre(qint16 /*cifre*/) {}
@@ -62,7 +66,7 @@ class FormaAbaco : public FormaEsercizio {
   // own: some six seconds, in which events go on. It comes to its end whatever happens meanwhile,
   // also to another case, on the state that it finds; only leaving the form ends it.
   void Cambia(const GenerePalline& da, const GenerePalline& a);
-  // The waiting bead that the carry takes away; -1 when none is left.
+  // The waiting bead that the carry takes away, by its number; -1 when none is left.
   virtual int PallinaPerIlCambio(const GenerePalline& genere) const;
 
   // clip: the name, whole or without its number.
@@ -74,16 +78,23 @@ class FormaAbaco : public FormaEsercizio {
   void Descrivi();
 };
 
+// By keys the thousands stop one lower: only nine of theirs are seen waiting.
 inline constexpr GenerePalline kPallineMigliaia{QLatin1String("k"), QLatin1String("ka"),
-                                                &FormaAbaco::MigliaiaInserite, 0};
+                                                &FormaAbaco::MigliaiaInserite, 0, 9};
 inline constexpr GenerePalline kPallineCentinaia{QLatin1String("h"), QLatin1String("ha"),
-                                                 &FormaAbaco::CentinaiaInserite, 1};
+                                                 &FormaAbaco::CentinaiaInserite, 1,
+                                                 FormaAbaco::kPalline};
 inline constexpr GenerePalline kPallineDecine{QLatin1String("da"), QLatin1String("daa"),
-                                              &FormaAbaco::DecineInserite, 2};
+                                              &FormaAbaco::DecineInserite, 2, FormaAbaco::kPalline};
 inline constexpr GenerePalline kPallineUnita{QLatin1String("u"), QLatin1String("ua"),
-                                             &FormaAbaco::UnitaInserite, 3};
+                                             &FormaAbaco::UnitaInserite, 3, FormaAbaco::kPalline};
 // By their column.
 inline constexpr std::array<const GenerePalline*, 4> kGeneriPalline{
     &kPallineMigliaia, &kPallineCentinaia, &kPallineDecine, &kPallineUnita};
+
+// The kind of which one bead is worth ten of this one; not for the thousands.
+constexpr const GenerePalline& Superiore(const GenerePalline& genere) {
+  return *kGeneriPalline[genere.colonna - 1];
+}
 
 }  // namespace somme

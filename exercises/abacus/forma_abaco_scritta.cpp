@@ -15,6 +15,11 @@ FormaAbacoScritta::FormaAbacoScritta(Ambiente& ambiente, const platform::FormDes
   TestoInput.onConfermato([this] { Giudica(); });
 }
 
+void FormaAbacoScritta::onLoad() {
+  FormaAbaco::onLoad();
+  TestoInput.setVisible(false);
+}
+
 void FormaAbacoScritta::PosaTestoInput() {
   TestoInput.setTop(EtOperazione.top());
   TestoInput.setLeft(EtOperazione.left() + EtOperazione.width() - kSovrapposti);

@@ -14,6 +14,7 @@ class FormaAbacoScritta : public FormaAbaco {
   TestoInputNumerico TestoInput{*this};
 
  protected:
+  void onLoad() override;
   void ImpostaCifre(qint16 cifre) override { TestoInput.MaxLength.set(cifre); }
   // Behind the operation, in its size.
   void PosaTestoInput();
