@@ -52,6 +52,7 @@ def main():
               [os.path.join(cartella, "bench", "bench_forme"), os.path.dirname(programma)],
               [os.path.join(cartella, "bench", "bench_cambio"), os.path.dirname(programma)],
               [os.path.join(cartella, "bench", "bench_scansione"), os.path.dirname(programma)],
+              [os.path.join(cartella, "bench", "bench_tocco"), os.path.dirname(programma)],
               [os.path.join(cartella, "bench", "bench_stampa")]]
     with Schermo(1366, 768):
         # As on a desktop without assistive technology: nobody listens to the tree.

@@ -74,7 +74,7 @@ void FinestraTavoletta::Apri(quint16 porta) {
 }
 
 void FinestraTavoletta::Aggiorna() {
-  ok_.setEnabled(tavoletta_.stato() != Tavoletta::Stato::Attende);
+  ok_.setVisible(tavoletta_.stato() != Tavoletta::Stato::Attende);
   stato_.setText(InParole(tavoletta_.stato()));
   tocco_.setText(QStringLiteral(" "));
 }

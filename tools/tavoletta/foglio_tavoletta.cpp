@@ -58,7 +58,7 @@ void FoglioTavoletta::DisegnaTasto(QPainter& pittore, int tasto) const {
   pittore.setBrush(testo.isEmpty() ? kTastoVuoto : kTasto);
   pittore.drawRoundedRect(zona, kAngolo, kAngolo);
   QFont carattere = font();
-  carattere.setPixelSize(std::max(10, int(std::min(zona.height() / 2.6, zona.width() / 5))));
+  carattere.setPixelSize(std::max(10, int(std::min(zona.height() / 2.6, zona.width() / 6))));
   carattere.setBold(true);
   pittore.setFont(carattere);
   pittore.setPen(Qt::black);

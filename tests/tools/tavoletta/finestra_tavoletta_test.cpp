@@ -75,7 +75,7 @@ class FinestraTavolettaTest : public QObject {
   void itTellsInWordsWhatTheProgramDoes() {
     Scena scena;
     QVERIFY(scena.finestra.Racconto().startsWith(QStringLiteral("In attesa")));
-    QVERIFY(!scena.finestra.InviaOk().isEnabled());
+    QVERIFY(!scena.finestra.InviaOk().isVisible());
     QVERIFY(scena.collega());
     QVERIFY(scena.finestra.Racconto().contains(QStringLiteral("non aspetta tocchi")));
     scena.presa.write("02#REQ-TOUCH");
