@@ -1,5 +1,6 @@
 #include "exercises/bars/forma_barre.h"
 
+#include <algorithm>
 #include <array>
 
 #include "app/shared/nomi_forme.h"
@@ -143,16 +144,15 @@ void FormaBarre::ScriviSomma() {
 }
 
 void FormaBarre::NascondiAiuti() {
-  for (int i = 0; i < aiuti_; ++i) {
-    aiuto1[i].setVisible(false);
-    aiuto3[i].setVisible(false);
-    aiuto2[i].setVisible(false);
+  for (platform::ControlArray<platform::Label>* quadretti : {&aiuto1, &aiuto3, &aiuto2}) {
+    quadretti->forEach([](platform::Label& quadretto) { quadretto.setVisible(false); });
   }
 }
 
 void FormaBarre::MettiQuadretti(platform::ControlArray<platform::Label>& quadretti, int quanti,
                                 int sinistra, int alto) {
-  for (int i = 0; i < quanti; ++i) {
+  // A touch may ask for them before the first activation has made them.
+  for (int i = 0; i < std::min(quanti, quadretti.count()); ++i) {
     platform::Label& quadretto = quadretti[i];
     quadretto.setTop(alto);
     quadretto.setLeft(toInt16(Lungo(i) + sinistra));

@@ -5,6 +5,7 @@
 namespace prova {
 
 float SorteDiProva::fraction() {
+  if (alTiro) alTiro();
   if (coda_.empty()) {
     if (finita_) throw SorteEsaurita();
     return libera_.fraction();

@@ -38,7 +38,11 @@ class SorteDiProva final : public platform::Chance {
   // After the script: draws from a seed (the start), or SorteEsaurita.
   void finisci() { finita_ = true; }
 
+  // Where there is no script: draws from this seed on.
+  void riparti(std::uint64_t seme) { libera_.seed(seme); }
+
   std::vector<std::uint64_t> semi;
+  std::function<void()> alTiro;  // before each draw; it may throw
 
  private:
   std::deque<float> coda_;

@@ -1,0 +1,128 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QElapsedTimer>
+#include <unistd.h>
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+
+#include "app/tabella_forme.h"
+#include "scimmia/scimmia.h"
+
+// A monkey at every form: `scimmia [--seme N] [--eventi N] [--secondi N] [--racconta] [FORM...]`.
+// FORM: the beginning of a form's name; without one, all forms of the program. It plays so many
+// events a form, in no more than so many seconds in all. The seed that it prints plays the same
+// again; that of one life is printed with what went wrong there.
+namespace {
+
+constexpr int kEventiPerVita = 500;
+constexpr unsigned kBlocco = 120;  // seconds that no life takes: it hangs
+
+char vita[128] = "";  // the life that is being lived, for the alarm
+
+extern "C" void bloccata(int /*segnale*/) {
+  static const char kParole[] = "\nHANG in the life: ";
+  (void)!::write(STDERR_FILENO, kParole, sizeof kParole - 1);
+  (void)!::write(STDERR_FILENO, vita, strlen(vita));
+  std::abort();
+}
+
+struct Giro {
+  int eventi = 0;
+  int nelleAttese = 0;
+  int profonda = 0;
+  int vite = 0;
+  int aVuoto = 0;
+  bool guasto = false;
+};
+
+Giro gioca(const QByteArray& forma, quint64 seme, int eventi, double secondi, bool racconta) {
+  Giro giro;
+  QElapsedTimer orologio;
+  orologio.start();
+  const auto scaduto = [&] {
+    return secondi > 0 && static_cast<double>(orologio.elapsed()) > secondi * 1000;
+  };
+  while (giro.eventi < eventi && !scaduto()) {
+    const quint64 suo = seme + static_cast<quint64>(giro.vite++);
+    std::snprintf(vita, sizeof vita, "%s --seme %llu\n", forma.constData(),
+                  static_cast<unsigned long long>(suo));
+    ::alarm(kBlocco);
+    prova::Scimmia scimmia(forma, suo, racconta);
+    try {
+      scimmia.vivi(std::min(kEventiPerVita, eventi - giro.eventi));
+    } catch (const std::exception& guasto) {
+      std::printf("FOUND %s\n  again with: --seme %llu --eventi %d %s\n%s\n", guasto.what(),
+                  static_cast<unsigned long long>(suo), kEventiPerVita, forma.constData(),
+                  qPrintable(scimmia.racconto()));
+      giro.guasto = true;
+    }
+    giro.eventi += std::max(1, scimmia.eventi());
+    giro.nelleAttese += scimmia.nelleAttese();
+    giro.profonda = std::max(giro.profonda, scimmia.profonda());
+    giro.aVuoto += scimmia.giravaAVuoto() ? 1 : 0;
+    if (giro.guasto) break;
+  }
+  std::printf("%s: %d events, %d of them in waits (%d deep), %d lives, %d ended in a level that "
+              "draws for ever, %.1f s\n",
+              forma.constData(), giro.eventi, giro.nelleAttese, giro.profonda, giro.vite,
+              giro.aVuoto, static_cast<double>(orologio.elapsed()) / 1000);
+  std::fflush(stdout);
+  return giro;
+}
+
+bool intera(const QString& nome) {
+  const std::vector<std::string_view> nomi = somme::NomiDelleForme();
+  return std::find(nomi.begin(), nomi.end(), nome.toStdString()) != nomi.end();
+}
+
+// A whole name means that form alone.
+std::vector<QByteArray> scelte(const QStringList& chieste) {
+  std::vector<QByteArray> forme;
+  for (const std::string_view nome : somme::NomiDelleForme()) {
+    const QByteArray forma(nome.data(), qsizetype(nome.size()));
+    const auto comincia = [&](const QString& inizio) {
+      return forma.startsWith(inizio.toUtf8()) && !intera(inizio);
+    };
+    if (chieste.isEmpty() || chieste.contains(QString::fromUtf8(forma)) ||
+        std::any_of(chieste.begin(), chieste.end(), comincia)) {
+      forme.push_back(forma);
+    }
+  }
+  return forme;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication programma(argc, argv);
+  QCommandLineParser riga;
+  const QCommandLineOption seme(QStringLiteral("seme"), {}, QStringLiteral("N"));
+  const QCommandLineOption eventi(QStringLiteral("eventi"), {}, QStringLiteral("N"),
+                                  QStringLiteral("100000"));
+  const QCommandLineOption secondi(QStringLiteral("secondi"), {}, QStringLiteral("N"),
+                                   QStringLiteral("0"));
+  const QCommandLineOption racconta(QStringLiteral("racconta"));
+  riga.addOptions({seme, eventi, secondi, racconta});
+  riga.process(programma);
+
+  const std::vector<QByteArray> forme = scelte(riga.positionalArguments());
+  if (forme.empty()) {
+    std::fprintf(stderr, "no form of that name\n");
+    return 2;
+  }
+  const quint64 suo = riga.isSet(seme) ? riga.value(seme).toULongLong()
+                                       : static_cast<quint64>(std::time(nullptr));
+  std::printf("seed %llu\n", static_cast<unsigned long long>(suo));
+  std::fflush(stdout);
+  std::signal(SIGALRM, bloccata);
+  bool guasto = false;
+  for (const QByteArray& forma : forme) {
+    const double suoi = riga.value(secondi).toDouble() / static_cast<double>(forme.size());
+    guasto = gioca(forma, suo, riga.value(eventi).toInt(), suoi, riga.isSet(racconta)).guasto ||
+             guasto;
+  }
+  return guasto ? 1 : 0;
+}

@@ -1,0 +1,247 @@
+#include "scimmia/scimmia.h"
+
+#include <QApplication>
+#include <QScopeGuard>
+#include <QThread>
+#include <array>
+
+#include "app/shared/nomi_forme.h"
+#include "app/tabella_forme.h"
+#include "cases/livelli.h"
+#include "printing/frm_avvia_stampa.h"
+
+namespace prova {
+
+using platform::Form;
+
+namespace {
+
+// From here on an event only ends what is open.
+constexpr int kTroppoProfondo = 5;
+// Events that the monkey may play on forms that are not its own before it goes back.
+constexpr int kFuoriAlPiu = 25;
+// No case that exists needs as many draws.
+constexpr int kTiriAlPiu = 20000;
+
+std::string_view vista(const QByteArray& nome) {
+  return {nome.constData(), static_cast<std::size_t>(nome.size())};
+}
+
+int livelli(const QByteArray& nome) {
+  if (nome.startsWith("FormNumeriTotale")) return int(somme::LivelliNumeriTotale.size());
+  if (nome.startsWith("FormNumeriAddendo")) return int(somme::LivelliNumeriAddendo.size());
+  if (nome.startsWith("FormLU")) return int(somme::LivelliLU.size());
+  if (nome.startsWith("FormHLU")) return int(somme::LivelliHLU.size());
+  return int(somme::LivelliAbaco.size());
+}
+
+}  // namespace
+
+Scimmia::Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta)
+    : nome_(forma),
+      dadi_(seme),
+      racconto_(racconta),
+      banco_({1024, 768},
+             [this](somme::Ambiente& ambiente, std::string_view nome) {
+               std::shared_ptr<Form> nata = somme::CreaForma(ambiente, nome);
+               if (nata && verifiche_) verifiche_->nata(nata);
+               return nata;
+             }),
+      gesti_(banco_, dadi_, racconto_, disturbi_) {
+  verifiche_ = std::make_unique<Verifiche>(banco_);
+  constexpr int kMolti = 1 << 30;
+  banco_.sorte.alTiro = [this] { giraLaSorte(); };
+  banco_.sorte.riparti(static_cast<std::uint64_t>(dadi_.fino(kMolti)));
+  banco_.messaggi.mentreAperto = [this] { nelRiquadro(); };
+  banco_.stampanti.mentreRisponde = [this] {
+    if (dadi_.unoSu(2)) evento();
+  };
+  banco_.pagina.risposta = [this](platform::PrinterSettings& scelte) {
+    scelte.orientation = dadi_.unoSu(2) ? platform::Orientation::Portrait
+                                        : platform::Orientation::Landscape;
+    return dadi_.unoSu(2);
+  };
+  QObject::connect(&neiCicli_, &QTimer::timeout, &neiCicli_, [this] {
+    if (QThread::currentThread()->loopLevel() > 0) evento();
+  });
+  neiCicli_.start();
+  ronza();
+}
+
+Scimmia::~Scimmia() = default;
+
+bool Scimmia::diFoglio() const {
+  return nome_.startsWith("FormStampa") || nome_ == QByteArray("frmAvviaStampa");
+}
+
+bool Scimmia::finita() const {
+  return gira_ || guasto_ || banco_.ambiente->fondo.gate().isClosed() ||
+         banco_.ambiente->fondo.forms().current() == nullptr;
+}
+
+// The state as the menus leave it for the form.
+void Scimmia::prepara() {
+  somme::StatoCondiviso& stato = banco_.ambiente->stato;
+  stato.TipoEsercizio = qint16(dadi_.tra(1, livelli(nome_)));
+  stato.LimiteEsercizio = nome_.contains("20") ? 20 : 10;
+  stato.TempoScansione = qint16(dadi_.unoSu(3) ? dadi_.tra(4, 60) : 4);
+  if (nome_.endsWith("HK")) {
+    stato.ModalitaInput = somme::kHelpiKeys;
+  } else if (nome_.endsWith("Scansione")) {
+    stato.ModalitaInput = dadi_.unoSu(2) ? somme::kScansioneManuale : somme::kScansioneAutomatica;
+  } else if (nome_.startsWith("FormMenu")) {
+    stato.ModalitaInput = qint16(dadi_.fino(4));
+  } else {
+    stato.ModalitaInput = somme::kMouseTastiera;
+  }
+}
+
+void Scimmia::apri() {
+  prepara();
+  somme::StatoCondiviso& stato = banco_.ambiente->stato;
+  stato.SuoniAttivi = !dadi_.unoSu(8);
+  stato.CursoreDiSistema = dadi_.unoSu(2);
+  if (dadi_.unoSu(3)) banco_.rete.aOgniRichiesta = "OK";
+  if (dadi_.unoSu(2)) stato.LinguaCorrente = QStringLiteral("English");
+  static constexpr auto kSotto = std::to_array<std::string_view>(
+      {somme::forme::kFormBarre10HK, somme::forme::kFormNumeriTotaleHK, somme::forme::kFormMenu});
+  const std::string_view prima = diFoglio() ? dadi_.uno(kSotto) : vista(nome_);
+  try {
+    banco_.mostra(prima);
+  } catch (const platform::Unwind&) {
+    // The program ended, or drew for ever, before the form was there.
+  }
+}
+
+void Scimmia::vivi(int eventi) {
+  restano_ = eventi;
+  apri();
+  while (restano_ > 0 && !finita()) evento();
+  restano_ = 0;
+  if (guasto_) throw Guasto(*guasto_);
+}
+
+// Calls itself wherever the clock moves.
+void Scimmia::ronza() {
+  constexpr auto kAttese = std::to_array<double>({0.01, 0.05, 0.2, 0.5, 0.5, 1, 2});
+  banco_.tempo.after(dadi_.uno(kAttese), [this] {
+    ronza();
+    if (profondita_ > 0) evento();
+  });
+}
+
+void Scimmia::evento() {
+  ++profondita_;
+  const auto su = qScopeGuard([this] { --profondita_; });
+  profonda_ = std::max(profonda_, profondita_);
+  const bool stanca = restano_ <= 0 || finita();
+  if (stanca || profondita_ > kTroppoProfondo) {
+    gesti_.chiudiQuelloSopra();
+    return;
+  }
+  --restano_;
+  ++eventi_;
+  tiri_ = 0;
+  if (profondita_ > 1) ++dentro_;
+  if (riquadri_ > 0) {
+    gesti_.daFuori(profondita_);
+  } else {
+    if (profondita_ == 1) torna();
+    gesti_.uno(profondita_);
+  }
+  verifica();
+}
+
+// An exception of the monkey's own must not pass through the program.
+void Scimmia::verifica() {
+  if (guasto_ || gira_) return;
+  constexpr int kOgniTanto = 40;
+  try {
+    if (banco_.ambiente->fondo.gate().isClosed()) return;
+    verifiche_->sempre();
+    if (profondita_ > 1) return;
+    QCoreApplication::processEvents();
+    if (finita()) return;
+    verifiche_->aRiposo();
+    if (eventi_ % kOgniTanto == 0) verifiche_->aFondo();
+  } catch (const Guasto& guasto) {
+    guasto_ = guasto;
+  }
+}
+
+// Back to the form that the monkey keeps to, from wherever it has strayed.
+void Scimmia::torna() {
+  platform::Forms& forme = banco_.ambiente->fondo.forms();
+  Form& inUso = *forme.current();
+  if (diFoglio()) {
+    constexpr int kOgniTanto = 4;
+    if (dadi_.unoSu(kOgniTanto)) scegli();
+    return;
+  }
+  if (inUso.name().toUtf8() == nome_) {
+    fuori_ = 0;
+    return;
+  }
+  if (++fuori_ < kFuoriAlPiu) return;
+  fuori_ = 0;
+  prepara();
+  racconto_.annota(profondita_, QStringLiteral("back to ") + QString::fromUtf8(nome_));
+  try {
+    forme.pass(inUso, vista(nome_));
+  } catch (const platform::Unwind&) {
+    // As in `apri`.
+  }
+}
+
+// Asks for the sheet or the print dialog, as a form that has one does.
+void Scimmia::scegli() {
+  platform::Forms& forme = banco_.ambiente->fondo.forms();
+  Form& sotto = *forme.current();
+  racconto_.annota(profondita_, QStringLiteral("asks for ") + QString::fromUtf8(nome_));
+  if (nome_ != QByteArray("frmAvviaStampa")) {
+    sotto.run([&] { forme.show(vista(nome_)); });
+    return;
+  }
+  sotto.run([&] {
+    auto& dialogo = static_cast<somme::frmAvviaStampa&>(forme.loaded(vista(nome_)));
+    const auto viva = dialogo.shared_from_this();
+    const int verso = dadi_.tra(1, 2);
+    (void)dialogo.FoglioStampa(verso);
+    somme::frmAvviaStampa::Richiesta richiesta;
+    richiesta.oggetto = &sotto;
+    richiesta.sinistra = dadi_.tra(-20, 300);
+    richiesta.alto = dadi_.tra(-20, 300);
+    richiesta.larghezza = dadi_.tra(1, 420);
+    richiesta.altezza = dadi_.tra(1, 297);
+    richiesta.orientamento = verso;
+    (void)dialogo.StampaFCPB(richiesta);
+  });
+}
+
+// What happens while a message box stands open, and how it is answered.
+void Scimmia::nelRiquadro() {
+  const platform::MessageBox riquadro = banco_.messaggi.mostrati.back();
+  banco_.messaggi.mostrati.clear();
+  racconto_.annota(profondita_, QStringLiteral("box: ") + riquadro.text.simplified());
+  if (riquadro.text.startsWith(QStringLiteral("Errore di run-time")) &&
+      !disturbi_.spiega(riquadro.text)) {
+    guasto_ = Guasto(QStringLiteral("run-time's box without a cause: ") +
+                     riquadro.text.simplified());
+  }
+  ++riquadri_;
+  const auto giu = qScopeGuard([this] { --riquadri_; });
+  for (int volte = dadi_.fino(3); volte > 0; --volte) evento();
+  if (riquadro.buttons == platform::BoxButtons::Ok) return;
+  banco_.messaggi.rispondi(dadi_.unoSu(2) ? platform::BoxAnswer::Yes : platform::BoxAnswer::No);
+}
+
+// A level may draw for ever for a sum that it can never split; then this life is over.
+void Scimmia::giraLaSorte() {
+  if (++tiri_ <= kTiriAlPiu) return;
+  racconto_.annota(profondita_, QStringLiteral("draws for ever"));
+  gira_ = true;
+  tiri_ = 0;
+  throw platform::Unwind{};
+}
+
+}  // namespace prova

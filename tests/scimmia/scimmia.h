@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QTimer>
+#include <memory>
+#include <optional>
+
+#include "scimmia/gesti.h"
+#include "scimmia/verifiche.h"
+
+namespace prova {
+
+// A monkey at the program: one life of it goes from the opening of a form over some hundreds of
+// events to the end of the program, or until the monkey is tired. Events come one after the other,
+// and inside of whatever waits: the scripted clock calls the monkey wherever it moves.
+class Scimmia {
+ public:
+  // forma: the form that it keeps to; from others it comes back. seme: of this life.
+  Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta);
+  ~Scimmia();
+
+  // Plays so many events, or fewer where the program ends. Throws Guasto.
+  void vivi(int eventi);
+
+  [[nodiscard]] int eventi() const { return eventi_; }      // so far, of all kinds
+  [[nodiscard]] int nelleAttese() const { return dentro_; }  // of them, inside of a wait
+  [[nodiscard]] int profonda() const { return profonda_; }   // the most on the stack at once
+  [[nodiscard]] QString racconto() const { return racconto_.ultime(); }
+  // Whether the program drew for a case that it can never find.
+  [[nodiscard]] bool giravaAVuoto() const { return gira_; }
+
+ private:
+  void prepara();
+  void apri();
+  void torna();
+  void ronza();
+  void evento();
+  void verifica();
+  void nelRiquadro();
+  void giraLaSorte();
+  void scegli();
+  [[nodiscard]] bool finita() const;
+  [[nodiscard]] bool diFoglio() const;
+
+  QByteArray nome_;
+  Dadi dadi_;
+  Racconto racconto_;
+  Disturbi disturbi_;
+  std::unique_ptr<Verifiche> verifiche_;
+  Banco banco_;
+  Gesti gesti_;
+  QTimer neiCicli_;  // calls the monkey in an event loop that Qt itself runs
+  std::optional<Guasto> guasto_;
+  int restano_ = 0;
+  int eventi_ = 0;
+  int dentro_ = 0;
+  int profondita_ = 0;
+  int profonda_ = 0;
+  int fuori_ = 0;  // events since the monkey's own form was left
+  int riquadri_ = 0;  // message boxes now open
+  int tiri_ = 0;      // draws since the last event
+  bool gira_ = false;
+};
+
+}  // namespace prova
