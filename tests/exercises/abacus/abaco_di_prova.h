@@ -9,13 +9,34 @@ namespace prova {
 
 inline constexpr int kAlfa = 6;
 
-// The program on the abacus, at a level of the family.
-struct BancoAbaco : Banco {
-  explicit BancoAbaco(qint16 tipo, const std::vector<SorteDiProva::Estrazione>& caso = {})
-      : Banco({760, 540}), forma(prepara(tipo, caso)) {}
+inline constexpr const char* kTutti = "0 1 2 3 4 5 6 7 8 9";
+
+// The two cross-fades of a carry, with the clock in the test's hand.
+inline constexpr double kPassoDelCambio = 0.03;  // seconds
+inline constexpr int kPassiDelCambio = 100;      // of each cross-fade
+inline constexpr double kDurataDelCambio = 2 * kPassiDelCambio * kPassoDelCambio;
+
+// A moment inside a wait of a carry: in the middle of step `passo`, counted from 0 over both
+// cross-fades.
+constexpr double nelPasso(int passo) {
+  return (passo + 0.5) * kPassoDelCambio;
+}
+
+// A window in which a board is drawn quickly, and its beads can still be hit: a carry draws it
+// hundreds of times.
+inline constexpr QSize kFinestraPiccola{380, 270};
+
+// The program on a form of the abacus, at a level of the family.
+template <class F>
+struct BancoDellAbaco : Banco {
+  using Caso = std::vector<SorteDiProva::Estrazione>;
+
+  BancoDellAbaco(std::string_view nome, qint16 tipo, const Caso& caso, qint16 modo,
+                 QSize lato = {760, 540})
+      : Banco(lato), forma(prepara(nome, tipo, caso, modo)) {}
 
   // The case `totale` = `addendo1` + rest, of the levels that split a sum anywhere.
-  static std::vector<SorteDiProva::Estrazione> caso(qint16 tipo, int totale, int addendo1) {
+  static Caso caso(qint16 tipo, int totale, int addendo1) {
     const int limite = tipo == 3 ? 99 : tipo == 11 ? 988 : 9888;
     return {{totale - 1, limite}, {addendo1, totale}};
   }
@@ -37,9 +58,37 @@ struct BancoAbaco : Banco {
   [[nodiscard]] int alfa(const char* nome, int numero) const {
     return qRound(proprieta(forma.ShockwaveFlash1, clip(nome, numero), kAlfa).toDouble());
   }
+  // A click on a bead.
   void tocca(const char* nome, int numero) {
     cliccaClip(forma.ShockwaveFlash1, clip(nome, numero));
   }
+  // What assistive technology is told of the abacus.
+  [[nodiscard]] QString detto() const {
+    return forma.ShockwaveFlash1.widget()->accessibleDescription();
+  }
+  [[nodiscard]] double adesso() const { return tempo.secondsSinceMidnight(); }
+  [[nodiscard]] QString fileDelSuono(const char* nome) const {
+    return percorso(QStringLiteral("suoni/%1.wav").arg(QLatin1String(nome)));
+  }
+
+  F& forma;
+
+ private:
+  F& prepara(std::string_view nome, qint16 tipo, const Caso& caso, qint16 modo) {
+    tempo.setNow(64);  // early in the day a wait of 0.03 seconds is just that
+    ambiente->stato.TipoEsercizio = tipo;
+    ambiente->stato.ModalitaInput = modo;
+    ambiente->stato.TitoloEsercizio = QStringLiteral("Abaco. Entro 99: prova");
+    sorte.scrivi(caso);
+    return apri<F>(nome);
+  }
+};
+
+// The same with mouse and keyboard.
+struct BancoAbaco : BancoDellAbaco<somme::FormAbaco> {
+  explicit BancoAbaco(qint16 tipo, const Caso& caso = {}, QSize lato = {760, 540})
+      : BancoDellAbaco(somme::forme::kFormAbaco, tipo, caso, 0, lato) {}
+
   // Puts so many of the waiting beads onto their spike, from bead `primo` on.
   void metti(const char* inAttesa, int quante, int primo = 0) {
     for (int i = primo; i < primo + quante; ++i) tocca(inAttesa, i);
@@ -48,22 +97,6 @@ struct BancoAbaco : Banco {
     scrivi(numero);
     batti(Qt::Key_Return);
   }
-  [[nodiscard]] QString detto() const {
-    return forma.ShockwaveFlash1.widget()->accessibleDescription();
-  }
-
-  somme::FormAbaco& forma;
-
- private:
-  somme::FormAbaco& prepara(qint16 tipo, const std::vector<SorteDiProva::Estrazione>& caso) {
-    tempo.setNow(64);  // early in the day a wait of 0.03 seconds is just that
-    ambiente->stato.TipoEsercizio = tipo;
-    ambiente->stato.TitoloEsercizio = QStringLiteral("Abaco. Entro 99: prova");
-    sorte.scrivi(caso);
-    return apri<somme::FormAbaco>(somme::forme::kFormAbaco);
-  }
 };
-
-inline constexpr const char* kTutti = "0 1 2 3 4 5 6 7 8 9";
 
 }  // namespace prova

@@ -3,18 +3,22 @@
 #include "abaco_di_prova.h"
 #include "app/form_menu.h"
 
-using prova::BancoAbaco;
 using prova::kTutti;
 
 namespace {
 
-constexpr double kPasso = 0.03;
-constexpr int kPassi = 100;  // of each of the two cross-fades
+constexpr double kPasso = prova::kPassoDelCambio;
+constexpr int kPassi = prova::kPassiDelCambio;
 
-// A moment inside a wait: in the middle of step `passo`, counted from 0 over both cross-fades.
-double nel(int passo) {
-  return (passo + 0.5) * kPasso;
+constexpr double nel(int passo) {
+  return prova::nelPasso(passo);
 }
+
+// An abacus that is drawn quickly.
+struct BancoAbaco : prova::BancoAbaco {
+  explicit BancoAbaco(qint16 tipo, const Caso& caso = {})
+      : prova::BancoAbaco(tipo, caso, prova::kFinestraPiccola) {}
+};
 
 }  // namespace
 
