@@ -39,7 +39,9 @@ class StampanteInUso {
   [[nodiscard]] bool cercata() const { return cercata_; }
   [[nodiscard]] bool aperta() const { return caratteristiche_.has_value(); }
   // Of an open printer only.
-  [[nodiscard]] const platform::PrinterTraits& caratteristiche() const { return *caratteristiche_; }
+  [[nodiscard]] const platform::PrinterTraits& caratteristiche() const {
+    return caratteristiche_.value();
+  }
   [[nodiscard]] const platform::PrinterSettings& impostazioni() const { return impostazioni_; }
   // Takes the settings and hands them to the printer, for this dialog.
   void ScriviImpostazioni(const platform::PrinterSettings& impostazioni);

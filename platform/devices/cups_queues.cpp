@@ -138,7 +138,7 @@ Printers::Opened CupsQueues::open(const QString& name) const {
   cups_.setPasswordCB2(noPassword, nullptr);
   const Queue queue(cups_, name);
   if (queue.dest() == nullptr) return {};
-  const Printers::Opened refused{Printers::Access::SettingsRefused, {}};
+  Printers::Opened refused{Printers::Access::SettingsRefused, {}};
   if (queue.info() == nullptr) return refused;
   PrinterTraits traits;
   traits.papers = queue.papers();
