@@ -40,9 +40,10 @@ class DialogoDiProva {
             const std::function<void(somme::frmAvviaStampa&)>& mentre = {}) {
     bool ok = false;
     conDialogo([&](somme::frmAvviaStampa& dialogo) {
-      const auto vivo = dialogo.shared_from_this();
-      banco.tempo.after(0.1, [&] {
-        if (!dialogo.isUnloaded()) lavora(dialogo, mentre);
+      // The dialog may never open, and be gone when the time comes.
+      banco.tempo.after(0.1, [this, vivo = dialogo.weak_from_this(), &dialogo, mentre] {
+        const auto viva = vivo.lock();
+        if (viva && !viva->isUnloaded()) lavora(dialogo, mentre);
       });
       ok = dialogo.StampaFCPB(r);
     });
