@@ -23,7 +23,11 @@
 #include "exercises/bars/form_barre20_hk.h"
 #include "exercises/bars/form_barre20_scansione.h"
 #include "exercises/blocks/form_hlu.h"
+#include "exercises/blocks/form_hlu_hk.h"
+#include "exercises/blocks/form_hlu_scansione.h"
 #include "exercises/blocks/form_lu.h"
+#include "exercises/blocks/form_lu_hk.h"
+#include "exercises/blocks/form_lu_scansione.h"
 #include "exercises/numbers/form_numeri_addendo.h"
 #include "exercises/numbers/form_numeri_addendo_hk.h"
 #include "exercises/numbers/form_numeri_addendo_scansione.h"
@@ -77,7 +81,11 @@ constexpr auto kForme = std::to_array<Voce>({
     {forme::kFormBarre20Scansione, Crea<FormBarre20Scansione>},
     {forme::kFormBarre20HK, Crea<FormBarre20HK>},
     {forme::kFormLU, Crea<FormLU>},
+    {forme::kFormLUScansione, Crea<FormLUScansione>},
+    {forme::kFormLUHK, Crea<FormLUHK>},
     {forme::kFormHLU, Crea<FormHLU>},
+    {forme::kFormHLUScansione, Crea<FormHLUScansione>},
+    {forme::kFormHLUHK, Crea<FormHLUHK>},
     {forme::kFormAbaco, Crea<FormAbaco>},
     {forme::kFormAbacoScansione, Crea<FormAbacoScansione>},
     {forme::kFormAbacoHK, Crea<FormAbacoHK>},

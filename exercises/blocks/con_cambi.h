@@ -48,10 +48,13 @@ class ConPiatti : public Base {
  public:
   template <class... Argomenti>
   explicit ConPiatti(Argomenti&&... argomenti) : Base(std::forward<Argomenti>(argomenti)...) {
-    PulsanteH.onClick([this] { this->ClicSpecie(PulsanteH, blocchi::kPiatti); });
+    PulsanteH.onClick([this] { ClicPiatti(); });
   }
 
   platform::Button PulsanteH{*this};
+
+ protected:
+  void ClicPiatti() override { this->ClicSpecie(PulsanteH, blocchi::kPiatti); }
 };
 
 }  // namespace somme

@@ -59,12 +59,59 @@ constexpr Look Cambio(std::string_view aiuto, std::string_view disegno) {
   return {.toolTip = aiuto, .hidden = true, .picture = disegno};
 }
 
-// Verdict, counters, print panel.
+// The buttons of the carries, all in one place: no two are shown together.
+template <class F>
+constexpr Row CambioEntro99() {
+  return row<&F::PulsanteCambio>({4560, 5520, 2055, 975},
+                                 Cambio("Cambia dieci unità in una decina", "cambio_u_da"));
+}
+inline constexpr TwipsRect kPostoCambio{4680, 5520, 2055, 975};
+template <class F>
+constexpr Row CambioUDa() {
+  return row<&F::PulsanteCambioUDa>(kPostoCambio,
+                                    Cambio("Cambia dieci unità in una decina", "cambio_u_da"));
+}
+template <class F>
+constexpr Row CambioDaH() {
+  return row<&F::PulsanteCambioDaH>(kPostoCambio,
+                                    Cambio("Cambia dieci decine in un centinaio", "cambio_da_h"));
+}
+
+// What the blocks are put with by buttons, up to 99.
+inline constexpr auto kComandiEntro99 = std::to_array<Row>({
+    row<&FormaBlocchiPulsanti::PicturePulsanti>({840, 5640, 4575, 615},
+                                                {.toolTip = "Blocchi", .back = kGialloPallido}),
+    row<&FormaBlocchiPulsanti::PulsanteDa>({180, 0, 975, 615},
+                                           Blocco("da", "Metti una decina", kRosso, kBlack)),
+    row<&FormaBlocchiPulsanti::PulsanteU>({1260, 0, 975, 615},
+                                          Blocco("u", "Metti un'unità", kBlu, kWhite)),
+    row<&FormaBlocchiPulsanti::PulsanteCestino>({2340, 0, 975, 615}, Comando("Svuota", "cestino")),
+    row<&FormaBlocchiPulsanti::PulsanteConferma>({3420, 0, 975, 615},
+                                                 Comando("Conferma", "conferma")),
+});
+// The same up to 999; F: a form with the button for the flats.
+template <class F>
+inline constexpr auto kComandiEntro999 = std::to_array<Row>({
+    row<&F::PicturePulsanti>({720, 5520, 4575, 615},
+                             {.toolTip = "Blocchi", .back = kGialloPallido}),
+    row<&F::PulsanteH>({240, 0, 735, 615}, Blocco("h", "Metti un centinaio", kVerde, kBlack)),
+    row<&F::PulsanteDa>({1080, 0, 735, 615}, Blocco("da", "Metti una decina", kRosso, kBlack)),
+    row<&F::PulsanteU>({1920, 0, 735, 615}, Blocco("u", "Metti un'unità", kBlu, kWhite)),
+    row<&F::PulsanteCestino>({2760, 0, 735, 615}, Comando("Svuota", "cestino")),
+    row<&F::PulsanteConferma>({3600, 0, 735, 615}, Comando("Conferma", "conferma")),
+});
+
+inline constexpr TwipsRect kPostoAvantiBlocchi{8880, 6600, 1935, 975};
+
+inline constexpr auto kContiBlocchi = std::to_array<Row>({
+    Esatti({1560, 6720, 2415, 375}),
+    Errati({1560, 7125, 2415, 375}),
+});
+
+// Verdict, print panel.
 inline constexpr auto kSottoBlocchi = std::to_array<Row>({
     Si({360, 6720, 855, 855}),
     No({360, 6720, 855, 855}),
-    Esatti({1560, 6720, 2415, 375}),
-    Errati({1560, 7125, 2415, 375}),
     Pannello({0, 0, 11175, 7695}),
     Elenco({360, 240, 5775, 6975}),
     Stampa({7440, 4680, 2580, 1155}),

@@ -93,6 +93,7 @@ void FormaBlocchi::NuovoCaso() {
   if (const Livello* livello = LivelloDi(esercizio_.livelli, stato().TipoEsercizio)) {
     livello->genera(stato(), ambiente().servizi.sorte);
   }
+  CasoFatto();
   EtOperazione.setCaption(leadingBlank(stato().Addendo1) + stringhe().SegnoPiu +
                           leadingBlank(stato().Addendo2) + stringhe().SegnoUguale);
   ShockwaveFlash1.setVisible(true);
@@ -166,7 +167,7 @@ void FormaBlocchi::Svuota() {
   announce(InParole(ambiente(), tavola->blocchi));
 }
 
-void FormaBlocchi::Conferma() {
+void FormaBlocchi::GiudicaTavola() {
   const std::optional<Tavola> tavola = InUso();
   if (!tavola) return;
   int valore = 0;

@@ -44,6 +44,8 @@ class FormaBlocchi : public FormaEsercizio {
   // A right board: the commands go to the other one.
   virtual void SpostaComandi(const platform::Label& ancora) = 0;
   virtual void TogliComandi() = 0;
+  // The numbers of the new case are made, and nothing of it is on the screen.
+  virtual void CasoFatto() {}
   // The new case is on the screen.
   virtual void CasoPronto() {}
   // The button of a carry, by the carry's place among those of the exercise.
@@ -54,10 +56,12 @@ class FormaBlocchi : public FormaEsercizio {
   // The result is right: the way to the next case opens.
   virtual void ApriAvanti() = 0;
 
+  [[nodiscard]] const EsercizioBlocchi& esercizio() const { return esercizio_; }
+
   // What the pupil does, on the board in use.
   void MettiBlocco(const SpecieBlocchi& specie);
   void Svuota();
-  void Conferma();
+  void GiudicaTavola();
   void Cambia(std::size_t quale);
   // The steps of a right result up to the record.
   void SegnaRisolto();

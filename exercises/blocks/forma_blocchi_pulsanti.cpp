@@ -40,7 +40,7 @@ void FormaBlocchiPulsanti::ClicCestino() {
 }
 
 void FormaBlocchiPulsanti::ClicConferma() {
-  if (PulsanteConferma.isVisible()) Conferma();
+  if (PulsanteConferma.isVisible()) GiudicaTavola();
 }
 
 }  // namespace somme

@@ -29,6 +29,8 @@ class FormaBlocchiPulsanti : public ConAvanti<FormaBlocchi> {
   void SpostaComandi(const platform::Label& ancora) override;
   void TogliComandi() override;
 
+  // The button for the flats, on forms that have it.
+  virtual void ClicPiatti() {}
   void ClicSpecie(const platform::Button& pulsante, const SpecieBlocchi& specie);
   void ClicCestino();
   void ClicConferma();
