@@ -62,7 +62,9 @@ void MenuImpostazioni(Banco& banco) {
   ApriMenu(forma.mnuImpostazioni);
   QMenu* tendina = forma.mnuImpostazioni.action()->menu();
   QMenu* modi = forma.mnuModInput.action()->menu();
-  modi->popup(tendina->mapToGlobal(tendina->actionGeometry(forma.mnuModInput.action()).topRight()));
+  modi->popup(QPoint());
+  // Where it opens on a screen that has room for it; the one without a display has not.
+  modi->move(tendina->mapToGlobal(tendina->actionGeometry(forma.mnuModInput.action()).topRight()));
   QCoreApplication::processEvents();
 }
 void MenuLingua(Banco& banco) {

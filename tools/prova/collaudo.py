@@ -5,7 +5,7 @@
 
 Where root can make a fresh Debian (debootstrap) the package is installed in one, with what it
 depends on and nothing else, and removed at the end; elsewhere it is laid out in a plain folder.
-A case is solved, the language changed, the program started again in it.
+A case is solved, the language changed, the program started again in it, the manual opened.
 """
 
 import os
@@ -169,7 +169,24 @@ class Collaudo:
         giocatore.premi("Start")
         lettura.aspetta_oggetto(BOTTONE, "Using bars")
         giocatore.fotografa("riavvio")
+        self.apri_manuale(giocatore, lettura)
         self.chiudi(giocatore, lettura, processo)
+
+    def apri_manuale(self, giocatore, lettura):
+        """What opens documents has been given the manual of the program's folder, a PDF file."""
+        giocatore.premi("Information", VOCE)
+        giocatore.premi("documentation", VOCE)
+        aperti = self._albero.dentro(self._albero.casa, "aperti")
+        lettura.aspetta("the manual to be opened", lambda: os.path.exists(aperti))
+        with open(aperti, encoding="utf-8") as file:
+            manuale = file.read().strip()
+        if manuale != os.path.join(self._albero.programma(), "somme.pdf"):
+            raise Errore(f"opened in the manual's place: {manuale!r}")
+        for nome in ("somme.pdf", "somme-en.pdf"):
+            with open(self._albero.dentro(self._albero.programma(), nome), "rb") as file:
+                if file.read(5) != b"%PDF-":
+                    raise Errore(f"{nome} is no PDF file")
+        print(f"The manual was opened: {manuale}")
 
     def controlla_file(self, prima):
         """The choice lies in the user's own folder, and the program's is as it was installed."""
