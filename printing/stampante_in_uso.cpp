@@ -21,7 +21,7 @@ QString StampanteInUso::StampantePredefinita() {
 
 bool StampanteInUso::ApriStampante() {
   cercata_ = true;
-  caratteristiche_.reset();
+  aperta_ = false;
   if (nome_.isEmpty()) nome_ = StampantePredefinita();
   if (nome_.isEmpty()) {
     throw ErroreDiStampa{ErroreDiStampa::kStampante, QStringLiteral("Errore della stampante")};
@@ -42,6 +42,7 @@ bool StampanteInUso::ApriStampante() {
   const auto scritta = scritte_.find(nome_);
   impostazioni_ = scritta == scritte_.end() ? trovata.traits.standard : scritta->second;
   caratteristiche_ = std::move(trovata.traits);
+  aperta_ = true;
   return true;
 }
 

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <map>
-#include <optional>
 
 #include "platform/base/printers.h"
 
@@ -37,11 +36,9 @@ class StampanteInUso {
   void ScegliNome(const QString& nome) { nome_ = nome; }
   // Whether an opening was tried at all.
   [[nodiscard]] bool cercata() const { return cercata_; }
-  [[nodiscard]] bool aperta() const { return caratteristiche_.has_value(); }
+  [[nodiscard]] bool aperta() const { return aperta_; }
   // Of an open printer only.
-  [[nodiscard]] const platform::PrinterTraits& caratteristiche() const {
-    return caratteristiche_.value();
-  }
+  [[nodiscard]] const platform::PrinterTraits& caratteristiche() const { return caratteristiche_; }
   [[nodiscard]] const platform::PrinterSettings& impostazioni() const { return impostazioni_; }
   // Takes the settings and hands them to the printer, for this dialog.
   void ScriviImpostazioni(const platform::PrinterSettings& impostazioni);
@@ -53,7 +50,8 @@ class StampanteInUso {
   Ambiente& ambiente_;
   QString nome_;
   bool cercata_ = false;
-  std::optional<platform::PrinterTraits> caratteristiche_;
+  bool aperta_ = false;
+  platform::PrinterTraits caratteristiche_;
   platform::PrinterSettings impostazioni_;
   std::map<QString, platform::PrinterSettings> scritte_;
 };

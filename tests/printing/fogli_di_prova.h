@@ -12,16 +12,20 @@ namespace prova {
 struct Foglio {
   std::string_view nome;
   const somme::MappaTasti& mappa;
+  const somme::PostiTasti& posti;
   std::vector<int> nascosti;  // frames
 };
 
 inline const std::vector<Foglio>& fogli() {
   static const std::vector<Foglio> tutti{
-      {somme::forme::kFormStampaFoglioNumeri, somme::kMappaCifre, {10, 11}},
-      {somme::forme::kFormStampaFoglioNumeri2, somme::kMappaCifre, {10, 11, 13}},
-      {somme::forme::kFormStampaLU, somme::kMappaBlocchi, {0, 3, 4}},
-      {somme::forme::kFormStampaPLU, somme::kMappaBlocchi, {3}},
-      {somme::forme::kFormStampaAbaco, somme::kMappaAbaco, {4, 8}},
+      {somme::forme::kFormStampaFoglioNumeri, somme::kMappaCifre, somme::posti::kCifre, {10, 11}},
+      {somme::forme::kFormStampaFoglioNumeri2,
+       somme::kMappaCifre,
+       somme::posti::kCifre,
+       {10, 11, 13}},
+      {somme::forme::kFormStampaLU, somme::kMappaBlocchi, somme::posti::kBlocchi, {0, 3, 4}},
+      {somme::forme::kFormStampaPLU, somme::kMappaBlocchi, somme::posti::kBlocchi, {3}},
+      {somme::forme::kFormStampaAbaco, somme::kMappaAbaco, somme::posti::kAbaco, {4, 8}},
   };
   return tutti;
 }

@@ -17,13 +17,17 @@ struct Voce {
   std::string_view forma;
   std::string_view voce;  // of the menu
   std::string_view foglio;
+  int attiva;  // a frame whose key changes what the form shows
 };
 
 constexpr std::array kVoci{
-    Voce{somme::forme::kFormBarre10HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri},
-    Voce{somme::forme::kFormBarre20HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri},
-    Voce{somme::forme::kFormNumeriAddendoHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2},
-    Voce{somme::forme::kFormNumeriTotaleHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2},
+    Voce{somme::forme::kFormBarre10HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri, 7},
+    Voce{somme::forme::kFormBarre20HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri, 7},
+    Voce{somme::forme::kFormNumeriAddendoHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2,
+         7},
+    Voce{somme::forme::kFormNumeriTotaleHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2,
+         7},
+    Voce{somme::forme::kFormAbacoHK, "mnuStampaHP", somme::forme::kFormStampaAbaco, 3},
 };
 
 QString testo(std::string_view s) {
@@ -34,7 +38,8 @@ QString testo(std::string_view s) {
 platform::Form& apri(Banco& banco, std::string_view nome) {
   const bool venti = nome == somme::forme::kFormBarre20HK;
   banco.ambiente->stato.LimiteEsercizio = venti ? 20 : 10;
-  banco.ambiente->stato.TipoEsercizio = 1;
+  // The abacus at a level that always finds a case.
+  banco.ambiente->stato.TipoEsercizio = nome == somme::forme::kFormAbacoHK ? 3 : 1;
   banco.mostra(nome);
   return *banco.ambiente->fondo.forms().current();
 }
@@ -124,14 +129,14 @@ class FogliHKTest : public QObject {
                                      [&](const Foglio& f) { return f.nome == voce.foglio; });
     QVERIFY(!foglio->nascosti.empty());
     for (const int cornice : foglio->nascosti) {
-      toccaCornice(banco, somme::posti::kCifre, cornice);
+      toccaCornice(banco, foglio->posti, cornice);
       QCOMPARE(ritratto(), prima);
     }
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QVERIFY(banco.messaggi.mostrati.empty());
-    // The digits beside them act.
-    toccaCornice(banco, somme::posti::kCifre, 7);
+    // The keys beside them act.
+    toccaCornice(banco, foglio->posti, voce.attiva);
     QVERIFY(ritratto() != prima);
   }
 };

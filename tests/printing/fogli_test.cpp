@@ -22,6 +22,28 @@ using somme::frmAvviaStampa;
 using somme::Griglia;
 using somme::GrigliaDi;
 
+namespace {
+
+// Lefts, tops and size of a sheet's frames, in units of the grid.
+struct Quadro {
+  std::vector<int> sinistre;
+  std::vector<int> alti;
+  int larghezza;
+  int altezza;
+};
+
+Quadro quadroDi(std::string_view nome) {
+  const std::vector<int> strette{1, 7, 13, 19};
+  const std::vector<int> larghe{1, 9, 17};
+  if (nome == somme::forme::kFormStampaAbaco) return {strette, {2, 9, 16}, 4, 5};
+  if (nome == somme::forme::kFormStampaLU || nome == somme::forme::kFormStampaPLU) {
+    return {larghe, {1, 8, 15}, 6, 6};
+  }
+  return {strette, {2, 7, 12, 17}, 4, 4};
+}
+
+}  // namespace
+
 // The keyboard sheets, as a teacher asks for one.
 class FogliTest : public QObject {
   Q_OBJECT
@@ -68,11 +90,15 @@ class FogliTest : public QObject {
       const Griglia griglia = GrigliaDi(f.width(), f.height());
       QCOMPARE(f.Shape1.count(), foglio.mappa.Tasti());
       for (int i = 0; i < f.Shape1.count(); ++i) {
-        const somme::Fascia colonne = foglio.mappa.ColonneDi(i + 1);
         const QRectF posto = postoDi(f.Shape1[i]);
-        // Columns are as wide as the bands of the touch link, and begin with them.
-        QVERIFY(std::abs(posto.left() - (colonne.da - 1) * griglia.X) < 0.01);
-        QVERIFY(std::abs(posto.right() - colonne.a * griglia.X) < 0.01);
+        const Quadro q = quadroDi(foglio.nome);
+        const int colonna = i % int(q.sinistre.size());
+        const int riga = i / int(q.sinistre.size());
+        const QRectF atteso(q.sinistre[size_t(colonna)] * griglia.X,
+                            q.alti[size_t(riga)] * griglia.Y, q.larghezza * griglia.X,
+                            q.altezza * griglia.Y);
+        QVERIFY((posto.topLeft() - atteso.topLeft()).manhattanLength() < 0.01);
+        QVERIFY((posto.bottomRight() - atteso.bottomRight()).manhattanLength() < 0.01);
         const bool nascosto =
             std::find(foglio.nascosti.begin(), foglio.nascosti.end(), i) != foglio.nascosti.end();
         QCOMPARE(f.Shape1[i].isVisible(), !nascosto);
