@@ -41,6 +41,14 @@ struct BancoDellAbaco : Banco {
     return {{totale - 1, limite}, {addendo1, totale}};
   }
 
+  // A case for any level: those that draw digit by digit may draw for ever.
+  static Caso casoDelLivello(int tipo) {
+    if (tipo == 1) return caso(3, 82, 47);
+    if (tipo == 6) return {{7, 9}, {8, 10}, {6, 10}, {4, 8}, {4, 8}, {3, 6}};
+    if (tipo == 15) return {{7, 10}, {8, 10}, {6, 10}, {5, 10}, {4, 8}, {4, 8}, {3, 6}, {2, 5}};
+    return {};
+  }
+
   static QString clip(const char* nome, int numero) {
     return QString::fromLatin1(nome) + QString::number(numero);
   }

@@ -141,14 +141,7 @@ class FormAbacoTest : public QObject {
     QFETCH(int, tipo);
     QFETCH(bool, centinaia);
     QFETCH(bool, migliaia);
-    BancoAbaco banco(qint16(tipo),
-                     tipo == 1   ? BancoAbaco::caso(3, 82, 47)
-                     : tipo == 6 ? std::vector<prova::SorteDiProva::Estrazione>(
-                                       {{7, 9}, {8, 10}, {6, 10}, {4, 8}, {4, 8}, {3, 6}})
-                     : tipo == 15
-                         ? std::vector<prova::SorteDiProva::Estrazione>(
-                               {{7, 10}, {8, 10}, {6, 10}, {5, 10}, {4, 8}, {4, 8}, {3, 6}, {2, 5}})
-                         : std::vector<prova::SorteDiProva::Estrazione>());
+    BancoAbaco banco(qint16(tipo), BancoAbaco::casoDelLivello(tipo));
     const auto& forma = banco.forma;
     QCOMPARE(banco.visti("u") + banco.visti("da") + banco.visti("h") + banco.visti("k"), QString());
     QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));

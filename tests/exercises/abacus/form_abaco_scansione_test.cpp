@@ -1,0 +1,503 @@
+#include "exercises/abacus/form_abaco_scansione.h"
+
+#include "abaco_di_prova.h"
+#include "support/scansione_di_prova.h"
+
+using prova::kTutti;
+using prova::nelPasso;
+using somme::FormAbacoScansione;
+using Valori = somme::TastieraHDUScansione;
+using Cifre = somme::TastieraNumericaScansione;
+
+namespace {
+
+struct BancoScansione : prova::BancoDellAbaco<FormAbacoScansione> {
+  explicit BancoScansione(qint16 tipo, const Caso& caso = {}, qint16 modo = 1)
+      : BancoDellAbaco(somme::forme::kFormAbacoScansione, tipo, caso, modo,
+                       prova::kFinestraPiccola) {}
+
+  Valori& valori = forma.TastieraHDUScansione1;
+  Cifre& cifre = forma.TastieraNumericaScansione1;
+
+  // A key of the keyboard that is on the screen, so many times.
+  bool scegli(int tasto, int volte = 1) {
+    const bool aValori = valori.isVisible();
+    for (int i = 0; i < volte; ++i) {
+      const bool preso = aValori ? sceltoSu(valori, tasto) : sceltoSu(cifre, tasto);
+      if (!preso) return false;
+    }
+    return true;
+  }
+  // The sum, from the keyboard of digits on the screen.
+  bool rispondi(const char* numero) {
+    for (const char* cifra = numero; *cifra != '\0'; ++cifra) {
+      if (!scegli(*cifra - '0')) return false;
+    }
+    return scegli(Cifre::kConferma);
+  }
+  bool solaSulloSchermo(const somme::TastieraScansione& tastiera) const {
+    return valori.isVisible() == (&tastiera == &valori) &&
+           cifre.isVisible() == (&tastiera == &cifre) && tastiera.PictureScansione.hasFocus();
+  }
+
+ private:
+  bool sceltoSu(const somme::TastieraScansione& tastiera, int tasto) {
+    return ambiente->stato.ModalitaInput == 1 ? prova::scegliAMano(*this, tastiera, tasto)
+                                              : prova::scegliAspettando(*this, tastiera, tasto);
+  }
+};
+
+}  // namespace
+
+// The abacus by scanning, as a pupil with one or two keys uses it.
+class FormAbacoScansioneTest : public QObject {
+  Q_OBJECT
+
+  // The levels by the first key that their keyboard shows.
+  static void livelli() {
+    QTest::addColumn<int>("tipo");
+    QTest::addColumn<int>("primo");
+    QTest::newRow("up to 99") << 3 << int(Valori::kDecine);
+    QTest::newRow("up to 999") << 11 << int(Valori::kCentinaia);
+    QTest::newRow("up to 9999") << 19 << int(Valori::kMigliaia);
+  }
+
+ private Q_SLOTS:
+  void itOpensWithAQuestionAnEmptyAbacusAndTheKeyboardOfPlaceValues() {
+    BancoScansione banco(3, BancoScansione::caso(3, 82, 47));
+    FormAbacoScansione& forma = banco.forma;
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QCOMPARE(forma.TestoStampa.text(), QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n"));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+    QVERIFY(!banco.valori.ScansioneAutomatica.get());
+    QVERIFY(!banco.cifre.AiutoVisibile.get());
+    QVERIFY(!banco.cifre.AvantiAttivo.get());
+    QVERIFY(forma.TestoInput.isVisible());
+    QCOMPARE(forma.TestoInput.top(), forma.EtOperazione.top());
+    QCOMPARE(forma.TestoInput.left(), forma.EtOperazione.left() + forma.EtOperazione.width() - 20);
+    QCOMPARE(banco.visti("u") + banco.visti("da"), QString());
+    QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  0"));
+    QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  0"));
+    QVERIFY(!forma.Label1.isVisible());
+    QVERIFY(!forma.LabelDimensioneTastiera.isVisible());
+    QVERIFY(forma.withoutRow().empty());
+  }
+
+  void theKeyboardsTakeTheirPlacesAtTheActivation() {
+    for (const QSize lato : {QSize(400, 300), QSize(900, 500)}) {
+      BancoScansione banco(19);
+      banco.ridimensiona(lato);
+      banco.mostra(somme::forme::kFormAbacoScansione);
+      const auto& forma = banco.forma;
+      QCOMPARE(qRound(banco.valori.left()), qRound(forma.LabelDimensioneTastiera.left()));
+      QCOMPARE(qRound(banco.valori.top()), qRound(forma.LabelDimensioneTastiera.top()));
+      QCOMPARE(qRound(banco.valori.width()), qRound(forma.LabelDimensioneTastiera.width()));
+      QCOMPARE(qRound(banco.cifre.top()), qRound(banco.valori.top()));
+      QCOMPARE(qRound(banco.cifre.left()), 100);
+      QCOMPARE(qRound(banco.cifre.width()), qRound(forma.width() - 200));
+    }
+  }
+
+  void theLevelSettlesTheKeysOfTheKeyboard_data() {
+    QTest::addColumn<int>("tipo");
+    for (int tipo = 1; tipo <= 23; ++tipo) QTest::addRow("level %d", tipo) << tipo;
+  }
+  void theLevelSettlesTheKeysOfTheKeyboard() {
+    QFETCH(int, tipo);
+    BancoScansione banco(qint16(tipo), BancoScansione::casoDelLivello(tipo));
+    QCOMPARE(banco.valori.KVisibile.get(), tipo >= 15);
+    QCOMPARE(banco.valori.HVisibile.get(), tipo >= 6);
+    QCOMPARE(banco.forma.TestoInput.MaxLength.get(), qint16(tipo < 6 ? 2 : tipo < 15 ? 3 : 5));
+  }
+
+  void theKeysOfTheKeyboardAreSettledOnceAtTheActivation() {
+    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
+    banco.ambiente->stato.TipoEsercizio = 19;
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.rispondi("12"));
+    QVERIFY(banco.scegli(Cifre::kAvanti));
+    QVERIFY(!banco.valori.KVisibile.get());
+    QVERIFY(!banco.valori.HVisibile.get());
+    banco.mostra(somme::forme::kFormAbacoScansione);
+    QVERIFY(banco.valori.KVisibile.get());
+  }
+
+  void theKeysPutBeadsAndTheWaitingOnesGoByTheirNumber() {
+    BancoScansione banco(19);
+    QVERIFY(banco.scegli(Valori::kMigliaia));
+    QVERIFY(banco.scegli(Valori::kCentinaia, 2));
+    QVERIFY(banco.scegli(Valori::kDecine, 3));
+    QVERIFY(banco.scegli(Valori::kUnita, 4));
+    QCOMPARE(banco.visti("k"), QStringLiteral("0"));
+    QCOMPARE(banco.visti("h"), QStringLiteral("0 1"));
+    QCOMPARE(banco.visti("da"), QStringLiteral("0 1 2"));
+    QCOMPARE(banco.visti("u"), QStringLiteral("0 1 2 3"));
+    QCOMPARE(banco.visti("ka"), QStringLiteral("1 2 3 4 5 6 7 8 9"));
+    QCOMPARE(banco.visti("ha"), QStringLiteral("2 3 4 5 6 7 8 9"));
+    QCOMPARE(banco.visti("daa"), QStringLiteral("3 4 5 6 7 8 9"));
+    QCOMPARE(banco.visti("ua"), QStringLiteral("4 5 6 7 8 9"));
+    QVERIFY(!banco.forma.PallineInAttesa[3][3]);
+    QVERIFY(banco.forma.PallineInAttesa[4][3]);
+    QCOMPARE(banco.detto(), QStringLiteral("1 migliaio, 2 centinaia, 3 decine, 4 unità"));
+    QVERIFY(banco.suono.suonati.isEmpty());
+  }
+
+  void theNinthThousandIsTheLast() {
+    BancoScansione banco(19);
+    QVERIFY(banco.scegli(Valori::kMigliaia, 10));
+    QCOMPARE(banco.forma.MigliaiaInserite, qint16(9));
+    QCOMPARE(banco.visti("k"), QStringLiteral("0 1 2 3 4 5 6 7 8"));
+    QCOMPARE(banco.visti("ka"), QStringLiteral("9"));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+  }
+
+  void theTenthUnitCarriesByItselfAndTheKeyboardIsAwayMeanwhile_data() { livelli(); }
+  void theTenthUnitCarriesByItselfAndTheKeyboardIsAwayMeanwhile() {
+    QFETCH(int, tipo);
+    QFETCH(int, primo);
+    BancoScansione banco{qint16(tipo)};
+    QVERIFY(banco.scegli(Valori::kUnita, 9));
+    QVERIFY(banco.valori.isVisible());
+    int via = 0;
+    for (const int passo : {0, 99, 100, 199}) {
+      banco.tempo.after(nelPasso(passo), [&] { via += banco.valori.isVisible() ? 0 : 1; });
+    }
+    const double prima = banco.adesso();
+    QVERIFY(banco.scegli(Valori::kUnita));
+    QVERIFY(std::abs(banco.adesso() - prima - prova::kDurataDelCambio) < 1e-3);
+    QCOMPARE(via, 4);
+    QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
+    QCOMPARE(banco.visti("u"), QString());
+    QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+    QCOMPARE(int(banco.valori.pulsanteAcceso()), primo);
+    QVERIFY(banco.valori.Pulsante[primo].backColor() == (platform::Rgb{255, 0, 0}));
+    QVERIFY(banco.valori.Pulsante[Valori::kUnita].backColor() == (platform::Rgb{224, 224, 224}));
+  }
+
+  void theCarryTakesTheWaitingBeadThatTheCounterNames() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kDecine, 2));
+    QVERIFY(banco.scegli(Valori::kUnita, 10));
+    QCOMPARE(banco.visti("da"), QStringLiteral("0 1 2"));
+    QCOMPARE(banco.visti("daa"), QStringLiteral("3 4 5 6 7 8 9"));
+    QVERIFY(!banco.forma.PallineInAttesa[2][2]);
+    QVERIFY(banco.forma.PallineInAttesa[9][2]);
+  }
+
+  void aCarryThatFillsTheNextSpikeLeadsToTheNextCarry() {
+    BancoScansione banco(19);
+    QVERIFY(banco.scegli(Valori::kCentinaia, 9));
+    QVERIFY(banco.scegli(Valori::kDecine, 9));
+    QVERIFY(banco.scegli(Valori::kUnita, 9));
+    const double prima = banco.adesso();
+    banco.tempo.after(1.5 * prova::kDurataDelCambio, [&] { QVERIFY(!banco.valori.isVisible()); });
+    QVERIFY(banco.scegli(Valori::kUnita));
+    QVERIFY(std::abs(banco.adesso() - prima - 3 * prova::kDurataDelCambio) < 1e-2);
+    QCOMPARE(banco.detto(), QStringLiteral("1 migliaio"));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+    QCOMPARE(banco.valori.pulsanteAcceso(), qint16(Valori::kMigliaia));
+  }
+
+  void tensAndHundredsCarryAtEveryLevel() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kDecine, 10));
+    QCOMPARE(banco.detto(), QStringLiteral("1 centinaio"));
+    QCOMPARE(banco.visti("h"), QStringLiteral("0"));
+    BancoScansione altro(11);
+    QVERIFY(altro.scegli(Valori::kCentinaia, 10));
+    QCOMPARE(altro.detto(), QStringLiteral("1 migliaio"));
+    QCOMPARE(altro.visti("k"), QStringLiteral("0"));
+  }
+
+  void theTenthThousandComesByACarryAndTheKeyboardComesBack() {
+    BancoScansione banco(19);
+    QVERIFY(banco.scegli(Valori::kMigliaia, 9));
+    QVERIFY(banco.scegli(Valori::kCentinaia, 10));
+    QCOMPARE(banco.forma.MigliaiaInserite, qint16(10));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+    // Ten hundreds more find the thousands full.
+    QVERIFY(banco.scegli(Valori::kCentinaia, 10));
+    QCOMPARE(banco.detto(), QStringLiteral("10 migliaia, 10 centinaia"));
+    QVERIFY(!banco.valori.isVisible());
+    QVERIFY(!banco.cifre.isVisible());
+  }
+
+  void aCarryOntoAFullSpikeLeavesThePupilTheMenuAlone() {
+    BancoScansione banco(19);
+    banco.forma.CentinaiaInserite = 10;
+    banco.forma.DecineInserite = 10;
+    const double prima = banco.adesso();
+    banco.forma.CambioDaH();
+    QCOMPARE(banco.adesso(), prima);
+    QCOMPARE(banco.forma.DecineInserite, qint16(10));
+    QVERIFY(!banco.valori.isVisible());
+    banco.tempo.advance(5);
+    for (const int tasto : {Qt::Key_Space, Qt::Key_Return}) banco.batti(tasto);
+    QVERIFY(!banco.valori.isVisible());
+    QVERIFY(!banco.cifre.isVisible());
+    QCOMPARE(banco.forma.DecineInserite, qint16(10));
+    banco.batti(Qt::Key_E, Qt::AltModifier);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
+  }
+
+  void theKeyboardComesBackOnTheFirstKeyThatTheLevelShows_data() { livelli(); }
+  void theKeyboardComesBackOnTheFirstKeyThatTheLevelShows() {
+    QFETCH(int, tipo);
+    QFETCH(int, primo);
+    BancoScansione banco{qint16(tipo)};
+    banco.batti(Qt::Key_Space);
+    banco.valori.setVisible(false);
+    banco.forma.RiattivaTastiera();
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+    QCOMPARE(int(banco.valori.PulsanteCorrente.get()), primo);
+  }
+
+  void theHiddenHundredsAloneCountOneForTheLight() {
+    BancoScansione banco(19);
+    banco.valori.HVisibile.set(false);
+    banco.forma.RiattivaTastiera();
+    QCOMPARE(banco.valori.PulsanteCorrente.get(), qint16(1));
+    QCOMPARE(banco.valori.PrimoPulsante(), qint16(2));
+  }
+
+  void theBinKeyClearsTheAbacusAndNothingElse() {
+    BancoScansione banco(3, BancoScansione::caso(3, 82, 47));
+    QVERIFY(banco.scegli(Valori::kDecine, 3));
+    QVERIFY(banco.scegli(Valori::kCestino));
+    QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
+    QCOMPARE(banco.visti("daa"), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+    QCOMPARE(banco.valori.pulsanteAcceso(), qint16(Valori::kCestino));
+  }
+
+  void theLastKeyPassesOnToTheDigitsAndTheAbacusStays() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kDecine));
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.solaSulloSchermo(banco.cifre));
+    QVERIFY(!banco.valori.Timer1.isEnabled());
+    QCOMPARE(banco.cifre.pulsanteAcceso(), qint16(0));
+    QVERIFY(!banco.cifre.ScansioneAutomatica.get());
+    QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
+  }
+
+  void aWholeSumByManualScanning() {
+    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
+    FormAbacoScansione& forma = banco.forma;
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.rispondi("12"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
+    QCOMPARE(banco.suono.suonati, QStringList{banco.fileDelSuono("si")});
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 7 +  5 = "));
+    QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral("\r\n\r\n 7 +  5 =  12\r\n")));
+    QVERIFY(!forma.TestoInput.Enabled.get());
+    QCOMPARE(banco.cifre.pulsanteAcceso(), qint16(Cifre::kAvanti));
+    QVERIFY(banco.cifre.PictureScansione.hasFocus());
+    banco.sorte.scrivi(BancoScansione::caso(3, 82, 47));
+    QVERIFY(banco.scegli(Cifre::kAvanti));
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QCOMPARE(forma.TestoInput.Text.get(), QString());
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+    QVERIFY(!banco.cifre.AvantiAttivo.get());
+    QVERIFY(!banco.cifre.Timer1.isEnabled());
+    // The box stays disabled, and takes the digits all the same.
+    QVERIFY(!forma.TestoInput.Enabled.get());
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.rispondi("82"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
+  }
+
+  void aWholeSumWithACarryByAutomaticScanningWithOneKey() {
+    BancoScansione banco(3, BancoScansione::caso(3, 12, 7), 2);
+    QVERIFY(banco.valori.ScansioneAutomatica.get());
+    QVERIFY(banco.scegli(Valori::kUnita, 10));
+    QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+    QVERIFY(banco.valori.TimerScansione.isEnabled());
+    QCOMPARE(banco.valori.pulsanteAcceso(), qint16(Valori::kDecine));
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.cifre.ScansioneAutomatica.get());
+    QVERIFY(banco.rispondi("12"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    banco.tempo.advance(30);
+    QCOMPARE(banco.cifre.pulsanteAcceso(), qint16(Cifre::kAvanti));
+    banco.batti(Qt::Key_Space);
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+  }
+
+  void thePaceOfTheSettingsReachesBothKeyboards() {
+    BancoScansione banco(3, {}, 2);
+    QCOMPARE(banco.valori.TimerScansione.interval(), 1000);
+    banco.ambiente->stato.TempoScansione = 12;
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QCOMPARE(banco.cifre.TimerScansione.interval(), 3000);
+  }
+
+  void aWrongSumLeavesThePupilWithTheKeys() {
+    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
+    FormAbacoScansione& forma = banco.forma;
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.rispondi("1"));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
+    QVERIFY(forma.ImgNo.isVisible());
+    QVERIFY(!forma.ImgSi.isVisible());
+    QCOMPARE(banco.suono.suonati, QStringList{banco.fileDelSuono("no")});
+    QVERIFY(forma.TestoInput.TestoOutput.isVisible());
+    QVERIFY(!banco.cifre.AvantiAttivo.get());
+    QVERIFY(banco.solaSulloSchermo(banco.cifre));
+    // The digits go on behind what stands there.
+    QVERIFY(banco.rispondi("2"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void theBinOfTheDigitsOpensTheBoxAndEmptiesIt() {
+    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.rispondi("11"));
+    QVERIFY(banco.scegli(Cifre::kCestino));
+    QCOMPARE(banco.forma.TestoInput.Text.get(), QString());
+    QVERIFY(banco.forma.TestoInput.TestoInput.isVisible());
+    QVERIFY(banco.cifre.PictureScansione.hasFocus());
+    QVERIFY(banco.rispondi("12"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void aDigitBeyondTheLengthOfTheLevelIsDropped() {
+    BancoScansione banco(11);
+    QVERIFY(banco.scegli(Valori::kConferma));
+    for (int cifra = 1; cifra <= 4; ++cifra) QVERIFY(banco.scegli(cifra));
+    QCOMPARE(banco.forma.TestoInput.Text.get(), QStringLiteral("123"));
+  }
+
+  void anEmptyBoxIsNotJudged() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.scegli(Cifre::kConferma));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QVERIFY(banco.suono.suonati.isEmpty());
+  }
+
+  void helpAndTheWayOnAreOutOfReachBeforeARightSum() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(!banco.scegli(Cifre::kAiuto));
+    QVERIFY(!banco.scegli(Cifre::kAvanti));
+  }
+
+  void theKeysDoNothingWhileACarryGoesOn() {
+    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
+    QVERIFY(banco.scegli(Valori::kUnita, 9));
+    for (const int passo : {10, 110}) {
+      banco.tempo.after(nelPasso(passo), [&] {
+        for (const int tasto : {Qt::Key_Space, Qt::Key_Return}) banco.batti(tasto);
+      });
+    }
+    QVERIFY(banco.scegli(Valori::kUnita));
+    QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
+    QCOMPARE(banco.valori.pulsanteAcceso(), qint16(Valori::kDecine));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+  }
+
+  void leavingInTheMiddleOfACarryEndsItThere() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kUnita, 9));
+    banco.tempo.after(nelPasso(120), [&] { banco.batti(Qt::Key_E, Qt::AltModifier); });
+    const double prima = banco.adesso();
+    QVERIFY(banco.scegli(Valori::kUnita));
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
+    QVERIFY(banco.adesso() - prima < nelPasso(121));
+  }
+
+  void closingTheWindowInTheMiddleOfACarryEndsTheProgram() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kUnita, 9));
+    banco.tempo.after(nelPasso(50), [&] { banco.ambiente->fondo.window().close(); });
+    QVERIFY(banco.scegli(Valori::kUnita));
+    QCOMPARE(banco.ambiente->fondo.forms().current(), nullptr);
+  }
+
+  void anActivationInTheMiddleOfACarryBeginsACaseAndTheCarryGoesOn() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kUnita, 9));
+    banco.sorte.scrivi(BancoScansione::caso(3, 82, 47));
+    banco.tempo.after(nelPasso(50), [&] { banco.mostra(somme::forme::kFormAbacoScansione); });
+    QVERIFY(banco.scegli(Valori::kUnita));
+    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+  }
+
+  void thePrintPanelSilencesTheKeyboardAndClosingItDoesNotWakeIt() {
+    BancoScansione banco(3);
+    for (const bool aCifre : {false, true}) {
+      if (aCifre) {
+        banco.mostra(somme::forme::kFormAbacoScansione);
+        QVERIFY(banco.scegli(Valori::kConferma));
+      }
+      const somme::TastieraScansione& tastiera =
+          aCifre ? static_cast<somme::TastieraScansione&>(banco.cifre) : banco.valori;
+      banco.forma.mnuStampa.click();
+      QVERIFY(!tastiera.Timer1.isEnabled());
+      banco.clicca(banco.forma.CommandChiudi);
+      QVERIFY(tastiera.isVisible());
+      const qint16 acceso = tastiera.pulsanteAcceso();
+      banco.tempo.advance(1);
+      banco.batti(Qt::Key_Space);
+      QCOMPARE(tastiera.pulsanteAcceso(), acceso);
+      QVERIFY(!tastiera.Timer1.isEnabled());
+    }
+  }
+
+  void aPrintPanelOpenedInACarryStaysOverTheKeyboardThatComesBack() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kUnita, 9));
+    banco.tempo.after(nelPasso(50), [&] { banco.forma.mnuStampa.click(); });
+    QVERIFY(banco.scegli(Valori::kUnita));
+    QVERIFY(banco.forma.PictureStampa.isVisible());
+    QVERIFY(banco.forma.isCovered(banco.valori));
+    QVERIFY(banco.forma.CommandStampa.hasFocus() || banco.forma.CommandChiudi.hasFocus());
+    banco.clicca(banco.forma.CommandChiudi);
+    QVERIFY(banco.valori.PictureScansione.hasFocus());
+    QVERIFY(banco.scegli(Valori::kDecine));
+    QCOMPARE(banco.detto(), QStringLiteral("2 decine"));
+  }
+
+  void aClickOnABeadMovesNothing() {
+    BancoScansione banco(3);
+    QVERIFY(banco.scegli(Valori::kUnita, 2));
+    banco.tocca("ua", 5);
+    banco.tocca("u", 0);
+    QCOMPARE(banco.visti("u"), QStringLiteral("0 1"));
+    QVERIFY(banco.vede("ua", 5));
+    QCOMPARE(banco.forma.UnitaInserite, qint16(2));
+    banco.tempo.advance(0.02);
+    QVERIFY(banco.valori.PictureScansione.hasFocus());
+  }
+
+  void aSecondActivationStartsACaseAndARecordAnew() {
+    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
+    QVERIFY(banco.scegli(Valori::kConferma));
+    QVERIFY(banco.rispondi("12"));
+    banco.sorte.scrivi(BancoScansione::caso(3, 82, 47));
+    banco.mostra(somme::forme::kFormAbacoScansione);
+    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
+    QCOMPARE(banco.forma.TestoStampa.text(), QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n"));
+    QVERIFY(banco.solaSulloSchermo(banco.valori));
+  }
+
+  void thePointerIsLeftAloneUnlessTheSystemsIsWanted() {
+    BancoScansione banco(3);
+    QCOMPARE(banco.forma.EtOperazione.mousePointer(), 99);
+    banco.batti(Qt::Key_E, Qt::AltModifier);
+    banco.ambiente->stato.CursoreDiSistema = true;
+    auto& forma = banco.apri<FormAbacoScansione>(somme::forme::kFormAbacoScansione);
+    QCOMPARE(forma.EtOperazione.mousePointer(), 0);
+  }
+};
+
+QTEST_MAIN(FormAbacoScansioneTest)
+#include "form_abaco_scansione_test.moc"
