@@ -7,6 +7,9 @@ import re
 import time
 
 from giocatore import BOTTONE, TESTO, VOCE, Errore
+from luce import Luce
+from partite_blocchi import (blocchi, blocchi_scansione, blocchi_tocco, centinaia,
+                             centinaia_scansione, centinaia_tocco)
 
 PIU, UGUALE = "+", "="
 # Seconds between two touches.
@@ -130,34 +133,8 @@ def scansione(giocatore):
                 return [int(n) for n in trovato.groups()]
         return None
 
-    def acceso():
-        """The key that assistive technology takes for the focus."""
-        return next((o.nome for o in albero.visibili() if o.ruolo == BOTTONE and o.ha_il_fuoco),
-                    None)
-
-    def passo(tasto, tieni=0.0):
-        """One step by a key that is held so many seconds; while it is, nothing moves."""
-        prima = acceso()
-        mani.giu(tasto)
-        if tieni:
-            time.sleep(tieni)
-            if acceso() != prima:
-                raise Errore(f"the light went from {prima!r} to {acceso()!r} under a held key")
-        mani.su(tasto)
-        albero.aspetta("a step of the light", lambda: acceso() not in (None, prima))
-
-    def scegli_a_mano(nome):
-        while acceso() != nome:
-            passo("space")
-        mani.batti("Return")
-
-    def scegli_aspettando(nome):
-        albero.aspetta(f"the light on {nome!r}", lambda: acceso() == nome, 60)
-        mani.giu("space")
-        time.sleep(4)
-        if acceso() != nome:
-            raise Errore(f"the light went on from {nome!r} under a held key")
-        mani.su("space")
+    luce = Luce(giocatore)
+    acceso, passo = luce.acceso, luce.passo
 
     def somma(scegli):
         """A wrong answer, the bin, the right answer, the way on."""
@@ -180,7 +157,7 @@ def scansione(giocatore):
     albero.aspetta_oggetto(BOTTONE, "Solo numeri")
     mani.batti("ctrl+m")
     apri()
-    risposta, dai = somma(scegli_a_mano)
+    risposta, dai = somma(luce.scegli_a_mano)
     ascolto = giocatore.ascolta()
     passo("space", tieni=1.5)
     for _ in range(5):
@@ -195,7 +172,7 @@ def scansione(giocatore):
     giocatore.fotografa("accesa")
     giocatore.rispondi(risposta + 1, dai, giusto=False)
     giocatore.fotografa("sbagliato")
-    scegli_a_mano(cancella)
+    luce.scegli_a_mano(cancella)
     giocatore.rispondi(risposta, dai, giusto=True)
     albero.aspetta("the light on the way on", lambda: acceso() == avanti)
     giocatore.fotografa("giusto")
@@ -214,7 +191,7 @@ def scansione(giocatore):
     mani.batti("Tab")
     mani.batti("Return")
     apri()
-    risposta, dai = somma(scegli_aspettando)
+    risposta, dai = somma(luce.scegli_aspettando)
     giocatore.rispondi(risposta, dai, giusto=True)
     albero.aspetta("the light on the way on", lambda: acceso() == avanti)
     time.sleep(4)
@@ -270,6 +247,8 @@ def tocco(giocatore):
     giocatore.fotografa("di-nuovo-al-menu")
 
 
-PARTITE = {partita.__name__: partita for partita in (barre, numeri, scansione, tocco)}
+PARTITE = {partita.__name__: partita for partita in (
+    barre, numeri, scansione, tocco, blocchi, centinaia, blocchi_scansione, centinaia_scansione,
+    blocchi_tocco, centinaia_tocco)}
 # Those that want a stand-in for the touch surface.
-A_TOCCHI = {"tocco"}
+A_TOCCHI = {"tocco", "blocchi_tocco", "centinaia_tocco"}

@@ -1,0 +1,41 @@
+"""The light of a scanning keyboard, for who plays with one or two keys."""
+
+import time
+
+from giocatore import BOTTONE, Errore
+
+
+class Luce:
+    """Finds the light through the accessibility tree, and moves and uses it by real keys."""
+
+    def __init__(self, giocatore):
+        self._albero, self._mani = giocatore.albero, giocatore.mani
+
+    def acceso(self):
+        """The key that assistive technology takes for the focus."""
+        return next((o.nome for o in self._albero.visibili()
+                     if o.ruolo == BOTTONE and o.ha_il_fuoco), None)
+
+    def passo(self, tasto, tieni=0.0):
+        """One step by a key that is held so many seconds; while it is, nothing moves."""
+        prima = self.acceso()
+        self._mani.giu(tasto)
+        if tieni:
+            time.sleep(tieni)
+            if self.acceso() != prima:
+                raise Errore(f"the light went from {prima!r} to {self.acceso()!r} under a held key")
+        self._mani.su(tasto)
+        self._albero.aspetta("a step of the light", lambda: self.acceso() not in (None, prima))
+
+    def scegli_a_mano(self, nome):
+        while self.acceso() != nome:
+            self.passo("space")
+        self._mani.batti("Return")
+
+    def scegli_aspettando(self, nome):
+        self._albero.aspetta(f"the light on {nome!r}", lambda: self.acceso() == nome, 60)
+        self._mani.giu("space")
+        time.sleep(4)
+        if self.acceso() != nome:
+            raise Errore(f"the light went on from {nome!r} under a held key")
+        self._mani.su("space")
