@@ -407,30 +407,6 @@ class FormaBlocchiHKTest : public QObject {
     }
   }
 
-  void theSheetIsThatOfTheFormAndComingBackAsksForTheTouchesAgain_data() {
-    QTest::addColumn<bool>("piatti");
-    QTest::newRow("99") << false;
-    QTest::newRow("999") << true;
-  }
-  void theSheetIsThatOfTheFormAndComingBackAsksForTheTouchesAgain() {
-    QFETCH(bool, piatti);
-    Banco banco;
-    FormaBlocchiHK& forma = piatti ? static_cast<FormaBlocchiHK&>(apriHLU(banco, 213, 45))
-                                   : static_cast<FormaBlocchiHK&>(apriLU(banco, 24, 13));
-    QVERIFY(forma.mnuStampaHK.isEnabled());
-    banco.messaggi.rispondi(platform::BoxAnswer::Yes);
-    forma.mnuStampaHK.click();
-    QCOMPARE(banco.nomeForma(),
-             piatti ? QStringLiteral("FormStampaPLU") : QStringLiteral("FormStampaLU"));
-    banco.sorte.scrivi(piatti ? casoHLU(213, 45) : casoLU(24, 13));
-    banco.ambiente->fondo.forms().closeCurrent();
-    QCoreApplication::processEvents();
-    QCOMPARE(banco.rete.ricevuti.count("02#REQ-TOUCH"), 2);
-    // The answer turns the touches off, as every second one does.
-    banco.rete.manda("OK");
-    QVERIFY(!forma.HelpiKeysConnesso());
-  }
-
   void theWayOutGivesTheTouchesBack() {
     Banco banco;
     apriLU(banco, 24, 13).mnuEsci.click();
