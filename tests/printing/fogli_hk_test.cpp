@@ -27,6 +27,8 @@ constexpr std::array kVoci{
          7},
     Voce{somme::forme::kFormNumeriTotaleHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2,
          7},
+    Voce{somme::forme::kFormLUHK, "mnuStampaHK", somme::forme::kFormStampaLU, 2},
+    Voce{somme::forme::kFormHLUHK, "mnuStampaHK", somme::forme::kFormStampaPLU, 2},
     Voce{somme::forme::kFormAbacoHK, "mnuStampaHP", somme::forme::kFormStampaAbaco, 3},
 };
 
@@ -38,8 +40,9 @@ QString testo(std::string_view s) {
 platform::Form& apri(Banco& banco, std::string_view nome) {
   const bool venti = nome == somme::forme::kFormBarre20HK;
   banco.ambiente->stato.LimiteEsercizio = venti ? 20 : 10;
-  // The abacus at a level that always finds a case.
-  banco.ambiente->stato.TipoEsercizio = nome == somme::forme::kFormAbacoHK ? 3 : 1;
+  // Blocks and abacus at a level that always finds a case.
+  const bool semplice = nome.find("Numeri") != nome.npos || nome.find("Barre") != nome.npos;
+  banco.ambiente->stato.TipoEsercizio = semplice ? 1 : 3;
   banco.mostra(nome);
   return *banco.ambiente->fondo.forms().current();
 }
