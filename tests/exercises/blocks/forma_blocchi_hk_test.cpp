@@ -422,6 +422,7 @@ class FormaBlocchiHKTest : public QObject {
     forma.mnuStampaHK.click();
     QCOMPARE(banco.nomeForma(),
              piatti ? QStringLiteral("FormStampaPLU") : QStringLiteral("FormStampaLU"));
+    banco.sorte.scrivi(piatti ? casoHLU(213, 45) : casoLU(24, 13));
     banco.ambiente->fondo.forms().closeCurrent();
     QCoreApplication::processEvents();
     QCOMPARE(banco.rete.ricevuti.count("02#REQ-TOUCH"), 2);
