@@ -10,8 +10,14 @@ class Mani:
     # Between two events, so that no two clicks make a double click of the desktop.
     PAUSA = 0.08
 
+    def __init__(self):
+        self._dove = None
+
     def muovi(self, x, y):
-        self._xdotool("mousemove", "--sync", x, y)
+        # Waiting for a pointer that is there already would take until the tool gives up.
+        if self._dove != (x, y):
+            self._xdotool("mousemove", "--sync", x, y)
+            self._dove = x, y
 
     def clicca(self, posto):
         """One click of the left button in the middle of a place (x, y, width, height)."""
