@@ -1,6 +1,7 @@
 #include "platform/forms/window.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QWindow>
 
@@ -12,15 +13,18 @@ namespace platform {
 
 namespace {
 
-// The size that the window has when it is not maximised, in logical pixels; and the smallest one.
+// The size that the window has when it is not maximised, in logical pixels; and the smallest one,
+// where the screen has room for it: at a large scale a small screen has not.
 constexpr QSize kNormalSize{1000, 700};
 constexpr QSize kSmallestSize{640, 440};
+// What the desktop may need of the screen for a window's frame.
+constexpr QSize kFrame{20, 60};
 
 }  // namespace
 
 Window::Window(Runtime& runtime) : runtime_(runtime), stack_(new QStackedWidget(this)) {
   setCentralWidget(stack_);
-  setMinimumSize(kSmallestSize);
+  setMinimumSize(kSmallestSize.boundedTo(screen()->availableSize() - kFrame));
   resize(kNormalSize);
 }
 
