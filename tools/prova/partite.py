@@ -8,6 +8,7 @@ import time
 
 from giocatore import BOTTONE, TESTO, VOCE, Errore
 from luce import Luce
+from partite_abaco import abaco_scansione, abaco_tocco
 from partite_blocchi import (blocchi, blocchi_scansione, blocchi_tocco, centinaia,
                              centinaia_scansione, centinaia_tocco)
 
@@ -249,6 +250,6 @@ def tocco(giocatore):
 
 PARTITE = {partita.__name__: partita for partita in (
     barre, numeri, scansione, tocco, blocchi, centinaia, blocchi_scansione, centinaia_scansione,
-    blocchi_tocco, centinaia_tocco)}
+    blocchi_tocco, centinaia_tocco, abaco_scansione, abaco_tocco)}
 # Those that want a stand-in for the touch surface.
-A_TOCCHI = {"tocco", "blocchi_tocco", "centinaia_tocco"}
+A_TOCCHI = {"tocco", "blocchi_tocco", "centinaia_tocco", "abaco_tocco"}
