@@ -53,7 +53,8 @@ def main():
               [os.path.join(cartella, "bench", "bench_cambio"), os.path.dirname(programma)],
               [os.path.join(cartella, "bench", "bench_scansione"), os.path.dirname(programma)],
               [os.path.join(cartella, "bench", "bench_tocco"), os.path.dirname(programma)],
-              [os.path.join(cartella, "bench", "bench_stampa")]]
+              [os.path.join(cartella, "bench", "bench_stampa")],
+              [os.path.join(cartella, "bench", "bench_visite")]]
     with Schermo(1366, 768):
         # As on a desktop without assistive technology: nobody listens to the tree.
         os.environ.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", None)

@@ -55,6 +55,8 @@ void Form::build(QWidget* parent) {
   page_->hide();
   buildRows();
   setTabOrder();
+  QObject::connect(qApp, &QApplication::focusChanged, page_,
+                   [this](QWidget*, QWidget* now) { focusMoved(now); });
   built_ = true;
 }
 
@@ -183,9 +185,13 @@ void Form::cover(Control& panel) {
   panel.setPlace(0, 0, width(), height());
   panel.bringToFront();
   panel.setVisible(true);
+  focusCover();
+}
+
+void Form::focusCover() {
   for (Control* control : controls_) {
     QWidget* widget = control->widget();
-    if (widget == nullptr || !panel.container()->isAncestorOf(widget)) continue;
+    if (widget == nullptr || !cover_->container()->isAncestorOf(widget)) continue;
     if (dynamic_cast<Button*>(control) != nullptr && control->isEnabled()) {
       widget->setFocus(Qt::OtherFocusReason);
       return;
@@ -193,15 +199,25 @@ void Form::cover(Control& panel) {
   }
 }
 
+// Assistive technology gives the focus to a widget without asking its form.
+void Form::focusMoved(QWidget* now) {
+  if (cover_ == nullptr || now == nullptr || !page_->canvas()->isAncestorOf(now)) return;
+  if (now == cover_->widget() || cover_->container()->isAncestorOf(now)) return;
+  focusBelow_ = now;
+  focusCover();
+}
+
 void Form::uncover(Control& panel) {
   if (cover_ != &panel) return;
   cover_ = nullptr;
-  if (!focusBelow_) return;
-  if (focusBelow_->isVisible() && focusBelow_->isEnabled()) {
+  if (focusBelow_ && focusBelow_->isVisible() && focusBelow_->isEnabled()) {
     focusBelow_->setFocus(Qt::OtherFocusReason);
-  } else {
-    page_->canvas()->passFocus(focusBelow_, true);
+    return;
   }
+  if (page_->canvas()->passFocus(focusBelow_, true)) return;
+  // Nothing can take it, and a hidden button must not hear keys.
+  QWidget* left = page_->canvas()->focusWidget();
+  if (left != nullptr && !left->isVisible()) left->clearFocus();
 }
 
 bool Form::isCovered(const Control& control) const {

@@ -123,6 +123,8 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
 
  private:
   void buildRows();
+  void focusCover();
+  void focusMoved(QWidget* now);
   [[nodiscard]] QWidget* parentFor(const Row& row) const;
   void setTabOrder();
 

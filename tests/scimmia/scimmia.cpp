@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScopeGuard>
 #include <QThread>
+#include <QTimer>
 #include <array>
 
 #include "app/shared/nomi_forme.h"
@@ -61,10 +62,7 @@ Scimmia::Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta)
                                         : platform::Orientation::Landscape;
     return dadi_.unoSu(2);
   };
-  QObject::connect(&neiCicli_, &QTimer::timeout, &neiCicli_, [this] {
-    if (QThread::currentThread()->loopLevel() > 0) evento();
-  });
-  neiCicli_.start();
+  ronzaNeiCicli();
   ronza();
 }
 
@@ -127,6 +125,16 @@ void Scimmia::ronza() {
   banco_.tempo.after(dadi_.uno(kAttese), [this] {
     ronza();
     if (profondita_ > 0) evento();
+  });
+}
+
+// The same in an event loop that Qt runs by itself, where the scripted clock stands still: a menu
+// that waits for its item, a text that is being dragged. A new timer each time, since one whose
+// handler is running does not tick.
+void Scimmia::ronzaNeiCicli() {
+  QTimer::singleShot(1, &finoAllaFine_, [this] {
+    ronzaNeiCicli();
+    if (QThread::currentThread()->loopLevel() > 0) evento();
   });
 }
 

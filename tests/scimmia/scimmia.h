@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QTimer>
+#include <QObject>
 #include <memory>
 #include <optional>
 
@@ -33,6 +33,7 @@ class Scimmia {
   void apri();
   void torna();
   void ronza();
+  void ronzaNeiCicli();
   void evento();
   void verifica();
   void nelRiquadro();
@@ -48,7 +49,7 @@ class Scimmia {
   std::unique_ptr<Verifiche> verifiche_;
   Banco banco_;
   Gesti gesti_;
-  QTimer neiCicli_;  // calls the monkey in an event loop that Qt itself runs
+  QObject finoAllaFine_;
   std::optional<Guasto> guasto_;
   int restano_ = 0;
   int eventi_ = 0;

@@ -137,7 +137,8 @@ void Verifiche::fuoco() const {
   const QWidget* ha = QApplication::focusWidget();
   if (ha == nullptr || ha->window()->windowType() == Qt::Popup) return;
   if (!ha->isVisible() || !ha->isEnabled()) {
-    throw Guasto(QStringLiteral("the focus is on what cannot take it: ") + ha->objectName());
+    throw Guasto(QStringLiteral("the focus is on what cannot take it: %1, visible %2, enabled %3")
+                     .arg(ha->objectName()).arg(ha->isVisible()).arg(ha->isEnabled()));
   }
   const platform::Runtime& fondo = banco_.ambiente->fondo;
   const Form* corrente = const_cast<platform::Runtime&>(fondo).forms().current();
@@ -171,13 +172,16 @@ void Verifiche::tuttoNellaFinestra() const {
     const QRect pagina = forma->page()->rect().adjusted(-2, -2, 2, 2);
     for (const Control* controllo : forma->controls()) {
       const QWidget* widget = controllo->widget();
-      if (widget == nullptr || !controllo->hasCaption() || controllo->caption().isEmpty() ||
+      if (widget == nullptr || widget->parentWidget() == nullptr || !controllo->hasCaption() || controllo->caption().isEmpty() ||
           !widget->isVisible() || !forma->page()->isAncestorOf(widget)) {
         continue;
       }
       const QRect posto(widget->mapTo(forma->page(), QPoint()), widget->size());
       if (!posto.isEmpty() && !pagina.contains(posto)) {
-        throw Guasto(QStringLiteral("%1 reaches out of its window").arg(controllo->name()));
+        throw Guasto(QStringLiteral("%1 of %2 reaches out of its window: %3,%4 %5x%6 in %7x%8")
+                         .arg(controllo->name(), forma->name()).arg(posto.x()).arg(posto.y())
+                         .arg(posto.width()).arg(posto.height()).arg(pagina.width())
+                         .arg(pagina.height()) + QStringLiteral(" canvas %1,%2 %3x%4").arg(forma->page()->canvas()->x()).arg(forma->page()->canvas()->y()).arg(forma->page()->canvas()->width()).arg(forma->page()->canvas()->height())+QStringLiteral(" parent %1x%2").arg(widget->parentWidget()->width()).arg(widget->parentWidget()->height()));
       }
     }
   }

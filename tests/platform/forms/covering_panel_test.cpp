@@ -171,6 +171,34 @@ class CoveringPanelTest : public QObject {
     QVERIFY(below.form.Third.hasFocus());
   }
 
+  void assistiveTechnologyReachesNothingThatIsCoveredEither() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    below.form.Third.widget()->setFocus();
+    QVERIFY(below.form.PanelSecond.hasFocus());
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Third.hasFocus());
+  }
+
+  void whereNothingHadTheFocusTheClosingLeavesItOnNoHiddenButton() {
+    Stage stage;
+    Below below(stage);
+    QApplication::focusWidget()->clearFocus();
+    below.form.Panel.cover();
+    QVERIFY(below.form.PanelSecond.hasFocus());
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.First.hasFocus());
+    below.form.Panel.cover();
+    for (platform::Control* control : below.form.controls()) {
+      if (!below.form.isCovered(*control)) continue;
+      control->setEnabled(false);
+    }
+    below.form.Panel.setVisible(false);
+    const QWidget* focus = QApplication::focusWidget();
+    QVERIFY(focus == nullptr || focus->isVisible());
+  }
+
   void openingAnOpenPanelAgainForgetsNothing() {
     Stage stage;
     Below below(stage);
