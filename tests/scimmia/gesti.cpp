@@ -169,7 +169,7 @@ void Gesti::tasto(int profondita) {
   Qt::KeyboardModifiers con;
   if (dadi_.unoSu(8)) {
     con = dadi_.uno(std::array<Qt::KeyboardModifier, 4>{Qt::AltModifier, Qt::ControlModifier,
-                                                         Qt::ShiftModifier, Qt::KeypadModifier});
+                                                        Qt::ShiftModifier, Qt::KeypadModifier});
   }
   if (con == Qt::ControlModifier && quale == Qt::Key_V) {
     QApplication::clipboard()->setText(dadi_.unoSu(2) ? QStringLiteral("12a 3\n4567890123456789")
@@ -178,7 +178,9 @@ void Gesti::tasto(int profondita) {
   const int come = dadi_.fino(10);
   QWindow* dove = finestra();
   racconto_.annota(profondita, QStringLiteral("key 0x%1 modifiers 0x%2 how %3")
-                                   .arg(quale, 0, 16).arg(int(con), 0, 16).arg(come));
+                                   .arg(quale, 0, 16)
+                                   .arg(int(con), 0, 16)
+                                   .arg(come));
   constexpr int kSoloPremi = 7;
   constexpr int kSoloLascia = 8;
   constexpr int kRipeti = 9;
@@ -210,9 +212,8 @@ void Gesti::tieni(int profondita) {
 // A whole answer, often the right one, in the way that the form takes it.
 void Gesti::rispondi(int profondita) {
   const somme::StatoCondiviso& stato = banco_.ambiente->stato;
-  const auto quali = std::to_array<int>({stato.Totale, stato.Totale, stato.Addendo1,
-                                         stato.Addendo2, stato.RisultatoTabella,
-                                         dadi_.fino(20000)});
+  const auto quali = std::to_array<int>({stato.Totale, stato.Totale, stato.Addendo1, stato.Addendo2,
+                                         stato.RisultatoTabella, dadi_.fino(20000)});
   const int numero = dadi_.uno(quali);
   const QString cifre = QString::number(numero);
   racconto_.annota(profondita, QStringLiteral("answer ") + cifre);
@@ -271,7 +272,10 @@ void Gesti::mouse(int profondita) {
   const auto bottone = dadi_.uno(std::to_array<Qt::MouseButton>(
       {Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}));
   racconto_.annota(profondita, QStringLiteral("mouse %1 button %2 at %3,%4")
-                                   .arg(int(tipo)).arg(int(bottone)).arg(punto.x()).arg(punto.y()));
+                                   .arg(int(tipo))
+                                   .arg(int(bottone))
+                                   .arg(punto.x())
+                                   .arg(punto.y()));
   premi(tipo, dove, punto, bottone);
 }
 
@@ -287,13 +291,15 @@ void Gesti::controllo(int profondita) {
   const QWidget& widget = *scelto.widget();
   QPoint punto = mezzo(widget);
   if (dynamic_cast<const platform::Board*>(&scelto) != nullptr && !widget.rect().isEmpty()) {
-    punto = widget.mapTo(widget.window(), QPoint(dadi_.fino(widget.width()),
-                                                 dadi_.fino(widget.height())));
+    punto = widget.mapTo(widget.window(),
+                         QPoint(dadi_.fino(widget.width()), dadi_.fino(widget.height())));
   }
   const auto tipo = dadi_.unoSu(8) ? QEvent::MouseButtonDblClick : QEvent::None;
   racconto_.annota(profondita, QStringLiteral("click %1 of %2 at %3,%4 kind %5")
                                    .arg(scelto.name(), forma->name())
-                                   .arg(punto.x()).arg(punto.y()).arg(int(tipo)));
+                                   .arg(punto.x())
+                                   .arg(punto.y())
+                                   .arg(int(tipo)));
   premi(tipo, widget.window()->windowHandle(), punto, Qt::LeftButton);
 }
 

@@ -1,8 +1,8 @@
+#include <sys/time.h>
+#include <unistd.h>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
-#include <sys/time.h>
-#include <unistd.h>
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
@@ -74,10 +74,11 @@ Giro gioca(const QByteArray& forma, quint64 seme, int eventi, double secondi, bo
     giro.aVuoto += scimmia.giravaAVuoto() ? 1 : 0;
     if (giro.guasto) break;
   }
-  std::printf("%s: %d events, %d of them in waits (%d deep), %d lives, %d ended in a level that "
-              "draws for ever, %.1f s\n",
-              forma.constData(), giro.eventi, giro.nelleAttese, giro.profonda, giro.vite,
-              giro.aVuoto, static_cast<double>(orologio.elapsed()) / 1000);
+  std::printf(
+      "%s: %d events, %d of them in waits (%d deep), %d lives, %d ended in a level that "
+      "draws for ever, %.1f s\n",
+      forma.constData(), giro.eventi, giro.nelleAttese, giro.profonda, giro.vite, giro.aVuoto,
+      static_cast<double>(orologio.elapsed()) / 1000);
   std::fflush(stdout);
   return giro;
 }
@@ -122,8 +123,8 @@ int main(int argc, char* argv[]) {
     std::fprintf(stderr, "no form of that name\n");
     return 2;
   }
-  const quint64 suo = riga.isSet(seme) ? riga.value(seme).toULongLong()
-                                       : static_cast<quint64>(std::time(nullptr));
+  const quint64 suo =
+      riga.isSet(seme) ? riga.value(seme).toULongLong() : static_cast<quint64>(std::time(nullptr));
   std::printf("seed %llu\n", static_cast<unsigned long long>(suo));
   std::fflush(stdout);
   std::signal(SIGALRM, bloccata);
@@ -131,8 +132,8 @@ int main(int argc, char* argv[]) {
   bool guasto = false;
   for (const QByteArray& forma : forme) {
     const double suoi = riga.value(secondi).toDouble() / static_cast<double>(forme.size());
-    guasto = gioca(forma, suo, riga.value(eventi).toInt(), suoi, riga.isSet(racconta)).guasto ||
-             guasto;
+    guasto =
+        gioca(forma, suo, riga.value(eventi).toInt(), suoi, riga.isSet(racconta)).guasto || guasto;
   }
   return guasto ? 1 : 0;
 }

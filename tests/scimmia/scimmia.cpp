@@ -58,8 +58,8 @@ Scimmia::Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta)
     if (dadi_.unoSu(2)) evento();
   };
   banco_.pagina.risposta = [this](platform::PrinterSettings& scelte) {
-    scelte.orientation = dadi_.unoSu(2) ? platform::Orientation::Portrait
-                                        : platform::Orientation::Landscape;
+    scelte.orientation =
+        dadi_.unoSu(2) ? platform::Orientation::Portrait : platform::Orientation::Landscape;
     return dadi_.unoSu(2);
   };
   ronzaNeiCicli();
@@ -233,8 +233,8 @@ void Scimmia::nelRiquadro() {
   racconto_.annota(profondita_, QStringLiteral("box: ") + riquadro.text.simplified());
   if (riquadro.text.startsWith(QStringLiteral("Errore di run-time")) &&
       !disturbi_.spiega(riquadro.text)) {
-    guasto_ = Guasto(QStringLiteral("run-time's box without a cause: ") +
-                     riquadro.text.simplified());
+    guasto_ =
+        Guasto(QStringLiteral("run-time's box without a cause: ") + riquadro.text.simplified());
   }
   ++riquadri_;
   const auto giu = qScopeGuard([this] { --riquadri_; });

@@ -21,7 +21,7 @@ class Scimmia {
   // Plays so many events, or fewer where the program ends. Throws Guasto.
   void vivi(int eventi);
 
-  [[nodiscard]] int eventi() const { return eventi_; }      // so far, of all kinds
+  [[nodiscard]] int eventi() const { return eventi_; }       // so far, of all kinds
   [[nodiscard]] int nelleAttese() const { return dentro_; }  // of them, inside of a wait
   [[nodiscard]] int profonda() const { return profonda_; }   // the most on the stack at once
   [[nodiscard]] QString racconto() const { return racconto_.ultime(); }
@@ -56,7 +56,7 @@ class Scimmia {
   int dentro_ = 0;
   int profondita_ = 0;
   int profonda_ = 0;
-  int fuori_ = 0;  // events since the monkey's own form was left
+  int fuori_ = 0;     // events since the monkey's own form was left
   int riquadri_ = 0;  // message boxes now open
   int tiri_ = 0;      // draws since the last event
   bool gira_ = false;

@@ -27,7 +27,10 @@ int quanti(const QStringList& suoni, const QString& quale) {
 void conta(const char* nome, int prima, int ora, int uditi) {
   if (ora == prima || (ora > prima && ora - prima <= uditi) || (ora >= 0 && ora <= uditi)) return;
   throw Guasto(QStringLiteral("%1 went from %2 to %3 with %4 verdicts heard")
-                   .arg(QLatin1String(nome)).arg(prima).arg(ora).arg(uditi));
+                   .arg(QLatin1String(nome))
+                   .arg(prima)
+                   .arg(ora)
+                   .arg(uditi));
 }
 
 int percorri(QAccessibleInterface* nodo, int profondita) {
@@ -104,7 +107,8 @@ void Verifiche::etichette() const {
     if (!etichetta.caption().isEmpty() && !etichetta.caption().back().isDigit()) return;
     if (!etichetta.caption().endsWith(platform::leadingBlank(conto))) {
       throw Guasto(QStringLiteral("%1 says \"%2\" at %3")
-                       .arg(etichetta.name(), etichetta.caption()).arg(conto));
+                       .arg(etichetta.name(), etichetta.caption())
+                       .arg(conto));
     }
   };
   confronta(forma->EtichettaEsatti, banco_.ambiente->stato.ContaEsatti);
@@ -115,7 +119,9 @@ void Verifiche::caso() const {
   const somme::StatoCondiviso& stato = banco_.ambiente->stato;
   if (stato.Totale != stato.Addendo1 + stato.Addendo2) {
     throw Guasto(QStringLiteral("the case is %1 = %2 + %3")
-                     .arg(stato.Totale).arg(stato.Addendo1).arg(stato.Addendo2));
+                     .arg(stato.Totale)
+                     .arg(stato.Addendo1)
+                     .arg(stato.Addendo2));
   }
 }
 
@@ -138,7 +144,9 @@ void Verifiche::fuoco() const {
   if (ha == nullptr || ha->window()->windowType() == Qt::Popup) return;
   if (!ha->isVisible() || !ha->isEnabled()) {
     throw Guasto(QStringLiteral("the focus is on what cannot take it: %1, visible %2, enabled %3")
-                     .arg(ha->objectName()).arg(ha->isVisible()).arg(ha->isEnabled()));
+                     .arg(ha->objectName())
+                     .arg(ha->isVisible())
+                     .arg(ha->isEnabled()));
   }
   const platform::Runtime& fondo = banco_.ambiente->fondo;
   const Form* corrente = const_cast<platform::Runtime&>(fondo).forms().current();
@@ -169,19 +177,25 @@ void Verifiche::tuttoNellaFinestra() const {
   if (lato.width() < kMinima.width() || lato.height() < kMinima.height()) return;
   for (const std::shared_ptr<Form>& forma : banco_.ambiente->fondo.forms().all()) {
     if (forma->page() == nullptr || !forma->page()->isVisible()) continue;
-    const QRect pagina = forma->page()->rect().adjusted(-2, -2, 2, 2);
+    const Control* sopra = forma->covering();
     for (const Control* controllo : forma->controls()) {
       const QWidget* widget = controllo->widget();
-      if (widget == nullptr || widget->parentWidget() == nullptr || !controllo->hasCaption() || controllo->caption().isEmpty() ||
-          !widget->isVisible() || !forma->page()->isAncestorOf(widget)) {
-        continue;
-      }
-      const QRect posto(widget->mapTo(forma->page(), QPoint()), widget->size());
-      if (!posto.isEmpty() && !pagina.contains(posto)) {
+      if (widget == nullptr || !widget->isVisible() || controllo->caption().isEmpty()) continue;
+      // Bars keep the unit of their activation, and may outgrow their frame after a resize.
+      const QWidget* stanza = widget->parentWidget();
+      const bool libero =
+          stanza == forma->page()->canvas() || (sopra != nullptr && stanza == sopra->container());
+      if (!libero || widget->geometry().isEmpty()) continue;
+      if (!stanza->rect().adjusted(-2, -2, 2, 2).contains(widget->geometry())) {
+        const QRect posto = widget->geometry();
         throw Guasto(QStringLiteral("%1 of %2 reaches out of its window: %3,%4 %5x%6 in %7x%8")
-                         .arg(controllo->name(), forma->name()).arg(posto.x()).arg(posto.y())
-                         .arg(posto.width()).arg(posto.height()).arg(pagina.width())
-                         .arg(pagina.height()) + QStringLiteral(" canvas %1,%2 %3x%4").arg(forma->page()->canvas()->x()).arg(forma->page()->canvas()->y()).arg(forma->page()->canvas()->width()).arg(forma->page()->canvas()->height())+QStringLiteral(" parent %1x%2").arg(widget->parentWidget()->width()).arg(widget->parentWidget()->height()));
+                         .arg(controllo->name(), forma->name())
+                         .arg(posto.x())
+                         .arg(posto.y())
+                         .arg(posto.width())
+                         .arg(posto.height())
+                         .arg(stanza->width())
+                         .arg(stanza->height()));
       }
     }
   }
