@@ -7,7 +7,8 @@ from giocatore import BOTTONE, ETICHETTA, TESTO, VOCE, Errore
 from luce import Luce
 
 MENU = "Piatti, lunghi, unità"
-ENTRO_99, ENTRO_999 = "con e senza cambio", "con e senza cambi"
+# Levels on which no board stays empty, and all carries come.
+ENTRO_99, ENTRO_999 = "con il cambio", "con due cambi"
 # The kinds of blocks, by the place of their digit.
 SPECIE = {1: "u", 10: "da", 100: "h"}
 CONFERMA, AVANTI = "Conferma", "Avanti"
