@@ -7,7 +7,8 @@ from giocatore import BOTTONE, ETICHETTA, TESTO, VOCE, Errore
 from luce import Luce
 
 MENU = "Piatti, lunghi, unità"
-ENTRO_99, ENTRO_999 = "con e senza cambio", "con e senza cambi"
+# Levels on which no board stays empty, and all carries come.
+ENTRO_99, ENTRO_999 = "con il cambio", "con due cambi"
 # The kinds of blocks, by the place of their digit.
 SPECIE = {1: "u", 10: "da", 100: "h"}
 CONFERMA, AVANTI = "Conferma", "Avanti"
@@ -82,6 +83,14 @@ class Gioco:
         self.albero.aspetta_oggetto(BOTTONE, ENTRO_99)
 
 
+def apri(giocatore, strada):
+    giocatore.premi(MENU)
+    # Two clicks on one spot, one form after the other, must not come as a double click.
+    giocatore.albero.aspetta_oggetto(BOTTONE, strada)
+    time.sleep(1)
+    giocatore.premi(strada)
+
+
 def col_mouse(giocatore, posti, strada):
     gioco = Gioco(giocatore, posti, giocatore.premi,
                   lambda bottone: giocatore.mani.clicca(bottone.posto))
@@ -114,8 +123,7 @@ def con_due_tasti(giocatore, posti, strada):
     giocatore.segui([])
     giocatore.albero.aspetta_oggetto(BOTTONE, MENU)
     giocatore.mani.batti("ctrl+m")
-    giocatore.premi(MENU)
-    giocatore.premi(strada)
+    apri(giocatore, strada)
     totale = gioco.unisci()
     giocatore.albero.aspetta("the light on '0'", lambda: luce.acceso() == "0")
     giocatore.fotografa("risultato")
@@ -142,8 +150,7 @@ def a_tocchi(giocatore, posti, strada):
     giocatore.segui([])
     giocatore.albero.aspetta_oggetto(BOTTONE, MENU)
     giocatore.mani.batti("ctrl+h")
-    giocatore.premi(MENU)
-    giocatore.premi(strada)
+    apri(giocatore, strada)
     giocatore.albero.aspetta_oggetto(BOTTONE, "OK")
     giocatore.premi("OK")
     tavoletta.fai("foglio blocchi")
