@@ -3,6 +3,7 @@
 import os
 import re
 import subprocess
+import time
 
 from ascolto import Ascolto
 from mani import Mani
@@ -16,6 +17,11 @@ AVVIO = "Avvio"
 AVANTI = "avanti"
 # The counters: one word, then the number.
 ESATTI, ERRATI = "Esatti", "Errati"
+
+
+# Seconds from one form to a click on the next: two clicks on one spot that come sooner are a double
+# click of the desktop, whose second half the next form does not take.
+PAUSA_FORMA = 1
 
 
 class Errore(Exception):
@@ -46,15 +52,17 @@ class Giocatore:
         self.albero.aspetta(f"{nome!r} to be enabled", lambda: oggetto.abilitato)
         self.mani.clicca(oggetto.posto)
 
+    def vai(self, bottone):
+        """Through a form that has just come, by the button that leads on."""
+        self.albero.aspetta_oggetto(BOTTONE, bottone)
+        self.fotografa(re.sub(r"\W+", "-", bottone.lower()))
+        time.sleep(PAUSA_FORMA)
+        self.premi(bottone)
+
     def segui(self, strada):
         """From the splash form to an exercise, button by button."""
-        self.albero.aspetta_oggetto(BOTTONE, AVVIO)
-        self.fotografa("avvio")
-        self.premi(AVVIO)
-        for bottone in strada:
-            self.albero.aspetta_oggetto(BOTTONE, bottone)
-            self.fotografa(re.sub(r"\W+", "-", bottone.lower()))
-            self.premi(bottone)
+        for bottone in [AVVIO, *strada]:
+            self.vai(bottone)
 
     def etichette(self):
         return [o for o in self.albero.visibili() if o.ruolo == ETICHETTA]

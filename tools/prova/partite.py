@@ -151,8 +151,8 @@ def scansione(giocatore):
         return a + b, dai
 
     def apri():
-        giocatore.premi("Solo numeri")
-        giocatore.premi("con e senza cambio")
+        giocatore.vai("Solo numeri")
+        giocatore.vai("con e senza cambio")
 
     giocatore.segui([])
     albero.aspetta_oggetto(BOTTONE, "Solo numeri")
@@ -226,8 +226,8 @@ def tocco(giocatore):
     giocatore.segui([])
     albero.aspetta_oggetto(BOTTONE, "Solo numeri")
     giocatore.mani.batti("ctrl+h")
-    giocatore.premi("Solo numeri")
-    giocatore.premi("senza cambio")
+    giocatore.vai("Solo numeri")
+    giocatore.vai("senza cambio")
     albero.aspetta_oggetto(BOTTONE, "OK")
     giocatore.fotografa("pronta")
     giocatore.premi("OK")

@@ -36,8 +36,8 @@ def _apri(giocatore, modo):
     giocatore.segui([])
     giocatore.albero.aspetta_oggetto(BOTTONE, FAMIGLIA)
     giocatore.mani.batti(modo)
-    giocatore.premi(FAMIGLIA)
-    giocatore.premi(LIVELLO)
+    giocatore.vai(FAMIGLIA)
+    giocatore.vai(LIVELLO)
 
 
 def abaco_scansione(giocatore):

@@ -84,11 +84,8 @@ class Gioco:
 
 
 def apri(giocatore, strada):
-    giocatore.premi(MENU)
-    # Two clicks on one spot, one form after the other, must not come as a double click.
-    giocatore.albero.aspetta_oggetto(BOTTONE, strada)
-    time.sleep(1)
-    giocatore.premi(strada)
+    giocatore.vai(MENU)
+    giocatore.vai(strada)
 
 
 def col_mouse(giocatore, posti, strada):
