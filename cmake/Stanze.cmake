@@ -6,10 +6,15 @@
 # With SOMME_FLOORS each room is also linked whole against the rooms that it names, so that a use of
 # what lies above it does not link.
 #
-#   somme_room(platform_base FOLDER platform/base SOURCES a.cpp b.cpp LINKS Qt6::Core)
+# A room without windows says NO_WINDOWS; see Intestazioni.cmake.
+#
+#   somme_room(platform_base NO_WINDOWS FOLDER platform/base SOURCES a.cpp b.cpp LINKS Qt6::Core)
 function(somme_room name)
-  cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "NO_WINDOWS" "FOLDER" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
   add_library(somme_${name} STATIC ${ARG_SOURCES})
+  if(NOT ARG_NO_WINDOWS)
+    somme_compiled_headers(somme_${name} finestre_intestazioni)
+  endif()
   add_library(somme::${name} ALIAS somme_${name})
   set(view "${CMAKE_BINARY_DIR}/include/${name}")
   cmake_path(GET ARG_FOLDER PARENT_PATH parent)
@@ -34,9 +39,6 @@ endfunction()
 # folder/name. Tests run without a display unless they say otherwise.
 #
 #   somme_tests(FOLDER platform/base LINKS somme::platform_base NAMES numbers profile_file)
-# Qt tells each test its own folders, which no test asks for and which would make every test's
-# headers another's.
-set(SOMME_TESTS_ALIKE -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR)
 function(somme_tests)
   cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "LINKS;NAMES" ${ARGN})
   if(NOT ARG_TIMEOUT)
@@ -47,11 +49,12 @@ function(somme_tests)
     set(target "test_${prefix}_${name}")
     add_executable(${target} ${name}_test.cpp)
     target_link_libraries(${target} PRIVATE ${ARG_LINKS} Qt6::Test)
-    if("${ARG_LINKS}" STREQUAL "somme_prova")
-      # Most of what a test of forms takes to compile is what it includes: that is read once. What
-      # links more knows other macros and has to read it itself.
-      target_compile_options(${target} PRIVATE ${SOMME_TESTS_ALIKE})
-      target_precompile_headers(${target} REUSE_FROM prova_intestazioni)
+    if(ARG_LINKS MATCHES "Network|tavoletta")
+      # Other headers of Qt's own: those of the network's tests.
+    elseif(ARG_LINKS MATCHES "somme_prova|somme_stage")
+      somme_compiled_headers(${target} prova_intestazioni)
+    elseif(ARG_LINKS MATCHES "somme::platform_flash")
+      somme_compiled_headers(${target} finestre_intestazioni)
     endif()
     add_test(NAME "${ARG_FOLDER}/${name}" COMMAND ${target})
     set_tests_properties("${ARG_FOLDER}/${name}" PROPERTIES TIMEOUT ${ARG_TIMEOUT}

@@ -1,0 +1,33 @@
+# Most of what a file takes to compile are the headers of Qt and of the standard library that it
+# includes. With SOMME_COMPILED_HEADERS they are read once and taken from there by whoever names the
+# set. Every file still includes what it uses: a release is built without.
+option(SOMME_COMPILED_HEADERS "Read the common headers once" OFF)
+
+# What Qt tells each program alone; nothing asks for it, and it would make one's headers no other's.
+set(SOMME_ALIKE -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR)
+
+# A set of headers, for targets that link at least what the set links.
+#
+#   somme_header_set(finestre_intestazioni LINKS Qt6::Widgets HEADERS <QWidget> <vector>)
+function(somme_header_set name)
+  if(NOT SOMME_COMPILED_HEADERS)
+    return()
+  endif()
+  cmake_parse_arguments(ARG "" "" "LINKS;HEADERS" ${ARGN})
+  # Never run: compiled headers need a program that they belong to.
+  set(source "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+  file(CONFIGURE OUTPUT "${source}" CONTENT "int main() {\n  return 0;\n}\n")
+  add_executable(${name} "${source}")
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+  target_link_libraries(${name} PRIVATE somme_opzioni ${ARG_LINKS})
+  target_compile_options(${name} PRIVATE ${SOMME_ALIKE})
+  target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
+endfunction()
+
+# Makes a target take its headers from a set.
+function(somme_compiled_headers target set)
+  if(SOMME_COMPILED_HEADERS)
+    target_compile_options(${target} PRIVATE ${SOMME_ALIKE})
+    target_precompile_headers(${target} REUSE_FROM ${set})
+  endif()
+endfunction()
