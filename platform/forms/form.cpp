@@ -39,17 +39,17 @@ std::vector<Row> mergedRows(const FormDesign& design) {
 
 // The mouse gives the focus to a widget that has gone, when it is pressed while another of its
 // buttons has been held there since. The focus stays where it was, if it still can.
-// True when the focus had come to something hidden.
-bool keepFromHidden(Page& page, QWidget* before, QWidget* now) {
-  if (now == nullptr || now->isVisible() || !page.isVisible()) return false;
+// now: has the focus; before: had it, may be null. True when it had come to something hidden.
+bool keepFromHidden(Page& page, QWidget* before, QWidget& now) {
+  if (now.isVisible() || !page.isVisible()) return false;
   Canvas* canvas = page.canvas();
-  if (!canvas->isAncestorOf(now)) return false;
+  if (!canvas->isAncestorOf(&now)) return false;
   const bool back = before != nullptr && canvas->isAncestorOf(before) && before->isVisible() &&
                     before->isEnabled();
   if (back) {
     before->setFocus(Qt::OtherFocusReason);
   } else if (!canvas->passFocus(before, true)) {
-    now->clearFocus();
+    now.clearFocus();
   }
   return true;
 }
@@ -73,7 +73,9 @@ void Form::build(QWidget* parent) {
   buildRows();
   setTabOrder();
   QObject::connect(qApp, &QApplication::focusChanged, page_, [this](QWidget* before, QWidget* now) {
-    if (!keepFromHidden(*page_, before, now)) focusMoved(now);
+    // A page that is being destroyed lets go of the focus, and is none any more.
+    if (now == nullptr || keepFromHidden(*page_, before, *now)) return;
+    focusMoved(now);
   });
   built_ = true;
 }
