@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QStringList>
 #include <algorithm>
+#include <numeric>
 
 namespace platform {
 
@@ -31,6 +32,17 @@ QFont fontOf(const FontSpec& spec, double pixels) {
 Ink inkOf(const QFont& font) {
   const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈÇ(gjpqy"));
   return {-ink.top(), ink.bottom()};
+}
+
+int largestThatFits(int wanted, int smallest, const std::function<bool(int)>& fits) {
+  if (wanted <= smallest || fits(wanted)) return wanted;
+  int fitting = smallest;
+  int tooLarge = wanted;
+  while (tooLarge - fitting > 1) {
+    const int between = std::midpoint(fitting, tooLarge);
+    (fits(between) ? fitting : tooLarge) = between;
+  }
+  return fitting;
 }
 
 }  // namespace platform

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <functional>
 
 #include "platform/forms/design.h"
 
@@ -22,5 +23,11 @@ struct Ink {
   [[nodiscard]] double height() const { return above + below; }
 };
 [[nodiscard]] Ink inkOf(const QFont& font);
+
+// The largest whole pixel size from `smallest` to `wanted` in which a text fits; `smallest` where
+// it fits in none. fits: asked for a size; what fits in one size fits in every smaller one. It is
+// asked a few times only, since measuring in a new size loads the font anew: a form that was laid
+// out in a window of a few pixels may want letters of thousands.
+[[nodiscard]] int largestThatFits(int wanted, int smallest, const std::function<bool(int)>& fits);
 
 }  // namespace platform

@@ -232,11 +232,12 @@ void TextBoxWidget::fitFont() {
   const int across = width() - 2 * kSideMargin - kWidthsOfOthers;
   const int down = height() - int(kFocusRingWidth);
   QFont fitted = font_;
-  const auto fits = [&] {
+  const auto fits = [&](int pixels) {
+    fitted.setPixelSize(pixels);
     return QFontMetricsF(fitted).horizontalAdvance(text_) <= across &&
            inkOf(fitted).height() <= down;
   };
-  while (fitted.pixelSize() > kSmallest && !fits()) fitted.setPixelSize(fitted.pixelSize() - 1);
+  fitted.setPixelSize(largestThatFits(font_.pixelSize(), kSmallest, fits));
   if (fitted != this->font()) setFont(fitted);
 }
 

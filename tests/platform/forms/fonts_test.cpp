@@ -1,0 +1,41 @@
+#include "platform/forms/fonts.h"
+
+#include <QtTest>
+
+using platform::largestThatFits;
+
+class FontsTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void theWantedSizeIsTakenWhereItFits() {
+    QCOMPARE(largestThatFits(40, 9, [](int pixels) { return pixels <= 40; }), 40);
+  }
+
+  void elseTheLargestThatFits() {
+    for (int limit = 9; limit < 40; ++limit) {
+      QCOMPARE(largestThatFits(40, 9, [limit](int pixels) { return pixels <= limit; }), limit);
+    }
+  }
+
+  void whereNothingFitsItIsTheSmallest() {
+    QCOMPARE(largestThatFits(40, 9, [](int) { return false; }), 9);
+  }
+
+  void aSizeBelowTheSmallestStays() {
+    QCOMPARE(largestThatFits(5, 9, [](int) { return false; }), 5);
+  }
+
+  void lettersOfThousandsOfPixelsAreMeasuredInAFewSizesOnly() {
+    int asked = 0;
+    const int found = largestThatFits(30000, 9, [&asked](int pixels) {
+      ++asked;
+      return pixels <= 57;
+    });
+    QCOMPARE(found, 57);
+    QVERIFY(asked <= 20);
+  }
+};
+
+QTEST_MAIN(FontsTest)
+#include "fonts_test.moc"
