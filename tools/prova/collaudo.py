@@ -15,7 +15,7 @@ import subprocess
 import sys
 import tempfile
 
-from giocatore import BOTTONE, VOCE, Errore, Giocatore
+from giocatore import AVVIO, BOTTONE, VOCE, Errore, Giocatore
 from partite import PARTITE
 from schermo import ErroreSchermo, Schermo
 
@@ -156,7 +156,8 @@ class Collaudo:
 
     def risolvi_e_cambia_lingua(self):
         processo, lettura, giocatore = self.avvia()
-        PARTITE["numeri"](giocatore)
+        giocatore.vai(AVVIO)
+        PARTITE["numeri"].gioca(giocatore)
         giocatore.premi("Torna al menù principale")
         giocatore.premi("Lingua", VOCE)
         giocatore.premi("English", VOCE)

@@ -13,24 +13,28 @@ import os
 import signal
 import sys
 
-from giocatore import Errore, Giocatore
-from partite import A_TOCCHI, PARTITE
+from giocatore import AVVIO, Errore, Giocatore
+from partite import PARTITE
 from schermo import ErroreSchermo, Schermo
 from tavoletta import ErroreTavoletta, Tavoletta
 
 
 def gioca(programma, cartella, nome, tavoletta):
     """One exercise, from the start of the program to its end. Returns whether all was well."""
-    superficie = Tavoletta(tavoletta) if nome in A_TOCCHI else contextlib.nullcontext()
+    partita = PARTITE[nome]
+    superficie = Tavoletta(tavoletta) if partita.a_tocchi else contextlib.nullcontext()
     with Schermo() as schermo, superficie as tocchi:
         from albero import Albero, TempoScaduto
         processo = schermo.avvia(schermo.copia(programma))
         giocatore = Giocatore(schermo, Albero(processo), cartella, tocchi)
         try:
-            PARTITE[nome](giocatore)
+            giocatore.vai(AVVIO)
+            partita.gioca(giocatore)
             giocatore.chiudi(processo)
+            if set(giocatore.forme) != partita.forme:
+                raise Errore(f"played {giocatore.forme}, not {sorted(partita.forme)}")
         except (TempoScaduto, Errore, ErroreTavoletta) as errore:
-            print(f"Failed: {errore}", file=sys.stderr)
+            print(f"Failed on {giocatore.forme[-1:] or AVVIO}: {errore}", file=sys.stderr)
             giocatore.fotografa("errore")
             return False
     return True
@@ -39,7 +43,8 @@ def gioca(programma, cartella, nome, tavoletta):
 def main():
     nome = sys.argv[3] if len(sys.argv) > 3 else "barre"
     tavoletta = sys.argv[4] if len(sys.argv) > 4 else ""
-    if not 3 <= len(sys.argv) <= 5 or nome not in PARTITE or (nome in A_TOCCHI) != bool(tavoletta):
+    if (not 3 <= len(sys.argv) <= 5 or nome not in PARTITE
+            or PARTITE[nome].a_tocchi != bool(tavoletta)):
         print(__doc__, file=sys.stderr)
         print("Exercises: " + ", ".join(PARTITE), file=sys.stderr)
         return 2

@@ -15,6 +15,8 @@ VOCE = "menu item"
 TESTO = "text"
 AVVIO = "Avvio"
 AVANTI = "avanti"
+ESCI = "Esci"
+CONFERMA_MESSAGGIO = "OK"
 # The counters: one word, then the number.
 ESATTI, ERRATI = "Esatti", "Errati"
 
@@ -28,14 +30,29 @@ class Errore(Exception):
     """The program did something else than it should; the text says what."""
 
 
+def scrivi(termini):
+    a, b, c = (t or "?" for t in termini)
+    return f"{a} + {b} = {c}"
+
+
+def trova(termini):
+    """The answer to a sum: three texts, the one that is asked for empty."""
+    a, b, c = (int(t) if t else None for t in termini)
+    return c - b if a is None else c - a if b is None else a + b
+
+
 class Giocatore:
-    """What a pupil does on any form. What is asked and how it is answered differs: see partite."""
+    """What a pupil does on any form. What is asked and how it is answered differs: see partite.
+
+    forme: the names of the exercise forms that were opened, the one that is being played last.
+    """
 
     def __init__(self, schermo, albero, cartella, tavoletta=None):
         """cartella: where the pictures go. tavoletta: the touch surface, for who plays by touch."""
         self.albero = albero
         self.tavoletta = tavoletta
         self.mani = Mani()
+        self.forme = []
         self._schermo = schermo
         self._cartella = cartella
         self._foto = 0
@@ -59,10 +76,33 @@ class Giocatore:
         time.sleep(PAUSA_FORMA)
         self.premi(bottone)
 
-    def segui(self, strada):
-        """From the splash form to an exercise, button by button."""
-        for bottone in [AVVIO, *strada]:
+    def apri(self, forma, *strada, modo=None):
+        """From a menu to an exercise form, button by button.
+
+        modo: the keys that choose the kind of input, pressed on the main menu at the start.
+        """
+        self.forme.append(forma)
+        print(f"Form:     {forma}")
+        if modo:
+            self.albero.aspetta_oggetto(BOTTONE, strada[0])
+            self.mani.batti(modo)
+        for bottone in strada:
             self.vai(bottone)
+
+    def collega(self):
+        """Has the touch surface answer, and closes the box that says so."""
+        self.premi(CONFERMA_MESSAGGIO)
+        self.albero.aspetta("the box to close", lambda: not self.albero.cerca(
+            BOTTONE, CONFERMA_MESSAGGIO))
+
+    def esci(self, bottone):
+        """Leaves the exercise for the menu that has this button."""
+        self.premi(ESCI, VOCE)
+        if self.tavoletta:
+            self.tavoletta.aspetta("ricevuto 02#REQ-DEFAULT")
+            self.tavoletta.aspetta("staccata")
+        self.albero.aspetta_oggetto(BOTTONE, bottone)
+        print(f"Left:     {self.forme[-1]}")
 
     def etichette(self):
         return [o for o in self.albero.visibili() if o.ruolo == ETICHETTA]
@@ -74,6 +114,50 @@ class Giocatore:
             if trovato:
                 return int(trovato[1])
         return None
+
+    def termini(self):
+        """The written sum, where one term is asked for: three texts, that one empty."""
+        for etichetta in self.etichette():
+            trovato = re.search(r"(\d+|_+) *\+ *(\d+|_+) *= *(\d*) *$", etichetta.nome)
+            if trovato:
+                termini = [t.strip("_") for t in trovato.groups()]
+                return termini if termini.count("") == 1 else None
+        return None
+
+    def chiesta(self, leggi=None):
+        """Waits for a sum and returns its terms.
+
+        leggi: reads them as termini() does, on a form that writes its sum in another way.
+        """
+        termini = self.albero.aspetta("a sum with a term to be found", leggi or self.termini)
+        print("Asked:    " + scrivi(termini))
+        return termini
+
+    def prova(self, risposta, dai):
+        """A wrong answer, then the right one; dai as for rispondi()."""
+        self.fotografa("domanda")
+        self.rispondi(risposta - 1 if risposta > 1 else risposta + 1, dai, giusto=False)
+        self.fotografa("sbagliato")
+        self.rispondi(risposta, dai, giusto=True)
+        self.fotografa("giusto")
+
+    def batti_numero(self, numero):
+        """Writes a number in place of what stands in the box that has the keyboard; Enter."""
+        for tasto in ("ctrl+a", *str(numero), "Return"):
+            self.mani.batti(tasto)
+
+    def batti_nella_casella(self, numero):
+        """The same where a wrong answer stands in the box until a click opens it again."""
+        casella = next(o for o in self.albero.visibili() if o.ruolo in (TESTO, "panel"))
+        self.mani.clicca(casella.posto)
+        self.batti_numero(numero)
+
+    def contano(self, esatti, errati):
+        """The counters stand so and not otherwise."""
+        contati = self.conta(ESATTI), self.conta(ERRATI)
+        if contati != (esatti, errati):
+            raise Errore(f"the counters tell {contati} right and wrong answers, not"
+                         f" {(esatti, errati)}")
 
     def rispondi(self, risposta, dai, giusto):
         """Gives an answer and waits for the verdict.

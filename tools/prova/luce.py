@@ -10,11 +10,25 @@ class Luce:
 
     def __init__(self, giocatore):
         self._albero, self._mani = giocatore.albero, giocatore.mani
+        # The keys as they were found last, from the one that was lit on.
+        self._tasti = []
 
     def acceso(self):
-        """The key that assistive technology takes for the focus."""
-        return next((o.nome for o in self._albero.visibili()
-                     if o.ruolo == BOTTONE and o.ha_il_fuoco), None)
+        """The key that assistive technology takes for the focus; None where no key has it."""
+        # To look through the whole tree at each step would take most of the time of a game.
+        if not self._trova():
+            self._tasti = [o for o in self._albero.visibili() if o.ruolo == BOTTONE]
+            if not self._trova():
+                return None
+        return self._tasti[0].nome
+
+    def _trova(self):
+        """Whether one of the keys is lit; that one is then the first of them."""
+        for i, tasto in enumerate(self._tasti):
+            if tasto.ha_il_fuoco and tasto.visibile:
+                self._tasti = self._tasti[i:] + self._tasti[:i]
+                return True
+        return False
 
     def passo(self, tasto, tieni=0.0):
         """One step by a key that is held so many seconds; while it is, nothing moves."""

@@ -1,27 +1,14 @@
-"""The abacus, played by scanning and by touch: a carry, a wrong and a right answer, the way on."""
+"""The abacus, each form by its own kind of input: a carry, a wrong and a right answer, the way on."""
 
 import re
 import time
 
-from giocatore import AVANTI, BOTTONE, VOCE, Errore
+from dita import Dita
+from giocatore import AVANTI, BOTTONE, Errore, trova
 from luce import Luce
 
-PAUSA_DITO = 0.3  # seconds between two touches
 LIVELLO = "cambio alle unità"  # up to 999; no other level bears this name
 FAMIGLIA = "Abaco"
-
-
-def _caso(giocatore):
-    """The addends of the case; waits for one."""
-    def operazione():
-        for etichetta in giocatore.etichette():
-            trovato = re.search(r"(\d+) *\+ *(\d+) *= *$", etichetta.nome)
-            if trovato:
-                return [int(n) for n in trovato.groups()]
-        return None
-    a, b = giocatore.albero.aspetta("a sum to be found", operazione)
-    print(f"Asked:    {a} + {b} = ?")
-    return a, b
 
 
 def _sull_abaco(giocatore, che_cosa):
@@ -32,12 +19,36 @@ def _sull_abaco(giocatore, che_cosa):
     print("Abacus:   " + che_cosa)
 
 
-def _apri(giocatore, modo):
-    giocatore.segui([])
-    giocatore.albero.aspetta_oggetto(BOTTONE, FAMIGLIA)
-    giocatore.mani.batti(modo)
-    giocatore.vai(FAMIGLIA)
-    giocatore.vai(LIVELLO)
+def _tocca_pallina(giocatore, x, y):
+    """A click on a place of the abacus, in pixels of its picture, which is 521 by 361.
+
+    The picture stands in the middle of its board, as large as it fits.
+    """
+    tavola = next(o for o in giocatore.albero.visibili() if o.nome == FAMIGLIA)
+    sinistra, alto, larga, alta = tavola.posto
+    scala = min(larga / 521, alta / 361)
+    giocatore.mani.clicca((round(sinistra + (larga - 521 * scala) / 2 + x * scala),
+                           round(alto + (alta - 361 * scala) / 2 + y * scala), 1, 1))
+
+
+def abaco(giocatore):
+    """With the mouse: bead by bead, the arrow that carries, a bead taken away again."""
+    albero = giocatore.albero
+    giocatore.apri("FormAbaco", FAMIGLIA, LIVELLO)
+    risposta = trova(giocatore.chiesta())
+    # The units that wait stand in two columns of five, right of the last spike.
+    for i in range(10):
+        _tocca_pallina(giocatore, 459 + 32 * (i // 5), 303 - 30 * (i % 5))
+        _sull_abaco(giocatore, "1 unità" if i == 0 else f"{i + 1} unità")
+    giocatore.premi("10 u = 1 da")
+    _sull_abaco(giocatore, "1 decina")
+    giocatore.fotografa("cambio")
+    _tocca_pallina(giocatore, 288, 303)  # the lowest bead of the tens
+    _sull_abaco(giocatore, "vuoto")
+    giocatore.prova(risposta, giocatore.batti_nella_casella)
+    giocatore.avanti("space")
+    giocatore.chiesta()
+    giocatore.esci(FAMIGLIA)
 
 
 def abaco_scansione(giocatore):
@@ -51,8 +62,8 @@ def abaco_scansione(giocatore):
             scegli(cifra)
         scegli("Conferma")
 
-    _apri(giocatore, "ctrl+m")
-    a, b = _caso(giocatore)
+    giocatore.apri("FormAbacoScansione", FAMIGLIA, LIVELLO, modo="ctrl+m")
+    a, b, _ = map(int, (t or 0 for t in giocatore.chiesta()))
     albero.aspetta("the light on 'h'", lambda: acceso() == "h")
     for _ in range(10):
         scegli("u")
@@ -71,24 +82,17 @@ def abaco_scansione(giocatore):
     albero.aspetta("the light on the way on", lambda: acceso() == "Avanti")
     giocatore.fotografa("giusto")
     giocatore.mani.batti("Return")
-    _caso(giocatore)
+    giocatore.chiesta()
     albero.aspetta("the light on 'h'", lambda: acceso() == "h")
     _sull_abaco(giocatore, "vuoto")
-    giocatore.premi("Esci", VOCE)
-    albero.aspetta_oggetto(BOTTONE, FAMIGLIA)
+    giocatore.esci(FAMIGLIA)
 
 
 def abaco_tocco(giocatore):
     """By touch: a key carries ten units, and the abacus itself is the answer."""
-    albero, tavoletta = giocatore.albero, giocatore.tavoletta
+    albero = giocatore.albero
+    tocca = Dita(giocatore).tocca
     centinaio, decina, unita, cambio, cestino, conferma, avanti = 2, 3, 4, 8, 10, 11, 12
-
-    def tocca(tasto, volte=1):
-        # One touch after the other, as a hand is: two that come together are one.
-        for _ in range(volte):
-            tavoletta.fai(f"tasto {tasto}")
-            tavoletta.aspetta("mandato")
-            time.sleep(PAUSA_DITO)
 
     def dai(numero):
         tocca(cestino)
@@ -97,10 +101,10 @@ def abaco_tocco(giocatore):
             tocca(tasto, quante)
         tocca(conferma)
 
-    tavoletta.fai("foglio abaco")
-    _apri(giocatore, "ctrl+h")
-    giocatore.premi("OK")
-    a, b = _caso(giocatore)
+    giocatore.tavoletta.fai("foglio abaco")
+    giocatore.apri("FormAbacoHK", FAMIGLIA, LIVELLO, modo="ctrl+h")
+    giocatore.collega()
+    a, b, _ = map(int, (t or 0 for t in giocatore.chiesta()))
     tocca(unita, 10)
     _sull_abaco(giocatore, "10 unità")
     tocca(cambio)
@@ -117,9 +121,6 @@ def abaco_tocco(giocatore):
     bottone = albero.aspetta_oggetto(BOTTONE, AVANTI)
     albero.aspetta(f"the focus on {AVANTI!r}", lambda: bottone.ha_il_fuoco)
     tocca(avanti)
-    _caso(giocatore)
+    giocatore.chiesta()
     _sull_abaco(giocatore, "vuoto")
-    giocatore.premi("Esci", VOCE)
-    tavoletta.aspetta("ricevuto 02#REQ-DEFAULT")
-    tavoletta.aspetta("staccata")
-    albero.aspetta_oggetto(BOTTONE, FAMIGLIA)
+    giocatore.esci(FAMIGLIA)

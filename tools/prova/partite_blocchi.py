@@ -1,9 +1,9 @@
 """The blocks, each form by its own kind of input: a wrong board, then a whole sum with its carries."""
 
 import re
-import time
 
-from giocatore import BOTTONE, ETICHETTA, TESTO, VOCE, Errore
+from dita import Dita
+from giocatore import BOTTONE, ETICHETTA, TESTO
 from luce import Luce
 
 MENU = "Piatti, lunghi, unità"
@@ -15,8 +15,6 @@ CONFERMA, AVANTI = "Conferma", "Avanti"
 CAMBI = {1: "Cambia dieci unità in una decina", 10: "Cambia dieci decine in un centinaio"}
 # Keys of the touch surface.
 TASTI = {"h": 1, "da": 2, "u": 3, CONFERMA: 8, CAMBI[10]: 5, CAMBI[1]: 6, AVANTI: 9}
-# Seconds between two touches.
-PAUSA_DITO = 0.3
 
 
 def cifra(numero, posto):
@@ -34,15 +32,9 @@ class Gioco:
         self.giocatore, self.albero = giocatore, giocatore.albero
         self.posti, self.scegli, self.cambia = posti, scegli, cambia
 
-    def operazione(self):
-        for etichetta in self.giocatore.etichette():
-            trovato = re.search(r"(\d+) *\+ *(\d+) *= *$", etichetta.nome)
-            if trovato:
-                return [int(n) for n in trovato.groups()]
-        return None
-
     def chiesta(self):
-        return self.albero.aspetta("a sum to be built", self.operazione)
+        a, b, _ = self.giocatore.chiesta()
+        return int(a), int(b)
 
     def costruisci(self, numero):
         for posto in self.posti:
@@ -53,7 +45,6 @@ class Gioco:
     def unisci(self):
         """A wrong board, both right ones, the carries. Returns the sum."""
         a, b = self.chiesta()
-        print(f"Asked:    {a} + {b} = ?")
         self.giocatore.fotografa("domanda")
         self.giocatore.rispondi("an empty board", lambda _: self.scegli(CONFERMA), giusto=False)
         self.costruisci(a)
@@ -73,25 +64,15 @@ class Gioco:
         """The operation stands whole, and the sum counts once."""
         self.albero.aspetta("the whole operation", lambda: any(
             re.search(rf"= +{totale}$", o.nome) for o in self.giocatore.etichette()))
-        if (self.giocatore.conta("Esatti"), self.giocatore.conta("Errati")) != (1, 1):
-            raise Errore("the counters do not tell one right and one wrong answer")
+        self.giocatore.contano(1, 1)
         print(f"Solved:   {totale}")
         self.giocatore.fotografa("giusto")
 
-    def torna(self):
-        self.giocatore.premi("Esci", VOCE)
-        self.albero.aspetta_oggetto(BOTTONE, ENTRO_99)
 
-
-def apri(giocatore, strada):
-    giocatore.vai(MENU)
-    giocatore.vai(strada)
-
-
-def col_mouse(giocatore, posti, strada):
+def col_mouse(giocatore, forma, posti, strada):
     gioco = Gioco(giocatore, posti, giocatore.premi,
                   lambda bottone: giocatore.mani.clicca(bottone.posto))
-    giocatore.segui([MENU, strada])
+    giocatore.apri(forma, MENU, strada)
     totale = gioco.unisci()
     giocatore.albero.aspetta("the box for the result",
                              lambda: any(o.ruolo == TESTO and o.ha_il_fuoco
@@ -102,10 +83,10 @@ def col_mouse(giocatore, posti, strada):
     gioco.risolta(totale)
     giocatore.avanti("space")
     gioco.chiesta()
-    gioco.torna()
+    giocatore.esci(ENTRO_99)
 
 
-def con_due_tasti(giocatore, posti, strada):
+def con_due_tasti(giocatore, forma, posti, strada):
     luce = Luce(giocatore)
 
     def cambia(bottone):
@@ -117,10 +98,7 @@ def con_due_tasti(giocatore, posti, strada):
         luce.scegli_a_mano(nome)
 
     gioco = Gioco(giocatore, posti, scegli, cambia)
-    giocatore.segui([])
-    giocatore.albero.aspetta_oggetto(BOTTONE, MENU)
-    giocatore.mani.batti("ctrl+m")
-    apri(giocatore, strada)
+    giocatore.apri(forma, MENU, strada, modo="ctrl+m")
     totale = gioco.unisci()
     giocatore.albero.aspetta("the light on '0'", lambda: luce.acceso() == "0")
     giocatore.fotografa("risultato")
@@ -131,26 +109,19 @@ def con_due_tasti(giocatore, posti, strada):
     giocatore.albero.aspetta("the light on the way on", lambda: luce.acceso() == AVANTI)
     giocatore.mani.batti("Return")
     gioco.chiesta()
-    gioco.torna()
+    giocatore.esci(ENTRO_99)
 
 
-def a_tocchi(giocatore, posti, strada):
-    tavoletta = giocatore.tavoletta
+def a_tocchi(giocatore, forma, posti, strada):
+    dita = Dita(giocatore)
 
     def scegli(nome):
-        # One touch after the other, as a hand is: two that come together are one.
-        time.sleep(PAUSA_DITO)
-        tavoletta.fai(f"tasto {TASTI[nome]}")
-        tavoletta.aspetta("mandato")
+        dita.tocca(TASTI[nome])
 
     gioco = Gioco(giocatore, posti, scegli, lambda bottone: scegli(bottone.nome))
-    giocatore.segui([])
-    giocatore.albero.aspetta_oggetto(BOTTONE, MENU)
-    giocatore.mani.batti("ctrl+h")
-    apri(giocatore, strada)
-    giocatore.albero.aspetta_oggetto(BOTTONE, "OK")
-    giocatore.premi("OK")
-    tavoletta.fai("foglio blocchi")
+    giocatore.apri(forma, MENU, strada, modo="ctrl+h")
+    giocatore.tavoletta.fai("foglio blocchi")
+    giocatore.collega()
     totale = gioco.unisci()
     gioco.risolta(totale)
     for posto in posti:
@@ -158,35 +129,34 @@ def a_tocchi(giocatore, posti, strada):
             giocatore.albero.aspetta_oggetto(ETICHETTA, str(cifra(totale, posto)))
     scegli(AVANTI)
     gioco.chiesta()
-    gioco.torna()
-    tavoletta.aspetta("ricevuto 02#REQ-DEFAULT")
+    giocatore.esci(ENTRO_99)
 
 
 def blocchi(giocatore):
     """Longs and units, with the mouse."""
-    col_mouse(giocatore, (10, 1), ENTRO_99)
+    col_mouse(giocatore, "FormLU", (10, 1), ENTRO_99)
 
 
 def centinaia(giocatore):
     """Flats, longs and units, with the mouse."""
-    col_mouse(giocatore, (100, 10, 1), ENTRO_999)
+    col_mouse(giocatore, "FormHLU", (100, 10, 1), ENTRO_999)
 
 
 def blocchi_scansione(giocatore):
     """Longs and units, by manual scanning."""
-    con_due_tasti(giocatore, (10, 1), ENTRO_99)
+    con_due_tasti(giocatore, "FormLUScansione", (10, 1), ENTRO_99)
 
 
 def centinaia_scansione(giocatore):
     """Flats, longs and units, by manual scanning."""
-    con_due_tasti(giocatore, (100, 10, 1), ENTRO_999)
+    con_due_tasti(giocatore, "FormHLUScansione", (100, 10, 1), ENTRO_999)
 
 
 def blocchi_tocco(giocatore):
     """Longs and units, by touch."""
-    a_tocchi(giocatore, (10, 1), ENTRO_99)
+    a_tocchi(giocatore, "FormLUHK", (10, 1), ENTRO_99)
 
 
 def centinaia_tocco(giocatore):
     """Flats, longs and units, by touch."""
-    a_tocchi(giocatore, (100, 10, 1), ENTRO_999)
+    a_tocchi(giocatore, "FormHLUHK", (100, 10, 1), ENTRO_999)
