@@ -27,13 +27,15 @@ def risvegli(processo):
 def riposo(schermo, programma, cartella):
     """The bars at rest, after a wrong and a right answer with their sounds."""
     from albero import Albero
-    from giocatore import Giocatore
-    from partite import barre
+    from giocatore import AVVIO, Giocatore
+    from partite import PARTITE
     processo = schermo.avvia(programma, stderr=subprocess.DEVNULL)
     with open(os.devnull, "w", encoding="ascii") as nulla:
         voce, sys.stdout = sys.stdout, nulla
         try:
-            barre(Giocatore(schermo, Albero(processo), cartella))
+            giocatore = Giocatore(schermo, Albero(processo), cartella)
+            giocatore.vai(AVVIO)
+            PARTITE["barre"].gioca(giocatore)
         finally:
             sys.stdout = voce
     time.sleep(QUIETE)

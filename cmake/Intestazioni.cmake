@@ -1,7 +1,7 @@
 # Most of what a file takes to compile are the headers of Qt and of the standard library that it
-# includes. With SOMME_COMPILED_HEADERS they are read once and taken from there by whoever names the
-# set. Every file still includes what it uses: a release is built without.
-option(SOMME_COMPILED_HEADERS "Read the common headers once" OFF)
+# includes. They can be read once and taken from there by whoever names the set. Every file of a room
+# still includes what it uses: the presets dev and release, which build the rooms without, would tell.
+set(SOMME_COMPILED_HEADERS "" CACHE STRING "Who reads the common headers once: TESTS, ALL or nobody")
 
 # What Qt tells each program alone; nothing asks for it, and it would make one's headers no other's.
 set(SOMME_ALIKE -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR)

@@ -12,7 +12,7 @@
 function(somme_room name)
   cmake_parse_arguments(ARG "NO_WINDOWS" "FOLDER" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
   add_library(somme_${name} STATIC ${ARG_SOURCES})
-  if(NOT ARG_NO_WINDOWS)
+  if(NOT ARG_NO_WINDOWS AND SOMME_COMPILED_HEADERS STREQUAL "ALL")
     somme_compiled_headers(somme_${name} finestre_intestazioni)
   endif()
   add_library(somme::${name} ALIAS somme_${name})

@@ -2,7 +2,8 @@
 // draws.
 //
 //   ritratti FOLDER LANGUAGE               the manual's scenes, in a window of 800 by 560
-//   ritratti FOLDER LANGUAGE WIDTHxHEIGHT  every form at its start, in a window of that size
+//   ritratti FOLDER LANGUAGE WIDTHxHEIGHT  every form at its start, in a window of that size; a
+//                                          keyboard sheet with the print dialog over it
 //
 // Without a display: QT_QPA_PLATFORM=offscreen. QT_SCALE_FACTOR gives more pixels for each point.
 
@@ -14,6 +15,7 @@
 #include "app/shared/stringhe_condivise.h"
 #include "app/tabella_forme.h"
 #include "tools/manuale/scene.h"
+#include "tools/manuale/scene_tocco.h"
 
 namespace {
 
@@ -26,9 +28,9 @@ void ScegliLingua(prova::Banco& banco, const QString& lingua) {
   somme::CaricaStringhe(*banco.ambiente);
 }
 
-bool Salva(prova::Banco& banco, const QDir& cartella, const QString& nome) {
+bool Salva(const QImage& ritratto, const QDir& cartella, const QString& nome) {
   const QString percorso = cartella.filePath(nome + QStringLiteral(".png"));
-  if (manuale::Ritratto(banco).save(percorso)) return true;
+  if (ritratto.save(percorso)) return true;
   std::fprintf(stderr, "%s cannot be written\n", qPrintable(percorso));
   return false;
 }
@@ -37,8 +39,7 @@ bool Scene(const QDir& cartella, const QString& lingua) {
   for (const manuale::Scena& scena : manuale::Scene()) {
     prova::Banco banco(kFinestra);
     ScegliLingua(banco, lingua);
-    scena.prepara(banco);
-    if (!Salva(banco, cartella, QLatin1String(scena.nome))) return false;
+    if (!Salva(scena.ritrai(banco), cartella, QLatin1String(scena.nome))) return false;
   }
   return true;
 }
@@ -55,8 +56,14 @@ bool Forme(const QDir& cartella, const QString& lingua, QSize lato) {
     if (scritto.endsWith(QLatin1String("Scansione"))) {
       banco.ambiente->stato.ModalitaInput = somme::kScansioneAutomatica;
     }
-    banco.mostra(nome);
-    if (!Salva(banco, cartella, scritto)) return false;
+    QImage ritratto;
+    if (scritto.startsWith(QLatin1String("FormStampa"))) {
+      manuale::ConIlFoglio(banco, nome, [&](auto&) { ritratto = manuale::Ritratto(banco); });
+    } else {
+      banco.mostra(nome);
+      ritratto = manuale::Ritratto(banco);
+    }
+    if (!Salva(ritratto, cartella, scritto)) return false;
   }
   return true;
 }

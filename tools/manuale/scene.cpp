@@ -8,16 +8,20 @@
 #include "app/form_menu.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/form_abaco.h"
+#include "exercises/abacus/form_abaco_scansione.h"
 #include "exercises/bars/form_barre10.h"
 #include "exercises/bars/form_barre10_scansione.h"
 #include "exercises/bars/form_barre20.h"
 #include "exercises/blocks/form_hlu.h"
 #include "exercises/blocks/form_lu.h"
+#include "exercises/blocks/form_lu_scansione.h"
 #include "exercises/numbers/form_numeri_addendo.h"
 #include "exercises/numbers/form_numeri_totale.h"
 #include "exercises/numbers/form_numeri_totale_scansione.h"
 #include "exercises/table/form_tabella.h"
 #include "platform/forms/menu_bar.h"
+#include "support/scansione_di_prova.h"
+#include "tools/manuale/scene_tocco.h"
 
 namespace manuale {
 
@@ -180,6 +184,19 @@ void Tabella(Banco& banco) {
   banco.mostra(forme::kFormTabella);
 }
 
+// Chooses a key of a scanning keyboard so many times, as a pupil with two switches does.
+void Scegli(Banco& banco, const TastieraScansione& tastiera, int tasto, int volte = 1) {
+  for (int i = 0; i < volte; ++i) {
+    if (!prova::scegliAMano(banco, tastiera, tasto)) throw std::logic_error("the key is not lit");
+  }
+}
+FormLUScansione& LUScansione(Banco& banco) {
+  banco.ambiente->stato.ModalitaInput = kScansioneManuale;
+  banco.ambiente->stato.TipoEsercizio = 3;
+  banco.sorte.scrivi({{37 - 1, 99}, {23, 37}});
+  return banco.apri<FormLUScansione>(forme::kFormLUScansione);
+}
+
 FormNumeriTotale& Numeri(Banco& banco) {
   banco.ambiente->stato.TipoEsercizio = 7;
   banco.ambiente->stato.TitoloEsercizio =
@@ -204,6 +221,29 @@ void NumeriAddendo(Banco& banco) {
   banco.ambiente->stato.TipoEsercizio = 1;
   banco.mostra(forme::kFormNumeriAddendo);
 }
+void BlocchiScansione(Banco& banco) {
+  auto& forma = LUScansione(banco);
+  Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kDecine, 2);
+  Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kUnita, 3);
+}
+void BlocchiScansioneCifre(Banco& banco) {
+  auto& forma = LUScansione(banco);
+  for (const int addendo : {23, 14}) {
+    Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kDecine, addendo / 10);
+    Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kUnita, addendo % 10);
+    Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kConferma);
+  }
+  banco.tempo.advance(3);
+  Scegli(banco, forma.TastieraNumericaScansione1, 3);
+}
+void AbacoScansione(Banco& banco) {
+  banco.ambiente->stato.ModalitaInput = kScansioneManuale;
+  banco.ambiente->stato.TipoEsercizio = 3;
+  banco.sorte.scrivi({{43 - 1, 99}, {28, 43}});
+  auto& forma = banco.apri<FormAbacoScansione>(forme::kFormAbacoScansione);
+  Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kDecine, 2);
+  Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kUnita, 6);
+}
 void NumeriScansione(Banco& banco) {
   banco.ambiente->stato.ModalitaInput = kScansioneAutomatica;
   banco.ambiente->stato.TipoEsercizio = 7;
@@ -212,32 +252,54 @@ void NumeriScansione(Banco& banco) {
   banco.tempo.advance(4.2);
 }
 
+// The whole window, once the program has been brought to the moment.
+template <auto prepara>
+QImage Ritrai(Banco& banco) {
+  prepara(banco);
+  return Ritratto(banco);
+}
+
 constexpr auto kScene = std::to_array<Scena>({
-    {"avvio", Avvio},
-    {"menu", Menu},
-    {"menu_impostazioni", MenuImpostazioni},
-    {"menu_lingua", MenuLingua},
-    {"tempo_scansione", TempoScansione},
-    {"menu_barre", MenuBarre},
-    {"menu_blocchi", MenuBlocchi},
-    {"menu_numeri", MenuNumeri},
-    {"menu_abaco", MenuAbaco},
-    {"menu_tabella", MenuTabella},
-    {"barre10", Barre10},
-    {"barre10_aiuto", Barre10Aiuto},
-    {"barre10_giusto", Barre10Giusto},
-    {"barre20", Barre20},
-    {"barre_scansione", BarreScansione},
-    {"blocchi99", Blocchi99},
-    {"blocchi_cambio", BlocchiCambio},
-    {"blocchi999", Blocchi999},
-    {"abaco_dieci", AbacoDieciUnita},
-    {"abaco_migliaia", AbacoMigliaia},
-    {"tabella", Tabella},
-    {"numeri", NumeriTotale},
-    {"numeri_elenco", NumeriElenco},
-    {"numeri_addendo", NumeriAddendo},
-    {"numeri_scansione", NumeriScansione},
+    {"avvio", Ritrai<Avvio>},
+    {"menu", Ritrai<Menu>},
+    {"menu_impostazioni", Ritrai<MenuImpostazioni>},
+    {"menu_lingua", Ritrai<MenuLingua>},
+    {"tempo_scansione", Ritrai<TempoScansione>},
+    {"menu_barre", Ritrai<MenuBarre>},
+    {"menu_blocchi", Ritrai<MenuBlocchi>},
+    {"menu_numeri", Ritrai<MenuNumeri>},
+    {"menu_abaco", Ritrai<MenuAbaco>},
+    {"menu_tabella", Ritrai<MenuTabella>},
+    {"barre10", Ritrai<Barre10>},
+    {"barre10_aiuto", Ritrai<Barre10Aiuto>},
+    {"barre10_giusto", Ritrai<Barre10Giusto>},
+    {"barre20", Ritrai<Barre20>},
+    {"barre_scansione", Ritrai<BarreScansione>},
+    {"blocchi99", Ritrai<Blocchi99>},
+    {"blocchi_cambio", Ritrai<BlocchiCambio>},
+    {"blocchi999", Ritrai<Blocchi999>},
+    {"abaco_dieci", Ritrai<AbacoDieciUnita>},
+    {"abaco_migliaia", Ritrai<AbacoMigliaia>},
+    {"tabella", Ritrai<Tabella>},
+    {"numeri", Ritrai<NumeriTotale>},
+    {"numeri_elenco", Ritrai<NumeriElenco>},
+    {"numeri_addendo", Ritrai<NumeriAddendo>},
+    {"numeri_scansione", Ritrai<NumeriScansione>},
+    {"blocchi_scansione", Ritrai<BlocchiScansione>},
+    {"blocchi_scansione_cifre", Ritrai<BlocchiScansioneCifre>},
+    {"abaco_scansione", Ritrai<AbacoScansione>},
+    {"barre_tocco", Ritrai<BarreTocco>},
+    {"numeri_tocco", Ritrai<NumeriTocco>},
+    {"blocchi_tocco", Ritrai<BlocchiTocco>},
+    {"abaco_tocco", Ritrai<AbacoTocco>},
+    {"foglio_barre", FoglioBarre},
+    {"foglio_numeri", FoglioNumeri},
+    {"foglio_blocchi99", FoglioBlocchi99},
+    {"foglio_blocchi999", FoglioBlocchi999},
+    {"foglio_abaco", FoglioAbaco},
+    {"stampa_foglio", StampaFoglio},
+    {"stampa_avanzate", StampaAvanzate},
+    {"tavoletta", Tavoletta},
 });
 
 }  // namespace

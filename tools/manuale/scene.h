@@ -11,8 +11,8 @@ namespace manuale {
 
 struct Scena {
   const char* nome;  // of the picture, without its ending
-  // Brings the program to the moment; the picture is then taken of the whole window.
-  void (*prepara)(prova::Banco& banco);
+  // Brings the program to the moment and takes the picture.
+  QImage (*ritrai)(prova::Banco& banco);
 };
 
 [[nodiscard]] std::span<const Scena> Scene();

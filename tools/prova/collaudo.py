@@ -3,9 +3,10 @@
 
     collaudo.py <package> <folder for the pictures>
 
-Where root can make a fresh Debian (debootstrap) the package is installed in one, with what it
-depends on and nothing else, and removed at the end; elsewhere it is laid out in a plain folder.
-A case is solved, the language changed, the program started again in it, the manual opened.
+Where a fresh Debian can be made (root, debootstrap, an archive that answers) the package is
+installed in one, with what it depends on and nothing else, and removed at the end; elsewhere it is
+laid out in a plain folder. A case is solved, the language changed, the program started again in it,
+the manual opened.
 """
 
 import os
@@ -16,117 +17,9 @@ import sys
 import tempfile
 
 from giocatore import AVVIO, BOTTONE, VOCE, Errore, Giocatore
+from installazione import NESSUNO, Cartella, Debian, SenzaDebian
 from partite import PARTITE
 from schermo import ErroreSchermo, Schermo
-
-# Somebody without any right of their own.
-NESSUNO = 65534
-
-
-def esegui(*comando, **opzioni):
-    """Runs a command; what it says is shown only when it fails."""
-    esito = subprocess.run(comando, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                           stderr=subprocess.STDOUT, text=True, errors="replace", **opzioni)
-    if esito.returncode != 0:
-        raise Errore(f"{' '.join(comando)} failed:\n{esito.stdout}")
-    return esito.stdout
-
-
-class Albero:
-    """A tree of files in which the package is installed."""
-
-    def __init__(self, radice):
-        self.radice = radice
-        self.casa = "/home/alunno"
-
-    def dentro(self, *parti):
-        """The path of a file of the tree, as this process reaches it."""
-        return os.path.join(self.radice, *(p.lstrip("/") for p in parti))
-
-    def prepara_casa(self):
-        """A home for the one who uses the program; what opens documents there only notes their names."""
-        bin_ = self.dentro(self.casa, "bin")
-        os.makedirs(bin_)
-        apri = os.path.join(bin_, "xdg-open")
-        with open(apri, "w", encoding="ascii") as file:
-            file.write('#!/bin/sh\necho "$1" >> "$HOME/aperti"\n')
-        os.chmod(apri, 0o755)
-        if os.geteuid() == 0:
-            for cartella, _, file in os.walk(self.dentro(self.casa)):
-                for nome in (".", *file):
-                    os.chown(os.path.join(cartella, nome), NESSUNO, NESSUNO)
-
-
-class Debian(Albero):
-    """A fresh Debian of its own."""
-
-    def installa(self, pacchetto):
-        self._debootstrap()
-        shutil.copy(pacchetto, self.dentro("/tmp/somme.deb"))
-        ambiente = {**os.environ, "DEBIAN_FRONTEND": "noninteractive", "LC_ALL": "C.UTF-8"}
-        esegui("chroot", self.radice, "apt-get", "update", env=ambiente)
-        esegui("chroot", self.radice, "apt-get", "install", "-y", "--no-install-recommends",
-               "/tmp/somme.deb", env=ambiente)
-        # Sockets of the desktop outside have the same path in the tree.
-        os.makedirs(self.dentro(os.path.dirname(self.radice)), exist_ok=True)
-        os.symlink("/", self.dentro(self.radice))
-
-    def _debootstrap(self):
-        """The release and the archive that this machine has its own packages from."""
-        fonti = esegui("apt-get", "indextargets", "--format", "$(SITE) $(CODENAME)",
-                       "Created-By: Packages", "Origin: Debian", "Component: main")
-        with open("/etc/os-release", encoding="utf-8") as file:
-            nome = dict(r.strip().split("=", 1) for r in file if "=" in r)["VERSION_CODENAME"]
-        sito = next((s for s, n in (r.split() for r in fonti.splitlines()) if n == nome), None)
-        if sito is None:
-            raise Errore(f"no archive of Debian {nome} is known here")
-        esegui("debootstrap", "--variant=minbase", nome, self.radice, sito)
-        for cosa in ("sources.list", "sources.list.d", "apt.conf.d", "trusted.gpg.d"):
-            da, a = os.path.join("/etc/apt", cosa), self.dentro("/etc/apt", cosa)
-            if os.path.isfile(da):
-                shutil.copy(da, a)
-            elif os.path.isdir(da) and cosa == "trusted.gpg.d":
-                shutil.copytree(da, a, dirs_exist_ok=True)
-
-    def comando(self):
-        return ["chroot", self.radice, "/usr/bin/somme"]
-
-    def programma(self):
-        return "/usr/lib/somme"
-
-    def togli(self):
-        esegui("chroot", self.radice, "apt-get", "purge", "-y", "somme")
-        resti = [r for r in ("/usr/lib/somme", "/usr/bin/somme", "/usr/share/doc/somme")
-                 if os.path.lexists(self.dentro(r))]
-        if resti:
-            raise Errore(f"removed, the package leaves {' '.join(resti)}")
-
-
-class Cartella(Albero):
-    """A plain folder, on the libraries of this machine."""
-
-    def installa(self, pacchetto):
-        esegui("dpkg-deb", "-x", pacchetto, self.radice)
-        if os.geteuid() != 0:
-            esegui("chmod", "-R", "a-w", self.dentro("/usr"))
-        self.casa = self.dentro(self.casa)
-
-    def dentro(self, *parti):
-        percorso = os.path.join("/", *parti)
-        return percorso if percorso.startswith(self.radice + "/") else super().dentro(*parti)
-
-    def comando(self):
-        return [self.dentro("/usr/bin/somme")]
-
-    def programma(self):
-        return self.dentro("/usr/lib/somme")
-
-    def togli(self):
-        esegui("chmod", "-R", "u+w", self.radice)
-
-
-def puo_fare_debian():
-    return os.geteuid() == 0 and shutil.which("debootstrap") is not None
 
 
 class Collaudo:
@@ -158,7 +51,8 @@ class Collaudo:
         processo, lettura, giocatore = self.avvia()
         giocatore.vai(AVVIO)
         PARTITE["numeri"].gioca(giocatore)
-        giocatore.premi("Torna al menù principale")
+        giocatore.vai("Torna al menù principale")
+        lettura.aspetta_oggetto(BOTTONE, "Uso delle barre")
         giocatore.premi("Lingua", VOCE)
         giocatore.premi("English", VOCE)
         lettura.aspetta_oggetto(BOTTONE, "Using bars")
@@ -167,7 +61,7 @@ class Collaudo:
 
     def riavvia_nella_lingua(self):
         processo, lettura, giocatore = self.avvia()
-        giocatore.premi("Start")
+        giocatore.vai("Start")
         lettura.aspetta_oggetto(BOTTONE, "Using bars")
         giocatore.fotografa("riavvio")
         self.apri_manuale(giocatore, lettura)
@@ -225,33 +119,50 @@ def usa(albero, cartella):
 
 
 def usa_come_nessuno(albero, cartella):
-    """In a process of its own that gives up root, all but the right to enter the tree."""
-    os.makedirs(cartella, exist_ok=True)
-    os.chown(cartella, NESSUNO, NESSUNO)
+    """In a process of its own that gives up root, all but the right to enter the tree.
+
+    Folders outside of the tree may be closed to it: the scripts go into the tree, and the pictures
+    come from there.
+    """
+    qui = albero.dentro("/tmp/prova")
+    foto = albero.dentro("/tmp/foto")
+    shutil.copytree(os.path.dirname(os.path.abspath(__file__)), qui)
+    os.mkdir(foto)
+    os.chown(foto, NESSUNO, NESSUNO)
     comando = ["setpriv", f"--reuid={NESSUNO}", f"--regid={NESSUNO}", "--clear-groups",
-               "--inh-caps=+sys_chroot", "--ambient-caps=+sys_chroot",
-               sys.executable, os.path.abspath(__file__), "--usa", type(albero).__name__,
-               albero.radice, albero.casa, os.path.abspath(cartella)]
+               *albero.diritti, sys.executable, os.path.join(qui, os.path.basename(__file__)),
+               "--usa", type(albero).__name__, albero.radice, albero.casa, foto]
     ambiente = {**os.environ, "TMPDIR": albero.dentro("/tmp"), "HOME": albero.dentro(albero.casa)}
-    if subprocess.run(comando, env=ambiente, check=False).returncode != 0:
+    esito = subprocess.run(comando, env=ambiente, cwd=albero.radice, check=False)
+    shutil.copytree(foto, cartella, dirs_exist_ok=True)
+    if esito.returncode != 0:
         raise Errore("the installed program did not do what it should")
 
 
+def usa_installato(albero, cartella):
+    albero.prepara_casa()
+    if os.geteuid() == 0:
+        usa_come_nessuno(albero, cartella)
+    else:
+        usa(albero, cartella)
+    albero.togli()
+
+
 def collauda(pacchetto, cartella):
-    with tempfile.TemporaryDirectory(prefix="collaudo-") as radice:
-        radice = os.path.realpath(radice)
-        os.chmod(radice, 0o755)
-        albero = (Debian if puo_fare_debian() else Cartella)(radice)
-        print(f"Installing in {'a fresh Debian' if isinstance(albero, Debian) else 'a folder'}")
-        albero.installa(os.path.abspath(pacchetto))
-        os.makedirs(albero.dentro("/tmp"), exist_ok=True)
-        os.chmod(albero.dentro("/tmp"), 0o1777)
-        albero.prepara_casa()
-        if os.geteuid() == 0:
-            usa_come_nessuno(albero, cartella)
-        else:
-            usa(albero, cartella)
-        albero.togli()
+    pacchetto = os.path.abspath(pacchetto)
+    for tipo in (Debian, Cartella):
+        with tempfile.TemporaryDirectory(prefix="collaudo-") as radice:
+            os.chmod(radice, 0o755)
+            albero = tipo(os.path.realpath(radice))
+            try:
+                print(f"Installing in {'a fresh Debian' if tipo is Debian else 'a plain folder'}")
+                albero.installa(pacchetto)
+            except SenzaDebian as perche:
+                print("No fresh Debian can be made here; the package goes into a plain folder, on the"
+                      f" libraries of this machine: {perche}")
+                continue
+            usa_installato(albero, cartella)
+            return
 
 
 def main():

@@ -1,0 +1,155 @@
+#include "tools/manuale/scene_tocco.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include "app/shared/nomi_forme.h"
+#include "exercises/abacus/form_abaco_hk.h"
+#include "exercises/bars/form_barre10_hk.h"
+#include "exercises/blocks/form_lu_hk.h"
+#include "exercises/numbers/form_numeri_totale_hk.h"
+#include "support/tocchi.h"
+#include "tools/tavoletta/finestra_tavoletta.h"
+
+namespace manuale {
+
+namespace {
+
+using namespace somme;
+using prova::Banco;
+
+// Keys of the sheets of blocks and abacus.
+constexpr int kDecineBlocchi = 2;
+constexpr int kUnitaBlocchi = 3;
+constexpr int kConfermaBlocchi = 8;
+constexpr int kDecineAbaco = 3;
+constexpr int kUnitaAbaco = 4;
+
+template <class F>
+F& Pronta(Banco& banco, std::string_view nome, qint16 tipo,
+          const std::vector<prova::SorteDiProva::Estrazione>& caso) {
+  banco.ambiente->stato.ModalitaInput = kHelpiKeys;
+  banco.ambiente->stato.TipoEsercizio = tipo;
+  banco.sorte.scrivi(caso);
+  return prova::apriPronta<F>(banco, nome);
+}
+
+void Tocca(Banco& banco, const MappaTasti& mappa, int tasto, int volte = 1) {
+  for (int i = 0; i < volte; ++i) prova::tocca(banco, mappa, tasto);
+}
+
+QImage Foglio(Banco& banco, std::string_view nome) {
+  QImage foglio;
+  ConIlFoglio(banco, nome,
+              [&](const frmAvviaStampa& dialogo) { foglio = dialogo.immagine().punti(); });
+  return foglio;
+}
+
+QImage Dialogo(const frmAvviaStampa& dialogo) {
+  QCoreApplication::processEvents();
+  return dialogo.page()->window()->grab().toImage();
+}
+
+void Clicca(const platform::Control& controllo) {
+  const QWidget* dialogo = controllo.widget()->window();
+  const QPoint centro = controllo.widget()->rect().center();
+  QTest::mouseClick(dialogo->windowHandle(), Qt::LeftButton, {},
+                    controllo.widget()->mapTo(dialogo, centro));
+  QCoreApplication::processEvents();
+}
+
+// A printer with the sheet that the keyboard wants, or with the one that most have.
+void MettiStampante(Banco& banco, const platform::Paper& carta) {
+  banco.stampanti.nessuna();
+  banco.stampanti.metti(carta.media, prova::StampanteDiProva(carta));
+  banco.stampanti.elenco.standard = carta.media;
+}
+
+}  // namespace
+
+void ConIlFoglio(Banco& banco, std::string_view nome,
+                 const std::function<void(frmAvviaStampa&)>& mentre) {
+  platform::Forms& finestre = banco.ambiente->fondo.forms();
+  banco.mostra(forme::kFormAvvio);
+  // Whoever asks for the sheet waits until the dialog has gone.
+  banco.tempo.after(0.1, [&] {
+    auto& dialogo = static_cast<frmAvviaStampa&>(finestre.loaded(forme::kFrmAvviaStampa));
+    const auto vivo = dialogo.shared_from_this();
+    QCoreApplication::processEvents();
+    mentre(dialogo);
+    if (!dialogo.isUnloaded()) dialogo.cmdChiudi.click();
+  });
+  finestre.current()->run([&] { finestre.show(nome); });
+  QCoreApplication::processEvents();
+}
+
+void BarreTocco(Banco& banco) {
+  banco.ambiente->stato.LimiteEsercizio = 10;
+  Pronta<FormBarre10HK>(banco, forme::kFormBarre10HK, 1, {{7 - 1, 10}, {3, 7}});
+  prova::toccaNumero(banco, QStringLiteral("7"));
+}
+
+void NumeriTocco(Banco& banco) {
+  Pronta<FormNumeriTotaleHK>(banco, forme::kFormNumeriTotaleHK, 7, {{74, 99}, {47, 75}});
+  prova::toccaNumero(banco, QStringLiteral("75"));
+}
+
+void BlocchiTocco(Banco& banco) {
+  Pronta<FormLUHK>(banco, forme::kFormLUHK, 3, {{52 - 1, 99}, {27, 52}});
+  Tocca(banco, kMappaBlocchi, kDecineBlocchi, 2);
+  Tocca(banco, kMappaBlocchi, kUnitaBlocchi, 7);
+  Tocca(banco, kMappaBlocchi, kConfermaBlocchi);
+  Tocca(banco, kMappaBlocchi, kDecineBlocchi);
+}
+
+void AbacoTocco(Banco& banco) {
+  Pronta<FormAbacoHK>(banco, forme::kFormAbacoHK, 3, {{43 - 1, 99}, {28, 43}});
+  Tocca(banco, kMappaAbaco, kDecineAbaco, 2);
+  Tocca(banco, kMappaAbaco, kUnitaAbaco, 8);
+}
+
+QImage FoglioBarre(Banco& banco) {
+  return Foglio(banco, forme::kFormStampaFoglioNumeri);
+}
+QImage FoglioNumeri(Banco& banco) {
+  return Foglio(banco, forme::kFormStampaFoglioNumeri2);
+}
+QImage FoglioBlocchi99(Banco& banco) {
+  return Foglio(banco, forme::kFormStampaLU);
+}
+QImage FoglioBlocchi999(Banco& banco) {
+  return Foglio(banco, forme::kFormStampaPLU);
+}
+QImage FoglioAbaco(Banco& banco) {
+  return Foglio(banco, forme::kFormStampaAbaco);
+}
+
+QImage StampaFoglio(Banco& banco) {
+  MettiStampante(banco, prova::CartaA3());
+  QImage dialogo;
+  ConIlFoglio(banco, forme::kFormStampaFoglioNumeri,
+              [&](const frmAvviaStampa& aperto) { dialogo = Dialogo(aperto); });
+  return dialogo;
+}
+
+QImage StampaAvanzate(Banco& banco) {
+  MettiStampante(banco, prova::CartaA4());
+  QImage dialogo;
+  ConIlFoglio(banco, forme::kFormStampaFoglioNumeri, [&](frmAvviaStampa& aperto) {
+    Clicca(aperto.A3[1]);
+    Clicca(aperto.Command1);
+    dialogo = Dialogo(aperto);
+  });
+  return dialogo;
+}
+
+QImage Tavoletta(Banco& /*banco*/) {
+  tavoletta::Tavoletta tavoletta;
+  tavoletta::FinestraTavoletta finestra(tavoletta);
+  finestra.Apri(0);
+  finestra.show();
+  QCoreApplication::processEvents();
+  return finestra.grab().toImage();
+}
+
+}  // namespace manuale
