@@ -158,15 +158,17 @@ Printers::Opened CupsQueues::open(const QString& name) const {
   return {Printers::Access::Granted, traits};
 }
 
-bool CupsQueues::send(const Queue& queue, int job, const PrintJob& content) const {
+// Pages that are not the job's last wait at the server; nothing at all is the last.
+bool CupsQueues::send(const Queue& queue, int job, const PrintJob& content, Pages which) const {
   const QByteArray title = content.title.toUtf8();
   // In pieces, so that a server that stops taking them is noticed.
   constexpr qsizetype kPiece = 65536;
   if (cups_.startDestDocument(CUPS_HTTP_DEFAULT, queue.dest(), queue.info(), job, title.constData(),
-                              "application/pdf", 0, nullptr, 1) != HTTP_STATUS_CONTINUE) {
+                              "application/pdf", 0, nullptr,
+                              which == Pages::End ? 1 : 0) != HTTP_STATUS_CONTINUE) {
     return false;
   }
-  const QByteArray& pages = content.pages;
+  const QByteArray pages = which == Pages::All ? content.pages : QByteArray();
   for (qsizetype from = 0; from < pages.size(); from += kPiece) {
     const qsizetype length = std::min(kPiece, pages.size() - from);
     if (cups_.writeRequestData(CUPS_HTTP_DEFAULT, pages.constData() + from, size_t(length)) !=
@@ -199,7 +201,10 @@ PrintResult CupsQueues::print(const PrintJob& job, const std::function<bool()>& 
                                            options) <= IPP_STATUS_OK_EVENTS_COMPLETE;
   cups_.freeOptions(count, options);
   if (!created) return {};
-  result.finished = wanted() && send(queue, result.job, job) && wanted();
+  // The server prints nothing before it has been told of the end: what has been given up by then
+  // never comes out.
+  result.finished = wanted() && send(queue, result.job, job, Pages::All) && wanted() &&
+                    send(queue, result.job, job, Pages::End) && wanted();
   if (!result.finished) cups_.cancelDestJob(CUPS_HTTP_DEFAULT, queue.dest(), result.job);
   return result;
 }

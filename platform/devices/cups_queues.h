@@ -30,7 +30,8 @@ class CupsQueues {
   class Queue;
 
   int enumerate(cups_ptype_t kinds, int milliseconds, const Found& found) const;
-  [[nodiscard]] bool send(const Queue& queue, int job, const PrintJob& content) const;
+  enum class Pages { All, End };
+  [[nodiscard]] bool send(const Queue& queue, int job, const PrintJob& content, Pages which) const;
 
   CupsLibrary cups_;
 };

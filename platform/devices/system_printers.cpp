@@ -8,12 +8,6 @@ namespace platform {
 
 namespace {
 
-using std::chrono::milliseconds;
-
-constexpr milliseconds kListTime{1500};
-constexpr milliseconds kOpenTime{1500};
-constexpr milliseconds kPrintTime{20000};
-
 // What a search has found so far; it is of use also when the search does not come to its end.
 struct Findings {
   std::mutex mutex;
@@ -22,8 +16,11 @@ struct Findings {
 
 }  // namespace
 
-SystemPrinters::SystemPrinters(TimeSource& time, PdfFolder folder)
-    : work_(time), folder_(std::move(folder)), builtIn_(QStringLiteral("PDF")) {}
+SystemPrinters::SystemPrinters(TimeSource& time, PdfFolder folder, Patience patience)
+    : work_(time),
+      folder_(std::move(folder)),
+      patience_(patience),
+      builtIn_(QStringLiteral("PDF")) {}
 
 Printers::List SystemPrinters::list() {
   const auto findings = std::make_shared<Findings>();
@@ -38,7 +35,7 @@ Printers::List SystemPrinters::list() {
         });
         return true;
       },
-      kListTime);
+      patience_.list);
   List result;
   {
     const std::lock_guard lock(findings->mutex);
@@ -59,7 +56,7 @@ Printers::Opened SystemPrinters::open(const QString& name) {
             const std::optional<CupsLibrary> cups = CupsLibrary::load();
             return cups ? CupsQueues(*cups).open(name) : Opened{};
           },
-          kOpenTime)
+          patience_.open)
       .value_or(Opened{});
 }
 
@@ -72,7 +69,7 @@ PrintResult SystemPrinters::print(const PrintJob& job) {
             if (!cups) return PrintResult{};
             return CupsQueues(*cups).print(job, [&waiting] { return waiting.goesOn(); });
           },
-          kPrintTime)
+          patience_.print)
       .value_or(PrintResult{});
 }
 

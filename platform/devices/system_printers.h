@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -14,7 +15,16 @@ namespace platform {
 // long as it likes; its library is loaded by the first call.
 class SystemPrinters final : public Printers {
  public:
-  SystemPrinters(TimeSource& time, PdfFolder folder);
+  // How long the print server is waited for at most, whatever is asked of it.
+  struct Patience {
+    std::chrono::milliseconds list{1500};
+    std::chrono::milliseconds open{1500};
+    std::chrono::milliseconds print{20000};
+  };
+
+  SystemPrinters(TimeSource& time, PdfFolder folder)
+      : SystemPrinters(time, std::move(folder), Patience{}) {}
+  SystemPrinters(TimeSource& time, PdfFolder folder, Patience patience);
 
   // The built-in printer is the default where CUPS has none, and where it does not answer.
   [[nodiscard]] List list() override;
@@ -24,6 +34,7 @@ class SystemPrinters final : public Printers {
  private:
   BoundedWork work_;
   PdfFolder folder_;
+  Patience patience_;
   // What the built-in printer is called: another printer may have its name.
   QString builtIn_;
 };

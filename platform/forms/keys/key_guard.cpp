@@ -137,7 +137,8 @@ bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
   if (press.released) deliver(*press.released);
   if (press.lost) letGo();
   if (blocked) return true;
-  return command && worked(window, event);
+  // An open menu has the keyboard to itself, though the window below it is told of the keys.
+  return command && QApplication::activePopupWidget() == nullptr && worked(window, event);
 }
 
 bool KeyGuard::worked(QWindow& window, const QKeyEvent& event) {

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTcpSocket>
 #include <QTest>
+#include <algorithm>
 
 namespace devices_test {
 
@@ -125,13 +126,25 @@ QString PrintServer::openJobs() {
   return QString::fromUtf8(run(QStringLiteral("lpstat"), {QStringLiteral("-o")}, &ok)).trimmed();
 }
 
-// The backend writes into the folder "PDF" of the user's home.
+namespace {
+
+// The folder that the backend writes into.
+QDir printedFolder() {
+  return QDir(QDir::home().filePath(QStringLiteral("PDF")));
+}
+
+}  // namespace
+
+QStringList PrintServer::printed(const QString& title) {
+  return printedFolder().entryList({QStringLiteral("*%1*.pdf").arg(title)});
+}
+
 QByteArray PrintServer::takePrinted(const QString& title) {
-  const QDir folder(QDir::home().filePath(QStringLiteral("PDF")));
+  const QDir folder = printedFolder();
   QElapsedTimer clock;
   clock.start();
   while (clock.elapsed() < kPatience) {
-    const QStringList files = folder.entryList({QStringLiteral("*%1*.pdf").arg(title)});
+    const QStringList files = printed(title);
     if (!files.isEmpty() && openJobs().isEmpty()) {
       QFile file(folder.filePath(files.first()));
       if (!file.open(QIODevice::ReadOnly)) return {};
@@ -142,6 +155,53 @@ QByteArray PrintServer::takePrinted(const QString& title) {
     QTest::qWait(50);
   }
   return {};
+}
+
+MutedServer::MutedServer(int port) : port_(port) {
+  server_.listen(QHostAddress::LocalHost);
+  connect(&server_, &QTcpServer::newConnection, this, &MutedServer::accept);
+}
+
+void MutedServer::accept() {
+  while (QTcpSocket* client = server_.nextPendingConnection()) {
+    lines_.push_back(std::make_unique<Line>());
+    Line& line = *lines_.back();
+    line.client = client;
+    line.server = new QTcpSocket(this);
+    line.server->connectToHost(QHostAddress::LocalHost, quint16(port_));
+    for (QTcpSocket* socket : {line.client.data(), line.server.data()}) {
+      connect(socket, &QTcpSocket::readyRead, this, [this, &line] { pass(line); });
+    }
+    connect(line.server, &QTcpSocket::connected, this, [this, &line] { pass(line); });
+    connect(line.client, &QTcpSocket::disconnected, line.server, &QTcpSocket::disconnectFromHost);
+    connect(line.server, &QTcpSocket::disconnected, line.client, &QTcpSocket::disconnectFromHost);
+  }
+}
+
+void MutedServer::pass(Line& line) {
+  if (silent_ || line.server->state() != QAbstractSocket::ConnectedState) return;
+  const QByteArray said = line.client->readAll();
+  line.server->write(said);
+  if (!words_.isEmpty()) {
+    line.said += said;
+    silent_ = line.said.contains(words_);
+    if (silent_) {
+      return;
+    }
+  }
+  line.client->write(line.server->readAll());
+}
+
+void MutedServer::speakAgain() {
+  silent_ = false;
+  words_.clear();
+  for (const auto& line : lines_) pass(*line);
+}
+
+int MutedServer::open() const {
+  return int(std::count_if(lines_.begin(), lines_.end(), [](const auto& line) {
+    return line->client->state() == QAbstractSocket::ConnectedState;
+  }));
 }
 
 }  // namespace devices_test

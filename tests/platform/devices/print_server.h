@@ -1,8 +1,12 @@
 #pragma once
 
+#include <QPointer>
 #include <QProcess>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
+#include <memory>
+#include <vector>
 
 // Print servers for tests.
 namespace devices_test {
@@ -20,12 +24,15 @@ class PrintServer {
   [[nodiscard]] const QString& problem() const { return problem_; }
   // For the environment variable that tells CUPS' library where its server is.
   [[nodiscard]] QByteArray address() const { return "127.0.0.1:" + QByteArray::number(port_); }
+  [[nodiscard]] int port() const { return port_; }
   bool addQueue(const QString& name, const QStringList& options = {});
   bool removeQueue(const QString& name);
   // More settings of a queue, as the administrator's tool takes them.
   bool administer(const QStringList& arguments);
   // Jobs that are neither finished nor cancelled.
   [[nodiscard]] QString openJobs();
+  // The printed files of a job.
+  [[nodiscard]] static QStringList printed(const QString& title);
   // Waits for the printed file of a job, takes it away and gives it; null when none came.
   [[nodiscard]] QByteArray takePrinted(const QString& title);
 
@@ -49,6 +56,42 @@ class SilentServer {
 
  private:
   QTcpServer server_;
+};
+
+// Stands before a print server and passes on what it and its clients say, until it falls silent: it
+// then takes what comes, connections too, keeps it to itself, and closes nothing.
+class MutedServer : public QObject {
+ public:
+  explicit MutedServer(int port);
+
+  [[nodiscard]] QByteArray address() const {
+    return "127.0.0.1:" + QByteArray::number(server_.serverPort());
+  }
+  // Silent in both directions, from now on.
+  void fallSilent() { silent_ = true; }
+  // What a client says is passed on as far as the piece with these words; no answer is from there.
+  void fallSilentAfter(const QByteArray& words) { words_ = words; }
+  [[nodiscard]] bool isSilent() const { return silent_; }
+  // Passes on everything that was kept, and what comes.
+  void speakAgain();
+  // Connections of clients that are still open.
+  [[nodiscard]] int open() const;
+
+ private:
+  struct Line {
+    QPointer<QTcpSocket> client;
+    QPointer<QTcpSocket> server;
+    QByteArray said;  // by the client, since the words are looked for
+  };
+
+  void accept();
+  void pass(Line& line);
+
+  QTcpServer server_;
+  int port_;
+  std::vector<std::unique_ptr<Line>> lines_;
+  QByteArray words_;
+  bool silent_ = false;
 };
 
 }  // namespace devices_test

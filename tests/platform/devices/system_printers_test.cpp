@@ -12,6 +12,7 @@
 #include "platform/devices/qt_time_source.h"
 #include "print_server.h"
 
+using devices_test::MutedServer;
 using devices_test::PrintServer;
 using devices_test::SilentServer;
 using platform::Printers;
@@ -28,11 +29,14 @@ QDateTime now() {
 
 // The printers of a machine whose print server is at the given address.
 struct Machine {
-  explicit Machine(const QByteArray& address) { qputenv("CUPS_SERVER", address); }
+  explicit Machine(const QByteArray& address, SystemPrinters::Patience patience = {})
+      : printers(time, platform::PdfFolder({files.path()}, now), patience) {
+    qputenv("CUPS_SERVER", address);
+  }
 
   QTemporaryDir files;
   platform::QtTimeSource time;
-  SystemPrinters printers{time, platform::PdfFolder({files.path()}, now)};
+  SystemPrinters printers;
 };
 
 // How long events were held up at most while something was done.
@@ -192,6 +196,42 @@ class SystemPrintersTest : public QObject {
     QVERIFY(!machine.printers
                  .print(job(kQueue, QStringLiteral("lavoro-di-prova-tre"), opened.traits.standard))
                  .finished);
+  }
+
+  void aServerThatFallsSilentBetweenOpeningAndPrintingNeverHoldsTheWindow_data() {
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("before a word of the print") << QByteArray();
+    QTest::newRow("instead of answering to the job") << QByteArray("job-name");
+    QTest::newRow("instead of answering to the pages") << QByteArray("last-document");
+    QTest::newRow("instead of saying that it has the pages") << QByteArray("%%EOF");
+  }
+  void aServerThatFallsSilentBetweenOpeningAndPrintingNeverHoldsTheWindow() {
+    QFETCH(QByteArray, after);
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kQueue));
+    MutedServer muted(server.port());
+    Machine machine(muted.address(), {.print = std::chrono::milliseconds(1500)});
+    const Printers::Opened opened = machine.printers.open(kQueue);
+    QVERIFY(opened.access == Printers::Access::Granted);
+    if (after.isEmpty()) {
+      muted.fallSilent();
+    } else {
+      muted.fallSilentAfter(after);
+    }
+    const QString title = QStringLiteral("lavoro-muto");
+    platform::PrintResult result{1, true};
+    const qint64 gap = longestGap(
+        [&] { result = machine.printers.print(job(kQueue, title, opened.traits.standard)); });
+    QVERIFY2(gap < 200, qPrintable(QString::number(gap)));
+    QVERIFY(muted.isSilent());
+    QVERIFY(!result.finished);
+    // A print that was told to have failed is not made up for when the server comes to itself.
+    QVERIFY(muted.open() > 0);
+    muted.speakAgain();
+    QTRY_COMPARE_WITH_TIMEOUT(muted.open(), 0, 20000);
+    QCOMPARE(server.openJobs(), QString());
+    QCOMPARE(server.printed(title), QStringList());
   }
 
   void nothingOfCupsIsLoadedBeforeTheFirstCall() {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -187,6 +188,43 @@ class KeyGuardTest : public QObject {
     // Neither is the hold of a key that began in the menu.
     for (int i = 0; i < 5; ++i) stage.repeat(Qt::Key_Return);
     QCOMPARE(clicks, 0);
+  }
+
+  void overAnOpenMenuNoAccessKeyAndNoShortcutOfThePageActs() {
+    Stage stage;
+    TrialForm& form = stage.show(kOne);
+    QStringList done;
+    form.First.onClick([&done] { done.append(QStringLiteral("access key")); });
+    form.MenuKeyed.onClick([&done] { done.append(QStringLiteral("shortcut")); });
+    stage.tap(Qt::Key_M, Qt::AltModifier, QStringLiteral("m"));
+    QVERIFY(QApplication::activePopupWidget() != nullptr);
+    stage.tap(Qt::Key_F, Qt::AltModifier, QStringLiteral("f"));
+    stage.tap(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(done, QStringList());
+    QApplication::activePopupWidget()->close();
+    stage.tap(Qt::Key_F, Qt::AltModifier, QStringLiteral("f"));
+    stage.tap(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(done, (QStringList{QStringLiteral("access key"), QStringLiteral("shortcut")}));
+  }
+
+  void aKeyThatIsDownWhenAMenuOpensOverThePageIsLetGo() {
+    Stage stage;
+    TrialForm& form = stage.show(kOne);
+    int clicks = 0;
+    form.First.onClick([&clicks] { ++clicks; });
+    form.First.setFocus();
+    const auto* first = static_cast<QAbstractButton*>(form.First.widget());
+    stage.press(Qt::Key_Space);
+    QVERIFY(first->isDown());
+    QMenu menu;
+    menu.addAction(QStringLiteral("Something"));
+    menu.popup({0, 0});
+    stage.release(Qt::Key_Space);
+    QVERIFY(!first->isDown());
+    menu.close();
+    QCOMPARE(clicks, 0);
+    stage.tap(Qt::Key_Space);
+    QCOMPARE(clicks, 1);
   }
 
   void aWindowThatLosesTheFocusWithAKeyDownClicksNothing() {
