@@ -37,6 +37,23 @@ std::vector<Row> mergedRows(const FormDesign& design) {
   return rows;
 }
 
+// The mouse gives the focus to a widget that has gone, when it is pressed while another of its
+// buttons has been held there since. The focus stays where it was, if it still can.
+// now: has the focus; before: had it, may be null. True when it had come to something hidden.
+bool keepFromHidden(Page& page, QWidget* before, QWidget& now) {
+  if (now.isVisible() || !page.isVisible()) return false;
+  Canvas* canvas = page.canvas();
+  if (!canvas->isAncestorOf(&now)) return false;
+  const bool back = before != nullptr && canvas->isAncestorOf(before) && before->isVisible() &&
+                    before->isEnabled();
+  if (back) {
+    before->setFocus(Qt::OtherFocusReason);
+  } else if (!canvas->passFocus(before, true)) {
+    now.clearFocus();
+  }
+  return true;
+}
+
 }  // namespace
 
 Form::Form(Runtime& runtime, const FormDesign& design)
@@ -55,8 +72,11 @@ void Form::build(QWidget* parent) {
   page_->hide();
   buildRows();
   setTabOrder();
-  QObject::connect(qApp, &QApplication::focusChanged, page_,
-                   [this](QWidget*, QWidget* now) { focusMoved(now); });
+  QObject::connect(qApp, &QApplication::focusChanged, page_, [this](QWidget* before, QWidget* now) {
+    // A page that is being destroyed lets go of the focus, and is none any more.
+    if (now == nullptr || keepFromHidden(*page_, before, *now)) return;
+    focusMoved(now);
+  });
   built_ = true;
 }
 

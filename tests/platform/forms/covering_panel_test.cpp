@@ -199,6 +199,37 @@ class CoveringPanelTest : public QObject {
     QVERIFY(focus == nullptr || focus->isVisible());
   }
 
+  void aButtonHeldOnItsListWhileItClosesBringsTheFocusNotBackToTheList() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    QWindow* window = stage.runtime->window().windowHandle();
+    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Second.hasFocus());
+    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
+    QVERIFY(below.form.Second.hasFocus());
+    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(below.form.First));
+    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
+    QVERIFY(below.form.First.hasFocus());
+    QCOMPARE(below.clicks, 1);
+  }
+
+  void whereNothingElseCanTakeItAButtonHeldOnTheListLeavesNoFocus() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    QWindow* window = stage.runtime->window().windowHandle();
+    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
+    for (platform::Control* control : below.form.controls()) {
+      if (below.form.isCovered(*control)) control->setEnabled(false);
+    }
+    below.form.Panel.setVisible(false);
+    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
+    QCOMPARE(QApplication::focusWidget(), nullptr);
+    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(below.form.First));
+  }
+
   void openingAnOpenPanelAgainForgetsNothing() {
     Stage stage;
     Below below(stage);
