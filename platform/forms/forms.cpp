@@ -80,7 +80,7 @@ void Forms::unload(Form& form) {
 void Forms::activateLater(const std::shared_ptr<Form>& form) {
   const auto activate = [this, weak = std::weak_ptr(form)] {
     const std::shared_ptr<Form> alive = weak.lock();
-    if (!alive || current() != alive.get()) return;
+    if (!alive || current() != alive.get() || alive->isLeaving()) return;
     alive->run([&alive] { alive->fireActivate(); }, Gate::Cases::DoNotMatter);
   };
   runtime_.gate().afterHandler(

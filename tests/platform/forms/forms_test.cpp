@@ -223,6 +223,18 @@ class FormsTest : public QObject {
     QCOMPARE(stage.currentName(), QStringLiteral("Two"));
   }
 
+  void aFormThatIsBeingLeftIsNotActivatedAgain() {
+    Stage stage;
+    TrialForm& one = stage.show(kOne);
+    stage.prepare["Two"] = [](TrialForm& two) { two.loading = [&two] { two.letEventsRun(); }; };
+    stage.log.clear();
+    one.run([&] { stage.runtime->forms().activateAgain(); });
+    one.run([&] { stage.runtime->forms().pass(one, kTwo.name); });
+    QCoreApplication::processEvents();
+    QCOMPARE(stage.log.count(QStringLiteral("One.Activate")), 0);
+    QCOMPARE(stage.currentName(), QStringLiteral("Two"));
+  }
+
   void readingAFormThatIsNotLoadedLoadsItHidden() {
     Stage stage;
     stage.show(kOne);
