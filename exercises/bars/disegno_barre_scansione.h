@@ -22,8 +22,9 @@ inline constexpr auto kRestoScansione = std::to_array<Row>({
     Errati({1140, 6540, 1740, 390}),
     Pannello({0, 0, 11175, 7695}),
     Elenco({360, 240, 5775, 6975}),
-    Stampa({7440, 4680, 2580, 1155}),
-    Chiudi({7440, 6240, 2580, 1155}),
+    // Low enough for the lower of the two forms.
+    Stampa({7440, 4680, 2580, 975}),
+    Chiudi({7440, 6240, 2580, 975}),
 });
 
 }  // namespace somme::disegno

@@ -7,9 +7,11 @@
 #include <set>
 
 #include "app/shared/nomi_forme.h"
+#include "exercises/core/forma_esercizio.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/image.h"
 #include "platform/forms/controls/option_button.h"
+#include "platform/forms/page.h"
 #include "support/banco.h"
 
 using platform::Control;
@@ -131,6 +133,24 @@ class TabellaFormeTest : public QObject {
         const QRect room = widget->parentWidget()->rect().adjusted(-1, -1, 1, 1);
         QVERIFY2(widget->geometry().isEmpty() || room.contains(widget->geometry()),
                  qPrintable(control->name()));
+      }
+    }
+  }
+
+  void whatStandsInThePrintPanelLiesWholeInTheWindow_data() { forms(); }
+  void whatStandsInThePrintPanelLiesWholeInTheWindow() {
+    QFETCH(QByteArray, nome);
+    for (const QSize size : {QSize(800, 600), QSize(1366, 768)}) {
+      Banco banco(size);
+      auto* form = dynamic_cast<somme::FormaEsercizio*>(&open(banco, nome));
+      if (form == nullptr) return;
+      form->mnuStampa.click();
+      const QRect room = form->page()->canvas()->rect().adjusted(-1, -1, 1, 1);
+      for (const Control* control : {static_cast<const Control*>(&form->TestoStampa),
+                                     static_cast<const Control*>(&form->CommandStampa),
+                                     static_cast<const Control*>(&form->CommandChiudi)}) {
+        QVERIFY(control->widget()->isVisible());
+        QVERIFY2(room.contains(control->widget()->geometry()), qPrintable(control->name()));
       }
     }
   }
