@@ -59,6 +59,15 @@ bool isModifier(int key) {
          key == Qt::Key_AltGr || key == Qt::Key_Meta;
 }
 
+// The character that a key stands for, also where Alt keeps it from being written; null for a key
+// that writes none, whose code lies beyond all characters.
+QChar characterOf(const QKeyEvent& event) {
+  constexpr int kLastCharacter = 0xFFFF;
+  const QString text = event.text();
+  if (!text.isEmpty() && text[0].isPrint()) return text[0];
+  return event.key() <= kLastCharacter ? QChar(event.key()) : QChar();
+}
+
 }  // namespace
 
 KeyGuard::KeyGuard(Runtime& runtime, RepeatMarks marks) : runtime_(runtime), state_(marks) {
@@ -138,8 +147,7 @@ bool KeyGuard::worked(QWindow& window, const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers =
       event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
   if (modifiers == Qt::AltModifier) {
-    const QString text = event.text();
-    const QChar key = text.isEmpty() || !text[0].isPrint() ? QChar(event.key()) : text[0];
+    const QChar key = characterOf(event);
     return key.isLetterOrNumber() && form->accessKey(key.toUpper());
   }
   if ((modifiers & Qt::ControlModifier) == 0) return false;

@@ -100,6 +100,16 @@ class ButtonTest : public QObject {
     QCOMPARE(clicks.first, 1);
   }
 
+  void aKeyThatWritesNothingIsNoAccessKey() {
+    Stage stage;
+    Clicks clicks(stage);
+    stage.tap(Qt::Key_F, Qt::AltModifier);
+    QCOMPARE(clicks.first, 1);
+    // Its code ends like that of F.
+    stage.tap(Qt::Key_F23, Qt::AltModifier);
+    QCOMPARE(clicks.first, 1);
+  }
+
   void aLetterWithoutAltIsNoAccessKey() {
     Stage stage;
     Clicks clicks(stage);
