@@ -65,7 +65,8 @@ QPoint mezzo(const QWidget& widget) {
 bool Disturbi::spiega(const QString& riquadro) const {
   return (rete && riquadro.contains(QStringLiteral("'40006'"))) ||
          (stampante && riquadro.contains(QStringLiteral("'482'"))) ||
-         (rapporto && riquadro.contains(QStringLiteral("'5'")));
+         (rapporto && riquadro.contains(QStringLiteral("'5'"))) ||
+         (lato && riquadro.contains(QStringLiteral("'6'")));
 }
 
 bool Gesti::chiuso() const {
@@ -378,6 +379,11 @@ void Gesti::lato(int profondita) {
   const QSize lato = dadi_.unoSu(10) ? QSize(dadi_.tra(1, 60), dadi_.tra(1, 60))
                                      : QSize(dadi_.tra(300, 1700), dadi_.tra(200, 1100));
   racconto_.annota(profondita, QStringLiteral("size %1x%2").arg(lato.width()).arg(lato.height()));
+  // The bars take their places in the window that was read at their activation: put into a small
+  // window they lie far out in a large one, where the next activation finds them.
+  for (const std::shared_ptr<Form>& forma : banco_.ambiente->fondo.forms().all()) {
+    disturbi_.lato = disturbi_.lato || forma->name().startsWith(QStringLiteral("FormBarre"));
+  }
   banco_.ambiente->fondo.window().resize(lato);
 }
 

@@ -14,6 +14,7 @@ struct Disturbi {
   bool rete = false;       // HelpiKeys refused, kept silent or went away
   bool stampante = false;  // a printer was missing or failed
   bool rapporto = false;   // a report of one character came
+  bool lato = false;       // the window changed its size under the bars
 
   [[nodiscard]] bool spiega(const QString& riquadro) const;
 };
