@@ -61,7 +61,7 @@ Giro gioca(const QByteArray& forma, quint64 seme, int eventi, double secondi, bo
     carica();
     prova::Scimmia scimmia(forma, suo, racconta);
     try {
-      scimmia.vivi(std::min(kEventiPerVita, eventi - giro.eventi));
+      scimmia.vivi(std::min(kEventiPerVita, eventi - giro.eventi), scaduto);
     } catch (const std::exception& guasto) {
       std::printf("FOUND %s\n  again with: --seme %llu --eventi %d %s\n%s\n", guasto.what(),
                   static_cast<unsigned long long>(suo), kEventiPerVita, forma.constData(),

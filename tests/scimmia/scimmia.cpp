@@ -111,10 +111,10 @@ void Scimmia::apri() {
   }
 }
 
-void Scimmia::vivi(int eventi) {
+void Scimmia::vivi(int eventi, const std::function<bool()>& basta) {
   restano_ = eventi;
   apri();
-  while (restano_ > 0 && !finita()) evento();
+  while (restano_ > 0 && !finita() && !basta()) evento();
   restano_ = 0;
   if (guasto_) throw Guasto(*guasto_);
 }

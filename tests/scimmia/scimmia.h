@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -18,8 +19,9 @@ class Scimmia {
   Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta);
   ~Scimmia();
 
-  // Plays so many events, or fewer where the program ends. Throws Guasto.
-  void vivi(int eventi);
+  // Plays so many events, or fewer where the program ends or `basta` says so, which is asked before
+  // each. Throws Guasto.
+  void vivi(int eventi, const std::function<bool()>& basta);
 
   [[nodiscard]] int eventi() const { return eventi_; }       // so far, of all kinds
   [[nodiscard]] int nelleAttese() const { return dentro_; }  // of them, inside of a wait
