@@ -225,6 +225,7 @@ class FogliTest : public QObject {
       QCOMPARE(d.posto().sinistra, 0);
       QCOMPARE(d.posto().alto, 0);
       // The aspect is that of the paper, 297 by 210.
+      d.Command1.click();
       d.txtPrW.setText(QStringLiteral("297"));
       d.chkProporzioni.widget()->setFocus();
       prova.batti(Qt::Key_Space);
