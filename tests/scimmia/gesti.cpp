@@ -159,6 +159,13 @@ void Gesti::chiudiQuelloSopra() {
   premi(QEvent::MouseButtonRelease, banco_.finestra(), {}, Qt::LeftButton);
 }
 
+void Gesti::lasciaTutto() {
+  if (chiuso() || inUso() == nullptr) return;
+  for (const Qt::MouseButton bottone : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+    premi(QEvent::MouseButtonRelease, banco_.finestra(), {}, bottone);
+  }
+}
+
 void Gesti::torna() {
   altra_.hide();
   banco_.ambiente->fondo.window().activateWindow();

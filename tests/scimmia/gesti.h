@@ -29,6 +29,8 @@ class Gesti {
   void uno(int profondita);
   // One of those that reach the program also while a message box stands open.
   void daFuori(int profondita);
+  // Lets go of the buttons of the mouse that an earlier life may have left down.
+  void lasciaTutto();
   // What ends a window over the main one, or a menu: for when too much is open already.
   void chiudiQuelloSopra();
 

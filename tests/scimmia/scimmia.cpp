@@ -1,10 +1,11 @@
 #include "scimmia/scimmia.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QScopeGuard>
 #include <QThread>
-#include <QTimer>
 #include <array>
+#include <utility>
 
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
@@ -114,6 +115,7 @@ void Scimmia::apri() {
 void Scimmia::vivi(int eventi, const std::function<bool()>& basta) {
   restano_ = eventi;
   apri();
+  gesti_.lasciaTutto();
   while (restano_ > 0 && !finita() && !basta()) evento();
   restano_ = 0;
   if (guasto_) throw Guasto(*guasto_);
@@ -129,12 +131,19 @@ void Scimmia::ronza() {
 }
 
 // The same in an event loop that Qt runs by itself, where the scripted clock stands still: a menu
-// that waits for its item, a text that is being dragged. A new timer each time, since one whose
-// handler is running does not tick.
+// that waits for its item, a text that is being dragged. Whenever such a loop has nothing left to
+// do, and by no timer, so that the same seed plays the same.
 void Scimmia::ronzaNeiCicli() {
-  QTimer::singleShot(1, &finoAllaFine_, [this] {
-    ronzaNeiCicli();
-    if (QThread::currentThread()->loopLevel() > 0) evento();
+  const QAbstractEventDispatcher* dispensa = QAbstractEventDispatcher::instance();
+  QObject::connect(dispensa, &QAbstractEventDispatcher::aboutToBlock, &finoAllaFine_, [this] {
+    if (QThread::currentThread()->loopLevel() == 0 || std::exchange(chiamata_, true)) return;
+    QMetaObject::invokeMethod(
+        &finoAllaFine_,
+        [this] {
+          chiamata_ = false;
+          if (QThread::currentThread()->loopLevel() > 0) evento();
+        },
+        Qt::QueuedConnection);
   });
 }
 

@@ -62,6 +62,7 @@ class Scimmia {
   int riquadri_ = 0;  // message boxes now open
   int tiri_ = 0;      // draws since the last event
   bool gira_ = false;
+  bool chiamata_ = false;  // an event of the monkey's is on its way into a loop of Qt's
 };
 
 }  // namespace prova
