@@ -25,6 +25,8 @@ constexpr int kConfermaBlocchi = 8;
 constexpr int kDecineAbaco = 3;
 constexpr int kUnitaAbaco = 4;
 
+constexpr QSize kTavoletta{760, 700};
+
 template <class F>
 F& Pronta(Banco& banco, std::string_view nome, qint16 tipo,
           const std::vector<prova::SorteDiProva::Estrazione>& caso) {
@@ -147,6 +149,7 @@ QImage Tavoletta(Banco& /*banco*/) {
   tavoletta::Tavoletta tavoletta;
   tavoletta::FinestraTavoletta finestra(tavoletta);
   finestra.Apri(0);
+  finestra.resize(kTavoletta);
   finestra.show();
   QCoreApplication::processEvents();
   return finestra.grab().toImage();
