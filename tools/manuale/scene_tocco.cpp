@@ -26,6 +26,8 @@ constexpr int kDecineAbaco = 3;
 constexpr int kUnitaAbaco = 4;
 
 constexpr QSize kTavoletta{760, 700};
+// The printer gets more pixels than a small picture can show.
+constexpr int kLarghezzaFoglio = 900;
 
 template <class F>
 F& Pronta(Banco& banco, std::string_view nome, qint16 tipo,
@@ -44,7 +46,7 @@ QImage Foglio(Banco& banco, std::string_view nome) {
   QImage foglio;
   ConIlFoglio(banco, nome,
               [&](const frmAvviaStampa& dialogo) { foglio = dialogo.immagine().punti(); });
-  return foglio;
+  return foglio.scaledToWidth(kLarghezzaFoglio, Qt::SmoothTransformation);
 }
 
 QImage Dialogo(const frmAvviaStampa& dialogo) {
