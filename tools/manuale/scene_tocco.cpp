@@ -25,6 +25,10 @@ constexpr int kConfermaBlocchi = 8;
 constexpr int kDecineAbaco = 3;
 constexpr int kUnitaAbaco = 4;
 
+constexpr QSize kTavoletta{760, 700};
+// The printer gets more pixels than a small picture can show.
+constexpr int kLarghezzaFoglio = 900;
+
 template <class F>
 F& Pronta(Banco& banco, std::string_view nome, qint16 tipo,
           const std::vector<prova::SorteDiProva::Estrazione>& caso) {
@@ -42,7 +46,7 @@ QImage Foglio(Banco& banco, std::string_view nome) {
   QImage foglio;
   ConIlFoglio(banco, nome,
               [&](const frmAvviaStampa& dialogo) { foglio = dialogo.immagine().punti(); });
-  return foglio;
+  return foglio.scaledToWidth(kLarghezzaFoglio, Qt::SmoothTransformation);
 }
 
 QImage Dialogo(const frmAvviaStampa& dialogo) {
@@ -147,6 +151,7 @@ QImage Tavoletta(Banco& /*banco*/) {
   tavoletta::Tavoletta tavoletta;
   tavoletta::FinestraTavoletta finestra(tavoletta);
   finestra.Apri(0);
+  finestra.resize(kTavoletta);
   finestra.show();
   QCoreApplication::processEvents();
   return finestra.grab().toImage();
