@@ -227,6 +227,15 @@ class TestoInputNumericoTest : public QObject {
     QVERIFY(fondo.forma().Altro.hasFocus());
   }
 
+  void testoPerOutputTakesTheFocusAlongWhenTheOutputHasIt() {
+    Fondo fondo;
+    fondo.conferma(QStringLiteral("12"));
+    QVERIFY(fondo.controllo.TestoOutput.hasFocus());
+    fondo.controllo.TestoPerOutput();
+    QVERIFY(fondo.controllo.TestoInput.hasFocus());
+    QVERIFY(!fondo.forma().Altro.hasFocus());
+  }
+
   void aDisabledBoxTakesNeitherFocusNorKeys() {
     Fondo fondo;
     fondo.controllo.setEnabled(false);
