@@ -306,6 +306,22 @@ class TastieraNumericaScansioneTest : public QObject {
     QVERIFY(fondo.tastiera.TimerScansione.isEnabled());
   }
 
+  void aKeyThatIsDownWhenDisattivaComesChoosesNothingAtItsRelease() {
+    for (const bool automatica : {false, true}) {
+      Fondo fondo;
+      prepara(fondo.tastiera, automatica);
+      const int tasto = automatica ? Qt::Key_Space : Qt::Key_Return;
+      fondo.premi(tasto);
+      fondo.tastiera.Disattiva();
+      QCOMPARE(fondo.tastiera.TimerScansione.isEnabled(), automatica);
+      fondo.lascia(tasto);
+      QVERIFY(fondo.scelti().empty());
+      fondo.tastiera.Attiva();
+      fondo.batti(tasto);
+      QCOMPARE(fondo.scelti(), std::vector<int>{0});
+    }
+  }
+
   void manualModeStopsTheTimerAndAutomaticModeStartsIt() {
     Fondo fondo;
     fondo.tastiera.ScansioneAutomatica.set(true);

@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QRegularExpression>
 
+#include "../platform/devices/full_disk.h"
 #include "../platform/devices/print_server.h"
 #include "dialogo_di_prova.h"
 #include "platform/devices/qt_time_source.h"
@@ -8,6 +9,7 @@
 #include "printing/modulo_stampa.h"
 #include "support/pdf_letto.h"
 
+using devices_test::FullDisk;
 using devices_test::PrintServer;
 using prova::DialogoDiProva;
 using prova::PdfLetto;
@@ -97,7 +99,33 @@ class CartaTest : public QObject {
     scegliA3(prova);
     prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
       prova.clicca(d.cmdProprieta);
-      // A folder that has gone is as good as a full one.
+      const FullDisk full;
+      prova.clicca(d.cmdStampa);
+    });
+    QCOMPARE(prova.messaggi().size(), size_t(1));
+    QVERIFY(prova.messaggi()[0].text.contains(QStringLiteral("Stampa interrotta.")));
+    QVERIFY(macchina.file().isEmpty());
+  }
+
+  void aFullDiskIsARunTimeErrorForARecordAndLeavesNothing() {
+    DialogoDiProva prova;
+    Macchina macchina(prova, "127.0.0.1:1");
+    prova.forma.mnuStampa.click();
+    {
+      const FullDisk full;
+      prova.banco.clicca(prova.forma.CommandStampa);
+    }
+    QCOMPARE(prova.messaggi().size(), size_t(1));
+    QVERIFY(prova.messaggi()[0].text.contains(QStringLiteral("'482'")));
+    QVERIFY(macchina.file().isEmpty());
+  }
+
+  void aFolderThatHasGoneStopsThePrintWithItsMessage() {
+    DialogoDiProva prova;
+    Macchina macchina(prova, "127.0.0.1:1");
+    scegliA3(prova);
+    prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
+      prova.clicca(d.cmdProprieta);
       QVERIFY(QDir(macchina.cartella.path()).removeRecursively());
       prova.clicca(d.cmdStampa);
     });

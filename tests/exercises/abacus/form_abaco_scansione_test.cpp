@@ -1,55 +1,13 @@
-#include "exercises/abacus/form_abaco_scansione.h"
+#include "abaco_scandito.h"
 
-#include "abaco_di_prova.h"
-#include "support/scansione_di_prova.h"
-
+using prova::BancoScansione;
 using prova::kTutti;
 using prova::nelPasso;
 using somme::FormAbacoScansione;
 using Valori = somme::TastieraHDUScansione;
 using Cifre = somme::TastieraNumericaScansione;
 
-namespace {
-
-struct BancoScansione : prova::BancoDellAbaco<FormAbacoScansione> {
-  explicit BancoScansione(qint16 tipo, const Caso& caso = {}, qint16 modo = 1)
-      : BancoDellAbaco(somme::forme::kFormAbacoScansione, tipo, caso, modo,
-                       prova::kFinestraPiccola) {}
-
-  Valori& valori = forma.TastieraHDUScansione1;
-  Cifre& cifre = forma.TastieraNumericaScansione1;
-
-  // A key of the keyboard that is on the screen, so many times.
-  bool scegli(int tasto, int volte = 1) {
-    const bool aValori = valori.isVisible();
-    for (int i = 0; i < volte; ++i) {
-      const bool preso = aValori ? sceltoSu(valori, tasto) : sceltoSu(cifre, tasto);
-      if (!preso) return false;
-    }
-    return true;
-  }
-  // The sum, from the keyboard of digits on the screen.
-  bool rispondi(const char* numero) {
-    for (const char* cifra = numero; *cifra != '\0'; ++cifra) {
-      if (!scegli(*cifra - '0')) return false;
-    }
-    return scegli(Cifre::kConferma);
-  }
-  bool solaSulloSchermo(const somme::TastieraScansione& tastiera) const {
-    return valori.isVisible() == (&tastiera == &valori) &&
-           cifre.isVisible() == (&tastiera == &cifre) && tastiera.PictureScansione.hasFocus();
-  }
-
- private:
-  bool sceltoSu(const somme::TastieraScansione& tastiera, int tasto) {
-    return ambiente->stato.ModalitaInput == 1 ? prova::scegliAMano(*this, tastiera, tasto)
-                                              : prova::scegliAspettando(*this, tastiera, tasto);
-  }
-};
-
-}  // namespace
-
-// The abacus by scanning, as a pupil with one or two keys uses it.
+// The keyboard of place values: beads, carries, and what happens in their middle.
 class FormAbacoScansioneTest : public QObject {
   Q_OBJECT
 
@@ -272,122 +230,6 @@ class FormAbacoScansioneTest : public QObject {
     QCOMPARE(banco.valori.pulsanteAcceso(), qint16(Valori::kCestino));
   }
 
-  void theLastKeyPassesOnToTheDigitsAndTheAbacusStays() {
-    BancoScansione banco(3);
-    QVERIFY(banco.scegli(Valori::kDecine));
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(banco.solaSulloSchermo(banco.cifre));
-    QVERIFY(!banco.valori.Timer1.isEnabled());
-    QCOMPARE(banco.cifre.pulsanteAcceso(), qint16(0));
-    QVERIFY(!banco.cifre.ScansioneAutomatica.get());
-    QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
-  }
-
-  void aWholeSumByManualScanning() {
-    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
-    FormAbacoScansione& forma = banco.forma;
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(banco.rispondi("12"));
-    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
-    QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
-    QCOMPARE(banco.suono.suonati, QStringList{banco.fileDelSuono("si")});
-    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 7 +  5 = "));
-    QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral("\r\n\r\n 7 +  5 =  12\r\n")));
-    QVERIFY(!forma.TestoInput.Enabled.get());
-    QCOMPARE(banco.cifre.pulsanteAcceso(), qint16(Cifre::kAvanti));
-    QVERIFY(banco.cifre.PictureScansione.hasFocus());
-    banco.sorte.scrivi(BancoScansione::caso(3, 82, 47));
-    QVERIFY(banco.scegli(Cifre::kAvanti));
-    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
-    QCOMPARE(forma.TestoInput.Text.get(), QString());
-    QVERIFY(banco.solaSulloSchermo(banco.valori));
-    QVERIFY(!banco.cifre.AvantiAttivo.get());
-    QVERIFY(!banco.cifre.Timer1.isEnabled());
-    // The box stays disabled, and takes the digits all the same.
-    QVERIFY(!forma.TestoInput.Enabled.get());
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(banco.rispondi("82"));
-    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
-  }
-
-  void aWholeSumWithACarryByAutomaticScanningWithOneKey() {
-    BancoScansione banco(3, BancoScansione::caso(3, 12, 7), 2);
-    QVERIFY(banco.valori.ScansioneAutomatica.get());
-    QVERIFY(banco.scegli(Valori::kUnita, 10));
-    QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
-    QVERIFY(banco.solaSulloSchermo(banco.valori));
-    QVERIFY(banco.valori.TimerScansione.isEnabled());
-    QCOMPARE(banco.valori.pulsanteAcceso(), qint16(Valori::kDecine));
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(banco.cifre.ScansioneAutomatica.get());
-    QVERIFY(banco.rispondi("12"));
-    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
-    banco.tempo.advance(30);
-    QCOMPARE(banco.cifre.pulsanteAcceso(), qint16(Cifre::kAvanti));
-    banco.batti(Qt::Key_Space);
-    QVERIFY(banco.solaSulloSchermo(banco.valori));
-  }
-
-  void thePaceOfTheSettingsReachesBothKeyboards() {
-    BancoScansione banco(3, {}, 2);
-    QCOMPARE(banco.valori.TimerScansione.interval(), 1000);
-    banco.ambiente->stato.TempoScansione = 12;
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QCOMPARE(banco.cifre.TimerScansione.interval(), 3000);
-  }
-
-  void aWrongSumLeavesThePupilWithTheKeys() {
-    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
-    FormAbacoScansione& forma = banco.forma;
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(banco.rispondi("1"));
-    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
-    QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
-    QVERIFY(forma.ImgNo.isVisible());
-    QVERIFY(!forma.ImgSi.isVisible());
-    QCOMPARE(banco.suono.suonati, QStringList{banco.fileDelSuono("no")});
-    QVERIFY(forma.TestoInput.TestoOutput.isVisible());
-    QVERIFY(!banco.cifre.AvantiAttivo.get());
-    QVERIFY(banco.solaSulloSchermo(banco.cifre));
-    // The digits go on behind what stands there.
-    QVERIFY(banco.rispondi("2"));
-    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
-  }
-
-  void theBinOfTheDigitsOpensTheBoxAndEmptiesIt() {
-    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(banco.rispondi("11"));
-    QVERIFY(banco.scegli(Cifre::kCestino));
-    QCOMPARE(banco.forma.TestoInput.Text.get(), QString());
-    QVERIFY(banco.forma.TestoInput.TestoInput.isVisible());
-    QVERIFY(banco.cifre.PictureScansione.hasFocus());
-    QVERIFY(banco.rispondi("12"));
-    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
-  }
-
-  void aDigitBeyondTheLengthOfTheLevelIsDropped() {
-    BancoScansione banco(11);
-    QVERIFY(banco.scegli(Valori::kConferma));
-    for (int cifra = 1; cifra <= 4; ++cifra) QVERIFY(banco.scegli(cifra));
-    QCOMPARE(banco.forma.TestoInput.Text.get(), QStringLiteral("123"));
-  }
-
-  void anEmptyBoxIsNotJudged() {
-    BancoScansione banco(3);
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(banco.scegli(Cifre::kConferma));
-    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
-    QVERIFY(banco.suono.suonati.isEmpty());
-  }
-
-  void helpAndTheWayOnAreOutOfReachBeforeARightSum() {
-    BancoScansione banco(3);
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(!banco.scegli(Cifre::kAiuto));
-    QVERIFY(!banco.scegli(Cifre::kAvanti));
-  }
-
   void theKeysDoNothingWhileACarryGoesOn() {
     BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
     QVERIFY(banco.scegli(Valori::kUnita, 9));
@@ -431,41 +273,6 @@ class FormAbacoScansioneTest : public QObject {
     QVERIFY(banco.solaSulloSchermo(banco.valori));
   }
 
-  void thePrintPanelSilencesTheKeyboardAndClosingItDoesNotWakeIt() {
-    BancoScansione banco(3);
-    for (const bool aCifre : {false, true}) {
-      if (aCifre) {
-        banco.mostra(somme::forme::kFormAbacoScansione);
-        QVERIFY(banco.scegli(Valori::kConferma));
-      }
-      const somme::TastieraScansione& tastiera =
-          aCifre ? static_cast<somme::TastieraScansione&>(banco.cifre) : banco.valori;
-      banco.forma.mnuStampa.click();
-      QVERIFY(!tastiera.Timer1.isEnabled());
-      banco.clicca(banco.forma.CommandChiudi);
-      QVERIFY(tastiera.isVisible());
-      const qint16 acceso = tastiera.pulsanteAcceso();
-      banco.tempo.advance(1);
-      banco.batti(Qt::Key_Space);
-      QCOMPARE(tastiera.pulsanteAcceso(), acceso);
-      QVERIFY(!tastiera.Timer1.isEnabled());
-    }
-  }
-
-  void aPrintPanelOpenedInACarryStaysOverTheKeyboardThatComesBack() {
-    BancoScansione banco(3);
-    QVERIFY(banco.scegli(Valori::kUnita, 9));
-    banco.tempo.after(nelPasso(50), [&] { banco.forma.mnuStampa.click(); });
-    QVERIFY(banco.scegli(Valori::kUnita));
-    QVERIFY(banco.forma.PictureStampa.isVisible());
-    QVERIFY(banco.forma.isCovered(banco.valori));
-    QVERIFY(banco.forma.CommandStampa.hasFocus() || banco.forma.CommandChiudi.hasFocus());
-    banco.clicca(banco.forma.CommandChiudi);
-    QVERIFY(banco.valori.PictureScansione.hasFocus());
-    QVERIFY(banco.scegli(Valori::kDecine));
-    QCOMPARE(banco.detto(), QStringLiteral("2 decine"));
-  }
-
   void aClickOnABeadMovesNothing() {
     BancoScansione banco(3);
     QVERIFY(banco.scegli(Valori::kUnita, 2));
@@ -476,26 +283,6 @@ class FormAbacoScansioneTest : public QObject {
     QCOMPARE(banco.forma.UnitaInserite, qint16(2));
     banco.tempo.advance(0.02);
     QVERIFY(banco.valori.PictureScansione.hasFocus());
-  }
-
-  void aSecondActivationStartsACaseAndARecordAnew() {
-    BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
-    QVERIFY(banco.scegli(Valori::kConferma));
-    QVERIFY(banco.rispondi("12"));
-    banco.sorte.scrivi(BancoScansione::caso(3, 82, 47));
-    banco.mostra(somme::forme::kFormAbacoScansione);
-    QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
-    QCOMPARE(banco.forma.TestoStampa.text(), QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n"));
-    QVERIFY(banco.solaSulloSchermo(banco.valori));
-  }
-
-  void thePointerIsLeftAloneUnlessTheSystemsIsWanted() {
-    BancoScansione banco(3);
-    QCOMPARE(banco.forma.EtOperazione.mousePointer(), 99);
-    banco.batti(Qt::Key_E, Qt::AltModifier);
-    banco.ambiente->stato.CursoreDiSistema = true;
-    auto& forma = banco.apri<FormAbacoScansione>(somme::forme::kFormAbacoScansione);
-    QCOMPARE(forma.EtOperazione.mousePointer(), 0);
   }
 };
 

@@ -3,6 +3,9 @@
 #include <QSignalSpy>
 
 #include "app/shared/nomi_forme.h"
+#include "platform/boards/board.h"
+#include "platform/flash/movie_view.h"
+#include "platform/forms/controls/label.h"
 #include "support/banco.h"
 
 // The pupil's hands and eyes at the blocks.

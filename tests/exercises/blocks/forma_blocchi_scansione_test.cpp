@@ -278,6 +278,7 @@ class FormaBlocchiScansioneTest : public QObject {
       banco.batti(Qt::Key_Return);
     }
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieLU), QStringLiteral("0da 0u"));
+    QCOMPARE(forma.ShockwaveFlash1.widget()->accessibleDescription(), QStringLiteral("vuoto"));
     QVERIFY(costruisciScandendo(banco, forma, 24));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
   }

@@ -1,13 +1,13 @@
 #include "platform/devices/pdf_folder.h"
 
-#include <sys/resource.h>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-#include <csignal>
 
+#include "full_disk.h"
+
+using devices_test::FullDisk;
 using platform::PdfFolder;
 using platform::PrintJob;
 using platform::PrintResult;
@@ -33,28 +33,6 @@ QByteArray contentOf(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-
-// No file may grow beyond a few bytes, as on a full disk.
-class FullDisk {
- public:
-  FullDisk() {
-    handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit limit = before_;
-    limit.rlim_cur = 100;
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-  void (*handler_)(int) = nullptr;
-};
 
 }  // namespace
 

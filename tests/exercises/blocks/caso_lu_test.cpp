@@ -1,0 +1,321 @@
+#include "form_lu_di_prova.h"
+
+using namespace prova;
+using somme::FormLU;
+
+Q_DECLARE_METATYPE(std::vector<prova::SorteDiProva::Estrazione>)
+
+// The course of a case of longs and units: its result, what comes after it, and what becomes of it
+// when the form is left or comes back.
+class CasoLUTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void aWrongResultCountsAndStaysToBeCorrected() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("36"));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    QCOMPARE(forma.TestoInput.text(), QStringLiteral("36"));
+    QVERIFY(forma.ImgNo.isVisible());
+    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    QCOMPARE(banco.suono.suonati.last(), suono(banco, "no"));
+    banco.batti(Qt::Key_Backspace);
+    banco.scrivi(QStringLiteral("7"));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void theRightResultSolvesTheCaseOnce() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("37"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 =  37"));
+    QCOMPARE(banco.suono.suonati.size(), 3);
+    QVERIFY(forma.TestoInput.isLocked());
+    QVERIFY(forma.PulsanteAvanti.isEnabled());
+    QVERIFY(forma.PulsanteAvanti.hasFocus());
+    // A second Enter in the locked box changes nothing.
+    forma.TestoInput.setFocus();
+    banco.scrivi(QStringLiteral("5"));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(forma.TestoInput.text(), QStringLiteral("37"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QCOMPARE(forma.TestoStampa.text().count(u'='), 1);
+  }
+
+  void theBoxTakesTwoDigitsAndNothingElse() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    banco.scrivi(QStringLiteral("a -1.2x34"));
+    QCOMPARE(forma.TestoInput.text(), QStringLiteral("12"));
+    banco.batti(Qt::Key_Backspace);
+    QCOMPARE(forma.TestoInput.text(), QStringLiteral("1"));
+    banco.batti(Qt::Key_Backspace);
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+  }
+
+  void aResultWithALeadingZeroIsTheNumberThatItMeans() {
+    Banco banco;
+    FormLU& forma = apri(banco, 4, 3);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("07"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 +  3 =  7"));
+  }
+
+  void goingOnBeginsTheNextCaseAndKeepsThePicture() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    unisci(banco, forma);
+    banco.clicca(forma.PulsanteCambio);
+    rispondi(banco, forma, QStringLiteral("42"));
+    banco.sorte.scrivi(caso(30, 8));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
+    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    QVERIFY(!forma.TestoInput.isVisible());
+    QVERIFY(!forma.TestoInput.isLocked());
+    QCOMPARE(forma.TestoInput.text(), QString());
+    QVERIFY(!forma.ShockwaveFlash3.isVisible());
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("0da 0u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0da 0u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0da 0u"));
+    QVERIFY(incorniciata(forma, forma.Label1));
+    QCOMPARE(forma.PicturePulsanti.left(), forma.Label1.left());
+    QVERIFY(forma.ImgSi.isVisible());
+    QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral(" 27 +  15 =  42\r\n")));
+  }
+
+  void goingOnIsImpossibleBeforeTheRightResult() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.clicca(forma.PulsanteAvanti);
+    banco.batti(Qt::Key_V, Qt::AltModifier);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
+    unisci(banco, forma);
+    banco.clicca(forma.PulsanteAvanti);
+    QVERIFY(forma.ShockwaveFlash3.isVisible());
+  }
+
+  void aWholeSumGoesByTheKeyboardAlone() {
+    Banco banco;
+    FormLU& forma = apri(banco, 11, 9);
+    forma.PulsanteDa.setFocus();
+    banco.batti(Qt::Key_Space);
+    banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Return);
+    banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Tab);
+    QVERIFY(forma.PulsanteConferma.hasFocus());
+    banco.batti(Qt::Key_Return);
+    QVERIFY(forma.PulsanteConferma.hasFocus());
+    banco.batti(Qt::Key_Backtab, Qt::ShiftModifier);
+    banco.batti(Qt::Key_Backtab, Qt::ShiftModifier);
+    for (int i = 0; i < 9; ++i) banco.batti(Qt::Key_Space);
+    banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Return);
+    QVERIFY(forma.PulsanteCambio.isVisible());
+    for (int i = 0; i < 4 && !forma.PulsanteCambio.hasFocus(); ++i) banco.batti(Qt::Key_Tab);
+    banco.batti(Qt::Key_Space);
+    rispondi(banco, forma, QStringLiteral("20"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QVERIFY(forma.PulsanteAvanti.hasFocus());
+  }
+
+  void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord_data() {
+    QTest::addColumn<std::vector<SorteDiProva::Estrazione>>("sorte");
+    QTest::addColumn<QString>("operazione");
+    QTest::addColumn<QString>("nome");
+    using Sorte = std::vector<SorteDiProva::Estrazione>;
+    QTest::newRow("1") << Sorte{{3, 10}, {7, 10}, {2, 3}, {4, 7}} << QStringLiteral(" 24 +  13 = ")
+                       << QStringLiteral("senza cambio");
+    QTest::newRow("2") << Sorte{{22, 79}, {22, 32}} << QStringLiteral(" 27 +  15 = ")
+                       << QStringLiteral("con il cambio");
+    QTest::newRow("3") << caso(24, 13) << QStringLiteral(" 24 +  13 = ")
+                       << QStringLiteral("con e senza cambi");
+    QTest::newRow("4") << Sorte{{23, 98}, {5, 10}} << QStringLiteral(" 24 +  5 = ")
+                       << QStringLiteral("aggiungi solo unità");
+    QTest::newRow("5") << Sorte{{23, 88}, {3, 10}} << QStringLiteral(" 24 +  30 = ")
+                       << QStringLiteral("aggiungi solo decine");
+  }
+  void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord() {
+    QFETCH(std::vector<SorteDiProva::Estrazione>, sorte);
+    QFETCH(QString, operazione);
+    QFETCH(QString, nome);
+    Banco banco;
+    banco.ambiente->stato.TipoEsercizio = qint16(QByteArray(QTest::currentDataTag()).toInt());
+    banco.sorte.scrivi(sorte);
+    auto& forma = banco.apri<FormLU>(somme::forme::kFormLU);
+    QCOMPARE(banco.sorte.rimaste(), std::size_t(0));
+    QCOMPARE(forma.EtOperazione.caption(), operazione);
+    QCOMPARE(forma.TestoStampa.text(),
+             QStringLiteral("\r\n     Piatti, lunghi, unità: entro 99 - %1\r\n\r\n").arg(nome));
+  }
+
+  void aLevelThatTheTableDoesNotHaveKeepsCaseAndRecord() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    const QString elenco = forma.TestoStampa.text();
+    banco.ambiente->stato.TipoEsercizio = 6;
+    riattiva(banco);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
+    QCOMPARE(forma.TestoStampa.text(), elenco);
+  }
+
+  void comingBackStartsANewCaseAndRestartsTheRecord() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("37"));
+    banco.sorte.scrivi(caso(30, 8));
+    riattiva(banco);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
+    QVERIFY(!forma.TestoStampa.text().contains(u'='));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QVERIFY(!forma.ShockwaveFlash3.isVisible());
+    unisci(banco, forma);
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 8u"));
+  }
+
+  void comingBackInTheMiddleOfAnythingRestartsAtTheFirstBoard_data() {
+    QTest::addColumn<bool>("inCambio");
+    QTest::addColumn<double>("dopo");
+    QTest::newRow("before the boards are joined") << false << 1.0;
+    QTest::newRow("at the start of the carry") << true << 0.1;
+    QTest::newRow("in the flight of the units") << true << 2.0;
+    QTest::newRow("after the movie's word") << true << 3.8;
+  }
+  void comingBackInTheMiddleOfAnythingRestartsAtTheFirstBoard() {
+    QFETCH(bool, inCambio);
+    QFETCH(double, dopo);
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    costruisci(banco, forma, 27);
+    banco.clicca(forma.PulsanteConferma);
+    costruisci(banco, forma, 15);
+    const auto torna = [&] {
+      banco.sorte.scrivi(caso(30, 8));
+      riattiva(banco);
+    };
+    if (!inCambio) banco.tempo.after(dopo, torna);
+    banco.clicca(forma.PulsanteConferma);
+    if (inCambio) {
+      banco.tempo.after(dopo, torna);
+      banco.clicca(forma.PulsanteCambio);
+    }
+    banco.tempo.advance(10);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
+    QVERIFY(forma.ShockwaveFlash1.isVisible());
+    QVERIFY(!forma.ShockwaveFlash3.isVisible());
+    QVERIFY(!forma.TestoInput.isVisible());
+    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(incorniciata(forma, forma.Label1));
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0da 0u"));
+    unisci(banco, forma);
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 8u"));
+    rispondi(banco, forma, QStringLiteral("38"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void comingBackWhileTheCarryIsAskedForTakesItsButtonAway() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    unisci(banco, forma);
+    QVERIFY(forma.PulsanteCambio.isVisible());
+    banco.sorte.scrivi(caso(30, 8));
+    riattiva(banco);
+    QVERIFY(!forma.PulsanteCambio.isVisible());
+  }
+
+  void leavingInTheMiddleOfAWaitEndsIt_data() {
+    QTest::addColumn<bool>("inCambio");
+    QTest::newRow("before the boards are joined") << false;
+    QTest::newRow("in the carry") << true;
+  }
+  void leavingInTheMiddleOfAWaitEndsIt() {
+    QFETCH(bool, inCambio);
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    const double prima = adesso(banco);
+    const auto esci = [&] { forma.mnuEsci.click(); };
+    if (inCambio) unisci(banco, forma);
+    const double poi = adesso(banco);
+    banco.tempo.after(1, esci);
+    if (inCambio) {
+      banco.clicca(forma.PulsanteCambio);
+      QVERIFY(adesso(banco) - poi < 1.5);
+    } else {
+      unisci(banco, forma);
+      QVERIFY(adesso(banco) - prima < 1.5);
+    }
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuPLU"));
+    banco.tempo.advance(10);
+    QVERIFY(!banco.tempo.anyTicker());
+    QVERIFY(!banco.fine.stato);
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
+  }
+
+  void theButtonsDoNothingInTheMiddleOfTheWaits() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    const QPoint cestino = banco.centro(forma.PulsanteCestino);
+    const QPoint conferma = banco.centro(forma.PulsanteConferma);
+    int volte = 0;
+    const auto premiTutto = [&] {
+      ++volte;
+      banco.cliccaIn(cestino);
+      banco.cliccaIn(conferma);
+      banco.clicca(forma.PulsanteAvanti);
+      banco.clicca(forma.PulsanteCambio);
+      forma.MenuAzzera.click();
+    };
+    banco.tempo.after(1, premiTutto);
+    unisci(banco, forma);
+    banco.tempo.after(1, premiTutto);
+    banco.tempo.after(3.5, premiTutto);
+    banco.clicca(forma.PulsanteCambio);
+    QCOMPARE(volte, 3);
+    QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 4);
+    QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u"), 11), 2);
+    rispondi(banco, forma, QStringLiteral("42"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+  }
+
+  void thePrintViewOpenedInAWaitLetsTheBoxHaveTheFocusAfterwards() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.tempo.after(1, [&] { forma.mnuStampa.click(); });
+    unisci(banco, forma);
+    QVERIFY(forma.PictureStampa.isVisible());
+    QVERIFY(forma.TestoInput.isVisible());
+    QVERIFY(!forma.TestoInput.hasFocus());
+    banco.clicca(forma.CommandChiudi);
+    QVERIFY(forma.TestoInput.hasFocus());
+    rispondi(banco, forma, QStringLiteral("37"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void thePrintViewCoversTheBoards() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.batti(Qt::Key_S, Qt::AltModifier);
+    QCOMPARE(forma.PictureStampa.width(), forma.width());
+    QCOMPARE(forma.PictureStampa.height(), forma.height());
+    const QPoint punto = banco.centro(forma.ShockwaveFlash2);
+    QWidget* sotto = banco.ambiente->fondo.window().childAt(punto);
+    QVERIFY(sotto != nullptr && sotto != forma.ShockwaveFlash2.widget());
+  }
+};
+
+QTEST_MAIN(CasoLUTest)
+#include "caso_lu_test.moc"
