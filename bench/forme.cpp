@@ -22,6 +22,7 @@
 #include "platform/forms/keys/key_guard.h"
 #include "schermo.h"
 #include "servizi_fermi.h"
+#include "support/come_dal_menu.h"
 
 // The forms from inside the program, on a real display: how long a form takes to show, against as
 // many plain widgets of Qt's with the same texts and fonts; and how soon a verdict is painted.
@@ -197,8 +198,7 @@ class Misura {
 
   double mostraForma(std::string_view nome, int& controlli) {
     platform::Forms& forme = ambiente_.fondo.forms();
-    ambiente_.stato.LimiteEsercizio = 10;
-    ambiente_.stato.TipoEsercizio = 1;
+    prova::ComeDalMenu(ambiente_.stato, nome);
     Form* prima = forme.current();
     QElapsedTimer orologio;
     orologio.start();

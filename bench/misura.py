@@ -55,6 +55,8 @@ def main():
               [os.path.join(cartella, "bench", "bench_cambio"), os.path.dirname(programma)],
               [os.path.join(cartella, "bench", "bench_scansione"), os.path.dirname(programma)],
               [os.path.join(cartella, "bench", "bench_tocco"), os.path.dirname(programma)],
+              [os.path.join(cartella, "bench", "bench_filmati"),
+               *sorted(glob.glob(os.path.join(os.path.dirname(programma), "swf", "*.swf")))],
               [os.path.join(cartella, "bench", "bench_stampa")],
               [os.path.join(cartella, "bench", "bench_visite")]]
     with Schermo(1366, 768):

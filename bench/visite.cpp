@@ -10,6 +10,7 @@
 #include "app/tabella_forme.h"
 #include "printing/frm_avvia_stampa.h"
 #include "support/banco.h"
+#include "support/come_dal_menu.h"
 
 // Whether the program gives back what it takes: the live heap after a thousand visits to each form
 // against that after ten, and after a thousand activations of each board.
@@ -35,13 +36,13 @@ class Visite {
 
   // From the main menu to the form and back.
   bool visita(std::string_view nome) {
-    prepara(nome);
+    prova::ComeDalMenu(banco_.ambiente->stato, nome);
     return misura("visits to", nome, [&] { unaVolta(nome); });
   }
 
   // The form stays, and is activated again, as when the print dialog over it has gone.
   bool attivazioni(std::string_view nome) {
-    prepara(nome);
+    prova::ComeDalMenu(banco_.ambiente->stato, nome);
     vai(nome);
     Forms& forme = banco_.ambiente->fondo.forms();
     const bool bene = misura("activations of", nome, [&] {
@@ -53,19 +54,6 @@ class Visite {
   }
 
  private:
-  void prepara(std::string_view nome) {
-    somme::StatoCondiviso& stato = banco_.ambiente->stato;
-    stato.LimiteEsercizio = nome.find("20") != std::string_view::npos ? 20 : 10;
-    // Blocks and abacus at a level that always finds a case.
-    stato.TipoEsercizio = nome.find("LU") != std::string_view::npos ||
-                                  nome.find("Abaco") != std::string_view::npos
-                              ? 3
-                              : 1;
-    stato.ModalitaInput = somme::kMouseTastiera;
-    if (nome.ends_with("HK")) stato.ModalitaInput = somme::kHelpiKeys;
-    if (nome.ends_with("Scansione")) stato.ModalitaInput = somme::kScansioneAutomatica;
-  }
-
   void vai(std::string_view nome) {
     Forms& forme = banco_.ambiente->fondo.forms();
     try {

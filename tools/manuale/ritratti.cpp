@@ -14,6 +14,7 @@
 #include "app/shared/nomi_forme.h"
 #include "app/shared/stringhe_condivise.h"
 #include "app/tabella_forme.h"
+#include "support/come_dal_menu.h"
 #include "tools/manuale/scene.h"
 #include "tools/manuale/scene_tocco.h"
 
@@ -50,12 +51,7 @@ bool Forme(const QDir& cartella, const QString& lingua, QSize lato) {
     prova::Banco banco(lato);
     ScegliLingua(banco, lingua);
     const QLatin1String scritto(nome.data(), qsizetype(nome.size()));
-    banco.ambiente->stato.LimiteEsercizio = scritto.contains(QLatin1String("20")) ? 20 : 10;
-    banco.ambiente->stato.TipoEsercizio =
-        scritto.contains(QLatin1String("LU")) || scritto.contains(QLatin1String("Abaco")) ? 3 : 1;
-    if (scritto.endsWith(QLatin1String("Scansione"))) {
-      banco.ambiente->stato.ModalitaInput = somme::kScansioneAutomatica;
-    }
+    prova::ComeDalMenu(banco.ambiente->stato, nome);
     QImage ritratto;
     if (scritto.startsWith(QLatin1String("FormStampa"))) {
       manuale::ConIlFoglio(banco, nome, [&](auto&) { ritratto = manuale::Ritratto(banco); });
