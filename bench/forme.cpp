@@ -287,7 +287,9 @@ int main(int argc, char* argv[]) {
   }
   Misura misura(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
   for (const std::string_view nome : somme::NomiDelleForme()) {
-    if (nome != somme::forme::kFormAvvio) misura.mostra(nome);
+    // Without a printer a sheet is gone as soon as it is shown; the splash form has been.
+    const bool resta = nome != somme::forme::kFormAvvio && !nome.starts_with("FormStampa");
+    if (resta) misura.mostra(nome);
   }
   misura.verdetti();
   misura.guardia();
