@@ -3,8 +3,12 @@
 #include <QApplication>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
+#include <QWidget>
+#include <algorithm>
 
 #include "platform/forms/accessible.h"
+#include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
 
 namespace platform {
@@ -13,7 +17,12 @@ namespace {
 
 constexpr double kMenuPixels = 16;
 
-// Fusion, with a text cursor that can be found.
+// Between the words of two menus, of the size of their letters; Fusion itself leaves a fixed part
+// of it round each.
+constexpr double kBetweenMenus = 1.2;
+constexpr int kRoundMenu = 12;  // pixels
+
+// Fusion, with a text cursor that can be found, and menus that keep apart whatever their size.
 class Style final : public QProxyStyle {
  public:
   Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -21,8 +30,16 @@ class Style final : public QProxyStyle {
   [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
                                 const QWidget* widget) const override {
     constexpr int kTextCursor = 3;
-    return metric == PM_TextCursorWidth ? kTextCursor
-                                        : QProxyStyle::pixelMetric(metric, option, widget);
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric == PM_TextCursorWidth) {
+      // A line edit asks by its option alone.
+      const auto* asking = qobject_cast<const QWidget*>(option ? option->styleObject : nullptr);
+      return asking == nullptr ? kTextCursor : int(kTextCursor * markScale(*asking));
+    }
+    if (metric == PM_MenuBarItemSpacing && widget != nullptr) {
+      return std::max(usual, int(widget->font().pixelSize() * kBetweenMenus) - kRoundMenu);
+    }
+    return usual;
   }
 };
 

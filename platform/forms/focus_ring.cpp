@@ -1,6 +1,7 @@
 #include "platform/forms/focus_ring.h"
 
 #include <QPainter>
+#include <QWidget>
 #include <algorithm>
 
 namespace platform {
@@ -10,6 +11,7 @@ namespace {
 constexpr QColor kDark(10, 20, 90);
 constexpr double kDarkWidth = 3;
 constexpr double kLightWidth = kFocusRingWidth - kDarkWidth;
+constexpr double kUsualHeight = 768;  // of a window, in pixels
 
 // How many pictures without rings are being made; windows are painted on one thread only.
 int withoutRings = 0;
@@ -26,13 +28,20 @@ void ring(QPainter& painter, const QRectF& area, double width, double distance, 
 
 }  // namespace
 
-void paintFocusRing(QPainter& painter, const QRectF& area, double corner) {
+double markScale(const QWidget& widget) {
+  return std::max(1.0, widget.window()->height() / kUsualHeight);
+}
+
+void paintFocusRing(QPainter& painter, const QWidget& control, double corner) {
   if (withoutRings > 0) return;
+  const QRectF area = control.rect();
+  const double dark = kDarkWidth * markScale(control);
+  const double light = kLightWidth * markScale(control);
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(kDark, kDarkWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-  ring(painter, area, kDarkWidth, 0, corner);
-  painter.setPen(QPen(Qt::white, kLightWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-  ring(painter, area, kLightWidth, kDarkWidth, std::max(0.0, corner - 2));
+  painter.setPen(QPen(kDark, dark, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  ring(painter, area, dark, 0, corner);
+  painter.setPen(QPen(Qt::white, light, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  ring(painter, area, light, dark, std::max(0.0, corner - 2));
 }
 
 WithoutFocusRings::WithoutFocusRings() {

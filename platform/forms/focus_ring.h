@@ -1,17 +1,20 @@
 #pragma once
 
-#include <QRectF>
-
 class QPainter;
+class QWidget;
 
 namespace platform {
 
-// How far the ring reaches into what it surrounds, in pixels.
+// How far the ring reaches into what it surrounds, in pixels, where the window is not large.
 inline constexpr double kFocusRingWidth = 5;
+
+// How many times as thick as usual the marks of focus and text cursor are in this one's window, so
+// that they do not thin out beside forms that grow with it; 1 up to a height of 768 pixels.
+[[nodiscard]] double markScale(const QWidget& widget);
 
 // The mark of the control that has the focus: a light ring inside a dark one, which stands out on
 // a ground of any colour. corner: the radius of the outer corners, in pixels; 0 for square ones.
-void paintFocusRing(QPainter& painter, const QRectF& area, double corner);
+void paintFocusRing(QPainter& painter, const QWidget& control, double corner);
 
 // While one lives, no control shows a focus ring: for a picture of a form that is to be printed.
 class WithoutFocusRings {

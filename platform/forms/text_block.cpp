@@ -48,6 +48,17 @@ Mnemonic readMnemonic(const QString& caption) {
   return result;
 }
 
+// The height that the letters of a text of several lines can take. Room for accents over capitals
+// is left only where there are some: else lines of small letters would be set far apart.
+Ink inkOfLines(const QString& text, const QFont& font) {
+  const bool tall = std::any_of(text.begin(), text.end(), [](QChar letter) {
+    return letter.unicode() > 0x7F && !letter.isLower();
+  });
+  if (tall) return inkOf(font);
+  const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("bdfklàñöü(|gjpqyç"));
+  return {-ink.top(), ink.bottom()};
+}
+
 }  // namespace
 
 double contrast(const QColor& a, const QColor& b) {
@@ -76,8 +87,8 @@ void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const
   path.addText(baseLine, font, text);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.strokePath(path, QPen(readableOn(ground), outlineOf(font), Qt::SolidLine, Qt::RoundCap,
-                                Qt::RoundJoin));
+  painter.strokePath(
+      path, QPen(readableOn(ground), outlineOf(font), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.fillPath(path, ink);
   painter.restore();
 }
@@ -123,14 +134,16 @@ bool TextBlock::layOut() {
   margin_ = outlined_ ? outlineOf(font_) / 2 : 0;
   const double widest = room_.width() - 2 * margin_;
   const double highest = room_.height() - 2 * margin_;
-  const Ink ink = inkOf(font_);
+  Ink ink = inkOf(font_);
   above_ = ink.above;
-  lineHeight_ = ink.height() + font_.pixelSize() * kLineGap;
   layout_.reset();
   width_ = metrics.horizontalAdvance(text_);
   height_ = ink.height();
   if (width_ <= widest && !text_.contains(u'\n')) return height_ <= highest;
 
+  ink = inkOfLines(text_, font_);
+  above_ = ink.above;
+  lineHeight_ = ink.height() + font_.pixelSize() * kLineGap;
   QString lines = text_;
   lines.replace(u'\n', QChar::LineSeparator);
   layout_ = std::make_unique<QTextLayout>(lines, font_);

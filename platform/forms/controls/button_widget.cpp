@@ -152,7 +152,7 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QColor face = ground_.value_or(kPlainFace);
   paintFace(painter, face);
-  if (hasFocus()) paintFocusRing(painter, rect(), kCorner);
+  if (hasFocus()) paintFocusRing(painter, *this, kCorner);
 
   // What a coloured button says stays readable when the button is spent; pictures fade, and so does
   // all of a plain one.

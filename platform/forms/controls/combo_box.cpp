@@ -20,7 +20,7 @@ class ComboWidget final : public QComboBox {
     QComboBox::paintEvent(event);
     if (!hasFocus()) return;
     QPainter painter(this);
-    paintFocusRing(painter, rect(), 0);
+    paintFocusRing(painter, *this, 0);
   }
 };
 

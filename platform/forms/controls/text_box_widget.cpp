@@ -230,7 +230,7 @@ void TextBoxWidget::setBorder(bool border) {
 
 void TextBoxWidget::fitFont() {
   const int across = width() - 2 * kSideMargin - kWidthsOfOthers;
-  const int down = height() - int(kFocusRingWidth);
+  const int down = height() - int(kFocusRingWidth * markScale(*this));
   QFont fitted = font_;
   const auto fits = [&](int pixels) {
     fitted.setPixelSize(pixels);
@@ -275,7 +275,7 @@ void TextBoxWidget::paintEvent(QPaintEvent* event) {
   paintFaintText();
   QPainter painter(this);
   if (hasFocus()) {
-    paintFocusRing(painter, rect(), 0);
+    paintFocusRing(painter, *this, 0);
   } else if (border_) {
     painter.setPen(QColor(70, 70, 70));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

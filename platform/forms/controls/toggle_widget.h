@@ -32,8 +32,9 @@ class ToggleWidget : public Base {
     this->initStyleOption(&option);
     // As large as the words beside it.
     const int largest = std::max(kPlainMark, this->fontMetrics().height() * 4 / 5);
-    const int side = std::clamp(this->height() - 2 * int(kFocusRingWidth) - 2, 8, largest);
-    const int margin = int(kFocusRingWidth) + 2;
+    const int side =
+        std::clamp(this->height() - 2 * int(kFocusRingWidth * markScale(*this)) - 2, 8, largest);
+    const int margin = int(kFocusRingWidth * markScale(*this)) + 2;
     option.rect = QRect(margin, (this->height() - side) / 2, side, side);
     option.state &= ~QStyle::State_HasFocus;
     this->style()->drawPrimitive(Mark, &option, &painter, this);
@@ -42,7 +43,7 @@ class ToggleWidget : public Base {
     const QPalette::ColorGroup group = this->isEnabled() ? QPalette::Active : QPalette::Disabled;
     block_.paint(painter, room, this->palette().color(group, QPalette::WindowText),
                  this->palette().color(QPalette::Window));
-    if (this->hasFocus()) paintFocusRing(painter, this->rect(), 0);
+    if (this->hasFocus()) paintFocusRing(painter, *this, 0);
   }
 
   [[nodiscard]] bool hitButton(const QPoint& at) const override {

@@ -133,6 +133,14 @@ class TextBlockTest : public QObject {
     QVERIFY(block.size().height() <= 30);
   }
 
+  void roomForAccentsOverCapitalsIsLeftOnlyWhereThereAreSome() {
+    TextBlock small;
+    TextBlock tall;
+    small.set(QStringLiteral("però\nsì"), tahoma(20), {400, 200}, Align::Left, false);
+    tall.set(QStringLiteral("PERÒ\nSÌ"), tahoma(20), {400, 200}, Align::Left, false);
+    QVERIFY(small.size().height() < tall.size().height() - 4);
+  }
+
   void aWordLongerThanItsRoomTakesASmallerSize() {
     TextBlock block;
     block.set(QStringLiteral("Arcobaleno"), tahoma(40), {100, 200}, Align::Left, false);
