@@ -246,6 +246,20 @@ class FormHLUTest : public QObject {
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("4h 1da 3u"));
   }
 
+  void flatsThatStayAreToldUntilTheMovieIsLoadedAgain() {
+    Banco banco;
+    FormHLU& forma = apri(banco, 213, 45);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("258"));
+    const auto parole = [&] { return forma.ShockwaveFlash3.widget()->accessibleDescription(); };
+    banco.sorte.scrivi(caso(213, 45));
+    banco.clicca(forma.PulsanteAvanti);
+    QCOMPARE(parole(), QStringLiteral("2 centinaia"));
+    banco.sorte.scrivi(caso(213, 45));
+    riattiva(banco);
+    QCOMPARE(parole(), QStringLiteral("vuoto"));
+  }
+
   void whatHasBeenChangedStandsInItsPlaceAgainInTheNextCase() {
     Banco banco;
     FormHLU& forma = apri(banco, 167, 258);

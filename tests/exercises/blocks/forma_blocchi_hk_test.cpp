@@ -297,6 +297,15 @@ class FormaBlocchiHKTest : public QObject {
     QCOMPARE(cifre(forma), mostrate);
   }
 
+  void upTo99TheTensTakeAllThatIsAboveTheUnits() {
+    Banco banco;
+    banco.ambiente->stato.Totale = 123;
+    banco.ambiente->stato.TipoEsercizio = 99;  // no level: the numbers stay as they were
+    FormLUHK& forma = apriPronta<FormLUHK>(banco, somme::forme::kFormLUHK);
+    QCOMPARE(forma.Label4[1].caption(), QStringLiteral("12"));
+    QCOMPARE(forma.Label4[2].caption(), QStringLiteral("3"));
+  }
+
   void theLastKeyBeginsANewCaseAtAnyMoment_data() {
     QTest::addColumn<int>("quando");
     QTest::newRow("on the first board") << 0;

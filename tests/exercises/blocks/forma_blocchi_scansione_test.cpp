@@ -299,6 +299,11 @@ class FormaBlocchiScansioneTest : public QObject {
       banco.batti(Qt::Key_Space);
     }
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    banco.sorte.scrivi(caso(99, 24, 13));
+    banco.batti(Qt::Key_Return);
+    QVERIFY(!tastiera.isVisible());
+    QVERIFY(!tastiera.Timer1.isEnabled());
+    QVERIFY(forma.TastieraHDUScansione1.Timer1.isEnabled());
   }
 
   void aWrongResultLeavesTheKeyboardRunningAndTheTextInTheBox() {

@@ -11,7 +11,7 @@ using somme::swf::Filmato;
 
 namespace {
 
-constexpr unsigned kSemi = 400;
+constexpr unsigned kSemi = 200;
 
 std::shared_ptr<const Movie> letto(const FilmatoACaso& scritto, Filmato::Compressione come) {
   return readMovie(scritto.filmato().byte(come));
