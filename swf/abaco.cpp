@@ -183,7 +183,9 @@ Forma telaio() {
 }  // namespace
 
 Filmato abaco() {
-  Filmato filmato({521, 361, 25, {255, 252, 244}});
+  // Nothing on it moves by itself: its frames are left time to be drawn.
+  constexpr double kCadenza = 20;
+  Filmato filmato({521, 361, kCadenza, {255, 252, 244}});
   LineaTempo& scena = filmato.scena();
   int profondita = 1;
   scena.poni(profondita++, filmato.definisci(telaio()));

@@ -35,24 +35,33 @@ PixelSource::PixelSource(const Gradient& gradient, const ColorTransform& color,
   }
 }
 
-// Distances first, colours afterwards: the compiler makes several distances at a time.
+// Distances first, colours afterwards: the compiler makes several distances at a time. At the edges
+// of a shape, pixels come one by one.
 void PixelSource::fillRadially(std::span<QRgb> colors, float gx, float gy) const {
-  constexpr std::size_t together = 64;
+  constexpr std::size_t together = 16;
+  constexpr std::size_t few = 4;
   const auto last = static_cast<float>(colors_.size() - 1);
   const auto dx = static_cast<float>(toGradient_.m11() * last / halfSquare);
   const auto dy = static_cast<float>(toGradient_.m12() * last / halfSquare);
+  const auto indexAt = [=](std::size_t pixel) {
+    const auto steps = static_cast<float>(static_cast<std::int32_t>(pixel));
+    const float x = gx + dx * steps;
+    const float y = gy + dy * steps;
+    return static_cast<std::int32_t>(std::min(std::sqrt(x * x + y * y), last) + 0.5F);
+  };
   std::array<std::int32_t, together> indices{};
-  for (std::size_t begin = 0; begin < colors.size(); begin += together) {
-    const std::size_t count = std::min(together, colors.size() - begin);
+  std::size_t begin = 0;
+  for (; colors.size() - begin > few; begin += std::min(together, colors.size() - begin)) {
     for (std::size_t i = 0; i < together; ++i) {
-      const auto steps = static_cast<float>(static_cast<std::int32_t>(begin + i));
-      const float x = gx + dx * steps;
-      const float y = gy + dy * steps;
-      indices[i] = static_cast<std::int32_t>(std::min(std::sqrt(x * x + y * y), last) + 0.5F);
+      indices[i] = indexAt(begin + i);
     }
+    const std::size_t count = std::min(together, colors.size() - begin);
     for (std::size_t i = 0; i < count; ++i) {
       colors[begin + i] = colors_[static_cast<std::size_t>(indices[i])];
     }
+  }
+  for (; begin < colors.size(); ++begin) {
+    colors[begin] = colors_[static_cast<std::size_t>(indexAt(begin))];
   }
 }
 

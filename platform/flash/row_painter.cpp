@@ -17,6 +17,19 @@ QRgb mixed(QRgb above, QRgb below, std::uint32_t sixteenths) {
   return two(above, below) | (two(above >> 8U, below >> 8U) << 8U);
 }
 
+// Where the processor is not known to count bits itself, a library would be called for each pixel.
+constexpr auto bitsOfByte = [] {
+  std::array<std::uint8_t, 256> bits{};
+  for (unsigned byte = 1; byte < bits.size(); ++byte) {
+    bits[byte] = static_cast<std::uint8_t>(bits[byte / 2] + byte % 2);
+  }
+  return bits;
+}();
+
+std::uint32_t samplesIn(SampleMask mask) {
+  return std::uint32_t(bitsOfByte[mask & 0xFFU]) + bitsOfByte[mask >> 8U];
+}
+
 QRgb average(const std::array<QRgb, samples>& colors) {
   // Two channels in each sum; sixteen times 255 does not run over.
   std::uint32_t low = 0;
@@ -89,6 +102,12 @@ void RowPainter::paint(int begin, int end, SampleMask mask, const PixelSource& s
     paintWhole(begin, end, source);
     return;
   }
+  if (source.isSolid()) {
+    for (int x = begin; x < end; ++x) {
+      paintPart(x, mask, source.color());
+    }
+    return;
+  }
   const auto count = static_cast<std::size_t>(end - begin);
   source.fill(std::span(colors_).first(count), begin, y_);
   for (std::size_t i = 0; i < count; ++i) {
@@ -105,7 +124,7 @@ void RowPainter::finish() {
       pixels_[std::size_t(entry.x)] =
           entry.samples != none
               ? average(samples_[std::size_t(entry.samples)])
-              : mixed(entry.above, entry.below, std::uint32_t(std::popcount(entry.mask)));
+              : mixed(entry.above, entry.below, samplesIn(entry.mask));
       place = none;
     }
   }

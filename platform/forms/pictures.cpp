@@ -41,8 +41,10 @@ QPixmap Pictures::pixmap(const QString& name, QSize size, qreal devicePixelRatio
 }
 
 QIcon Pictures::icon(const QString& name) {
-  QIcon icon;
-  for (const int side : {16, 32, 64}) icon.addPixmap(pixmap(name, {side, side}, 1));
+  QIcon& icon = icons_[name];
+  if (icon.isNull()) {
+    for (const int side : {16, 32, 64}) icon.addPixmap(pixmap(name, {side, side}, 1));
+  }
   return icon;
 }
 

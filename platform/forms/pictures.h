@@ -23,7 +23,8 @@ class Pictures {
   void paint(QPainter& painter, const QString& name, const QRectF& area);
   // The picture in so many logical pixels.
   [[nodiscard]] QPixmap pixmap(const QString& name, QSize size, qreal devicePixelRatio);
-  // The picture as the icon of a window, in the sizes that desktops ask for.
+  // The picture as the icon of a window, in the sizes that desktops ask for. The same each time:
+  // the desktop's own copies of it would else pile up with every form.
   [[nodiscard]] QIcon icon(const QString& name);
   // For pointers: the drawing's element "punta" marks the hot spot; (0, 0) without one.
   [[nodiscard]] QPoint hotSpot(const QString& name, QSize size);
@@ -33,6 +34,7 @@ class Pictures {
 
   QString folder_;
   std::map<QString, std::unique_ptr<QSvgRenderer>> renderers_;
+  std::map<QString, QIcon> icons_;
 };
 
 }  // namespace platform

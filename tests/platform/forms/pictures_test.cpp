@@ -92,6 +92,7 @@ class PicturesTest : public QObject {
     const QIcon icon = pictures.icon(QStringLiteral("red"));
     QVERIFY(icon.availableSizes().contains(QSize(16, 16)));
     QVERIFY(icon.availableSizes().contains(QSize(64, 64)));
+    QCOMPARE(pictures.icon(QStringLiteral("red")).cacheKey(), icon.cacheKey());
   }
 };
 
