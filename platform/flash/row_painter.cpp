@@ -121,10 +121,9 @@ void RowPainter::finish() {
     int& place = places_[std::size_t(entry.x)];
     // Others have been painted over whole since.
     if (place == static_cast<int>(i)) {
-      pixels_[std::size_t(entry.x)] =
-          entry.samples != none
-              ? average(samples_[std::size_t(entry.samples)])
-              : mixed(entry.above, entry.below, samplesIn(entry.mask));
+      pixels_[std::size_t(entry.x)] = entry.samples != none
+                                          ? average(samples_[std::size_t(entry.samples)])
+                                          : mixed(entry.above, entry.below, samplesIn(entry.mask));
       place = none;
     }
   }
