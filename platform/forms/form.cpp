@@ -63,6 +63,8 @@ Form::Form(Runtime& runtime, const FormDesign& design)
       caption_(toText(design.caption)) {}
 
 Form::~Form() {
+  // Nothing follows the focus into a page that is being taken apart.
+  if (page_ != nullptr) QObject::disconnect(qApp, nullptr, page_, nullptr);
   delete page_.data();
 }
 
@@ -73,7 +75,6 @@ void Form::build(QWidget* parent) {
   buildRows();
   setTabOrder();
   QObject::connect(qApp, &QApplication::focusChanged, page_, [this](QWidget* before, QWidget* now) {
-    // A page that is being destroyed lets go of the focus, and is none any more.
     if (now == nullptr || keepFromHidden(*page_, before, *now)) return;
     focusMoved(now);
   });

@@ -1,5 +1,7 @@
 #include "platform/forms/page.h"
 
+#include <QApplication>
+#include <QHideEvent>
 #include <QMenuBar>
 #include <QPaintEvent>
 #include <QPainter>
@@ -104,6 +106,16 @@ bool Page::arrange() {
 // A page that comes up gets its resize event late: its form has taken the size already.
 void Page::resizeEvent(QResizeEvent* /*event*/) {
   if (arrange()) form_.takeSize();
+}
+
+// An open menu or list has a window of its own, which does not leave the screen with the page.
+void Page::hideEvent(QHideEvent* /*event*/) {
+  QWidget* open = QApplication::activePopupWidget();
+  for (const QObject* above = open; above != nullptr; above = above->parent()) {
+    if (above != this) continue;
+    open->close();
+    return;
+  }
 }
 
 void Page::paintEvent(QPaintEvent* event) {

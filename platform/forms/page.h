@@ -53,6 +53,7 @@ class Page final : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -8,6 +8,10 @@
 #include <cstdio>
 #include <cstring>
 #include <ctime>
+#include <string_view>
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/common_interface_defs.h>
+#endif
 
 #include "app/tabella_forme.h"
 #include "scimmia/scimmia.h"
@@ -23,14 +27,23 @@ constexpr int kEventiPerVita = 500;
 constexpr int kBlocco = 100;
 constexpr unsigned kBloccoAllOrologio = 900;
 
-char vita[128] = "";  // the life that is being lived, for the alarm
+char vita[128] = "";  // the life that is being lived, for the alarm and the sanitizers
+
+void scriviLaVita(std::string_view prima) {
+  (void)!::write(STDERR_FILENO, prima.data(), prima.size());
+  (void)!::write(STDERR_FILENO, vita, strlen(vita));
+}
 
 extern "C" void bloccata(int /*segnale*/) {
-  static const char kParole[] = "\nHANG in the life: ";
-  (void)!::write(STDERR_FILENO, kParole, sizeof kParole - 1);
-  (void)!::write(STDERR_FILENO, vita, strlen(vita));
+  scriviLaVita("\nHANG in the life: ");
   std::abort();
 }
+
+#if defined(__SANITIZE_ADDRESS__)
+extern "C" void trovato() {
+  scriviLaVita("\nFOUND in the life: ");
+}
+#endif
 
 void carica() {
   const itimerval limite{{0, 0}, {kBlocco, 0}};
@@ -129,6 +142,9 @@ int main(int argc, char* argv[]) {
   std::fflush(stdout);
   std::signal(SIGALRM, bloccata);
   std::signal(SIGPROF, bloccata);
+#if defined(__SANITIZE_ADDRESS__)
+  __sanitizer_set_death_callback(trovato);
+#endif
   bool guasto = false;
   for (const QByteArray& forma : forme) {
     const double suoi = riga.value(secondi).toDouble() / static_cast<double>(forme.size());

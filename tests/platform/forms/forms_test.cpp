@@ -322,6 +322,19 @@ class FormsTest : public QObject {
     QCOMPARE(stage.log, QStringList());
   }
 
+  void anOpenMenuGoesWithItsForm() {
+    Stage stage;
+    stage.show(kOne);
+    TrialForm& two = stage.show(kTwo);
+    stage.tap(Qt::Key_M, Qt::AltModifier, QStringLiteral("m"));
+    QVERIFY(QApplication::activePopupWidget() != nullptr);
+    stage.runtime->forms().unload(two);
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    QCoreApplication::processEvents();
+    stage.click(stage.current().First);
+    QVERIFY(stage.current().First.widget()->hasFocus());
+  }
+
   void theWindowKeepsItsSizeFromFormToForm() {
     Stage stage({901, 703});
     TrialForm& one = leading(stage, [](TrialForm&) {});
