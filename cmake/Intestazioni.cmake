@@ -9,18 +9,20 @@ set(SOMME_ALIKE -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR)
 # A set of headers, for targets that link at least what the set links.
 #
 #   somme_header_set(finestre_intestazioni LINKS Qt6::Widgets HEADERS <QWidget> <vector>)
+#
+# OPTIONS are those that its users are compiled with beside the common ones.
 function(somme_header_set name)
   if(NOT SOMME_COMPILED_HEADERS)
     return()
   endif()
-  cmake_parse_arguments(ARG "" "" "LINKS;HEADERS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "LINKS;OPTIONS;HEADERS" ${ARGN})
   # Never run: compiled headers need a program that they belong to.
   set(source "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
   file(CONFIGURE OUTPUT "${source}" CONTENT "int main() {\n  return 0;\n}\n")
   add_executable(${name} "${source}")
   set_target_properties(${name} PROPERTIES AUTOMOC OFF)
   target_link_libraries(${name} PRIVATE somme_opzioni ${ARG_LINKS})
-  target_compile_options(${name} PRIVATE ${SOMME_ALIKE})
+  target_compile_options(${name} PRIVATE ${SOMME_ALIKE} ${ARG_OPTIONS})
   target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
 endfunction()
 
