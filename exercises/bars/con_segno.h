@@ -34,9 +34,9 @@ namespace disegno {
 // da, a: where the mark begins and ends inside the panel, twips; its place is that of the form's
 // unit. F: the form.
 template <class F>
-constexpr Row Segno(double da, double a) {
+constexpr Row Segno(double da, double a, bool nascosto = true) {
   return row<&F::Line1>({4890, da, 0, a - da}, {.toolTip = "Qui finisce la decina",
-                                                .hidden = true,
+                                                .hidden = nascosto,
                                                 .borderWidth = 2,
                                                 .in = nameOf<&FormaBarre::Picture1>});
 }

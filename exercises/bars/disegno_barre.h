@@ -39,39 +39,46 @@ constexpr Row Aiuto(TwipsRect posto) {
       posto, {.caption = "&aiuto", .font = kTahoma14, .picture = "aiuto"});
 }
 
-// The panel with the bars on top, the written sum under it, on every form but that of the numbered
-// buttons.
-
-// unita: height of a bar and side of a help square, twips.
-constexpr auto BarreInAlto(double unita) {
-  constexpr double kOrigine = 240;
-  const double aiutiAddendi = kOrigine + 2 * unita + 10;
-  const double aiutiTotale = kOrigine + 3 * unita;
+// The white panel with what stands in it. sinistra, alto: of the panel; origine: of the bars in it,
+// from the left and from the top; unita: height of a bar and side of a help square. All in twips.
+constexpr auto Barre(double sinistra, double alto, double origine, double unita) {
+  const double aiutiAddendi = origine + 2 * unita + 10;
+  const double aiutiTotale = origine + 3 * unita;
   return std::to_array<Row>({
-      row<&FormaBarre::Picture1>({240, 240, 10455, 3495},
+      row<&FormaBarre::Picture1>({sinistra, alto, 10455, 3495},
                                  {.toolTip = "Barre", .back = kWhite, .border = true}),
-      row<&FormaBarre::n1>({kOrigine, kOrigine, unita, unita}, Barra(kCiano, "Barra gialla")),
-      row<&FormaBarre::n2>({kOrigine + unita, kOrigine, unita, unita},
-                           Barra(kVerde, "Barra verde")),
-      row<&FormaBarre::n3>({kOrigine, kOrigine + unita, 2 * unita, unita},
+      row<&FormaBarre::n1>({origine, origine, unita, unita}, Barra(kCiano, "Barra gialla")),
+      row<&FormaBarre::n2>({origine + unita, origine, unita, unita}, Barra(kVerde, "Barra verde")),
+      row<&FormaBarre::n3>({origine, origine + unita, 2 * unita, unita},
                            Barra(kRosso, "Barra rossa")),
-      row<&FormaBarre::aiuto1>(0, {kOrigine, aiutiAddendi, unita, unita}, Quadretto(kCiano)),
-      row<&FormaBarre::aiuto2>(0, {kOrigine + unita, aiutiAddendi, unita, unita},
-                               Quadretto(kVerde)),
-      row<&FormaBarre::aiuto3>(0, {kOrigine, aiutiTotale, unita, unita}, Quadretto(kRosso)),
+      row<&FormaBarre::aiuto1>(0, {origine, aiutiAddendi, unita, unita}, Quadretto(kCiano)),
+      row<&FormaBarre::aiuto2>(0, {origine + unita, aiutiAddendi, unita, unita}, Quadretto(kVerde)),
+      row<&FormaBarre::aiuto3>(0, {origine, aiutiTotale, unita, unita}, Quadretto(kRosso)),
   });
 }
 
-inline constexpr auto kSommaScritta = std::to_array<Row>({
-    row<&FormaBarre::Label4>(0, {2760, 4320, 975, 735}, Termine("")),
-    row<&FormaBarre::Label4>(1, {3720, 4320, 855, 735}, Termine("+")),
-    row<&FormaBarre::Label4>(2, {4560, 4320, 975, 735}, Termine("")),
-    row<&FormaBarre::Label4>(3, {5520, 4320, 855, 735}, Termine("=")),
-    row<&FormaBarre::Label4>(4, {6360, 4320, 975, 735}, Termine("")),
-    row<&FormaBarre::Label3>(
-        {360, 5520, 5175, 480},
-        {.caption = "Trova il numero che corrisponde alla barra rossa", .font = kTahoma9}),
-});
+// The written sum; sinistra, alto: of its first term, twips.
+constexpr auto SommaScritta(double sinistra, double alto) {
+  return std::to_array<Row>({
+      row<&FormaBarre::Label4>(0, {sinistra, alto, 975, 735}, Termine("")),
+      row<&FormaBarre::Label4>(1, {sinistra + 960, alto, 855, 735}, Termine("+")),
+      row<&FormaBarre::Label4>(2, {sinistra + 1800, alto, 975, 735}, Termine("")),
+      row<&FormaBarre::Label4>(3, {sinistra + 2760, alto, 855, 735}, Termine("=")),
+      row<&FormaBarre::Label4>(4, {sinistra + 3600, alto, 975, 735}, Termine("")),
+  });
+}
+
+constexpr Row Consegna(double alto, std::string_view testo) {
+  return row<&FormaBarre::Label3>({360, alto, 5175, 480}, {.caption = testo, .font = kTahoma9});
+}
+
+// On every form but that of the numbered buttons the panel is on top, the written sum under it.
+constexpr auto BarreInAlto(double unita) {
+  return Barre(240, 240, 240, unita);
+}
+inline constexpr auto kSommaSotto = SommaScritta(2760, 4320);
+inline constexpr auto kConsegnaSotto =
+    std::to_array<Row>({Consegna(5520, "Trova il numero che corrisponde alla barra rossa")});
 
 // The kinds of exercise in the menu, in every bars form.
 inline constexpr auto kMenuBarre = std::to_array<Row>({

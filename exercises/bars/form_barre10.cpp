@@ -9,28 +9,15 @@ using namespace disegno;
 
 namespace {
 
-constexpr int kAiuti = 10;
-
 constexpr Row Numero(int i, double sinistra, std::string_view testo) {
   return row<&FormBarre10::PulsanteNumero>(
       i, {sinistra, 4920, 800, 645},
       {.caption = testo, .font = {Face::Arial, 20.25, true}, .back = kRosso});
 }
 
+constexpr auto kSomma = SommaScritta(2880, 120);
+constexpr auto kBarre = Barre(360, 1080, 0, 705);
 constexpr auto kControlli = std::to_array<Row>({
-    row<&FormBarre10::Label4>(0, {2880, 120, 975, 735}, Termine("")),
-    row<&FormBarre10::Label4>(1, {3840, 120, 855, 735}, Termine("+")),
-    row<&FormBarre10::Label4>(2, {4680, 120, 975, 735}, Termine("")),
-    row<&FormBarre10::Label4>(3, {5640, 120, 855, 735}, Termine("=")),
-    row<&FormBarre10::Label4>(4, {6480, 120, 975, 735}, Termine("")),
-    row<&FormBarre10::Picture1>({360, 1080, 10455, 3495},
-                                {.toolTip = "Barre", .back = kWhite, .border = true}),
-    row<&FormBarre10::n1>({0, 0, 705, 705}, Barra(kCiano, "Barra gialla")),
-    row<&FormBarre10::n2>({705, 0, 705, 705}, Barra(kVerde, "Barra verde")),
-    row<&FormBarre10::n3>({0, 705, 1410, 705}, Barra(kRosso, "Barra rossa")),
-    row<&FormBarre10::aiuto1>(0, {0, 1420, 705, 705}, Quadretto(kCiano)),
-    row<&FormBarre10::aiuto2>(0, {705, 1420, 705, 705}, Quadretto(kVerde)),
-    row<&FormBarre10::aiuto3>(0, {0, 2115, 705, 705}, Quadretto(kRosso)),
     Numero(0, 360, "0"),
     Numero(1, 1335, "1"),
     Numero(2, 2295, "2"),
@@ -42,7 +29,7 @@ constexpr auto kControlli = std::to_array<Row>({
     Numero(8, 8040, "8"),
     Numero(9, 9000, "9"),
     Numero(10, 9960, "10"),
-    row<&FormBarre10::Label3>({360, 5760, 5175, 480}, {.caption = "--", .font = kTahoma9}),
+    Consegna(5760, "--"),
     Aiuto({6840, 6360, 1935, 975}),
     Avanti<FormBarre10>({8880, 6360, 1935, 975}),
     Si({360, 6360, 855, 855}),
@@ -60,7 +47,8 @@ constexpr auto kMenuProprio = std::to_array<Row>({
     item<&FormBarre10::mnuEsci>({.caption = "&Esci"}),
 });
 
-constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kMenuBarre, kMenuProprio};
+constexpr std::array<std::span<const Row>, 5> kTavole{kSomma, kBarre, kControlli, kMenuBarre,
+                                                      kMenuProprio};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre10,
                               .caption = "Esercitazioni sulle somme",
@@ -71,7 +59,7 @@ constexpr FormDesign kDisegno{.name = forme::kFormBarre10,
 
 }  // namespace
 
-FormBarre10::FormBarre10(Ambiente& ambiente) : FormaBarrePulsanti(ambiente, kDisegno, kAiuti) {
+FormBarre10::FormBarre10(Ambiente& ambiente) : FormaBarrePulsanti(ambiente, kDisegno, kFinoA10) {
   mnuTastiera.onClick([this] { VaiA(forme::kFormBarre10Tastiera); });
 }
 
@@ -82,21 +70,12 @@ void FormBarre10::onLoad() {
   });
 }
 
-void FormBarre10::onActivate() {
-  LeggiMisure();
-  MisuraAiuti();
-  ScriviTitolo(stringhe().TitoloFinoAl10);
-  CreaAiuti();
-  ColoraTermini();
-  NuovoCaso();
-}
-
 void FormBarre10::NuovoCaso() {
   newCase();
   for (int i = 0; i <= stato().LimiteEsercizio; ++i) PulsanteNumero[i].setEnabled(true);
   PulsanteAvanti.setEnabled(false);
   NascondiAiuti();
-  GeneraSecondoTipo();
+  GeneraPerTipo();
 }
 
 void FormBarre10::Chiedi(const DomandaBarre& domanda) {

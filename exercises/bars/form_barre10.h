@@ -15,7 +15,6 @@ class FormBarre10 final : public FormaBarrePulsanti {
 
  protected:
   void onLoad() override;
-  void onActivate() override;
   void NuovoCaso() override;
   void Chiedi(const DomandaBarre& domanda) override;
 

@@ -9,20 +9,17 @@ using namespace disegno;
 
 namespace {
 
-constexpr int kAiuti = 10;
-
 constexpr auto kBarre = BarreInAlto(705);
 
-constexpr std::array<std::span<const Row>, 8> kTavole{
-    kBarre,        kSommaScritta,  kRispostaScritta, kVerdettoBarre,
-    kPresaBarreHK, kFoglioBarreHK, kMenuBarre,       kEsciBarre};
+constexpr std::array<std::span<const Row>, 9> kTavole{
+    kBarre,        kSommaSotto,    kConsegnaSotto, kRispostaScritta, kVerdettoBarre,
+    kPresaBarreHK, kFoglioBarreHK, kMenuBarre,     kEsciBarre};
 
 constexpr FormDesign kDisegno =
     DisegnoBarreTastiera(forme::kFormBarre10HK, kAltezzaBarreHK, kTavole);
 
 }  // namespace
 
-FormBarre10HK::FormBarre10HK(Ambiente& ambiente)
-    : FormaBarreHK(ambiente, kDisegno, kAiuti, &StringheCondivise::TitoloFinoAl10) {}
+FormBarre10HK::FormBarre10HK(Ambiente& ambiente) : FormaBarreHK(ambiente, kDisegno, kFinoA10) {}
 
 }  // namespace somme

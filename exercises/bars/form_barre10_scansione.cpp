@@ -9,16 +9,14 @@ using namespace disegno;
 
 namespace {
 
-constexpr int kAiuti = 10;
-
 constexpr auto kBarre = BarreInAlto(705);
 constexpr auto kControlli = std::to_array<Row>({
     row<&FormBarre10Scansione::LabelDimensioneTastiera>({3120, 6240, 7455, 555}, {.hidden = true}),
     TastieraNumerica<FormBarre10Scansione>({3120, 6240, 7455, 555}, false),
 });
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kBarre,     kSommaScritta, kRestoScansione,
-                                                      kControlli, kMenuBarre,    kEsciBarre};
+constexpr std::array<std::span<const Row>, 7> kTavole{
+    kBarre, kSommaSotto, kConsegnaSotto, kRestoScansione, kControlli, kMenuBarre, kEsciBarre};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre10Scansione,
                               .caption = "Esercitazioni sulle somme",
@@ -30,12 +28,12 @@ constexpr FormDesign kDisegno{.name = forme::kFormBarre10Scansione,
 }  // namespace
 
 FormBarre10Scansione::FormBarre10Scansione(Ambiente& ambiente)
-    : FormaBarreScansione(ambiente, kDisegno, kAiuti) {}
+    : FormaBarreScansione(ambiente, kDisegno, kFinoA10) {}
 
 void FormBarre10Scansione::onActivate() {
   LeggiMisure();
   MisuraAiuti();
-  ScriviTitolo(stringhe().TitoloFinoAl10);
+  ScriviTitolo();
   CreaAiuti();
   PosaTastiera(TastieraNumericaScansione1, LabelDimensioneTastiera);
   NuovoCaso();

@@ -9,14 +9,12 @@ using namespace disegno;
 
 namespace {
 
-constexpr int kAiuti = 10;
-
 constexpr double kAltezza = 7905;
 
 constexpr auto kBarre = BarreInAlto(705);
 
-constexpr std::array<std::span<const Row>, 6> kTavole{
-    kBarre, kSommaScritta, kRispostaScritta, kVerdettoBarre, kMenuBarre, kEsciBarre};
+constexpr std::array<std::span<const Row>, 7> kTavole{
+    kBarre, kSommaSotto, kConsegnaSotto, kRispostaScritta, kVerdettoBarre, kMenuBarre, kEsciBarre};
 
 constexpr FormDesign kDisegno =
     DisegnoBarreTastiera(forme::kFormBarre10Tastiera, kAltezza, kTavole);
@@ -24,15 +22,6 @@ constexpr FormDesign kDisegno =
 }  // namespace
 
 FormBarre10Tastiera::FormBarre10Tastiera(Ambiente& ambiente)
-    : FormaBarreTastiera(ambiente, kDisegno, kAiuti) {}
-
-void FormBarre10Tastiera::onActivate() {
-  LeggiMisure();
-  MisuraAiuti();
-  ScriviTitolo(stringhe().TitoloFinoAl10);
-  CreaAiuti();
-  ColoraTermini();
-  NuovoCaso();
-}
+    : FormaBarreTastiera(ambiente, kDisegno, kFinoA10) {}
 
 }  // namespace somme

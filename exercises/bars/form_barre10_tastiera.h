@@ -9,9 +9,6 @@ namespace somme {
 class FormBarre10Tastiera final : public FormaBarreTastiera {
  public:
   explicit FormBarre10Tastiera(Ambiente& ambiente);
-
- protected:
-  void onActivate() override;
 };
 
 }  // namespace somme

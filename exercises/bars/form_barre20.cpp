@@ -9,28 +9,17 @@ using namespace disegno;
 
 namespace {
 
-constexpr int kAiuti = 20;
-
 constexpr auto kBarre = BarreInAlto(465);
 constexpr auto kSegno = std::to_array<Row>({Segno<FormBarre20>(-120, 3360)});
 
-constexpr std::array<std::span<const Row>, 7> kTavole{
-    kBarre, kSegno, kSommaScritta, kRispostaScritta, kVerdettoBarre, kMenuBarre, kEsciBarre};
+constexpr std::array<std::span<const Row>, 8> kTavole{
+    kBarre,           kSegno,         kSommaSotto, kConsegnaSotto,
+    kRispostaScritta, kVerdettoBarre, kMenuBarre,  kEsciBarre};
 
 constexpr FormDesign kDisegno = DisegnoBarreTastiera(forme::kFormBarre20, 7605, kTavole);
 
 }  // namespace
 
-FormBarre20::FormBarre20(Ambiente& ambiente) : ConSegno(ambiente, kDisegno, kAiuti) {}
-
-void FormBarre20::onActivate() {
-  LeggiMisure();
-  PosaSegno();
-  MisuraAiuti();
-  ScriviTitolo(stringhe().TitoloFinoAl20);
-  CreaAiuti();
-  ColoraTermini();
-  NuovoCaso();
-}
+FormBarre20::FormBarre20(Ambiente& ambiente) : ConSegno(ambiente, kDisegno, kFinoA20) {}
 
 }  // namespace somme

@@ -9,9 +9,6 @@ namespace somme {
 class FormBarre20 final : public ConSegno<FormaBarreTastiera> {
  public:
   explicit FormBarre20(Ambiente& ambiente);
-
- protected:
-  void onActivate() override;
 };
 
 }  // namespace somme

@@ -9,21 +9,18 @@ using namespace disegno;
 
 namespace {
 
-constexpr int kAiuti = 20;
-
 constexpr auto kBarre = BarreInAlto(465);
 constexpr auto kSegno = std::to_array<Row>({Segno<FormBarre20HK>(120, 3600)});
 
-constexpr std::array<std::span<const Row>, 9> kTavole{
-    kBarre,        kSegno,         kSommaScritta, kRispostaScritta, kVerdettoBarre,
-    kPresaBarreHK, kFoglioBarreHK, kMenuBarre,    kEsciBarre};
+constexpr std::array<std::span<const Row>, 10> kTavole{
+    kBarre,         kSegno,        kSommaSotto,    kConsegnaSotto, kRispostaScritta,
+    kVerdettoBarre, kPresaBarreHK, kFoglioBarreHK, kMenuBarre,     kEsciBarre};
 
 constexpr FormDesign kDisegno =
     DisegnoBarreTastiera(forme::kFormBarre20HK, kAltezzaBarreHK, kTavole);
 
 }  // namespace
 
-FormBarre20HK::FormBarre20HK(Ambiente& ambiente)
-    : ConSegno(ambiente, kDisegno, kAiuti, &StringheCondivise::TitoloFinoAl20) {}
+FormBarre20HK::FormBarre20HK(Ambiente& ambiente) : ConSegno(ambiente, kDisegno, kFinoA20) {}
 
 }  // namespace somme

@@ -9,14 +9,11 @@ using namespace disegno;
 
 namespace {
 
-constexpr int kAiuti = 20;
 constexpr Rgb kGiallo{255, 255, 0};
 
 constexpr auto kBarre = BarreInAlto(465);
 constexpr auto kControlli = std::to_array<Row>({
-    row<&FormBarre20Scansione::Line1>({4890, 480, 0, 2520}, {.toolTip = "Qui finisce la decina",
-                                                             .borderWidth = 2,
-                                                             .in = nameOf<&FormaBarre::Picture1>}),
+    Segno<FormBarre20Scansione>(480, 3000, false),  // the first case hides it
     row<&FormBarre20Scansione::LabelDimensioneTastiera>({3240, 6600, 7455, 555}, {.hidden = true}),
     TastieraNumerica<FormBarre20Scansione>({3240, 6600, 7455, 555}, false),
     Si({240, 6450, 795, 795}),
@@ -25,8 +22,8 @@ constexpr auto kControlli = std::to_array<Row>({
     Errati({1140, 6870, 1860, 390}),
 });
 
-constexpr std::array<std::span<const Row>, 6> kTavole{kBarre,     kSommaScritta, kRestoScansione,
-                                                      kControlli, kMenuBarre,    kEsciBarre};
+constexpr std::array<std::span<const Row>, 7> kTavole{
+    kBarre, kSommaSotto, kConsegnaSotto, kRestoScansione, kControlli, kMenuBarre, kEsciBarre};
 
 constexpr FormDesign kDisegno{.name = forme::kFormBarre20Scansione,
                               .caption = "Esercitazioni sulle somme",
@@ -38,13 +35,13 @@ constexpr FormDesign kDisegno{.name = forme::kFormBarre20Scansione,
 }  // namespace
 
 FormBarre20Scansione::FormBarre20Scansione(Ambiente& ambiente)
-    : ConSegno(ambiente, kDisegno, kAiuti) {}
+    : ConSegno(ambiente, kDisegno, kFinoA20) {}
 
 void FormBarre20Scansione::onActivate() {
   LeggiMisure();
   PosaSegno();
   MisuraAiuti();
-  ScriviTitolo(stringhe().TitoloFinoAl20);
+  ScriviTitolo();
   CreaAiuti();
   PosaTastiera(TastieraNumericaScansione1, LabelDimensioneTastiera);
   ColoraTermini();

@@ -32,8 +32,9 @@ constexpr int kStacco = 10;
 
 }  // namespace
 
-FormaBarre::FormaBarre(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti)
-    : FormaEsercizio(ambiente, disegno, forme::kFormMenuBarre), aiuti_(aiuti) {
+FormaBarre::FormaBarre(Ambiente& ambiente, const platform::FormDesign& disegno,
+                       const PortataBarre& portata)
+    : FormaEsercizio(ambiente, disegno, forme::kFormMenuBarre), portata_(portata) {
   mnuRossa.onClick([this] { ScegliTipo(kTrovaRossa); });
   mnuGiallaVerde.onClick([this] { ScegliTipo(kTrovaGiallaVerde); });
   mnuTutteBarre.onClick([this] { ScegliTipo(kTrovaUna); });
@@ -53,8 +54,7 @@ void FormaBarre::ScegliTipo(qint16 tipo) {
   NuovoCaso();
 }
 
-// The last step of every NuovoCaso: the question that the kind of exercise asks for.
-void FormaBarre::GeneraSecondoTipo() {
+void FormaBarre::GeneraPerTipo() {
   switch (stato().TipoEsercizio) {
     case kTrovaRossa:
       GeneraCaso1();
@@ -97,7 +97,7 @@ qint16 FormaBarre::Lungo(int unita) const {
 }
 
 qint16 FormaBarre::FineDi(int unita) const {
-  return platform::toInt16(Lungo(unita) + OrigineX);
+  return toInt16(Lungo(unita) + OrigineX);
 }
 
 void FormaBarre::MostraCaso(const DomandaBarre& domanda) {
@@ -182,12 +182,13 @@ void FormaBarre::MisuraAiuti() {
   }
 }
 
-void FormaBarre::ScriviTitolo(const QString& esercizio) {
-  IniziaElenco(QStringLiteral("     ") + stringhe().TitoloBarre + stringhe().Trattino + esercizio);
+void FormaBarre::ScriviTitolo() {
+  IniziaElenco(QStringLiteral("     ") + stringhe().TitoloBarre + stringhe().Trattino +
+               stringhe().*portata_.titolo);
 }
 
 void FormaBarre::CreaAiuti() {
-  for (int i = 1; i < aiuti_; ++i) {
+  for (int i = 1; i < portata_.aiuti; ++i) {
     aiuto1.load(i);
     aiuto2.load(i);
     aiuto3.load(i);

@@ -14,15 +14,22 @@ struct DomandaBarre {
   platform::Rgb colore;  // of the answer
 };
 
+// How far an exercise goes.
+struct PortataBarre {
+  int aiuti;                           // help squares that each row can have
+  QString StringheCondivise::*titolo;  // in the heading of the record
+};
+inline constexpr PortataBarre kFinoA10{10, &StringheCondivise::TitoloFinoAl10};
+inline constexpr PortataBarre kFinoA20{20, &StringheCondivise::TitoloFinoAl20};
+
 // The bars exercises: the two addends as bars end to end, the total under them, one number of the
 // three to be found. How the answer comes in is left to the forms.
 //
-// The first addend's bar is called "gialla" in every text and is cyan; its second addend is a
-// lighter green on the bar than in the written sum. Both are settled.
+// The first addend's bar is called "gialla" in every text and is cyan; the second addend is a
+// lighter green on its bar than in the written sum. Both are settled.
 class FormaBarre : public FormaEsercizio {
  public:
-  // aiuti: how many help squares each row can have.
-  FormaBarre(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti);
+  FormaBarre(Ambiente& ambiente, const platform::FormDesign& disegno, const PortataBarre& portata);
 
   platform::PictureBox Picture1{*this};
   platform::Label n1{*this};
@@ -50,11 +57,11 @@ class FormaBarre : public FormaEsercizio {
   // The steps that the forms' own NuovoCaso, Load and Activate are made of.
   void IniziaEsercizio();  // the counters, and the first kind of exercise
   void NascondiAiuti();
-  void GeneraSecondoTipo();
+  void GeneraPerTipo();  // the question that the kind of exercise asks for
   // The unit and the origin, from `n1` as it stands now; the other bars take its height.
   void LeggiMisure();
   void MisuraAiuti();
-  void ScriviTitolo(const QString& esercizio);
+  void ScriviTitolo();
   void CreaAiuti();
   // The written numbers in the colours of the answers; primo: another one for the first.
   void ColoraTermini(std::optional<platform::Rgb> primo = {});
@@ -81,7 +88,7 @@ class FormaBarre : public FormaEsercizio {
   void MettiQuadretti(platform::ControlArray<platform::Label>& quadretti, int quanti, int sinistra,
                       int alto);
 
-  int aiuti_;
+  const PortataBarre& portata_;
   qint16 RisultatoAtteso = 0;  // the number that the pupil must give
   qint16 OrigineY = 0;         // top of the first row of bars, twips inside `Picture1`
   qint16 OrigineX = 0;         // left end of the bars

@@ -12,9 +12,9 @@ constexpr TastieraHelpiKeys kTastiera{
 
 }  // namespace
 
-FormaBarreHK::FormaBarreHK(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti,
-                           QString StringheCondivise::*titolo)
-    : ConTastiCifre(kTastiera, ambiente, disegno, aiuti), titolo_(titolo) {
+FormaBarreHK::FormaBarreHK(Ambiente& ambiente, const platform::FormDesign& disegno,
+                           const PortataBarre& portata)
+    : ConTastiCifre(kTastiera, ambiente, disegno, portata) {
   OffriFoglio(mnuStamopaHK);
 }
 
@@ -22,7 +22,7 @@ void FormaBarreHK::DopoLaRichiesta() {
   LeggiMisure();
   PosaSegno();
   MisuraAiuti();
-  ScriviTitolo(stringhe().*titolo_);
+  ScriviTitolo();
   ColoraTermini();
   // A later activation leaves the squares as they are.
   if (aiuto1.count() < 2) CreaAiuti();

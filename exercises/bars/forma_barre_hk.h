@@ -11,9 +11,8 @@ namespace somme {
 // Each activation, also the one after the keyboard sheet, drops the open case and the record.
 class FormaBarreHK : public ConTastiCifre<FormaBarreTastiera> {
  public:
-  // titolo: how far the exercise goes, in the heading of the record.
-  FormaBarreHK(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti,
-               QString StringheCondivise::*titolo);
+  FormaBarreHK(Ambiente& ambiente, const platform::FormDesign& disegno,
+               const PortataBarre& portata);
 
   platform::MenuItem mnuStamopaHK{*this};
 
@@ -24,9 +23,6 @@ class FormaBarreHK : public ConTastiCifre<FormaBarreTastiera> {
   [[nodiscard]] bool SiScrive() const override { return !TestoInput.isLocked(); }
   void Conferma() override { Controlla(); }
   void Aiuta() override;
-
- private:
-  QString StringheCondivise::*titolo_;
 };
 
 }  // namespace somme

@@ -3,8 +3,8 @@
 namespace somme {
 
 FormaBarrePulsanti::FormaBarrePulsanti(Ambiente& ambiente, const platform::FormDesign& disegno,
-                                       int aiuti)
-    : ConAvanti(ambiente, disegno, aiuti) {
+                                       const PortataBarre& portata)
+    : ConAvanti(ambiente, disegno, portata) {
   PulsanteAiuto.onClick([this] { MostraAiuto(); });
 }
 
@@ -13,6 +13,16 @@ void FormaBarrePulsanti::onLoad() {
   PulsanteAvanti.setVisible(true);
   IniziaEsercizio();
   if (stato().CursoreDiSistema) ImpostaCursoreSistema();
+}
+
+void FormaBarrePulsanti::onActivate() {
+  LeggiMisure();
+  PosaSegno();
+  MisuraAiuti();
+  ScriviTitolo();
+  CreaAiuti();
+  ColoraTermini();
+  NuovoCaso();
 }
 
 void FormaBarrePulsanti::SegnaRisolto() {

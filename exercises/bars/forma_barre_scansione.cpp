@@ -5,8 +5,8 @@
 namespace somme {
 
 FormaBarreScansione::FormaBarreScansione(Ambiente& ambiente, const platform::FormDesign& disegno,
-                                         int aiuti)
-    : ConScansione(ambiente, disegno, aiuti) {}
+                                         const PortataBarre& portata)
+    : ConScansione(ambiente, disegno, portata) {}
 
 void FormaBarreScansione::onLoad() {
   ConScansione::onLoad();
@@ -19,7 +19,7 @@ void FormaBarreScansione::NuovoCaso() {
   TestoInput.setText({});
   NascondiAiuti();
   NascondiSegno();
-  GeneraSecondoTipo();
+  GeneraPerTipo();
 }
 
 void FormaBarreScansione::Chiedi(const DomandaBarre& domanda) {

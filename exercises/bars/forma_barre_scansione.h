@@ -9,7 +9,8 @@ namespace somme {
 // empty term of the written sum, helps, confirms, and leads on after a right answer.
 class FormaBarreScansione : public ConScansione<FormaBarre> {
  public:
-  FormaBarreScansione(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti);
+  FormaBarreScansione(Ambiente& ambiente, const platform::FormDesign& disegno,
+                      const PortataBarre& portata);
 
   platform::TextBox TestoInput{*this};             // only the program writes in it
   platform::Label LabelDimensioneTastiera{*this};  // hidden: the keyboard's place

@@ -5,8 +5,8 @@
 namespace somme {
 
 FormaBarreTastiera::FormaBarreTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
-                                       int aiuti)
-    : FormaBarrePulsanti(ambiente, disegno, aiuti) {
+                                       const PortataBarre& portata)
+    : FormaBarrePulsanti(ambiente, disegno, portata) {
   RaccogliCifre(TestoInput, [this] { Controlla(); });
 }
 
@@ -18,7 +18,7 @@ void FormaBarreTastiera::NuovoCaso() {
   NascondiSegno();
   PulsanteAvanti.setEnabled(false);
   NascondiAiuti();
-  GeneraSecondoTipo();
+  GeneraPerTipo();
 }
 
 void FormaBarreTastiera::Chiedi(const DomandaBarre& domanda) {

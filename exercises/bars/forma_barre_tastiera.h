@@ -9,7 +9,8 @@ namespace somme {
 // written sum, in its colour. Enter, at its release, checks it.
 class FormaBarreTastiera : public FormaBarrePulsanti {
  public:
-  FormaBarreTastiera(Ambiente& ambiente, const platform::FormDesign& disegno, int aiuti);
+  FormaBarreTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
+                     const PortataBarre& portata);
 
   platform::TextBox TestoInput{*this};
 

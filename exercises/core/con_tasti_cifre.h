@@ -20,6 +20,7 @@ class ConTastiCifre : public ConHelpiKeys<Base> {
     constexpr int kAiuto = 14;
     constexpr int kConferma = 15;
     constexpr int kAvanti = 16;
+    if (tasto < 1) return;  // a touch beside the keys
     if (tasto <= kNove) {
       // The limit of the box is not asked: what the program sets may pass it. Settled.
       if (SiScrive()) Casella().setText(Casella().text() + QString::number(tasto - 1));

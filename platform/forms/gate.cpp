@@ -39,7 +39,7 @@ void Gate::afterHandler(std::function<void()> action) {
   }
 }
 
-void Gate::wait(const std::function<void()>& work) {
+void Gate::wait(const std::function<void()>& work, Cases cases) {
   if (frames_.empty()) {
     work();
     return;
@@ -47,7 +47,8 @@ void Gate::wait(const std::function<void()>& work) {
   const std::shared_ptr<Form> form = frames_.back().form;
   const int caseNumber = form->caseNumber();
   work();
-  const bool replaced = frames_.back().cases == Cases::Matter && form->caseNumber() != caseNumber;
+  const bool matter = cases == Cases::Matter && frames_.back().cases == Cases::Matter;
+  const bool replaced = matter && form->caseNumber() != caseNumber;
   if (closed_ || form->isUnloaded() || replaced) throw Unwind{};
 }
 

@@ -33,8 +33,9 @@ class Gate {
 
   // Lets a wait or a yield of the running handler do its work and checks afterwards whether the
   // handler may go on; throws Unwind when it may not: its form was unloaded, its case was replaced,
-  // or the program is ending. Outside of any handler it just lets it work.
-  void wait(const std::function<void()>& work);
+  // or the program is ending. Outside of any handler it just lets it work. cases: whether the case
+  // counts; what keeps the handler waiting for something else than its case says that it does not.
+  void wait(const std::function<void()>& work, Cases cases = Cases::Matter);
 
   // Does something once the running handler has left the stack; at once outside of any.
   void afterHandler(std::function<void()> action);

@@ -48,16 +48,18 @@ BoxAnswer Runtime::showBox(const MessageBox& box) {
   BoxAnswer answer{};
   MessageBox shown = box;
   if (shown.title.isEmpty()) shown.title = title_;
-  gate_.wait([&] { answer = services_.boxes.show(shown); });
+  gate_.wait([&] { answer = services_.boxes.show(shown); }, Gate::Cases::DoNotMatter);
   return answer;
 }
 
 void Runtime::waitDeaf(const std::function<void()>& work) {
-  gate_.wait([&] {
-    ++deaf_;
-    const auto hearAgain = qScopeGuard([this] { --deaf_; });
-    work();
-  });
+  gate_.wait(
+      [&] {
+        ++deaf_;
+        const auto hearAgain = qScopeGuard([this] { --deaf_; });
+        work();
+      },
+      Gate::Cases::DoNotMatter);
 }
 
 void Runtime::endProcess(int status) {

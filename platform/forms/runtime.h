@@ -48,11 +48,12 @@ class Runtime {
   // The program's own pointer, 32 by 32 logical pixels.
   [[nodiscard]] const QCursor& pointer();
 
-  // Shows a box from a handler. Does not return into it when its form has gone meanwhile.
+  // Shows a box from a handler. Does not return into it when its form has gone meanwhile; a new
+  // case does not matter.
   BoxAnswer showBox(const MessageBox& box);
   // Lets a wait of the running handler work while every window of the program takes no mouse button
   // and no key: for a device that may keep the handler waiting for seconds. Does not return into it
-  // when its form has gone meanwhile.
+  // when its form has gone meanwhile; a new case does not matter.
   void waitDeaf(const std::function<void()>& work);
   [[nodiscard]] bool isDeaf() const { return deaf_ > 0; }
   // Ends the process at once: no handler starts any more and no form is unloaded.

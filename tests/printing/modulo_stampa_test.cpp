@@ -90,11 +90,25 @@ class ModuloStampaTest : public QObject {
     QVERIFY(banco.messaggi.mostrati.empty());
   }
 
+  void aRecordWithoutASolvedSumIsItsTitleAlone() {
+    Banco banco;
+    FormBarre10& forma = apri(banco);
+    forma.mnuStampa.click();
+    banco.clicca(forma.CommandStampa);
+    QCOMPARE(banco.stampanti.lavori.size(), size_t(1));
+    const PdfLetto letto(banco.stampanti.lavori.front().pages);
+    QCOMPARE(letto.pagine(), 1);
+    QCOMPARE(paroleDi(letto.testo(1)), paroleDi(QStringLiteral("Uso delle barre - Fino al 10")));
+  }
+
   void theMarginsAreAnInchFromTheEdgesOfTheSheet() {
     Banco banco;
     FormBarre10& forma = apri(banco);
     // Full lines of full pages: the ink reaches every margin.
-    const PdfLetto letto(stampa(banco, forma, QStringLiteral("\u2588").repeated(9000)));
+    forma.TestoStampa.setText(QStringLiteral("\u2588").repeated(9000));
+    forma.mnuStampa.click();
+    banco.clicca(forma.CommandStampa);
+    const PdfLetto letto(banco.stampanti.lavori.front().pages);
     QVERIFY(letto.pagine() > 1);
     const QRectF ink = prova::inchiostro(letto.immagine(1, 150), 150);
     QVERIFY2(std::abs(ink.left() - 25.4) < 0.6, qPrintable(QString::number(ink.left())));

@@ -1,5 +1,6 @@
 #include "exercises/bars/form_barre10_tastiera.h"
 
+#include "app/form_menu_barre.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "support/banco.h"
@@ -39,6 +40,25 @@ class FormBarre10TastieraTest : public QObject {
     QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(1));
     forma.mnuEsci.click();
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuBarre"));
+  }
+
+  void goingBackThroughTheMenuStartsAFreshRecordAtTheFirstKind() {
+    Banco banco;
+    banco.ambiente->stato.LimiteEsercizio = 10;
+    banco.sorte.scrivi({{6, 10}, {3, 7}});
+    auto& prima = banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+    banco.clicca(prima.PulsanteNumero[7]);
+    prima.mnuTutteBarre.click();
+    prima.mnuTastiera.click();
+    const QString titolo = QStringLiteral("\r\n     Uso delle barre - Fino al 10\r\n\r\n");
+    QCOMPARE(banco.forma<FormBarre10Tastiera>().TestoStampa.text(), titolo);
+    banco.forma<FormBarre10Tastiera>().mnuEsci.click();
+    banco.clicca(banco.forma<somme::FormMenuBarre>().Command2);
+    auto& poi = banco.forma<FormBarre10>();
+    QCOMPARE(poi.TestoStampa.text(), titolo);
+    QCOMPARE(poi.EtichettaEsatti.caption(), QStringLiteral("Esatti  0"));
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(1));
+    QVERIFY(poi.mnuRossa.isChecked());
   }
 
   void itOpensWithTheBoxOverTheTotalAndTenHelpSquaresARow() {

@@ -237,6 +237,8 @@ class FormBarre10Test : public QObject {
              (QStringList{QStringLiteral(" 2"), QStringLiteral(" 3"), QStringLiteral("?")}));
     QVERIFY(forma.ImgSi.isVisible());
     QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    // The answers were opened first, so that the focus finds them.
+    QVERIFY(forma.PulsanteNumero[0].hasFocus());
     for (int i = 0; i <= 10; ++i) {
       QVERIFY(forma.PulsanteNumero[i].isEnabled());
       QCOMPARE(forma.PulsanteNumero[i].backColor(), kRosso);
@@ -340,8 +342,30 @@ class FormBarre10Test : public QObject {
     Banco banco;
     FormBarre10& forma = apri(banco, 7, 3);
     const double prima = forma.n3.width() / forma.width();
+    const double unita = std::round(forma.n1.height());
     banco.ridimensiona({1400, 900});
     QVERIFY(std::abs(forma.n3.width() / forma.width() - prima) < 1e-6);
+    QVERIFY(std::abs(forma.n1.height() - unita) > 20);
+    // The next case still has the unit of the activation; a form that is loaded anew reads it.
+    banco.sorte.scrivi({{7, 10}, {5, 8}});
+    forma.mnuRossa.click();
+    QCOMPARE(qRound(forma.n3.width()), qRound(8 * unita));
+    QCOMPARE(qRound(forma.n3.top()), qRound(unita));
+    banco.batti(Qt::Key_E, Qt::AltModifier);
+    FormBarre10& nuova = apri(banco, 7, 3);
+    QCOMPARE(qRound(nuova.n3.width()), qRound(7 * std::round(nuova.n1.height())));
+  }
+
+  void aBarThatPassesSixteenBitsEndsTheProgram() {
+    Banco banco;
+    FormBarre10& forma = apri(banco, 7, 3);
+    forma.n1.setHeight(3277);
+    banco.sorte.scrivi({{9, 10}, {4, 10}});
+    forma.run([&forma] { forma.fireActivate(); });
+    QCOMPARE(banco.messaggi.mostrati.size(), std::size_t(1));
+    QCOMPARE(banco.messaggi.mostrati.front().text,
+             QStringLiteral("Errore di run-time '6':\n\nOverflow"));
+    QVERIFY(banco.fine.stato.value_or(0) != 0);
   }
 
   void aSecondActivationKeepsTheSquaresAndRestartsTheRecord() {

@@ -203,10 +203,14 @@ class FormBarre20Test : public QObject {
     apri(banco, 7, 3);
     banco.scrivi(QStringLiteral("8"));
     banco.premi(Qt::Key_Return);
+    // A desktop repeats a held key as pairs of release and press; it is the release that answers.
     for (int i = 0; i < 20; ++i) {
-      QKeyEvent ancora(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
-      QCoreApplication::sendEvent(banco.finestra(), &ancora);
+      for (const QEvent::Type tipo : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent ancora(tipo, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+        QCoreApplication::sendEvent(banco.finestra(), &ancora);
+      }
     }
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     banco.lascia(Qt::Key_Return);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
   }

@@ -1,6 +1,7 @@
 #include "exercises/bars/forma_barre_hk.h"
 
 #include <QAction>
+#include <utility>
 
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10_hk.h"
@@ -188,9 +189,10 @@ class FormaBarreHKTest : public QObject {
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("7"));
   }
 
-  void theKeysElevenAndTwelveDoNothing() {
+  void theKeysElevenAndTwelveAndNoKeyAtAllDoNothing() {
     Banco banco;
     FormBarre10HK& forma = apri10(banco);
+    forma.InterpretaSegnale(forma.DecodificaSegnali(6, 12));
     tocca(banco, kMappaCifre, 11);
     tocca(banco, kMappaCifre, 12);
     QCOMPARE(forma.TestoInput.text(), QString());
@@ -271,6 +273,21 @@ class FormaBarreHKTest : public QObject {
     auto& forma = banco.apri<FormBarre10HK>(somme::forme::kFormBarre10HK);
     QVERIFY(std::abs(forma.n3.width() - 7 * forma.n1.height()) < 10);
     QVERIFY(forma.n1.widget()->height() > 50);
+  }
+
+  void aTouchThatGoesOnWhileThePrinterIsAskedDoesNotLoseTheRecord() {
+    Banco banco;
+    FormBarre10HK& forma = apri10(banco);
+    rispondiToccando(banco, QStringLiteral("7"));
+    forma.mnuStampa.click();
+    bool toccato = false;
+    banco.stampanti.mentreRisponde = [&] {
+      if (!std::exchange(toccato, true)) tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    };
+    banco.clicca(forma.CommandStampa);
+    QVERIFY(toccato);
+    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    QCOMPARE(banco.stampanti.lavori.size(), std::size_t(1));
   }
 
   void theWayOutLeadsToTheMenuOfTheBars() {

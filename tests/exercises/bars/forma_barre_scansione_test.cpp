@@ -105,6 +105,8 @@ class FormaBarreScansioneTest : public QObject {
     QCOMPARE(forma.n3.caption(), QStringLiteral(" 7"));
     QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral("\r\n     3 +  4 =  7\r\n")));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("7"));
+    // The answer stays in the box alone; up to 20 the term below it was written from the start.
+    QCOMPARE(forma.Label4[4].caption(), limite == 10 ? QString() : QStringLiteral("7"));
     QCOMPARE(forma.TastieraNumericaScansione1.pulsanteAcceso(), qint16(kAvanti));
     banco.sorte.scrivi({{4, limite}, {2, 5}});
     QVERIFY(scegli(banco, forma, {kAvanti}));
@@ -148,7 +150,10 @@ class FormaBarreScansioneTest : public QObject {
     FormaBarreScansione& forma = apri(banco, limite, 7, 3);
     QVERIFY(scegli(banco, forma, {5, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
     QVERIFY(forma.ImgNo.isVisible());
+    QVERIFY(!forma.ImgSi.isVisible());
+    QCOMPARE(banco.suono.suonati, QStringList{banco.percorso(QStringLiteral("suoni/no.wav"))});
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("5"));
     QCOMPARE(forma.TastieraNumericaScansione1.pulsanteAcceso(), qint16(kCestino));
     QCOMPARE(forma.n3.caption(), QStringLiteral("?"));

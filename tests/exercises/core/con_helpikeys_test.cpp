@@ -357,6 +357,17 @@ class ConHelpiKeysTest : public QObject {
     QCOMPARE(forma.attivazioni, 1);
   }
 
+  void theSheetIsShownThoughATouchBeganANewCaseWhileTheQuestionStoodOpen() {
+    Scena scena;
+    FormDiProva& forma = scena.apriPronta();
+    forma.alTasto = [&forma] { forma.newCase(); };
+    scena.messaggi.mentreAperto = [&scena] { scena.rete.manda("BB1"); };
+    scena.messaggi.rispondi(platform::BoxAnswer::Yes);
+    forma.mnuStampaHK.click();
+    QVERIFY(forma.tasti == std::vector<int>{1});
+    QCOMPARE(scena.nomeForma(), QStringLiteral("FormStampaLU"));
+  }
+
   void aSheetThatDoesNotExistCannotBeAskedFor() {
     Scena scena(false);
     FormDiProva& forma = scena.apriPronta();

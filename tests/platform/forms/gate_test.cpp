@@ -131,6 +131,31 @@ class GateTest : public QObject {
     QVERIFY(!wentOn);
   }
 
+  void aMessageBoxReturnsThoughTheCaseWasReplacedBehindIt() {
+    Stage stage;
+    TrialForm& form = stage.show(kOne);
+    stage.boxes.mentreAperto = [&form] { form.newCase(); };
+    bool wentOn = false;
+    form.First.onClick([&] {
+      stage.runtime->showBox({.text = QStringLiteral("Look")});
+      wentOn = true;
+    });
+    stage.click(form.First);
+    QVERIFY(wentOn);
+  }
+
+  void aWaitForADeviceReturnsThoughTheCaseWasReplacedBehindIt() {
+    Stage stage;
+    TrialForm& form = stage.show(kOne);
+    bool wentOn = false;
+    form.First.onClick([&] {
+      stage.runtime->waitDeaf([&form] { form.newCase(); });
+      wentOn = true;
+    });
+    stage.click(form.First);
+    QVERIFY(wentOn);
+  }
+
   void aSecondClickInAWaitRunsInsideIt() {
     Stage stage;
     TrialForm& form = waiting(stage);
