@@ -1,4 +1,4 @@
-# The Debian package, made by `cpack` in the build folder; tools/pacchetto does both.
+# The Debian package, made by `cpack` in the build folder; tools/impacchetta does both.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME somme)
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")

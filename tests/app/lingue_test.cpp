@@ -178,6 +178,18 @@ class LingueTest : public QObject {
                                                "Migliaio UnaUnita Unita Vuoto"));
   }
 
+  void theNamesOfTheScanningKeysAreThere_data() { lingue(); }
+  void theNamesOfTheScanningKeysAreThere() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    const QMap<QString, Sezione> file = leggi(banco.percorso(lingua));
+    QCOMPARE(file.value(QStringLiteral("TastieraNumericaScansione")).keys().join(u' '),
+             QStringLiteral("PulsanteNumero(10).ToolTipText PulsanteNumero(11).ToolTipText "
+                            "PulsanteNumero(12).ToolTipText PulsanteNumero(13).ToolTipText"));
+    QCOMPARE(file.value(QStringLiteral("TastieraHDUScansione")).keys().join(u' '),
+             QStringLiteral("Pulsante(4).ToolTipText Pulsante(5).ToolTipText"));
+  }
+
   void noFileIsTooLargeToBeReadBySections_data() { lingue(); }
   void noFileIsTooLargeToBeReadBySections() {
     QFETCH(QString, lingua);

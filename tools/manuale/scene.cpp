@@ -77,21 +77,6 @@ void MenuLingua(Banco& banco) {
 void TempoScansione(Banco& banco) {
   banco.apri<FormMenu>(forme::kFormMenu).mnuTempoScansione.click();
 }
-void MenuBarre(Banco& banco) {
-  banco.mostra(forme::kFormMenuBarre);
-}
-void MenuBlocchi(Banco& banco) {
-  banco.mostra(forme::kFormMenuPLU);
-}
-void MenuNumeri(Banco& banco) {
-  banco.mostra(forme::kFormMenuNumeri);
-}
-void MenuAbaco(Banco& banco) {
-  banco.mostra(forme::kFormMenuAbaco);
-}
-void MenuTabella(Banco& banco) {
-  banco.mostra(forme::kFormMenuTabella);
-}
 
 void Barre10(Banco& banco) {
   Barre<FormBarre10>(banco, forme::kFormBarre10, 10, 7, 3);
@@ -265,11 +250,6 @@ constexpr auto kScene = std::to_array<Scena>({
     {"menu_impostazioni", Ritrai<MenuImpostazioni>},
     {"menu_lingua", Ritrai<MenuLingua>},
     {"tempo_scansione", Ritrai<TempoScansione>},
-    {"menu_barre", Ritrai<MenuBarre>},
-    {"menu_blocchi", Ritrai<MenuBlocchi>},
-    {"menu_numeri", Ritrai<MenuNumeri>},
-    {"menu_abaco", Ritrai<MenuAbaco>},
-    {"menu_tabella", Ritrai<MenuTabella>},
     {"barre10", Ritrai<Barre10>},
     {"barre10_aiuto", Ritrai<Barre10Aiuto>},
     {"barre10_giusto", Ritrai<Barre10Giusto>},
