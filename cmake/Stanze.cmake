@@ -36,7 +36,8 @@ function(somme_room name)
 endfunction()
 
 # Tests: for each name one program made of <name>_test.cpp in the calling folder, known to ctest as
-# folder/name. Tests run without a display unless they say otherwise.
+# folder/name. Tests run without a display unless they say otherwise. The presets run tests of a weight
+# of four at once: two of these, which keep a core busy each, or four that mostly wait for a window.
 #
 #   somme_tests(FOLDER platform/base LINKS somme::platform_base NAMES numbers profile_file)
 function(somme_tests)
@@ -64,7 +65,7 @@ function(somme_tests)
       endif()
     endif()
     add_test(NAME "${ARG_FOLDER}/${name}" COMMAND ${target})
-    set_tests_properties("${ARG_FOLDER}/${name}" PROPERTIES TIMEOUT ${ARG_TIMEOUT}
+    set_tests_properties("${ARG_FOLDER}/${name}" PROPERTIES TIMEOUT ${ARG_TIMEOUT} PROCESSORS 2
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;SDL_AUDIODRIVER=dummy"
       SKIP_REGULAR_EXPRESSION "SKIP  :")
   endforeach()
