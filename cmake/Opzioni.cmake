@@ -35,6 +35,15 @@ if(SOMME_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
+# The tests are some hundred and fifty programs: a fast linker where there is one.
+if(BUILD_TESTING)
+  include(CheckLinkerFlag)
+  check_linker_flag(CXX -fuse-ld=mold SOMME_MOLD)
+  if(SOMME_MOLD)
+    add_link_options(-fuse-ld=mold)
+  endif()
+endif()
+
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
