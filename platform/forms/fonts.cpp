@@ -29,6 +29,12 @@ QFont fontOf(const FontSpec& spec, double pixels) {
   return fontNamed(spec.face == Face::Tahoma ? kTahoma : kArial, pixels, spec.bold);
 }
 
+double pixelsBeside(int height, double smallest) {
+  constexpr double kShare = 0.021;
+  constexpr double kLargest = 48;
+  return std::clamp(height * kShare, smallest, kLargest);
+}
+
 Ink inkOf(const QFont& font) {
   const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈÇ(gjpqy"));
   return {-ink.top(), ink.bottom()};

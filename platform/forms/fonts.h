@@ -14,6 +14,10 @@ namespace platform {
 // The same for a font that is given by its name. pixels: at least 1.
 [[nodiscard]] QFont fontNamed(const QString& name, double pixels, bool bold);
 
+// The size of what is written beside the forms, in menus and boxes, in pixels: it grows with the
+// window as the forms do. height: of the window or page, in pixels. smallest: never less than this.
+[[nodiscard]] double pixelsBeside(int height, double smallest);
+
 // How far the ink of any word that the program can show reaches above and below the base line, in
 // pixels: accents on capitals and descenders. It is less than the font's own line height, which in
 // faces for beginners is very generous.

@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QMenu>
-#include <algorithm>
 
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
@@ -11,10 +10,7 @@ namespace platform {
 
 namespace {
 
-// The size of a menu's writing, of the page's height and in pixels.
-constexpr double kShare = 0.021;
-constexpr double kSmallest = 15;
-constexpr double kLargest = 48;
+constexpr double kSmallest = 15;  // pixels
 
 }  // namespace
 
@@ -23,8 +19,7 @@ MenuBar::MenuBar(QWidget* parent) : QMenuBar(parent) {
 }
 
 void MenuBar::scaleTo(int pageHeight) {
-  const double pixels = std::clamp(pageHeight * kShare, kSmallest, kLargest);
-  const QFont scaled = fontOf({}, pixels);
+  const QFont scaled = fontOf({}, pixelsBeside(pageHeight, kSmallest));
   if (scaled == font()) return;
   setFont(scaled);
   const QList<QMenu*> menus = findChildren<QMenu*>() + parentWidget()->findChildren<QMenu*>();

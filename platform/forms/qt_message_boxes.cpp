@@ -11,6 +11,7 @@ namespace platform {
 namespace {
 
 constexpr double kTextPixels = 17;
+// Of a button, where the writing has that size.
 constexpr QSize kButtonSize{110, 60};
 
 // Takes no answer but a button's, where the box asks for one.
@@ -54,19 +55,20 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
 
 QPushButton* addButton(Box& box, const QString& words, QMessageBox::ButtonRole role) {
   QPushButton* button = box.addButton(words, role);
-  button->setMinimumSize(kButtonSize);
+  button->setMinimumSize(kButtonSize * (box.font().pixelSize() / kTextPixels));
   return button;
 }
 
 }  // namespace
 
 BoxAnswer QtMessageBoxes::show(const MessageBox& message) {
-  Box box(parent_(), message.buttons == BoxButtons::YesNo);
+  QWidget* window = parent_();
+  Box box(window, message.buttons == BoxButtons::YesNo);
   box.setWindowTitle(message.title);
   box.setTextFormat(Qt::PlainText);
   box.setText(message.text);
   box.setIcon(iconOf(message.icon));
-  box.setFont(fontOf({}, kTextPixels));
+  box.setFont(fontOf({}, pixelsBeside(window == nullptr ? 0 : window->height(), kTextPixels)));
   const ButtonWords words = words_();
   if (message.buttons == BoxButtons::Ok) {
     QPushButton* ok = addButton(box, words.ok, QMessageBox::AcceptRole);

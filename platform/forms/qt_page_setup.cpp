@@ -76,10 +76,11 @@ void addButtons(QDialog& dialog, QFormLayout& form, const PageSetupWords& words)
 bool QtPageSetup::choose(const QString& printer, const PrinterTraits& traits,
                          PrinterSettings& settings) {
   const PageSetupWords words = words_();
-  QDialog dialog(parent_());
+  QWidget* window = parent_();
+  QDialog dialog(window);
   dialog.setObjectName(QStringLiteral("PageSetup"));
   dialog.setWindowTitle(QStringLiteral("%1 - %2").arg(words.title, printer));
-  dialog.setFont(fontOf({}, kTextPixels));
+  dialog.setFont(fontOf({}, pixelsBeside(window == nullptr ? 0 : window->height(), kTextPixels)));
   auto* form = new QFormLayout(&dialog);
   form->setVerticalSpacing(12);
   QComboBox* papers = addPapers(*form, words.paper, traits, settings.paper, paperName_);

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <functional>
+#include <utility>
 
 #include "platform/forms/appearance.h"
 
@@ -20,7 +21,9 @@ using platform::QtMessageBoxes;
 
 namespace {
 
-QMessageBox* openBox() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
+QMessageBox* openBox() {
+  return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
 
 QPushButton* buttonOf(const QMessageBox& box, const QString& words) {
   const QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
@@ -57,6 +60,26 @@ class QtMessageBoxesTest : public QObject {
 
  private Q_SLOTS:
   void initTestCase() { platform::applyAppearance(); }
+
+  void lettersAndButtonsGrowWithTheWindowBelow() {
+    QWidget window;
+    QtMessageBoxes boxes([this] { return words_; }, [&window] { return &window; });
+    const auto sizes = [&](int height) {
+      window.resize(800, height);
+      std::pair<int, int> found;
+      QTimer::singleShot(0, this, [&] {
+        found = {openBox()->font().pixelSize(), buttonOf(*openBox(), words_.ok)->height()};
+        openBox()->accept();
+      });
+      boxes.show({.text = QStringLiteral("Fatto")});
+      return found;
+    };
+    const auto [small, smallButton] = sizes(600);
+    const auto [large, largeButton] = sizes(2160);
+    QCOMPARE(small, 17);
+    QCOMPARE(large, 45);
+    QVERIFY(largeButton > 2 * smallButton);
+  }
 
   void aBoxShowsItsTextTitleIconAndTheWordsOfTheMoment() {
     QString text;
@@ -108,10 +131,12 @@ class QtMessageBoxesTest : public QObject {
   }
 
   void theButtonsAnswerYesAndNo() {
-    QCOMPARE(show(question(), [](QMessageBox& box) { buttonOf(box, QStringLiteral("Certo"))->click(); }),
-             BoxAnswer::Yes);
-    QCOMPARE(show(question(), [](QMessageBox& box) { buttonOf(box, QStringLiteral("Mai"))->click(); }),
-             BoxAnswer::No);
+    QCOMPARE(
+        show(question(), [](QMessageBox& box) { buttonOf(box, QStringLiteral("Certo"))->click(); }),
+        BoxAnswer::Yes);
+    QCOMPARE(
+        show(question(), [](QMessageBox& box) { buttonOf(box, QStringLiteral("Mai"))->click(); }),
+        BoxAnswer::No);
   }
 
   void aQuestionIsLeftOnlyByOneOfItsButtons() {
@@ -134,8 +159,9 @@ class QtMessageBoxesTest : public QObject {
   }
 
   void aMessageIsLeftByEscapeToo() {
-    QCOMPARE(show({.text = QStringLiteral("x")}, [](QMessageBox& box) { tap(box, Qt::Key_Escape); }),
-             BoxAnswer::Ok);
+    QCOMPARE(
+        show({.text = QStringLiteral("x")}, [](QMessageBox& box) { tap(box, Qt::Key_Escape); }),
+        BoxAnswer::Ok);
   }
 
   void enterTakesTheFirstButton() {
