@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QStandardPaths>
+#include <array>
 
 #include "app/modulo1.h"
 #include "app/shared/ambiente.h"
@@ -21,8 +22,11 @@
 #include "printing/parole_pagina.h"
 
 // Only wiring: the real services, the ground, the entry routine.
-int main(int argc, char* argv[]) {
-  QApplication programma(argc, argv);
+int main(int /*argc*/, char* argv[]) {
+  // The program takes no arguments. The toolkit's own would change its look.
+  int soloIlNome = 1;
+  std::array<char*, 2> nome{argv[0], nullptr};
+  QApplication programma(soloIlNome, nome.data());
   platform::applyAppearance();
   somme::PreparaImmagini();
 

@@ -1,11 +1,9 @@
 #include "platform/forms/control.h"
 
-#include <QApplication>
 #include <QWidget>
 
 #include "platform/forms/form.h"
 #include "platform/forms/runtime.h"
-#include "platform/forms/text_block.h"
 
 namespace platform {
 
@@ -113,7 +111,9 @@ void Control::setHeight(double twips) {
 
 void Control::setVisible(bool visible) {
   visible_ = visible;
-  if (widget_) widget_->setVisible(visible);
+  if (!widget_) return;
+  widget_->setVisible(visible);
+  if (!visible) form().dropHiddenFocus();
 }
 
 void Control::setEnabled(bool enabled) {

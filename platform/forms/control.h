@@ -82,7 +82,6 @@ class Control {
   // 0: the system's arrow; 99: the program's own pointer.
   void setMousePointer(int pointer);
   [[nodiscard]] int mousePointer() const { return pointer_; }
-  [[nodiscard]] virtual bool hasMousePointer() const { return widget_ != nullptr; }
 
   // Does nothing where the control cannot take the focus. Below a covering panel the focus comes
   // when the panel has gone.

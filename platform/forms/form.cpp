@@ -235,8 +235,11 @@ void Form::uncover(Control& panel) {
     focusBelow_->setFocus(Qt::OtherFocusReason);
     return;
   }
-  if (page_->canvas()->passFocus(focusBelow_, true)) return;
-  // Nothing can take it, and a hidden button must not hear keys.
+  page_->canvas()->passFocus(focusBelow_, true);
+}
+
+void Form::dropHiddenFocus() {
+  if (page_ == nullptr || !page_->isVisible()) return;
   QWidget* left = page_->canvas()->focusWidget();
   if (left != nullptr && !left->isVisible()) left->clearFocus();
 }

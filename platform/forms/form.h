@@ -55,7 +55,7 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   // Members that no row of the design stands for; a form with one is a mistake.
   [[nodiscard]] std::vector<const Control*> withoutRow() const;
 
-  // Menus, for menu items.
+  // What stands on the screen of the form, from its building on.
   [[nodiscard]] Page* page() const { return page_; }
 
   // Marks that a new case has begun: what still waits for the old one does not go on.
@@ -74,6 +74,9 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   [[nodiscard]] bool isCovered(const Control& control) const;
   // Remembers a focus that was given to a covered control.
   void setFocusBelow(Control& control) { focusBelow_ = control.widget(); }
+  // Takes the focus from what has been hidden where nothing else could take it: what is not on the
+  // screen hears no keys.
+  void dropHiddenFocus();
 
   // Runs a handler through the gate; false when it did not come to its end.
   bool run(const std::function<void()>& handler, Gate::Cases cases = Gate::Cases::Matter);
@@ -106,7 +109,6 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   void adopt(Control& control);
   void release(const Control& control);
   void fireLoad() { onLoad(); }
-  void fireResize() { onResize(); }
   void fireActivate() { onActivate(); }
   void fireUnload() { onUnload(); }
   void fireClose() { onClose(); }

@@ -120,7 +120,11 @@ Form* Forms::shownIn(const QWindow& window) const {
 }
 
 Form& Forms::loaded(std::string_view name) {
-  return *load(name);
+  // The newest of that name. One that is being left is still there to be read.
+  const auto there = std::find_if(loaded_.rbegin(), loaded_.rend(), [name](const auto& form) {
+    return form->design().name == name;
+  });
+  return there != loaded_.rend() ? **there : *load(name);
 }
 
 Form* Forms::current() const {

@@ -38,7 +38,8 @@ class Forms {
   // Takes a form from the screen at once; it is destroyed when no handler of it is left on the
   // stack. A form that it was shown over comes back and is activated after the running handler.
   void unload(Form& form);
-  // A form for reading something of it: loaded without being shown where it was not.
+  // A form for reading something of it, also one that is being left: loaded without being shown
+  // where it was not.
   [[nodiscard]] Form& loaded(std::string_view name);
 
   // Whether the program has a form of that name. One is made for the answer and thrown away.

@@ -20,7 +20,7 @@ struct Unwind {};
 class Gate {
  public:
   // onError: called with the error that left a handler, before the gate returns.
-  // onIdle: called when a form's last handler has left the stack.
+  // onIdle: called when the last handler of an unloaded form has left the stack.
   Gate(std::function<void(const RunTimeError&)> onError, std::function<void()> onIdle)
       : onError_(std::move(onError)), onIdle_(std::move(onIdle)) {}
 

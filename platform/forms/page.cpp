@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QHideEvent>
-#include <QMenuBar>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QResizeEvent>
@@ -34,7 +33,8 @@ void Canvas::paintEvent(QPaintEvent* event) {
   constexpr int kBands = 256;
   const double band = double(gradient_.height()) / kBands;
   const int first = std::max(0, int(exposed.top() / band));
-  const int last = std::min(kBands - 1, int(exposed.bottom() / band));
+  // The edges of the bands are rounded: the last row can belong to one that begins below it.
+  const int last = std::min(kBands - 1, int((exposed.bottom() + 1) / band));
   for (int i = first; i <= last; ++i) {
     const int top = qRound(i * band);
     const int bottom = qRound((i + 1) * band);

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QScopeGuard>
+#include <utility>
 
 #include "platform/base/run_time_error.h"
 #include "platform/forms/form.h"
@@ -44,11 +45,19 @@ const QCursor& Runtime::pointer() {
   return *pointer_;
 }
 
+// A box is there to be answered: while it stands it hears, whatever is waited for below it. It is
+// modal, so that the windows under it stay shut.
+BoxAnswer Runtime::ask(const MessageBox& box) {
+  const int deaf = std::exchange(deaf_, 0);
+  const auto deafAgain = qScopeGuard([this, deaf] { deaf_ = deaf; });
+  return services_.boxes.show(box);
+}
+
 BoxAnswer Runtime::showBox(const MessageBox& box) {
   BoxAnswer answer{};
   MessageBox shown = box;
   if (shown.title.isEmpty()) shown.title = title_;
-  gate_.wait([&] { answer = services_.boxes.show(shown); }, Gate::Cases::DoNotMatter);
+  gate_.wait([&] { answer = ask(shown); }, Gate::Cases::DoNotMatter);
   return answer;
 }
 
@@ -70,7 +79,7 @@ void Runtime::endProcess(int status) {
 void Runtime::failed(const RunTimeError& error) {
   if (gate_.isClosed()) return;
   gate_.close();
-  services_.boxes.show({error.boxText(), title_, BoxIcon::Critical, BoxButtons::Ok});
+  (void)ask({error.boxText(), title_, BoxIcon::Critical, BoxButtons::Ok});
   services_.end.end(kFailedStatus);
 }
 

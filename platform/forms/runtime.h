@@ -60,6 +60,7 @@ class Runtime {
   void endProcess(int status);
 
  private:
+  BoxAnswer ask(const MessageBox& box);
   void failed(const RunTimeError& error);
 
   RuntimeServices services_;

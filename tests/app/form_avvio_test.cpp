@@ -99,6 +99,15 @@ class FormAvvioTest : public QObject {
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormInfo"));
   }
 
+  void theFormThatItGivesWayToTakesTheIconFromItAndLoadsNoOther() {
+    Banco banco;
+    const FormAvvio& forma = banco.apri<FormAvvio>(kFormAvvio);
+    const qint64 icona = forma.icon().cacheKey();
+    banco.clicca(forma.BottoneAvvio);
+    QCOMPARE(banco.ambiente->fondo.forms().all().size(), std::size_t(1));
+    QCOMPARE(banco.ambiente->fondo.window().windowIcon().cacheKey(), icona);
+  }
+
   void aHiddenSplashFormIsShownAgainWithoutAnotherLoad() {
     Banco banco;
     banco.mostra(kFormInfo);

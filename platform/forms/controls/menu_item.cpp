@@ -2,10 +2,9 @@
 
 #include <QAction>
 #include <QMenu>
-#include "platform/forms/menu_bar.h"
 
-#include "platform/forms/fonts.h"
 #include "platform/forms/form.h"
+#include "platform/forms/menu_bar.h"
 #include "platform/forms/runtime.h"
 
 namespace platform {

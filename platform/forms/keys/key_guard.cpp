@@ -59,6 +59,14 @@ bool isModifier(int key) {
          key == Qt::Key_AltGr || key == Qt::Key_Meta;
 }
 
+// Where a key is brought: an open menu has the keyboard to itself, though the focus stays with what
+// lies below it. Null where nothing takes it.
+QWidget* hearer() {
+  QWidget* menu = QApplication::activePopupWidget();
+  if (menu == nullptr) return QApplication::focusWidget();
+  return menu->focusWidget() != nullptr ? menu->focusWidget() : menu;
+}
+
 // The character that a key stands for, also where Alt keeps it from being written; null for a key
 // that writes none, whose code lies beyond all characters.
 QChar characterOf(const QKeyEvent& event) {
@@ -106,20 +114,35 @@ bool KeyGuard::isMainWindow(const QWindow& window) const {
   return &window == runtime_.window().windowHandle();
 }
 
-// Who gets a press in this window: the page of the main window, or the window itself. A release
-// goes on only to the same.
-int KeyGuard::destinationOf(const QWindow& window) const {
-  if (QApplication::activePopupWidget() != nullptr) return kElsewhere;
+// Nothing acts while a device is waited for, nor on a page that is being left.
+bool KeyGuard::isShut(const QWindow& window) const {
+  return runtime_.isDeaf() || (isMainWindow(window) && runtime_.forms().isChanging());
+}
+
+// What a window holds: the page of the main window, or the window itself.
+int KeyGuard::ownerOf(const QWindow& window) const {
   if (isMainWindow(window)) return runtime_.forms().pageNumber();
   return kElsewhere - 1 - int(window.winId() % 100000);
 }
 
-// A page that is being left takes no key, and neither does a box or dialog before every key that
-// was held at its opening has been let go.
+// Who gets a press in this window: its owner, unless a menu is open over it.
+int KeyGuard::destinationOf(const QWindow& window) const {
+  return QApplication::activePopupWidget() != nullptr ? kElsewhere : ownerOf(window);
+}
+
+// Whether a release may go on in this window: only to who had the press, destination, and only as
+// long as something acts there. Where it may not, what the key still holds is let go: a menu has
+// opened over it, or another form is on its way to the screen.
+bool KeyGuard::mayGoOn(const QWindow& window, int destination) {
+  if (destination == destinationOf(window) && !isShut(window)) return true;
+  if (focus_ && destination == ownerOf(*focus_)) letGo();
+  return false;
+}
+
+// A box or dialog takes no key before every key that was held at its opening has been let go.
 bool KeyGuard::isBlocked(const QWindow& window) {
-  if (runtime_.isDeaf()) return true;
-  if (isMainWindow(window)) return runtime_.forms().isChanging();
-  if (!state_.anyHeldOver()) return false;
+  if (isShut(window)) return true;
+  if (isMainWindow(window) || !state_.anyHeldOver()) return false;
   if (const auto down = keysDownNow()) state_.heldOver(*down, now());
   return state_.anyHeldOver();
 }
@@ -160,10 +183,7 @@ bool KeyGuard::keyRelease(QWindow& window, QKeyEvent& event) {
   const KeyState::ReleaseResult release = state_.release(inputOf(event));
   switch (release.verdict) {
     case KeyState::Release::Accepted:
-      if (release.destination == destinationOf(window)) return false;
-      // A menu opened over the page that had the press: what the key holds there is let go.
-      if (release.destination == runtime_.forms().pageNumber()) letGo();
-      return true;
+      return !mayGoOn(window, release.destination);
     case KeyState::Release::Deferred: {
       const KeyId key = keyOf(event);
       std::erase_if(heldBack_, [key](const auto& held) { return held.first == key; });
@@ -204,8 +224,8 @@ void KeyGuard::deliver(const HeldKey& released) {
   const std::unique_ptr<QKeyEvent> event = std::move(held->second);
   heldBack_.erase(held);
   const QWindow* window = QGuiApplication::focusWindow();
-  if (window == nullptr || destinationOf(*window) != released.destination) return;
-  if (QWidget* focus = QApplication::focusWidget()) QCoreApplication::sendEvent(focus, event.get());
+  if (window == nullptr || !mayGoOn(*window, released.destination)) return;
+  if (QWidget* widget = hearer()) QCoreApplication::sendEvent(widget, event.get());
 }
 
 // What is down is let go without effect.
@@ -237,18 +257,14 @@ bool KeyGuard::mouse(QWindow& window, const QMouseEvent& event) {
     dropRelease_ = false;
     return drop;
   }
-  if (runtime_.isDeaf()) {
-    dropRelease_ = true;
-    return true;
-  }
-  if (!isMainWindow(window)) return false;
+  const bool inMain = isMainWindow(window);
   const int page = runtime_.forms().pageNumber();
-  const bool stale = event.type() == QEvent::MouseButtonDblClick && mousePage_ != page;
-  if (runtime_.forms().isChanging() || stale) {
+  const bool stale = inMain && event.type() == QEvent::MouseButtonDblClick && mousePage_ != page;
+  if (isShut(window) || stale) {
     dropRelease_ = true;
     return true;
   }
-  if (event.type() == QEvent::MouseButtonPress &&
+  if (inMain && event.type() == QEvent::MouseButtonPress &&
       !event.flags().testFlag(Qt::MouseEventCreatedDoubleClick)) {
     mousePage_ = page;
   }

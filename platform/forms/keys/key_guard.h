@@ -38,7 +38,10 @@ class KeyGuard final : public QObject {
   bool mouse(QWindow& window, const QMouseEvent& event);
   bool worked(QWindow& window, const QKeyEvent& event);
   [[nodiscard]] bool isMainWindow(const QWindow& window) const;
+  [[nodiscard]] bool isShut(const QWindow& window) const;
+  [[nodiscard]] int ownerOf(const QWindow& window) const;
   [[nodiscard]] int destinationOf(const QWindow& window) const;
+  bool mayGoOn(const QWindow& window, int destination);
   void windowChanged(QWindow* window);
   void letGo();
   void deliver(const HeldKey& released);

@@ -94,6 +94,26 @@ class CasoLUTest : public QObject {
     QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral(" 27 +  15 =  42\r\n")));
   }
 
+  void whatIsTypedBeforeTheBoardsOfTheNextCaseAreBuiltGoesNowhere() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    unisci(banco, forma);
+    rispondi(banco, forma, QStringLiteral("37"));
+    banco.sorte.scrivi(caso(30, 8));
+    banco.batti(Qt::Key_Return);
+    QVERIFY(!forma.TestoInput.hasFocus());
+    banco.scrivi(QStringLiteral("38"));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(forma.TestoInput.text(), QString());
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
+    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    unisci(banco, forma);
+    QCOMPARE(forma.TestoInput.text(), QString());
+    rispondi(banco, forma, QStringLiteral("38"));
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
+  }
+
   void goingOnIsImpossibleBeforeTheRightResult() {
     Banco banco;
     FormLU& forma = apri(banco, 24, 13);

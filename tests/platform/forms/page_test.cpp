@@ -67,6 +67,20 @@ class PageTest : public QObject {
     QCOMPARE(blues.size(), std::size_t(256));
   }
 
+  void everyRowOfTheGradientIsPaintedAlsoAlone() {
+    Stage stage({800, 768});
+    TrialForm& form = bare(stage);
+    form.paintGradient();
+    const QImage whole = canvasOf(form);
+    for (int y = 0; y < whole.height(); ++y) {
+      QImage row(whole.width(), 1, QImage::Format_RGB32);
+      row.fill(Qt::magenta);
+      const QRegion alone(0, y, whole.width(), 1);
+      form.page()->canvas()->render(&row, QPoint(), alone, QWidget::RenderFlags());
+      QCOMPARE(row.pixelColor(5, 0), whole.pixelColor(5, y));
+    }
+  }
+
   void theGradientKeepsItsSizeAndWhatIsUncoveredShowsTheLastColour() {
     Stage stage({800, 700});
     TrialForm& form = bare(stage);

@@ -359,6 +359,18 @@ class ButtonTest : public QObject {
     }
   }
 
+  void whereNothingElseCanTakeTheFocusHidingLeavesItNowhere() {
+    Stage stage;
+    const Clicks clicks(stage);
+    clicks.form.First.setFocus();
+    for (platform::Control* control : clicks.form.controls()) {
+      if (control != &clicks.form.First) control->setEnabled(false);
+    }
+    clicks.form.First.setVisible(false);
+    QVERIFY(!clicks.form.First.hasFocus());
+    QCOMPARE(QApplication::focusWidget(), nullptr);
+  }
+
   void givingTheFocusToWhatCannotTakeItDoesNothing() {
     Stage stage;
     const Clicks clicks(stage);

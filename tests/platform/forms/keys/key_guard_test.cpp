@@ -9,36 +9,23 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "keys/sent_keys.h"
 #include "platform/forms/qt_message_boxes.h"
 #include "stage.h"
 
 using platform::KeyGuard;
 using platform::RepeatMarks;
 using trial::kOne;
+using trial::send;
 using trial::Stage;
 using trial::TrialForm;
 
 namespace {
 
-// A key event at the window with a time of the test's own; no events run between two of them.
-void send(QWindow* window, bool press, Qt::Key key, quint64 stamp, bool flagged = false,
-          Qt::KeyboardModifiers with = {}, const QString& text = {}) {
-  QKeyEvent event(press ? QEvent::KeyPress : QEvent::KeyRelease, key, with, text, flagged);
-  event.setTimestamp(stamp);
-  QCoreApplication::sendEvent(window, &event);
-}
-
 // The box that is open, as an unmarried window.
-QMessageBox* openBox() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
-
-// As long as it lives a widget does not learn that it loses the focus.
-class KeepsFocus final : public QObject {
- public:
-  explicit KeepsFocus(QWidget& widget) { widget.installEventFilter(this); }
-  bool eventFilter(QObject* /*widget*/, QEvent* event) override {
-    return event->type() == QEvent::FocusOut;
-  }
-};
+QMessageBox* openBox() {
+  return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
 
 }  // namespace
 
@@ -87,36 +74,6 @@ class KeyGuardTest : public QObject {
     QTRY_COMPARE(clicks, 2);
   }
 
-  void aReleaseThatIsKeptBackStillGoesToTheFocusOfItsMoment() {
-    Stage stage;
-    TrialForm& form = stage.show(kOne);
-    QStringList clicked;
-    form.First.onClick([&clicked] { clicked.append(QStringLiteral("first")); });
-    form.Second.onClick([&clicked] { clicked.append(QStringLiteral("second")); });
-    form.First.setFocus();
-    const KeyGuard guard(*stage.runtime, RepeatMarks::Unreliable);
-    send(stage.window(), true, Qt::Key_Space, 1000);
-    form.Second.setFocus();
-    send(stage.window(), false, Qt::Key_Space, 1100);
-    QTRY_COMPARE(clicked, QStringList{QStringLiteral("second")});
-  }
-
-  void aReleaseThatIsKeptBackIsDroppedWhenThePageChanges() {
-    Stage stage;
-    stage.prepare["Two"] = [](TrialForm& two) {
-      two.First.onClick([&two] { two.write(QStringLiteral("clicked")); });
-    };
-    TrialForm& form = stage.show(kOne);
-    form.First.setFocus();
-    const KeyGuard guard(*stage.runtime, RepeatMarks::Unreliable);
-    send(stage.window(), true, Qt::Key_Space, 1000);
-    send(stage.window(), false, Qt::Key_Space, 1100);
-    stage.runtime->forms().show("Two");
-    stage.current().First.setFocus();
-    QTest::qWait(3 * int(platform::KeyState::kDeferral.count()));
-    QVERIFY(!stage.log.contains(QStringLiteral("clicked")));
-  }
-
   void twoTapsThatFollowFastAreTwoActionsInTheirOrder() {
     Stage stage;
     TrialForm& form = stage.show(kOne);
@@ -147,58 +104,6 @@ class KeyGuardTest : public QObject {
     QCOMPARE(clicks, 2);
   }
 
-  void aReleaseWithoutAPressDoesNothing() {
-    Stage stage;
-    TrialForm& form = stage.show(kOne);
-    int clicks = 0;
-    form.First.onClick([&clicks] { ++clicks; });
-    form.First.setFocus();
-    stage.release(Qt::Key_Space);
-    stage.repeat(Qt::Key_Return);
-    QCOMPARE(clicks, 0);
-  }
-
-  void theReleaseOfAKeyThatPressedAShortcutIsDropped() {
-    Stage stage;
-    TrialForm& form = stage.show(kOne);
-    int shortcuts = 0;
-    int clicks = 0;
-    form.MenuKeyed.onClick([&shortcuts] { ++shortcuts; });
-    form.First.onClick([&clicks] { ++clicks; });
-    form.First.setCaption(QStringLiteral("&s"));
-    form.First.setFocus();
-    stage.press(Qt::Key_S, Qt::ControlModifier);
-    stage.release(Qt::Key_S);
-    QCOMPARE(shortcuts, 1);
-    QCOMPARE(clicks, 0);
-  }
-
-  void theReleaseOfAKeyThatAMenuTookIsDropped() {
-    Stage stage;
-    TrialForm& form = stage.show(kOne);
-    int clicks = 0;
-    int chosen = 0;
-    form.First.onClick([&clicks] { ++clicks; });
-    form.MenuPlain.onClick([&] {
-      ++chosen;
-      form.First.setFocus();
-    });
-    form.First.setFocus();
-    stage.tap(Qt::Key_M, Qt::AltModifier, QStringLiteral("m"));
-    QWidget* menu = QApplication::activePopupWidget();
-    QVERIFY(menu != nullptr);
-    QWindow* menuWindow = menu->windowHandle();
-    QTest::simulateEvent(menuWindow, true, Qt::Key_Down, {}, {}, false);
-    QTest::simulateEvent(menuWindow, false, Qt::Key_Down, {}, {}, false);
-    QTest::simulateEvent(menuWindow, true, Qt::Key_Return, {}, {}, false);
-    QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
-    QCOMPARE(chosen, 1);
-    stage.release(Qt::Key_Return);
-    // Neither is the hold of a key that began in the menu.
-    for (int i = 0; i < 5; ++i) stage.repeat(Qt::Key_Return);
-    QCOMPARE(clicks, 0);
-  }
-
   void overAnOpenMenuNoAccessKeyAndNoShortcutOfThePageActs() {
     Stage stage;
     TrialForm& form = stage.show(kOne);
@@ -214,36 +119,6 @@ class KeyGuardTest : public QObject {
     stage.tap(Qt::Key_F, Qt::AltModifier, QStringLiteral("f"));
     stage.tap(Qt::Key_S, Qt::ControlModifier);
     QCOMPARE(done, (QStringList{QStringLiteral("access key"), QStringLiteral("shortcut")}));
-  }
-
-  void aKeyThatIsDownWhenAMenuOpensOverThePageIsLetGo() {
-    Stage stage;
-    TrialForm& form = stage.show(kOne);
-    int clicks = 0;
-    form.First.onClick([&clicks] { ++clicks; });
-    form.First.setFocus();
-    const auto* first = static_cast<QAbstractButton*>(form.First.widget());
-    stage.press(Qt::Key_Space);
-    QVERIFY(first->isDown());
-    QMenu menu;
-    menu.addAction(QStringLiteral("Something"));
-    {
-      // As on X11, where a menu takes the keyboard and leaves the focus with the window below.
-      const QSignalBlocker unheard(qApp);
-      KeepsFocus keeps(*form.First.widget());
-      menu.popup({0, 0});
-      stage.window()->requestActivate();
-      QCoreApplication::processEvents();
-    }
-    QCOMPARE(QGuiApplication::focusWindow(), stage.window());
-    QCOMPARE(QApplication::activePopupWidget(), &menu);
-    QVERIFY(first->isDown());
-    stage.release(Qt::Key_Space);
-    QVERIFY(!first->isDown());
-    menu.close();
-    QCOMPARE(clicks, 0);
-    stage.tap(Qt::Key_Space);
-    QCOMPARE(clicks, 1);
   }
 
   void aWindowThatLosesTheFocusWithAKeyDownClicksNothing() {
