@@ -5,6 +5,7 @@
 #include <QWindow>
 
 #include "app/shared/modulo_ini.h"
+#include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "immagini/immagini.h"
 #include "platform/forms/appearance.h"
@@ -47,6 +48,15 @@ Banco::~Banco() = default;
 
 void Banco::mostra(std::string_view nome) {
   ambiente->fondo.forms().show(nome);
+  QCoreApplication::processEvents();
+}
+
+void Banco::riattiva() {
+  platform::Forms& forme = ambiente->fondo.forms();
+  forme.current()->run([&forme] {
+    forme.show(somme::forme::kFormAvvio);
+    forme.closeCurrent();
+  });
   QCoreApplication::processEvents();
 }
 
