@@ -33,7 +33,7 @@ Banco::Banco(QSize lato, Forme forme) {
   }
   ambiente = std::make_unique<somme::Ambiente>(
       somme::Servizi{tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina,
-                       rete, cartella.path(), utente.filePath(QStringLiteral("config/somme"))},
+                     rete, cartella.path(), utente.filePath(QStringLiteral("config/somme"))},
       [this, forme = std::move(forme)](std::string_view nome) {
         return forme ? forme(*ambiente, nome) : somme::CreaForma(*ambiente, nome);
       });
