@@ -16,8 +16,8 @@ struct CellaToccata {
 // together only the first counts.
 class SegnaliHelpiKeys {
  public:
-  // Not a state of the connection but a flip: every "OK" inverts it. After the second activation of
-  // a form reports are dropped until the next "OK". Settled.
+  // Not a state of the connection but a flip: every "OK" inverts it. The "OK" that answers a form's
+  // second activation clears it, and reports are dropped until one more comes. Settled.
   bool HelpiKeysConnesso = false;
 
   enum class Tipo {

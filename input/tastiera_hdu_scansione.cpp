@@ -5,32 +5,21 @@
 namespace somme {
 
 using platform::inner;
-using platform::Look;
 
 namespace {
 
 using Tastiera = TastieraHDUScansione;
 
-constexpr platform::Rgb kGrigio{224, 224, 224};
-constexpr platform::FontSpec kArial{platform::Face::Arial, 20.25, true};
-
-constexpr Look Valore(std::string_view testo) {
-  return {.caption = testo, .font = kArial, .back = kGrigio};
-}
-constexpr Look Disegno(std::string_view nome) {
-  return {.font = kArial, .back = kGrigio, .picture = nome};
-}
-
 constexpr auto kInterni = std::to_array<platform::InnerRow>({
     inner<&Tastiera::Timer1>({.disabled = true}),
     inner<&Tastiera::PictureScansione>(),
     inner<&Tastiera::TimerScansione>({.disabled = true}),
-    inner<&Tastiera::Pulsante>(Tastiera::kMigliaia, Valore("k")),
-    inner<&Tastiera::Pulsante>(Tastiera::kCentinaia, Valore("h")),
-    inner<&Tastiera::Pulsante>(Tastiera::kDecine, Valore("da")),
-    inner<&Tastiera::Pulsante>(Tastiera::kUnita, Valore("u")),
-    inner<&Tastiera::Pulsante>(Tastiera::kCestino, Disegno("cestino")),
-    inner<&Tastiera::Pulsante>(Tastiera::kConferma, Disegno("conferma")),
+    inner<&Tastiera::Pulsante>(Tastiera::kMigliaia, TastoScritto("k")),
+    inner<&Tastiera::Pulsante>(Tastiera::kCentinaia, TastoScritto("h")),
+    inner<&Tastiera::Pulsante>(Tastiera::kDecine, TastoScritto("da")),
+    inner<&Tastiera::Pulsante>(Tastiera::kUnita, TastoScritto("u")),
+    inner<&Tastiera::Pulsante>(Tastiera::kCestino, TastoDisegnato("cestino")),
+    inner<&Tastiera::Pulsante>(Tastiera::kConferma, TastoDisegnato("conferma")),
 });
 
 }  // namespace

@@ -182,6 +182,8 @@ void TastieraScansione::applyLook() {
   PictureScansione.setToolTip(toolTip());
 }
 
+// The light goes back to the first button, and the scan is as the property says: a key that is
+// still down was pressed over another light, and its release must not choose this one.
 void TastieraScansione::layOut() {
   spazioPremuto_ = false;
   invioPremuto_ = false;

@@ -1,5 +1,7 @@
 #include "exercises/bars/forma_barre_hk.h"
 
+#include "app/shared/nomi_forme.h"
+
 namespace somme {
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <utility>
+#include <optional>
 
 #include "exercises/blocks/forma_blocchi.h"
 #include "exercises/core/testo_cifre.h"

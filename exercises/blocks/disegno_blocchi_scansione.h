@@ -8,6 +8,7 @@
 namespace somme::disegno {
 
 inline constexpr TwipsRect kPostoHDUBlocchi{840, 5400, 4335, 722};
+inline constexpr TwipsRect kPostoNumericaBlocchi{2640, 6480, 6255, 447};
 
 constexpr Row RisultatoScandito(TwipsRect posto, int cifre) {
   Row riga = row<&FormaBlocchiScansione::TestoInput>(posto, ScrittaRisultato(cifre));
@@ -18,9 +19,8 @@ constexpr Row RisultatoScandito(TwipsRect posto, int cifre) {
 // The counters stand right of the keyboard of digits, where other forms have the way on.
 inline constexpr auto kTastiereBlocchi = std::to_array<Row>({
     row<&FormaBlocchiScansione::LabelDimensioneTastiera>(kPostoHDUBlocchi, {.hidden = true}),
-    row<&FormaBlocchiScansione::LabelPerTastieraNumerica>({2640, 6480, 6255, 447},
-                                                          {.hidden = true}),
-    TastieraNumerica<FormaBlocchiScansione>({2640, 6480, 6255, 447}, true, kSenzaAiuto),
+    row<&FormaBlocchiScansione::LabelPerTastieraNumerica>(kPostoNumericaBlocchi, {.hidden = true}),
+    TastieraNumerica<FormaBlocchiScansione>(kPostoNumericaBlocchi, true, kSenzaAiuto),
     Esatti({9000, 6720, 2055, 375}),
     Errati({9000, 7125, 2055, 375}),
 });

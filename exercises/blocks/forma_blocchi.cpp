@@ -111,16 +111,18 @@ void FormaBlocchi::MostraBlocchi(platform::Board& filmato, const SpecieBlocchi& 
   }
 }
 
-void FormaBlocchi::EliminaNumeroSW1() {
+void FormaBlocchi::Sgombra(platform::Board& filmato) {
   for (const SpecieBlocchi* specie : esercizio_.specie) {
-    MostraBlocchi(ShockwaveFlash1, *specie, 1, blocchi::kMassimoPerSpecie, false);
+    MostraBlocchi(filmato, *specie, 1, blocchi::kMassimoPerSpecie, false);
   }
 }
 
+void FormaBlocchi::EliminaNumeroSW1() {
+  Sgombra(ShockwaveFlash1);
+}
+
 void FormaBlocchi::EliminaNumeroSW2() {
-  for (const SpecieBlocchi* specie : esercizio_.specie) {
-    MostraBlocchi(ShockwaveFlash2, *specie, 1, blocchi::kMassimoPerSpecie, false);
-  }
+  Sgombra(ShockwaveFlash2);
 }
 
 void FormaBlocchi::EliminaNumeroSW3() {
@@ -160,9 +162,7 @@ void FormaBlocchi::Svuota() {
   const std::optional<Tavola> tavola = InUso();
   if (!tavola) return;
   tavola->blocchi = {};
-  for (const SpecieBlocchi* specie : esercizio_.specie) {
-    MostraBlocchi(tavola->filmato, *specie, 1, blocchi::kMassimoPerSpecie, false);
-  }
+  Sgombra(tavola->filmato);
   Racconta();
   announce(InParole(ambiente(), tavola->blocchi));
 }

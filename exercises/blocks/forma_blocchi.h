@@ -33,7 +33,7 @@ class FormaBlocchi : public FormaEsercizio {
   void NuovoCaso() override;
 
   // The steps in which the forms differ.
-  // Before the movies of an activation have been seen: places for keyboards.
+  // At an activation, once the movies are loaded: places for keyboards.
   virtual void PosaTastiere() {}
   // The way to the next case closes.
   virtual void ChiudiAvanti() = 0;
@@ -79,6 +79,8 @@ class FormaBlocchi : public FormaEsercizio {
   void PosaTavole();
   void CaricaFilmati();
   void IniziaElencoDelLivello();
+  // Takes all blocks off the board of an addend.
+  void Sgombra(platform::Board& filmato);
   void EliminaNumeroSW1();
   void EliminaNumeroSW2();
   void EliminaNumeroSW3();

@@ -3,7 +3,6 @@
 #include <string_view>
 #include <utility>
 
-#include "app/shared/nomi_forme.h"
 #include "exercises/core/foglio_tastiera.h"
 #include "input/collegamento_helpikeys.h"
 #include "platform/forms/controls/menu_item.h"
@@ -30,6 +29,7 @@ struct TastieraHelpiKeys {
 template <class Base>
 class ConHelpiKeys : public Base {
  public:
+  // tastiera: kept by reference; it must outlive the form.
   template <class... Argomenti>
   explicit ConHelpiKeys(const TastieraHelpiKeys& tastiera, Argomenti&&... argomenti)
       : Base(std::forward<Argomenti>(argomenti)...),

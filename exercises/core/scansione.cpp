@@ -33,6 +33,11 @@ void Nomina(Ambiente& ambiente, const QString& sezione, std::span<const NomeTast
   }
 }
 
+template <class Scrivi>
+void Accoda(const QString& testo, int limite, int cifra, const Scrivi& scrivi) {
+  if (testo.size() < limite) scrivi(testo + QString::number(cifra));
+}
+
 }  // namespace
 
 void PosaTastiera(TastieraScansione& tastiera, const platform::Control& etichetta) {
@@ -42,13 +47,13 @@ void PosaTastiera(TastieraScansione& tastiera, const platform::Control& etichett
 }
 
 void AccodaCifra(platform::TextBox& casella, int cifra) {
-  const QString testo = casella.text();
-  if (testo.size() < casella.maxLength()) casella.setText(testo + QString::number(cifra));
+  Accoda(casella.text(), casella.maxLength(), cifra,
+         [&casella](const QString& testo) { casella.setText(testo); });
 }
 
 void AccodaCifra(TestoInputNumerico& casella, int cifra) {
-  const QString testo = casella.Text.get();
-  if (testo.size() < casella.MaxLength.get()) casella.Text.set(testo + QString::number(cifra));
+  Accoda(casella.Text.get(), casella.MaxLength.get(), cifra,
+         [&casella](const QString& testo) { casella.Text.set(testo); });
 }
 
 void NominaTasti(Ambiente& ambiente, TastieraNumericaScansione& tastiera) {

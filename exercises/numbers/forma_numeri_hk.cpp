@@ -1,5 +1,6 @@
 #include "exercises/numbers/forma_numeri_hk.h"
 
+#include "app/shared/nomi_forme.h"
 #include "platform/base/numbers.h"
 
 namespace somme {

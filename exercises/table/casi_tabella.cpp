@@ -19,10 +19,10 @@ constexpr int kUltimaCella = 99;
 // can be -1 and its result -2, a cell that does not exist. Settled.
 struct Regola {
   int limiteA;
-  int inPiuA;  // added to the first draw of a, not to those of a repetition
+  int inPiuA = 0;  // added to the first draw of a, not to those of a repetition
   int limiteB;
-  int passoB;
-  bool meno;
+  int passoB = 1;
+  bool meno = false;
   bool ripete = false;
 };
 
@@ -41,16 +41,16 @@ struct Voce {
 };
 
 constexpr auto kRegole = std::to_array<Voce>({
-    {0, {98, 0, kFisso, 1, false}},
-    {1, {90, 0, kFisso, 10, false}},
-    {2, {98, -1, kFisso, 1, true}},
-    {3, {90, 10, kFisso, 10, true}},
-    {5, {90, 0, 10, 1, false}},
-    {6, {90, 0, 10, 10, false, true}},
-    {7, {90, 10, 10, 1, true}},
-    {8, {90, 10, 10, 10, true, true}},
-    {10, {99, 0, 99, 1, false, true}},
-    {11, {99, 0, kFinoAdA, 1, true}},
+    {0, {.limiteA = 98, .limiteB = kFisso}},
+    {1, {.limiteA = 90, .limiteB = kFisso, .passoB = 10}},
+    {2, {.limiteA = 98, .inPiuA = -1, .limiteB = kFisso, .meno = true}},
+    {3, {.limiteA = 90, .inPiuA = 10, .limiteB = kFisso, .passoB = 10, .meno = true}},
+    {5, {.limiteA = 90, .limiteB = 10}},
+    {6, {.limiteA = 90, .limiteB = 10, .passoB = 10, .ripete = true}},
+    {7, {.limiteA = 90, .inPiuA = 10, .limiteB = 10, .meno = true}},
+    {8, {.limiteA = 90, .inPiuA = 10, .limiteB = 10, .passoB = 10, .meno = true, .ripete = true}},
+    {10, {.limiteA = 99, .limiteB = 99, .ripete = true}},
+    {11, {.limiteA = 99, .limiteB = kFinoAdA, .meno = true}},
 });
 
 CasoTabella Estrai(platform::Chance& sorte, const Regola& regola, int inPiuA) {

@@ -5,6 +5,7 @@
 #include "exercises/core/disegno_comune.h"
 #include "exercises/table/casi_tabella.h"
 #include "platform/base/numbers.h"
+#include "platform/forms/page.h"
 
 namespace somme {
 
@@ -38,9 +39,7 @@ constexpr auto kControlli = std::to_array<Row>({
     row<&FormTabella::EtichettaNumero>(
         {6240, 3420, 2835, 840},
         {.caption = "Forma il numero", .font = {Face::Tahoma, 24}, .align = Align::Centre}),
-    row<&FormTabella::PulsanteAvanti>(
-        {6720, 5280, 1935, 975},
-        {.caption = "a&vanti", .font = kTahoma14, .hidden = true, .picture = "avanti"}),
+    Avanti<FormTabella>({6720, 5280, 1935, 975}),
     Pannello({0, 0, 9255, 6495}),
     Elenco({360, 240, 5895, 5895}),
     Stampa({6720, 4560, 2220, 855}),
@@ -70,11 +69,16 @@ constexpr FormDesign kDisegno{.name = forme::kFormTabella,
 FormTabella::FormTabella(Ambiente& ambiente)
     : FormaEsercizio(ambiente, kDisegno, forme::kFormMenuTabella) {
   for (int i = 0; i < kCelle; ++i) {
-    Numero.element(i).onClick([this, i] { Rispondi(i); });
+    platform::Button& cella = Numero.element(i);
+    cella.onClick([this, i] { Rispondi(i); });
+    // An empty cell is called by its row and column, counted from 1, which any language reads.
+    cella.setSpokenName(QStringLiteral("%1, %2").arg(i / kPerRiga + 1).arg(i % kPerRiga + 1));
   }
   PulsanteAvanti.onClick([this] {
     PulsanteAvanti.setEnabled(false);
     NuovoCaso();
+    // While the whole grid was spent nothing could take the focus from the button.
+    if (page()->canvas()->focusWidget() == nullptr) Numero[0].setFocus();
   });
   mnuFacile.onClick([this] { ScegliDifficolta(mnuFacile); });
   mnuMedia.onClick([this] { ScegliDifficolta(mnuMedia); });
@@ -93,8 +97,7 @@ void FormTabella::onLoad() {
 void FormTabella::onActivate() {
   PulsanteAvanti.setVisible(true);
   paintGradient();
-  TestoStampa.setText(
-      QStringLiteral("\r\n%1\r\n\r\n").arg(TestoLingua(ambiente(), QStringLiteral("0040"))));
+  IniziaElenco(TestoLingua(ambiente(), QStringLiteral("0040")));
   AzzeraConteggio();
   RiempiTabella();
   NuovoCaso();
@@ -107,8 +110,6 @@ void FormTabella::RiempiTabella() {
   };
   for (int i = 0; i < kCelle; ++i) {
     Numero[i].setCaption(mostra(i) ? platform::leadingBlank(i) : QString());
-    // An empty cell is called by its row and column, counted from 1, which any language reads.
-    Numero[i].setSpokenName(QStringLiteral("%1, %2").arg(i / kPerRiga + 1).arg(i % kPerRiga + 1));
   }
 }
 
@@ -154,8 +155,7 @@ void FormTabella::Rispondi(int numero) {
 void FormTabella::RispostaGiusta(int numero) {
   SegnaGiusto();
   PulsanteAvanti.setEnabled(true);
-  TestoStampa.append(EtichettaNumero.caption() + platform::leadingBlank(numero) +
-                     QStringLiteral("\r\n"));
+  AggiungiRiga(EtichettaNumero.caption() + platform::leadingBlank(numero));
   Numero[numero].setBackColor(kVerde);
   for (int i = 0; i < kCelle; ++i) Numero[i].setEnabled(false);
   PulsanteAvanti.setFocus();

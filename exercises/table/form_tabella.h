@@ -49,7 +49,7 @@ class FormTabella final : public FormaEsercizio {
  private:
   // A kind outside of 0 to 12 draws nothing.
   void Es_Caso(int tipo);
-  void NuovoCaso();
+  void NuovoCaso() override;
   void Rispondi(int numero);
   void RispostaGiusta(int numero);
   void ScegliDifficolta(const platform::MenuItem& scelta);

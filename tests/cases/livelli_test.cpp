@@ -2,6 +2,7 @@
 
 #include <QTest>
 #include <array>
+#include <utility>
 
 using namespace somme;
 
@@ -28,6 +29,26 @@ class LivelliTest : public QObject {
     const auto* ultimo = LivelloDi(LivelliNumeriTotale, 27);
     QCOMPARE(ultimo->didascalia, u"aggiungi solo migliaia");
     QVERIFY(ultimo->genera == &GeneraEntro9999SoloMigliaia);
+  }
+
+  // Those of the blocks, 5 to 18, are known by what their forms draw.
+  void theLevelsThatTheBlocksDoNotHaveStandAtTheirNumbers() {
+    const std::array<std::pair<int, Generatore>, 13> attesi = {{{1, GeneraEntro10},
+                                                                {2, GeneraEntro20},
+                                                                {3, GeneraDieciPiu},
+                                                                {4, GeneraAddendoMaggiore10},
+                                                                {19, GeneraEntro9999SenzaCambio},
+                                                                {20, GeneraEntro9999UnCambio},
+                                                                {21, GeneraEntro9999DueCambi},
+                                                                {22, GeneraEntro9999TreCambi},
+                                                                {23, GeneraEntro9999ConESenzaCambi},
+                                                                {24, GeneraEntro9999SoloUnita},
+                                                                {25, GeneraEntro9999SoloDecine},
+                                                                {26, GeneraEntro9999SoloCentinaia},
+                                                                {27, GeneraEntro9999SoloMigliaia}}};
+    for (const auto& [tipo, genera] : attesi) {
+      QVERIFY(LivelloDi(LivelliNumeriTotale, tipo)->genera == genera);
+    }
   }
 
   void theBlanksThatBeginACaptionArePartOfIt() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "input/tastiera_numerica_scansione.h"
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
@@ -82,5 +83,52 @@ class FondoTastiera : public FondoDiProva<OspiteTastiera<T>> {
 
   T& tastiera;
 };
+
+// The buttons that are painted in the colour of the light.
+template <class T>
+std::vector<int> accesi(T& tastiera) {
+  std::vector<int> quali;
+  const auto guarda = [&quali](platform::Button& pulsante) {
+    if (pulsante.backColor() == kAcceso) quali.push_back(pulsante.index());
+  };
+  if constexpr (requires { tastiera.PulsanteNumero; }) {
+    tastiera.PulsanteNumero.forEach(guarda);
+  } else {
+    tastiera.Pulsante.forEach(guarda);
+  }
+  return quali;
+}
+
+// Exactly this button is lit: in colour, and by the ring.
+template <class T>
+bool acceso(T& tastiera, int quale) {
+  return accesi(tastiera) == std::vector<int>{quale} && tastiera.pulsanteAcceso() == quale;
+}
+
+// The names of the properties in the order of the store.
+inline QString nomiDelleProprieta(platform::UserControl& tastiera) {
+  QStringList nomi;
+  for (const platform::PropertyBase* proprieta : tastiera.properties()) {
+    nomi.append(proprieta->name());
+  }
+  return nomi.join(u' ');
+}
+
+// Whether each property has this value, and has it by default.
+inline bool alPredefinito(platform::UserControl& tastiera,
+                          const std::vector<platform::PropertyValue>& attesi) {
+  const auto& proprieta = tastiera.properties();
+  return std::equal(proprieta.begin(), proprieta.end(), attesi.begin(), attesi.end(),
+                    [](const platform::PropertyBase* una, const platform::PropertyValue& atteso) {
+                      return una->value() == atteso && una->fallback() == atteso;
+                    });
+}
+
+// The keyboard of digits ready for a case, as a form makes it.
+inline void prepara(somme::TastieraNumericaScansione& tastiera, bool automatica) {
+  tastiera.Attiva();
+  tastiera.ScansioneAutomatica.set(automatica);
+  tastiera.DisattivaAvanti();
+}
 
 }  // namespace prova

@@ -2,6 +2,7 @@
 
 #include <QTest>
 #include <set>
+#include <string_view>
 
 using somme::kMappaAbaco;
 using somme::kMappaBlocchi;
@@ -51,6 +52,33 @@ class MappaTastiTest : public QObject {
     QCOMPARE(kMappaCifre.Tasto(2, 17), 0);
     QCOMPARE(kMappaCifre.Tasto(2, 1), 0);
     QCOMPARE(kMappaCifre.Tasto(2, 23), 0);
+  }
+
+  void everyCellOfTheGridIsTheKeyThatTheSheetHasThere() {
+    // The grid from its first column (24 of them) and row (23) on: which key across and which down,
+    // "." for none.
+    struct Foglio {
+      const MappaTasti& mappa;
+      std::string_view colonne;
+      std::string_view righe;
+      int perRiga;
+    };
+    const Foglio fogli[] = {
+        {kMappaCifre, ".1111..2222..3333..4444.", ".1111122222.3333.44444.", 4},
+        {kMappaBlocchi, ".111111..222222..333333.", ".111111.222222.333333..", 3},
+        {kMappaAbaco, ".1111..2222..3333..4444.", ".111111..22222..333333.", 4},
+    };
+    for (const Foglio& foglio : fogli) {
+      for (int colonna = 1; colonna <= int(foglio.colonne.size()); ++colonna) {
+        for (int riga = 1; riga <= int(foglio.righe.size()); ++riga) {
+          const char diTraverso = foglio.colonne[std::size_t(colonna - 1)];
+          const char inGiu = foglio.righe[std::size_t(riga - 1)];
+          const bool tra = diTraverso == '.' || inGiu == '.';
+          QCOMPARE(foglio.mappa.Tasto(colonna, riga),
+                   tra ? 0 : (inGiu - '1') * foglio.perRiga + (diTraverso - '0'));
+        }
+      }
+    }
   }
 
   void aColumnOfSixOrSevenLiesBetweenKeys() {

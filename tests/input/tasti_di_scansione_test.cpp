@@ -8,17 +8,12 @@
 #include "platform/forms/controls/ring_widget.h"
 #include "platform/forms/text_block.h"
 
+using prova::prepara;
 using somme::TastieraNumericaScansione;
 
 namespace {
 
 using Fondo = prova::FondoTastiera<TastieraNumericaScansione>;
-
-void prepara(TastieraNumericaScansione& tastiera, bool automatica) {
-  tastiera.Attiva();
-  tastiera.ScansioneAutomatica.set(automatica);
-  tastiera.DisattivaAvanti();
-}
 
 // Another window of the desktop that takes the keyboard while it lives.
 class AltraFinestra {

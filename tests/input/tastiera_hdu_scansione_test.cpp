@@ -3,24 +3,13 @@
 #include "fondo_tastiera.h"
 
 using platform::PropertyValue;
-using prova::kAcceso;
+using prova::accesi;
+using prova::acceso;
 using somme::TastieraHDUScansione;
 
 namespace {
 
 using Fondo = prova::FondoTastiera<TastieraHDUScansione>;
-
-std::vector<int> accesi(TastieraHDUScansione& tastiera) {
-  std::vector<int> quali;
-  tastiera.Pulsante.forEach([&quali](platform::Button& pulsante) {
-    if (pulsante.backColor() == kAcceso) quali.push_back(pulsante.index());
-  });
-  return quali;
-}
-
-bool acceso(TastieraHDUScansione& tastiera, int quale) {
-  return accesi(tastiera) == std::vector<int>{quale} && tastiera.pulsanteAcceso() == quale;
-}
 
 void prepara(TastieraHDUScansione& tastiera, bool k, bool h) {
   tastiera.KVisibile.set(k);
@@ -48,18 +37,12 @@ class TastieraHDUScansioneTest : public QObject {
  private Q_SLOTS:
   void sixPropertiesAreStoredInTheirOrderWithTheirTypesAndDefaults() {
     Fondo fondo;
-    QStringList nomi;
-    for (const platform::PropertyBase* proprieta : fondo.tastiera.properties()) {
-      nomi.append(proprieta->name());
-    }
-    QCOMPARE(nomi.join(u' '), QStringLiteral("ColoreSfondo ColoreScansione KVisibile HVisibile "
-                                             "ScansioneAutomatica TempoScansione"));
+    QCOMPARE(prova::nomiDelleProprieta(fondo.tastiera),
+             QStringLiteral("ColoreSfondo ColoreScansione KVisibile HVisibile "
+                            "ScansioneAutomatica TempoScansione"));
     const std::vector<PropertyValue> attesi{qint32(14737632), qint32(255), true, true, false,
                                             qint16(4)};
-    for (std::size_t i = 0; i < attesi.size(); ++i) {
-      QVERIFY(fondo.tastiera.properties()[i]->value() == attesi[i]);
-      QVERIFY(fondo.tastiera.properties()[i]->fallback() == attesi[i]);
-    }
+    QVERIFY(prova::alPredefinito(fondo.tastiera, attesi));
     QCOMPARE(TastieraHDUScansione::kIdentificativo, std::string_view("Somme.TastieraHDUScansione"));
   }
 

@@ -5,34 +5,16 @@
 
 using platform::PropertyBag;
 using platform::PropertyValue;
+using prova::accesi;
+using prova::acceso;
 using prova::kAcceso;
 using prova::kSpento;
+using prova::prepara;
 using somme::TastieraNumericaScansione;
 
 namespace {
 
 using Fondo = prova::FondoTastiera<TastieraNumericaScansione>;
-
-// Ready for a case, as a form makes it.
-void prepara(TastieraNumericaScansione& tastiera, bool automatica) {
-  tastiera.Attiva();
-  tastiera.ScansioneAutomatica.set(automatica);
-  tastiera.DisattivaAvanti();
-}
-
-// The buttons that are painted in the colour of the light.
-std::vector<int> accesi(TastieraNumericaScansione& tastiera) {
-  std::vector<int> quali;
-  tastiera.PulsanteNumero.forEach([&quali](platform::Button& pulsante) {
-    if (pulsante.backColor() == kAcceso) quali.push_back(pulsante.index());
-  });
-  return quali;
-}
-
-// Exactly this button is lit: in colour, and by the ring.
-bool acceso(TastieraNumericaScansione& tastiera, int quale) {
-  return accesi(tastiera) == std::vector<int>{quale} && tastiera.pulsanteAcceso() == quale;
-}
 
 }  // namespace
 
@@ -43,19 +25,12 @@ class TastieraNumericaScansioneTest : public QObject {
  private Q_SLOTS:
   void sixPropertiesAreStoredInTheirOrderWithTheirTypesAndDefaults() {
     Fondo fondo;
-    QStringList nomi;
-    for (const platform::PropertyBase* proprieta : fondo.tastiera.properties()) {
-      nomi.append(proprieta->name());
-    }
-    QCOMPARE(nomi.join(u' '), QStringLiteral("ColoreSfondo ColoreScansione AiutoVisibile "
-                                             "ScansioneAutomatica TempoScansione AvantiAttivo"));
+    QCOMPARE(prova::nomiDelleProprieta(fondo.tastiera),
+             QStringLiteral("ColoreSfondo ColoreScansione AiutoVisibile "
+                            "ScansioneAutomatica TempoScansione AvantiAttivo"));
     const std::vector<PropertyValue> attesi{qint32(14737632), qint32(255), true, false,
                                             qint16(4),        true};
-    for (std::size_t i = 0; i < attesi.size(); ++i) {
-      const platform::PropertyBase& proprieta = *fondo.tastiera.properties()[i];
-      QVERIFY2(proprieta.value() == attesi[i], qPrintable(proprieta.name()));
-      QVERIFY2(proprieta.fallback() == attesi[i], qPrintable(proprieta.name()));
-    }
+    QVERIFY(prova::alPredefinito(fondo.tastiera, attesi));
     QCOMPARE(TastieraNumericaScansione::kIdentificativo,
              std::string_view("Somme.TastieraNumericaScansione"));
   }

@@ -5,6 +5,7 @@
 #include <QWindow>
 
 #include "app/shared/modulo_ini.h"
+#include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "immagini/immagini.h"
 #include "platform/forms/appearance.h"
@@ -32,7 +33,7 @@ Banco::Banco(QSize lato, Forme forme) {
   }
   ambiente = std::make_unique<somme::Ambiente>(
       somme::Servizi{tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina,
-                       rete, cartella.path(), utente.filePath(QStringLiteral("config/somme"))},
+                     rete, cartella.path(), utente.filePath(QStringLiteral("config/somme"))},
       [this, forme = std::move(forme)](std::string_view nome) {
         return forme ? forme(*ambiente, nome) : somme::CreaForma(*ambiente, nome);
       });
@@ -47,6 +48,15 @@ Banco::~Banco() = default;
 
 void Banco::mostra(std::string_view nome) {
   ambiente->fondo.forms().show(nome);
+  QCoreApplication::processEvents();
+}
+
+void Banco::riattiva() {
+  platform::Forms& forme = ambiente->fondo.forms();
+  forme.current()->run([&forme] {
+    forme.show(somme::forme::kFormAvvio);
+    forme.closeCurrent();
+  });
   QCoreApplication::processEvents();
 }
 

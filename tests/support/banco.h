@@ -21,15 +21,15 @@ namespace prova {
 
 class Banco {
  public:
+  using Forme = std::function<std::shared_ptr<platform::Form>(somme::Ambiente& ambiente,
+                                                              std::string_view nome)>;
   // lato: the size of the window. The folder holds the program's language files and its movies; the
   // language is Italian.
   // forme: makes the forms in the place of the program's own table.
-  using Forme = std::function<std::shared_ptr<platform::Form>(somme::Ambiente& ambiente,
-                                                              std::string_view nome)>;
   explicit Banco(QSize lato = {1024, 768}, Forme forme = {});
   ~Banco();
 
-  // Reads the shared strings, as the entry routine does, and shows a form.
+  // Shows a form.
   void mostra(std::string_view nome);
   // The form on the screen.
   template <class F>
@@ -44,6 +44,9 @@ class Banco {
     mostra(nome);
     return forma<F>();
   }
+  // Another activation of the form on the screen, as after the print dialog: from a handler of its
+  // own, so that it comes also in the middle of a wait of another handler.
+  void riattiva();
   void ridimensiona(QSize lato);
 
   // The pupil's hands: real events at the window.

@@ -8,9 +8,8 @@ from giocatore import BOTTONE, TESTO, VOCE, Errore, trova
 from luce import Luce
 
 MENU = "Solo numeri"
-# Two-digit sums, the same without a carry, sums up to 10, the second addend to be found.
-SOMMA, SOMMA_FACILE, ADDENDO = "con e senza cambio", "senza cambio", "trova un addendo"
-SOMMA_BREVE = "somme"
+# Two-digit sums, sums up to 10, the second addend to be found.
+SOMMA, SOMMA_BREVE, ADDENDO = "con e senza cambio", "somme", "trova un addendo"
 CANCELLA, CONFERMA, AVANTI = "Cancella", "Conferma", "Avanti"
 
 
@@ -151,7 +150,7 @@ def tocco(giocatore):
         giocatore.chiesta()
         giocatore.esci(ADDENDO)
 
-    giocatore.apri("FormNumeriTotaleHK", MENU, SOMMA_FACILE, modo="ctrl+h")
+    giocatore.apri("FormNumeriTotaleHK", MENU, SOMMA_BREVE, modo="ctrl+h")
     toccata()
     giocatore.apri("FormNumeriAddendoHK", ADDENDO)
     toccata()

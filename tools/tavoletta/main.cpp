@@ -38,7 +38,17 @@ int SenzaFinestra(int argc, char* argv[], quint16 porta) {
     std::fprintf(stderr, "tavoletta: la porta %d è occupata\n", porta);
     return 1;
   }
-  Suggeritore suggeritore(tavoletta, Scrivi, [] { QCoreApplication::quit(); });
+  bool finito = false;
+  Suggeritore suggeritore(tavoletta, Scrivi, [&finito] {
+    finito = true;
+    QCoreApplication::quit();
+  });
+  const auto esegui = [&suggeritore](const QByteArray& scritta) {
+    const QString riga = QString::fromUtf8(scritta);
+    if (!suggeritore.Esegui(riga)) {
+      std::fprintf(stderr, "tavoletta: non capisco: %s\n", qUtf8Printable(riga));
+    }
+  };
   QSocketNotifier ingresso(STDIN_FILENO, QSocketNotifier::Read);
   QByteArray letti;
   QObject::connect(&ingresso, &QSocketNotifier::activated, [&] {
@@ -46,16 +56,16 @@ int SenzaFinestra(int argc, char* argv[], quint16 porta) {
     const ssize_t quanti = read(STDIN_FILENO, pezzo, sizeof pezzo);
     if (quanti <= 0) {
       ingresso.setEnabled(false);
+      // The last line may have no end of its own.
+      if (!finito) esegui(letti);
       QCoreApplication::quit();
       return;
     }
     letti.append(pezzo, quanti);
-    for (qsizetype fine = letti.indexOf('\n'); fine >= 0; fine = letti.indexOf('\n')) {
-      const QString riga = QString::fromUtf8(letti.first(fine));
+    for (qsizetype fine = letti.indexOf('\n'); fine >= 0 && !finito; fine = letti.indexOf('\n')) {
+      const QByteArray riga = letti.first(fine);
       letti.remove(0, fine + 1);
-      if (!suggeritore.Esegui(riga)) {
-        std::fprintf(stderr, "tavoletta: non capisco: %s\n", qUtf8Printable(riga));
-      }
+      esegui(riga);
     }
   });
   Scrivi(QStringLiteral("in ascolto %1").arg(tavoletta.Porta()));

@@ -51,13 +51,6 @@ bool stannoSulPosto(const platform::Control& a, const platform::Control& b) {
   return a.widget()->geometry() == b.widget()->geometry();
 }
 
-// A form shown over the exercise has gone, as the print dialog of the sheet does.
-void attivaDiNuovo(Banco& banco) {
-  banco.mostra(somme::forme::kFormAvvio);
-  banco.ambiente->fondo.forms().closeCurrent();
-  QCoreApplication::processEvents();
-}
-
 }  // namespace
 
 // The bars by touch.
@@ -235,7 +228,7 @@ class FormaBarreHKTest : public QObject {
     rispondiToccando(banco, QStringLiteral("17"));
     const platform::Label* ultimo = &forma.aiuto1[19];
     scriviCaso(banco, 20, 15, 4);
-    attivaDiNuovo(banco);
+    banco.riattiva();
     QCOMPARE(forma.aiuto1.count(), 20);
     QCOMPARE(&forma.aiuto1[19], ultimo);
     QCOMPARE(forma.n1.caption(), QStringLiteral(" 4"));
@@ -251,7 +244,7 @@ class FormaBarreHKTest : public QObject {
     FormBarre20HK& forma = apri20(banco);
     banco.ridimensiona({1600, 1200});
     scriviCaso(banco, 20, 10, 4);
-    attivaDiNuovo(banco);
+    banco.riattiva();
     QVERIFY(std::abs(forma.n3.width() - 10 * forma.n1.height()) < 10);
   }
 
@@ -260,7 +253,7 @@ class FormaBarreHKTest : public QObject {
     FormBarre10HK& forma = apri10(banco);
     QCOMPARE(forma.EtichettaEsatti.fontSize(), forma.EtichettaErrati.fontSize());
     forma.EtichettaErrati.setFontSize(20);
-    attivaDiNuovo(banco);
+    banco.riattiva();
     QVERIFY(std::abs(forma.EtichettaEsatti.fontSize() - 20) < 0.01);
   }
 

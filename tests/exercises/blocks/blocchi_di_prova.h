@@ -65,17 +65,6 @@ void rispondi(Banco& banco, F& forma, const QString& testo) {
   banco.batti(Qt::Key_Return);
 }
 
-// Another activation of the form on the screen, as after the print dialog: from a handler of its
-// own, so that it comes also in the middle of a wait of another handler.
-inline void riattiva(Banco& banco) {
-  platform::Forms& forme = banco.ambiente->fondo.forms();
-  forme.current()->run([&forme] {
-    forme.show(somme::forme::kFormAvvio);
-    forme.closeCurrent();
-  });
-  QCoreApplication::processEvents();
-}
-
 // The frame stands around the board that the label keeps a place for, nine twips outside of it.
 template <class F>
 bool incorniciata(const F& forma, const platform::Label& ancora) {

@@ -114,6 +114,17 @@ class CasoLUTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
   }
 
+  void aWrongVerdictStaysIntoTheNextCaseToo() {
+    Banco banco;
+    FormLU& forma = apri(banco, 24, 13);
+    banco.clicca(forma.PulsanteConferma);
+    banco.sorte.scrivi(caso(30, 8));
+    banco.riattiva();
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
+    QVERIFY(forma.ImgNo.isVisible());
+    QVERIFY(!forma.ImgSi.isVisible());
+  }
+
   void goingOnIsImpossibleBeforeTheRightResult() {
     Banco banco;
     FormLU& forma = apri(banco, 24, 13);
@@ -186,7 +197,7 @@ class CasoLUTest : public QObject {
     FormLU& forma = apri(banco, 24, 13);
     const QString elenco = forma.TestoStampa.text();
     banco.ambiente->stato.TipoEsercizio = 6;
-    riattiva(banco);
+    banco.riattiva();
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
     QCOMPARE(forma.TestoStampa.text(), elenco);
   }
@@ -197,7 +208,7 @@ class CasoLUTest : public QObject {
     unisci(banco, forma);
     rispondi(banco, forma, QStringLiteral("37"));
     banco.sorte.scrivi(caso(30, 8));
-    riattiva(banco);
+    banco.riattiva();
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
     QVERIFY(!forma.TestoStampa.text().contains(u'='));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -224,7 +235,7 @@ class CasoLUTest : public QObject {
     costruisci(banco, forma, 15);
     const auto torna = [&] {
       banco.sorte.scrivi(caso(30, 8));
-      riattiva(banco);
+      banco.riattiva();
     };
     if (!inCambio) banco.tempo.after(dopo, torna);
     banco.clicca(forma.PulsanteConferma);
@@ -252,7 +263,7 @@ class CasoLUTest : public QObject {
     unisci(banco, forma);
     QVERIFY(forma.PulsanteCambio.isVisible());
     banco.sorte.scrivi(caso(30, 8));
-    riattiva(banco);
+    banco.riattiva();
     QVERIFY(!forma.PulsanteCambio.isVisible());
   }
 

@@ -67,7 +67,7 @@ class FormHLUTest : public QObject {
     FormHLU& forma = apri(banco, 213, 45);
     forma.page()->grab();
     forma.ShockwaveFlash3.widget()->grab();
-    riattiva(banco);
+    banco.riattiva();
     forma.page()->grab();
     forma.ShockwaveFlash3.widget()->grab();
     QVERIFY(occhio.dipinti > 0);
@@ -130,6 +130,7 @@ class FormHLUTest : public QObject {
     unisci(banco, forma);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3h 11da 15u"));
     QVERIFY(forma.PulsanteCambioUDa.isVisible());
+    QVERIFY(!forma.PulsanteCambioUDa.hasFocus());
     QVERIFY(!forma.PulsanteCambioDaH.isVisible());
     QVERIFY(!forma.TestoInput.isVisible());
     const double prima = adesso(banco);
@@ -139,6 +140,7 @@ class FormHLUTest : public QObject {
     QCOMPARE(avanzati(forma, QStringLiteral("u")), 5);
     QVERIFY(!forma.PulsanteCambioUDa.isVisible());
     QVERIFY(forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH.hasFocus());
     QVERIFY(!forma.TestoInput.isVisible());
     // The movie stands where it said its word: the form leaves its frame alone.
     QVERIFY(Banco::filmato(forma.ShockwaveFlash3).currentFrame() > 1);
@@ -229,7 +231,7 @@ class FormHLUTest : public QObject {
              QStringLiteral("4 centinaia, 1 decina, 3 unità"));
     // Until the movie is loaded again.
     banco.sorte.scrivi(caso(101, 112));
-    riattiva(banco);
+    banco.riattiva();
     unisci(banco, forma);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("2h 1da 3u"));
   }
@@ -256,7 +258,7 @@ class FormHLUTest : public QObject {
     banco.clicca(forma.PulsanteAvanti);
     QCOMPARE(parole(), QStringLiteral("2 centinaia"));
     banco.sorte.scrivi(caso(213, 45));
-    riattiva(banco);
+    banco.riattiva();
     QCOMPARE(parole(), QStringLiteral("vuoto"));
   }
 
@@ -285,20 +287,31 @@ class FormHLUTest : public QObject {
     QCOMPARE(contenuto(forma.ShockwaveFlash3, QStringLiteral("da u")), QStringLiteral("11da 15u"));
   }
 
+  void theOtherButtonsWorkAlsoWhereOneKindIsAdded_data() {
+    QTest::addColumn<int>("tipo");
+    QTest::addColumn<int>("aggiunta");
+    QTest::addColumn<QString>("unite");
+    QTest::newRow("units") << 7 << 4 << QStringLiteral("1h 2da 7u");
+    QTest::newRow("tens") << 8 << 40 << QStringLiteral("1h 6da 3u");
+    QTest::newRow("hundreds") << 9 << 400 << QStringLiteral("5h 2da 3u");
+  }
   void theOtherButtonsWorkAlsoWhereOneKindIsAdded() {
+    QFETCH(int, tipo);
+    QFETCH(int, aggiunta);
+    QFETCH(QString, unite);
     Banco banco;
-    banco.ambiente->stato.TipoEsercizio = 9;
-    banco.sorte.scrivi({{122, 988}, {4, 10}});  // 123 + 400
+    banco.ambiente->stato.TipoEsercizio = qint16(tipo);
+    banco.sorte.scrivi({{122, 988}, {4, 10}});
     auto& forma = banco.apri<FormHLU>(somme::forme::kFormHLU);
     costruisci(banco, forma, 123);
     banco.clicca(forma.PulsanteConferma);
-    banco.clicca(forma.PulsanteU);
-    banco.clicca(forma.PulsanteDa);
-    QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0h 1da 1u"));
+    costruisci(banco, forma, 111);
+    QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("1h 1da 1u"));
     banco.clicca(forma.PulsanteCestino);
-    costruisci(banco, forma, 400);
+    costruisci(banco, forma, aggiunta);
     banco.clicca(forma.PulsanteConferma);
-    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("5h 2da 3u"));
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), unite);
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
   }
 
   void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord_data() {
@@ -345,7 +358,7 @@ class FormHLUTest : public QObject {
     FormHLU& forma = apri(banco, 213, 45);
     const QString elenco = forma.TestoStampa.text();
     banco.ambiente->stato.TipoEsercizio = 10;
-    riattiva(banco);
+    banco.riattiva();
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 213 +  45 = "));
     QCOMPARE(forma.TestoStampa.text(), elenco);
   }
@@ -376,7 +389,7 @@ class FormHLUTest : public QObject {
         forma.mnuEsci.click();
       } else {
         banco.sorte.scrivi(caso(213, 45));
-        riattiva(banco);
+        banco.riattiva();
       }
     });
     banco.clicca(secondo ? forma.PulsanteCambioDaH : forma.PulsanteCambioUDa);

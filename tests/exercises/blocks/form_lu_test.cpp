@@ -1,9 +1,30 @@
 #include "form_lu_di_prova.h"
 
+#include <QEvent>
 #include <cmath>
 
 using namespace prova;
 using somme::FormLU;
+
+namespace {
+
+// Does something when a control comes on the screen.
+class AlMostrarsi final : public QObject {
+ public:
+  AlMostrarsi(const platform::Control& controllo, std::function<void()> allora)
+      : allora_(std::move(allora)) {
+    controllo.widget()->installEventFilter(this);
+  }
+  bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+    if (evento->type() == QEvent::Show) allora_();
+    return false;
+  }
+
+ private:
+  std::function<void()> allora_;
+};
+
+}  // namespace
 
 // Longs and units up to 99, as a pupil uses them: the boards, from the first block to the carry.
 class FormLUTest : public QObject {
@@ -54,7 +75,7 @@ class FormLUTest : public QObject {
     Banco banco;
     FormLU& forma = apri(banco, 24, 13);
     forma.page()->grab();
-    riattiva(banco);
+    banco.riattiva();
     forma.page()->grab();
     QVERIFY(occhio.dipinti > 0);
     QCOMPARE(occhio.visti, 0);
@@ -207,6 +228,7 @@ class FormLUTest : public QObject {
     unisci(banco, forma);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 12u"));
     QVERIFY(forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteCambio.hasFocus());
     QVERIFY(!forma.TestoInput.isVisible());
     bool guardato = false;
     banco.tempo.after(3.9, [&] {
@@ -230,6 +252,35 @@ class FormLUTest : public QObject {
     QCOMPARE(banco.suono.suonati.size(), 2);
     rispondi(banco, forma, QStringLiteral("42"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+  }
+
+  void theFormDecidesOnTheArgumentOfTheJoinedBoardsWordAlone() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    unisci(banco, forma);
+    const QString cambio = QStringLiteral("cambio");
+    const QString altro = QStringLiteral("altro");
+    Q_EMIT Banco::filmato(forma.ShockwaveFlash3).fsCommand(cambio, altro);
+    Q_EMIT Banco::filmato(forma.ShockwaveFlash1).fsCommand(cambio, cambio);
+    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3da 12u"));
+    Q_EMIT Banco::filmato(forma.ShockwaveFlash3).fsCommand(altro, cambio);
+    QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 4);
+    QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u"), 11), 2);
+  }
+
+  void eventsRunOnceBetweenTheJoiningAndTheButtonOfTheCarry() {
+    Banco banco;
+    FormLU& forma = apri(banco, 27, 15);
+    bool scorsi = false;
+    bool primaDelCambio = false;
+    const AlMostrarsi unite(forma.ShockwaveFlash3, [&] {
+      QMetaObject::invokeMethod(
+          qApp, [&] { scorsi = true; }, Qt::QueuedConnection);
+    });
+    const AlMostrarsi cambio(forma.PulsanteCambio, [&] { primaDelCambio = scorsi; });
+    unisci(banco, forma);
+    QVERIFY(forma.PulsanteCambio.isVisible());
+    QVERIFY(primaDelCambio);
   }
 
   void tenUnitsAreEnoughForTheCarryAndNoneRemains() {

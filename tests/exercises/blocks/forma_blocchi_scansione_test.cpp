@@ -119,16 +119,18 @@ class FormaBlocchiScansioneTest : public QObject {
     QVERIFY(!forma.LabelPerTastieraNumerica.isVisible());
   }
 
-  void theKeysOfHigherPlacesAreNotThere() {
+  void theKeysOfHigherPlacesAndTheHelpAreNotThere() {
     Banco banco;
     const FormLUScansione& lu = apriLU(banco, 24, 13);
     QVERIFY(!lu.TastieraHDUScansione1.KVisibile.get());
     QVERIFY(!lu.TastieraHDUScansione1.HVisibile.get());
+    QVERIFY(!lu.TastieraNumericaScansione1.AiutoVisibile.get());
     QCOMPARE(lu.TastieraHDUScansione1.pulsanteAcceso(), qint16(TastieraHDUScansione::kDecine));
     Banco altro;
     const FormHLUScansione& hlu = apriHLU(altro, 213, 45);
     QVERIFY(!hlu.TastieraHDUScansione1.KVisibile.get());
     QVERIFY(hlu.TastieraHDUScansione1.HVisibile.get());
+    QVERIFY(!hlu.TastieraNumericaScansione1.AiutoVisibile.get());
     QCOMPARE(hlu.TastieraHDUScansione1.pulsanteAcceso(), qint16(TastieraHDUScansione::kCentinaia));
   }
 
@@ -430,7 +432,7 @@ class FormaBlocchiScansioneTest : public QObject {
     const FormLUScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(unisciScandendo(banco, forma));
     banco.sorte.scrivi(caso(99, 27, 15));
-    riattiva(banco);
+    banco.riattiva();
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 27 +  15 = "));
     QVERIFY(forma.TastieraHDUScansione1.isVisible());
     QVERIFY(!forma.TastieraNumericaScansione1.isVisible());

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "exercises/core/disegno_comune.h"
 #include "exercises/core/forma_esercizio.h"

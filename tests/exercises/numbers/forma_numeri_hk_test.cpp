@@ -162,12 +162,15 @@ class FormaNumeriHKTest : public QObject {
 
   void anAddendOfNoughtCannotBeAnsweredEither() {
     Banco banco;
-    FormNumeriAddendoHK& forma = apriAddendo(banco, 3, {});
-    banco.ambiente->stato.Addendo2 = 0;
+    FormNumeriAddendoHK& forma = apriAddendo(banco, 3, {{0, 11}});
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 10 + ____ =  10"));
     rispondiToccando(banco, QStringLiteral("0"));
+    tocca(banco, kMappaCifre, prova::kTastoAvanti);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
-    QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 10 + ____ =  10"));
+    forma.mnuEsci.click();
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuNumeri"));
   }
 
   void aDigitKeyAddsBeyondTheLimitOfTheBoxAndANumberTooLargeIsWrong() {
@@ -281,9 +284,7 @@ class FormaNumeriHKTest : public QObject {
     FormNumeriTotaleHK& forma = apriTotale(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     banco.sorte.scrivi(kQuattroPiuSei);
-    banco.mostra(somme::forme::kFormAvvio);
-    banco.ambiente->fondo.forms().closeCurrent();
-    QCoreApplication::processEvents();
+    banco.riattiva();
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 +  6 = "));
     QCOMPARE(forma.TestoStampa.text(), QStringLiteral("\r\nSolo numeri. Entro 10: somme\r\n\r\n"));
     QCOMPARE(banco.rete.ricevuti.count("02#REQ-TOUCH"), 2);

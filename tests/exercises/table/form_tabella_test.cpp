@@ -183,6 +183,7 @@ class FormTabellaTest : public QObject {
     banco.sorte.scrivi({{10, 98}, {20, 98}});
     banco.premi(Qt::Key_Return);
     // What the focus went to meanwhile is a cell that the hold must not choose.
+    QVERIFY(forma.Numero[0].hasFocus());
     for (int i = 0; i < 10; ++i) banco.ripeti(Qt::Key_Return);
     banco.lascia(Qt::Key_Return);
     QCOMPARE(forma.EtichettaNumero.caption(), QStringLiteral(" 10 +  1 = "));
