@@ -174,7 +174,7 @@ void FormAbaco::Inserisci(const GenerePalline& genere, const QString& clip) {
   inserite = platform::toInt16(inserite + 1);
   Mostra(genere.sulFerro, nuova, true);
   Sfuma(genere.sulFerro, nuova, kOpaca);
-  Mostra(clip, false);
+  if (!clip.isEmpty()) Mostra(clip, false);  // the empty name is that of the whole board
   const auto numero = static_cast<std::size_t>(platform::leadingNumber(clip.right(1)));
   PallineInAttesa[numero][genere.colonna] = false;
   if (platform::Button* freccia = Freccia(genere); freccia != nullptr && inserite == kPalline) {

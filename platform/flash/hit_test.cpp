@@ -174,7 +174,10 @@ Container* Search::interactiveIn(const Container& container, QPointF point) {
 }  // namespace
 
 Container* interactiveAt(const Stage& stage, QPointF point) {
-  return Search(stage).interactiveIn(stage.root(), point);
+  const Clip& root = stage.root();
+  bool possible = false;
+  const QPointF inner = root.matrix.inverted(&possible).map(point);
+  return root.visible && possible ? Search(stage).interactiveIn(root, inner) : nullptr;
 }
 
 }  // namespace platform::flash

@@ -3,8 +3,10 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/flash/accessible_movie.h"
 #include "platform/flash/movie_file.h"
@@ -34,7 +36,7 @@ MovieView::~MovieView() {
 }
 
 void MovieView::setMovie(const QString& path) {
-  ++generation_;
+  waiting_.clear();
   ticker_->stop();
   player_.reset();
   renderer_.clear();
@@ -65,14 +67,25 @@ void MovieView::startPlayer(const QString& path) {
 }
 
 void MovieView::post(const QString& command, const QString& args) {
-  QMetaObject::invokeMethod(
-      this,
-      [this, command, args, generation = generation_] {
-        if (generation == generation_) {
-          Q_EMIT fsCommand(command, args);
-        }
-      },
-      Qt::QueuedConnection);
+  waiting_.push_back({command, args});
+  QMetaObject::invokeMethod(this, &MovieView::tellOne, Qt::QueuedConnection);
+}
+
+// Called once for each command, by when it may have been told already, or dropped.
+void MovieView::tellOne() {
+  if (!waiting_.empty()) {
+    const Telling telling = std::move(waiting_.front());
+    waiting_.pop_front();
+    Q_EMIT fsCommand(telling.command, telling.args);
+  }
+}
+
+void MovieView::tellWaiting() {
+  const QPointer<MovieView> self(this);
+  // What the receiver makes the movie say comes from the queue, lest the two go on for ever.
+  for (std::size_t left = waiting_.size(); left > 0 && self; --left) {
+    tellOne();
+  }
 }
 
 void MovieView::setClipProperty(const QString& target, int property, const QString& value) {
@@ -187,6 +200,8 @@ std::optional<QPointF> MovieView::stagePixel(QPointF position) const {
   return (point - stage.topLeft()) / twips;
 }
 
+// What a move makes the movie say is posted: Qt makes moves up where a widget is shown or hidden,
+// in the middle of what the receiver does.
 void MovieView::mouseMoveEvent(QMouseEvent* event) {
   mouse_ = event->position();
   if (player_ == nullptr) {
@@ -210,6 +225,7 @@ void MovieView::mousePressEvent(QMouseEvent* event) {
   player_->mousePress(*position);
   adjustTicker();
   changed();
+  tellWaiting();
 }
 
 void MovieView::mouseReleaseEvent(QMouseEvent* event) {
@@ -224,6 +240,7 @@ void MovieView::mouseReleaseEvent(QMouseEvent* event) {
   }
   adjustTicker();
   changed();
+  tellWaiting();
 }
 
 void MovieView::leaveEvent(QEvent* event) {

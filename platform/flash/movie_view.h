@@ -4,7 +4,7 @@
 #include <QString>
 #include <QTransform>
 #include <QWidget>
-#include <cstdint>
+#include <deque>
 #include <memory>
 #include <optional>
 
@@ -51,8 +51,10 @@ class MovieView final : public QWidget {
   [[nodiscard]] QRectF clipPlace(const QString& name) const;
 
  Q_SIGNALS:
-  // The movie speaks to its owner. Always sent from the event queue, never from within one of the
-  // operations above, so a receiver may call them, wait, or destroy the view.
+  // The movie speaks to its owner: what a press or a release makes it say at the end of that event,
+  // as a button clicks, so that the next event finds what the receiver has changed; everything else
+  // from the event queue. Never from within one of the operations above, so a receiver may call
+  // them, wait, or destroy the view.
   void fsCommand(const QString& command, const QString& args);
 
  protected:
@@ -69,6 +71,9 @@ class MovieView final : public QWidget {
   [[nodiscard]] std::optional<QPointF> stagePixel(QPointF position) const;
   void startPlayer(const QString& path);
   void post(const QString& command, const QString& args);
+  void tellOne();
+  // Tells what waits, in its order. To be called last: the view may be gone afterwards.
+  void tellWaiting();
   void tick();
   // The movie may have changed: looks at it when the events that are waiting have been handled.
   void changed();
@@ -81,8 +86,10 @@ class MovieView final : public QWidget {
   std::unique_ptr<Player> player_;  // null: no movie
   Renderer renderer_;
   Scene scene_;  // what the widget shows, or has asked to be repainted to
-  // Counts the movies loaded, so that a late command knows whether it still matters.
-  std::uint64_t generation_ = 0;
+  struct Telling {
+    QString command, args;
+  };
+  std::deque<Telling> waiting_;  // what the movie has said and its owner has not heard yet
   bool refreshPosted_ = false;
   std::optional<QPointF> mouse_;
   // The owner's cursor, while the hand is shown; without a value inside: none of its own.

@@ -72,7 +72,10 @@ void Player::setProperty(const QString& target, int property, const QString& val
   Container* of = resolveTarget(stage_, &stage_.root(), target);
   const auto known = propertyOfNumber(property);
   if (of != nullptr && known) {
-    setPropertyOf(stage_, *of, *known, value);
+    // A text that is no number is none to the host, whatever the movie's scripts make of it.
+    constexpr int strict = 5;
+    setPropertyOf(stage_, *of, *known,
+                  *known == Property::Name ? Value(value) : Value(numberOf(value, strict)));
   }
 }
 
@@ -92,7 +95,7 @@ QString Player::property(const QString& target, int property) const {
 
 QRectF Player::placeOf(const QString& name) const {
   const Container* child = childNamed(stage_, stage_.root(), name);
-  return child == nullptr ? QRectF() : boundsInParent(*child);
+  return child == nullptr ? QRectF() : stage_.root().matrix.mapRect(boundsInParent(*child));
 }
 
 QPointF Player::toStage(QPointF position) const {

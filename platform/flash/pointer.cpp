@@ -111,9 +111,11 @@ void Pointer::leave() {
 }
 
 void Pointer::press(QPointF point) {
+  if (down_) {
+    releaseOutside();  // its release got lost
+  }
   at_ = point;
   inside_ = true;
-  down_ = false;  // a second press without a release begins anew
   follow();
   down_ = true;
   raiseEverywhere(ClipEvent::MouseDown);

@@ -4,6 +4,8 @@
 #include <QFile>
 
 #include "abaco_di_prova.h"
+#include "platform/flash/hand_made.h"
+#include "platform/flash/movie_view.h"
 
 using prova::BancoAbaco;
 using prova::kTutti;
@@ -103,6 +105,24 @@ class FormAbacoTest : public QObject {
     QVERIFY(!banco.forma.PallineInAttesa[7][3]);
     QVERIFY(banco.forma.PallineInAttesa[2][2]);
     QCOMPARE(banco.alfa("u", 1), 100);
+  }
+
+  void aSecondClickThatFollowsAtOnceFindsTheBeadGone() {
+    BancoAbaco banco(3);
+    const auto cliccaDueVolte = [&](const char* nome, int numero) {
+      const auto& tavola = banco.forma.ShockwaveFlash1;
+      const QRectF posto = BancoAbaco::filmato(tavola).clipPlace(BancoAbaco::clip(nome, numero));
+      for (int i = 0; i < 2; ++i) {
+        QTest::mouseClick(tavola.widget(), Qt::LeftButton, {}, posto.center().toPoint());
+      }
+      QCoreApplication::processEvents();
+    };
+    cliccaDueVolte("ua", 4);
+    QCOMPARE(banco.forma.UnitaInserite, qint16(1));
+    QCOMPARE(banco.visti("u"), QStringLiteral("0"));
+    cliccaDueVolte("u", 0);
+    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
+    QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
   }
 
   void aClickOnAnyBeadOfASpikeTakesTheTopmostAndFillsTheFirstPlace() {
@@ -337,6 +357,32 @@ class FormAbacoTest : public QObject {
     banco.ambiente->stato.LinguaCorrente = QStringLiteral("English");
     banco.clicca(banco.forma.PulsanteCestino);
     QCOMPARE(banco.detto(), QStringLiteral("empty"));
+  }
+
+  void aWordThatIsNoneOfTheEightChangesNothingAndAWordWithoutAClipHidesNone() {
+    using namespace hand_made;
+    const auto dice = [](unsigned id, const QByteArray& parole) {
+      return tag(7, u16(id) + u8(9) + u16(1) + u16(1) + shift(0, 0) + u8(0) + parole + u8(0));
+    };
+    BancoAbaco banco(3);
+    banco.Banco::metti(
+        QStringLiteral("swf/abaco.swf"),
+        file(square(1, 10, 0xFF0000) +
+             dice(2, tell("ua1", "UnitaInAttesa") + tell("ua1", "altro") + tell("ua1")) +
+             dice(3, tell("", "unitainattesa")) + sprite(4, place(1, 2) + showFrame()) +
+             sprite(5, place(1, 3) + showFrame()) + sprite(6, place(1, 1) + showFrame()) +
+             place(1, 4, 0, 0, "altre") + place(2, 5, 30, 0, "senza") + place(3, 6, 60, 0, "ua1") +
+             place(4, 6, 80, 0, "u0") + showFrame()));
+    banco.mostra(somme::forme::kFormAbaco);
+    const auto& tavola = banco.forma.ShockwaveFlash1;
+    banco.cliccaClip(tavola, QStringLiteral("altre"));
+    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
+    QVERIFY(banco.vede("ua", 1));
+    QVERIFY(banco.forma.PallineInAttesa[1][3]);
+    banco.cliccaClip(tavola, QStringLiteral("senza"));
+    QCOMPARE(banco.forma.UnitaInserite, qint16(1));
+    QVERIFY(banco.vede("u", 0));
+    QCOMPARE(BancoAbaco::proprieta(tavola, {}, 7), QStringLiteral("1"));
   }
 
   void withoutItsMovieTheExerciseGoesOn() {

@@ -1,51 +1,18 @@
 #include "platform/flash/movie_view.h"
 
 #include <QAccessible>
-#include <QMouseEvent>
 #include <QPaintEvent>
-#include <QPointer>
 #include <QRegularExpression>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "hand_made.h"
+#include "view_bench.h"
 
 using namespace hand_made;
 using platform::flash::MovieView;
+using namespace view_bench;
 
 namespace {
-
-// A clock that a test moves by hand.
-class HandTicker final : public platform::Ticker {
- public:
-  explicit HandTicker(std::function<void()> tick) : tick_(std::move(tick)) {}
-  void setInterval(int milliseconds) override { interval_ = milliseconds; }
-  [[nodiscard]] int interval() const override { return interval_; }
-  void start() override { running_ = true; }
-  void stop() override { running_ = false; }
-  [[nodiscard]] bool isRunning() const override { return running_; }
-  void tick() { tick_(); }
-
- private:
-  std::function<void()> tick_;
-  int interval_ = 0;
-  bool running_ = false;
-};
-
-class HandTime final : public platform::TimeSource {
- public:
-  [[nodiscard]] double secondsSinceMidnight() const override { return 0; }
-  void letEventsRun() override { QCoreApplication::processEvents(); }
-  void sleepUntilEvent(double) override {}
-  [[nodiscard]] std::unique_ptr<platform::Ticker> makeTicker(std::function<void()> tick) override {
-    auto made = std::make_unique<HandTicker>(std::move(tick));
-    ticker = made.get();
-    return made;
-  }
-
-  HandTicker* ticker = nullptr;
-};
 
 // Remembers where the view was asked to paint.
 class PaintWatch final : public QObject {
@@ -61,41 +28,21 @@ class PaintWatch final : public QObject {
   QRegion painted;
 };
 
-void moveMouse(QWidget& widget, QPointF to) {
-  QMouseEvent event(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, Qt::NoButton, {});
-  QCoreApplication::sendEvent(&widget, &event);
-}
-
-QByteArray redButtonTelling(const char* command, const char* args) {
-  const QByteArray records = u8(9) + u16(1) + u16(1) + shift(0, 0) + u8(0);
-  return tag(7, u16(2) + records + tell(command, args) + u8(0));
-}
-
 }  // namespace
 
 class MovieViewTest : public QObject {
   Q_OBJECT
 
  private:
-  // Writes a movie, gives its path.
-  QString saved(const QByteArray& bytes) {
-    const QString path = folder_.filePath(QStringLiteral("%1.swf").arg(++count_));
-    QFile out(path);
-    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size()) {
-      qFatal("cannot write the movie");
-    }
-    return path;
-  }
-
   // A board of 100 by 50 pixels with two hidden-able clips, each a square of 10 pixels.
   QString board() {
-    return saved(file(square(1, 10, 0xFF0000) + sprite(3, place(1, 1) + showFrame()) +
-                          place(1, 3, 10, 10, "u1") + place(2, 3, 60, 30, "u2") + showFrame(),
-                      6, 100, 50));
+    return folder_.saved(file(square(1, 10, 0xFF0000) + sprite(3, place(1, 1) + showFrame()) +
+                                  place(1, 3, 10, 10, "u1") + place(2, 3, 60, 30, "u2") +
+                                  showFrame(),
+                              6, 100, 50));
   }
 
-  QTemporaryDir folder_;
-  int count_ = 0;
+  MovieFolder folder_;
 
  private Q_SLOTS:
   void theBoardIsShownWithItsBackgroundAndClips() {
@@ -127,9 +74,9 @@ class MovieViewTest : public QObject {
     HandTime time;
     MovieView view(time);
     view.resize(200, 200);
-    view.setMovie(saved(file(tag(9, u8(0) + u8(0) + u8(255)) + square(1, 300, 0xFF0000) +
-                                 place(1, 1, -100, -100) + showFrame(),
-                             6, 100, 50)));
+    view.setMovie(folder_.saved(file(tag(9, u8(0) + u8(0) + u8(255)) + square(1, 300, 0xFF0000) +
+                                         place(1, 1, -100, -100) + showFrame(),
+                                     6, 100, 50)));
     const QImage image = view.grab().toImage();
     QCOMPARE(image.pixel(100, 49), 0xFF0000FF);
     QCOMPARE(image.pixel(100, 50), 0xFFFF0000);
@@ -179,9 +126,9 @@ class MovieViewTest : public QObject {
     MovieView view(time);
     view.setMovie(board());
     QVERIFY(!time.ticker->isRunning());
-    view.setMovie(
-        saved(file(doAction(stop()) + showFrame() + showFrame() + doAction(stop()) + showFrame(), 6,
-                   100, 50, 3)));
+    view.setMovie(folder_.saved(
+        file(doAction(stop()) + showFrame() + showFrame() + doAction(stop()) + showFrame(), 6, 100,
+             50, 3)));
     QVERIFY(!time.ticker->isRunning());
     QCOMPARE(time.ticker->interval(), 83);  // 12 frames a second
     view.gotoFrame(2);
@@ -192,47 +139,6 @@ class MovieViewTest : public QObject {
     time.ticker->tick();
     QCOMPARE(view.currentFrame(), 3);
     QVERIFY(!time.ticker->isRunning());
-  }
-
-  void commandsArePostedAndInOrder() {
-    HandTime time;
-    MovieView view(time);
-    QSignalSpy spy(&view, &MovieView::fsCommand);
-    view.setMovie(saved(file(doAction(tell("a", "1") + tell("b", "cambio")) + showFrame())));
-    QCOMPARE(spy.size(), 0);
-    QCoreApplication::processEvents();
-    QCOMPARE(spy.size(), 2);
-    QCOMPARE(spy[0], (QVariantList{QStringLiteral("a"), QStringLiteral("1")}));
-    QCOMPARE(spy[1], (QVariantList{QStringLiteral("b"), QStringLiteral("cambio")}));
-  }
-
-  void aCommandOfAMovieThatWasReplacedIsDropped() {
-    HandTime time;
-    MovieView view(time);
-    QSignalSpy spy(&view, &MovieView::fsCommand);
-    view.setMovie(saved(file(doAction(tell("old")) + showFrame())));
-    view.setMovie(saved(file(doAction(tell("new")) + showFrame())));
-    QCoreApplication::processEvents();
-    QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy[0][0].toString(), QStringLiteral("new"));
-  }
-
-  void aReceiverMayDestroyTheViewOrCallIt() {
-    HandTime time;
-    auto* view = new MovieView(time);
-    QObject::connect(view, &MovieView::fsCommand, view, [view](const QString& command) {
-      if (command == QStringLiteral("first")) {
-        view->gotoFrame(2);
-      } else {
-        delete view;
-      }
-    });
-    const QPointer<MovieView> alive(view);
-    view->setMovie(saved(file(doAction(tell("first") + stop()) + showFrame() +
-                                  doAction(tell("second") + tell("third")) + showFrame(),
-                              6, 100, 50, 2)));
-    QCoreApplication::processEvents();
-    QTRY_VERIFY(alive.isNull());
   }
 
   void settingTheSameMovieLoadsItAnew() {
@@ -260,7 +166,8 @@ class MovieViewTest : public QObject {
     view.resize(100, 50);
     view.setMovie(board());
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be shown")));
-    view.setMovie(bytes == "(none)" ? folder_.filePath(QStringLiteral("none.swf")) : saved(bytes));
+    view.setMovie(bytes == "(none)" ? folder_.path(QStringLiteral("none.swf"))
+                                    : folder_.saved(bytes));
     view.setClipProperty(QStringLiteral("u1"), 7, QStringLiteral("1"));
     view.gotoFrame(2);
     view.play();
@@ -280,40 +187,15 @@ class MovieViewTest : public QObject {
     QCOMPARE(view.currentFrame(), 0);
   }
 
-  void aClickOnAButtonRaisesItsCommandWhereItIsSeen() {
-    HandTime time;
-    MovieView view(time);
-    view.resize(200, 200);
-    QSignalSpy spy(&view, &MovieView::fsCommand);
-    view.setMovie(saved(file(square(1, 10, 0xFF0000) + redButtonTelling("ua3", "unitainattesa") +
-                                 place(1, 2, 10, 10) + showFrame(),
-                             6, 100, 50)));
-    QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(15, 15));
-    QCoreApplication::processEvents();
-    QCOMPARE(spy.size(), 0);
-    QTest::mouseClick(&view, Qt::RightButton, {}, QPoint(30, 80));
-    QCoreApplication::processEvents();
-    QCOMPARE(spy.size(), 0);
-    QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(30, 80));
-    QCoreApplication::processEvents();
-    QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy[0], (QVariantList{QStringLiteral("ua3"), QStringLiteral("unitainattesa")}));
-    // The second press of a double click comes as an event of its own, and counts.
-    QTest::mouseDClick(&view, Qt::LeftButton, {}, QPoint(30, 80));
-    QTest::mouseRelease(&view, Qt::LeftButton, {}, QPoint(30, 80));
-    QCoreApplication::processEvents();
-    QCOMPARE(spy.size(), 2);
-  }
-
   void thePointingHandIsShownOverWhatCanBeClickedAndGivesTheOwnersCursorBack() {
     HandTime time;
     MovieView view(time);
     view.resize(100, 50);
     view.setCursor(Qt::CrossCursor);
-    view.setMovie(saved(file(square(1, 10, 0xFF0000) + redButtonTelling("a", "b") +
-                                 sprite(5, place(1, 2) + showFrame()) + place(1, 5, 10, 10, "c") +
-                                 showFrame(),
-                             6, 100, 50)));
+    view.setMovie(folder_.saved(file(square(1, 10, 0xFF0000) + redButtonTelling("a", "b") +
+                                         sprite(5, place(1, 2) + showFrame()) +
+                                         place(1, 5, 10, 10, "c") + showFrame(),
+                                     6, 100, 50)));
     moveMouse(view, QPoint(15, 15));
     QCoreApplication::processEvents();
     QCOMPARE(view.cursor().shape(), Qt::PointingHandCursor);
@@ -358,8 +240,8 @@ class MovieViewTest : public QObject {
     HandTime time;
     MovieView view(time);
     view.resize(100, 100);
-    view.setMovie(
-        saved(file(rectangleShape(1, 40, 40, 120, 120, 0) + place(1, 1) + showFrame(), 6, 8, 8)));
+    view.setMovie(folder_.saved(
+        file(rectangleShape(1, 40, 40, 120, 120, 0) + place(1, 1) + showFrame(), 6, 8, 8)));
     const int edge = int(100 * ratio);
     QImage image(edge, edge, QImage::Format_RGB32);
     image.setDevicePixelRatio(ratio);
@@ -373,23 +255,6 @@ class MovieViewTest : public QObject {
       QVERIFY2(std::abs(qRed(image.pixel(x, edge / 2)) - 255 * (1 - covered)) <= 2,
                qPrintable(QString::number(x)));
     }
-  }
-
-  void aViewThatIsHiddenWhilePressedLetsGo() {
-    HandTime time;
-    MovieView view(time);
-    view.resize(100, 50);
-    view.setMovie(
-        saved(file(square(1, 10, 0xFF0000) + redButtonTelling("a", "b") + place(1, 2) + showFrame(),
-                   6, 100, 50)));
-    view.show();
-    QSignalSpy spy(&view, &MovieView::fsCommand);
-    QTest::mousePress(&view, Qt::LeftButton, {}, QPoint(5, 5));
-    view.hide();
-    view.show();
-    QTest::mouseRelease(&view, Qt::LeftButton, {}, QPoint(5, 5));
-    QCoreApplication::processEvents();
-    QCOMPARE(spy.size(), 0);
   }
 };
 
