@@ -24,9 +24,9 @@
 // Only wiring: the real services, the ground, the entry routine.
 int main(int /*argc*/, char* argv[]) {
   // The program takes no arguments. The toolkit's own would change its look.
-  int soloIlNome = 1;
-  std::array<char*, 2> nome{argv[0], nullptr};
-  QApplication programma(soloIlNome, nome.data());
+  int quanti = 1;
+  std::array<char*, 2> soloIlNome{argv[0], nullptr};
+  QApplication programma(quanti, soloIlNome.data());
   platform::applyAppearance();
   somme::PreparaImmagini();
 
