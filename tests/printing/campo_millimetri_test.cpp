@@ -1,11 +1,11 @@
 #include "printing/frm_avvia_stampa.h"
 
+#include <QClipboard>
+
 #include "dialogo_di_prova.h"
 
 using prova::DialogoDiProva;
 using somme::frmAvviaStampa;
-
-namespace {}  // namespace
 
 // The fields of the print dialog: what they take, and what follows a change of them.
 class CampoMillimetriTest : public QObject {
@@ -47,6 +47,29 @@ class CampoMillimetriTest : public QObject {
       prova.scrivi(d.txtPrX, QStringLiteral("-"));
       QCOMPARE(d.txtPrX.text(), QStringLiteral("-"));
       QCOMPARE(d.posto().sinistra, 0);
+    });
+    QVERIFY(prova.visto);
+  }
+
+  void whatIsPastedIsTakenAsIfItWereTyped_data() {
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<QString>("taken");
+    QTest::newRow("a minus in the middle") << QStringLiteral("1-2-3") << QStringLiteral("123");
+    QTest::newRow("two at the start") << QStringLiteral("--5") << QStringLiteral("-5");
+    QTest::newRow("one behind what is dropped") << QStringLiteral("a-7") << QStringLiteral("-7");
+  }
+  void whatIsPastedIsTakenAsIfItWereTyped() {
+    QFETCH(QString, pasted);
+    QFETCH(QString, taken);
+    DialogoDiProva prova;
+    prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
+      d.Command1.click();
+      prova.scrivi(d.txtPrX, QStringLiteral("44"));
+      static_cast<QLineEdit*>(d.txtPrX.widget())->selectAll();
+      QApplication::clipboard()->setText(pasted);
+      prova.batti(Qt::Key_V, Qt::ControlModifier);
+      QCOMPARE(d.txtPrX.text(), taken);
+      QCOMPARE(d.posto().sinistra, taken.toInt());
     });
     QVERIFY(prova.visto);
   }

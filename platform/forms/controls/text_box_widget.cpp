@@ -9,6 +9,7 @@
 #include <QValidator>
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
@@ -94,14 +95,19 @@ int TextBoxWidget::filtered(int keyAscii) const {
   return keyAscii;
 }
 
+// Each character is in before the filter is asked for the next, as when they are typed; however
+// many, they are one change.
 void TextBoxWidget::enter(const QString& text) {
+  entering_ = true;
   QString kept;
   for (const QChar character : text) {
     if (character.category() == QChar::Other_Control) continue;
     const int key = filtered(character.unicode());
     if (key > 0 && key <= 0xFFFF) kept += QChar(char16_t(key));
+    if (!character.isHighSurrogate() && !isReadOnly()) insertKept(std::exchange(kept, {}));
   }
-  if (!isReadOnly()) insertKept(std::move(kept));
+  entering_ = false;
+  noteChange();
 }
 
 // What does not fit is left out; the halves of a character are never parted.
@@ -127,7 +133,7 @@ void TextBoxWidget::enterAnew(const QString& text) {
 }
 
 void TextBoxWidget::noteChange() {
-  if (text_ == text()) return;
+  if (entering_ || text_ == text()) return;
   text_ = text();
   fitFont();
   hooks_.changed();

@@ -68,6 +68,7 @@ class TextBoxWidget final : public QLineEdit {
   int ownWork_ = 0;  // above 0 while a change comes one of the box's own ways
   bool border_ = true;
   bool composing_ = false;
+  bool entering_ = false;  // characters are coming in one by one
 };
 
 }  // namespace platform
