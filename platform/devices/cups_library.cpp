@@ -30,6 +30,7 @@ std::optional<CupsLibrary> CupsLibrary::load(const char* file) {
                         find(library, "cupsGetDestMediaDefault", cups.getDestMediaDefault) &&
                         find(library, "cupsFindDestSupported", cups.findDestSupported) &&
                         find(library, "cupsFindDestDefault", cups.findDestDefault) &&
+                        find(library, "pwgMediaForPPD", cups.mediaForPPD) &&
                         find(library, "ippContainsString", cups.containsString) &&
                         find(library, "ippGetInteger", cups.getInteger) &&
                         find(library, "ippGetString", cups.getString) &&

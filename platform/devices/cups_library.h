@@ -25,6 +25,7 @@ struct CupsLibrary {
   decltype(&cupsGetDestMediaDefault) getDestMediaDefault = nullptr;
   decltype(&cupsFindDestSupported) findDestSupported = nullptr;
   decltype(&cupsFindDestDefault) findDestDefault = nullptr;
+  decltype(&pwgMediaForPPD) mediaForPPD = nullptr;
   decltype(&ippContainsString) containsString = nullptr;
   decltype(&ippGetInteger) getInteger = nullptr;
   decltype(&ippGetString) getString = nullptr;

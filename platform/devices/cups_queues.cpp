@@ -77,7 +77,7 @@ class CupsQueues::Queue {
   // there is none, and never looks at what the queue itself does.
   [[nodiscard]] std::optional<Paper> standardPaper() const {
     cups_size_t size;
-    const QByteArray name = standard("media");
+    const QByteArray name = standardPaperName();
     if (!name.isEmpty() && cups_.getDestMediaByName(CUPS_HTTP_DEFAULT, dest_, info_,
                                                     name.constData(), 0, &size) != 0) {
       return paperOf(size);
@@ -88,6 +88,15 @@ class CupsQueues::Queue {
     return paperOf(size);
   }
 
+  // As the library knows the paper. A user's choice may bear the short name of the printer's driver
+  // ("A3"), and stand under the name that the driver has for the option.
+  [[nodiscard]] QByteArray standardPaperName() const {
+    const char* drivers = chosen("media") == nullptr ? chosen("PageSize") : nullptr;
+    const QByteArray name = drivers != nullptr ? QByteArray(drivers) : standard("media");
+    const pwg_media_t* known = cups_.mediaForPPD(name.constData());
+    return known == nullptr ? name : QByteArray(known->pwg);
+  }
+
   [[nodiscard]] bool supports(const char* attribute, const char* value, bool ifUntold) const {
     ipp_attribute_t* supported =
         cups_.findDestSupported(CUPS_HTTP_DEFAULT, dest_, info_, attribute);
@@ -96,8 +105,7 @@ class CupsQueues::Queue {
 
   // As the user has set it for the queue, or as the queue itself does.
   [[nodiscard]] QByteArray standard(const char* attribute) const {
-    const char* own = cups_.getOption(attribute, dest_->num_options, dest_->options);
-    if (own != nullptr) return own;
+    if (const char* own = chosen(attribute)) return own;
     ipp_attribute_t* value = cups_.findDestDefault(CUPS_HTTP_DEFAULT, dest_, info_, attribute);
     if (value == nullptr) return {};
     const char* text = cups_.getString(value, 0, nullptr);
@@ -105,6 +113,11 @@ class CupsQueues::Queue {
   }
 
  private:
+  // What the user has set for the queue; null where nothing.
+  [[nodiscard]] const char* chosen(const char* option) const {
+    return cups_.getOption(option, dest_->num_options, dest_->options);
+  }
+
   const CupsLibrary& cups_;
   cups_dest_t* dest_ = nullptr;
   cups_dinfo_t* info_ = nullptr;
@@ -141,6 +154,8 @@ Printers::Opened CupsQueues::open(const QString& name) const {
   Printers::Opened refused{Printers::Access::SettingsRefused, {}};
   if (queue.info() == nullptr) return refused;
   PrinterTraits traits;
+  // All papers first: asked for one by its name before it has listed them, the library may answer
+  // with another.
   traits.papers = queue.papers();
   const std::optional<Paper> paper = queue.standardPaper();
   if (traits.papers.empty() && paper) traits.papers.push_back(*paper);

@@ -22,7 +22,6 @@ QString asFileName(QString title) {
     if (reserved || !character.isPrint()) character = u'_';
   }
   title.truncate(kLongestTitle);
-  if (!title.isEmpty() && title.back().isHighSurrogate()) title.chop(1);
   while (title.startsWith(u'.')) title.remove(0, 1);
   return title.isEmpty() ? QStringLiteral("PDF") : title;
 }

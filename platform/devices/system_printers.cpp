@@ -41,7 +41,7 @@ Printers::List SystemPrinters::list() {
     const std::lock_guard lock(findings->mutex);
     result = findings->list;
   }
-  builtIn_ = QStringLiteral("PDF");
+  // For good: a later search may not come to its end, and the queue would be taken for the file.
   if (result.names.contains(builtIn_)) builtIn_ = QStringLiteral("PDF (file)");
   result.names.append(builtIn_);
   if (result.standard.isEmpty()) result.standard = builtIn_;

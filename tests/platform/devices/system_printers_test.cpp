@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -133,6 +134,9 @@ class SystemPrintersTest : public QObject {
     QCOMPARE(list.names, (QStringList{kBuiltIn, QStringLiteral("PDF (file)")}));
     QVERIFY(machine.printers.open(kBuiltIn).traits.feedsUpright);
     QVERIFY(!machine.printers.open(list.names.last()).traits.feedsUpright);
+    // Also while a search does not find the queue.
+    qputenv("CUPS_SERVER", "127.0.0.1:1");
+    QCOMPARE(machine.printers.list().names, QStringList{QStringLiteral("PDF (file)")});
   }
 
   void aQueueTellsItsPapersAndColours() {
@@ -152,6 +156,31 @@ class SystemPrintersTest : public QObject {
     QVERIFY(traits.takesPages);
     QVERIFY(traits.feedsUpright);
     QVERIFY(traits.standard.orientation == platform::Orientation::Portrait);
+  }
+
+  void theUsersOwnPaperForAQueueIsTakenByAnyOfItsNames_data() {
+    QTest::addColumn<QByteArray>("choice");
+    QTest::newRow("short name") << QByteArray("media=A3");
+    QTest::newRow("long name") << QByteArray("media=iso_a3_297x420mm");
+    QTest::newRow("the driver's option") << QByteArray("PageSize=A3");
+    QTest::newRow("the common option first") << QByteArray("PageSize=A5 media=A3");
+  }
+  void theUsersOwnPaperForAQueueIsTakenByAnyOfItsNames() {
+    QFETCH(QByteArray, choice);
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kQueue));
+    const QTemporaryDir settings;
+    QFile options(settings.filePath(QStringLiteral("lpoptions")));
+    QVERIFY(options.open(QIODevice::WriteOnly));
+    options.write("Dest " + kQueue.toUtf8() + ' ' + choice + '\n');
+    options.close();
+    qputenv("CUPS_SERVERROOT", settings.path().toUtf8());
+    const auto asBefore = qScopeGuard([] { qunsetenv("CUPS_SERVERROOT"); });
+    Machine machine(server.address());
+    const Printers::Opened opened = machine.printers.open(kQueue);
+    QVERIFY(opened.access == Printers::Access::Granted);
+    QCOMPARE(opened.traits.standard.paper.code, platform::kPaperA3);
   }
 
   void aJobGoesThroughTheQueue() {
