@@ -49,7 +49,8 @@ QComboBox* addPapers(QFormLayout& form, const QString& label, const PrinterTrait
   auto* papers = new QComboBox;
   for (const Paper& paper : traits.papers) papers->addItem(nameOf(paper));
   const auto at = std::find(traits.papers.begin(), traits.papers.end(), chosen);
-  if (at != traits.papers.end()) papers->setCurrentIndex(int(at - traits.papers.begin()));
+  // A paper that the list does not have stays as long as no other is chosen.
+  papers->setCurrentIndex(at == traits.papers.end() ? -1 : int(at - traits.papers.begin()));
   papers->setMinimumHeight(kRowHeight);
   papers->setAccessibleName(label);
   form.addRow(label, papers);
