@@ -4,6 +4,9 @@
 #include "support/pdf_letto.h"
 
 using prova::DialogoDiProva;
+using prova::dipinta;
+using prova::Grigia;
+using prova::haColori;
 using prova::PdfLetto;
 using somme::frmAvviaStampa;
 
@@ -12,33 +15,8 @@ namespace {
 constexpr platform::Rgb kRosso{255, 0, 0};
 constexpr platform::Rgb kBianco{255, 255, 255};
 
-platform::PrinterTraits Grigia(const platform::Paper& carta) {
-  platform::PrinterTraits stampante = prova::StampanteDiProva(carta);
-  stampante.printsColour = false;
-  stampante.standard.colour = platform::ColourMode::Monochrome;
-  return stampante;
-}
-
 bool vicino(double a, double b, double quanto) {
   return std::abs(a - b) <= quanto;
-}
-
-// The colours of the preview as it is painted.
-QImage dipinta(const frmAvviaStampa& d) {
-  return d.PictureAnteprima.widget()->grab().toImage();
-}
-
-bool haColori(const QImage& immagine) {
-  for (int y = 0; y < immagine.height(); ++y) {
-    for (int x = 0; x < immagine.width(); ++x) {
-      const QRgb p = immagine.pixel(x, y);
-      if (std::max({qRed(p), qGreen(p), qBlue(p)}) - std::min({qRed(p), qGreen(p), qBlue(p)}) >
-          24) {
-        return true;
-      }
-    }
-  }
-  return false;
 }
 
 }  // namespace

@@ -1,13 +1,41 @@
 #pragma once
 
+#include <QImage>
+#include <QLineEdit>
+#include <algorithm>
+
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "printing/frm_avvia_stampa.h"
 #include "support/banco.h"
 
-#include <QLineEdit>
-
 namespace prova {
+
+// A printer without colours.
+[[nodiscard]] inline platform::PrinterTraits Grigia(const platform::Paper& carta) {
+  platform::PrinterTraits stampante = StampanteDiProva(carta);
+  stampante.printsColour = false;
+  stampante.standard.colour = platform::ColourMode::Monochrome;
+  return stampante;
+}
+
+// The preview as it is painted.
+[[nodiscard]] inline QImage dipinta(const somme::frmAvviaStampa& dialogo) {
+  return dialogo.PictureAnteprima.widget()->grab().toImage();
+}
+
+[[nodiscard]] inline bool haColori(const QImage& immagine) {
+  for (int y = 0; y < immagine.height(); ++y) {
+    for (int x = 0; x < immagine.width(); ++x) {
+      const QRgb p = immagine.pixel(x, y);
+      if (std::max({qRed(p), qGreen(p), qBlue(p)}) - std::min({qRed(p), qGreen(p), qBlue(p)}) >
+          24) {
+        return true;
+      }
+    }
+  }
+  return false;
+}
 
 // The print dialog over a form of the program, and the hands of whoever uses it.
 class DialogoDiProva {

@@ -4,36 +4,10 @@
 
 using platform::Orientation;
 using prova::DialogoDiProva;
+using prova::dipinta;
+using prova::Grigia;
+using prova::haColori;
 using somme::frmAvviaStampa;
-
-namespace {
-
-platform::PrinterTraits Grigia(const platform::Paper& carta) {
-  platform::PrinterTraits stampante = prova::StampanteDiProva(carta);
-  stampante.printsColour = false;
-  stampante.standard.colour = platform::ColourMode::Monochrome;
-  return stampante;
-}
-
-// The colours of the preview as it is painted.
-QImage dipinta(const frmAvviaStampa& d) {
-  return d.PictureAnteprima.widget()->grab().toImage();
-}
-
-bool haColori(const QImage& immagine) {
-  for (int y = 0; y < immagine.height(); ++y) {
-    for (int x = 0; x < immagine.width(); ++x) {
-      const QRgb p = immagine.pixel(x, y);
-      if (std::max({qRed(p), qGreen(p), qBlue(p)}) - std::min({qRed(p), qGreen(p), qBlue(p)}) >
-          24) {
-        return true;
-      }
-    }
-  }
-  return false;
-}
-
-}  // namespace
 
 // The print dialog, as a teacher uses it.
 class FrmAvviaStampaTest : public QObject {
@@ -141,11 +115,30 @@ class FrmAvviaStampaTest : public QObject {
   void chiudiPrintsNothing() {
     DialogoDiProva prova;
     prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
+      QCOMPARE(d.stampante().impostazioni().orientation, Orientation::Landscape);
       prova.clicca(d.cmdChiudi);
       QVERIFY(d.isUnloaded());
+      QCOMPARE(d.stampante().impostazioni().orientation, Orientation::Portrait);
     });
+    QVERIFY(prova.visto);
     QVERIFY(prova.banco.stampanti.lavori.empty());
     QVERIFY(prova.messaggi().empty());
+  }
+
+  void whatWasSetInOneDialogIsForgottenInTheNext() {
+    DialogoDiProva prova;
+    auto r = prova.richiesta();
+    const auto didascalia = [&] {
+      QString letta;
+      prova.apri(r, [&](frmAvviaStampa& d) {
+        letta = d.fraFoglio.caption();
+        d.cmdStampa.click();
+      });
+      return letta;
+    };
+    QCOMPARE(didascalia(), QStringLiteral(" Dimensioni foglio: A4,  Orizzontale"));
+    r.orientamento = 0;
+    QCOMPARE(didascalia(), QStringLiteral(" Dimensioni foglio: A4,  Verticale"));
   }
 
   void escAndClosingTheWindowAreChiudi() {
@@ -225,16 +218,22 @@ class FrmAvviaStampaTest : public QObject {
     DialogoDiProva prova;
     prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
     bool etichetta = false;
+    QPointF scarto(1000, 1000);  // twips
     bool clessidra = false;
     prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
       prova.banco.stampanti.mentreRisponde = [&] {
         etichetta = d.lblStampaInCorso.isVisible();
+        const auto mezzo = [](const platform::Control& c) {
+          return QPointF(c.left() + c.width() / 2, c.top() + c.height() / 2);
+        };
+        scarto = mezzo(d.lblStampaInCorso) - mezzo(d.PictureAnteprima);
         clessidra = QApplication::overrideCursor() != nullptr;
       };
       prova.clicca(d.cmdStampa);
       QVERIFY(d.isUnloaded());
     });
     QVERIFY(etichetta);
+    QVERIFY(scarto.manhattanLength() < 1);
     QVERIFY(clessidra);
     QVERIFY(QApplication::overrideCursor() == nullptr);
     const platform::PrintJob& lavoro = prova.banco.stampanti.lavori.at(0);
