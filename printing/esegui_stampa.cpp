@@ -1,6 +1,7 @@
 #include "printing/esegui_stampa.h"
 
 #include "app/shared/ambiente.h"
+#include "platform/base/numbers.h"
 #include "platform/forms/wait_pointer.h"
 #include "printing/documento_pdf.h"
 #include "printing/errore_di_stampa.h"
@@ -40,8 +41,11 @@ QByteArray FaiPagina(const StampanteInUso& stampante, const ImmagineDiStampa& im
   const MisuraDelFoglio foglio = stampante.MisuraFoglio();
   const double puntiInLargo = documento.larghezza() / foglio.larghezza;
   const double puntiInAlto = documento.altezza() / foglio.altezza;
-  const QRect dove(qRound(posto.sinistra * puntiInLargo), qRound(posto.alto * puntiInAlto),
-                   qRound(posto.larghezza * puntiInLargo), qRound(posto.altezza * puntiInAlto));
+  const auto punti = [](double quanti) {
+    return static_cast<int>(platform::roundHalfEven(quanti));
+  };
+  const QRect dove(punti(posto.sinistra * puntiInLargo), punti(posto.alto * puntiInAlto),
+                   punti(posto.larghezza * puntiInLargo), punti(posto.altezza * puntiInAlto));
   // Lines and letters stay sharp: no compression that blurs.
   documento.Pittore().setRenderHint(QPainter::LosslessImageRendering);
   documento.Pittore().drawImage(dove, immagine.punti());

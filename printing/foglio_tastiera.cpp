@@ -1,19 +1,9 @@
 #include "printing/foglio_tastiera.h"
 
-#include <cmath>
-
 #include "app/shared/nomi_forme.h"
-#include "platform/base/numbers.h"
 #include "printing/frm_avvia_stampa.h"
 
 namespace somme {
-
-Griglia GrigliaDi(double larghezza, double altezza) {
-  const auto unita = [](double twips, int quante) {
-    return static_cast<int>(platform::roundHalfEven(twips)) / quante;
-  };
-  return {unita(larghezza, Griglia::kColonne), unita(altezza, Griglia::kRighe)};
-}
 
 FoglioTastiera::FoglioTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
                                const PostiTasti& tasti)

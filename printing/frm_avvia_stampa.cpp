@@ -1,7 +1,6 @@
 #include "printing/frm_avvia_stampa.h"
 
 #include <QTemporaryDir>
-#include <cmath>
 
 #include "platform/base/numbers.h"
 #include "platform/base/run_time_error.h"
@@ -140,7 +139,7 @@ void frmAvviaStampa::Prepara(const Richiesta& richiesta) {
   if (!conOggetto_) return;
   const FinestraDaStampare finestra = FinestraDi(richiesta.oggetto);
   if (finestra.widget == nullptr) {
-    throw ErroreDiStampa{ErroreDiStampa::kOggettoErrato,
+    throw ErroreDiStampa{ErroreDiStampa::kStampante,
                          QStringLiteral("L' oggetto da stampare \"%1\"\n"
                                         "non espone la proprieta' hWnd.")
                              .arg(finestra.nome)};
@@ -156,12 +155,11 @@ void frmAvviaStampa::Prepara(const Richiesta& richiesta) {
   txtPrW.setText(plain(400));
   txtPrH.setText(plain(280));
   aspetto_ = float(richiesta.larghezza) / float(richiesta.altezza);
-  LeggiOggetto(richiesta);
+  LeggiOggetto(richiesta, finestra);
   if (titolo_.isEmpty()) titolo_ = finestra.nome;
 }
 
-void frmAvviaStampa::LeggiOggetto(const Richiesta& richiesta) {
-  const FinestraDaStampare finestra = FinestraDi(richiesta.oggetto);
+void frmAvviaStampa::LeggiOggetto(const Richiesta& richiesta, const FinestraDaStampare& finestra) {
   auto* const* controllo = std::get_if<Control*>(&richiesta.oggetto);
   auto* riquadro = controllo == nullptr ? nullptr : dynamic_cast<platform::PictureBox*>(*controllo);
   if (riquadro == nullptr || richiesta.usaImmagine) {

@@ -106,7 +106,7 @@ class frmAvviaStampa final : public Forma {
  private:
   [[nodiscard]] bool ApriLaPredefinita();
   void Prepara(const Richiesta& richiesta);
-  void LeggiOggetto(const Richiesta& richiesta);
+  void LeggiOggetto(const Richiesta& richiesta, const FinestraDaStampare& finestra);
   void CatturaOggetto(QWidget& finestra, const QString& nome);
   void Copia_Oggetto(QWidget& finestra, const QString& nome, platform::PictureBox& destinazione,
                      bool conFigli);

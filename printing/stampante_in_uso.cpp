@@ -1,6 +1,7 @@
 #include "printing/stampante_in_uso.h"
 
 #include "app/shared/ambiente.h"
+#include "platform/base/numbers.h"
 #include "printing/errore_di_stampa.h"
 
 namespace somme {
@@ -52,7 +53,8 @@ void StampanteInUso::Messaggio(const QString& testo, const QString& titolo) {
 
 MisuraDelFoglio StampanteInUso::MisuraFoglio() const {
   if (nome_.isEmpty() || !aperta()) return {};
-  return {qRound(impostazioni_.sheetWidth()), qRound(impostazioni_.sheetHeight()),
+  return {platform::toInt32(impostazioni_.sheetWidth()),
+          platform::toInt32(impostazioni_.sheetHeight()),
           static_cast<qint32>(impostazioni_.orientation)};
 }
 

@@ -1,4 +1,4 @@
-#include "exercises/core/foglio_tastiera.h"
+#include "exercises/core/chiedi_foglio.h"
 
 #include "app/shared/ambiente.h"
 

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <utility>
 
-#include "exercises/core/foglio_tastiera.h"
+#include "exercises/core/chiedi_foglio.h"
 #include "input/collegamento_helpikeys.h"
 #include "platform/forms/controls/menu_item.h"
 
