@@ -162,18 +162,9 @@ void KeyState::heldOver(std::span<const KeyId> ids, std::chrono::milliseconds ar
   }
 }
 
-bool KeyState::anyDown() const {
-  return std::ranges::any_of(entries_, [](const Entry& entry) { return !entry.gone; });
-}
-
 bool KeyState::anyHeldOver() const {
   return std::ranges::any_of(entries_,
                              [](const Entry& entry) { return entry.muted && !entry.gone; });
-}
-
-bool KeyState::isDown(KeyId id) const {
-  return std::ranges::any_of(entries_,
-                             [&](const Entry& entry) { return entry.key.id == id && !entry.gone; });
 }
 
 }  // namespace platform

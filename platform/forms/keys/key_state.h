@@ -110,9 +110,6 @@ class KeyState {
   // press did come here stays as it is. arrival: now, by the clock of KeyInput's arrival.
   void heldOver(std::span<const KeyId> ids, std::chrono::milliseconds arrival);
 
-  // Whether any key is down, held over or not. A key whose release is kept back counts as down.
-  [[nodiscard]] bool anyDown() const;
-  [[nodiscard]] bool isDown(KeyId id) const;
   // Whether a key that was held over is still down.
   [[nodiscard]] bool anyHeldOver() const;
 

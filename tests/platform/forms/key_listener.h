@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "platform/forms/keys/key_state.h"
 
 // Keys as the desktop sends them, and what comes out of a key state.
@@ -21,6 +23,16 @@ inline KeyInput at(KeyId id, milliseconds time, bool flagged = false) {
 // An event that a busy program reads later than it happened.
 inline KeyInput late(KeyId id, milliseconds stamp, milliseconds arrival) {
   return {.id = id, .stamp = stamp, .arrival = arrival};
+}
+
+// Whether a key, or any, is down that was pressed here; also one whose release is kept back. To
+// learn it is to let the keys go, so that a copy is asked.
+inline bool isDown(KeyState state, KeyId id) {
+  const auto isIt = [id](const platform::HeldKey& key) { return key.id == id; };
+  return std::ranges::any_of(state.letGoAll(), isIt);
+}
+inline bool anyDown(KeyState state) {
+  return state.anyHeldOver() || !state.letGoAll().empty();
 }
 
 // Counts what comes out of a key state, as its caller delivers it.
