@@ -1,5 +1,6 @@
 #include "app/form_info.h"
 
+#include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
 namespace somme {
@@ -35,6 +36,13 @@ constexpr FormDesign kDisegno{.name = forme::kFormInfo,
 
 FormInfo::FormInfo(Ambiente& ambiente) : Forma(ambiente, kDisegno) {
   Command1.onClick([this] { VaiA(forme::kFormMenu); });
+}
+
+// The icon before the layout, on this form alone.
+void FormInfo::onLoad() {
+  ApplicaLingua(ambiente(), *this);
+  PrendiIcona();
+  AvviaResizer();
 }
 
 // These words come after the language, which therefore cannot change them.

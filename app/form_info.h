@@ -17,6 +17,7 @@ class FormInfo final : public Forma {
   platform::Button Command1{*this};
 
  protected:
+  void onLoad() override;
   void onActivate() override;
 };
 

@@ -1,5 +1,7 @@
 #include "app/form_menu.h"
 
+#include <QScopeGuard>
+
 #include "app/disegno_menu.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/modulo_navigate.h"
@@ -183,7 +185,6 @@ void FormMenu::ScegliModalita(int indice) {
 }
 
 void FormMenu::ApriTempoScansione() {
-  PictureTempoScansione.setPlace(0, 0, width(), height());
   ScriviTempo();
   HScrollScansione.setValue(stato().TempoScansione);
   PictureTempoScansione.cover();
@@ -209,10 +210,11 @@ void FormMenu::ScegliLingua(int indice) {
   mnuLanguage[indice].setChecked(true);
   const QString lingua = mnuLanguage[indice].caption();
   stato().LinguaCorrente = lingua;
+  // Also when this form is left while the language is being applied, which unwinds from here.
+  const auto scrivi = qScopeGuard([&] { ScriviLinguaScelta(ambiente(), lingua); });
   for (const std::shared_ptr<platform::Form>& forma : ambiente().fondo.forms().all()) {
     ApplicaLingua(ambiente(), *forma);
   }
-  ScriviLinguaScelta(ambiente(), lingua);
 }
 
 }  // namespace somme

@@ -21,10 +21,6 @@ class FormMenuNumeri final : public FormaMenu {
  protected:
   void onLoad() override;
   void onActivate() override;
-
- private:
-  // chiave: of the part of the title that tells the group.
-  void Scegli(int indice, const QString& chiave);
 };
 
 }  // namespace somme

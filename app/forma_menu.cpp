@@ -1,5 +1,6 @@
 #include "app/forma_menu.h"
 
+#include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
 namespace somme {
@@ -20,11 +21,16 @@ void FormaMenu::onActivate() {
 
 void FormaMenu::Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta) {
   pulsante.shareCaptionSize(scritte_);
-  pulsante.setEnabled(StradaAperta(ambiente(), famiglia));
   pulsante.onClick([this, famiglia, scelta = std::move(scelta)] {
     scelta();
     VaiA(Strada(famiglia, stato().ModalitaInput));
   });
+}
+
+void FormaMenu::ScegliTitolato(int tipo, const QString& chiave, const platform::Button& voce) {
+  stato().TipoEsercizio = static_cast<qint16>(tipo);
+  stato().TitoloEsercizio += TestoLingua(ambiente(), chiave);
+  stato().TitoloEsercizio += voce.caption();
 }
 
 void FormaMenu::TornaAlMenu() {

@@ -24,8 +24,11 @@ class FormaMenu : public Forma {
   void onActivate() override;
 
   // Makes a button open an exercise of a family: scelta writes the level down, then the form that
-  // fits the pupil's input mode is shown. Where there is no such form the button is disabled.
+  // fits the pupil's input mode is shown.
   void Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta);
+  // Writes a level down on a menu whose exercises have a title: the group's words and the caption
+  // of a button go to its end. chiave: of the group's words.
+  void ScegliTitolato(int tipo, const QString& chiave, const platform::Button& voce);
   void TornaAlMenu();
 
  private:

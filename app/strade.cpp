@@ -43,8 +43,4 @@ std::string_view Strada(Famiglia famiglia, qint16 ModalitaInput) {
   }
 }
 
-bool StradaAperta(Ambiente& ambiente, Famiglia famiglia) {
-  return ambiente.fondo.forms().knows(Strada(famiglia, ambiente.stato.ModalitaInput));
-}
-
 }  // namespace somme

@@ -5,8 +5,6 @@
 
 namespace somme {
 
-class Ambiente;
-
 // What the family menus lead to.
 enum class Famiglia {
   NumeriTotale,
@@ -22,8 +20,5 @@ enum class Famiglia {
 // The form of a family that fits the way in which the pupil answers. The table has one form alone,
 // whatever the mode: it is offered with mouse and keyboard only. ModalitaInput: 0 to 3.
 [[nodiscard]] std::string_view Strada(Famiglia famiglia, qint16 ModalitaInput);
-
-// Whether the form at the end of that road exists.
-[[nodiscard]] bool StradaAperta(Ambiente& ambiente, Famiglia famiglia);
 
 }  // namespace somme

@@ -35,7 +35,7 @@ void ApplicaLingua(Ambiente& ambiente, platform::Form& form);
 // without the program's own file, when that is the one to read.
 [[nodiscard]] QString LinguaScelta(Ambiente& ambiente);
 // Keeps the choice for the next run: in the program's folder or, where that cannot be written, for
-// this user alone. Where neither can, the choice lasts as long as the run.
+// this user alone. Where neither can, the choice lasts until the main menu is loaded again.
 void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua);
 
 // A text of the ground's own dialogs in the current language, or the Italian one where the language

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exercises/bars/forma_barre_pulsanti.h"
+#include "exercises/bars/forma_barre.h"
 
 // Rows that the bars forms share.
 namespace somme::disegno {
@@ -32,11 +32,6 @@ constexpr Look Termine(std::string_view testo) {
           .back = kWhite,
           .align = Align::Centre,
           .border = true};
-}
-
-constexpr Row Aiuto(TwipsRect posto) {
-  return row<&FormaBarrePulsanti::PulsanteAiuto>(
-      posto, {.caption = "&aiuto", .font = kTahoma14, .picture = "aiuto"});
 }
 
 // The white panel with what stands in it. sinistra, alto: of the panel; origine: of the bars in it,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exercises/bars/disegno_barre.h"
+#include "exercises/bars/disegno_barre_pulsanti.h"
 #include "exercises/bars/forma_barre_tastiera.h"
 
 // Rows of the bars forms on which the answer is typed.

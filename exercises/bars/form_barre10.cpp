@@ -1,7 +1,7 @@
 #include "exercises/bars/form_barre10.h"
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/disegno_barre.h"
+#include "exercises/bars/disegno_barre_pulsanti.h"
 
 namespace somme {
 

@@ -23,4 +23,10 @@ constexpr FormDesign kDisegno =
 
 FormBarre20HK::FormBarre20HK(Ambiente& ambiente) : ConSegno(ambiente, kDisegno, kFinoA20) {}
 
+// The mark goes before anything else, on this form alone.
+void FormBarre20HK::NuovoCaso() {
+  NascondiSegno();
+  ConSegno::NuovoCaso();
+}
+
 }  // namespace somme

@@ -9,6 +9,9 @@ namespace somme {
 class FormBarre20HK final : public ConSegno<FormaBarreHK> {
  public:
   explicit FormBarre20HK(Ambiente& ambiente);
+
+ protected:
+  void NuovoCaso() override;
 };
 
 }  // namespace somme

@@ -118,9 +118,11 @@ void FormaBarre::MostraCaso(const DomandaBarre& domanda) {
     const bool chiesta = b.termine == domanda.termine;
     b.barra.setPlace(b.sinistra, b.alto, Lungo(b.numero), b.barra.height());
     b.barra.setCaption(chiesta ? QStringLiteral("?") : leadingBlank(b.numero));
-    if (chiesta) RisultatoAtteso = b.numero;
   }
   Label3.setCaption(stringhe().*domanda.consegna);
+  for (const Barra& b : barre) {
+    if (b.termine == domanda.termine) RisultatoAtteso = b.numero;
+  }
   Chiedi(domanda);
   for (const Barra& b : barre) {
     Label4[b.termine].setCaption(b.termine == domanda.termine ? QString() : plain(b.numero));

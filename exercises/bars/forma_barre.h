@@ -51,7 +51,8 @@ class FormaBarre : public FormaEsercizio {
   void GeneraCaso2();
 
  protected:
-  // Makes the form ready for the answer to a new question.
+  // Makes the form ready for the answer to a new question, before the written sum changes: it may
+  // read place and colour of the terms, not their captions.
   virtual void Chiedi(const DomandaBarre& domanda) = 0;
 
   // The steps that the forms' own NuovoCaso, Load and Activate are made of.

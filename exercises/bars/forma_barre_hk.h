@@ -16,7 +16,12 @@ class FormaBarreHK : public ConTastiCifre<FormaBarreTastiera> {
 
   platform::MenuItem mnuStamopaHK{*this};
 
+  // `InterpretaSegnale` bears another name on the bars.
+  void InterpretaSegnaleHK(int tasto) { InterpretaSegnale(tasto); }
+
  protected:
+  using ConTastiCifre::InterpretaSegnale;
+
   void DopoLaRichiesta() override;
 
   [[nodiscard]] platform::TextBox& Casella() override { return TestoInput; }

@@ -10,6 +10,11 @@ FormaBarreTastiera::FormaBarreTastiera(Ambiente& ambiente, const platform::FormD
   RaccogliCifre(TestoInput, [this] { Controlla(); });
 }
 
+void FormaBarreTastiera::onLoad() {
+  FormaBarrePulsanti::onLoad();
+  TestoInput.askForDigits();
+}
+
 void FormaBarreTastiera::NuovoCaso() {
   newCase();
   TestoInput.setText({});

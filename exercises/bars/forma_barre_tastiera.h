@@ -15,6 +15,7 @@ class FormaBarreTastiera : public FormaBarrePulsanti {
   platform::TextBox TestoInput{*this};
 
  protected:
+  void onLoad() override;
   void NuovoCaso() override;
   void Chiedi(const DomandaBarre& domanda) override;
   // It does not look at the locked state: Enter in the box of a solved case counts again, as

@@ -53,20 +53,13 @@ class ConHelpiKeys : public Base {
   virtual void InterpretaSegnale(int tasto) = 0;
 
  protected:
-  // The menu item that asks for the keyboard sheet. It can be chosen once the sheet's form exists.
+  // The menu item that asks for the keyboard sheet.
   void OffriFoglio(platform::MenuItem& voce) {
-    voce_ = &voce;
     voce.onClick([this] { ChiediFoglio(this->ambiente(), tastiera_.foglio); });
   }
   // What an activation does once the touches have been asked for.
   virtual void DopoLaRichiesta() { Base::onActivate(); }
 
-  void onLoad() override {
-    Base::onLoad();
-    if (voce_ != nullptr) {
-      voce_->setEnabled(this->ambiente().fondo.forms().knows(tastiera_.foglio));
-    }
-  }
   void AvviaResizer() final {
     const bool prima = tastiera_.collega == TastieraHelpiKeys::Collega::PrimaDelResizer;
     if (prima) collegamento_.Apri();
@@ -81,7 +74,6 @@ class ConHelpiKeys : public Base {
  private:
   const TastieraHelpiKeys& tastiera_;
   CollegamentoHelpiKeys collegamento_;
-  platform::MenuItem* voce_ = nullptr;
 };
 
 namespace disegno {

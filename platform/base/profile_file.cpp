@@ -5,14 +5,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include "platform/base/profile_reader.h"
 #include "platform/base/profile_text.h"
 
 namespace platform {
-
-QString readProfileValue(const QString& path, const QString& section, const QString& key) {
-  return ProfileReader().read(path, section, key);
-}
 
 bool isProfileWritable(const QString& path) {
   const QFileInfo file(path);

@@ -4,11 +4,6 @@
 
 namespace platform {
 
-// One value, without remembering the file: see ProfileReader for the rules and for many values.
-// Throws RunTimeError(FileNotFound) where there is no file of that name.
-[[nodiscard]] QString readProfileValue(const QString& path, const QString& section,
-                                       const QString& key);
-
 // Whether writeProfileValue can do its work there: the file, or one that does not exist yet, can be
 // written, and so can its folder, in which the new file is made.
 [[nodiscard]] bool isProfileWritable(const QString& path);

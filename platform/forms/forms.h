@@ -42,9 +42,6 @@ class Forms {
   // where it was not.
   [[nodiscard]] Form& loaded(std::string_view name);
 
-  // Whether the program has a form of that name. One is made for the answer and thrown away.
-  [[nodiscard]] bool knows(std::string_view name) const { return factory_(name) != nullptr; }
-
   // The form on the screen, or null.
   [[nodiscard]] Form* current() const;
   // The form that this window of the program shows, or null.

@@ -5,6 +5,7 @@
 
 #include "app/form_info.h"
 #include "app/shared/nomi_forme.h"
+#include "platform/forms/page.h"
 #include "support/banco.h"
 #include "support/controfigura.h"
 
@@ -75,6 +76,11 @@ class FormMenuTest : public QObject {
     }));
     banco.ambiente->fondo.window().close();
     QCOMPARE(banco.fine.stato, std::optional<int>(0));
+  }
+
+  void theGradientStandsBehindTheButtons() {
+    Banco banco;
+    QVERIFY(apri(banco).page()->canvas()->hasGradient());
   }
 
   void loadingClearsBothCounters() {

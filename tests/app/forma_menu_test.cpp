@@ -6,7 +6,8 @@
 #include "app/form_menu_plu.h"
 #include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
-#include "cases/livelli.h"
+#include "exercises/numbers/form_numeri_totale.h"
+#include "platform/forms/page.h"
 #include "support/banco.h"
 #include "support/controfigura.h"
 
@@ -123,87 +124,36 @@ class FormaMenuTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void everySumOfTheNumbersSetsItsLevelAndTitle_data() {
+  void everySumOfTheNumbersSetsItsLevel_data() {
     QTest::addColumn<int>("indice");
     for (int i = 1; i <= 27; ++i) QTest::addRow("Command1(%d)", i) << i;
   }
-  void everySumOfTheNumbersSetsItsLevelAndTitle() {
+  void everySumOfTheNumbersSetsItsLevel() {
     QFETCH(int, indice);
     Banco banco(kFinestra, prova::SenzaEsercizi);
     FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
     const Voce& voce = kTotale[indice - 1];
-    const QString didascalia = QString::fromUtf8(voce.didascalia);
-    QCOMPARE(menu.Command1[indice].caption(), didascalia);
+    QCOMPARE(menu.Command1[indice].caption(), QString::fromUtf8(voce.didascalia));
     QVERIFY(sta(menu.Command1[indice], voce.sinistra, voce.alto, 1500, 675));
     banco.clicca(menu.Command1[indice]);
-    QString gruppo = QStringLiteral("Entro 9.999: ");
-    if (indice <= 18) gruppo = QStringLiteral("Entro 999: ");
-    if (indice <= 9) gruppo = QStringLiteral("Entro 99: ");
-    if (indice <= 4) gruppo = QStringLiteral("Entro 20: ");
-    if (indice == 1) gruppo = QStringLiteral("Entro 10: ");
     QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
-    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
-             QStringLiteral("Solo numeri. ") + gruppo + didascalia);
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriTotale"));
   }
 
-  void everyAddendOfTheNumbersBearsTheWordsOfTheSumWithItsIndex_data() {
+  void everyAddendOfTheNumbersSetsItsLevel_data() {
     QTest::addColumn<int>("indice");
     for (int i = 1; i <= 4; ++i) QTest::addRow("Command2(%d)", i) << i;
   }
-  void everyAddendOfTheNumbersBearsTheWordsOfTheSumWithItsIndex() {
+  void everyAddendOfTheNumbersSetsItsLevel() {
     QFETCH(int, indice);
     Banco banco(kFinestra, prova::SenzaEsercizi);
-    // The groups' words of the addends are keys of their own.
-    QFile file(banco.percorso(QStringLiteral("Italiano.lng")));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QByteArray testi = file.readAll();
-    testi.replace("0029=\"Entro 10: \"", "0029=\"Addendo 10: \"");
-    testi.replace("0030=\"Entro 20: \"", "0030=\"Addendo 20: \"");
-    banco.metti(QStringLiteral("Italiano.lng"), testi);
     FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
     const Voce& voce = kAddendo[indice - 1];
     QCOMPARE(menu.Command2[indice].caption(), QString::fromUtf8(voce.didascalia));
     QVERIFY(sta(menu.Command2[indice], voce.sinistra, voce.alto, 1500, 675));
     banco.clicca(menu.Command2[indice]);
     QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
-    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
-             QStringLiteral("Solo numeri. ") +
-                 (indice <= 2 ? QStringLiteral("Addendo 10: ") : QStringLiteral("Addendo 20: ")) +
-                 QString::fromUtf8(kTotale[indice - 1].didascalia));
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriAddendo"));
-  }
-
-  void theTitleOfTheButtonAddendOverTenNamesTheGroupUpToTwenty() {
-    Banco banco(kFinestra, prova::SenzaEsercizi);
-    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
-    banco.clicca(menu.Command1[4]);
-    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(4));
-    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
-             QStringLiteral("Solo numeri. Entro 20: addendo > 10"));
-  }
-
-  void completingTwentyIsTitledAddendOverTen() {
-    Banco banco(kFinestra, prova::SenzaEsercizi);
-    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
-    banco.clicca(menu.Command2[4]);
-    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(4));
-    QVERIFY(banco.ambiente->stato.TitoloEsercizio.endsWith(QStringLiteral("addendo > 10")));
-  }
-
-  void anotherLevelHasATitleWithThatLevelAlone() {
-    Banco banco(kFinestra, prova::SenzaEsercizi);
-    banco.clicca(banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri).Command1[5]);
-    banco.clicca(banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri).Command1[1]);
-    QCOMPARE(banco.ambiente->stato.TitoloEsercizio, QStringLiteral("Solo numeri. Entro 10: somme"));
-  }
-
-  void aTitleWithoutItsKeyLacksThatPart() {
-    Banco banco(kFinestra, prova::SenzaEsercizi);
-    banco.metti(QStringLiteral("Italiano.lng"), "[Strings]\n0031=\"Numeri. \"\n");
-    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
-    banco.clicca(menu.Command1[1]);
-    QCOMPARE(banco.ambiente->stato.TitoloEsercizio, QStringLiteral("Numeri. somme"));
   }
 
   void theHiddenElementOfTheAddendsShowsNothing() {
@@ -213,25 +163,27 @@ class FormaMenuTest : public QObject {
     QVERIFY(menu.Command1[0].isVisible());
   }
 
-  void everyLevelOfTheAbacusSetsItsLevelAndTitle_data() {
+  void theHiddenElementOfTheAddendsWouldGoBackToo() {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    menu.Command2[0].setVisible(true);
+    banco.clicca(menu.Command2[0]);
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
+  }
+
+  void everyLevelOfTheAbacusSetsItsLevel_data() {
     QTest::addColumn<int>("indice");
     for (int i = 1; i <= 23; ++i) QTest::addRow("Command1(%d)", i) << i;
   }
-  void everyLevelOfTheAbacusSetsItsLevelAndTitle() {
+  void everyLevelOfTheAbacusSetsItsLevel() {
     QFETCH(int, indice);
     Banco banco(kFinestra, prova::SenzaEsercizi);
     FormMenuAbaco& menu = banco.apri<FormMenuAbaco>(forme::kFormMenuAbaco);
     const Voce& voce = kAbaco[indice - 1];
-    const QString didascalia = QString::fromUtf8(voce.didascalia);
-    QCOMPARE(menu.Command1[indice].caption(), didascalia);
+    QCOMPARE(menu.Command1[indice].caption(), QString::fromUtf8(voce.didascalia));
     QVERIFY(sta(menu.Command1[indice], voce.sinistra, voce.alto, 1860, 675));
     banco.clicca(menu.Command1[indice]);
-    QString gruppo = QStringLiteral("Entro 9.999: ");
-    if (indice <= 14) gruppo = QStringLiteral("Entro 999: ");
-    if (indice <= 5) gruppo = QStringLiteral("Entro 99: ");
     QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
-    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
-             QStringLiteral("Abaco. ") + gruppo + didascalia);
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormAbaco"));
   }
 
@@ -331,6 +283,7 @@ class FormaMenuTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(menu.Label1.caption(), intestazione);
+    QVERIFY(menu.page()->canvas()->hasGradient());
     const auto trovato =
         std::find_if(menu.controls().begin(), menu.controls().end(),
                      [&indietro](const auto* controllo) { return controllo->name() == indietro; });
@@ -340,14 +293,19 @@ class FormaMenuTest : public QObject {
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
   }
 
-  void aLevelWhoseExerciseDoesNotExistIsDisabled() {
-    Banco banco(kFinestra, prova::SoloMenu);
-    FormMenuAbaco& menu = banco.apri<FormMenuAbaco>(forme::kFormMenuAbaco);
-    for (int i = 1; i <= 23; ++i) QVERIFY(!menu.Command1[i].isEnabled());
-    QVERIFY(menu.Command1[0].isEnabled());
-    banco.clicca(menu.Command1[1]);
-    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuAbaco"));
-    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(0));
+  void leavingAnExerciseAndEnteringItAgainStartsWithBothCountersAtNought() {
+    Banco banco(kFinestra);
+    banco.clicca(banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri).Command1[1]);
+    banco.scrivi(QStringLiteral("99"));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.forma<FormNumeriTotale>().EtichettaErrati.caption(),
+             QStringLiteral("Errati  1"));
+    banco.forma<FormNumeriTotale>().mnuEsci.click();
+    banco.clicca(banco.forma<FormMenuNumeri>().Command1[1]);
+    QCOMPARE(banco.forma<FormNumeriTotale>().EtichettaErrati.caption(),
+             QStringLiteral("Errati  0"));
+    QCOMPARE(banco.forma<FormNumeriTotale>().EtichettaEsatti.caption(),
+             QStringLiteral("Esatti  0"));
   }
 
   void aDoubleClickOpensOneLevelOnce() {
@@ -357,17 +315,6 @@ class FormaMenuTest : public QObject {
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriTotale"));
     QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
              QStringLiteral("Solo numeri. Entro 99: senza cambio"));
-  }
-
-  void theCaptionsOfTheTitlesAreThoseOfTheLanguage() {
-    Banco banco(kFinestra, prova::SenzaEsercizi);
-    banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=\"English\"\n");
-    banco.ambiente->stato.LinguaCorrente = QStringLiteral("English");
-    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
-    QCOMPARE(menu.Command1[10].caption(), QStringLiteral(" no carrying"));
-    banco.clicca(menu.Command1[10]);
-    QCOMPARE(banco.ambiente->stato.TitoloEsercizio,
-             QStringLiteral("Numbers only. Up to 999:  no carrying"));
   }
 };
 

@@ -6,6 +6,7 @@
 #include "app/form_menu.h"
 #include "app/shared/modulo_ini.h"
 #include "app/shared/nomi_forme.h"
+#include "exercises/numbers/form_numeri_totale.h"
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
 
@@ -107,6 +108,17 @@ class LinguaDelMenuTest : public QObject {
     QCOMPARE(avvio.BottoneAvvio.caption(), QStringLiteral("Start"));
   }
 
+  void aLanguageIsKeptAlsoWhenTheMenuIsLeftWhileItIsApplied() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    // At the first yield of the language.
+    banco.tempo.after(0, [&] { banco.clicca(menu.Command3); });
+    scegli(inglese(menu));
+    QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuNumeri"));
+    QCOMPARE(leggi(banco, QStringLiteral("LangSetting.ini")).simplified(),
+             QByteArray("[Language] CurrentLanguage=English"));
+  }
+
   void theNextRunStartsInTheChosenLanguage() {
     Banco banco;
     scegli(inglese(apri(banco)));
@@ -126,6 +138,16 @@ class LinguaDelMenuTest : public QObject {
     scegli(inglese(apri(banco)));
     QCOMPARE(banco.ambiente->stringhe.TestoEsatti, QStringLiteral("Esatti"));
     QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")), QStringLiteral("Right"));
+  }
+
+  void laterExercisesSpeakTheNewLanguageButCountInTheWordsOfTheStart() {
+    Banco banco;
+    scegli(inglese(apri(banco)));
+    banco.ambiente->stato.TipoEsercizio = 1;
+    const auto& forma = banco.apri<somme::FormNumeriTotale>(somme::forme::kFormNumeriTotale);
+    QCOMPARE(forma.PulsanteAvanti.caption(), QStringLiteral("&next"));
+    QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  0"));
+    QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  0"));
   }
 
   void aChangeOfLanguagePutsTheFilesOwnCaptionOnTheSounds() {
@@ -157,8 +179,8 @@ class LinguaDelMenuTest : public QObject {
 
   void withoutAnyLanguageFileEachLoadSaysSoAndTheDesignTextsStand() {
     Banco banco;
-    for (const QString& nome :
-         QDir(banco.cartella.path()).entryList({QStringLiteral("*.lng"), QStringLiteral("*.ini")})) {
+    for (const QString& nome : QDir(banco.cartella.path())
+                                   .entryList({QStringLiteral("*.lng"), QStringLiteral("*.ini")})) {
       togli(banco, nome);
     }
     for (std::size_t volta = 1; volta <= 2; ++volta) {

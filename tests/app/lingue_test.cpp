@@ -34,28 +34,38 @@ QString testo(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
-// The keys that a form's design asks for: its caption, and each caption that says something and
-// each tool tip of its controls. The languages' names are nobody's translation.
-QSet<QString> chiesti(platform::Form& forma) {
-  QMap<QString, QSet<QString>> perControllo;
+// What a form's design says, as a language file has it: its caption, and each caption that says
+// something and each tool tip of its controls. The languages' names are nobody's translation.
+Sezione testiDelDisegno(platform::Form& forma) {
+  QMap<QString, Sezione> perControllo;
+  const auto traVirgolette = [](std::string_view parole) { return u'"' + testo(parole) + u'"'; };
   for (const std::span<const platform::Row> tavola : forma.design().tables) {
     for (const platform::Row& riga : tavola) {
       QString nome = testo(riga.name);
       if (nome == QStringLiteral("mnuLanguage")) continue;
       const platform::Control& controllo = riga.control(forma, riga.index);
       if (riga.index >= 0) nome += QStringLiteral("(%1)").arg(riga.index);
-      QSet<QString>& chiavi = perControllo[nome];
-      chiavi.clear();
+      Sezione& testi = perControllo[nome];
+      testi.clear();
       if (controllo.hasCaption() && !testo(riga.look.caption).trimmed().isEmpty()) {
-        chiavi.insert(nome + QStringLiteral(".Caption"));
+        testi.insert(nome + QStringLiteral(".Caption"), traVirgolette(riga.look.caption));
       }
-      if (!riga.look.toolTip.empty()) chiavi.insert(nome + QStringLiteral(".ToolTipText"));
+      if (!riga.look.toolTip.empty()) {
+        testi.insert(nome + QStringLiteral(".ToolTipText"), traVirgolette(riga.look.toolTip));
+      }
     }
   }
-  QSet<QString> tutte;
-  if (!forma.design().caption.empty()) tutte.insert(forma.name() + QStringLiteral(".Caption"));
-  for (const QSet<QString>& chiavi : perControllo) tutte.unite(chiavi);
-  return tutte;
+  Sezione tutti;
+  const std::string_view titolo = forma.design().caption;
+  if (!titolo.empty())
+    tutti.insert(forma.name() + QStringLiteral(".Caption"), traVirgolette(titolo));
+  for (const Sezione& testi : perControllo) tutti.insert(testi);
+  return tutti;
+}
+
+QSet<QString> chiavi(const Sezione& sezione) {
+  const QStringList nomi = sezione.keys();
+  return {nomi.begin(), nomi.end()};
 }
 
 QString elenco(QSet<QString> chiavi) {
@@ -82,7 +92,8 @@ class LingueTest : public QObject {
   void fiveLanguagesAreThere() {
     const Banco banco({640, 480});
     for (const char* nome : {"Deutsch", "English", "Español", "Français", "Italiano"}) {
-      QVERIFY2(QFile::exists(banco.percorso(QString::fromUtf8(nome) + QStringLiteral(".lng"))), nome);
+      QVERIFY2(QFile::exists(banco.percorso(QString::fromUtf8(nome) + QStringLiteral(".lng"))),
+               nome);
     }
   }
 
@@ -95,9 +106,8 @@ class LingueTest : public QObject {
     QString avanzano;
     for (const std::string_view nome : somme::NomiDelleForme()) {
       const std::shared_ptr<platform::Form> forma = somme::CreaForma(*banco.ambiente, nome);
-      const QSet<QString> attesi = chiesti(*forma);
-      const QStringList chiavi = file.value(forma->name()).keys();
-      const QSet<QString> trovati(chiavi.begin(), chiavi.end());
+      const QSet<QString> attesi = chiavi(testiDelDisegno(*forma));
+      const QSet<QString> trovati = chiavi(file.value(forma->name()));
       if (!file.contains(forma->name())) mancano += QStringLiteral(" [%1]").arg(forma->name());
       const QSet<QString> senza = attesi - trovati;
       const QSet<QString> vane = trovati - attesi;
@@ -106,6 +116,22 @@ class LingueTest : public QObject {
     }
     QVERIFY2(mancano.isEmpty(), qPrintable(QStringLiteral("missing:") + mancano));
     QVERIFY2(avanzano.isEmpty(), qPrintable(QStringLiteral("of no control:") + avanzano));
+  }
+
+  void theItalianTextsAreThoseOfTheDesigns() {
+    Banco banco({640, 480});
+    const QMap<QString, Sezione> file = leggi(banco.percorso(QStringLiteral("Italiano.lng")));
+    QString altri;
+    for (const std::string_view nome : somme::NomiDelleForme()) {
+      const std::shared_ptr<platform::Form> forma = somme::CreaForma(*banco.ambiente, nome);
+      const Sezione sezione = file.value(forma->name());
+      const Sezione attesi = testiDelDisegno(*forma);
+      for (auto voce = attesi.begin(); voce != attesi.end(); ++voce) {
+        if (sezione.value(voce.key()) == voce.value()) continue;
+        altri += QStringLiteral(" %1: %2=%3").arg(forma->name(), voce.key(), voce.value());
+      }
+    }
+    QVERIFY2(altri.isEmpty(), qPrintable(QStringLiteral("in the designs:") + altri));
   }
 
   void everySectionBelongsToAForm_data() { lingue(); }

@@ -1,8 +1,8 @@
 #include "app/strade.h"
 
+#include <QTest>
+
 #include "app/shared/nomi_forme.h"
-#include "support/banco.h"
-#include "support/controfigura.h"
 
 using somme::Famiglia;
 using somme::Strada;
@@ -34,13 +34,6 @@ class StradeTest : public QObject {
     for (qint16 modalita = 0; modalita <= 3; ++modalita) {
       QVERIFY(Strada(Famiglia::Tabella, modalita) == kFormTabella);
     }
-  }
-
-  void aRoadIsOpenWhenTheFormAtItsEndExists() {
-    prova::Banco con({640, 480}, prova::SenzaEsercizi);
-    prova::Banco senza({640, 480}, prova::SoloMenu);
-    QVERIFY(somme::StradaAperta(*con.ambiente, Famiglia::Abaco));
-    QVERIFY(!somme::StradaAperta(*senza.ambiente, Famiglia::Abaco));
   }
 };
 

@@ -5,29 +5,22 @@
 #include <utility>
 
 using namespace somme;
+using namespace std::string_view_literals;
 
 class LivelliTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void everyGroupHasItsWords() {
-    QCOMPARE(NomeGruppo(Gruppo::Entro10), u"Entro 10");
-    QCOMPARE(NomeGruppo(Gruppo::Entro20), u"Entro 20");
-    QCOMPARE(NomeGruppo(Gruppo::Entro99), u"Entro 99");
-    QCOMPARE(NomeGruppo(Gruppo::Entro999), u"Entro 999");
-    QCOMPARE(NomeGruppo(Gruppo::Entro9999), u"Entro 9.999");
-  }
-
   void theLevelsOfTheSumsStandAtTheirNumbers() {
     const auto* primo = LivelloDi(LivelliNumeriTotale, 1);
     QVERIFY(primo != nullptr);
-    QCOMPARE(primo->didascalia, u"somme");
+    QCOMPARE(primo->didascalia, "somme"sv);
     QVERIFY(primo->genera == &GeneraEntro10);
     const auto* ottavo = LivelloDi(LivelliNumeriTotale, 8);
-    QCOMPARE(ottavo->didascalia, u"aggiungi solo unità");
+    QCOMPARE(ottavo->didascalia, "aggiungi solo unità"sv);
     QVERIFY(ottavo->genera == &GeneraEntro99SoloUnita);
     const auto* ultimo = LivelloDi(LivelliNumeriTotale, 27);
-    QCOMPARE(ultimo->didascalia, u"aggiungi solo migliaia");
+    QCOMPARE(ultimo->didascalia, "aggiungi solo migliaia"sv);
     QVERIFY(ultimo->genera == &GeneraEntro9999SoloMigliaia);
   }
 
@@ -52,9 +45,9 @@ class LivelliTest : public QObject {
   }
 
   void theBlanksThatBeginACaptionArePartOfIt() {
-    QCOMPARE(LivelloDi(LivelliNumeriTotale, 10)->didascalia, u" senza cambio");
-    QCOMPARE(LivelloDi(LivelliNumeriTotale, 14)->didascalia, u"con due cambi");
-    QCOMPARE(LivelloDi(LivelliNumeriTotale, 24)->didascalia, u" aggiungi solo unità");
+    QCOMPARE(LivelloDi(LivelliNumeriTotale, 10)->didascalia, " senza cambio"sv);
+    QCOMPARE(LivelloDi(LivelliNumeriTotale, 14)->didascalia, "con due cambi"sv);
+    QCOMPARE(LivelloDi(LivelliNumeriTotale, 24)->didascalia, " aggiungi solo unità"sv);
   }
 
   void groupsAndDigitsFollowTheNumber() {
@@ -73,8 +66,8 @@ class LivelliTest : public QObject {
   void theLevelsOfTheAddendsStandAtTheirNumbers() {
     const std::array<Generatore, 4> attesi = {GeneraTotale10, GeneraEntro10, GeneraDieciPiu,
                                               GeneraTotale20};
-    const std::array<QStringView, 4> didascalie = {u"componi il 10", u"trova un addendo",
-                                                   u"10 + ... = 18", u"completa il 20"};
+    const std::array didascalie = {"componi il 10"sv, "trova un addendo"sv, "10 + ... = 18"sv,
+                                   "completa il 20"sv};
     for (int tipo = 1; tipo <= 4; ++tipo) {
       const Livello& livello = *LivelloDi(LivelliNumeriAddendo, tipo);
       const auto indice = static_cast<std::size_t>(tipo) - 1;

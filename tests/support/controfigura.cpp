@@ -19,8 +19,4 @@ std::shared_ptr<platform::Form> SenzaEsercizi(somme::Ambiente& ambiente, std::st
   return std::make_shared<Controfigura>(ambiente, nome);
 }
 
-std::shared_ptr<platform::Form> SoloMenu(somme::Ambiente& ambiente, std::string_view nome) {
-  return ePagina(nome) ? somme::CreaForma(ambiente, nome) : nullptr;
-}
-
 }  // namespace prova

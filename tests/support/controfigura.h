@@ -25,8 +25,5 @@ class Controfigura final : private DisegnoProprio, public somme::Forma {
 // The program's forms, with a stand-in for every exercise.
 [[nodiscard]] std::shared_ptr<platform::Form> SenzaEsercizi(somme::Ambiente& ambiente,
                                                             std::string_view nome);
-// The program's forms without any exercise.
-[[nodiscard]] std::shared_ptr<platform::Form> SoloMenu(somme::Ambiente& ambiente,
-                                                       std::string_view nome);
 
 }  // namespace prova

@@ -24,8 +24,8 @@ class ModuloColoriSuoniTest : public QObject {
     QFETCH(double, seconds);
     Banco banco;
     bool ran = false;
-    QMetaObject::invokeMethod(&banco.ambiente->fondo.window(), [&ran] { ran = true; },
-                              Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &banco.ambiente->fondo.window(), [&ran] { ran = true; }, Qt::QueuedConnection);
     const int before = banco.tempo.yields();
     Attendi(*banco.ambiente, seconds);
     QCOMPARE(banco.tempo.yields(), before);

@@ -110,7 +110,7 @@ class SceltaDellaLinguaTest : public QObject {
     QVERIFY(!QFile::exists(banco.ambiente->servizi.cartellaUtente));
   }
 
-  void withoutAFolderOfTheUserTheChoiceLastsAsLongAsTheRun() {
+  void withoutAFolderOfTheUserTheChoiceIsGoneAtTheNextReading() {
     Banco banco;
     banco.ambiente->servizi.cartellaUtente = QStringLiteral("/proc/nobody/somme");
     const CartellaChiusa chiusa(banco);

@@ -5,16 +5,18 @@
 #include <cmath>
 
 #include "app/shared/nomi_forme.h"
+#include "barre_di_prova.h"
 #include "support/banco.h"
 
 using prova::Banco;
+using prova::kCiano;
+using prova::kRosso;
+using prova::kVerdeScuro;
+using prova::stannoSulPosto;
+using prova::visibili;
 using somme::FormBarre20;
 
 namespace {
-
-constexpr platform::Rgb kRosso{255, 0, 0};
-constexpr platform::Rgb kVerdeScuro{0, 192, 0};
-constexpr platform::Rgb kCiano{0, 255, 255};
 
 // The window in which one unit of the design is one unit of the page.
 constexpr QSize kDisegno{732, 507 + 30};
@@ -37,16 +39,6 @@ void rispondi(Banco& banco, const QString& numero) {
   banco.batti(Qt::Key_Return);
 }
 
-int visibili(platform::ControlArray<platform::Label>& quadretti) {
-  int quanti = 0;
-  quadretti.forEach([&quanti](platform::Label& q) { quanti += q.isVisible() ? 1 : 0; });
-  return quanti;
-}
-
-bool stannoSulPosto(const platform::Control& a, const platform::Control& b) {
-  return a.widget()->geometry() == b.widget()->geometry();
-}
-
 }  // namespace
 
 // The bars up to 20, as a pupil uses them.
@@ -62,6 +54,7 @@ class FormBarre20Test : public QObject {
     QVERIFY(forma.TestoInput.foreColor() == kRosso);
     QCOMPARE(forma.TestoInput.text(), QString());
     QCOMPARE(forma.TestoInput.maxLength(), 2);
+    QVERIFY(forma.TestoInput.widget()->inputMethodHints().testFlag(Qt::ImhDigitsOnly));
     QVERIFY(!forma.Line1.isVisible());
     QVERIFY(forma.ImgSi.isVisible());
     QCOMPARE(forma.n1.caption(), QStringLiteral(" 9"));

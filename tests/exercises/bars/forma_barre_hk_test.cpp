@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/shared/nomi_forme.h"
+#include "barre_di_prova.h"
 #include "exercises/bars/form_barre10_hk.h"
 #include "exercises/bars/form_barre20_hk.h"
 #include "platform/forms/menu_bar.h"
@@ -11,19 +12,20 @@
 #include "support/tocchi.h"
 
 using prova::Banco;
+using prova::kCiano;
+using prova::kRosso;
+using prova::kVerdeScuro;
 using prova::rispondiToccando;
+using prova::stannoSulPosto;
 using prova::tocca;
 using prova::toccaNumero;
+using prova::visibili;
 using somme::FormaBarreHK;
 using somme::FormBarre10HK;
 using somme::FormBarre20HK;
 using somme::kMappaCifre;
 
 namespace {
-
-constexpr platform::Rgb kRosso{255, 0, 0};
-constexpr platform::Rgb kVerdeScuro{0, 192, 0};
-constexpr platform::Rgb kCiano{0, 255, 255};
 
 // The draws of the case `totale` = `addendo1` + rest, asking for the total.
 void scriviCaso(Banco& banco, int limite, int totale, int addendo1) {
@@ -39,16 +41,6 @@ FormBarre10HK& apri10(Banco& banco, int totale = 7, int addendo1 = 3) {
 FormBarre20HK& apri20(Banco& banco, int totale = 17, int addendo1 = 9) {
   scriviCaso(banco, 20, totale, addendo1);
   return prova::apriPronta<FormBarre20HK>(banco, somme::forme::kFormBarre20HK);
-}
-
-int visibili(platform::ControlArray<platform::Label>& quadretti) {
-  int quanti = 0;
-  quadretti.forEach([&quanti](platform::Label& q) { quanti += q.isVisible() ? 1 : 0; });
-  return quanti;
-}
-
-bool stannoSulPosto(const platform::Control& a, const platform::Control& b) {
-  return a.widget()->geometry() == b.widget()->geometry();
 }
 
 }  // namespace
@@ -185,7 +177,7 @@ class FormaBarreHKTest : public QObject {
   void theKeysElevenAndTwelveAndNoKeyAtAllDoNothing() {
     Banco banco;
     FormBarre10HK& forma = apri10(banco);
-    forma.InterpretaSegnale(forma.DecodificaSegnali(6, 12));
+    forma.InterpretaSegnaleHK(forma.DecodificaSegnali(6, 12));
     tocca(banco, kMappaCifre, 11);
     tocca(banco, kMappaCifre, 12);
     QCOMPARE(forma.TestoInput.text(), QString());

@@ -1,20 +1,23 @@
 #include "exercises/bars/forma_barre_scansione.h"
 
 #include "app/shared/nomi_forme.h"
+#include "barre_di_prova.h"
 #include "exercises/bars/form_barre10_scansione.h"
 #include "exercises/bars/form_barre20_scansione.h"
 #include "support/scansione_di_prova.h"
 
 using prova::Banco;
+using prova::kCiano;
+using prova::kRosso;
+using prova::kVerdeScuro;
+using prova::stannoSulPosto;
+using prova::visibili;
 using somme::FormaBarreScansione;
 using somme::FormBarre20Scansione;
 using somme::TastieraNumericaScansione;
 
 namespace {
 
-constexpr platform::Rgb kRosso{255, 0, 0};
-constexpr platform::Rgb kVerdeScuro{0, 192, 0};
-constexpr platform::Rgb kCiano{0, 255, 255};
 constexpr platform::Rgb kGiallo{255, 255, 0};
 
 constexpr int kCestino = TastieraNumericaScansione::kCestino;
@@ -42,16 +45,6 @@ bool scegli(Banco& banco, FormaBarreScansione& forma, std::initializer_list<int>
   return std::all_of(tasti.begin(), tasti.end(), [&](int tasto) {
     return prova::scegliAMano(banco, forma.TastieraNumericaScansione1, tasto);
   });
-}
-
-bool stannoSulPosto(const platform::Control& a, const platform::Control& b) {
-  return a.widget()->geometry() == b.widget()->geometry();
-}
-
-int visibili(platform::ControlArray<platform::Label>& quadretti) {
-  int quanti = 0;
-  quadretti.forEach([&quanti](platform::Label& q) { quanti += q.isVisible() ? 1 : 0; });
-  return quanti;
 }
 
 void entrambe() {
