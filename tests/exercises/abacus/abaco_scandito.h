@@ -7,12 +7,12 @@
 // The abacus by scanning, as a pupil with one or two keys uses it.
 namespace prova {
 
+using Valori = somme::TastieraHDUScansione;
+using Cifre = somme::TastieraNumericaScansione;
+
 struct BancoScansione : BancoDellAbaco<somme::FormAbacoScansione> {
   explicit BancoScansione(qint16 tipo, const Caso& caso = {}, qint16 modo = 1)
       : BancoDellAbaco(somme::forme::kFormAbacoScansione, tipo, caso, modo, kFinestraPiccola) {}
-
-  using Valori = somme::TastieraHDUScansione;
-  using Cifre = somme::TastieraNumericaScansione;
 
   Valori& valori = forma.TastieraHDUScansione1;
   Cifre& cifre = forma.TastieraNumericaScansione1;

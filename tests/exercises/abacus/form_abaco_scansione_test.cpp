@@ -1,11 +1,7 @@
 #include "abaco_scandito.h"
 
-using prova::BancoScansione;
-using prova::kTutti;
-using prova::nelPasso;
+using namespace prova;
 using somme::FormAbacoScansione;
-using Valori = somme::TastieraHDUScansione;
-using Cifre = somme::TastieraNumericaScansione;
 
 // The keyboard of place values: beads, carries, and what happens in their middle.
 class FormAbacoScansioneTest : public QObject {
@@ -122,7 +118,7 @@ class FormAbacoScansioneTest : public QObject {
     }
     const double prima = banco.adesso();
     QVERIFY(banco.scegli(Valori::kUnita));
-    QVERIFY(std::abs(banco.adesso() - prima - prova::kDurataDelCambio) < 1e-3);
+    QVERIFY(std::abs(banco.adesso() - prima - kDurataDelCambio) < 1e-3);
     QCOMPARE(via, 4);
     QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
     QCOMPARE(banco.visti("u"), QString());
@@ -149,9 +145,9 @@ class FormAbacoScansioneTest : public QObject {
     QVERIFY(banco.scegli(Valori::kDecine, 9));
     QVERIFY(banco.scegli(Valori::kUnita, 9));
     const double prima = banco.adesso();
-    banco.tempo.after(1.5 * prova::kDurataDelCambio, [&] { QVERIFY(!banco.valori.isVisible()); });
+    banco.tempo.after(1.5 * kDurataDelCambio, [&] { QVERIFY(!banco.valori.isVisible()); });
     QVERIFY(banco.scegli(Valori::kUnita));
-    QVERIFY(std::abs(banco.adesso() - prima - 3 * prova::kDurataDelCambio) < 1e-2);
+    QVERIFY(std::abs(banco.adesso() - prima - 3 * kDurataDelCambio) < 1e-2);
     QCOMPARE(banco.detto(), QStringLiteral("1 migliaio"));
     QVERIFY(banco.solaSulloSchermo(banco.valori));
     QCOMPARE(banco.valori.pulsanteAcceso(), qint16(Valori::kMigliaia));

@@ -1,11 +1,7 @@
 #include "abaco_scandito.h"
 
-using prova::BancoScansione;
-using prova::kTutti;
-using prova::nelPasso;
+using namespace prova;
 using somme::FormAbacoScansione;
-using Valori = somme::TastieraHDUScansione;
-using Cifre = somme::TastieraNumericaScansione;
 
 // Whole sums by scanning: the way to the digits, the answer, what comes after.
 class SommaAbacoScansioneTest : public QObject {

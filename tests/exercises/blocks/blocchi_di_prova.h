@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QDir>
+#include <QEvent>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include "app/shared/nomi_forme.h"
@@ -10,6 +13,24 @@
 
 // The pupil's hands and eyes at the blocks.
 namespace prova {
+
+using Sorte = std::vector<SorteDiProva::Estrazione>;
+
+// The kinds of blocks up to 99 and up to 999.
+inline const QString kSpecieLU = QStringLiteral("da u");
+inline const QString kSpecieHLU = QStringLiteral("h da u");
+
+// The levels with and without carries, up to 99 and up to 999, and what they draw for a case.
+inline constexpr qint16 kConESenzaCambio = 3;
+inline constexpr qint16 kConESenzaCambi = 6;
+inline Sorte casoLU(int addendo1, int addendo2) {
+  const int totale = addendo1 + addendo2;
+  return {{totale - 1, 99}, {addendo1, totale}};
+}
+inline Sorte casoHLU(int addendo1, int addendo2) {
+  const int totale = addendo1 + addendo2;
+  return {{totale - 1, 988}, {addendo1, totale}};
+}
 
 // How many blocks of a kind stand on a board; -1 where they are not the first so many.
 inline int blocchi(const platform::Board& tavola, const QString& clip, int da = 1) {
@@ -97,4 +118,72 @@ class OcchioSuiBlocchi final : public QObject {
   QString clip_;
 };
 
+// Does something when a control comes on the screen.
+class AlMostrarsi final : public QObject {
+ public:
+  AlMostrarsi(const platform::Control& controllo, std::function<void()> allora)
+      : allora_(std::move(allora)) {
+    controllo.widget()->installEventFilter(this);
+  }
+  bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+    if (evento->type() == QEvent::Show) allora_();
+    return false;
+  }
+
+ private:
+  std::function<void()> allora_;
+};
+
+inline double adesso(const Banco& banco) {
+  return banco.tempo.secondsSinceMidnight();
+}
+
+// Leaves a program folder without movies; each of the three boards of the form says so.
+inline void togliFilmati(const Banco& banco) {
+  QDir(banco.percorso(QStringLiteral("swf"))).removeRecursively();
+  for (int i = 0; i < 3; ++i) {
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be shown")));
+  }
+}
+
+// The levels of a form: the row of each is named after its number and tells what it draws, the
+// question that comes of it, and the level's name in the record.
+inline void colonneDeiLivelli() {
+  QTest::addColumn<Sorte>("sorte");
+  QTest::addColumn<QString>("operazione");
+  QTest::addColumn<QString>("nome");
+}
+inline void livello(const char* tipo, const Sorte& sorte, const char* operazione,
+                    const char* nome) {
+  QTest::newRow(tipo) << sorte << QString::fromUtf8(operazione) << QString::fromUtf8(nome);
+}
+// gruppo: the words of the record before the level's name.
+template <class F>
+void provaLivello(std::string_view nomeForma, const char* gruppo) {
+  QFETCH(Sorte, sorte);
+  QFETCH(QString, operazione);
+  QFETCH(QString, nome);
+  Banco banco;
+  banco.ambiente->stato.TipoEsercizio = qint16(QByteArray(QTest::currentDataTag()).toInt());
+  banco.sorte.scrivi(sorte);
+  banco.sorte.finisci();
+  const F& forma = banco.apri<F>(nomeForma);
+  QCOMPARE(banco.sorte.rimaste(), std::size_t(0));
+  QCOMPARE(forma.EtOperazione.caption(), operazione);
+  QCOMPARE(forma.TestoStampa.text(),
+           QStringLiteral("\r\n     %1 - %2\r\n\r\n").arg(QString::fromUtf8(gruppo), nome));
+}
+// A level that the form does not have leaves it the case and the record that it had.
+template <class F>
+void provaLivelloIgnoto(Banco& banco, const F& forma, qint16 tipo) {
+  const QString domanda = forma.EtOperazione.caption();
+  const QString elenco = forma.TestoStampa.text();
+  banco.ambiente->stato.TipoEsercizio = tipo;
+  banco.riattiva();
+  QCOMPARE(forma.EtOperazione.caption(), domanda);
+  QCOMPARE(forma.TestoStampa.text(), elenco);
+}
+
 }  // namespace prova
+
+Q_DECLARE_METATYPE(prova::Sorte)

@@ -3,8 +3,6 @@
 using namespace prova;
 using somme::FormLU;
 
-Q_DECLARE_METATYPE(std::vector<prova::SorteDiProva::Estrazione>)
-
 // The course of a case of longs and units: its result, what comes after it, and what becomes of it
 // when the form is left or comes back.
 class CasoLUTest : public QObject {
@@ -163,43 +161,21 @@ class CasoLUTest : public QObject {
   }
 
   void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord_data() {
-    QTest::addColumn<std::vector<SorteDiProva::Estrazione>>("sorte");
-    QTest::addColumn<QString>("operazione");
-    QTest::addColumn<QString>("nome");
-    using Sorte = std::vector<SorteDiProva::Estrazione>;
-    QTest::newRow("1") << Sorte{{3, 10}, {7, 10}, {2, 3}, {4, 7}} << QStringLiteral(" 24 +  13 = ")
-                       << QStringLiteral("senza cambio");
-    QTest::newRow("2") << Sorte{{22, 79}, {22, 32}} << QStringLiteral(" 27 +  15 = ")
-                       << QStringLiteral("con il cambio");
-    QTest::newRow("3") << caso(24, 13) << QStringLiteral(" 24 +  13 = ")
-                       << QStringLiteral("con e senza cambi");
-    QTest::newRow("4") << Sorte{{23, 98}, {5, 10}} << QStringLiteral(" 24 +  5 = ")
-                       << QStringLiteral("aggiungi solo unità");
-    QTest::newRow("5") << Sorte{{23, 88}, {3, 10}} << QStringLiteral(" 24 +  30 = ")
-                       << QStringLiteral("aggiungi solo decine");
+    colonneDeiLivelli();
+    livello("1", {{3, 10}, {7, 10}, {2, 3}, {4, 7}}, " 24 +  13 = ", "senza cambio");
+    livello("2", {{22, 79}, {22, 32}}, " 27 +  15 = ", "con il cambio");
+    livello("3", caso(24, 13), " 24 +  13 = ", "con e senza cambi");
+    livello("4", {{23, 98}, {5, 10}}, " 24 +  5 = ", "aggiungi solo unità");
+    livello("5", {{23, 88}, {3, 10}}, " 24 +  30 = ", "aggiungi solo decine");
   }
   void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord() {
-    QFETCH(std::vector<SorteDiProva::Estrazione>, sorte);
-    QFETCH(QString, operazione);
-    QFETCH(QString, nome);
-    Banco banco;
-    banco.ambiente->stato.TipoEsercizio = qint16(QByteArray(QTest::currentDataTag()).toInt());
-    banco.sorte.scrivi(sorte);
-    auto& forma = banco.apri<FormLU>(somme::forme::kFormLU);
-    QCOMPARE(banco.sorte.rimaste(), std::size_t(0));
-    QCOMPARE(forma.EtOperazione.caption(), operazione);
-    QCOMPARE(forma.TestoStampa.text(),
-             QStringLiteral("\r\n     Piatti, lunghi, unità: entro 99 - %1\r\n\r\n").arg(nome));
+    provaLivello<FormLU>(somme::forme::kFormLU, "Piatti, lunghi, unità: entro 99");
   }
 
   void aLevelThatTheTableDoesNotHaveKeepsCaseAndRecord() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
-    const QString elenco = forma.TestoStampa.text();
-    banco.ambiente->stato.TipoEsercizio = 6;
-    banco.riattiva();
-    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
-    QCOMPARE(forma.TestoStampa.text(), elenco);
+    const FormLU& forma = apri(banco, 24, 13);
+    provaLivelloIgnoto(banco, forma, 6);
   }
 
   void comingBackStartsANewCaseAndRestartsTheRecord() {

@@ -1,35 +1,15 @@
-#include "exercises/blocks/form_hlu.h"
+#include "form_hlu_di_prova.h"
 
 #include <cmath>
-
-#include "blocchi_di_prova.h"
 
 using namespace prova;
 using somme::FormHLU;
 
-Q_DECLARE_METATYPE(std::vector<prova::SorteDiProva::Estrazione>)
-
-namespace {
-
-constexpr qint16 kConESenzaCambi = 6;
-const QString kSpecie = QStringLiteral("h da u");
-
-}  // namespace
-
-// Flats, longs and units up to 999, as a pupil uses them.
+// Flats, longs and units up to 999, as a pupil uses them: the boards, from the first block to the
+// result.
 class FormHLUTest : public QObject {
   Q_OBJECT
 
-  static std::vector<SorteDiProva::Estrazione> caso(int addendo1, int addendo2) {
-    const int totale = addendo1 + addendo2;
-    return {{totale - 1, 988}, {addendo1, totale}};
-  }
-  static FormHLU& apri(Banco& banco, int addendo1, int addendo2) {
-    banco.ambiente->stato.TipoEsercizio = kConESenzaCambi;
-    banco.sorte.scrivi(caso(addendo1, addendo2));
-    return banco.apri<FormHLU>(somme::forme::kFormHLU);
-  }
-  static double adesso(const Banco& banco) { return banco.tempo.secondsSinceMidnight(); }
   static bool siVede(const FormHLU& forma, const QString& clip) {
     return Banco::siVede(forma.ShockwaveFlash3, clip);
   }
@@ -216,77 +196,6 @@ class FormHLUTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
-  void flatsOfAnEarlierCaseStayOnTheJoinedBoard() {
-    Banco banco;
-    FormHLU& forma = apri(banco, 213, 211);  // 4 hundreds
-    unisci(banco, forma);
-    rispondi(banco, forma, QStringLiteral("424"));
-    banco.sorte.scrivi(caso(101, 112));
-    banco.clicca(forma.PulsanteAvanti);
-    unisci(banco, forma);
-    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("4h 1da 3u"));
-    QVERIFY(siVede(forma, QStringLiteral("h3")));
-    QVERIFY(siVede(forma, QStringLiteral("h4")));
-    QCOMPARE(forma.ShockwaveFlash3.widget()->accessibleDescription(),
-             QStringLiteral("4 centinaia, 1 decina, 3 unità"));
-    // Until the movie is loaded again.
-    banco.sorte.scrivi(caso(101, 112));
-    banco.riattiva();
-    unisci(banco, forma);
-    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("2h 1da 3u"));
-  }
-
-  void theFlatOfACarryStaysToo() {
-    Banco banco;
-    FormHLU& forma = apri(banco, 162, 253);
-    unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambioDaH);
-    rispondi(banco, forma, QStringLiteral("415"));
-    banco.sorte.scrivi(caso(101, 12));
-    banco.clicca(forma.PulsanteAvanti);
-    unisci(banco, forma);
-    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("4h 1da 3u"));
-  }
-
-  void flatsThatStayAreToldUntilTheMovieIsLoadedAgain() {
-    Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
-    unisci(banco, forma);
-    rispondi(banco, forma, QStringLiteral("258"));
-    const auto parole = [&] { return forma.ShockwaveFlash3.widget()->accessibleDescription(); };
-    banco.sorte.scrivi(caso(213, 45));
-    banco.clicca(forma.PulsanteAvanti);
-    QCOMPARE(parole(), QStringLiteral("2 centinaia"));
-    banco.sorte.scrivi(caso(213, 45));
-    banco.riattiva();
-    QCOMPARE(parole(), QStringLiteral("vuoto"));
-  }
-
-  void whatHasBeenChangedStandsInItsPlaceAgainInTheNextCase() {
-    Banco banco;
-    FormHLU& forma = apri(banco, 167, 258);
-    unisci(banco, forma);
-    const auto posti = [&] {
-      std::vector<QRectF> tutti;
-      for (const char* clip : {"da", "u"}) {
-        for (int i = 1; i <= 19; ++i) {
-          tutti.push_back(Banco::filmato(forma.ShockwaveFlash3)
-                              .clipPlace(QStringLiteral("%1%2").arg(QLatin1String(clip)).arg(i)));
-        }
-      }
-      return tutti;
-    };
-    const std::vector<QRectF> prima = posti();
-    banco.clicca(forma.PulsanteCambioUDa);
-    banco.clicca(forma.PulsanteCambioDaH);
-    rispondi(banco, forma, QStringLiteral("425"));
-    banco.sorte.scrivi(caso(167, 258));
-    banco.clicca(forma.PulsanteAvanti);
-    unisci(banco, forma);
-    QVERIFY(posti() == prima);
-    QCOMPARE(contenuto(forma.ShockwaveFlash3, QStringLiteral("da u")), QStringLiteral("11da 15u"));
-  }
-
   void theOtherButtonsWorkAlsoWhereOneKindIsAdded_data() {
     QTest::addColumn<int>("tipo");
     QTest::addColumn<int>("aggiunta");
@@ -314,101 +223,6 @@ class FormHLUTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
   }
 
-  void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord_data() {
-    QTest::addColumn<std::vector<SorteDiProva::Estrazione>>("sorte");
-    QTest::addColumn<QString>("operazione");
-    QTest::addColumn<QString>("nome");
-    using Sorte = std::vector<SorteDiProva::Estrazione>;
-    const auto livello = [](const char* tipo, const Sorte& sorte, const char* operazione,
-                            const char* nome) {
-      QTest::newRow(tipo) << sorte << QString::fromUtf8(operazione) << QString::fromUtf8(nome);
-    };
-    livello("1", {{2, 9}, {5, 10}, {8, 10}, {2, 3}, {1, 5}, {3, 8}},
-            " 213 +  145 = ", "senza cambio");
-    livello("2", {{4, 10}, {5, 9}, {2, 9}, {1, 4}, {2, 5}, {5, 12}},
-            " 125 +  337 = ", "cambio alle unità");
-    livello("3", {{4, 9}, {1, 9}, {5, 10}, {1, 4}, {6, 11}, {2, 5}},
-            " 162 +  353 = ", "cambio alle decine");
-    livello("4", {{1, 2}, {4, 9}, {1, 9}, {5, 10}, {1, 4}, {6, 11}, {2, 5}},
-            " 162 +  353 = ", "con un cambio");
-    livello("5", {{4, 9}, {1, 9}, {2, 9}, {1, 4}, {6, 11}, {5, 12}},
-            " 165 +  357 = ", "con due cambi");
-    livello("6", caso(213, 45), " 213 +  45 = ", "con e senza cambi");
-    livello("7", {{122, 988}, {4, 10}}, " 123 +  4 = ", "aggiungi solo unità");
-    livello("8", {{122, 988}, {4, 10}}, " 123 +  40 = ", "aggiungi solo decine");
-    livello("9", {{122, 988}, {4, 10}}, " 123 +  400 = ", "aggiungi solo centinaia");
-  }
-  void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord() {
-    QFETCH(std::vector<SorteDiProva::Estrazione>, sorte);
-    QFETCH(QString, operazione);
-    QFETCH(QString, nome);
-    Banco banco;
-    banco.ambiente->stato.TipoEsercizio = qint16(QByteArray(QTest::currentDataTag()).toInt());
-    banco.sorte.scrivi(sorte);
-    banco.sorte.finisci();
-    auto& forma = banco.apri<FormHLU>(somme::forme::kFormHLU);
-    QCOMPARE(banco.sorte.rimaste(), std::size_t(0));
-    QCOMPARE(forma.EtOperazione.caption(), operazione);
-    QCOMPARE(forma.TestoStampa.text(),
-             QStringLiteral("\r\n     Piatti, lunghi, unità: entro 999 - %1\r\n\r\n").arg(nome));
-  }
-
-  void aLevelThatTheTableDoesNotHaveKeepsCaseAndRecord() {
-    Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
-    const QString elenco = forma.TestoStampa.text();
-    banco.ambiente->stato.TipoEsercizio = 10;
-    banco.riattiva();
-    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 213 +  45 = "));
-    QCOMPARE(forma.TestoStampa.text(), elenco);
-  }
-
-  void comingBackOrLeavingInTheMiddleOfACarryEndsIt_data() {
-    QTest::addColumn<bool>("secondo");
-    QTest::addColumn<double>("dopo");
-    QTest::addColumn<bool>("esce");
-    for (const bool secondo : {false, true}) {
-      for (const double dopo : {0.1, 1.5, 3.9}) {
-        for (const bool esce : {false, true}) {
-          QTest::addRow("carry %d after %g s, %s", secondo ? 2 : 1, dopo, esce ? "leaving" : "back")
-              << secondo << dopo << esce;
-        }
-      }
-    }
-  }
-  void comingBackOrLeavingInTheMiddleOfACarryEndsIt() {
-    QFETCH(bool, secondo);
-    QFETCH(double, dopo);
-    QFETCH(bool, esce);
-    Banco banco;
-    FormHLU& forma = apri(banco, 167, 258);
-    unisci(banco, forma);
-    if (secondo) banco.clicca(forma.PulsanteCambioUDa);
-    banco.tempo.after(dopo, [&] {
-      if (esce) {
-        forma.mnuEsci.click();
-      } else {
-        banco.sorte.scrivi(caso(213, 45));
-        banco.riattiva();
-      }
-    });
-    banco.clicca(secondo ? forma.PulsanteCambioDaH : forma.PulsanteCambioUDa);
-    banco.tempo.advance(10);
-    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
-    QVERIFY(!banco.fine.stato);
-    if (esce) {
-      QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuPLU"));
-      QVERIFY(!banco.tempo.anyTicker());
-      return;
-    }
-    QVERIFY(!forma.PulsanteCambioUDa.isVisible());
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
-    QVERIFY(!forma.TestoInput.isVisible());
-    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0h 0da 0u"));
-    unisci(banco, forma);
-    QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("2h 5da 8u"));
-  }
-
   void whatStandsOnTheJoinedBoardIsToldThroughBothCarries() {
     Banco banco;
     FormHLU& forma = apri(banco, 167, 258);
@@ -423,10 +237,7 @@ class FormHLUTest : public QObject {
 
   void withoutItsMoviesTheExerciseGoesOn() {
     Banco banco;
-    QDir(banco.percorso(QStringLiteral("swf"))).removeRecursively();
-    for (int i = 0; i < 3; ++i) {
-      QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be shown")));
-    }
+    togliFilmati(banco);
     FormHLU& forma = apri(banco, 167, 258);
     unisci(banco, forma);
     banco.clicca(forma.PulsanteCambioUDa);

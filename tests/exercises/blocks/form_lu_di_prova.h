@@ -6,15 +6,11 @@
 // The form of longs and units, as its tests open it.
 namespace prova {
 
-inline constexpr qint16 kConESenzaCambio = 3;
-inline const QString kSpecie = QStringLiteral("da u");
+inline const QString kSpecie = kSpecieLU;
 
-// What the level with and without carries draws for a case.
-inline std::vector<SorteDiProva::Estrazione> caso(int addendo1, int addendo2) {
-  const int totale = addendo1 + addendo2;
-  return {{totale - 1, 99}, {addendo1, totale}};
+inline Sorte caso(int addendo1, int addendo2) {
+  return casoLU(addendo1, addendo2);
 }
-
 inline somme::FormLU& apri(Banco& banco, int addendo1, int addendo2) {
   banco.ambiente->stato.TipoEsercizio = kConESenzaCambio;
   banco.sorte.scrivi(caso(addendo1, addendo2));
@@ -23,10 +19,6 @@ inline somme::FormLU& apri(Banco& banco, int addendo1, int addendo2) {
 
 inline QString suono(const Banco& banco, const char* nome) {
   return banco.percorso(QStringLiteral("suoni/%1.wav").arg(QLatin1String(nome)));
-}
-
-inline double adesso(const Banco& banco) {
-  return banco.tempo.secondsSinceMidnight();
 }
 
 }  // namespace prova

@@ -1,30 +1,9 @@
 #include "form_lu_di_prova.h"
 
-#include <QEvent>
 #include <cmath>
 
 using namespace prova;
 using somme::FormLU;
-
-namespace {
-
-// Does something when a control comes on the screen.
-class AlMostrarsi final : public QObject {
- public:
-  AlMostrarsi(const platform::Control& controllo, std::function<void()> allora)
-      : allora_(std::move(allora)) {
-    controllo.widget()->installEventFilter(this);
-  }
-  bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
-    if (evento->type() == QEvent::Show) allora_();
-    return false;
-  }
-
- private:
-  std::function<void()> allora_;
-};
-
-}  // namespace
 
 // Longs and units up to 99, as a pupil uses them: the boards, from the first block to the carry.
 class FormLUTest : public QObject {
@@ -331,10 +310,7 @@ class FormLUTest : public QObject {
 
   void withoutItsMoviesTheExerciseGoesOn() {
     Banco banco;
-    QDir(banco.percorso(QStringLiteral("swf"))).removeRecursively();
-    for (int i = 0; i < 3; ++i) {
-      QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be shown")));
-    }
+    togliFilmati(banco);
     FormLU& forma = apri(banco, 27, 15);
     unisci(banco, forma);
     banco.clicca(forma.PulsanteCambio);

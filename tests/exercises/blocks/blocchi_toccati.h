@@ -1,0 +1,61 @@
+#pragma once
+
+#include "blocchi_di_prova.h"
+#include "exercises/blocks/form_hlu_hk.h"
+#include "exercises/blocks/form_lu_hk.h"
+#include "support/tocchi.h"
+
+// The blocks by touch, as a pupil with the sheet uses them.
+namespace prova {
+
+// Keys of the sheet.
+inline constexpr int kH = 1;
+inline constexpr int kDa = 2;
+inline constexpr int kU = 3;
+inline constexpr int kCambioDaH = 5;
+inline constexpr int kCambioUDa = 6;
+inline constexpr int kCestino = 7;
+inline constexpr int kConferma = 8;
+inline constexpr int kAvanti = 9;
+
+inline somme::FormLUHK& apriLU(Banco& banco, int addendo1, int addendo2) {
+  banco.ambiente->stato.TipoEsercizio = kConESenzaCambio;
+  banco.sorte.scrivi(casoLU(addendo1, addendo2));
+  return apriPronta<somme::FormLUHK>(banco, somme::forme::kFormLUHK);
+}
+inline somme::FormHLUHK& apriHLU(Banco& banco, int addendo1, int addendo2) {
+  banco.ambiente->stato.TipoEsercizio = kConESenzaCambi;
+  banco.sorte.scrivi(casoHLU(addendo1, addendo2));
+  return apriPronta<somme::FormHLUHK>(banco, somme::forme::kFormHLUHK);
+}
+
+inline void premi(Banco& banco, int tasto, int volte = 1) {
+  for (int i = 0; i < volte; ++i) tocca(banco, somme::kMappaBlocchi, tasto);
+}
+inline void costruisciToccando(Banco& banco, int numero) {
+  premi(banco, kH, numero / 100);
+  premi(banco, kDa, numero / 10 % 10);
+  premi(banco, kU, numero % 10);
+  premi(banco, kConferma);
+}
+inline void unisciToccando(Banco& banco) {
+  costruisciToccando(banco, banco.ambiente->stato.Addendo1);
+  costruisciToccando(banco, banco.ambiente->stato.Addendo2);
+}
+// The digits on the labels, with a point for one that is hidden and a dash for one that is empty.
+inline QString cifre(somme::FormaBlocchiHK& forma) {
+  QString tutte;
+  forma.Label4.forEach([&tutte](platform::Label& cifra) {
+    tutte += !cifra.isVisible()          ? QStringLiteral(".")
+             : cifra.caption().isEmpty() ? QStringLiteral("-")
+                                         : cifra.caption();
+  });
+  return tutte;
+}
+inline QString scritte(somme::FormaBlocchiHK& forma) {
+  QStringList tutte;
+  forma.Label4.forEach([&tutte](platform::Label& cifra) { tutte += cifra.caption(); });
+  return tutte.join(u'|');
+}
+
+}  // namespace prova
