@@ -113,6 +113,51 @@ QByteArray wildShape(int edges) {
                     u16(40) + u8(0) + u8(0) + u8(0) + records.bytes());
 }
 
+// Adds many curves to and fro.
+void addCurves(Bits& records, int curves) {
+  for (int i = 0; i < curves; ++i) {
+    const int sign = i % 2 == 0 ? 1 : -1;
+    records.raw("1 0 1111")
+        .number(17, sign * 3000)
+        .number(17, sign * 900)
+        .number(17, -sign * 2990)
+        .number(17, i % 4 < 2 ? sign * 900 : -sign * 901);
+  }
+}
+
+// A line of that width in twips, to and fro in straight pieces or in curves.
+QByteArray wildLines(int pieces, unsigned width, bool straight) {
+  Bits records;
+  records.raw("0001 0001  0 01001 00001 0 0 1");
+  for (int i = 0; straight && i < pieces; ++i) {
+    records.raw("1 1 1111 1")
+        .number(17, i % 2 == 0 ? 2000 : -1990)
+        .number(17, i % 3 == 0 ? 1999 : -1000);
+  }
+  if (!straight) {
+    addCurves(records, pieces);
+  }
+  records.raw("000000");
+  return tag(2, u16(1) + rect(0, 1, 0, 1) + u8(0) + u8(1) + u16(width) + u8(0) + u8(0) + u8(0) +
+                    records.bytes());
+}
+
+QByteArray wildCurves(int curves) {
+  Bits records;
+  records.raw("0001 0000  0 00101 00001 0 0 1");
+  addCurves(records, curves);
+  records.raw("000000");
+  return tag(2, u16(1) + rect(0, 1, 0, 1) + u8(1) + u8(0) + u8(0) + u8(0) + u8(0) + u8(0) +
+                    records.bytes());
+}
+
+// Places a character many times as large as it is.
+QByteArray enlarged(unsigned id, int times) {
+  Bits matrix;
+  matrix.raw("1 11111").number(31, times << 16).number(31, times << 16).raw("0 00000");
+  return tag(26, u8(6) + u16(1) + u16(id) + matrix.bytes());
+}
+
 // Actions that are done again and again.
 QByteArray forEver(const QByteArray& actions) {
   return actions + action(0x99, u16(0x10000U - unsigned(actions.size()) - 5));
@@ -211,6 +256,12 @@ class BrokenFilesTest : public QObject {
           return tags + doAction(action(0x81, u16(0))) + showFrame();
         }(),
         6, 100, 100, 10'002);
+    QTest::newRow("very wide lines")
+        << file(wildLines(40'000, 65'535, true) + enlarged(1, 100) + showFrame());
+    QTest::newRow("very long curves as lines")
+        << file(wildLines(40'000, 20, false) + enlarged(1, 8000) + showFrame());
+    QTest::newRow("very long curves as a surface")
+        << file(wildCurves(200'000) + enlarged(1, 2000) + showFrame());
     QTest::newRow("thirty thousand new styles") << file([] {
       QByteArray records = Bits().raw("0001 0000").bytes();
       for (int i = 0; i < 30'000; ++i) {
