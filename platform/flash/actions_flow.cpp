@@ -8,8 +8,8 @@ namespace {
 
 void pushValues(ScriptRun& run, ByteReader& operand) {
   const auto constant = [&](std::size_t index) {
-    const auto& texts = run.constants();
-    return texts != nullptr && index < texts->size() ? Value((*texts)[index]) : Value();
+    const ScriptRun::Constants& texts = run.constants();
+    return texts != nullptr && index < texts->texts.size() ? Value(texts->texts[index]) : Value();
   };
   while (!operand.atEnd()) {
     switch (operand.u8()) {
@@ -50,9 +50,9 @@ void pushValues(ScriptRun& run, ByteReader& operand) {
 }
 
 void setConstantPool(ScriptRun& run, ByteReader& operand) {
-  auto texts = std::make_shared<std::vector<QString>>();
+  auto texts = std::make_shared<ConstantPool>();
   for (int left = operand.u16(); left > 0 && run.stage().spend(2); --left) {
-    texts->push_back(run.stage().movie().decoded(operand.string()));
+    texts->add(run.stage().movie().decoded(operand.string()));
   }
   run.setConstants(std::move(texts));
 }
@@ -107,7 +107,7 @@ void define(ScriptRun& run, ByteReader& operand, bool second) {
   }
   for (; parameters > 0 && run.stage().spend(2); --parameters) {
     const int reg = second ? operand.u8() : 0;
-    function->parameters.push_back({reg, run.stage().movie().decoded(operand.string())});
+    function->addParameter(reg, run.stage().movie().decoded(operand.string()));
   }
   function->body = run.code().bytes(operand.u16());
   function->constants = run.constants();

@@ -107,7 +107,7 @@ void EdgeSet::addLine(QPointF from, QPointF to) {
   endSubrow_ = std::max(endSubrow_, bottom);
 }
 
-std::size_t EdgeSet::add(const Outline& outline, const QTransform& matrix) {
+std::size_t EdgeSet::add(const Outline& outline, const QTransform& matrix, std::size_t most) {
   const double m11 = matrix.m11();
   const double m12 = matrix.m12();
   const double m21 = matrix.m21();
@@ -121,8 +121,9 @@ std::size_t EdgeSet::add(const Outline& outline, const QTransform& matrix) {
   const double scale = std::max(std::hypot(m11, m12), std::hypot(m21, m22));
   std::size_t pieces = 0;
   flatten(outline, scale, flatness, [&](QPointF from, QPointF to) {
-    ++pieces;
-    addLine(map(from), map(to));
+    if (++pieces <= most) {
+      addLine(map(from), map(to));
+    }
   });
   return pieces;
 }

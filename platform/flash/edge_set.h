@@ -67,8 +67,9 @@ class EdgeSet {
 
   EdgeSet(Rule rule, int rows) : rule_(rule), lastSubrow_(rows * samples) {}
 
-  // Adds an outline that the matrix takes to pixels. Returns how many straight pieces it took.
-  std::size_t add(const Outline& outline, const QTransform& matrix);
+  // Adds an outline that the matrix takes to pixels. Returns how many straight pieces it takes;
+  // where they are more than most, those beyond are missing, and the set is good for nothing.
+  std::size_t add(const Outline& outline, const QTransform& matrix, std::size_t most);
   // Call once, after all add() and before the rows.
   void prepare();
 

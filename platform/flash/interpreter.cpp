@@ -20,6 +20,7 @@ Interpreter::Interpreter(Stage& stage, CommandSink onCommand)
 
 void Interpreter::execute(ScriptRun& run) {
   constexpr unsigned firstWithOperand = 0x80;
+  constexpr std::size_t bytesPerWork = 8;  // they may hold texts, which are decoded
   try {
     while (!run.ended_ && !run.code_.atEnd() && stage_.spend(1)) {
       const unsigned code = run.code_.u8();
@@ -27,6 +28,7 @@ void Interpreter::execute(ScriptRun& run) {
         return;
       }
       ByteReader operand(code >= firstWithOperand ? run.code_.bytes(run.code_.u16()) : Bytes());
+      stage_.spend(static_cast<int>(operand.remaining() / bytesPerWork));
       if (const Action action = actions_[code]) {
         action(run, operand);
       }
@@ -78,7 +80,10 @@ void Interpreter::bindRegisters(ScriptRun& run, const ScriptFunction& function,
 Value Interpreter::call(const ScriptFunction& function, const Value& thisValue,
                         std::vector<Value> arguments) {
   constexpr int callWork = 10;
-  if (callDepth_ >= limits::callDepth || !stage_.spend(callWork + function.registers)) {
+  constexpr int weightPerWork = 8;
+  const int work =
+      callWork + function.registers + static_cast<int>(function.weight) / weightPerWork;
+  if (callDepth_ >= limits::callDepth || !stage_.spend(work)) {
     return {};
   }
   ++callDepth_;

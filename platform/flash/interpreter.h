@@ -23,14 +23,15 @@ class ScriptRun {
   [[nodiscard]] int version();
   [[nodiscard]] ByteReader& code() { return code_; }
 
-  // An empty stack gives undefined; one that is full ends the run.
+  // An empty stack gives undefined; one that is full ends the run. A text costs work by its length,
+  // since whatever takes it may read all of it.
   Value pop();
   void push(Value value);
   double popNumber() { return toNumber(pop(), version()); }
   QString popText() { return text(pop()); }
   // A truth value; version 4 knows only 1 and 0.
   void pushLogical(bool truth);
-  // Cut off where it is too long; costs work by its length.
+  // Cut off where it is too long.
   void pushText(QString text);
   // Like toText, but knows the paths of clips.
   [[nodiscard]] QString text(const Value& value);
@@ -52,8 +53,8 @@ class ScriptRun {
 
   [[nodiscard]] Value& reg(int number);
 
-  // The texts that the script numbers; null before it has set any.
-  using Constants = std::shared_ptr<const std::vector<QString>>;
+  // Null before the script has set any.
+  using Constants = std::shared_ptr<const ConstantPool>;
   [[nodiscard]] const Constants& constants() const { return constants_; }
   void setConstants(Constants constants) { constants_ = std::move(constants); }
 

@@ -28,6 +28,20 @@ bool isFinite(const QTransform& m) {
          std::isfinite(m.m22()) && std::isfinite(m.dx()) && std::isfinite(m.dy());
 }
 
+// By how much a matrix stretches lengths, in the direction of the most and of the least.
+struct Stretch {
+  double most, least;
+};
+
+Stretch stretchOf(const QTransform& m) {
+  const double squares =
+      m.m11() * m.m11() + m.m12() * m.m12() + m.m21() * m.m21() + m.m22() * m.m22();
+  const double area = std::abs(m.determinant());
+  const double most =
+      std::sqrt((squares + std::sqrt(std::max(0.0, squares * squares - 4 * area * area))) / 2);
+  return {most, most > 0 ? area / most : 0};
+}
+
 // One picture in the making: first the surfaces are gathered, then painted row by row.
 class Painting {
  public:
@@ -45,7 +59,10 @@ class Painting {
  private:
   void gatherItem(const SceneItem& item);
   void gatherMasks();
+  // Each adds to the edges, and is false where nothing is to be painted of them at all.
   bool addOutline(EdgeSet& edges, const Outline& outline, const QTransform& matrix);
+  bool addStroke(EdgeSet& edges, const StrokeCache::Key& key, const QTransform& matrix);
+  bool addLine(EdgeSet& edges, const SceneItem& item, const QTransform& matrix);
   void paintSurface(Surface& surface, int row);
   void useMask(int mask, int row);
   bool spendRow(std::size_t work) {
@@ -80,9 +97,52 @@ bool Painting::addOutline(EdgeSet& edges, const Outline& outline, const QTransfo
     segmentsLeft_ = 0;
     return false;
   }
-  const std::size_t used = std::max(edges.add(outline, matrix), outline.segments().size());
+  const std::size_t used =
+      std::max(edges.add(outline, matrix, segmentsLeft_), outline.segments().size());
+  const bool fits = used <= segmentsLeft_;
   segmentsLeft_ -= std::min(segmentsLeft_, used);
-  return true;
+  return fits;
+}
+
+bool Painting::addStroke(EdgeSet& edges, const StrokeCache::Key& key, const QTransform& matrix) {
+  if (!strokes_.holds(key)) {
+    // Round corners take some times the root of their radius in pixels.
+    constexpr double widestRadius = 4096;
+    const double radius = std::min(key.width * key.scale / 2, widestRadius);
+    const auto pieces = static_cast<std::size_t>(8 + 4 * std::sqrt(radius));
+    const std::size_t needed = key.line->segments().size() * pieces;
+    if (needed > segmentsLeft_) {
+      return false;
+    }
+    segmentsLeft_ -= needed;
+  }
+  return addOutline(edges, strokes_.stroke(key), matrix);
+}
+
+// Never thinner than about a pixel, lest the line fall between the samples.
+bool Painting::addLine(EdgeSet& edges, const SceneItem& item, const QTransform& matrix) {
+  constexpr double thinEnough = 0.9;  // pixels
+  const double area = matrix.determinant();
+  const double scale = std::sqrt(std::abs(area));
+  const Stretch stretch = stretchOf(matrix);
+  if (!(stretch.most > 0)) {
+    return false;
+  }
+  const double width = std::max<double>(item.lineWidth, 1 / scale);
+  if (scale > 0 && width * stretch.least >= thinEnough) {
+    return addStroke(edges, {item.outline, width, scale}, matrix);
+  }
+  // Squeezed one way: what the line covers, and a pixel along it. Both turn the same way round,
+  // also where the matrix is a mirror, so that one does not take away from the other.
+  if (scale > 0 && item.lineWidth * stretch.most > 1 &&
+      !addStroke(edges, {item.outline, double(item.lineWidth), stretch.most}, matrix)) {
+    return false;
+  }
+  const QTransform mirror = QTransform::fromScale(area < 0 ? -1 : 1, 1);
+  const QTransform before = matrix * mirror;
+  return addStroke(edges,
+                   {item.outline, 1, 1, {before.m11(), before.m12(), before.m21(), before.m22()}},
+                   mirror * QTransform::fromTranslate(matrix.dx(), matrix.dy()));
 }
 
 void Painting::gatherItem(const SceneItem& item) {
@@ -91,26 +151,8 @@ void Painting::gatherItem(const SceneItem& item) {
   if (!isFinite(matrix) || !place.intersects(QRectF(image_.rect()))) {
     return;
   }
-  const Outline* outline = item.outline;
-  if (item.isLine) {
-    constexpr std::size_t piecesOfStroke = 8;
-    const double scale = std::sqrt(std::abs(matrix.determinant()));
-    if (!(scale > 0)) {
-      return;
-    }
-    // Never thinner than a pixel, lest it fall between the samples.
-    const StrokeCache::Key key{outline, std::max<double>(item.lineWidth, 1 / scale), scale};
-    const std::size_t needed = outline->segments().size() * piecesOfStroke;
-    if (!strokes_.holds(key)) {
-      if (needed > segmentsLeft_) {
-        return;
-      }
-      segmentsLeft_ -= needed;
-    }
-    outline = &strokes_.stroke(key);
-  }
   EdgeSet edges(item.isLine ? EdgeSet::Rule::Winding : EdgeSet::Rule::EvenOdd, image_.height());
-  if (!addOutline(edges, *outline, matrix)) {
+  if (!(item.isLine ? addLine(edges, item, matrix) : addOutline(edges, *item.outline, matrix))) {
     return;
   }
   edges.prepare();

@@ -26,6 +26,10 @@ Value ScriptRun::pop() {
 }
 
 void ScriptRun::push(Value value) {
+  constexpr qsizetype charactersPerWork = 4;
+  if (const auto* text = std::get_if<QString>(&value)) {
+    stage().spend(static_cast<int>(text->size() / charactersPerWork));
+  }
   if (stack_.size() >= std::size_t(limits::stackDepth)) {
     end();
     return;
@@ -42,9 +46,7 @@ void ScriptRun::pushLogical(bool truth) {
 }
 
 void ScriptRun::pushText(QString text) {
-  constexpr int charactersPerWork = 8;
   text.truncate(limits::stringLength);
-  stage().spend(static_cast<int>(text.size()) / charactersPerWork);
   push(std::move(text));
 }
 

@@ -36,11 +36,6 @@ constexpr std::array namedEvents{
     NamedEvent{ClipEvent::DragOut, u"onDragOut"},
 };
 
-qsizetype textLength(const Value& value) {
-  const auto* text = std::get_if<QString>(&value);
-  return text == nullptr ? 0 : text->size();
-}
-
 }  // namespace
 
 Stage::Stage(std::shared_ptr<const Movie> movie)
@@ -140,8 +135,8 @@ void Stage::bury(Instance& instance) {
     raise(*clip, ClipEvent::Unload, true);
   }
   containers_.erase(instance.id);
-  for (const Value& value : std::as_const(container->variables)) {
-    scriptCharacters_ -= textLength(value);
+  for (auto at = container->variables.cbegin(); at != container->variables.cend(); ++at) {
+    memory_.forget(at.key(), at.value());
   }
   for (const auto& [depth, child] : container->children) {
     bury(*child);
@@ -301,14 +296,9 @@ void Stage::store(Container& owner, const QString& name, Value value) {
   const QString key = movie_->folded(name);
   const auto found = owner.variables.find(key);
   const bool isNew = found == owner.variables.end();
-  // A name counts as well, so that variables without a value are bounded, too.
-  constexpr qsizetype variableCharacters = 32;
-  const qsizetype growth =
-      textLength(value) - (isNew ? -key.size() - variableCharacters : textLength(found.value()));
-  if (scriptCharacters_ + growth > limits::scriptCharacters) {
+  if (!memory_.replace(key, isNew ? nullptr : &found.value(), value)) {
     return;
   }
-  scriptCharacters_ += growth;
   if (isNew) {
     owner.variables.insert(key, std::move(value));
   } else {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/flash/instance.h"
+#include "platform/flash/script_memory.h"
 
 namespace platform::flash {
 
@@ -79,7 +80,7 @@ class Stage {
   bool spend(int work);
   bool spendGoto() { return --gotosLeft_ >= 0; }
   bool spendCommand() { return --commandsLeft_ >= 0; }
-  // Stores a variable; it is left out where scripts hold too much text already.
+  // Stores a variable; it is left out where scripts hold too much already.
   void store(Container& owner, const QString& name, Value value);
 
  private:
@@ -101,7 +102,7 @@ class Stage {
   int workLeft_ = 0;
   int gotosLeft_ = 0;
   int commandsLeft_ = 0;
-  qsizetype scriptCharacters_ = 0;
+  ScriptMemory memory_;
 };
 
 }  // namespace platform::flash

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <compare>
 #include <map>
 
@@ -15,11 +16,14 @@ class StrokeCache {
     const Outline* line;
     double width;  // twips, at which the line is to be drawn
     double scale;  // pixels for each twip: how finely the surface has to follow curves
+    // A matrix (m11, m12, m21, m22) that the line goes through before it gets its width, and what
+    // the surface is told in; all zeros for none.
+    std::array<double, 4> before = {};
 
     auto operator<=>(const Key&) const = default;
   };
 
-  // The surface, in twips; to be filled by the winding rule.
+  // The surface, in twips where nothing comes before; to be filled by the winding rule.
   [[nodiscard]] const Outline& stroke(const Key& key);
   // Whether the next stroke() of this line is quick.
   [[nodiscard]] bool holds(const Key& key) const { return strokes_.contains(key); }

@@ -2,12 +2,14 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace platform::flash {
 
 namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr qsizetype overhead = 16;  // of a text, in characters
 
 template <class... Handlers>
 struct Visitor : Handlers... {
@@ -55,6 +57,16 @@ qsizetype numberLength(const QString& text) {
 }
 
 }  // namespace
+
+void ConstantPool::add(QString text) {
+  weight += text.size() + overhead;
+  texts.push_back(std::move(text));
+}
+
+void ScriptFunction::addParameter(int reg, QString name) {
+  weight += name.size() + overhead;
+  parameters.push_back({reg, std::move(name)});
+}
 
 double numberOf(const QString& text, int version) {
   const QString trimmed = text.trimmed();

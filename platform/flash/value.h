@@ -10,6 +10,14 @@
 
 namespace platform::flash {
 
+// The texts that a script numbers; functions that it makes keep them.
+struct ConstantPool {
+  std::vector<QString> texts;
+  qsizetype weight = 0;  // what they take in memory, in characters, roughly
+
+  void add(QString text);
+};
+
 // A function of a script: its body stays in the movie's bytes.
 struct ScriptFunction {
   struct Parameter {
@@ -23,9 +31,13 @@ struct ScriptFunction {
   // kind.
   unsigned preloads = 0;
   ActionBlock body;
-  // The texts that the block of the definition numbers.
-  std::shared_ptr<const std::vector<QString>> constants;
+  // Of the block of the definition; null where it had none.
+  std::shared_ptr<const ConstantPool> constants;
   std::uint32_t clip = 0;  // in which the function was made
+  // What it takes in memory without the constants, in characters, roughly.
+  qsizetype weight = 0;
+
+  void addParameter(int reg, QString name);
 };
 
 struct Undefined {

@@ -47,10 +47,12 @@ void forgetPeak() {
 }
 
 // Reads the movie, plays it a little and draws it.
-void use(const QByteArray& bytes) {
+void use(const QByteArray& bytes, int ticks = 1) {
   try {
     Player player(movie(bytes), [](auto&&...) {});
-    player.tick();
+    for (int i = 0; i < ticks; ++i) {
+      player.tick();
+    }
     player.mousePress({50, 50});
     player.mouseRelease({50, 50});
     player.gotoFrame(2);
@@ -111,6 +113,94 @@ QByteArray wildShape(int edges) {
                     u16(40) + u8(0) + u8(0) + u8(0) + records.bytes());
 }
 
+// Adds many curves to and fro.
+void addCurves(Bits& records, int curves) {
+  for (int i = 0; i < curves; ++i) {
+    const int sign = i % 2 == 0 ? 1 : -1;
+    records.raw("1 0 1111")
+        .number(17, sign * 3000)
+        .number(17, sign * 900)
+        .number(17, -sign * 2990)
+        .number(17, i % 4 < 2 ? sign * 900 : -sign * 901);
+  }
+}
+
+// A line of that width in twips, to and fro in straight pieces or in curves.
+QByteArray wildLines(int pieces, unsigned width, bool straight) {
+  Bits records;
+  records.raw("0001 0001  0 01001 00001 0 0 1");
+  for (int i = 0; straight && i < pieces; ++i) {
+    records.raw("1 1 1111 1")
+        .number(17, i % 2 == 0 ? 2000 : -1990)
+        .number(17, i % 3 == 0 ? 1999 : -1000);
+  }
+  if (!straight) {
+    addCurves(records, pieces);
+  }
+  records.raw("000000");
+  return tag(2, u16(1) + rect(0, 1, 0, 1) + u8(0) + u8(1) + u16(width) + u8(0) + u8(0) + u8(0) +
+                    records.bytes());
+}
+
+QByteArray wildCurves(int curves) {
+  Bits records;
+  records.raw("0001 0000  0 00101 00001 0 0 1");
+  addCurves(records, curves);
+  records.raw("000000");
+  return tag(2, u16(1) + rect(0, 1, 0, 1) + u8(1) + u8(0) + u8(0) + u8(0) + u8(0) + u8(0) +
+                    records.bytes());
+}
+
+// Places a character many times as large as it is.
+QByteArray enlarged(unsigned id, int times) {
+  Bits matrix;
+  matrix.raw("1 11111").number(31, times << 16).number(31, times << 16).raw("0 00000");
+  return tag(26, u8(6) + u16(1) + u16(id) + matrix.bytes());
+}
+
+// Actions that are done again and again.
+QByteArray forEver(const QByteArray& actions) {
+  return actions + action(0x99, u16(0x10000U - unsigned(actions.size()) - 5));
+}
+
+QByteArray longText(char letter, qsizetype length) {
+  return QByteArray(length, letter);
+}
+
+// A pool with one text, and an action that is done with it for ever.
+QByteArray withLongText(char letter, qsizetype length, unsigned code) {
+  return action(0x88, u16(1) + text(longText(letter, length).constData())) +
+         forEver(action(0x96, u8(8) + u8(0)) + action(code) + action(0x17));
+}
+
+// A function without a body or a name.
+QByteArray function(unsigned parameters) {
+  return action(0x9B, text("") + u16(parameters) + QByteArray(parameters, '\0') + u16(0));
+}
+
+// Puts the value under a name that is another each time.
+QByteArray keep(const QByteArray& value) {
+  const QByteArray number = pushText("i") + action(0x1C);
+  return pushText("i") + number + action(0x50) + action(0x1D) + pushText("v") + number +
+         action(0x21) + value + action(0x1D);
+}
+
+// Runs it and tells what it took.
+template <typename Run>
+void checkCost(Run run) {
+  malloc_trim(0);  // what the tests before have left behind must not hide what this one takes
+  forgetPeak();
+  const long before = peakMegabytes();
+  const std::clock_t begin = std::clock();
+  run();
+  // The processor's time: the machine may have other things to do.
+  const std::clock_t milliseconds = (std::clock() - begin) * 1000 / CLOCKS_PER_SEC;
+  const long megabytes = peakMegabytes() - before;
+  QVERIFY2(milliseconds < longest, qPrintable(QString::number(milliseconds)));
+  QVERIFY2(megabytes <= mostMegabytes, qPrintable(QString::number(megabytes)));
+  qInfo("%ld ms, %ld MB", long(milliseconds), megabytes);
+}
+
 }  // namespace
 
 class BrokenFilesTest : public QObject {
@@ -166,6 +256,12 @@ class BrokenFilesTest : public QObject {
           return tags + doAction(action(0x81, u16(0))) + showFrame();
         }(),
         6, 100, 100, 10'002);
+    QTest::newRow("very wide lines")
+        << file(wildLines(40'000, 65'535, true) + enlarged(1, 100) + showFrame());
+    QTest::newRow("very long curves as lines")
+        << file(wildLines(40'000, 20, false) + enlarged(1, 8000) + showFrame());
+    QTest::newRow("very long curves as a surface")
+        << file(wildCurves(200'000) + enlarged(1, 2000) + showFrame());
     QTest::newRow("thirty thousand new styles") << file([] {
       QByteArray records = Bits().raw("0001 0000").bytes();
       for (int i = 0; i < 30'000; ++i) {
@@ -177,17 +273,45 @@ class BrokenFilesTest : public QObject {
 
   void illMeantFilesEndInBoundedTimeAndMemory() {
     QFETCH(QByteArray, bytes);
-    malloc_trim(0);  // what the tests before have left behind must not hide what this one takes
-    forgetPeak();
-    const long before = peakMegabytes();
-    const std::clock_t begin = std::clock();
-    use(bytes);
-    // The processor's time: the machine may have other things to do.
-    const std::clock_t milliseconds = (std::clock() - begin) * 1000 / CLOCKS_PER_SEC;
-    const long megabytes = peakMegabytes() - before;
-    QVERIFY2(milliseconds < longest, qPrintable(QString::number(milliseconds)));
-    QVERIFY2(megabytes <= mostMegabytes, qPrintable(QString::number(megabytes)));
-    qInfo("%ld ms, %ld MB", long(milliseconds), megabytes);
+    checkCost([&] { use(bytes); });
+  }
+
+  void scriptsThatNeverEndAreCutOffByWhatTheyCost_data() {
+    QTest::addColumn<QByteArray>("actions");
+    QTest::newRow("a text as a number") << withLongText('1', 8000, 0x18);
+    QTest::newRow("a very long text as a number") << withLongText('1', 65'000, 0x18);
+    QTest::newRow("a variable of a long name") << withLongText('x', 8000, 0x1C);
+    QTest::newRow("a variable of a very long name") << withLongText('x', 65'000, 0x1C);
+    const QByteArray name = text(longText('x', 32'000).constData());
+    QTest::newRow("an unknown label") << forEver(action(0x8C, name));
+    QTest::newRow("an address") << forEver(action(0x83, name + text("")));
+    QTest::newRow("a pool") << forEver(action(0x88, u16(1) + name));
+    QTest::newRow("functions with a pool each, kept") << forEver(
+        action(0x88, u16(1) + text(longText('x', 30'000).constData())) + keep(function(0)));
+    QTest::newRow("a function of many parameters, called")
+        << pushText("f") + function(60'000) + action(0x1D) +
+               forEver(pushNumber(0) + pushText("f") + action(0x3D) + action(0x17));
+  }
+
+  void scriptsThatNeverEndAreCutOffByWhatTheyCost() {
+    QFETCH(QByteArray, actions);
+    checkCost([&] { use(file(doAction(actions) + showFrame())); });
+  }
+
+  void whatAMovieKeepsFromTickToTickIsBounded_data() {
+    QTest::addColumn<QByteArray>("actions");
+    QTest::newRow("functions of many parameters") << repeated(keep(function(60'000)), 7);
+    QTest::newRow("functions with a pool each") << repeated(
+        action(0x88, u16(1) + text(longText('x', 60'000).constData())) + keep(function(0)), 50);
+    QTest::newRow("texts") << repeated(keep(pushText(longText('x', 8000).constData()) +
+                                            pushText("i") + action(0x1C) + action(0x21)),
+                                       100);
+  }
+
+  void whatAMovieKeepsFromTickToTickIsBounded() {
+    QFETCH(QByteArray, actions);
+    const QByteArray frame = doAction(actions) + showFrame();
+    checkCost([&] { use(file(frame + frame, 6, 100, 100, 2), 50); });
   }
 
   void everyTruncationOfAMovieEnds() {

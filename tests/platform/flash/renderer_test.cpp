@@ -254,6 +254,59 @@ class RendererTest : public QObject {
     QCOMPARE(picture(shown(shape(22, styles, records))).pixel(9, 9), 0xFF00FF00);
   }
 
+  void aHairlineSqueezedOneWayIsStillAPixelWide_data() {
+    QTest::addColumn<QString>("scaleY");
+    for (const char* scaleY : {"25", "10", "1", "0", "-10"}) {
+      QTest::newRow(scaleY) << QString::fromLatin1(scaleY);
+    }
+  }
+  void aHairlineSqueezedOneWayIsStillAPixelWide() {
+    // Across the stage, and down from its left end: squeezed, both lie in the row of pixels 10.
+    QFETCH(QString, scaleY);
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 0, 1, 100, 10);
+    edge(edge(records, 200, 0), 0, 20).raw("000000");
+    const QByteArray hairline = shape(2, u8(0) + u8(1) + u16(0) + u8(0) + u8(0) + u8(0), records);
+    Player player(movie(file(hairline + sprite(2, place(1, 1) + showFrame()) +
+                                 place(1, 2, 0, 10, "line") + showFrame(),
+                             6, 20, 20)),
+                  [](auto&&...) {});
+    player.setProperty(QStringLiteral("line"), 3, scaleY);
+    const QImage image = picture(player);
+    double ink = 0;  // of the column of pixels 10, which only the line across meets
+    for (int y = 0; y < 20; ++y) {
+      ink += (255 - qRed(image.pixel(10, y))) / 255.0;
+    }
+    QVERIFY2(ink > 0.85 && ink < 1.3, qPrintable(QString::number(ink)));
+    // What runs along the squeezed direction grows no wider.
+    QCOMPARE(image.pixel(17, 10), white);
+    QCOMPARE(image.pixel(2, 10), white);
+  }
+
+  void aWideLineSqueezedOneWayKeepsItsWidthTheOtherWay() {
+    // Down the middle, four pixels wide: squeezed to a fiftieth, it is a dash of four pixels.
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 0, 1, 200, 0);
+    edge(records, 0, 200).raw("000000");
+    const QByteArray line = shape(2, u8(0) + u8(1) + u16(80) + u8(0) + u8(0) + u8(0), records);
+    for (const char* scaleY : {"2", "-2"}) {
+      Player player(movie(file(line + sprite(2, place(1, 1) + showFrame()) +
+                                   place(1, 2, 0, 10, "line") + showFrame(),
+                               6, 20, 20)),
+                    [](auto&&...) {});
+      player.setProperty(QStringLiteral("line"), 3, QString::fromLatin1(scaleY));
+      const QImage image = picture(player);
+      const int row = scaleY[0] == '-' ? 9 : 10;
+      QVERIFY(qRed(image.pixel(8, row)) < 225);
+      QVERIFY(qRed(image.pixel(11, row)) < 225);
+      QVERIFY(qRed(image.pixel(10, row)) < 160);
+      QCOMPARE(image.pixel(5, row), white);
+      QCOMPARE(image.pixel(14, row), white);
+    }
+  }
+
   void linesWithCapsOfTheirOwnAreReadFromTheFourthShape() {
     // DefineShape4: width 80, no join of its own, colour with alpha.
     Bits records;
