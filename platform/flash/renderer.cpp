@@ -110,7 +110,12 @@ bool Painting::addStroke(EdgeSet& edges, const StrokeCache::Key& key, const QTra
     constexpr double widestRadius = 4096;
     const double radius = std::min(key.width * key.scale / 2, widestRadius);
     const auto pieces = static_cast<std::size_t>(8 + 4 * std::sqrt(radius));
-    const std::size_t needed = key.line->segments().size() * pieces;
+    // The two sides of a curve are more curves than one.
+    const auto& segments = key.line->segments();
+    const auto curves = std::count_if(segments.begin(), segments.end(), [](const auto& segment) {
+      return segment.kind == Outline::Segment::Kind::Curve;
+    });
+    const std::size_t needed = (segments.size() + static_cast<std::size_t>(curves)) * pieces;
     if (needed > segmentsLeft_) {
       return false;
     }

@@ -260,6 +260,8 @@ class BrokenFilesTest : public QObject {
         << file(wildLines(40'000, 65'535, true) + enlarged(1, 100) + showFrame());
     QTest::newRow("very long curves as lines")
         << file(wildLines(40'000, 20, false) + enlarged(1, 8000) + showFrame());
+    QTest::newRow("very long curves as hairlines")
+        << file(wildLines(19'000, 0, false) + enlarged(1, 8000) + showFrame());
     QTest::newRow("very long curves as a surface")
         << file(wildCurves(200'000) + enlarged(1, 2000) + showFrame());
     QTest::newRow("thirty thousand new styles") << file([] {
