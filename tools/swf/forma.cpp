@@ -20,13 +20,22 @@ PuntoTwip inTwip(Punto p) {
   return {twip(p.x), twip(p.y)};
 }
 
+/// How many bits the steps of an edge take, which the format counts from 2 to 17.
+template <std::size_t N>
+int bitDelBordo(const std::array<std::int32_t, N>& passi) {
+  int bit = 2;
+  for (const auto passo : passi) bit = std::max(bit, ScrittoreByte::bitOccorrenti(passo));
+  if (bit > 17) throw std::out_of_range("an edge too long for a movie");
+  return bit;
+}
+
 /// Edges are written as steps; the steps are taken between rounded points, so that rounding never
 /// adds up and a closed path closes.
 void scriviLinea(ScrittoreByte& byte, PuntoTwip da, PuntoTwip a) {
   const std::int32_t dx = a.x - da.x;
   const std::int32_t dy = a.y - da.y;
   if (dx == 0 && dy == 0) return;
-  const int bit = std::max({2, ScrittoreByte::bitOccorrenti(dx), ScrittoreByte::bitOccorrenti(dy)});
+  const int bit = bitDelBordo(std::array{dx, dy});
   byte.bit(0b11, 2);
   byte.bit(static_cast<std::uint32_t>(bit - 2), 4);
   const bool obliqua = dx != 0 && dy != 0;
@@ -39,8 +48,7 @@ void scriviLinea(ScrittoreByte& byte, PuntoTwip da, PuntoTwip a) {
 void scriviCurva(ScrittoreByte& byte, PuntoTwip da, PuntoTwip controllo, PuntoTwip a) {
   const std::array<std::int32_t, 4> passi{controllo.x - da.x, controllo.y - da.y, a.x - controllo.x,
                                           a.y - controllo.y};
-  int bit = 2;
-  for (const auto passo : passi) bit = std::max(bit, ScrittoreByte::bitOccorrenti(passo));
+  const int bit = bitDelBordo(passi);
   byte.bit(0b10, 2);
   byte.bit(static_cast<std::uint32_t>(bit - 2), 4);
   for (const auto passo : passi) byte.bitConSegno(passo, bit);

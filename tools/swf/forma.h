@@ -53,7 +53,7 @@ class Forma {
   /// The picture with the width of its lines.
   [[nodiscard]] Rettangolo ingombro() const;
   /// The body of a DefineShape3 tag without its number. Throws std::length_error for a shape
-  /// without layers.
+  /// without layers, std::out_of_range for one with an edge of more than 3,276 pixels.
   [[nodiscard]] std::vector<std::uint8_t> byte() const;
 
  private:

@@ -10,6 +10,7 @@ namespace {
 
 /// A number with 16 binary places, as matrices hold their factors.
 std::int32_t virgolaFissa(double valore) {
+  if (!(std::abs(valore) < 1 << 14)) throw std::out_of_range("a factor no movie can hold");
   return static_cast<std::int32_t>(std::lround(valore * 65536.0));
 }
 
@@ -20,11 +21,17 @@ int bitPerTutti(const std::array<std::int32_t, N>& valori) {
   return bit;
 }
 
+/// How many bits each number of a group takes, in a field of so many bits itself.
+void scriviMisura(ScrittoreByte& byte, int bit, int bitDellaMisura) {
+  if (bit >= 1 << bitDellaMisura) throw std::out_of_range("a number no movie can hold");
+  byte.bit(static_cast<std::uint32_t>(bit), bitDellaMisura);
+}
+
 template <std::size_t N>
 void scriviCampi(ScrittoreByte& byte, int bitDellaMisura,
                  const std::array<std::int32_t, N>& valori) {
   const int bit = std::max(1, bitPerTutti(valori));
-  byte.bit(static_cast<std::uint32_t>(bit), bitDellaMisura);
+  scriviMisura(byte, bit, bitDellaMisura);
   for (const auto valore : valori) byte.bitConSegno(valore, bit);
 }
 
@@ -77,7 +84,7 @@ void scrivi(ScrittoreByte& byte, const TrasformaColore& t) {
   byte.allinea();
   byte.bit(conPiu ? 1 : 0, 1);
   byte.bit(conPer ? 1 : 0, 1);
-  byte.bit(static_cast<std::uint32_t>(bit), 4);
+  scriviMisura(byte, bit, 4);
   if (conPer)
     for (const auto valore : per) byte.bitConSegno(valore, bit);
   if (conPiu)

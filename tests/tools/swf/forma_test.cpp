@@ -107,6 +107,17 @@ class FormaTest : public QObject {
     QVERIFY_THROWS_EXCEPTION(std::length_error, (void)Forma().byte());
   }
 
+  void anEdgeThatNoFieldHoldsIsRefused() {
+    // 65,535 twentieths are the most.
+    const auto forma = [](const Percorso& percorso) { return Forma().traccia(percorso, {}); };
+    (void)forma(Percorso().vai({0, 0}).linea({3276.75, 0})).byte();
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range,
+                             (void)forma(Percorso().vai({0, 0}).linea({3276.8, 0})).byte());
+    QVERIFY_THROWS_EXCEPTION(
+        std::out_of_range,
+        (void)forma(Percorso().vai({0, 0}).curva({0, -3280}, {10, -3280})).byte());
+  }
+
   void aClosedPathClosesThoughItsPointsAreRounded() {
     // Steps of a third of a twentieth: rounding each step by itself would drift.
     Percorso p;

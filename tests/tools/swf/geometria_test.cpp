@@ -31,6 +31,14 @@ class GeometriaTest : public QObject {
   }
 
   // 15 bits a field: 01111, then 0, 11000, 0, 8000 twentieths.
+  void factorsAndColoursThatNoFieldHoldsAreRefused() {
+    QCOMPARE(scritto(Matrice{.a = 16000, .d = 1}).empty(), false);
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, (void)scritto(Matrice{.a = 16384, .d = 1}));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, (void)scritto(Matrice{.a = 1, .d = -1e6}));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range,
+                             (void)scritto(TrasformaColore{.rosso = {.per = 16384}}));
+  }
+
   void aStageOf550By400IsWrittenAsTheFormatSays() {
     QCOMPARE(scritto(Rettangolo{0, 0, 550, 400}),
              (Byte{0x78, 0x00, 0x05, 0x5F, 0x00, 0x00, 0x0F, 0xA0, 0x00}));
