@@ -2,7 +2,7 @@
 
 import time
 
-from giocatore import TESTO
+from giocatore import BOTTONE, TESTO
 
 # Keys of the sheet of digits; a digit's key is its number and one more.
 CESTINO, AIUTO, CONFERMA, AVANTI = 13, 14, 15, 16
@@ -30,6 +30,12 @@ class Dita:
             self.tocca(int(cifra) + 1)
             self._aspetta_scritto(str(numero)[:i])
         self.tocca(CONFERMA)
+
+    def avanti(self):
+        """Goes on to the next case, once the way is open."""
+        bottone = self._albero.aspetta_oggetto(BOTTONE, "avanti")
+        self._albero.aspetta("the way on to open", lambda: bottone.abilitato)
+        self.tocca(AVANTI)
 
     def _aspetta_scritto(self, testo):
         self._albero.aspetta(f"{testo!r} in the box", lambda: any(

@@ -1,8 +1,7 @@
 """The bars, each form by its own kind of input: a wrong and a right answer, the way on."""
 
-from dita import AVANTI as TASTO_AVANTI
 from dita import Dita
-from giocatore import BOTTONE, TESTO, VOCE, scrivi, trova
+from giocatore import TESTO, VOCE, scrivi, trova
 from luce import Luce
 
 MENU = "Uso delle barre"
@@ -134,9 +133,7 @@ def barre_tocco(giocatore):
     def toccata():
         giocatore.collega()
         gioco.gioca(dita.componi)
-        bottone = giocatore.albero.aspetta_oggetto(BOTTONE, "avanti")
-        giocatore.albero.aspetta("the way on to open", lambda: bottone.abilitato)
-        dita.tocca(TASTO_AVANTI)
+        dita.avanti()
         gioco.chiesta()
         giocatore.esci(ENTRO_20)
 

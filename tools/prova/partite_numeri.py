@@ -2,7 +2,6 @@
 
 import time
 
-from dita import AVANTI as TASTO_AVANTI
 from dita import Dita
 from giocatore import BOTTONE, TESTO, VOCE, Errore, trova
 from luce import Luce
@@ -144,9 +143,7 @@ def tocco(giocatore):
     def toccata():
         giocatore.collega()
         giocatore.prova(trova(giocatore.chiesta()), dita.componi)
-        bottone = giocatore.albero.aspetta_oggetto(BOTTONE, "avanti")
-        giocatore.albero.aspetta("the way on to open", lambda: bottone.abilitato)
-        dita.tocca(TASTO_AVANTI)
+        dita.avanti()
         giocatore.chiesta()
         giocatore.esci(ADDENDO)
 

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "app/shared/nomi_forme.h"
+#include "app/tabella_forme.h"
+#include "exercises/core/con_helpikeys.h"
+#include "exercises/core/disegno_comune.h"
+#include "exercises/core/forma_esercizio.h"
+#include "support/banco.h"
+#include "support/controfigura.h"
+
+// A touch form of the tests' own, in the program.
+namespace prova {
+
+inline constexpr std::string_view kNome = "FormDiProva";
+inline constexpr std::string_view kFoglio = somme::forme::kFormStampaLU;
+
+inline constexpr somme::TastieraHelpiKeys kTastiera{.mappa = somme::kMappaBlocchi,
+                                                    .foglio = kFoglio};
+
+// A touch form of the test's own: it writes down its life and its keys.
+class FormDiProva final : public somme::ConHelpiKeys<somme::FormaEsercizio> {
+ public:
+  explicit FormDiProva(somme::Ambiente& ambiente);
+
+  platform::MenuItem mnuStampaHK{*this};
+
+  void InterpretaSegnale(int tasto) override {
+    tasti.push_back(tasto);
+    if (alTasto) alTasto();
+  }
+  using Form::newCase;
+
+  std::vector<int> tasti;
+  std::function<void()> alTasto;
+  int attivazioni = 0;
+  int casi = 0;
+  bool HelpiKeysAllAttivazione = false;
+
+ protected:
+  void DopoLaRichiesta() override {
+    ++attivazioni;
+    HelpiKeysAllAttivazione = HelpiKeysConnesso();
+  }
+  void NuovoCaso() override {
+    newCase();
+    ++casi;
+  }
+};
+
+inline constexpr auto kRighe = std::to_array<platform::Row>({
+    somme::disegno::Connessione<FormDiProva>(),
+    platform::item<&FormDiProva::mnuStampaHK>({.caption = "Foglio"}),
+    platform::item<&FormDiProva::mnuEsci>({.caption = "Esci"}),
+});
+inline constexpr std::array<std::span<const platform::Row>, 1> kTavole{kRighe};
+inline constexpr platform::FormDesign kDisegno{
+    .name = kNome, .caption = "", .width = 9000, .height = 6000, .tables = kTavole};
+
+inline FormDiProva::FormDiProva(somme::Ambiente& ambiente)
+    : ConHelpiKeys(kTastiera, ambiente, kDisegno, somme::forme::kFormMenuPLU) {
+  OffriFoglio(mnuStampaHK);
+}
+
+// The program with the touch form of the test, and a stand-in for its keyboard sheet.
+inline std::shared_ptr<platform::Form> crea(somme::Ambiente& ambiente, std::string_view nome) {
+  if (nome == kNome) return std::make_shared<FormDiProva>(ambiente);
+  if (nome == kFoglio) return std::make_shared<Controfigura>(ambiente, kFoglio);
+  return somme::CreaForma(ambiente, nome);
+}
+
+struct Scena : Banco {
+  Scena() : Banco({800, 600}, crea) {}
+  FormDiProva& apri() { return Banco::apri<FormDiProva>(kNome); }
+  // The form after HelpiKeys has answered.
+  FormDiProva& apriPronta() {
+    FormDiProva& forma = apri();
+    rete.manda("OK");
+    messaggi.mostrati.clear();
+    return forma;
+  }
+  [[nodiscard]] QString errore() const {
+    return messaggi.mostrati.empty() ? QString() : messaggi.mostrati.back().text;
+  }
+};
+
+}  // namespace prova
