@@ -20,6 +20,11 @@ class ConRisultatoScritto : public ConCasellaRisultato<Base> {
   }
 
  protected:
+  void onLoad() override {
+    ConCasellaRisultato<Base>::onLoad();
+    this->TestoInput.askForDigits();
+  }
+
   void ChiediRisultato() override {
     this->TestoInput.setVisible(true);
     this->TestoInput.setFocus();

@@ -51,6 +51,7 @@ class CasoLUTest : public QObject {
     Banco banco;
     FormLU& forma = apri(banco, 24, 13);
     unisci(banco, forma);
+    QVERIFY(forma.TestoInput.widget()->inputMethodHints().testFlag(Qt::ImhDigitsOnly));
     banco.scrivi(QStringLiteral("a -1.2x34"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("12"));
     banco.batti(Qt::Key_Backspace);
