@@ -100,6 +100,22 @@ class KeyReleaseTest : public QObject {
     QVERIFY(!stage.log.contains(QStringLiteral("clicked")));
   }
 
+  void aKeyWhoseReleaseWasLostIsLetGoWhenItIsPressedInAMenu() {
+    Stage stage;
+    const Pressed first(stage);
+    const KeyGuard guard(*stage.runtime, RepeatMarks::Flagged);
+    send(stage.window(), true, Qt::Key_Space, 1000);
+    QVERIFY(first.isDown());
+    QMenu menu;
+    menu.addAction(QStringLiteral("Something"))->setEnabled(false);
+    openOverPage(stage, menu);
+    QVERIFY(first.isDown());
+    send(stage.window(), true, Qt::Key_Space, 60000);
+    QVERIFY(!first.isDown());
+    menu.close();
+    QCOMPARE(first.clicks, 0);
+  }
+
   void aReleaseWithoutAPressDoesNothing() {
     Stage stage;
     TrialForm& form = stage.show(kOne);
