@@ -1,0 +1,143 @@
+"""The rules of tools/controlla, each tried on a small house that breaks it and on one that does not."""
+
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../../tools"))
+
+from controlli import misure, sorgenti, struttura, testo  # noqa: E402
+
+_LUNGO = "".join(f"  total{i} = call_{i % 7}(left, {i}) {'+-*/%&|'[i % 7]} right;\n"
+                 for i in range(12))
+
+
+class Casa(unittest.TestCase):
+    """A repository in a folder of its own, made of the files that a test names."""
+
+    def setUp(self):
+        cartella = tempfile.TemporaryDirectory()
+        self.addCleanup(cartella.cleanup)
+        self.addCleanup(os.chdir, os.getcwd())
+        os.chdir(cartella.name)
+        self.git("init", "-q")
+
+    def git(self, *parole):
+        subprocess.run(["git", "-c", "user.name=A", "-c", "user.email=a@b", *parole], check=True,
+                       capture_output=True)
+
+    def file(self, **contenuti):
+        for nome, contenuto in contenuti.items():
+            percorso = nome.replace("__", "/").replace("_h", ".h").replace("_cpp", ".cpp")
+            os.makedirs(os.path.dirname(percorso) or ".", exist_ok=True)
+            with open(percorso, "w", encoding="utf-8") as file:
+                file.write(contenuto)
+        for letto in (sorgenti.tutti, sorgenti.testo, sorgenti.codice):
+            letto.cache_clear()
+
+    def test_an_include_of_a_lower_floor_is_allowed_and_of_a_higher_one_is_not(self):
+        self.file(app__a_h='#include "cases/c.h"\n', cases__c_h="")
+        self.assertEqual([], list(struttura.inclusioni_in_su()))
+        self.file(cases__c_h='#include "app/a.h"\n', app__a_h="")
+        self.assertEqual(1, len(list(struttura.inclusioni_in_su())))
+
+    def test_two_families_do_not_know_one_another(self):
+        self.file(exercises__bars__a_h='#include "exercises/blocks/b.h"\n',
+                  exercises__blocks__b_h="")
+        self.assertEqual(1, len(list(struttura.inclusioni_in_su())))
+
+    def test_the_program_includes_nothing_of_its_tests(self):
+        self.file(app__a_h='#include "tests/t.h"\n', tests__t_h="")
+        self.assertEqual(1, len(list(struttura.inclusioni_in_su())))
+
+    def test_a_ring_of_headers_is_found(self):
+        self.file(cases__a_h='#include "cases/b.h"\n', cases__b_h='#include "cases/c.h"\n',
+                  cases__c_h='#include "cases/a.h"\n', cases__d_h='#include "cases/a.h"\n')
+        trovati = list(struttura.cicli_di_intestazioni())
+        self.assertEqual(["headers that include one another: cases/a.h, cases/b.h, cases/c.h"],
+                         trovati)
+
+    def test_a_knot_through_sources_is_found_from_four_files_on(self):
+        def giro(quanti):
+            lettere = "abcd"[:quanti]
+            self.file(**{f"cases__{x}_h": "" for x in lettere},
+                      **{f"cases__{x}_cpp": f'#include "cases/{y}.h"\n'
+                         for x, y in zip(lettere, lettere[1:] + lettere[0])})
+        giro(3)
+        self.assertEqual([], list(struttura.nodi_troppo_grandi()))
+        giro(4)
+        self.assertEqual(1, len(list(struttura.nodi_troppo_grandi())))
+
+    def test_one_name_of_two_classes_is_found_whatever_the_way_of_writing_the_namespace(self):
+        self.file(cases__a_h="namespace x::y {\nstruct A final : B<int> {\n};\n}\n",
+                  cases__b_h="namespace x {\nnamespace y {\n\nclass [[nodiscard]] A {};\n}\n}\n")
+        self.assertEqual(["x::y::A is defined more than once: cases/a.h:2, cases/b.h:4"],
+                         list(struttura.nomi_doppi()))
+
+    def test_types_that_nobody_else_sees_are_no_pair(self):
+        self.file(cases__a_h="namespace x {\nnamespace {\nstruct A {};\n}\nvoid f() {\nstruct B {};\n}"
+                             "\nstruct C;\nstruct K { struct D {}; };\n}\n// struct E {};\n",
+                  cases__b_h='namespace x {\nstruct A {};\nstruct B {};\nclass C {};\nstruct D {};\n'
+                             'const char* s = "struct E {";\nstruct E {};\n}\n')
+        self.assertEqual([], list(struttura.nomi_doppi()))
+
+    def test_a_copy_with_other_names_and_numbers_is_found(self):
+        copia = _LUNGO.replace("total", "sum").replace("left", "a").replace("right", "b")
+        self.file(cases__a_cpp="void f() {\n" + _LUNGO + "}\n",
+                  input__b_cpp="int y;\nvoid g() {\n" + copia + "}\n")
+        self.assertEqual(["cases/a.cpp:1 and input/b.cpp:2: more than 10 lines alike"],
+                         list(testo.copie()))
+
+    def test_ten_lines_alike_are_allowed(self):
+        corto = "".join(_LUNGO.splitlines(True)[:9])
+        self.file(cases__a_cpp="void f() {\n" + corto + "}\nint a;\n",
+                  input__b_cpp="char* y;\nvoid g() {\n" + corto + "}\nchar* c;\n")
+        self.assertEqual([], list(testo.copie()))
+
+    def test_rows_of_designs_are_data(self):
+        righe = "constexpr auto kRighe = std::to_array<Row>({\n" + _LUNGO.replace(";", ",") + "});\n"
+        self.file(cases__a_h=righe, input__b_h=righe)
+        self.assertEqual([], list(testo.copie()))
+
+    def test_a_file_of_more_than_400_lines_is_long_also_among_the_tests(self):
+        self.file(tests__a_cpp="\n" * 400, tests__b_cpp="\n" * 401)
+        self.assertEqual(["tests/b.cpp: 401 lines, 400 at most"], list(testo.file_lunghi()))
+
+    def test_a_title_of_73_letters_is_long(self):
+        self.file(a="")
+        self.git("add", ".")
+        self.git("commit", "-q", "-m", "l" * 80)
+        prima = subprocess.run(["git", "rev-parse", "HEAD"], capture_output=True, text=True,
+                               check=True).stdout.strip()
+        self.git("commit", "-q", "--allow-empty", "-m", "l" * 72)
+        self.assertEqual([], list(testo.titoli(prima)))
+        self.git("commit", "-q", "--allow-empty", "-m", "l" * 73)
+        self.assertEqual(1, len(list(testo.titoli(prima))))
+
+    def test_what_is_left_open_and_paths_of_a_machine_are_found(self):
+        self.file(a="// TO" "DO\n", b="see /ho" "me/anna/x\n", c="methods, ~/home/x, /homes\n")
+        self.assertEqual(["a:1: TO" "DO", "b:1: /ho" "me/a"], list(testo.parole()))
+
+    def test_a_file_that_is_laid_out_otherwise_is_found(self):
+        self.file(cases__a_cpp="int  a ;\n", cases__b_cpp="int b;\n")
+        trovati = list(testo.formato())
+        self.assertEqual(1, len(trovati), trovati)
+        self.assertIn("cases/a.cpp", trovati[0])
+
+    def test_the_length_of_functions_is_measured(self):
+        self.file(cases__a_cpp="int f(int a) {\n  if (a) {\n    return 1;\n  }\n  return 2;\n}\n"
+                               "A::A(int b) : c{b}, d(b) {\n}\n")
+        self.assertEqual([(1, 6), (7, 2)], list(misure.funzioni("cases/a.cpp")))
+
+    def test_the_depth_of_a_form_counts_the_templates_that_it_stands_on(self):
+        self.file(app__a_h="class Forma : public platform::Form {};\n"
+                           "class FormaA : public Con<Su<Forma>> {};\n"
+                           "class FormB final : public FormaA {};\n")
+        self.assertEqual({"FormB": 5}, misure.profondita_delle_forme())
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,105 @@
+"""What the house measures: the figures by which one sees where it goes."""
+
+import re
+import statistics
+
+from . import sorgenti, struttura, testo
+
+_CLASSE = re.compile(r"\bclass\s+(\w+)(?:\s+final)?\s*:\s*(?:public|protected|private)\s+"
+                     r"(?:virtual\s+)?([\w:]+)(<[^{]*>)?[^{;]*\{")
+_FUNZIONE = re.compile(r"\)\s*(?:const|noexcept|override|final|->\s*[\w:<>&*\s]+|\s)*"
+                       r"(?::\s*[\w:]+[^;{}]*(?:\{[^{};]*\}[^;{}]*)*)?\{")
+
+
+def _decimo(valori, parte):
+    valori = sorted(valori)
+    return valori[min(len(valori) - 1, int(len(valori) * parte))] if valori else 0
+
+
+def funzioni(file):
+    """(line, length in lines) of the bodies of a file's functions; a lambda within counts as its
+    function's."""
+    codice = sorgenti.codice(file)
+    fine = 0
+    for trovato in _FUNZIONE.finditer(codice):
+        apre = trovato.end() - 1
+        testa = codice[codice.rfind("\n", 0, trovato.start()) + 1:apre]
+        if apre < fine or re.search(r"\b(if|for|while|switch|catch)\b", testa):
+            continue
+        profondita, i = 0, apre
+        while i < len(codice):
+            profondita += {"{": 1, "}": -1}.get(codice[i], 0)
+            i += 1
+            if profondita == 0:
+                break
+        fine = i
+        yield codice.count("\n", 0, apre) + 1, codice.count("\n", apre, i) + 1
+
+
+def basi():
+    """Class -> the class that it stands on, for the product; a mixin `Con<Base>` stands on its
+    argument and counts itself."""
+    sopra = {}
+    for file in sorgenti.prodotto():
+        for nome, base, argomenti in _CLASSE.findall(sorgenti.codice(file)):
+            catena = [base.rpartition("::")[2]] + re.findall(r"\w+", argomenti or "")
+            sopra[nome] = catena
+    return sopra
+
+
+def profondita_delle_forme():
+    """Form -> how many classes lie between it and the ground's Form, itself included."""
+    sopra = basi()
+
+    def altezza(nome, visti=()):
+        if nome == "Form" or nome in visti:
+            return 0
+        catena = sopra.get(nome)
+        if not catena:
+            return None
+        if nome not in visti and len(catena) > 1:  # a ladder of templates: each is a class
+            sotto = altezza(catena[-1], (*visti, nome))
+            return None if sotto is None else sotto + len(catena)
+        sotto = altezza(catena[0], (*visti, nome))
+        return None if sotto is None else sotto + 1
+
+    forme = {n for n in sopra if re.match(r"Form[A-Z]\w*$|frm[A-Z]\w*$", n)}
+    return {n: a for n in sorted(forme) if (a := altezza(n))}
+
+
+def righe():
+    """The figures, a line each."""
+    prodotto = sorgenti.prodotto()
+    lunghezze = {f: sorgenti.testo(f).count("\n") for f in prodotto}
+    corpi = [(n, f"{f}:{riga}") for f in prodotto for riga, n in funzioni(f)]
+    quanti = [n for n, _ in corpi]
+    esercizi = [f for f in prodotto if f.startswith("exercises/") and f.endswith(".h")]
+    liberi = [f for f in esercizi
+              if not any(i.startswith("platform/forms") for i in _raggiunti(f))]
+    profondita = {n: a for n, a in profondita_delle_forme().items()
+                  if any(f.startswith("exercises/") and f"class {n}" in sorgenti.codice(f)
+                         for f in esercizi)}
+    nodi = struttura.nodi()
+    yield f"product: {len(prodotto)} files, {sum(lunghezze.values())} lines; a file median " \
+          f"{statistics.median(lunghezze.values()):.0f}, p90 {_decimo(lunghezze.values(), 0.9)}, " \
+          f"longest {max(lunghezze.values())} ({max(lunghezze, key=lunghezze.get)})"
+    yield f"functions: {len(quanti)}, median {statistics.median(quanti):.0f}, " \
+          f"p90 {_decimo(quanti, 0.9)}, above 40 lines: " \
+          f"{', '.join(f'{p} {n}' for n, p in sorted(corpi, reverse=True) if n > 40) or 'none'}"
+    if profondita:
+        yield f"exercise forms: {len(profondita)}, classes below Form median " \
+              f"{statistics.median(profondita.values()):.0f}, most {max(profondita.values())} " \
+              f"({max(profondita, key=profondita.get)})"
+    yield f"headers of exercises/ that reach no form: {len(liberi)} of {len(esercizi)}"
+    yield f"near-copies above {testo.RIGHE_DI_UNA_COPIA} lines: {len(list(testo.copie()))}"
+    yield f"rings of headers: {len(list(struttura.cicli_di_intestazioni()))}"
+    yield f"knots: {len(nodi)}, of {', '.join(str(len(n)) for n in nodi) or 'no'} files"
+
+
+def _raggiunti(file, visti=None):
+    visti = set() if visti is None else visti
+    for incluso in sorgenti.inclusi(file):
+        if incluso not in visti:
+            visti.add(incluso)
+            _raggiunti(incluso, visti)
+    return visti

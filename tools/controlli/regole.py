@@ -1,0 +1,51 @@
+"""The rules, each with the places in which it may still be broken."""
+
+import fnmatch
+import os
+import time
+
+from . import struttura, testo
+
+# The commit before which titles were longer.
+_TITOLI_DA = "8362665"
+
+_REGOLE = (
+    ("format", testo.formato),
+    ("includes go down", struttura.inclusioni_in_su),
+    ("no ring of headers", struttura.cicli_di_intestazioni),
+    ("no knot", struttura.nodi_troppo_grandi),
+    ("one name, one class", struttura.nomi_doppi),
+    ("no near-copy", testo.copie),
+    ("short files", testo.file_lunghi),
+    ("titles of commits", lambda: testo.titoli(_TITOLI_DA)),
+    ("words", testo.parole),
+)
+_ECCEZIONI = os.path.join(os.path.dirname(__file__), "eccezioni")
+
+
+def _eccezioni():
+    """The lines of the file of exceptions: a rule, a tab, a pattern of what it says."""
+    with open(_ECCEZIONI, encoding="utf-8") as file:
+        righe = [riga.rstrip("\n") for riga in file if riga.strip() and not riga.startswith("#")]
+    return [tuple(riga.split("\t", 1)) for riga in righe]
+
+
+def prova_tutte():
+    """Tries every rule; 1 if one is broken, or if an exception is no longer needed."""
+    eccezioni = _eccezioni()
+    usate, guasti, inizio = set(), 0, time.monotonic()
+    for nome, regola in _REGOLE:
+        for detto in regola():
+            scuse = [e for e in eccezioni if e[0] == nome and fnmatch.fnmatch(detto, e[1])]
+            usate.update(scuse)
+            if not scuse:
+                guasti += 1
+                print(f"{nome}: {detto}")
+    for eccezione in eccezioni:
+        if eccezione not in usate:
+            guasti += 1
+            print(f"{eccezione[0]}: nothing breaks this rule at {eccezione[1]} any more; "
+                  f"take the line out of tools/controlli/eccezioni")
+    print(f"{len(_REGOLE)} rules in {time.monotonic() - inizio:.1f} s: "
+          + (f"broken in {guasti} places" if guasti else "all kept"))
+    return 1 if guasti else 0

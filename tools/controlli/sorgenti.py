@@ -1,0 +1,87 @@
+"""The files that the rules speak of, and what every rule reads of them."""
+
+import functools
+import re
+import subprocess
+
+# The floors of the house, from the ground up. A room may include what lies on lower floors, and
+# itself. The program's rooms are these; what stands beside them (tests, tools, benches) may include
+# anything of theirs.
+PIANI = (
+    ("platform/base",),
+    ("platform/flash", "platform/forms", "platform/devices"),
+    ("platform/boards", "cases"),
+    ("immagini", "app/shared"),
+    ("printing", "input"),
+    ("exercises/core",),
+    ("exercises/numbers", "exercises/bars", "exercises/blocks", "exercises/abacus",
+     "exercises/table"),
+    ("app",),
+)
+STANZE = tuple(stanza for piano in PIANI for stanza in piano)
+
+
+def piano(stanza):
+    """The floor of a room, counted from 0 at the ground."""
+    return next(i for i, stanze in enumerate(PIANI) if stanza in stanze)
+
+
+def stanza(percorso):
+    """The room that a file belongs to; None for what stands beside the program."""
+    cartella = percorso.rpartition("/")[0]
+    scelte = [s for s in STANZE if cartella == s or cartella.startswith(s + "/")]
+    return max(scelte, key=len, default=None)
+
+
+@functools.lru_cache(maxsize=None)
+def tutti():
+    """Every file of the repository, as git knows them, with those about to be added."""
+    elenco = subprocess.run(["git", "ls-files", "-z", "--cached", "--others",
+                             "--exclude-standard"], check=True, capture_output=True)
+    presenti = (nome for nome in elenco.stdout.decode().split("\0") if nome)
+    return tuple(sorted(set(presenti) - set(_tolti())))
+
+
+def _tolti():
+    elenco = subprocess.run(["git", "ls-files", "-z", "--deleted"], check=True,
+                            capture_output=True)
+    return elenco.stdout.decode().split("\0")
+
+
+def cpp():
+    """The C++ files of the whole repository."""
+    return tuple(f for f in tutti() if f.endswith((".cpp", ".h")))
+
+
+def prodotto():
+    """The C++ files of which the program is made."""
+    return tuple(f for f in cpp() if stanza(f))
+
+
+@functools.lru_cache(maxsize=None)
+def testo(percorso):
+    """A file's text; empty where it holds none."""
+    with open(percorso, "rb") as file:
+        byte = file.read()
+    return "" if b"\0" in byte else byte.decode("utf-8", "replace")
+
+
+_DA_TOGLIERE = re.compile(
+    r'//[^\n]*|/\*.*?\*/|R"([^(\s]*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|'
+    r"(?<![0-9A-Fa-f])'(?:\\.|[^'\\\n])*'", re.S)
+
+
+@functools.lru_cache(maxsize=None)
+def codice(percorso):
+    """A C++ file's text without comments, with empty literals; the lines keep their numbers."""
+    def vuoto(trovato):
+        righe = "\n" * trovato.group().count("\n")
+        return righe if trovato.group().startswith("/") else '""' + righe
+    return _DA_TOGLIERE.sub(vuoto, testo(percorso))
+
+
+def inclusi(percorso):
+    """The files of the repository that a C++ file includes."""
+    nomi = re.findall(r'^\s*#\s*include\s*"([^"]+)"', testo(percorso), re.M)
+    noti = set(cpp())
+    return tuple(nome for nome in nomi if nome in noti)

@@ -1,0 +1,122 @@
+"""Rules of the structure: who includes whom, and what is called how."""
+
+import re
+from collections import defaultdict
+
+from . import sorgenti
+
+# Files of the product that all know one another, at most.
+NODO_AMMESSO = 3
+
+
+def inclusioni_in_su():
+    """Includes of what lies on the same floor in another room, or above."""
+    for file in sorgenti.prodotto():
+        qui = sorgenti.stanza(file)
+        for incluso in sorgenti.inclusi(file):
+            la = sorgenti.stanza(incluso)
+            if la is None:
+                yield f"{file}: includes {incluso}, which is no part of the program"
+            elif la != qui and sorgenti.piano(la) >= sorgenti.piano(qui):
+                yield f"{file}: includes {incluso}, of a room that does not lie below {qui}"
+
+
+def anelli(archi):
+    """Groups of more than one node that reach one another; archi: node -> nodes."""
+    indice, basso, pila, sopra, gruppi = {}, {}, [], set(), []
+
+    def visita(partenza):
+        lavoro = [(partenza, iter(archi.get(partenza, ())))]
+        indice[partenza] = basso[partenza] = len(indice)
+        pila.append(partenza)
+        sopra.add(partenza)
+        while lavoro:
+            nodo, seguenti = lavoro[-1]
+            for altro in seguenti:
+                if altro not in indice:
+                    indice[altro] = basso[altro] = len(indice)
+                    pila.append(altro)
+                    sopra.add(altro)
+                    lavoro.append((altro, iter(archi.get(altro, ()))))
+                    break
+                if altro in sopra:
+                    basso[nodo] = min(basso[nodo], indice[altro])
+            else:
+                lavoro.pop()
+                if lavoro:
+                    basso[lavoro[-1][0]] = min(basso[lavoro[-1][0]], basso[nodo])
+                if basso[nodo] == indice[nodo]:
+                    gruppo = set()
+                    while nodo not in gruppo:
+                        gruppo.add(pila.pop())
+                    sopra.difference_update(gruppo)
+                    if len(gruppo) > 1:
+                        gruppi.append(sorted(gruppo))
+
+    for nodo in list(archi):
+        if nodo not in indice:
+            visita(nodo)
+    return sorted(gruppi, key=lambda g: (-len(g), g))
+
+
+def cicli_di_intestazioni():
+    """Headers that include one another in a ring."""
+    archi = {f: [i for i in sorgenti.inclusi(f) if i.endswith(".h")]
+             for f in sorgenti.cpp() if f.endswith(".h")}
+    for gruppo in anelli(archi):
+        yield "headers that include one another: " + ", ".join(gruppo)
+
+
+def nodi():
+    """Groups of the product's files that all know one another, header and source taken as one."""
+    archi = defaultdict(set)
+    for file in sorgenti.prodotto():
+        nome = file.rpartition(".")[0]
+        archi[nome].update(i.rpartition(".")[0] for i in sorgenti.inclusi(file))
+        archi[nome].discard(nome)
+    return anelli(archi)
+
+
+def nodi_troppo_grandi():
+    """Knots of more files than a head holds."""
+    for nodo in nodi():
+        if len(nodo) > NODO_AMMESSO:
+            yield f"{len(nodo)} files that all know one another: " + ", ".join(nodo)
+
+
+_APRE = re.compile(
+    r"\b(?P<spazio>(?:inline\s+)?namespace)\b(?P<nomi>[\w:\s]*)\{|"
+    r"(?<![\w<,])(?P<chiave>enum\s+class|enum\s+struct|enum|class|struct|union)\s+"
+    r"(?:\[\[[^\]]*\]\]\s*)?(?P<tipo>[A-Za-z_]\w*(?:::\w+)*)(?P<resto>[^;{}()=]*)\{|"
+    r"(?P<apre>\{)|(?P<chiude>\})")
+
+
+def tipi_definiti(percorso):
+    """(full name, line) of every type that a file defines for others to see: those of unnamed
+    namespaces and of function bodies are nobody else's."""
+    codice = sorgenti.codice(percorso)
+    dentro = []  # what each open brace belongs to: a name, "" for an unnamed namespace, None
+    for trovato in _APRE.finditer(codice):
+        if trovato["chiude"]:
+            if dentro:
+                dentro.pop()
+            continue
+        if trovato["apre"]:
+            dentro.append(None)
+            continue
+        nome = (trovato["nomi"].strip() if trovato["spazio"] else trovato["tipo"])
+        visibile = "" not in dentro and None not in dentro
+        if trovato["tipo"] and visibile and "<" not in trovato["resto"].split(":")[0]:
+            yield "::".join([*dentro, nome]), codice.count("\n", 0, trovato.start()) + 1
+        dentro.append(nome)
+
+
+def nomi_doppi():
+    """Types of one full name that are defined in two files."""
+    dove = defaultdict(list)
+    for file in sorgenti.prodotto():
+        for nome, riga in tipi_definiti(file):
+            dove[nome].append(f"{file}:{riga}")
+    for nome, posti in sorted(dove.items()):
+        if len(posti) > 1:
+            yield f"{nome} is defined more than once: " + ", ".join(posti)
