@@ -48,6 +48,8 @@ void FormAvvio::onLoad() {
   EssResizer1.start();
 }
 
-void FormAvvio::onActivate() { paintGradient(); }
+void FormAvvio::onActivate() {
+  paintGradient();
+}
 
 }  // namespace somme

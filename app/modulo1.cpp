@@ -11,9 +11,8 @@ namespace somme {
 
 void Avvia(Ambiente& ambiente) {
   if (!ambiente.servizi.istanza.take()) {
-    ambiente.fondo.showBox({TestoLingua(ambiente, QStringLiteral("0001")),
-                            QStringLiteral("Error"), platform::BoxIcon::Critical,
-                            platform::BoxButtons::Ok});
+    ambiente.fondo.showBox({TestoLingua(ambiente, QStringLiteral("0001")), QStringLiteral("Error"),
+                            platform::BoxIcon::Critical, platform::BoxButtons::Ok});
     ambiente.fondo.endProcess(0);
     return;
   }

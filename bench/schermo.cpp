@@ -58,12 +58,14 @@ double mediana(std::vector<double> valori) {
   return valori[valori.size() / 2];
 }
 
-void dormi(double secondi) { usleep(static_cast<useconds_t>(secondi * 1e6)); }
+void dormi(double secondi) {
+  usleep(static_cast<useconds_t>(secondi * 1e6));
+}
 
 Programma::Programma(const std::string& percorso) : schermo_(xcb_connect(nullptr, nullptr)) {
   if (xcb_connection_has_error(schermo_) != 0) throw std::runtime_error("no display");
-  std::free(xcb_damage_query_version_reply(schermo_, xcb_damage_query_version(schermo_, 1, 1),
-                                           nullptr));
+  std::free(
+      xcb_damage_query_version_reply(schermo_, xcb_damage_query_version(schermo_, 1, 1), nullptr));
   const std::uint32_t events = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
   xcb_change_window_attributes(schermo_, screenOf(schermo_)->root, XCB_CW_EVENT_MASK, &events);
   xcb_flush(schermo_);

@@ -82,8 +82,8 @@ class Visite {
     Forms& forme = banco_.ambiente->fondo.forms();
     Form& sotto = *forme.current();
     sotto.run([&] {
-      auto& dialogo = static_cast<somme::frmAvviaStampa&>(
-          forme.loaded(somme::forme::kFrmAvviaStampa));
+      auto& dialogo =
+          static_cast<somme::frmAvviaStampa&>(forme.loaded(somme::forme::kFrmAvviaStampa));
       const auto viva = dialogo.shared_from_this();
       somme::frmAvviaStampa::Richiesta richiesta;
       richiesta.oggetto = &sotto;

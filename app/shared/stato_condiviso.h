@@ -20,9 +20,9 @@ enum ModalitaDiInput : qint16 {
 struct StatoCondiviso : Caso {
   qint16 ContaEsatti = 0;  // right answers since a family menu or the main menu was last loaded
   qint16 ContaErrati = 0;
-  qint32 LimiteEsercizio = 0;  // the bars' range: 10 or 20
-  QString TitoloEsercizio;     // heading of the record of the number and abacus forms
-  qint16 TipoEsercizio = 0;    // index of the exercise inside its family menu
+  qint32 LimiteEsercizio = 0;   // the bars' range: 10 or 20
+  QString TitoloEsercizio;      // heading of the record of the number and abacus forms
+  qint16 TipoEsercizio = 0;     // index of the exercise inside its family menu
   qint32 RisultatoTabella = 0;  // the number to find on the addition table
 
   bool SuoniAttivi = true;

@@ -121,9 +121,8 @@ Form* Forms::shownIn(const QWindow& window) const {
 
 Form& Forms::loaded(std::string_view name) {
   // The newest of that name. One that is being left is still there to be read.
-  const auto there = std::find_if(loaded_.rbegin(), loaded_.rend(), [name](const auto& form) {
-    return form->design().name == name;
-  });
+  const auto there = std::find_if(loaded_.rbegin(), loaded_.rend(),
+                                  [name](const auto& form) { return form->design().name == name; });
   return there != loaded_.rend() ? **there : *load(name);
 }
 

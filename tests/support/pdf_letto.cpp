@@ -66,9 +66,9 @@ QImage PdfLetto::immagine(int pagina, int puntiPerPollice) const {
   const QString numero = QString::number(pagina);
   const QString uscita = cartella_.filePath(QStringLiteral("pagina"));
   (void)esegui(QStringLiteral("pdftoppm"),
-         {QStringLiteral("-r"), QString::number(puntiPerPollice), QStringLiteral("-f"), numero,
-          QStringLiteral("-l"), numero, QStringLiteral("-png"), QStringLiteral("-singlefile"),
-          file_, uscita});
+               {QStringLiteral("-r"), QString::number(puntiPerPollice), QStringLiteral("-f"),
+                numero, QStringLiteral("-l"), numero, QStringLiteral("-png"),
+                QStringLiteral("-singlefile"), file_, uscita});
   return QImage(uscita + QStringLiteral(".png"));
 }
 

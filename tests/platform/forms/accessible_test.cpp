@@ -71,8 +71,10 @@ class AccessibleTest : public QObject {
     QVERIFY(!spoken(form.First).state().disabled);
     form.First.setEnabled(false);
     QVERIFY(spoken(form.First).state().disabled);
-    QVERIFY(!spoken(form.First).actionInterface()->actionNames().contains(
-        QAccessibleActionInterface::pressAction()));
+    QVERIFY(!spoken(form.First)
+                 .actionInterface()
+                 ->actionNames()
+                 .contains(QAccessibleActionInterface::pressAction()));
     form.Second.setVisible(false);
     QVERIFY(spoken(form.Second).state().invisible);
   }

@@ -126,9 +126,8 @@ class ControlArrayTest : public QObject {
   void labelsAndPicturesLieBelowButtonsAndPanelsWhateverTheirRows() {
     Stage stage;
     TrialForm& form = stage.show(kOne);
-    for (const platform::Control* painted :
-         std::initializer_list<const platform::Control*>{&form.Words, &form.Square[0],
-                                                         &form.Square[1], &form.Sign}) {
+    for (const platform::Control* painted : std::initializer_list<const platform::Control*>{
+             &form.Words, &form.Square[0], &form.Square[1], &form.Sign}) {
       QVERIFY(liesOver(form.First, *painted));
       QVERIFY(liesOver(form.Number[0], *painted));
       QVERIFY(liesOver(form.Panel, *painted));

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QWidget>
 
-
 #include "stage.h"
 
 using platform::Button;
@@ -138,9 +137,8 @@ class DesignTest : public QObject {
   void theTabOrderIsThatOfTheRows() {
     Stage stage;
     TrialForm& form = stage.show(kOne);
-    const std::vector<const platform::Control*> order = {&form.First,     &form.Second,
-                                                         &form.Third,     &form.Number[0],
-                                                         &form.Number[1], &form.Number[2]};
+    const std::vector<const platform::Control*> order = {
+        &form.First, &form.Second, &form.Third, &form.Number[0], &form.Number[1], &form.Number[2]};
     form.First.setFocus();
     for (std::size_t i = 1; i <= order.size(); ++i) {
       stage.tap(Qt::Key_Tab);

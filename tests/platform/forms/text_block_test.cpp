@@ -23,7 +23,7 @@ const QColor kCyan(0, 255, 255);
 
 // The part of the paper that a text's ink, outline included, took.
 struct Painted {
-  QRect ink;    // in the room's own coordinates; empty where nothing was painted
+  QRect ink;  // in the room's own coordinates; empty where nothing was painted
   QImage paper;
 };
 
@@ -52,7 +52,9 @@ Painted paint(TextBlock& block, QSize room, const QColor& ink, const QColor& gro
           paper};
 }
 
-QFont tahoma(int pixels, bool bold = false) { return fontOf({Face::Tahoma, 9, bold}, pixels); }
+QFont tahoma(int pixels, bool bold = false) {
+  return fontOf({Face::Tahoma, 9, bold}, pixels);
+}
 
 }  // namespace
 
@@ -67,7 +69,8 @@ class TextBlockTest : public QObject {
     QTest::addColumn<double>("ratio");
     QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white) << 21.0;
     QTest::newRow("a colour on itself") << kCyan << kCyan << 1.0;
-    QTest::newRow("the faintest grey that passes") << QColor("#767676") << QColor(Qt::white) << 4.54;
+    QTest::newRow("the faintest grey that passes")
+        << QColor("#767676") << QColor(Qt::white) << 4.54;
     QTest::newRow("the first that does not") << QColor("#777777") << QColor(Qt::white) << 4.48;
     QTest::newRow("red on white") << QColor(255, 0, 0) << QColor(Qt::white) << 4.0;
     QTest::newRow("blue on white") << QColor(0, 0, 255) << QColor(Qt::white) << 8.59;
@@ -166,7 +169,9 @@ class TextBlockTest : public QObject {
     QTest::newRow("descenders") << QStringLiteral("gjpqy") << 0;
     QTest::newRow("accents") << QStringLiteral("ÀÈÉÙ però") << 0;
     QTest::newRow("brackets") << QStringLiteral("(Ç) 1!") << 0;
-    QTest::newRow("a sentence") << QStringLiteral("Trova il numero che corrisponde alla barra rossa") << 90;
+    QTest::newRow("a sentence") << QStringLiteral(
+                                       "Trova il numero che corrisponde alla barra rossa")
+                                << 90;
     QTest::newRow("lines") << QStringLiteral("Software di\nchi insegna e chi impara\n") << 90;
     QTest::newRow("a button") << QStringLiteral("a&vanti") << 0;
     QTest::newRow("slanting ends") << QStringLiteral("WAfj") << 0;

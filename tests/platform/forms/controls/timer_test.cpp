@@ -93,7 +93,8 @@ class TimerTest : public QObject {
       order.append(QString::number(mine));
     });
     stage.time.advance(0.4);
-    QCOMPARE(order.mid(0, 3), (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
+    QCOMPARE(order.mid(0, 3),
+             (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
   }
 
   void unloadingTheFormStopsItsTimersAtOnce() {
@@ -133,8 +134,7 @@ class TimerTest : public QObject {
   void anErrorInATickIsTaken() {
     Stage stage;
     Ticking clock(stage);
-    clock.form.Clock.onTick(
-        [] { throw platform::RunTimeError(platform::RunTimeError::Overflow); });
+    clock.form.Clock.onTick([] { throw platform::RunTimeError(platform::RunTimeError::Overflow); });
     stage.time.advance(0.5);
     QCOMPARE(stage.boxes.mostrati.size(), std::size_t(1));
     QCOMPARE(stage.end.stato, std::optional(1));
