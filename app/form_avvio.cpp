@@ -21,7 +21,7 @@ constexpr auto kControlli = std::to_array<Row>({
     row<&FormAvvio::Label1>({240, 5640, 3000, 360},
                             {.caption = "13 ottobre 2007", .font = {Face::Tahoma, 9.75}}),
     row<&FormAvvio::Image1>({300, 1800, 3000, 3300},
-                            {.toolTip = "Barre colorate", .picture = "avvio_sinistra"}),
+                            {.toolTip = "Un amico fatto di blocchi", .picture = "avvio_sinistra"}),
     row<&FormAvvio::Image2>({6480, 1800, 3000, 3300},
                             {.toolTip = "Un abaco", .picture = "avvio_destra"}),
 });

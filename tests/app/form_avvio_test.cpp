@@ -34,6 +34,36 @@ class FormAvvioTest : public QObject {
              QStringLiteral("Esercitazioni sulle somme"));
   }
 
+  // What assistive technology calls them is what they show.
+  void thePicturesBearTheNamesOfWhatTheyShow_data() {
+    QTest::addColumn<QString>("lingua");
+    QTest::addColumn<QString>("sinistra");
+    QTest::addColumn<QString>("destra");
+    const auto riga = [](const char* lingua, const char* sinistra, const char* destra) {
+      QTest::newRow(lingua) << QString::fromUtf8(lingua) << QString::fromUtf8(sinistra)
+                            << QString::fromUtf8(destra);
+    };
+    riga("Deutsch", "Ein Freund aus Blöcken", "Ein Abakus");
+    riga("English", "A friend made of blocks", "An abacus");
+    riga("Español", "Un amigo hecho de bloques", "Un ábaco");
+    riga("Français", "Un ami fait de blocs", "Un boulier");
+    riga("Italiano", "Un amico fatto di blocchi", "Un abaco");
+    riga("none of these", "Un amico fatto di blocchi", "Un abaco");
+  }
+  void thePicturesBearTheNamesOfWhatTheyShow() {
+    QFETCH(QString, lingua);
+    QFETCH(QString, sinistra);
+    QFETCH(QString, destra);
+    Banco banco;
+    banco.ambiente->stato.LinguaCorrente = lingua;
+    const FormAvvio& forma = banco.apri<FormAvvio>(kFormAvvio);
+    const auto detto = [](const platform::Image& immagine) {
+      return QAccessible::queryAccessibleInterface(immagine.widget())->text(QAccessible::Name);
+    };
+    QCOMPARE(detto(forma.Image1), sinistra);
+    QCOMPARE(detto(forma.Image2), destra);
+  }
+
   void itsGroundGoesFromWhiteToYellow() {
     Banco banco;
     const FormAvvio& forma = banco.apri<FormAvvio>(kFormAvvio);

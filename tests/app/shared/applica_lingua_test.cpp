@@ -80,7 +80,7 @@ class ApplicaLinguaTest : public QObject {
     FormAvvio& forma = banco.apri<FormAvvio>(kFormAvvio);
     QCOMPARE(forma.caption(), QString());
     QCOMPARE(forma.Label2[0].caption(), QStringLiteral("Somme"));
-    QCOMPARE(forma.Image1.toolTip(), QStringLiteral("Barre colorate"));
+    QCOMPARE(forma.Image1.toolTip(), QStringLiteral("Un amico fatto di blocchi"));
     forma.setTag(QStringLiteral("di prima"));
     forma.Label1.setTag(QStringLiteral("di prima"));
     somme::ApplicaLingua(*banco.ambiente, forma);
