@@ -8,7 +8,7 @@
 #include <QFileInfo>
 #include <cstdio>
 
-#include "platform/flash/container.h"
+#include "platform/flash/unpacked_file.h"
 #include "tests/platform/flash/hand_made.h"
 
 using namespace hand_made;
@@ -99,7 +99,7 @@ int main(int argc, char* argv[]) {
     QFile in(QString::fromLocal8Bit(argv[i]));
     if (!in.open(QIODevice::ReadOnly)) return 1;
     const QByteArray packed = in.readAll();
-    const auto opened = platform::flash::openContainer(bytesOf(packed));
+    const auto opened = platform::flash::unpackFile(bytesOf(packed));
     QByteArray bytes(reinterpret_cast<const char*>(opened.bytes.data()),
                      static_cast<qsizetype>(opened.bytes.size()));
     bytes[0] = 'F';

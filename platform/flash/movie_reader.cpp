@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/flash/container.h"
 #include "platform/flash/definitions.h"
 #include "platform/flash/limits.h"
 #include "platform/flash/shape_reader.h"
 #include "platform/flash/structures.h"
+#include "platform/flash/unpacked_file.h"
 
 namespace platform::flash {
 
@@ -288,15 +288,15 @@ void MovieReader::read(std::size_t tagsBegin) {
 }  // namespace
 
 std::shared_ptr<const Movie> readMovie(Bytes file) {
-  Container container = openContainer(file);
+  UnpackedFile opened = unpackFile(file);
   auto movie = std::make_shared<Movie>();
-  movie->version = container.version;
-  movie->compressed = container.compressed;
-  movie->stage = container.stage;
-  movie->frameRate = container.frameRate;
-  movie->announcedFrames = container.frameCount;
-  movie->bytes = std::move(container.bytes);
-  MovieReader(*movie).read(container.tagsBegin);
+  movie->version = opened.version;
+  movie->compressed = opened.compressed;
+  movie->stage = opened.stage;
+  movie->frameRate = opened.frameRate;
+  movie->announcedFrames = opened.frameCount;
+  movie->bytes = std::move(opened.bytes);
+  MovieReader(*movie).read(opened.tagsBegin);
   return movie;
 }
 

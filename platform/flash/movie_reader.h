@@ -9,7 +9,7 @@ namespace platform::flash {
 
 // Reads a movie out of the bytes of its file. Tags that are unknown are skipped; one that cannot be
 // read is left out and told among the movie's faults; a file that breaks off gives what it holds up
-// to there. Throws MovieError only for bytes that are no movie at all (container.h says which).
+// to there. Throws MovieError only for bytes that are no movie at all (unpacked_file.h says which).
 // Time and memory are bounded (limits.h).
 [[nodiscard]] std::shared_ptr<const Movie> readMovie(Bytes file);
 

@@ -1,4 +1,4 @@
-#include "platform/flash/container.h"
+#include "platform/flash/unpacked_file.h"
 
 #include <zlib.h>
 
@@ -57,39 +57,39 @@ class Inflater {
 
 }  // namespace
 
-Container openContainer(Bytes file) {
+UnpackedFile unpackFile(Bytes file) {
   ByteReader reader(file);
-  Container container;
+  UnpackedFile opened;
   const Bytes signature = reader.bytes(3);
-  container.compressed = signature[0] == 'C';
+  opened.compressed = signature[0] == 'C';
   if ((signature[0] != 'F' && signature[0] != 'C') || signature[1] != 'W' || signature[2] != 'S') {
     throw MovieError("the signature is not that of a movie", 0);
   }
-  container.version = reader.u8();
+  opened.version = reader.u8();
   const std::size_t length = std::clamp<std::size_t>(reader.u32(), plainHeader, limits::movieBytes);
 
   const Bytes body = reader.rest();
   // Whatever the file claims: pages that are never written take no memory, growing piecemeal does.
-  container.bytes.reserve(container.compressed ? length : std::min(length, file.size()));
-  container.bytes.assign(file.begin(), file.begin() + plainHeader);
-  if (container.compressed) {
-    Inflater().append(body, container.bytes, length - plainHeader);
+  opened.bytes.reserve(opened.compressed ? length : std::min(length, file.size()));
+  opened.bytes.assign(file.begin(), file.begin() + plainHeader);
+  if (opened.compressed) {
+    Inflater().append(body, opened.bytes, length - plainHeader);
   } else {
     const Bytes used = body.first(std::min(body.size(), length - plainHeader));
-    container.bytes.insert(container.bytes.end(), used.begin(), used.end());
+    opened.bytes.insert(opened.bytes.end(), used.begin(), used.end());
   }
 
-  ByteReader header(container.bytes);
+  ByteReader header(opened.bytes);
   header.seek(plainHeader);
-  container.stage = readRect(header);
-  container.frameRate = header.u16() / 256.0;
-  container.frameCount = header.u16();
-  container.tagsBegin = header.position();
-  const double edge = std::max(container.stage.width(), container.stage.height());
-  if (container.stage.isEmpty() || edge > limits::stageEdge * twipsPerPixel) {
+  opened.stage = readRect(header);
+  opened.frameRate = header.u16() / 256.0;
+  opened.frameCount = header.u16();
+  opened.tagsBegin = header.position();
+  const double edge = std::max(opened.stage.width(), opened.stage.height());
+  if (opened.stage.isEmpty() || edge > limits::stageEdge * twipsPerPixel) {
     throw MovieError("the stage has no usable size", plainHeader);
   }
-  return container;
+  return opened;
 }
 
 }  // namespace platform::flash

@@ -9,7 +9,7 @@
 namespace platform::flash {
 
 // The outermost layer of a movie's file: the header, and everything uncompressed.
-struct Container {
+struct UnpackedFile {
   int version = 0;
   bool compressed = false;
   QRectF stage;  // twips
@@ -23,6 +23,6 @@ struct Container {
 
 // Throws MovieError when the bytes are no movie: another signature, a header that breaks off, a
 // stage without area or larger than limits::stageEdge.
-[[nodiscard]] Container openContainer(Bytes file);
+[[nodiscard]] UnpackedFile unpackFile(Bytes file);
 
 }  // namespace platform::flash
