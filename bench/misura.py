@@ -2,13 +2,14 @@
 
 import glob
 import os
+import signal
 import subprocess
 import sys
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tools", "prova"))
 
-from schermo import Schermo, termina  # noqa: E402
+from schermo import ErroreSchermo, Schermo  # noqa: E402
 
 # Seconds after the last event, for a sound to end and its device to close; and of rest watched.
 QUIETE, GUARDATI = 5, 10
@@ -22,6 +23,15 @@ def risvegli(processo):
             somma += sum(int(r.split()[1]) for r in righe
                          if r.startswith("voluntary_ctxt_switches"))
     return somma
+
+
+def esegui(misura):
+    """Runs one measurement; whether it came to its end and found all as it should be."""
+    stato = subprocess.run(misura, check=False).returncode
+    if stato:
+        come = f"was ended by {signal.Signals(-stato).name}" if stato < 0 else f"ended with {stato}"
+        print(f"FAILED: {os.path.basename(misura[0])} {come}", flush=True)
+    return stato == 0
 
 
 def riposo(schermo, programma, cartella):
@@ -41,9 +51,12 @@ def riposo(schermo, programma, cartella):
     time.sleep(QUIETE)
     prima = risvegli(processo)
     time.sleep(GUARDATI)
-    print(f"at rest on the bars, after sounds: {(risvegli(processo) - prima) / GUARDATI:.2f}"
-          " wake-ups a second (under 1)", flush=True)
-    termina(processo)
+    tutti = risvegli(processo) - prima
+    if processo.poll() is not None:
+        raise ErroreSchermo(f"the program ended at rest, with {processo.returncode}")
+    print(f"at rest on the bars, after sounds: {tutti / GUARDATI:.2f} wake-ups a second (under 1)",
+          flush=True)
+    processo.termina()
 
 
 def main():
@@ -59,13 +72,17 @@ def main():
                *sorted(glob.glob(os.path.join(os.path.dirname(programma), "swf", "*.swf")))],
               [os.path.join(cartella, "bench", "bench_stampa")],
               [os.path.join(cartella, "bench", "bench_visite")]]
-    with Schermo(1366, 768):
-        # As on a desktop without assistive technology: nobody listens to the tree.
-        os.environ.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", None)
-        esito = max(subprocess.run(misura, check=False).returncode for misura in misure)
-    with Schermo(1366, 768) as schermo:
-        riposo(schermo, programma, os.path.join("build", "immagini"))
-    return esito
+    try:
+        with Schermo(1366, 768):
+            # As on a desktop without assistive technology: nobody listens to the tree.
+            os.environ.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", None)
+            tutte = all([esegui(misura) for misura in misure])
+        with Schermo(1366, 768) as schermo:
+            riposo(schermo, programma, os.path.join("build", "immagini"))
+    except ErroreSchermo as errore:
+        print(f"FAILED: {errore}", flush=True)
+        return 1
+    return 0 if tutte else 1
 
 
 if __name__ == "__main__":

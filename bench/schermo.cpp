@@ -113,7 +113,19 @@ double Programma::attendiDipinto() {
   throw std::runtime_error("no picture came");
 }
 
+void Programma::deveVivere() const {
+  siginfo_t end{};
+  // Left as it is found: the destructor waits for it.
+  if (waitid(P_PID, static_cast<id_t>(pid_), &end, WEXITED | WNOHANG | WNOWAIT) != 0 ||
+      end.si_pid != 0) {
+    throw std::runtime_error("the program has ended, " +
+                             std::string(end.si_code == CLD_EXITED ? "with " : "by signal ") +
+                             std::to_string(end.si_status));
+  }
+}
+
 long Programma::pss() const {
+  deveVivere();
   std::ifstream file("/proc/" + std::to_string(pid_) + "/smaps_rollup");
   std::string word;
   while (file >> word) {
@@ -127,6 +139,7 @@ long Programma::pss() const {
 }
 
 long Programma::risvegli() const {
+  deveVivere();
   long sum = 0;
   for (const auto& thread :
        std::filesystem::directory_iterator("/proc/" + std::to_string(pid_) + "/task")) {

@@ -23,6 +23,8 @@ class Programma {
   [[nodiscard]] pid_t pid() const { return pid_; }
   // Milliseconds from exec to the first picture in its first window; waits for it.
   [[nodiscard]] double attendiDipinto();
+  // Throws where it has ended by itself; so do the two that follow.
+  void deveVivere() const;
   // Proportional set size, in kilobytes.
   [[nodiscard]] long pss() const;
   // How often its threads have gone to sleep and been woken since they started.

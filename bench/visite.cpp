@@ -2,8 +2,7 @@
 
 #include <QApplication>
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
+#include <stdexcept>
 #include <string>
 
 #include "app/shared/nomi_forme.h"
@@ -13,7 +12,8 @@
 #include "support/come_dal_menu.h"
 
 // Whether the program gives back what it takes: the live heap after a thousand visits to each form
-// against that after ten, and after a thousand activations of each board.
+// against that after ten, of two hundred to the sheets and the print dialog, and after a thousand
+// activations of each board.
 //
 //   visite [FORM]   one form alone, by its name
 namespace {
@@ -23,6 +23,7 @@ using platform::Forms;
 
 constexpr int kCaldo = 10;
 constexpr int kMolte = 1000;
+constexpr int kMolteAlDialogo = 200;  // each of them captures and scales the whole form
 constexpr double kAmmesso = 1.05;
 
 double kilobyte() {
@@ -30,23 +31,47 @@ double kilobyte() {
   return static_cast<double>(uso.uordblks + uso.hblkhd) / 1024;
 }
 
+// Over which form a sheet is measured: the one that offers it; those for setting the keyboard,
+// which no menu offers, over any of them.
+std::string_view sottoIlFoglio(std::string_view foglio) {
+  using namespace somme::forme;
+  if (foglio == kFormStampaFoglioNumeri2) return kFormNumeriTotaleHK;
+  if (foglio == kFormStampaLU) return kFormLUHK;
+  if (foglio == kFormStampaPLU) return kFormHLUHK;
+  if (foglio == kFormStampaAbaco) return kFormAbacoHK;
+  return kFormBarre10HK;
+}
+
+struct Sbagliata : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
 class Visite {
  public:
   Visite() { banco_.mostra(somme::forme::kFormMenu); }
 
-  // From the main menu to the form and back.
+  // To the form and back, as its users go.
   bool visita(std::string_view nome) {
-    prova::ComeDalMenu(banco_.ambiente->stato, nome);
-    return misura("visits to", nome, [&] { unaVolta(nome); });
+    using namespace somme::forme;
+    if (nome.starts_with("FormStampa")) {
+      return conSotto(sottoIlFoglio(nome), nome, kMolteAlDialogo, [&] { foglio(nome); });
+    }
+    if (nome == kFrmAvviaStampa) {
+      return conSotto(kFormBarre10, nome, kMolteAlDialogo, [&] { dialogo(); });
+    }
+    const std::string_view daCui = nome == kFormMenu ? kFormMenuBarre : kFormMenu;
+    return conSotto(daCui, nome, kMolte, [&] {
+      vai(nome);
+      vai(daCui);
+    });
   }
 
   // The form stays, and is activated again, as when the print dialog over it has gone.
   bool attivazioni(std::string_view nome) {
     prova::ComeDalMenu(banco_.ambiente->stato, nome);
     vai(nome);
-    Forms& forme = banco_.ambiente->fondo.forms();
-    const bool bene = misura("activations of", nome, [&] {
-      forme.activateAgain();
+    const bool bene = misura("activations of", nome, kMolte, [&] {
+      forme().activateAgain();
       QCoreApplication::processEvents();
     });
     vai(somme::forme::kFormMenu);
@@ -54,65 +79,89 @@ class Visite {
   }
 
  private:
+  [[nodiscard]] Forms& forme() const { return banco_.ambiente->fondo.forms(); }
+
+  // Visits to a form from another one, which is on the screen between them.
+  bool conSotto(std::string_view sotto, std::string_view nome, int volte,
+                const std::function<void()>& volta) {
+    const bool menu = sotto.starts_with("FormMenu");
+    prova::ComeDalMenu(banco_.ambiente->stato, menu ? nome : sotto);
+    vai(sotto);
+    const bool bene = misura("visits to", nome, volte, volta);
+    vai(somme::forme::kFormMenu);
+    return bene;
+  }
+
   void vai(std::string_view nome) {
-    Forms& forme = banco_.ambiente->fondo.forms();
     try {
-      forme.pass(*forme.current(), nome);
+      if (forme().current()->name() != testo(nome)) forme().pass(*forme().current(), nome);
     } catch (const platform::Unwind&) {
-      std::fprintf(stderr, "the program ended\n");
-      std::exit(2);
+      throw Sbagliata("the program ended");
     }
     QCoreApplication::processEvents();
+    controlla(nome);
   }
 
-  void unaVolta(std::string_view nome) {
-    if (nome == somme::forme::kFormMenu) {
-      vai(somme::forme::kFormMenuBarre);
-    } else if (nome == somme::forme::kFrmAvviaStampa) {
-      stampa();
-      return;
-    } else {
-      vai(nome);
-    }
-    // A sheet prints itself: whoever uses it closes the dialog.
-    vai(somme::forme::kFormMenu);
+  // From a handler of the form on the screen; the sheet opens the dialog, and goes with it.
+  void foglio(std::string_view nome) {
+    conIlDialogo(nome, [&] { forme().show(nome); });
   }
 
-  void stampa() {
-    Forms& forme = banco_.ambiente->fondo.forms();
-    Form& sotto = *forme.current();
-    sotto.run([&] {
+  void dialogo() {
+    Form* sotto = forme().current();
+    conIlDialogo(sotto->name().toStdString(), [&] {
       auto& dialogo =
-          static_cast<somme::frmAvviaStampa&>(forme.loaded(somme::forme::kFrmAvviaStampa));
+          static_cast<somme::frmAvviaStampa&>(forme().loaded(somme::forme::kFrmAvviaStampa));
       const auto viva = dialogo.shared_from_this();
       somme::frmAvviaStampa::Richiesta richiesta;
-      richiesta.oggetto = &sotto;
+      richiesta.oggetto = sotto;
       richiesta.larghezza = 420;
       richiesta.altezza = 297;
       richiesta.orientamento = 2;
-      chiudiIlDialogo();
       (void)dialogo.StampaFCPB(richiesta);
     });
-    QCoreApplication::processEvents();
   }
 
-  void chiudiIlDialogo() {
-    banco_.tempo.after(0.1, [] {
-      if (QWidget* dialogo = QApplication::activeModalWidget()) dialogo->close();
+  // Has a handler of the form on the screen open the dialog, sees `sopra` under it, and closes it.
+  void conIlDialogo(std::string_view sopra, const std::function<void()>& apri) {
+    Form& sotto = *forme().current();
+    const std::string prima = sotto.name().toStdString();
+    bool visto = false;
+    banco_.tempo.after(0.1, [&] {
+      QWidget* finestra = QApplication::activeModalWidget();
+      if (finestra == nullptr) return;
+      controlla(sopra);
+      visto = true;
+      finestra->close();
     });
+    sotto.run(apri);
+    QCoreApplication::processEvents();
+    if (!visto) throw Sbagliata("the print dialog did not open");
+    controlla(prima);
   }
 
-  bool misura(const char* cosa, std::string_view nome, const std::function<void()>& volta) {
+  void controlla(std::string_view nome) const {
+    const Form* forma = forme().current();
+    if (forma == nullptr || forma->name() != testo(nome)) {
+      throw Sbagliata("not on the screen: " + std::string(nome));
+    }
+  }
+
+  static QString testo(std::string_view nome) {
+    return QString::fromUtf8(nome.data(), qsizetype(nome.size()));
+  }
+
+  bool misura(const char* cosa, std::string_view nome, int volte,
+              const std::function<void()>& volta) {
     double caldo = 0;
-    for (int i = 1; i <= kMolte; ++i) {
-      if (nome.starts_with("FormStampa")) chiudiIlDialogo();
+    for (int i = 1; i <= volte; ++i) {
       volta();
       dimentica();
       if (i == kCaldo) caldo = kilobyte();
     }
     const double freddo = kilobyte();
     std::printf("heap after %d %s %.*s: %.0f KB, after %d: %.0f KB: %.3f times (at most %.2f)\n",
-                kCaldo, cosa, static_cast<int>(nome.size()), nome.data(), caldo, kMolte, freddo,
+                kCaldo, cosa, static_cast<int>(nome.size()), nome.data(), caldo, volte, freddo,
                 freddo / caldo, kAmmesso);
     std::fflush(stdout);
     return freddo <= caldo * kAmmesso;
@@ -143,13 +192,21 @@ int main(int argc, char* argv[]) {
   QApplication programma(argc, argv);
   Visite visite;
   bool bene = true;
+  int misurate = 0;
   for (const std::string_view nome : somme::NomiDelleForme()) {
     if (argc > 1 && nome != argv[1]) continue;
-    bene = visite.visita(nome) && bene;
-    if (haTavole(nome) && nome.starts_with("Form") && !nome.starts_with("FormStampa") &&
-        !nome.starts_with("FormMenu")) {
-      bene = visite.attivazioni(nome) && bene;
+    ++misurate;
+    try {
+      bene = visite.visita(nome) && bene;
+      if (haTavole(nome) && nome.starts_with("Form") && !nome.starts_with("FormStampa") &&
+          !nome.starts_with("FormMenu")) {
+        bene = visite.attivazioni(nome) && bene;
+      }
+    } catch (const Sbagliata& perche) {
+      std::fprintf(stderr, "visite: %.*s: %s\n", int(nome.size()), nome.data(), perche.what());
+      return 2;
     }
   }
-  return bene ? 0 : 1;
+  std::printf("%d forms visited\n", misurate);
+  return bene && misurate > 0 ? 0 : 1;
 }

@@ -16,7 +16,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "tools", "prova"))
 
-from schermo import Schermo, termina  # noqa: E402
+from schermo import Schermo  # noqa: E402
 
 # Key by key: what is pressed together, and whether the click comes at the press.
 TASTI = [("space", ["space"], False), ("Return", ["Return"], True), ("Alt+C", ["alt", "c"], True)]
@@ -51,7 +51,7 @@ class Conta:
                 self.clic += 1
 
     def chiudi(self):
-        termina(self._processo)
+        self._processo.termina()
 
 
 def tieni(conta, tasti, secondi):

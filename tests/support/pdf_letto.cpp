@@ -36,7 +36,8 @@ PdfLetto::PdfLetto(const QByteArray& documento)
 QByteArray PdfLetto::esegui(const QString& programma, const QStringList& argomenti) const {
   QProcess processo;
   processo.start(programma, argomenti);
-  if (!processo.waitForFinished(60000) || processo.exitCode() != 0) {
+  if (!processo.waitForFinished(60000) || processo.exitStatus() != QProcess::NormalExit ||
+      processo.exitCode() != 0) {
     throw std::runtime_error(programma.toStdString() +
                              " failed: " + processo.readAllStandardError().toStdString());
   }

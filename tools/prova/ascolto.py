@@ -9,6 +9,8 @@ import subprocess
 import sys
 import threading
 
+from schermo import Processo
+
 
 class Ascolto:
     """While one lives, the names of what gets the focus are kept, in their order."""
@@ -17,8 +19,8 @@ class Ascolto:
         """processo: what Schermo.avvia gave back."""
         self._righe = []
         self._pronto = threading.Event()
-        self._figlio = subprocess.Popen(["/usr/bin/python3", __file__, str(processo.pid)],
-                                        stdout=subprocess.PIPE, text=True)
+        self._figlio = Processo(["/usr/bin/python3", __file__, str(processo.pid)],
+                                stdout=subprocess.PIPE, text=True)
         threading.Thread(target=self._leggi, daemon=True).start()
         if not self._pronto.wait(20):
             raise RuntimeError("the ear does not open")
@@ -35,8 +37,9 @@ class Ascolto:
         return [tuple(r) for r in self._righe]
 
     def chiudi(self):
-        self._figlio.terminate()
-        self._figlio.wait()
+        self._figlio.termina()
+        if self._figlio.caduto():
+            raise RuntimeError(f"the ear was ended by {self._figlio.caduto()}")
 
 
 def main():

@@ -13,8 +13,35 @@ class ErroreSchermo(Exception):
     """The desktop could not be brought up; the text says which part."""
 
 
+class Processo(subprocess.Popen):
+    """A program on the desktop, and whether its end was asked for."""
+
+    _voluta = False
+
+    def termina(self, secondi=3):
+        """Ends it, by force where it does not go by itself."""
+        if self.poll() is not None:
+            return
+        self._voluta = True
+        self.terminate()
+        try:
+            self.wait(secondi)
+        except subprocess.TimeoutExpired:
+            self.kill()
+            self.wait()
+
+    def caduto(self):
+        """The name of the signal that ended it unasked; None where none did."""
+        stato = self.poll() or 0
+        if stato >= 0 or (self._voluta and -stato in (signal.SIGTERM, signal.SIGKILL)):
+            return None
+        return signal.Signals(-stato).name
+
+
 class Schermo:
     """Everything between entering and leaving; nothing of it is left behind.
+
+    A program that a signal has ended meanwhile, unasked, is an error when the desktop goes.
 
     The environment of this process is set for the new desktop too, so that the accessibility tree
     is read from it; therefore make the Schermo before anything that reads the tree is imported.
@@ -42,19 +69,27 @@ class Schermo:
             raise
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, *errore):
+        caduti = []
         for processo in reversed(self._processi):
-            termina(processo)
+            processo.termina()
+            if processo.caduto():
+                caduti.append(f"{processo.args[0]} was ended by {processo.caduto()}")
         self._processi.clear()
         os.environ.clear()
         os.environ.update(self._prima)
         if self._cartella:
             shutil.rmtree(self._cartella, ignore_errors=True)
+        if caduti and not any(errore):
+            raise ErroreSchermo("; ".join(caduti))
 
     def avvia(self, *comando, **opzioni):
-        """Starts a program on this desktop; it is ended with the desktop, if not before."""
+        """Starts a program on this desktop; it is ended with the desktop, if not before.
+
+        Gives a Processo.
+        """
         try:
-            processo = subprocess.Popen(comando, stdin=subprocess.DEVNULL, **opzioni)
+            processo = Processo(comando, stdin=subprocess.DEVNULL, **opzioni)
         except OSError as errore:
             raise ErroreSchermo(f"{comando[0]}: {errore.strerror}") from errore
         self._processi.append(processo)
@@ -88,7 +123,8 @@ class Schermo:
         bus = self.avvia("dbus-daemon", "--session", f"--address=unix:tmpdir={self._cartella}",
                          "--nofork", "--nopidfile", "--print-address",
                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-        return _prima_riga(bus.stdout, "the message bus (dbus-daemon)")
+        with bus.stdout:
+            return _prima_riga(bus.stdout, "the message bus (dbus-daemon)")
 
     def _avvia_finestre(self):
         self.avvia("openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -101,18 +137,6 @@ class Schermo:
                 return
             time.sleep(0.05)
         raise ErroreSchermo("the window manager (openbox) does not come up")
-
-
-def termina(processo, secondi=3):
-    """Ends a process, by force where it does not go by itself."""
-    if processo.poll() is not None:
-        return
-    processo.send_signal(signal.SIGTERM)
-    try:
-        processo.wait(secondi)
-    except subprocess.TimeoutExpired:
-        processo.kill()
-        processo.wait()
 
 
 def _prima_riga(canale, chi, secondi=20):

@@ -1,10 +1,11 @@
 """The stand-in for the touch surface, worked by lines: see tools/tavoletta/suggeritore.h."""
 
+import contextlib
 import os
 import select
 import subprocess
 
-from schermo import termina
+from schermo import Processo
 
 
 class ErroreTavoletta(Exception):
@@ -22,15 +23,19 @@ class Tavoletta:
         self._resto = b""
 
     def __enter__(self):
-        self._processo = subprocess.Popen([self._percorso, "--senza-finestra"],
-                                          stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self._processo = Processo([self._percorso, "--senza-finestra"], stdin=subprocess.PIPE,
+                                  stdout=subprocess.PIPE)
         self.aspetta("in ascolto")
         return self
 
-    def __exit__(self, *_):
-        self._processo.stdin.close()
-        termina(self._processo)
+    def __exit__(self, *errore):
+        # What it has not taken yet is lost with it.
+        with contextlib.suppress(BrokenPipeError):
+            self._processo.stdin.close()
+        self._processo.termina()
         self._processo.stdout.close()
+        if self._processo.caduto() and not any(errore):
+            raise ErroreTavoletta(f"the touch surface was ended by {self._processo.caduto()}")
 
     def fai(self, riga):
         self._processo.stdin.write(riga.encode() + b"\n")

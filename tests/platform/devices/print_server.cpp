@@ -98,7 +98,8 @@ QByteArray PrintServer::run(const QString& program, const QStringList& arguments
   QProcess process;
   process.start(program,
                 QStringList{QStringLiteral("-h"), QString::fromUtf8(address())} + arguments);
-  const bool ended = process.waitForFinished(kPatience) && process.exitCode() == 0;
+  const bool ended = process.waitForFinished(kPatience) &&
+                     process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
   if (ok != nullptr) *ok = ended;
   return process.readAllStandardOutput();
 }

@@ -229,6 +229,7 @@ class TavolettaTest : public QObject {
     QCOMPARE(presa.readAll(), QByteArray("CD1"));
     programma.closeWriteChannel();
     QVERIFY(programma.waitForFinished(5000));
+    QCOMPARE(programma.exitStatus(), QProcess::NormalExit);
     QCOMPARE(programma.exitCode(), 0);
     QVERIFY(programma.readAllStandardError().contains("non capisco: non so"));
   }
@@ -240,7 +241,9 @@ class TavolettaTest : public QObject {
                                                   QStringLiteral("--porta"), QStringLiteral("0")});
       programma.write(scritto);
       programma.closeWriteChannel();
-      if (!programma.waitForFinished(20000) || programma.exitCode() != 0) return QByteArray("?");
+      const bool bene = programma.waitForFinished(20000) &&
+                        programma.exitStatus() == QProcess::NormalExit && programma.exitCode() == 0;
+      if (!bene) return QByteArray("?");
       return programma.readAllStandardError();
     };
     QCOMPARE(capito("boh\nfine\nbah\nbeh"), QByteArray("tavoletta: non capisco: boh\n"));
