@@ -12,19 +12,6 @@ bool find(void* library, const char* name, Function& function) {
   return function != nullptr;
 }
 
-// ALSA tells stderr of every device that it does not find, several lines at each try.
-void ignoreAlsaMessage(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
-                       const char* /*format*/, ...) {}
-
-void silenceAlsa() {
-  // Only where SDL has brought it along.
-  void* alsa = ::dlopen("libasound.so.2", RTLD_NOW | RTLD_NOLOAD);
-  int (*setHandler)(decltype(&ignoreAlsaMessage)) = nullptr;
-  if (alsa != nullptr && find(alsa, "snd_lib_error_set_handler", setHandler)) {
-    setHandler(&ignoreAlsaMessage);
-  }
-}
-
 }  // namespace
 
 std::optional<SdlLibrary> SdlLibrary::load(const char* file) {
@@ -48,7 +35,6 @@ std::optional<SdlLibrary> SdlLibrary::load(const char* file) {
     return std::nullopt;
   }
   sdl.setHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-  silenceAlsa();
   return sdl;
 }
 

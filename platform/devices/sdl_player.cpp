@@ -8,7 +8,7 @@ namespace platform {
 namespace {
 
 // The sound systems of a desktop, by SDL's names, in the order in which they are tried. SDL's other
-// ones are left out: some talk to stderr, some write files.
+// ones are left out: no desktop has them, and some write files.
 constexpr std::array<const char*, 3> kDrivers{"pulseaudio", "pipewire", "alsa"};
 
 bool driverIsChosenByTheUser() {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/devices/own_files.h"
 #include "platform/devices/quiet_thread.h"
 #include "platform/devices/sdl_player.h"
 #include "platform/devices/sound_desk.h"
@@ -46,22 +47,24 @@ void playRequest(SoundDesk& desk, SdlPlayer& player, const SoundRequest& request
     return;
   }
   if (!player.open(wave->spec)) {
-    desk.complain(player.error());
+    desk.sendComplaint(player.error());
     return;
   }
   if (Clock::now() - request.asked > kLatestStart) {
-    desk.complain("the sound system took too long");
+    desk.sendComplaint("the sound system took too long");
     return;
   }
   if (!player.play(*wave)) {
-    desk.complain(player.error());
+    desk.sendComplaint(player.error());
     return;
   }
   hearOut(desk, player, wave->length());
 }
 
-// The whole life of the sound thread.
+// The whole life of the sound thread. The libraries of a sound system write what they like to the
+// error stream, from threads of their own, too: theirs is not the program's.
 void serve(SoundDesk& desk) {
+  takeOwnFiles();
   std::optional<SdlLibrary> sdl;
   std::optional<SdlPlayer> player;
   while (true) {
@@ -72,7 +75,7 @@ void serve(SoundDesk& desk) {
     if (!player) {
       sdl = SdlLibrary::load();
       if (!sdl) {
-        desk.complain("SDL2 is missing");
+        desk.sendComplaint("SDL2 is missing");
         continue;
       }
       player.emplace(*sdl);

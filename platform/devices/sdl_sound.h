@@ -15,7 +15,8 @@ class SoundDesk;
 //
 // A new sound cuts off the one before. A file that is missing or is no sound gives a beep; where
 // there is no device, or it takes more than a second to come up, there is silence, and one line on
-// stderr in the whole run.
+// stderr in the whole run. What the system's sound libraries write there themselves does not come
+// through.
 //
 // Nobody ever waits for the thread: a sound server that hangs may hold it for half a minute. It
 // outlives this object when need be, with what it shares with it.

@@ -30,24 +30,31 @@ bool SoundDesk::rest(std::chrono::milliseconds time) {
 }
 
 void SoundDesk::sendBeep() {
+  send([this] { beep(); });
+}
+
+void SoundDesk::sendComplaint(const std::string& why) {
+  if (std::exchange(complained_, true)) {
+    return;
+  }
+  // Here, where the words are the thread's alone, and in one line whatever they are.
+  const QByteArray line = QByteArray::fromStdString(why).simplified();
+  send([line] { qWarning("No sound: %s", line.constData()); });
+}
+
+void SoundDesk::send(std::function<void()> action) {
   // Under the lock: the program's event queue stands as long as the desk is open.
   const std::lock_guard lock(mutex_);
   if (closed_) {
     return;
   }
-  const auto beepIfOpen = [weak = weak_from_this()] {
+  const auto doIfOpen = [weak = weak_from_this(), action = std::move(action)] {
     const auto desk = weak.lock();
     if (desk && !desk->isClosed()) {
-      desk->beep();
+      action();
     }
   };
-  QMetaObject::invokeMethod(QCoreApplication::instance(), beepIfOpen, Qt::QueuedConnection);
-}
-
-void SoundDesk::complain(const std::string& why) {
-  if (!std::exchange(complained_, true)) {
-    qWarning("No sound: %s", why.c_str());
-  }
+  QMetaObject::invokeMethod(QCoreApplication::instance(), doIfOpen, Qt::QueuedConnection);
 }
 
 bool SoundDesk::isClosed() {

@@ -36,10 +36,12 @@ class SoundDesk : public std::enable_shared_from_this<SoundDesk> {
   [[nodiscard]] bool rest(std::chrono::milliseconds time);
   // Has the program beep.
   void sendBeep();
-  // Says on stderr why there is no sound; once in a run.
-  void complain(const std::string& why);
+  // Has the program say on its stderr why there is no sound, in one line; once in a run.
+  void sendComplaint(const std::string& why);
 
  private:
+  // Has the program's thread do something, unless it goes before.
+  void send(std::function<void()> action);
   [[nodiscard]] bool isClosed();
 
   const std::function<void()> beep_;

@@ -59,8 +59,6 @@ class SdlSoundTest : public QObject {
     environment_.insert(QStringLiteral("PULSE_SERVER"), QStringLiteral("unix:") + file("none"));
     environment_.insert(QStringLiteral("PULSE_RUNTIME_PATH"), folder_->path());
     environment_.insert(QStringLiteral("PIPEWIRE_RUNTIME_DIR"), folder_->path());
-    // What a sound system's library itself complains of is not the program's.
-    environment_.insert(QStringLiteral("PIPEWIRE_DEBUG"), QStringLiteral("0"));
   }
 
   void aSoundIsPlayedWholeAndOnce() {
@@ -206,6 +204,36 @@ class SdlSoundTest : public QObject {
     QCOMPARE(outcome.beeps, 1);  // the missing sound's, at once
   }
 
+  void whateverTheLibrariesSayThereIsAtMostOneLineAboutSound_data() {
+    QTest::addColumn<QByteArray>("how");
+    QTest::addColumn<QByteArray>("lines");
+    QTest::newRow("the sound plays") << QByteArray("plays") << QByteArray();
+    QTest::newRow("there is no device")
+        << QByteArray("no device") << QByteArray("No sound: no device here\n");
+    QTest::newRow("the reason has several lines")
+        << QByteArray("many lines") << QByteArray("No sound: first second third\n");
+    QTest::newRow("the system hangs") << QByteArray("hangs") << QByteArray();
+  }
+  void whateverTheLibrariesSayThereIsAtMostOneLineAboutSound() {
+    QFETCH(QByteArray, how);
+    QFETCH(QByteArray, lines);
+    chatter(how);
+    const QString a = write("a.wav", wav(100, 1000));
+    const Outcome outcome = run({a, QStringLiteral("600"), a, QStringLiteral("600")});
+    QVERIFY(QFile::exists(file("chattered")));  // it did write, to streams that were open
+    checkHarmless(outcome);
+    QCOMPARE(outcome.complaints, lines);
+  }
+
+  void theProgramsOwnLinesComeThroughWhileTheSoundSystemChattersAndHangs() {
+    chatter("hangs");
+    environment_.insert(QStringLiteral("PROBE_TALKS"), QStringLiteral("1"));
+    const QString a = write("a.wav", wav(100, 1000));
+    const Outcome outcome = run({a, QStringLiteral("300"), a, QStringLiteral("300")});
+    checkEnd(outcome);
+    QCOMPARE(outcome.complaints, QByteArray("own line\nplain line\n").repeated(2));
+  }
+
   void aSoundThatWaitsForABeepGoesWithItsObject() {
     // A broken file whose beep is under way when the object goes: nobody beeps any more.
     int beeps = 0;
@@ -261,12 +289,23 @@ class SdlSoundTest : public QObject {
     return outcome;
   }
 
-  static void checkHarmless(const Outcome& outcome) {
+  // In the place of the sound library comes one whose every call, and whose own thread, writes to
+  // the standard streams.
+  void chatter(const QByteArray& how) {
+    environment_.insert(QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral(CHATTERING_SDL));
+    environment_.insert(QStringLiteral("CHATTER_HOW"), QString::fromLatin1(how));
+    environment_.insert(QStringLiteral("CHATTER_SEEN"), file("chattered"));
+  }
+
+  static void checkEnd(const Outcome& outcome) {
     QVERIFY(outcome.ended);
     QCOMPARE(outcome.status, 0);
     QCOMPARE(outcome.beeps, 0);
     QVERIFY2(outcome.gap >= 0 && outcome.gap <= 100, qPrintable(QString::number(outcome.gap)));
     QVERIFY(outcome.afterReport < 1000);
+  }
+  static void checkHarmless(const Outcome& outcome) {
+    checkEnd(outcome);
     QVERIFY2(outcome.complaintLines() <= 1, outcome.complaints.constData());
   }
 

@@ -2,7 +2,8 @@
 // milliseconds of the first argument:
 //   probe_sound <idle ms> <sound> <ms> [<sound> <ms> ...]
 // Writes to stdout the longest gap of its event loop, the beeps, how often its threads went to
-// sleep in the idle time, and whether anybody took its signals.
+// sleep in the idle time, and whether anybody took its signals; with PROBE_TALKS=1 after each wait
+// two lines of its own to stderr, "own line" and "plain line". Ends as the program does.
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,6 +15,7 @@
 
 #include "platform/devices/qt_time_source.h"
 #include "platform/devices/sdl_sound.h"
+#include "platform/devices/system_process_end.h"
 
 namespace {
 
@@ -90,6 +92,10 @@ int main(int argc, char** argv) {
     sound.play(arguments[i]);
     worst = std::max(worst, sinceBeat.elapsed());
     waitMilliseconds(time, arguments[i + 1].toInt());
+    if (qEnvironmentVariableIntValue("PROBE_TALKS") == 1) {
+      qWarning("own line");
+      static_cast<void>(std::fputs("plain line\n", stderr));
+    }
   }
   heart.stop();
   const int before = sleeps();
@@ -97,6 +103,6 @@ int main(int argc, char** argv) {
   std::printf("gap %lld beeps %d sleeps %d signals %d\n", static_cast<long long>(worst), beeps,
               sleeps() - before,
               handlesSignal(SIGINT) || handlesSignal(SIGTERM) || aThreadTakesSignals() ? 1 : 0);
-  static_cast<void>(std::fflush(stdout));
+  platform::SystemProcessEnd().end(0);
   return 0;
 }
