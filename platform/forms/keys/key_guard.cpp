@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTimerEvent>
 #include <QWindow>
 #include <algorithm>
@@ -90,8 +91,10 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::ShortcutOverride:
       // Qt's own shortcuts and access keys repeat while a key is held; the guard works them. Alt
-      // alone is no shortcut: the menu bar learns from it that it is to take the keyboard.
+      // alone is no shortcut: the menu bar learns from it that it is to take the keyboard. Neither
+      // is what an open list takes for a choice in it.
       if (isModifier(static_cast<QKeyEvent*>(event)->key())) return false;
+      if (choosesInList(static_cast<QKeyEvent&>(*event))) return false;
       event->accept();
       return true;
     case QEvent::KeyPress:
@@ -108,6 +111,14 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
     default:
       return false;
   }
+}
+
+// Whether a key that begins to be pressed goes to an open list: Qt's lists act before the press
+// itself comes, again and again while a key is held.
+bool KeyGuard::choosesInList(const QKeyEvent& event) const {
+  const QWidget* popup = QApplication::activePopupWidget();
+  if (popup == nullptr || qobject_cast<const QMenu*>(popup) != nullptr) return false;
+  return !event.isAutoRepeat() && !state_.isDown(keyOf(event));
 }
 
 bool KeyGuard::isMainWindow(const QWindow& window) const {
@@ -139,11 +150,12 @@ bool KeyGuard::mayGoOn(const QWindow& window, int destination) {
   return false;
 }
 
-// A box or dialog takes no key before every key that was held at its opening has been let go.
+// A box or dialog takes no key before every key that was held at its opening has been let go. What
+// has gone down since, this press among it, holds nothing up.
 bool KeyGuard::isBlocked(const QWindow& window) {
   if (isShut(window)) return true;
   if (isMainWindow(window) || !state_.anyHeldOver()) return false;
-  if (const auto down = keysDownNow()) state_.heldOver(*down, now());
+  if (const auto down = keysDownNow()) state_.stillHeldOver(*down);
   return state_.anyHeldOver();
 }
 

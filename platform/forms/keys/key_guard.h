@@ -37,6 +37,7 @@ class KeyGuard final : public QObject {
   [[nodiscard]] bool isBlocked(const QWindow& window);
   bool mouse(QWindow& window, const QMouseEvent& event);
   bool worked(QWindow& window, const QKeyEvent& event);
+  [[nodiscard]] bool choosesInList(const QKeyEvent& event) const;
   [[nodiscard]] bool isMainWindow(const QWindow& window) const;
   [[nodiscard]] bool isShut(const QWindow& window) const;
   [[nodiscard]] int ownerOf(const QWindow& window) const;

@@ -162,6 +162,17 @@ void KeyState::heldOver(std::span<const KeyId> ids, std::chrono::milliseconds ar
   }
 }
 
+void KeyState::stillHeldOver(std::span<const KeyId> ids) {
+  std::erase_if(entries_, [&](const Entry& entry) {
+    return entry.muted && !entry.gone && std::ranges::find(ids, entry.key.id) == ids.end();
+  });
+}
+
+bool KeyState::isDown(KeyId id) const {
+  return std::ranges::any_of(
+      entries_, [id](const Entry& entry) { return entry.key.id == id && !entry.gone; });
+}
+
 bool KeyState::anyHeldOver() const {
   return std::ranges::any_of(entries_,
                              [](const Entry& entry) { return entry.muted && !entry.gone; });

@@ -110,6 +110,11 @@ class KeyState {
   // press did come here stays as it is. arrival: now, by the clock of KeyInput's arrival.
   void heldOver(std::span<const KeyId> ids, std::chrono::milliseconds arrival);
 
+  // Of the keys that were held over those alone stay so that are among ids: the others have been
+  // let go without a word.
+  void stillHeldOver(std::span<const KeyId> ids);
+  // Whether a key is down as far as is known, wherever it was pressed.
+  [[nodiscard]] bool isDown(KeyId id) const;
   // Whether a key that was held over is still down.
   [[nodiscard]] bool anyHeldOver() const;
 

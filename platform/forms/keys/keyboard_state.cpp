@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <cstdlib>
 #include <memory>
+#include <unordered_set>
 
 // The header names a field with a word that C++ keeps for itself.
 #define explicit explicit_
@@ -37,6 +38,14 @@ bool serverTellsRepeatsApart(xcb_connection_t* display) {
   return flags && (flags->value & kFlag) != 0;
 }
 
+std::unordered_set<std::uint32_t> modifiers(xcb_connection_t* display) {
+  const std::unique_ptr<xcb_get_modifier_mapping_reply_t, Free> mapping(
+      xcb_get_modifier_mapping_reply(display, xcb_get_modifier_mapping(display), nullptr));
+  if (!mapping) return {};
+  const xcb_keycode_t* codes = xcb_get_modifier_mapping_keycodes(mapping.get());
+  return {codes, codes + xcb_get_modifier_mapping_keycodes_length(mapping.get())};
+}
+
 }  // namespace
 
 RepeatMarks askForRepeatMarks() {
@@ -51,9 +60,11 @@ std::optional<std::vector<KeyId>> keysDownNow() {
   const std::unique_ptr<xcb_query_keymap_reply_t, Free> reply(
       xcb_query_keymap_reply(display, xcb_query_keymap(display), nullptr));
   if (!reply) return std::nullopt;
+  const std::unordered_set<std::uint32_t> silent = modifiers(display);
   std::vector<KeyId> keys;
   for (std::uint32_t code = 0; code < 256; ++code) {
-    if ((reply->keys[code / 8] >> (code % 8) & 1) != 0) keys.push_back(KeyId::of(code, 0));
+    const bool down = (reply->keys[code / 8] >> (code % 8) & 1) != 0;
+    if (down && !silent.contains(code)) keys.push_back(KeyId::of(code, 0));
   }
   return keys;
 }

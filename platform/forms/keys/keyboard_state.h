@@ -13,7 +13,8 @@ namespace platform {
 // goes up, where it can be asked.
 [[nodiscard]] RepeatMarks askForRepeatMarks();
 
-// The keys that are down at this moment; nothing where the server cannot be asked.
+// The keys that are down at this moment, without the modifiers (Shift, Alt and their like), which
+// do nothing by themselves; nothing where the server cannot be asked.
 [[nodiscard]] std::optional<std::vector<KeyId>> keysDownNow();
 
 }  // namespace platform

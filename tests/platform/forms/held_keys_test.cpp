@@ -121,6 +121,23 @@ class HeldKeysTest : public QObject {
     QVERIFY(!anyDown(state));
   }
 
+  void ofTheKeysHeldOverThoseAloneStaySoThatAreStillDown() {
+    KeyState state(RepeatMarks::PressesOnly);
+    state.heldOver(std::array{kSpace}, 1000ms);
+    // Enter has gone down since: its own press is on its way.
+    state.stillHeldOver(std::array{kSpace, kEnter});
+    QVERIFY(state.anyHeldOver());
+    QVERIFY(state.isDown(kSpace) && !state.isDown(kEnter));
+    state.stillHeldOver(std::array{kEnter});
+    QVERIFY(!state.anyHeldOver());
+    QVERIFY(!state.isDown(kSpace));
+    QVERIFY(state.press(at(kEnter, 1100ms), 1).verdict == Press::Accepted);
+    // A key that was pressed here is nobody's to let go.
+    state.stillHeldOver({});
+    QVERIFY(state.isDown(kEnter));
+    QVERIFY(state.release(at(kEnter, 1200ms)).verdict == Release::Accepted);
+  }
+
   void aKeyReleasedHereBeforeCanBeHeldOver() {
     KeyState state(RepeatMarks::Unreliable);
     QVERIFY(state.press(at(kSpace, 1000ms), 1).verdict == Press::Accepted);

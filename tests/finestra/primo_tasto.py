@@ -1,0 +1,112 @@
+#!/usr/bin/python3
+"""Sends keys to a window with a menu, a message box and a dialog, and looks which of them arrive.
+
+    primo_tasto.py <program>
+
+The first key in what Alt and a letter have opened acts, also while Alt is still held; a key that is
+held over the opening does not act there; Esc closes the dialog after it has closed a list. Ends with
+0 when all of this holds.
+"""
+
+import os
+import subprocess
+import sys
+import threading
+import time
+
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "tools", "prova"))
+
+from schermo import Schermo, termina  # noqa: E402
+
+# What is done, by xdotool, and the lines that it must have brought by its end, in order.
+PROVE = [
+    ("menu, by arrow and Enter", [("key", "alt+m"), ("key", "Down"), ("key", "Return")],
+     ["item chosen"]),
+    ("box, by Enter", [("key", "alt+b"), ("key", "Return")], ["box open", "box closed"]),
+    ("box, by Space", [("key", "alt+b"), ("key", "space")], ["box open", "box closed"]),
+    ("box, while Alt is held", [("keydown", "alt"), ("key", "b"), ("key", "Return"),
+                                ("keyup", "alt")], ["box open", "box closed"]),
+    ("box, by the Enter that opened it", [("key", "Tab"), ("key", "shift+Tab"),
+                                          ("keydown", "Return"), ("wait", "1"),
+                                          ("keyup", "Return")], ["box open"]),
+    ("box, by the next Enter", [("key", "Return")], ["box closed"]),
+    ("dialog, by Esc", [("key", "alt+d"), ("key", "Escape")], ["dialog open", "dialog closed"]),
+    ("dialog, list opened and closed by Esc, then Esc",
+     [("key", "alt+d"), ("key", "space"), ("key", "Escape"), ("key", "Escape")],
+     ["dialog open", "dialog closed"]),
+    ("dialog, list opened, line chosen, then Esc",
+     [("key", "alt+d"), ("key", "space"), ("key", "Down"), ("key", "Return"), ("key", "Escape")],
+     ["dialog open", "line chosen", "dialog closed"]),
+    ("dialog, list opened by a key that is held", [("key", "alt+d"), ("keydown", "alt"),
+                                                   ("keydown", "Down"), ("wait", "1"),
+                                                   ("keyup", "Down"), ("keyup", "alt"),
+                                                   ("key", "Escape"), ("key", "Escape")],
+     ["dialog open", "dialog closed"]),
+]
+PAUSA = 0.5  # seconds after each key; a busy machine shows its windows late
+
+
+class Tasti:
+    """The program and the lines that it writes, as they come."""
+
+    def __init__(self, schermo, programma):
+        self._processo = schermo.avvia(programma, stdout=subprocess.PIPE, text=True)
+        self.righe = []
+        self._pronta = threading.Event()
+        threading.Thread(target=self._leggi, daemon=True).start()
+        if not self._pronta.wait(30):
+            raise SystemExit("the window does not come up")
+        subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Tasti",
+                        "windowfocus", "--sync"], check=True, timeout=30,
+                       stdout=subprocess.DEVNULL)
+        time.sleep(PAUSA)
+
+    def _leggi(self):
+        for riga in self._processo.stdout:
+            if riga.strip() == "ready":
+                self._pronta.set()
+            else:
+                self.righe.append(riga.strip())
+
+    def attendi(self, quante, secondi=3):
+        """Until so many lines have come, or the time is over."""
+        fine = time.monotonic() + secondi
+        while len(self.righe) < quante and time.monotonic() < fine:
+            time.sleep(0.05)
+
+    def chiudi(self):
+        termina(self._processo)
+
+
+def fai(tasti, gesti, attese):
+    tasti.righe.clear()
+    for gesto, cosa in gesti:
+        if gesto == "wait":
+            time.sleep(float(cosa))
+            continue
+        subprocess.run(["xdotool", gesto, cosa], check=True, timeout=30)
+        time.sleep(PAUSA)
+    tasti.attendi(len(attese))
+    return list(tasti.righe)
+
+
+def main():
+    sbagliate = 0
+    with Schermo(800, 600) as schermo:
+        tasti = Tasti(schermo, sys.argv[1])
+        for nome, gesti, attese in PROVE:
+            venute = fai(tasti, gesti, attese)
+            giusto = venute == attese
+            sbagliate += not giusto
+            print(f"{nome}: {', '.join(venute) or 'nothing'} {'' if giusto else 'WRONG'}",
+                  flush=True)
+            if not giusto:  # whatever is open is closed for the next
+                for _ in range(4):
+                    subprocess.run(["xdotool", "key", "Escape"], check=True, timeout=30)
+                    time.sleep(PAUSA)
+        tasti.chiudi()
+    return 1 if sbagliate else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
