@@ -66,13 +66,15 @@ FormBarre10::FormBarre10(Ambiente& ambiente) : FormaBarrePulsanti(ambiente, kDis
 void FormBarre10::onLoad() {
   FormaBarrePulsanti::onLoad();
   PulsanteNumero.forEach([this](platform::Button& pulsante) {
+    numeri_.add(pulsante);
     pulsante.onClick([this, numero = pulsante.index()] { Rispondi(numero); });
   });
 }
 
 void FormBarre10::NuovoCaso() {
   newCase();
-  for (int i = 0; i <= stato().LimiteEsercizio; ++i) PulsanteNumero[i].setEnabled(true);
+  numeri_.setEnabled(stato().LimiteEsercizio + 1, true);
+  if (PulsanteAvanti.hasFocus()) numeri_.focusAgain();
   PulsanteAvanti.setEnabled(false);
   NascondiAiuti();
   GeneraPerTipo();
@@ -96,8 +98,8 @@ void FormBarre10::RispostaGiusta(int numero) {
   SegnaRisolto();
   for (int i = 0; i <= stato().LimiteEsercizio; ++i) {
     if (i != numero) PulsanteNumero[i].setBackColor(kGrigio);
-    PulsanteNumero[i].setEnabled(false);
   }
+  numeri_.setEnabled(stato().LimiteEsercizio + 1, false);
   PulsanteAvanti.setFocus();
 }
 

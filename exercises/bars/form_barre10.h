@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exercises/bars/forma_barre_pulsanti.h"
+#include "platform/forms/controls/button_group.h"
 
 namespace somme {
 
@@ -21,6 +22,8 @@ class FormBarre10 final : public FormaBarrePulsanti {
  private:
   void Rispondi(int numero);
   void RispostaGiusta(int numero);
+
+  platform::ButtonGroup numeri_;
 };
 
 }  // namespace somme

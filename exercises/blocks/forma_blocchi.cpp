@@ -188,6 +188,7 @@ void FormaBlocchi::GiudicaTavola() {
   Fase = 3;
   Incornicia(Label3);
   TogliComandi();
+  RiposaIlFuoco();
   SegnaPassoGiusto();
   Attendi(ambiente(), kAttesaUnione);
   UnisciTavole();
@@ -228,11 +229,16 @@ void FormaBlocchi::Cambia(std::size_t quale) {
   platform::Button& pulsante = PulsanteDelCambio(quale);
   if (!pulsante.isVisible()) return;
   pulsante.setVisible(false);
+  RiposaIlFuoco();
   cambioDelCaso_ = caseNumber();
   ShockwaveFlash3.gotoFrame(esercizio_.cambi[quale].fotogramma);
   ShockwaveFlash3.play();
   Attendi(ambiente(), kAttesaCambio);
   ChiediCambioDa(quale + 1);
+}
+
+void FormaBlocchi::RiposaIlFuoco() {
+  if (page()->canvas()->focusWidget() == nullptr) EtOperazione.setFocus();
 }
 
 void FormaBlocchi::ComandoDelFilmato(const QString& args) {

@@ -51,6 +51,8 @@ class FormaBlocchi : public FormaEsercizio {
   // The button of a carry, by the carry's place among those of the exercise.
   [[nodiscard]] virtual platform::Button& PulsanteDelCambio(std::size_t quale) = 0;
   virtual void MostraCambio(platform::Button& pulsante) { pulsante.setVisible(true); }
+  // While nothing of the case can be pressed, the focus rests on the question.
+  void RiposaIlFuoco();
   // Boards and carries are done: the result can be given.
   virtual void ChiediRisultato() = 0;
   // The result is right: the way to the next case opens.

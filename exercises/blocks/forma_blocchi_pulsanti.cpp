@@ -14,12 +14,22 @@ FormaBlocchiPulsanti::FormaBlocchiPulsanti(Ambiente& ambiente, const platform::F
 void FormaBlocchiPulsanti::onLoad() {
   ConAvanti::onLoad();
   PulsanteAvanti.setVisible(true);
+  // The buttons in the panel, in the order of the design.
+  for (platform::Control* controllo : controls()) {
+    auto* pulsante = dynamic_cast<platform::Button*>(controllo);
+    const bool comando =
+        pulsante != nullptr && pulsante->surroundings() == PicturePulsanti.container();
+    if (comando) comandi_.add(*pulsante);
+  }
   if (stato().CursoreDiSistema) ImpostaCursoreSistema();
 }
 
 void FormaBlocchiPulsanti::MettiComandi(const platform::Label& ancora) {
   PicturePulsanti.setLeft(ancora.left());
   PicturePulsanti.setVisible(true);
+  // The button of the case before cannot be pressed any more.
+  const bool perso = page()->canvas()->focusWidget() == nullptr || EtOperazione.hasFocus();
+  if (perso) comandi_.focusFirst();
 }
 
 void FormaBlocchiPulsanti::SpostaComandi(const platform::Label& ancora) {

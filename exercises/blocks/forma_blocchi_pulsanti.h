@@ -2,6 +2,7 @@
 
 #include "exercises/blocks/forma_blocchi.h"
 #include "exercises/core/con_avanti.h"
+#include "platform/forms/controls/button_group.h"
 #include "platform/forms/controls/picture_box.h"
 
 namespace somme {
@@ -34,6 +35,9 @@ class FormaBlocchiPulsanti : public ConAvanti<FormaBlocchi> {
   void ClicSpecie(const platform::Button& pulsante, const SpecieBlocchi& specie);
   void ClicCestino();
   void ClicConferma();
+
+ private:
+  platform::ButtonGroup comandi_;
 };
 
 }  // namespace somme

@@ -78,7 +78,7 @@ FormTabella::FormTabella(Ambiente& ambiente)
     PulsanteAvanti.setEnabled(false);
     NuovoCaso();
     // While the whole grid was spent nothing could take the focus from the button.
-    if (page()->canvas()->focusWidget() == nullptr) Numero[0].setFocus();
+    if (page()->canvas()->focusWidget() == nullptr) celle_.focusAgain();
   });
   mnuFacile.onClick([this] { ScegliDifficolta(mnuFacile); });
   mnuMedia.onClick([this] { ScegliDifficolta(mnuMedia); });
@@ -88,6 +88,7 @@ FormTabella::FormTabella(Ambiente& ambiente)
 // The pointer is set whatever `CursoreDiSistema` says. There is one picture of the program's own
 // pointer, so that no cell needs to be handed another control's.
 void FormTabella::onLoad() {
+  Numero.forEach([this](platform::Button& cella) { celle_.add(cella); });
   ApplicaLingua(ambiente(), *this);
   EssResizer1.start();
   ImpostaCursoreSistema();
@@ -133,10 +134,8 @@ void FormTabella::Es_Caso(int tipo) {
 void FormTabella::NuovoCaso() {
   newCase();
   Es_Caso(stato().TipoEsercizio);
-  for (int i = 0; i < kCelle; ++i) {
-    Numero[i].setEnabled(true);
-    Numero[i].setBackColor(kAperta);
-  }
+  celle_.setEnabled(kCelle, true);
+  Numero.forEach([](platform::Button& cella) { cella.setBackColor(kAperta); });
 }
 
 void FormTabella::Rispondi(int numero) {
@@ -157,7 +156,7 @@ void FormTabella::RispostaGiusta(int numero) {
   PulsanteAvanti.setEnabled(true);
   AggiungiRiga(EtichettaNumero.caption() + platform::leadingBlank(numero));
   Numero[numero].setBackColor(kVerde);
-  for (int i = 0; i < kCelle; ++i) Numero[i].setEnabled(false);
+  celle_.setEnabled(kCelle, false);
   PulsanteAvanti.setFocus();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exercises/core/forma_esercizio.h"
+#include "platform/forms/controls/button_group.h"
 
 namespace somme {
 
@@ -53,6 +54,8 @@ class FormTabella final : public FormaEsercizio {
   void Rispondi(int numero);
   void RispostaGiusta(int numero);
   void ScegliDifficolta(const platform::MenuItem& scelta);
+
+  platform::ButtonGroup celle_;
 };
 
 }  // namespace somme

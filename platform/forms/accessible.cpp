@@ -13,6 +13,9 @@ namespace platform {
 
 namespace {
 
+// How many changes of many states are going on; widgets live on one thread only.
+int statesToldLater = 0;
+
 // Qt's own interface of a button clicks 100 ms after the action, also a button that was disabled
 // meanwhile; this one posts the click.
 class AccessibleButton final : public QAccessibleWidget {
@@ -84,6 +87,18 @@ QWidget* focusSpoken() {
   QWidget* focus = QApplication::focusWidget();
   const auto* panel = qobject_cast<KeyPanelWidget*>(focus);
   return panel != nullptr && panel->pointed() != nullptr ? panel->pointed() : focus;
+}
+
+StatesToldLater::StatesToldLater() {
+  ++statesToldLater;
+}
+
+StatesToldLater::~StatesToldLater() {
+  --statesToldLater;
+}
+
+bool StatesToldLater::holds() {
+  return statesToldLater > 0;
 }
 
 void installAccessibility() {

@@ -11,4 +11,17 @@ void installAccessibility();
 // the keyboard points at; null without either.
 [[nodiscard]] QWidget* focusSpoken();
 
+// While one lives, a button that is enabled or disabled tells it only when the focus comes to it:
+// for changes of many at once, which would drown what is to be heard. Whoever asks a button for its
+// state gets it as it is.
+class StatesToldLater {
+ public:
+  StatesToldLater();
+  ~StatesToldLater();
+  StatesToldLater(const StatesToldLater&) = delete;
+  StatesToldLater& operator=(const StatesToldLater&) = delete;
+
+  [[nodiscard]] static bool holds();
+};
+
 }  // namespace platform

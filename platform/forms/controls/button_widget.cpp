@@ -1,10 +1,13 @@
 #include "platform/forms/controls/button_widget.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <utility>
 
+#include "platform/forms/accessible.h"
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
@@ -60,6 +63,15 @@ void ButtonWidget::resizeEvent(QResizeEvent* event) {
 }
 
 void ButtonWidget::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::EnabledChange) {
+    if (StatesToldLater::holds()) {
+      stateUntold_ = !stateUntold_;
+      letGo();
+      update();
+      return;
+    }
+    stateUntold_ = false;
+  }
   QAbstractButton::changeEvent(event);
   if (event->type() == QEvent::FontChange) captionChanged();
 }
@@ -105,6 +117,16 @@ void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !isDown()) return;
   setDown(false);
   if (rect().contains(event->position().toPoint())) clicked_();
+}
+
+void ButtonWidget::focusInEvent(QFocusEvent* event) {
+  if (std::exchange(stateUntold_, false)) {
+    QAccessible::State changed;
+    changed.disabled = true;
+    QAccessibleStateChangeEvent told(this, changed);
+    QAccessible::updateAccessibility(&told);
+  }
+  QAbstractButton::focusInEvent(event);
 }
 
 void ButtonWidget::focusOutEvent(QFocusEvent* event) {

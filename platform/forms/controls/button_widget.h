@@ -39,6 +39,7 @@ class ButtonWidget final : public QAbstractButton {
   void keyReleaseEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -60,6 +61,7 @@ class ButtonWidget final : public QAbstractButton {
   std::optional<QColor> ground_;
   TextBlock block_;
   CaptionSize* shared_ = nullptr;
+  bool stateUntold_ = false;  // assistive technology takes it for enabled, or disabled, wrongly
 };
 
 }  // namespace platform

@@ -194,6 +194,30 @@ class FormBarre10Test : public QObject {
     }
   }
 
+  void arrowKeysWalkTheNumbersAndANewCaseBeginsWhereTheyWere() {
+    Banco banco;
+    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    forma.PulsanteNumero[0].setFocus();
+    banco.batti(Qt::Key_End);
+    QVERIFY(forma.PulsanteNumero[10].hasFocus());
+    banco.batti(Qt::Key_Left);
+    banco.batti(Qt::Key_Left);
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    forma.PulsanteNumero[9].setFocus();
+    banco.batti(Qt::Key_Left);  // over the spent 8
+    QVERIFY(forma.PulsanteNumero[7].hasFocus());
+    banco.batti(Qt::Key_Down);
+    QVERIFY(forma.PulsanteNumero[7].hasFocus());
+    banco.batti(Qt::Key_Return);
+    QVERIFY(forma.PulsanteAvanti.hasFocus());
+    banco.sorte.scrivi({{4, 10}, {2, 5}});
+    banco.batti(Qt::Key_Return);
+    QVERIFY(forma.PulsanteNumero[7].hasFocus());
+    banco.batti(Qt::Key_Home);
+    QVERIFY(forma.PulsanteNumero[0].hasFocus());
+  }
+
   void everyWrongPressCountsUntilTheRightOne() {
     Banco banco;
     FormBarre10& forma = apriBarre10(banco, 7, 3);

@@ -107,6 +107,9 @@ class CasoLUTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QVERIFY(!forma.PulsanteAvanti.isEnabled());
+    // Enter was for the button with the focus, which is the first of the blocks.
+    QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("1da 0u"));
+    banco.clicca(forma.PulsanteCestino);
     unisci(banco, forma);
     QCOMPARE(forma.TestoInput.text(), QString());
     rispondi(banco, forma, QStringLiteral("38"));

@@ -1,0 +1,114 @@
+#include <QApplication>
+
+#include "blocchi_toccati.h"
+#include "exercises/blocks/form_hlu.h"
+#include "exercises/blocks/form_lu.h"
+
+using namespace prova;
+
+namespace {
+
+// Where the keyboard is; empty where it is nowhere, or on what is not on the screen or takes no
+// keys.
+QString fuoco() {
+  const QWidget* ha = QApplication::focusWidget();
+  return ha == nullptr || !ha->isVisible() || !ha->isEnabled() ? QString() : ha->objectName();
+}
+
+// Where it is in the middle of the wait that begins next.
+void guardaNellAttesa(Banco& banco, double secondi, QString& dove) {
+  banco.tempo.after(secondi, [&dove] { dove = fuoco(); });
+}
+
+template <class F>
+F& aperta(Banco& banco, int addendo1, int addendo2) {
+  if constexpr (std::is_same_v<F, somme::FormLUHK>) return apriLU(banco, addendo1, addendo2);
+  if constexpr (std::is_same_v<F, somme::FormHLUHK>) return apriHLU(banco, addendo1, addendo2);
+  constexpr bool kCentinaia = std::is_same_v<F, somme::FormHLU>;
+  banco.ambiente->stato.TipoEsercizio = kCentinaia ? kConESenzaCambi : kConESenzaCambio;
+  banco.sorte.scrivi(kCentinaia ? casoHLU(addendo1, addendo2) : casoLU(addendo1, addendo2));
+  return banco.apri<F>(kCentinaia ? somme::forme::kFormHLU : somme::forme::kFormLU);
+}
+
+}  // namespace
+
+// The keyboard is somewhere at every moment of a case of blocks.
+class FuocoBlocchiTest : public QObject {
+  Q_OBJECT
+
+  // A whole sum with a carry from the units, and the beginning of the next.
+  template <class F>
+  static void provaUnCaso(const QString& primo) {
+    Banco banco;
+    F& forma = aperta<F>(banco, 27, 15);
+    QCOMPARE(fuoco(), primo);
+    costruisci(banco, forma, 27);
+    forma.PulsanteConferma.setFocus();
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(fuoco(), QStringLiteral("PulsanteConferma"));
+    costruisci(banco, forma, 15);
+    forma.PulsanteConferma.setFocus();
+    QString unione;
+    guardaNellAttesa(banco, 1, unione);
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(unione, QStringLiteral("EtOperazione"));
+    QCOMPARE(fuoco(), QStringLiteral("EtOperazione"));
+    banco.batti(Qt::Key_Tab);
+    QVERIFY2(fuoco().startsWith(QStringLiteral("PulsanteCambio")), qPrintable(fuoco()));
+    QString cambio;
+    guardaNellAttesa(banco, 2, cambio);
+    banco.batti(Qt::Key_Space);
+    QCOMPARE(cambio, QStringLiteral("EtOperazione"));
+    if constexpr (requires { forma.TestoInput; }) {
+      QCOMPARE(fuoco(), QStringLiteral("TestoInput"));
+      rispondi(banco, forma, QStringLiteral("42"));
+    }
+    QCOMPARE(fuoco(), QStringLiteral("PulsanteAvanti"));
+    banco.sorte.scrivi(primo == QStringLiteral("PulsanteH") ? casoHLU(3, 4) : casoLU(3, 4));
+    banco.batti(Qt::Key_Return);
+    QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 = "));
+    QCOMPARE(fuoco(), primo);
+  }
+
+ private Q_SLOTS:
+  void byButtonsUpTo99() { provaUnCaso<somme::FormLU>(QStringLiteral("PulsanteDa")); }
+  void byButtonsUpTo999() { provaUnCaso<somme::FormHLU>(QStringLiteral("PulsanteH")); }
+  void onTheTouchFormUpTo99() { provaUnCaso<somme::FormLUHK>(QStringLiteral("PulsanteDa")); }
+  void onTheTouchFormUpTo999() { provaUnCaso<somme::FormHLUHK>(QStringLiteral("PulsanteH")); }
+
+  void aNewCaseByTheSheetFindsTheFirstButtonWhereverTheLastWasLeft() {
+    Banco banco;
+    aperta<somme::FormLUHK>(banco, 27, 15);
+    unisciToccando(banco);
+    QCOMPARE(fuoco(), QStringLiteral("EtOperazione"));
+    banco.sorte.scrivi(casoLU(3, 4));
+    premi(banco, kAvanti);
+    QCOMPARE(fuoco(), QStringLiteral("PulsanteDa"));
+  }
+
+  void aFocusThatIsOnAButtonStaysThereWhenTheSheetBeginsANewCase() {
+    Banco banco;
+    auto& forma = aperta<somme::FormLUHK>(banco, 27, 15);
+    forma.PulsanteCestino.setFocus();
+    banco.sorte.scrivi(casoLU(3, 4));
+    premi(banco, kAvanti);
+    QCOMPARE(fuoco(), QStringLiteral("PulsanteCestino"));
+  }
+
+  void arrowKeysWalkTheButtonsOfTheBlocks() {
+    Banco banco;
+    aperta<somme::FormHLU>(banco, 27, 15);
+    QStringList visitati;
+    for (const int tasto : {Qt::Key_Right, Qt::Key_Right, Qt::Key_End, Qt::Key_Right, Qt::Key_Left,
+                            Qt::Key_Home, Qt::Key_Up}) {
+      banco.batti(tasto);
+      visitati.append(fuoco());
+    }
+    QCOMPARE(visitati.join(u' '),
+             QStringLiteral("PulsanteDa PulsanteU PulsanteConferma PulsanteConferma "
+                            "PulsanteCestino PulsanteH PulsanteH"));
+  }
+};
+
+QTEST_MAIN(FuocoBlocchiTest)
+#include "fuoco_blocchi_test.moc"
