@@ -16,7 +16,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "tools", "prova"))
 
-from schermo import Schermo, termina  # noqa: E402
+from schermo import Schermo  # noqa: E402
 
 # What is done, by xdotool, and the lines that it must have brought by its end, in order.
 PROVE = [
@@ -75,7 +75,7 @@ class Tasti:
             time.sleep(0.05)
 
     def chiudi(self):
-        termina(self._processo)
+        self._processo.termina()
 
 
 def fai(tasti, gesti, attese):
