@@ -3,11 +3,14 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <algorithm>
+#include <array>
 
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/image_widget.h"
 #include "platform/forms/controls/key_panel_widget.h"
 #include "platform/forms/controls/panel_widget.h"
+#include "platform/forms/keys/key_codes.h"
 
 namespace platform {
 
@@ -47,7 +50,18 @@ class AccessibleButton final : public QAccessibleWidget {
   }
 };
 
+// The keys of those who have one or two, as assistive technology calls and taps them.
+struct SwitchKey {
+  QLatin1String name;
+  int keyCode;
+};
+constexpr auto kSwitchKeys = std::to_array<SwitchKey>({
+    {QLatin1String("Space"), kKeySpace},
+    {QLatin1String("Enter"), kKeyEnter},
+});
+
 // The keys that it holds act on what it points at, which is what has the focus for whoever listens.
+// Who has no key at all taps them by its actions.
 class AccessibleKeyPanel final : public QAccessibleWidget {
  public:
   explicit AccessibleKeyPanel(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
@@ -61,6 +75,24 @@ class AccessibleKeyPanel final : public QAccessibleWidget {
   [[nodiscard]] QAccessibleInterface* focusChild() const override {
     QWidget* spoken = focusSpoken();
     return widget()->hasFocus() ? QAccessible::queryAccessibleInterface(spoken) : nullptr;
+  }
+
+  [[nodiscard]] QStringList actionNames() const override {
+    QStringList names;
+    for (const SwitchKey& key : kSwitchKeys) names.append(key.name);
+    return names + QAccessibleWidget::actionNames();
+  }
+
+  void doAction(const QString& action) override {
+    const auto named = [&action](const SwitchKey& key) { return key.name == action; };
+    const auto* key = std::find_if(kSwitchKeys.begin(), kSwitchKeys.end(), named);
+    if (key == kSwitchKeys.end()) {
+      QAccessibleWidget::doAction(action);
+      return;
+    }
+    auto* panel = static_cast<KeyPanelWidget*>(widget());
+    QMetaObject::invokeMethod(
+        panel, [panel, code = key->keyCode] { panel->tap(code); }, Qt::QueuedConnection);
   }
 };
 

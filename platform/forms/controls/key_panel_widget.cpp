@@ -1,6 +1,7 @@
 #include "platform/forms/controls/key_panel_widget.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QKeyEvent>
 
 #include "platform/forms/keys/key_codes.h"
@@ -16,6 +17,15 @@ void KeyPanelWidget::pointAt(QWidget* widget) {
   if (pointed_ == widget) return;
   pointed_ = widget;
   if (hasFocus()) tell();
+}
+
+void KeyPanelWidget::tap(int keyCode) {
+  if (window()->focusWidget() != this || !isEnabled() || !isVisible()) return;
+  if (QApplication::activePopupWidget() != nullptr) return;
+  if (QApplication::activeModalWidget() != nullptr) return;
+  const QPointer<KeyPanelWidget> alive(this);
+  down_(keyCode);
+  if (alive) up_(keyCode);
 }
 
 void KeyPanelWidget::tell() {

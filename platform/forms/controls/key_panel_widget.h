@@ -18,6 +18,10 @@ class KeyPanelWidget final : public QWidget {
   void pointAt(QWidget* widget);
   [[nodiscard]] QWidget* pointed() const { return pointed_; }
 
+  // A press and a release of a key from outside of the keyboard. Nothing happens where a key would
+  // not come here either: another control of the form has the keyboard, or a menu or a box is open.
+  void tap(int keyCode);
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;

@@ -1,6 +1,7 @@
 #include "platform/forms/controls/menu_item.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMenu>
 
 #include "platform/forms/form.h"
@@ -8,6 +9,17 @@
 #include "platform/forms/runtime.h"
 
 namespace platform {
+
+namespace {
+
+// The toolkit closes the menus before an item acts, but not when assistive technology presses it.
+void closeMenus() {
+  while (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+    if (!menu->close()) return;
+  }
+}
+
+}  // namespace
 
 MenuItem::~MenuItem() {
   delete action_.data();
@@ -30,6 +42,7 @@ QWidget* MenuItem::create(QWidget* parent) {
   action_->setEnabled(!look().disabled);
   QObject::connect(action_, &QAction::triggered, action_, [this] {
     action_->setChecked(checked_);
+    closeMenus();
     click();
   });
   return nullptr;

@@ -66,6 +66,24 @@ class MenuItemTest : public QObject {
     QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
   }
 
+  void assistiveTechnologysPressClosesTheMenusAsAClickDoes() {
+    Stage stage;
+    const Menus menus(stage);
+    const auto acts = [](QWidget& owner, int item, const QString& action) {
+      QAccessible::queryAccessibleInterface(&owner)->child(item)->actionInterface()->doAction(
+          action);
+    };
+    QMenuBar* bar = menus.form.page()->menuBar();
+    const auto more = int(bar->actions().indexOf(menus.form.MenuMore.action()));
+    acts(*bar, more, QAccessibleActionInterface::showMenuAction());
+    QWidget* menu = QApplication::activePopupWidget();
+    QVERIFY(menu != nullptr);
+    acts(*menu, 0, QAccessibleActionInterface::pressAction());
+    QCOMPARE(menus.plain, 1);
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    QVERIFY(bar->activeAction() == nullptr);
+  }
+
   void aCheckMarkIsSetByTheFormAlone() {
     Stage stage;
     const Menus menus(stage);
