@@ -73,18 +73,37 @@ class Oggetto:
         return self.ha(pyatspi.STATE_ENABLED) and self.ha(pyatspi.STATE_SENSITIVE)
 
     @property
+    def scrivibile(self):
+        """Whether it is a text control that takes a text."""
+        return (self.ha(pyatspi.STATE_EDITABLE) and not self.ha(pyatspi.STATE_READ_ONLY)
+                and self.abilitato)
+
+    @property
     def ha_il_fuoco(self):
         return self.ha(pyatspi.STATE_FOCUSED)
 
-    def premi(self):
-        """The press of assistive technology, without mouse and keyboard."""
-        def azione(accessibile):
+    def azioni(self):
+        """The names of what assistive technology can have it do."""
+        def nomi(accessibile):
             azioni = accessibile.queryAction()
-            for i in range(azioni.nActions):
-                if azioni.getName(i).lower() in ("press", "click"):
-                    return azioni.doAction(i)
+            return [azioni.getName(i) for i in range(azioni.nActions)]
+        return self._chiedi(nomi, [])
+
+    @property
+    def scorciatoia(self):
+        """The keys that work it from afar, as "Alt+E"; empty without."""
+        return self._chiedi(lambda a: a.queryAction().getKeyBinding(0), "")
+
+    def fai(self, azione):
+        """Has it do one of its actions, without mouse and keyboard. Returns whether it took it."""
+        nomi = self.azioni()
+        if azione not in nomi:
             return False
-        return self._chiedi(azione, False)
+        return self._chiedi(lambda a: a.queryAction().doAction(nomi.index(azione)), False)
+
+    def scrivi(self, testo):
+        """Puts a text in the place of what a text control holds."""
+        return self._chiedi(lambda a: a.queryEditableText().setTextContents(testo), False)
 
     def figli(self):
         numero = self._chiedi(lambda a: a.childCount, 0)

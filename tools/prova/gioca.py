@@ -1,13 +1,17 @@
 #!/usr/bin/python3
-"""Plays one exercise of the program on a virtual display, as a pupil would, with mouse and keys.
+"""Plays exercises of the program on a virtual display, as a pupil would.
 
-    gioca.py <program> <folder for the pictures> [<exercise> [<stand-in for the touch surface>]]
+    gioca.py <program> <folder for the pictures> [<exercise> ...] [--mani MANI] [--tavoletta FILE]
 
-The exercises are those of partite.py; without one it is "barre". What is asked is read from
-outside, through the accessibility tree; the answers are worked out from it. Ends with 0 when the
-program took and judged every answer as it should.
+The exercises are those of partite.py, played one after the other; without one it is "barre". MANI
+are the hands: "mouse" and keys together, "tasti", keys alone, or "ausili", what assistive technology
+can do alone; the last two play one case of each form. FILE is the stand-in for the touch surface,
+which some exercises want. What is asked is read from outside, through the accessibility tree; the
+answers are worked out from it. Ends with 0 when the program took and judged every answer as it
+should.
 """
 
+import argparse
 import contextlib
 import os
 import signal
@@ -16,44 +20,57 @@ import sys
 from giocatore import AVVIO, Errore, Giocatore
 from partite import PARTITE
 from schermo import ErroreSchermo, Schermo
+from senza_mouse import SoloAusili, SoloTasti
 from tavoletta import ErroreTavoletta, Tavoletta
 
+MANI = {"mouse": Giocatore, "tasti": SoloTasti, "ausili": SoloAusili}
 
-def gioca(programma, cartella, nome, tavoletta):
-    """One exercise, from the start of the program to its end. Returns whether all was well."""
-    partita = PARTITE[nome]
-    superficie = Tavoletta(tavoletta) if partita.a_tocchi else contextlib.nullcontext()
+
+def gioca(scelte, partite):
+    """The exercises, from the start of the program to its end. Returns whether all was well."""
+    superficie = Tavoletta(scelte.tavoletta) if scelte.tavoletta else contextlib.nullcontext()
     with Schermo() as schermo, superficie as tocchi:
         from albero import Albero, TempoScaduto
-        processo = schermo.avvia(schermo.copia(programma))
-        giocatore = Giocatore(schermo, Albero(processo), cartella, tocchi)
+        processo = schermo.avvia(schermo.copia(scelte.programma))
+        giocatore = MANI[scelte.mani](schermo, Albero(processo), scelte.cartella, tocchi)
         try:
             giocatore.vai(AVVIO)
-            partita.gioca(giocatore)
+            for i, partita in enumerate(partite):
+                if i > 0:
+                    giocatore.al_menu()
+                giocatore.tavoletta = tocchi if partita.a_tocchi else None
+                (partita.gioca if scelte.mani == "mouse" else partita.caso)(giocatore)
             giocatore.chiudi(processo)
-            if set(giocatore.forme) != partita.forme:
-                raise Errore(f"played {giocatore.forme}, not {sorted(partita.forme)}")
+            forme = frozenset().union(*(p.forme for p in partite))
+            if set(giocatore.forme) != forme:
+                raise Errore(f"played {giocatore.forme}, not {sorted(forme)}")
         except (TempoScaduto, Errore, ErroreTavoletta) as errore:
             print(f"Failed on {giocatore.forme[-1:] or AVVIO}: {errore}", file=sys.stderr)
-            giocatore.fotografa("errore")
+            schermo.fotografa(os.path.join(scelte.cartella, "errore.png"))
             return False
     return True
 
 
 def main():
-    nome = sys.argv[3] if len(sys.argv) > 3 else "barre"
-    tavoletta = sys.argv[4] if len(sys.argv) > 4 else ""
-    if (not 3 <= len(sys.argv) <= 5 or nome not in PARTITE
-            or PARTITE[nome].a_tocchi != bool(tavoletta)):
-        print(__doc__, file=sys.stderr)
-        print("Exercises: " + ", ".join(PARTITE), file=sys.stderr)
-        return 2
-    programma, cartella = sys.argv[1:3]
+    opzioni = argparse.ArgumentParser(description=__doc__,
+                                      formatter_class=argparse.RawDescriptionHelpFormatter)
+    opzioni.add_argument("programma")
+    opzioni.add_argument("cartella")
+    opzioni.add_argument("partite", nargs="*", metavar="esercizio")
+    opzioni.add_argument("--mani", choices=MANI, default="mouse")
+    opzioni.add_argument("--tavoletta", default="")
+    scelte = opzioni.parse_args()
+    ignote = sorted({*scelte.partite} - {*PARTITE})
+    if ignote:
+        opzioni.error(f"no exercises: {ignote}; there are {', '.join(PARTITE)}")
+    partite = [PARTITE[nome] for nome in scelte.partite or ["barre"]]
+    if any(p.a_tocchi for p in partite) and not scelte.tavoletta:
+        opzioni.error("an exercise by touch wants --tavoletta")
     sys.stdout.reconfigure(line_buffering=True)
     # Ended from outside, it still leaves through the end of the Schermo.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:
-        return 0 if gioca(programma, cartella, nome, tavoletta) else 1
+        return 0 if gioca(scelte, partite) else 1
     except (ErroreSchermo, ErroreTavoletta) as errore:
         print(f"Failed: {errore}", file=sys.stderr)
         return 1

@@ -16,7 +16,12 @@ TESTO = "text"
 AVVIO = "Avvio"
 AVANTI = "avanti"
 ESCI = "Esci"
+TORNA = "Torna al menù principale"
 CONFERMA_MESSAGGIO = "OK"
+# The kinds of input: the shortcut of the menu item that chooses one, and its words.
+SCANSIONE = "ctrl+m", "scansione manuale"
+TOCCO = "ctrl+h", "Tastiera HelpiKeys"
+STRADA_DEI_MODI = ("Impostazioni", "Modalità di input")
 # The counters: one word, then the number.
 ESATTI, ERRATI = "Esatti", "Errati"
 
@@ -79,15 +84,30 @@ class Giocatore:
     def apri(self, forma, *strada, modo=None):
         """From a menu to an exercise form, button by button.
 
-        modo: the keys that choose the kind of input, pressed on the main menu at the start.
+        modo: the kind of input, SCANSIONE or TOCCO, chosen on the main menu at the start.
         """
         self.forme.append(forma)
         print(f"Form:     {forma}")
         if modo:
             self.albero.aspetta_oggetto(BOTTONE, strada[0])
-            self.mani.batti(modo)
+            self.scegli_modo(modo)
         for bottone in strada:
             self.vai(bottone)
+
+    def scegli_modo(self, modo):
+        """Chooses a kind of input on the main menu."""
+        scorciatoia, _ = modo
+        self.mani.batti(scorciatoia)
+
+    def al_menu(self):
+        """From wherever a game has ended to the main menu, which alone has a button that ends all."""
+        if self.albero.cerca(VOCE, ESCI):
+            self.premi(ESCI, VOCE)
+        self.albero.aspetta("a menu", lambda: self.albero.cerca(BOTTONE, TORNA)
+                            or self.albero.cerca(BOTTONE, ESCI))
+        if self.albero.cerca(BOTTONE, TORNA):
+            self.premi(TORNA)
+        self.albero.aspetta_oggetto(BOTTONE, ESCI)
 
     def collega(self):
         """Has the touch surface answer, and closes the box that says so."""
@@ -176,9 +196,17 @@ class Giocatore:
 
     def avanti(self, tasto):
         """On to the next case by a key; after a right answer the focus is where it leads on."""
-        bottone = self.albero.aspetta_oggetto(BOTTONE, AVANTI)
-        self.albero.aspetta(f"the focus on {AVANTI!r}", lambda: bottone.ha_il_fuoco)
+        self.premi_col_fuoco(AVANTI, tasto)
+
+    def premi_col_fuoco(self, nome, tasto):
+        """Waits for the focus on a button and presses it there by a key."""
+        bottone = self.albero.aspetta_oggetto(BOTTONE, nome)
+        self.albero.aspetta(f"the focus on {nome!r}", lambda: bottone.ha_il_fuoco)
         self.mani.batti(tasto)
+
+    def tasto(self, nome):
+        """A tap of a key of those who have one or two, on a scanning keyboard."""
+        self.mani.batti(nome)
 
     def ascolta(self):
         """Begins to hear what a screen reader hears of the focus."""
@@ -187,10 +215,15 @@ class Giocatore:
     def chiudi(self, processo):
         """Closes the window as the window manager does; the program ends by itself."""
         self.mani.batti("alt+F4")
+        self._finito(processo)
+        print("The window was closed and the program ended.")
+
+    @staticmethod
+    def _finito(processo):
+        """Waits for the end of the program, which it was asked for."""
         try:
             stato = processo.wait(20)
         except subprocess.TimeoutExpired:
-            raise Errore("the window was closed and the program goes on") from None
+            raise Errore("the program was asked to end and goes on") from None
         if stato != 0:
             raise Errore(f"the program ended with {stato}")
-        print("The window was closed and the program ended.")

@@ -9,7 +9,7 @@ class Luce:
     """Finds the light through the accessibility tree, and moves and uses it by real keys."""
 
     def __init__(self, giocatore):
-        self._albero, self._mani = giocatore.albero, giocatore.mani
+        self._giocatore, self._albero, self._mani = giocatore, giocatore.albero, giocatore.mani
         # The keys as they were found last, from the one that was lit on.
         self._tasti = []
 
@@ -33,18 +33,24 @@ class Luce:
     def passo(self, tasto, tieni=0.0):
         """One step by a key that is held so many seconds; while it is, nothing moves."""
         prima = self.acceso()
-        self._mani.giu(tasto)
         if tieni:
+            self._mani.giu(tasto)
             time.sleep(tieni)
             if self.acceso() != prima:
                 raise Errore(f"the light went from {prima!r} to {self.acceso()!r} under a held key")
-        self._mani.su(tasto)
+            self._mani.su(tasto)
+        else:
+            self._giocatore.tasto(tasto)
         self._albero.aspetta("a step of the light", lambda: self.acceso() not in (None, prima))
 
     def scegli_a_mano(self, nome):
         while self.acceso() != nome:
             self.passo("space")
-        self._mani.batti("Return")
+        self.usa()
+
+    def usa(self):
+        """Chooses what is lit, in manual scanning."""
+        self._giocatore.tasto("Return")
 
     def scegli_aspettando(self, nome):
         self._albero.aspetta(f"the light on {nome!r}", lambda: self.acceso() == nome, 60)

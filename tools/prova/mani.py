@@ -4,11 +4,32 @@ import subprocess
 import time
 
 
-class Mani:
+class Tastiera:
     """Works on the desktop that the environment names."""
 
     # Between two events, so that no two clicks make a double click of the desktop.
     PAUSA = 0.08
+
+    def giu(self, tasto):
+        """Presses a key and holds it; names as the display server has them: space, Return, F10."""
+        self._xdotool("keydown", tasto)
+
+    def su(self, tasto):
+        self._xdotool("keyup", tasto)
+
+    def batti(self, tasto):
+        """A tap; also with modifiers: alt+F4."""
+        self._xdotool("key", tasto)
+        time.sleep(self.PAUSA)
+
+    @staticmethod
+    def _xdotool(*comando):
+        subprocess.run(["xdotool", *map(str, comando)], check=True, timeout=30,
+                       stdout=subprocess.DEVNULL)
+
+
+class Mani(Tastiera):
+    """A keyboard and a mouse."""
 
     def __init__(self):
         self._dove = None
@@ -27,20 +48,3 @@ class Mani:
         time.sleep(self.PAUSA)
         self._xdotool("mouseup", 1)
         time.sleep(self.PAUSA)
-
-    def giu(self, tasto):
-        """Presses a key and holds it; names as the display server has them: space, Return, F10."""
-        self._xdotool("keydown", tasto)
-
-    def su(self, tasto):
-        self._xdotool("keyup", tasto)
-
-    def batti(self, tasto):
-        """A tap; also with modifiers: alt+F4."""
-        self._xdotool("key", tasto)
-        time.sleep(self.PAUSA)
-
-    @staticmethod
-    def _xdotool(*comando):
-        subprocess.run(["xdotool", *map(str, comando)], check=True, timeout=30,
-                       stdout=subprocess.DEVNULL)

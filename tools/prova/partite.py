@@ -12,16 +12,19 @@ import partite_tabella as tabella
 class Partita(NamedTuple):
     """gioca: plays from the main menu on, given a Giocatore. forme: every form that it plays.
 
+    caso: one whole case on each of them, which all hands can play (see senza_mouse.py).
     a_tocchi: it wants a stand-in for the touch surface.
     """
 
     gioca: Callable
+    caso: Callable
     forme: frozenset
     a_tocchi: bool
 
 
-def _partita(gioca, *forme):
-    return gioca.__name__, Partita(gioca, frozenset(forme), any(f.endswith("HK") for f in forme))
+def _partita(gioca, *forme, caso=None):
+    return gioca.__name__, Partita(gioca, caso or gioca, frozenset(forme),
+                                   any(f.endswith("HK") for f in forme))
 
 
 PARTITE = dict((
@@ -30,7 +33,7 @@ PARTITE = dict((
     _partita(barre.barre_scansione, "FormBarre10Scansione", "FormBarre20Scansione"),
     _partita(barre.barre_tocco, "FormBarre10HK", "FormBarre20HK"),
     _partita(numeri.numeri, "FormNumeriTotale", "FormNumeriAddendo"),
-    _partita(numeri.scansione, "FormNumeriTotaleScansione"),
+    _partita(numeri.scansione, "FormNumeriTotaleScansione", caso=numeri.scansione_breve),
     _partita(numeri.addendo_scansione, "FormNumeriAddendoScansione"),
     _partita(numeri.tocco, "FormNumeriTotaleHK", "FormNumeriAddendoHK"),
     _partita(blocchi.blocchi, "FormLU"),
@@ -39,7 +42,7 @@ PARTITE = dict((
     _partita(blocchi.centinaia_scansione, "FormHLUScansione"),
     _partita(blocchi.blocchi_tocco, "FormLUHK"),
     _partita(blocchi.centinaia_tocco, "FormHLUHK"),
-    _partita(abaco.abaco, "FormAbaco"),
+    _partita(abaco.abaco, "FormAbaco", caso=abaco.abaco_scritto),
     _partita(abaco.abaco_scansione, "FormAbacoScansione"),
     _partita(abaco.abaco_tocco, "FormAbacoHK"),
     _partita(tabella.tabella, "FormTabella"),

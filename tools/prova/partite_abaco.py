@@ -4,7 +4,7 @@ import re
 import time
 
 from dita import Dita
-from giocatore import AVANTI, BOTTONE, Errore, trova
+from giocatore import AVANTI, BOTTONE, SCANSIONE, TOCCO, Errore, trova
 from luce import Luce
 
 LIVELLO = "cambio alle unità"  # up to 999; no other level bears this name
@@ -45,6 +45,16 @@ def abaco(giocatore):
     giocatore.fotografa("cambio")
     _tocca_pallina(giocatore, 288, 303)  # the lowest bead of the tens
     _sull_abaco(giocatore, "vuoto")
+    _scrivi(giocatore, risposta)
+
+
+def abaco_scritto(giocatore):
+    """The sum alone."""
+    giocatore.apri("FormAbaco", FAMIGLIA, LIVELLO)
+    _scrivi(giocatore, trova(giocatore.chiesta()))
+
+
+def _scrivi(giocatore, risposta):
     giocatore.prova(risposta, giocatore.batti_nella_casella)
     giocatore.avanti("space")
     giocatore.chiesta()
@@ -62,7 +72,7 @@ def abaco_scansione(giocatore):
             scegli(cifra)
         scegli("Conferma")
 
-    giocatore.apri("FormAbacoScansione", FAMIGLIA, LIVELLO, modo="ctrl+m")
+    giocatore.apri("FormAbacoScansione", FAMIGLIA, LIVELLO, modo=SCANSIONE)
     a, b, _ = map(int, (t or 0 for t in giocatore.chiesta()))
     albero.aspetta("the light on 'h'", lambda: acceso() == "h")
     for _ in range(10):
@@ -81,7 +91,7 @@ def abaco_scansione(giocatore):
     giocatore.rispondi(a + b, dai, giusto=True)
     albero.aspetta("the light on the way on", lambda: acceso() == "Avanti")
     giocatore.fotografa("giusto")
-    giocatore.mani.batti("Return")
+    luce.usa()
     giocatore.chiesta()
     albero.aspetta("the light on 'h'", lambda: acceso() == "h")
     _sull_abaco(giocatore, "vuoto")
@@ -102,7 +112,7 @@ def abaco_tocco(giocatore):
         tocca(conferma)
 
     giocatore.tavoletta.fai("foglio abaco")
-    giocatore.apri("FormAbacoHK", FAMIGLIA, LIVELLO, modo="ctrl+h")
+    giocatore.apri("FormAbacoHK", FAMIGLIA, LIVELLO, modo=TOCCO)
     giocatore.collega()
     a, b, _ = map(int, (t or 0 for t in giocatore.chiesta()))
     tocca(unita, 10)

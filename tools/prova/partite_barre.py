@@ -1,7 +1,7 @@
 """The bars, each form by its own kind of input: a wrong and a right answer, the way on."""
 
 from dita import Dita
-from giocatore import TESTO, VOCE, scrivi, trova
+from giocatore import SCANSIONE, TESTO, TOCCO, VOCE, scrivi, trova
 from luce import Luce
 
 MENU = "Uso delle barre"
@@ -106,7 +106,7 @@ def barre_scansione(giocatore):
     def dai(numero):
         if gioco.scritti().count("") == 0:
             giocatore.albero.aspetta("the light on the bin", lambda: luce.acceso() == CANCELLA)
-            giocatore.mani.batti("Return")
+            luce.usa()
             gioco.chiesta()
         for nome in (*str(numero), CONFERMA):
             luce.scegli_a_mano(nome)
@@ -115,11 +115,11 @@ def barre_scansione(giocatore):
         giocatore.albero.aspetta("the light on '0'", lambda: luce.acceso() == "0")
         gioco.gioca(dai)
         giocatore.albero.aspetta("the light on the way on", lambda: luce.acceso() == AVANTI)
-        giocatore.mani.batti("Return")
+        luce.usa()
         gioco.chiesta()
         giocatore.esci(ENTRO_20)
 
-    giocatore.apri("FormBarre10Scansione", MENU, ENTRO_10, modo="ctrl+m")
+    giocatore.apri("FormBarre10Scansione", MENU, ENTRO_10, modo=SCANSIONE)
     illuminata()
     giocatore.apri("FormBarre20Scansione", ENTRO_20)
     illuminata()
@@ -137,7 +137,7 @@ def barre_tocco(giocatore):
         gioco.chiesta()
         giocatore.esci(ENTRO_20)
 
-    giocatore.apri("FormBarre10HK", MENU, ENTRO_10, modo="ctrl+h")
+    giocatore.apri("FormBarre10HK", MENU, ENTRO_10, modo=TOCCO)
     toccata()
     giocatore.apri("FormBarre20HK", ENTRO_20)
     toccata()

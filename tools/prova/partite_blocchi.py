@@ -3,7 +3,7 @@
 import re
 
 from dita import Dita
-from giocatore import BOTTONE, ETICHETTA, TESTO
+from giocatore import BOTTONE, ETICHETTA, SCANSIONE, TESTO, TOCCO
 from luce import Luce
 
 MENU = "Piatti, lunghi, unità"
@@ -52,9 +52,9 @@ class Gioco:
         self.costruisci(b)
         for posto in sorted(set(self.posti) & set(CAMBI)):
             if posto * 10 in self.posti and cifra(a, posto) + cifra(b, posto) >= 10:
-                bottone = self.albero.aspetta_oggetto(BOTTONE, CAMBI[posto])
+                self.albero.aspetta_oggetto(BOTTONE, CAMBI[posto])
                 self.giocatore.fotografa("cambio")
-                self.cambia(bottone)
+                self.cambia(CAMBI[posto])
                 self.albero.aspetta("the carry's button to go",
                                     lambda p=posto: not self.albero.cerca(BOTTONE, CAMBI[p]))
                 print(f"Carried:  {CAMBI[posto]}")
@@ -70,16 +70,13 @@ class Gioco:
 
 
 def col_mouse(giocatore, forma, posti, strada):
-    gioco = Gioco(giocatore, posti, giocatore.premi,
-                  lambda bottone: giocatore.mani.clicca(bottone.posto))
+    gioco = Gioco(giocatore, posti, giocatore.premi, giocatore.premi)
     giocatore.apri(forma, MENU, strada)
     totale = gioco.unisci()
     giocatore.albero.aspetta("the box for the result",
                              lambda: any(o.ruolo == TESTO and o.ha_il_fuoco
                                          for o in giocatore.albero.visibili()))
-    for numero in str(totale):
-        giocatore.mani.batti(numero)
-    giocatore.mani.batti("Return")
+    giocatore.batti_numero(totale)
     gioco.risolta(totale)
     giocatore.avanti("space")
     gioco.chiesta()
@@ -89,16 +86,15 @@ def col_mouse(giocatore, forma, posti, strada):
 def con_due_tasti(giocatore, forma, posti, strada):
     luce = Luce(giocatore)
 
-    def cambia(bottone):
-        giocatore.albero.aspetta("the focus on the carry", lambda: bottone.ha_il_fuoco)
-        giocatore.mani.batti("space")
+    def cambia(nome):
+        giocatore.premi_col_fuoco(nome, "space")
 
     def scegli(nome):
         giocatore.albero.aspetta("a light", luce.acceso)
         luce.scegli_a_mano(nome)
 
     gioco = Gioco(giocatore, posti, scegli, cambia)
-    giocatore.apri(forma, MENU, strada, modo="ctrl+m")
+    giocatore.apri(forma, MENU, strada, modo=SCANSIONE)
     totale = gioco.unisci()
     giocatore.albero.aspetta("the light on '0'", lambda: luce.acceso() == "0")
     giocatore.fotografa("risultato")
@@ -107,7 +103,7 @@ def con_due_tasti(giocatore, forma, posti, strada):
     scegli(CONFERMA)
     gioco.risolta(totale)
     giocatore.albero.aspetta("the light on the way on", lambda: luce.acceso() == AVANTI)
-    giocatore.mani.batti("Return")
+    luce.usa()
     gioco.chiesta()
     giocatore.esci(ENTRO_99)
 
@@ -118,8 +114,8 @@ def a_tocchi(giocatore, forma, posti, strada):
     def scegli(nome):
         dita.tocca(TASTI[nome])
 
-    gioco = Gioco(giocatore, posti, scegli, lambda bottone: scegli(bottone.nome))
-    giocatore.apri(forma, MENU, strada, modo="ctrl+h")
+    gioco = Gioco(giocatore, posti, scegli, scegli)
+    giocatore.apri(forma, MENU, strada, modo=TOCCO)
     giocatore.tavoletta.fai("foglio blocchi")
     giocatore.collega()
     totale = gioco.unisci()

@@ -3,7 +3,7 @@
 import time
 
 from dita import Dita
-from giocatore import BOTTONE, TESTO, VOCE, Errore, trova
+from giocatore import BOTTONE, SCANSIONE, TESTO, TOCCO, VOCE, Errore, trova
 from luce import Luce
 
 MENU = "Solo numeri"
@@ -66,7 +66,7 @@ def scansione(giocatore):
     albero, mani = giocatore.albero, giocatore.mani
     luce = Luce(giocatore)
 
-    giocatore.apri("FormNumeriTotaleScansione", MENU, SOMMA, modo="ctrl+m")
+    giocatore.apri("FormNumeriTotaleScansione", MENU, SOMMA, modo=SCANSIONE)
     gioco = Illuminati(giocatore, luce, luce.scegli_a_mano)
     risposta = gioco.chiesta()
     _ascolta_passi(giocatore, luce)
@@ -119,6 +119,15 @@ def _ascolta_passi(giocatore, luce):
 
 def addendo_scansione(giocatore):
     """The addend, by manual scanning."""
+    _una_scansione(giocatore, "FormNumeriAddendoScansione", ADDENDO)
+
+
+def scansione_breve(giocatore):
+    """The sum, by manual scanning and without the rest."""
+    _una_scansione(giocatore, "FormNumeriTotaleScansione", SOMMA_BREVE)
+
+
+def _una_scansione(giocatore, forma, livello):
     luce = Luce(giocatore)
     gioco = Illuminati(giocatore, luce, luce.scegli_a_mano)
 
@@ -128,10 +137,10 @@ def addendo_scansione(giocatore):
             luce.scegli_a_mano(CANCELLA)
         gioco.dai(numero)
 
-    giocatore.apri("FormNumeriAddendoScansione", MENU, ADDENDO, modo="ctrl+m")
+    giocatore.apri(forma, MENU, livello, modo=SCANSIONE)
     giocatore.prova(gioco.chiesta(), dai)
     gioco.aspetta(AVANTI)
-    giocatore.mani.batti("Return")
+    luce.usa()
     gioco.chiesta()
     giocatore.esci(ADDENDO)
 
@@ -147,7 +156,7 @@ def tocco(giocatore):
         giocatore.chiesta()
         giocatore.esci(ADDENDO)
 
-    giocatore.apri("FormNumeriTotaleHK", MENU, SOMMA_BREVE, modo="ctrl+h")
+    giocatore.apri("FormNumeriTotaleHK", MENU, SOMMA_BREVE, modo=TOCCO)
     toccata()
     giocatore.apri("FormNumeriAddendoHK", ADDENDO)
     toccata()
