@@ -1,7 +1,5 @@
 #include "exercises/blocks/forma_blocchi.h"
 
-#include <algorithm>
-
 #include "app/shared/modulo_colori_suoni.h"
 #include "app/shared/nomi_forme.h"
 #include "platform/base/numbers.h"
@@ -11,9 +9,6 @@ namespace somme {
 using platform::leadingBlank;
 
 namespace {
-
-// A property of a clip.
-constexpr int kVisibile = 7;
 
 constexpr double kAttesaUnione = 2;  // seconds
 constexpr double kAttesaCambio = 4;  // the movie's stretch must be over by then
@@ -69,8 +64,7 @@ void FormaBlocchi::CaricaFilmati() {
   ShockwaveFlash1.setMovie(percorso(esercizio_.filmatoAddendo));
   ShockwaveFlash2.setMovie(percorso(esercizio_.filmatoAddendo));
   ShockwaveFlash3.setMovie(percorso(esercizio_.filmatoUnione));
-  SW3 = {};
-  cambioDelCaso_.reset();
+  unita_.Ricomincia();
 }
 
 void FormaBlocchi::NuovoCaso() {
@@ -81,9 +75,7 @@ void FormaBlocchi::NuovoCaso() {
   SW2 = {};
   EliminaNumeroSW1();
   EliminaNumeroSW2();
-  EliminaNumeroSW3();
-  // A carry that the last case was left in must not go on under this one.
-  if (cambioDelCaso_) ShockwaveFlash3.gotoFrame(1);
+  unita_.Sgombra();
   for (std::size_t i = 0; i < esercizio_.cambi.size(); ++i) {
     PulsanteDelCambio(i).setVisible(false);
   }
@@ -103,14 +95,6 @@ void FormaBlocchi::NuovoCaso() {
   CasoPronto();
 }
 
-void FormaBlocchi::MostraBlocchi(platform::Board& filmato, const SpecieBlocchi& specie, int da,
-                                 int a, bool visibili) {
-  const QString valore = visibili ? QStringLiteral("1") : QStringLiteral("0");
-  for (int i = da; i <= a; ++i) {
-    filmato.tSetProperty(QStringLiteral("%1%2").arg(specie.clip).arg(i), kVisibile, valore);
-  }
-}
-
 void FormaBlocchi::Sgombra(platform::Board& filmato) {
   for (const SpecieBlocchi* specie : esercizio_.specie) {
     MostraBlocchi(filmato, *specie, 1, blocchi::kMassimoPerSpecie, false);
@@ -123,13 +107,6 @@ void FormaBlocchi::EliminaNumeroSW1() {
 
 void FormaBlocchi::EliminaNumeroSW2() {
   Sgombra(ShockwaveFlash2);
-}
-
-void FormaBlocchi::EliminaNumeroSW3() {
-  for (const Sgombero& sgombero : esercizio_.sgombero) {
-    MostraBlocchi(ShockwaveFlash3, sgombero.specie, 1, sgombero.quanti, false);
-    SW3.*sgombero.specie.quanti = 0;
-  }
 }
 
 // The edge's width is a number of pixels and is taken off twips as it is, so that the frame stands
@@ -204,12 +181,11 @@ void FormaBlocchi::UnisciTavole() {
   ShockwaveFlash1.setVisible(false);
   ShockwaveFlash2.setVisible(false);
   ShockwaveFlash3.setVisible(true);
+  Quantita quante;
   for (const SpecieBlocchi* specie : esercizio_.specie) {
-    const int quanti = SuEntrambe(*specie);
-    MostraBlocchi(ShockwaveFlash3, *specie, 1, quanti, true);
-    int& mostrati = SW3.*specie->quanti;
-    mostrati = std::max(mostrati, quanti);
+    quante.*specie->quanti = SuEntrambe(*specie);
   }
+  unita_.Unisci(quante);
   Racconta();
 }
 
@@ -230,10 +206,9 @@ void FormaBlocchi::Cambia(std::size_t quale) {
   if (!pulsante.isVisible()) return;
   pulsante.setVisible(false);
   RiposaIlFuoco();
-  cambioDelCaso_ = caseNumber();
-  ShockwaveFlash3.gotoFrame(esercizio_.cambi[quale].fotogramma);
-  ShockwaveFlash3.play();
+  unita_.AvviaCambio(esercizio_.cambi[quale], caseNumber());
   Attendi(ambiente(), kAttesaCambio);
+  unita_.FinisciAttesa();
   ChiediCambioDa(quale + 1);
 }
 
@@ -242,22 +217,12 @@ void FormaBlocchi::RiposaIlFuoco() {
 }
 
 void FormaBlocchi::ComandoDelFilmato(const QString& args) {
-  if (cambioDelCaso_ && *cambioDelCaso_ != caseNumber()) return;
+  if (!unita_.ParlaDi(caseNumber())) return;
   for (const CambioBlocchi& cambio : esercizio_.cambi) {
-    if (args == cambio.parola) FaiCambio(cambio);
+    if (args != cambio.parola) continue;
+    unita_.Cambia(cambio, SuEntrambe(cambio.a) + 1);
+    Racconta();
   }
-}
-
-void FormaBlocchi::FaiCambio(const CambioBlocchi& cambio) {
-  cambioDelCaso_.reset();
-  const int nuovo = SuEntrambe(cambio.a) + 1;
-  MostraBlocchi(ShockwaveFlash3, cambio.a, nuovo, nuovo, true);
-  if (cambio.tornaAlPrimo) ShockwaveFlash3.gotoFrame(1);
-  MostraBlocchi(ShockwaveFlash3, cambio.da, 1, blocchi::kDieci, false);
-  int& arrivati = SW3.*cambio.a.quanti;
-  arrivati = std::max(arrivati, nuovo);
-  SW3.*cambio.da.quanti = std::max(SW3.*cambio.da.quanti - blocchi::kDieci, 0);
-  Racconta();
 }
 
 void FormaBlocchi::SegnaRisolto() {
@@ -271,7 +236,7 @@ void FormaBlocchi::SegnaRisolto() {
 void FormaBlocchi::Racconta() {
   ShockwaveFlash1.setDescription(InParole(ambiente(), SW1));
   ShockwaveFlash2.setDescription(InParole(ambiente(), SW2));
-  ShockwaveFlash3.setDescription(InParole(ambiente(), SW3));
+  ShockwaveFlash3.setDescription(InParole(ambiente(), unita_.Quante()));
 }
 
 }  // namespace somme

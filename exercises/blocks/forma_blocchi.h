@@ -2,9 +2,8 @@
 
 #include <optional>
 
-#include "exercises/blocks/esercizio_blocchi.h"
+#include "exercises/blocks/tavola_unita.h"
 #include "exercises/core/forma_esercizio.h"
-#include "platform/boards/board.h"
 #include "platform/forms/controls/shape.h"
 
 namespace somme {
@@ -85,28 +84,22 @@ class FormaBlocchi : public FormaEsercizio {
   void Sgombra(platform::Board& filmato);
   void EliminaNumeroSW1();
   void EliminaNumeroSW2();
-  void EliminaNumeroSW3();
-  void MostraBlocchi(platform::Board& filmato, const SpecieBlocchi& specie, int da, int a,
-                     bool visibili);
   void Incornicia(const platform::Label& ancora);
   void UnisciTavole();
   // The first carry, from `quale` on, that ten of a kind ask for; else the result.
   void ChiediCambioDa(std::size_t quale);
   void ComandoDelFilmato(const QString& args);
-  void FaiCambio(const CambioBlocchi& cambio);
   [[nodiscard]] int SuEntrambe(const SpecieBlocchi& specie) const;
   // Tells assistive technology what stands on each board.
   void Racconta();
 
   const EsercizioBlocchi& esercizio_;
-  // How many blocks stand on each board: what the pupil has put on boards 1 and 2, 0 to 9 of each
-  // kind; what board 3 shows. The carry changes the last alone.
+  // How many blocks the pupil has put on boards 1 and 2, 0 to 9 of each kind. A carry changes the
+  // joined board alone.
   Quantita SW1;
   Quantita SW2;
-  Quantita SW3;
+  TavolaUnita unita_{ShockwaveFlash3, esercizio_};
   qint16 Fase = 1;  // 1 the first addend, 2 the second, 3 the boards are joined
-  // The case of a carry that the movie has not told the end of.
-  std::optional<int> cambioDelCaso_;
 };
 
 }  // namespace somme
