@@ -170,6 +170,8 @@ void FormAbaco::RimuoviUnita() {
 
 void FormAbaco::Inserisci(const GenerePalline& genere, const QString& clip) {
   qint16& inserite = this->*genere.inserite;
+  // No bead waits any more, whatever the movie says: one more than ten comes by a carry alone.
+  if (inserite > kPalline) return;
   const int nuova = inserite;
   inserite = platform::toInt16(inserite + 1);
   Mostra(genere.sulFerro, nuova, true);
@@ -185,6 +187,7 @@ void FormAbaco::Inserisci(const GenerePalline& genere, const QString& clip) {
 
 void FormAbaco::Rimuovi(const GenerePalline& genere) {
   qint16& inserite = this->*genere.inserite;
+  if (inserite == 0) return;
   int libera = 0;  // the first place beside the spike that has no bead
   while (libera < kPalline && PallineInAttesa[static_cast<std::size_t>(libera)][genere.colonna]) {
     ++libera;
