@@ -13,7 +13,7 @@ using platform::toInt16;
 
 namespace {
 
-constexpr int kTienilFuoco = 10;     // milliseconds of `Timer1`
+constexpr int kTienilFuoco = 10;     // milliseconds of `Timer1`: the focus is back by then
 constexpr int kQuarto = 250;         // milliseconds
 constexpr double kCarattere = 0.55;  // of a button's side
 constexpr double kTwipPerPunto = 20;
@@ -32,7 +32,6 @@ TastieraScansione::TastieraScansione(platform::ControlHost& ospite,
     : UserControl(ospite, interni), pulsanti_(pulsanti), numero_(numero), comuni_(comuni) {
   PictureScansione.onKeyDown([this](int tasto) { TastoPremuto(tasto); });
   PictureScansione.onKeyUp([this](int tasto) { TastoLasciato(tasto); });
-  Timer1.onTick([this] { PictureScansione.keepFocus(); });
   TimerScansione.onTick([this] {
     if (!Fermo()) Passo();
   });
@@ -61,7 +60,7 @@ void TastieraScansione::Attiva() {
   SpegniTutti();
   Accendi(PrimoPulsante());
   Timer1.setEnabled(true);
-  // Not only at the first tick: a tap that comes before it counts.
+  // At once: a tap that comes before the time of `Timer1` counts.
   PictureScansione.keepFocus();
 }
 

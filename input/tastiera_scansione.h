@@ -6,6 +6,7 @@
 
 #include "platform/forms/control_array.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/focus_keeper.h"
 #include "platform/forms/controls/key_panel.h"
 #include "platform/forms/controls/timer.h"
 #include "platform/forms/user_control.h"
@@ -43,9 +44,9 @@ class TastieraScansione : public platform::UserControl {
   };
 
   // The inner controls; rows make them in the keyboard's own order.
-  platform::Timer TimerScansione{*this};       // moves the light
-  platform::KeyPanel PictureScansione{*this};  // holds the focus and hears the keys
-  platform::Timer Timer1{*this};               // gives the focus back to it
+  platform::Timer TimerScansione{*this};                  // moves the light
+  platform::KeyPanel PictureScansione{*this};             // holds the focus and hears the keys
+  platform::FocusKeeper Timer1{*this, PictureScansione};  // gives the focus back to it
 
   // Milliseconds from step to step. Throws RunTimeError(Overflow) above 131 quarters of a second.
   [[nodiscard]] qint16 IntervalloScansione() const;

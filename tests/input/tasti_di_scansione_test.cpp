@@ -273,6 +273,18 @@ class TastiDiScansioneTest : public QObject {
     QVERIFY(barra.hasFocus());
   }
 
+  void atRestNothingLooksWhereTheFocusIs() {
+    Fondo fondo;
+    prepara(fondo.tastiera, false);
+    QVERIFY(fondo.tastiera.Timer1.isEnabled());
+    fondo.passa(0.02);
+    QVERIFY(!fondo.tempo.anyTicker());
+    fondo.clicca(fondo.forma().Casella);
+    fondo.passa(0.02);
+    QVERIFY(fondo.tastiera.PictureScansione.hasFocus());
+    QVERIFY(!fondo.tempo.anyTicker());
+  }
+
   void aHiddenKeyboardTakesNoFocusAndAsksForNoneInVain() {
     Fondo fondo;
     fondo.tastiera.setVisible(false);
