@@ -7,22 +7,14 @@ import subprocess
 import sys
 import time
 
+import riposo
+
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tools", "prova"))
 
 from schermo import ErroreSchermo, Schermo  # noqa: E402
 
 # Seconds after the last event, for a sound to end and its device to close; and of rest watched.
 QUIETE, GUARDATI = 5, 10
-
-
-def risvegli(processo):
-    """How often the threads of a process have been woken."""
-    somma = 0
-    for stato in glob.glob(f"/proc/{processo.pid}/task/*/status"):
-        with open(stato, encoding="ascii") as righe:
-            somma += sum(int(r.split()[1]) for r in righe
-                         if r.startswith("voluntary_ctxt_switches"))
-    return somma
 
 
 def esegui(misura):
@@ -34,8 +26,8 @@ def esegui(misura):
     return stato == 0
 
 
-def riposo(schermo, programma, cartella):
-    """The bars at rest, after a wrong and a right answer with their sounds."""
+def dopo_i_suoni(schermo, programma, cartella):
+    """Whether the program sleeps on the bars, after a wrong and a right answer with their sounds."""
     from albero import Albero
     from giocatore import AVVIO, Giocatore
     from partite import PARTITE
@@ -49,14 +41,13 @@ def riposo(schermo, programma, cartella):
         finally:
             sys.stdout = voce
     time.sleep(QUIETE)
-    prima = risvegli(processo)
-    time.sleep(GUARDATI)
-    tutti = risvegli(processo) - prima
+    sveglie, parte = riposo.guarda(processo.pid, GUARDATI)
     if processo.poll() is not None:
         raise ErroreSchermo(f"the program ended at rest, with {processo.returncode}")
-    print(f"at rest on the bars, after sounds: {tutti / GUARDATI:.2f} wake-ups a second (under 1)",
-          flush=True)
+    print(f"at rest on the bars, after sounds: {sveglie:.2f} wake-ups a second (under 1), "
+          f"{parte:.3f} % of a core", flush=True)
     processo.termina()
+    return sveglie < riposo.AL_SECONDO
 
 
 def main():
@@ -77,8 +68,10 @@ def main():
             # As on a desktop without assistive technology: nobody listens to the tree.
             os.environ.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", None)
             tutte = all([esegui(misura) for misura in misure])
+            tutte = riposo.tutte(os.path.join(cartella, "bench", "bench_riposo"),
+                                 os.path.dirname(programma)) and tutte
         with Schermo(1366, 768) as schermo:
-            riposo(schermo, programma, os.path.join("build", "immagini"))
+            tutte = dopo_i_suoni(schermo, programma, os.path.join("build", "immagini")) and tutte
     except ErroreSchermo as errore:
         print(f"FAILED: {errore}", flush=True)
         return 1

@@ -1,5 +1,4 @@
-// Automatic scanning on a real display: how even its steps are, idle and with every core busy, and
-// what a scanning form uses at rest.
+// Automatic scanning on a real display: how even its steps are, idle and with every core busy.
 //
 //   bench_scansione FOLDER-OF-THE-PROGRAM
 #include <sys/wait.h>
@@ -14,7 +13,6 @@
 #include <cmath>
 #include <csignal>
 #include <cstdio>
-#include <ctime>
 #include <functional>
 #include <numeric>
 #include <thread>
@@ -35,13 +33,6 @@ namespace {
 
 constexpr int kPassi = 100;
 constexpr double kIntervallo = 1000;  // milliseconds
-constexpr int kRiposo = 10;           // seconds watched
-
-double processore() {
-  timespec tempo{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &tempo);
-  return static_cast<double>(tempo.tv_sec) + static_cast<double>(tempo.tv_nsec) / 1e9;
-}
 
 // Processes that keep every core busy while one lives.
 class Carico {
@@ -102,8 +93,8 @@ class Scansione {
     ambiente_.stato.TipoEsercizio = 1;
   }
 
-  void mostra(qint16 modo) {
-    ambiente_.stato.ModalitaInput = modo;
+  void mostra() {
+    ambiente_.stato.ModalitaInput = somme::kScansioneAutomatica;
     ambiente_.fondo.forms().show(somme::forme::kFormMenuNumeri);
     ambiente_.stato.TipoEsercizio = 1;
     ambiente_.fondo.forms().show(somme::forme::kFormNumeriTotaleScansione);
@@ -132,14 +123,6 @@ class Scansione {
     std::fflush(stdout);
   }
 
-  static void riposo(const char* come) {
-    const double prima = processore();
-    QTest::qWait(kRiposo * 1000);
-    std::printf("a scanning form at rest, %s: %.2f %% of one core (under 1)\n", come,
-                100 * (processore() - prima) / kRiposo);
-    std::fflush(stdout);
-  }
-
  private:
   platform::QtTimeSource tempo_;
   platform::SeededChance sorte_{1};
@@ -165,10 +148,7 @@ int main(int argc, char* argv[]) {
     return 2;
   }
   Scansione scansione(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
-  scansione.mostra(somme::kScansioneManuale);
-  Scansione::riposo("manual");
-  scansione.mostra(somme::kScansioneAutomatica);
-  Scansione::riposo("automatic");
+  scansione.mostra();
   scansione.passo("idle", 15);
   {
     const Carico carico;

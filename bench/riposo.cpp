@@ -1,0 +1,157 @@
+// The forms of the program one after the other, each left at rest for somebody outside to watch:
+// over the real clock, printers, sound and sockets, with a stand-in for the touch surface.
+//
+//   bench_riposo FOLDER-OF-THE-PROGRAM
+//
+// Takes lines of text: the name of a form and the way of input (0 mouse, 1 manual scanning, 2
+// automatic scanning, 3 touch); answers "ready" when the form has been on the screen for a while.
+// With an empty line, or none any more, it ends.
+#include <unistd.h>
+
+#include <QApplication>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <cstdio>
+#include <iostream>
+#include <sstream>
+#include <string>
+
+#include "app/modulo1.h"
+#include "app/shared/ambiente.h"
+#include "app/shared/nomi_forme.h"
+#include "app/tabella_forme.h"
+#include "immagini/immagini.h"
+#include "platform/base/paper_codes.h"
+#include "platform/devices/loopback_network.h"
+#include "platform/devices/qt_time_source.h"
+#include "platform/devices/sdl_sound.h"
+#include "platform/devices/system_printers.h"
+#include "platform/forms/appearance.h"
+#include "printing/frm_avvia_stampa.h"
+#include "servizi_fermi.h"
+#include "support/come_dal_menu.h"
+#include "tools/tavoletta/tavoletta.h"
+
+namespace {
+
+constexpr int kAssestamento = 2000;  // milliseconds from the showing to "ready"
+
+// The printers of the machine, with the paper in that every sheet fits on: a sheet that does not
+// fit blinks, and that is no rest.
+class ConCartaGrande final : public platform::Printers {
+ public:
+  explicit ConCartaGrande(platform::TimeSource& tempo)
+      : vere_(tempo,
+              {platform::PdfFolder::usualFolders(), [] { return QDateTime::currentDateTime(); }}) {}
+
+  [[nodiscard]] List list() override { return vere_.list(); }
+  [[nodiscard]] Opened open(const QString& nome) override {
+    Opened aperta = vere_.open(nome);
+    for (const platform::Paper& carta : aperta.traits.papers) {
+      if (carta.code == platform::kPaperA3) aperta.traits.standard.paper = carta;
+    }
+    return aperta;
+  }
+  [[nodiscard]] platform::PrintResult print(const platform::PrintJob& lavoro) override {
+    return vere_.print(lavoro);
+  }
+
+ private:
+  platform::SystemPrinters vere_;
+};
+
+class Riposo {
+ public:
+  explicit Riposo(const QString& cartella)
+      : stampanti_(tempo_),
+        ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
+                   pagina_, rete_, cartella},
+                  [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
+    if (!tavoletta_.Ascolta(0)) std::exit(1);
+    ambiente_.servizi.porta = tavoletta_.Porta();
+    somme::Avvia(ambiente_);
+    QObject::connect(&comandi_, &QSocketNotifier::activated, &comandi_, [this] { leggi(); });
+  }
+
+ private:
+  void leggi() {
+    std::string riga;
+    if (!std::getline(std::cin, riga) || riga.empty()) std::_Exit(0);
+    std::istringstream parole(riga);
+    parole >> nome_ >> modo_;
+    // Of a dialog or a sheet first what waits for it must come to its end.
+    if (QWidget* dialogo = QApplication::activeModalWidget()) dialogo->close();
+    QTimer::singleShot(0, &comandi_, [this] { mostra(); });
+    QTimer::singleShot(kAssestamento, &comandi_, [] {
+      std::printf("ready\n");
+      std::fflush(stdout);
+    });
+  }
+
+  void mostra() {
+    platform::Forms& forme = ambiente_.fondo.forms();
+    platform::Form& sotto = *forme.current();
+    prova::ComeDalMenu(ambiente_.stato, nome_);
+    ambiente_.stato.ModalitaInput = qint16(modo_);
+    if (nome_ == somme::forme::kFrmAvviaStampa) {
+      sotto.run([&] { stampa(sotto); });
+    } else if (nome_.starts_with("FormStampa")) {
+      sotto.run([&] { forme.show(nome_); });
+    } else {
+      try {
+        forme.pass(sotto, nome_);
+      } catch (const platform::Unwind&) {
+        std::exit(1);
+      }
+    }
+  }
+
+  void stampa(platform::Form& sotto) {
+    auto& dialogo = static_cast<somme::frmAvviaStampa&>(ambiente_.fondo.forms().loaded(nome_));
+    const auto viva = dialogo.shared_from_this();
+    somme::frmAvviaStampa::Richiesta richiesta;
+    richiesta.oggetto = &sotto;
+    richiesta.larghezza = 100;
+    richiesta.altezza = 100;
+    richiesta.orientamento = 1;
+    (void)dialogo.StampaFCPB(richiesta);
+  }
+
+  somme::tavoletta::Tavoletta tavoletta_;
+  platform::LoopbackNetwork rete_;
+  platform::QtTimeSource tempo_;
+  platform::SeededChance sorte_{1};
+  platform::SdlSound suono_{QApplication::beep};
+  bench::Zitto messaggi_;
+  bench::Chiuso documenti_;
+  bench::Uscita fine_;
+  bench::Solo istanza_;
+  ConCartaGrande stampanti_;
+  bench::SenzaPagina pagina_;
+  somme::Ambiente ambiente_;
+  QSocketNotifier comandi_{STDIN_FILENO, QSocketNotifier::Read};
+  std::string nome_;
+  int modo_ = 0;
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication programma(argc, argv);
+  platform::applyAppearance();
+  somme::PreparaImmagini();
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: bench_riposo FOLDER-OF-THE-PROGRAM\n");
+    return 2;
+  }
+  if (std::string_view(argv[1]) == "--forms") {
+    for (const std::string_view nome : somme::NomiDelleForme()) {
+      std::printf("%.*s\n", int(nome.size()), nome.data());
+    }
+    return 0;
+  }
+  const Riposo riposo(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
+  return QApplication::exec();
+}
