@@ -103,7 +103,10 @@ void Gesti::uno(int profondita) {
 
 void Gesti::daFuori(int profondita) {
   if (chiuso()) return;
-  if (dadi_.unoSu(2)) {
+  const int come = dadi_.fino(9);
+  if (come == 0) {
+    chiacchiera(profondita);
+  } else if (come < 5) {
     rete(profondita);
   } else {
     orologio(profondita);
@@ -124,11 +127,12 @@ void Gesti::gira(int profondita) {
       {4, &Gesti::menu},
       {4, &Gesti::accessibile},
       {10, &Gesti::rete},
+      {2, &Gesti::chiacchiera},
       {14, &Gesti::orologio},
       {3, &Gesti::lato},
       {3, &Gesti::perdiIlFuoco},
       {1, &Gesti::lingua},
-      {1, &Gesti::stampanti},
+      {2, &Gesti::stampanti},
   });
   static constexpr int kSomma = [] {
     int somma = 0;
@@ -325,13 +329,13 @@ void Gesti::menu(int profondita) {
   voce->trigger();
 }
 
-// Assistive technology presses something.
+// Assistive technology presses something, also while the program waits for a printer.
 void Gesti::accessibile(int profondita) {
   std::vector<const Control*> tutti;
   for (const Control* c : inUso()->controls()) {
     if (visibile(*c)) tutti.push_back(c);
   }
-  if (tutti.empty() || banco_.ambiente->fondo.isDeaf()) return;
+  if (tutti.empty()) return;
   const Control& scelto = *dadi_.uno(tutti);
   QAccessibleInterface* nodo = QAccessible::queryAccessibleInterface(scelto.widget());
   QAccessibleActionInterface* azioni = nodo == nullptr ? nullptr : nodo->actionInterface();

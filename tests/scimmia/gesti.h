@@ -15,6 +15,7 @@ struct Disturbi {
   bool stampante = false;  // a printer was missing or failed
   bool rapporto = false;   // a report of one character came
   bool lato = false;       // the window changed its size under the bars
+  double lentezza = 0;     // seconds that a printer lets the program wait
 
   [[nodiscard]] bool spiega(const QString& riquadro) const;
 };
@@ -49,6 +50,7 @@ class Gesti {
   void menu(int profondita);
   void accessibile(int profondita);
   void rete(int profondita);
+  void chiacchiera(int profondita);
   void orologio(int profondita);
   void lato(int profondita);
   void perdiIlFuoco(int profondita);

@@ -43,6 +43,31 @@ void Gesti::rete(int profondita) {
   }
 }
 
+// A link that chatters: all that the surface can say in one go, torn apart and run together as a
+// network may do it.
+void Gesti::chiacchiera(int profondita) {
+  constexpr int kMolte = 60;
+  const int frasi = dadi_.tra(2, kMolte);
+  const bool soloOk = dadi_.unoSu(3);
+  racconto_.annota(profondita, QStringLiteral("chatters %1 only OK %2").arg(frasi).arg(soloOk));
+  disturbi_.rapporto = true;  // what is torn off may be one character
+  QByteArray detto;
+  for (int i = 0; i < frasi && !chiuso(); ++i) {
+    const int frase = soloOk ? 0 : dadi_.fino(3);
+    if (frase == 0) detto += "OK";
+    if (frase == 1) detto += QByteArray("..1").replace(0, 1, QByteArray(1, char(dadi_.fino(256))));
+    if (frase == 2) detto += QByteArray(dadi_.tra(1, 9), char(dadi_.fino(256)));
+    if (dadi_.unoSu(3)) continue;
+    const qsizetype fino = dadi_.tra(1, int(detto.size()));
+    if (dadi_.unoSu(2)) {
+      banco_.rete.manda(detto.left(fino));
+    } else {
+      banco_.rete.accoda(detto.left(fino));
+    }
+    detto.remove(0, fino);
+  }
+}
+
 void Gesti::orologio(int profondita) {
   constexpr auto kPassi = std::to_array<double>({0.02, 0.1, 0.3, 1, 1, 2.5, 6});
   const double passo = dadi_.uno(kPassi);
@@ -83,7 +108,7 @@ void Gesti::lingua(int profondita) {
 
 void Gesti::stampanti(int profondita) {
   StampantiDiProva& stampanti = banco_.stampanti;
-  const int come = dadi_.fino(4);
+  const int come = dadi_.fino(6);
   racconto_.annota(profondita, QStringLiteral("printers %1").arg(come));
   if (come == 0) {
     stampanti.nessuna();
@@ -91,7 +116,11 @@ void Gesti::stampanti(int profondita) {
   } else if (come == 1) {
     stampanti.esito = {0, false};
     disturbi_.stampante = true;
+  } else if (come == 2) {
+    // A print server that takes its time, up to more than anybody waits.
+    disturbi_.lentezza = dadi_.uno(std::to_array<double>({0.2, 1, 3, 9.9, 25}));
   } else {
+    disturbi_.lentezza = 0;
     stampanti.metti(QStringLiteral("Prova"), StampanteDiProva());
     stampanti.elenco.standard = QStringLiteral("Prova");
     stampanti.esito = {17, true};

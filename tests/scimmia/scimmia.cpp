@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QScopeGuard>
+#include <QScopedValueRollback>
 #include <QThread>
 #include <array>
 #include <utility>
@@ -55,9 +56,7 @@ Scimmia::Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta)
   banco_.sorte.alTiro = [this] { giraLaSorte(); };
   banco_.sorte.riparti(static_cast<std::uint64_t>(dadi_.fino(kMolti)));
   banco_.messaggi.mentreAperto = [this] { nelRiquadro(); };
-  banco_.stampanti.mentreRisponde = [this] {
-    if (dadi_.unoSu(2)) evento();
-  };
+  banco_.stampanti.mentreRisponde = [this] { mentreLaStampanteRisponde(); };
   banco_.pagina.risposta = [this](platform::PrinterSettings& scelte) {
     scelte.orientation =
         dadi_.unoSu(2) ? platform::Orientation::Portrait : platform::Orientation::Landscape;
@@ -102,6 +101,7 @@ void Scimmia::apri() {
   stato.CursoreDiSistema = dadi_.unoSu(2);
   if (dadi_.unoSu(3)) banco_.rete.aOgniRichiesta = "OK";
   if (dadi_.unoSu(2)) stato.LinguaCorrente = QStringLiteral("English");
+  if (dadi_.unoSu(3)) lettore_.accendi();
   static constexpr auto kSotto = std::to_array<std::string_view>(
       {somme::forme::kFormBarre10HK, somme::forme::kFormNumeriTotaleHK, somme::forme::kFormMenu});
   const std::string_view prima = diFoglio() ? dadi_.uno(kSotto) : vista(nome_);
@@ -160,7 +160,7 @@ void Scimmia::evento() {
   ++eventi_;
   tiri_ = 0;
   if (profondita_ > 1) ++dentro_;
-  if (riquadri_ > 0) {
+  if (!riquadri_.isEmpty()) {
     gesti_.daFuori(profondita_);
   } else {
     if (profondita_ == 1) torna();
@@ -174,6 +174,7 @@ void Scimmia::verifica() {
   if (guasto_ || gira_) return;
   constexpr int kOgniTanto = 40;
   try {
+    if (const auto preso = lettore_.preso()) throw Guasto(*preso);
     if (banco_.ambiente->fondo.gate().isClosed()) return;
     verifiche_->sempre();
     if (profondita_ > 1) return;
@@ -245,11 +246,29 @@ void Scimmia::nelRiquadro() {
     guasto_ =
         Guasto(QStringLiteral("run-time's box without a cause: ") + riquadro.text.simplified());
   }
-  ++riquadri_;
-  const auto giu = qScopeGuard([this] { --riquadri_; });
+  // Of what comes from outside only one box stands at a time, however often it comes.
+  if (riquadri_.contains(riquadro.text)) {
+    guasto_ = Guasto(QStringLiteral("the same box twice: ") + riquadro.text.simplified());
+  }
+  riquadri_.append(riquadro.text);
+  const auto giu = qScopeGuard([this] { riquadri_.removeLast(); });
   for (int volte = dadi_.fino(3); volte > 0; --volte) evento();
   if (riquadro.buttons == platform::BoxButtons::Ok) return;
   banco_.messaggi.rispondi(dadi_.unoSu(2) ? platform::BoxAnswer::Yes : platform::BoxAnswer::No);
+}
+
+// While a printer is waited for, the program takes no order to ask one again.
+void Scimmia::mentreLaStampanteRisponde() {
+  if (chiede_) {
+    guasto_ = Guasto(QStringLiteral("a printer is asked while one is waited for"));
+    return;
+  }
+  const QScopedValueRollback chiede(chiede_, true);
+  if (disturbi_.lentezza > 0) {
+    racconto_.annota(profondita_, QStringLiteral("the printer thinks"));
+    banco_.tempo.advance(disturbi_.lentezza);
+  }
+  if (dadi_.unoSu(2)) evento();
 }
 
 // A level may draw for ever for a sum that it can never split; then this life is over.

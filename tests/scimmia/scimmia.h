@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "scimmia/gesti.h"
+#include "scimmia/lettore.h"
 #include "scimmia/verifiche.h"
 
 namespace prova {
@@ -39,6 +40,7 @@ class Scimmia {
   void evento();
   void verifica();
   void nelRiquadro();
+  void mentreLaStampanteRisponde();
   void giraLaSorte();
   void scegli();
   [[nodiscard]] bool finita() const;
@@ -52,15 +54,17 @@ class Scimmia {
   Banco banco_;
   Gesti gesti_;
   QObject finoAllaFine_;
+  Lettore lettore_;
   std::optional<Guasto> guasto_;
   int restano_ = 0;
   int eventi_ = 0;
   int dentro_ = 0;
   int profondita_ = 0;
   int profonda_ = 0;
-  int fuori_ = 0;     // events since the monkey's own form was left
-  int riquadri_ = 0;  // message boxes now open
-  int tiri_ = 0;      // draws since the last event
+  int fuori_ = 0;         // events since the monkey's own form was left
+  QStringList riquadri_;  // the message boxes now open
+  bool chiede_ = false;   // a printer is being asked
+  int tiri_ = 0;          // draws since the last event
   bool gira_ = false;
   bool chiamata_ = false;  // an event of the monkey's is on its way into a loop of Qt's
 };

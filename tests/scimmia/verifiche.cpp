@@ -9,6 +9,7 @@
 #include "platform/base/numbers.h"
 #include "platform/forms/page.h"
 #include "scimmia/caso_di_scimmia.h"
+#include "scimmia/lettore.h"
 
 namespace prova {
 
@@ -31,26 +32,6 @@ void conta(const char* nome, int prima, int ora, int uditi) {
                    .arg(prima)
                    .arg(ora)
                    .arg(uditi));
-}
-
-int percorri(QAccessibleInterface* nodo, int profondita) {
-  constexpr int kMassima = 40;
-  if (nodo == nullptr || !nodo->isValid()) return 0;
-  if (profondita > kMassima) throw Guasto(QStringLiteral("the accessible tree has no bottom"));
-  (void)nodo->role();
-  (void)nodo->state();
-  (void)nodo->rect();
-  (void)nodo->text(QAccessible::Name);
-  (void)nodo->text(QAccessible::Description);
-  int nodi = 1;
-  for (int i = 0; i < nodo->childCount(); ++i) {
-    QAccessibleInterface* figlio = nodo->child(i);
-    if (figlio == nullptr || !figlio->isValid()) continue;
-    const QAccessibleInterface* padre = figlio->parent();
-    if (padre == nullptr) throw Guasto(QStringLiteral("an accessible child without a parent"));
-    nodi += percorri(figlio, profondita + 1);
-  }
-  return nodi;
 }
 
 }  // namespace
@@ -164,7 +145,7 @@ void Verifiche::fuoco() const {
 void Verifiche::alberoAccessibile() const {
   for (QWidget* finestra : QApplication::topLevelWidgets()) {
     if (!finestra->isVisible()) continue;
-    if (percorri(QAccessible::queryAccessibleInterface(finestra), 0) == 0) {
+    if (PercorriAlbero(QAccessible::queryAccessibleInterface(finestra)) == 0) {
       throw Guasto(QStringLiteral("a window has no accessible tree"));
     }
   }
