@@ -36,7 +36,8 @@
 
 namespace {
 
-constexpr int kAssestamento = 2000;  // milliseconds from the showing to "ready"
+constexpr int kAssestamento =
+    4000;  // milliseconds from the showing to "ready": a text cursor rests
 
 // The printers of the machine, with the paper in that every sheet fits on: a sheet that does not
 // fit blinks, and that is no rest.

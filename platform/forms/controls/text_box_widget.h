@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <functional>
 
+#include "platform/forms/controls/cursor_rest.h"
 #include "platform/forms/design.h"
 
 namespace platform {
@@ -60,6 +61,7 @@ class TextBoxWidget final : public QLineEdit {
   void paintFaintText();
 
   Hooks hooks_;
+  CursorRest cursorRest_{*this};
   QString text_;  // what the box held after the last change that came one of its own ways
   QFont font_;
   QColor ink_ = Qt::black;

@@ -85,6 +85,15 @@ void lascia(TextBox& casella, const QString& testo) {
   QCoreApplication::sendEvent(casella.widget(), &evento);
 }
 
+// The timers by which the box's cursor blinks.
+qsizetype battiti(TextBox& casella) {
+  qsizetype quanti = 0;
+  for (QObject* parte : rigaDi(casella).findChildren<QObject*>()) {
+    quanti += QAbstractEventDispatcher::instance()->registeredTimers(parte).size();
+  }
+  return quanti;
+}
+
 void metti(const QString& testo) {
   QApplication::clipboard()->setText(testo);
 }
@@ -345,19 +354,30 @@ class TextBoxTest : public QObject {
     Prova& forma = fondo.forma();
     forma.Casella.setFocus();
     forma.Bottone.setFocus();
-    const auto battiti = [&forma] {
-      qsizetype quanti = 0;
-      for (QObject* parte : rigaDi(forma.Casella).findChildren<QObject*>()) {
-        quanti += QAbstractEventDispatcher::instance()->registeredTimers(parte).size();
-      }
-      return quanti;
-    };
-    QCOMPARE(battiti(), 0);
+    QCOMPARE(battiti(forma.Casella), 0);
     forma.Casella.setFocus();
-    QCOMPARE(battiti(), 1);
+    QCOMPARE(battiti(forma.Casella), 1);
     // Nothing can be written there, so that nothing blinks.
     forma.Casella.setLocked(true);
-    QCOMPARE(battiti(), 0);
+    QCOMPARE(battiti(forma.Casella), 0);
+  }
+
+  void theCursorStandsStillOnceNobodyTypesAndBlinksAgainWithTheNextKey() {
+    Fondo fondo;
+    Prova& forma = fondo.forma();
+    forma.Casella.setFocus();
+    QCOMPARE(battiti(forma.Casella), 1);
+    QTest::qWait(2000);
+    fondo.scrivi(QStringLiteral("1"));
+    QTest::qWait(2000);
+    QCOMPARE(battiti(forma.Casella), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(battiti(forma.Casella), 0, 5000);
+    fondo.scrivi(QStringLiteral("2"));
+    QCOMPARE(battiti(forma.Casella), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(battiti(forma.Casella), 0, 5000);
+    forma.Bottone.setFocus();
+    forma.Casella.setFocus();
+    QCOMPARE(battiti(forma.Casella), 1);
   }
 
   void theFocusShowsAsARingOfTwoPixelsAtLeast() {
