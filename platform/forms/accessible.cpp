@@ -6,11 +6,16 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/forms/accessible_text_box.h"
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/image_widget.h"
 #include "platform/forms/controls/key_panel_widget.h"
 #include "platform/forms/controls/panel_widget.h"
+#include "platform/forms/controls/scroll_bar_widget.h"
+#include "platform/forms/controls/text_box_widget.h"
+#include "platform/forms/controls/toggle_widget.h"
 #include "platform/forms/keys/key_codes.h"
+#include "platform/forms/press_event.h"
 
 namespace platform {
 
@@ -19,35 +24,94 @@ namespace {
 // How many changes of many states are going on; widgets live on one thread only.
 int statesToldLater = 0;
 
-// Qt's own interface of a button clicks 100 ms after the action, also a button that was disabled
-// meanwhile; this one posts the click.
-class AccessibleButton final : public QAccessibleWidget {
+// A widget that assistive technology can press. Qt's own interface of a button clicks 100 ms after
+// the action, also a button that was disabled meanwhile; this one posts the press as an event.
+class Pressable : public QAccessibleWidget {
  public:
-  explicit AccessibleButton(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Button) {}
+  // action: what the press is called.
+  Pressable(QWidget* widget, QAccessible::Role role, QString action)
+      : QAccessibleWidget(widget, role), action_(std::move(action)) {}
+
+  [[nodiscard]] QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    // What is for show alone cannot be pressed.
+    if (widget()->focusPolicy() == Qt::NoFocus) return names;
+    if (widget()->isEnabled() && !names.contains(action_)) names.prepend(action_);
+    return names;
+  }
+
+  void doAction(const QString& action) override {
+    if (action == action_) {
+      postPress(*widget());
+    } else {
+      QAccessibleWidget::doAction(action);
+    }
+  }
+
+ private:
+  QString action_;
+};
+
+class AccessibleButton final : public Pressable {
+ public:
+  explicit AccessibleButton(QWidget* widget)
+      : Pressable(widget, QAccessible::Button, pressAction()) {}
+
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    const QString own = QAccessibleWidget::text(kind);
+    const QWidget* heading = static_cast<ButtonWidget*>(widget())->heading();
+    if (kind != QAccessible::Name || heading == nullptr) return own;
+    return QStringLiteral("%1, %2").arg(heading->accessibleName(), own);
+  }
 
   [[nodiscard]] QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
     if (widget() == focusSpoken()) state.focused = true;
     return state;
   }
+};
 
-  [[nodiscard]] QStringList actionNames() const override {
-    QStringList names = QAccessibleWidget::actionNames();
-    // A button that is for show alone cannot be pressed.
-    if (widget()->focusPolicy() == Qt::NoFocus) return names;
-    if (widget()->isEnabled() && !names.contains(pressAction())) names.prepend(pressAction());
-    return names;
+// A check box or an option button.
+class AccessibleToggle final : public Pressable {
+ public:
+  AccessibleToggle(QAbstractButton* button, QAccessible::Role role)
+      : Pressable(button, role, toggleAction()) {}
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = Pressable::state();
+    state.checkable = true;
+    state.checked = static_cast<QAbstractButton*>(widget())->isChecked();
+    return state;
+  }
+};
+
+// A scroll bar with its value in units of its form's.
+class AccessibleScrollBar final : public QAccessibleWidget, public QAccessibleValueInterface {
+ public:
+  explicit AccessibleScrollBar(ScrollBarWidget& bar)
+      : QAccessibleWidget(&bar, QAccessible::Slider) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+  }
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Value) return QString::number(currentValue().toDouble());
+    return QAccessibleWidget::text(kind);
   }
 
-  void doAction(const QString& action) override {
-    if (action != pressAction()) {
-      QAccessibleWidget::doAction(action);
-      return;
-    }
-    auto* button = static_cast<ButtonWidget*>(widget());
-    QMetaObject::invokeMethod(
-        button, [button] { button->press(); }, Qt::QueuedConnection);
+  [[nodiscard]] QVariant currentValue() const override { return bar().value() * bar().unit(); }
+  void setCurrentValue(const QVariant& value) override {
+    bar().setValue(qRound(value.toDouble() / bar().unit()));
   }
+  [[nodiscard]] QVariant maximumValue() const override { return bar().maximum() * bar().unit(); }
+  [[nodiscard]] QVariant minimumValue() const override { return bar().minimum() * bar().unit(); }
+  [[nodiscard]] QVariant minimumStepSize() const override {
+    return bar().singleStep() * bar().unit();
+  }
+
+ private:
+  [[nodiscard]] ScrollBarWidget& bar() const { return *static_cast<ScrollBarWidget*>(widget()); }
 };
 
 // The keys of those who have one or two, as assistive technology calls and taps them.
@@ -99,6 +163,18 @@ class AccessibleKeyPanel final : public QAccessibleWidget {
 QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
   if (className == QLatin1String("platform::ButtonWidget")) {
     return new AccessibleButton(static_cast<QWidget*>(object));
+  }
+  if (className == QLatin1String("platform::ScrollBarWidget")) {
+    return new AccessibleScrollBar(static_cast<ScrollBarWidget&>(*object));
+  }
+  if (className == QLatin1String("platform::TextBoxWidget")) {
+    return new AccessibleTextBox(static_cast<TextBoxWidget&>(*object));
+  }
+  if (auto* box = dynamic_cast<CheckBoxWidget*>(object)) {
+    return new AccessibleToggle(box, QAccessible::CheckBox);
+  }
+  if (auto* option = dynamic_cast<OptionButtonWidget*>(object)) {
+    return new AccessibleToggle(option, QAccessible::RadioButton);
   }
   if (className == QLatin1String("platform::ImageWidget") ||
       className == QLatin1String("platform::LineWidget")) {

@@ -9,6 +9,8 @@
 
 #include "platform/forms/accessible.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/button_widget.h"
+#include "platform/forms/controls/label.h"
 
 namespace platform {
 
@@ -70,8 +72,10 @@ bool isBetter(const Way& way, const Way& than, const Direction& direction) {
 
 }  // namespace
 
-void ButtonGroup::add(Button& button) {
+void ButtonGroup::add(Button& button, const Label* heading) {
   buttons_.push_back(&button);
+  if (heading != nullptr)
+    static_cast<ButtonWidget*>(button.widget())->setHeading(heading->widget());
   button.widget()->installEventFilter(this);
 }
 

@@ -8,6 +8,7 @@ class QWidget;
 namespace platform {
 
 class Button;
+class Label;
 
 // Like buttons in rows and columns, which keys walk as one: an arrow key moves the focus to the
 // next button in its direction, Home and End move it to the ends of the row, always over those that
@@ -19,7 +20,9 @@ class ButtonGroup final : public QObject {
   Q_OBJECT
 
  public:
-  void add(Button& button);
+  // heading: what the button belongs to; assistive technology says its words, as they are when it
+  // asks, before those of the button. Null for nothing.
+  void add(Button& button, const Label* heading = nullptr);
 
   // Enables or disables the first so many of the buttons together: the focus, where one of them
   // has it, moves once, and assistive technology hears of a button's change when the focus comes to

@@ -11,6 +11,7 @@
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
+#include "platform/forms/press_event.h"
 
 namespace platform {
 
@@ -80,6 +81,12 @@ void ButtonWidget::setColours(QColor ink, std::optional<QColor> ground) {
   ink_ = ink;
   ground_ = ground;
   update();
+}
+
+bool ButtonWidget::event(QEvent* event) {
+  if (event->type() != pressEvent()) return QAbstractButton::event(event);
+  clicked_();
+  return true;
 }
 
 void ButtonWidget::letGo() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPointer>
 #include <functional>
 #include <optional>
 
@@ -28,12 +29,15 @@ class ButtonWidget final : public QAbstractButton {
   void shareCaptionSize(CaptionSize* shared);
   // The pixel size of letters that the caption has room for, at most that of the font.
   [[nodiscard]] int fittedCaption();
-  // A click from outside of mouse and keys.
-  void press() { clicked_(); }
+  // What the button belongs to, which assistive technology says before its own words; null for
+  // nothing.
+  void setHeading(const QWidget* heading) { heading_ = heading; }
+  [[nodiscard]] const QWidget* heading() const { return heading_; }
   // Takes a held key or mouse button as let go without effect.
   void letGo();
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
@@ -61,6 +65,7 @@ class ButtonWidget final : public QAbstractButton {
   std::optional<QColor> ground_;
   TextBlock block_;
   CaptionSize* shared_ = nullptr;
+  QPointer<const QWidget> heading_;
   bool stateUntold_ = false;  // assistive technology takes it for enabled, or disabled, wrongly
 };
 

@@ -6,6 +6,7 @@
 
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
+#include "platform/forms/runtime.h"
 
 namespace platform {
 
@@ -33,6 +34,13 @@ QComboBox* boxOf(QWidget* widget) {
 QWidget* ComboBox::create(QWidget* parent) {
   auto* box = new ComboWidget(parent);
   QObject::connect(box, &QComboBox::currentIndexChanged, box, [this](int index) {
+    // Assistive technology chooses past all events.
+    if (index != chosen_ && runtime().isDeaf()) {
+      const QSignalBlocker quiet(widget());
+      boxOf(widget())->setCurrentIndex(chosen_);
+      return;
+    }
+    chosen_ = index;
     if (index >= 0) raiseEvent(clicked_);
   });
   return box;
@@ -50,6 +58,7 @@ void ComboBox::setItems(const QStringList& items) {
   boxOf(widget())->clear();
   boxOf(widget())->addItems(items);
   boxOf(widget())->setCurrentIndex(-1);
+  chosen_ = -1;
 }
 
 QStringList ComboBox::items() const {

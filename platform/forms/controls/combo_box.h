@@ -31,6 +31,7 @@ class ComboBox : public Control {
 
  private:
   std::function<void()> clicked_;
+  int chosen_ = -1;
 };
 
 }  // namespace platform

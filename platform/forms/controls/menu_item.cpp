@@ -5,6 +5,7 @@
 #include <QMenu>
 
 #include "platform/forms/form.h"
+#include "platform/forms/keys/key_guard.h"
 #include "platform/forms/menu_bar.h"
 #include "platform/forms/runtime.h"
 
@@ -42,6 +43,8 @@ QWidget* MenuItem::create(QWidget* parent) {
   action_->setEnabled(!look().disabled);
   QObject::connect(action_, &QAction::triggered, action_, [this] {
     action_->setChecked(checked_);
+    // Assistive technology triggers it past all events.
+    if (!runtime().keys().mayAct(*form().page())) return;
     closeMenus();
     click();
   });

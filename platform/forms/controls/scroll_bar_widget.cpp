@@ -1,5 +1,6 @@
 #include "platform/forms/controls/scroll_bar_widget.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -21,7 +22,8 @@ constexpr QColor kInk(24, 33, 59);
 
 }  // namespace
 
-ScrollBarWidget::ScrollBarWidget(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+ScrollBarWidget::ScrollBarWidget(QWidget* parent, double unit)
+    : QSlider(Qt::Horizontal, parent), unit_(unit) {
   setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -70,6 +72,26 @@ void ScrollBarWidget::mousePressEvent(QMouseEvent* event) {
   } else {
     grip_ = held.width() / 2;
     setValue(valueAt(point.x() - grip_));
+  }
+}
+
+// A slider's own Up and Page Up go to the right; on a scroll bar they go back.
+void ScrollBarWidget::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Up:
+      triggerAction(SliderSingleStepSub);
+      break;
+    case Qt::Key_Down:
+      triggerAction(SliderSingleStepAdd);
+      break;
+    case Qt::Key_PageUp:
+      triggerAction(SliderPageStepSub);
+      break;
+    case Qt::Key_PageDown:
+      triggerAction(SliderPageStepAdd);
+      break;
+    default:
+      QSlider::keyPressEvent(event);
   }
 }
 

@@ -10,10 +10,14 @@ class ScrollBarWidget final : public QSlider {
   Q_OBJECT
 
  public:
-  explicit ScrollBarWidget(QWidget* parent);
+  // unit: what one of the value is to assistive technology.
+  ScrollBarWidget(QWidget* parent, double unit);
+
+  [[nodiscard]] double unit() const { return unit_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -30,6 +34,7 @@ class ScrollBarWidget final : public QSlider {
   void paintThumb(QPainter& painter) const;
   void letGo();
 
+  double unit_;
   static constexpr int kNoGrip = -1;
   int grip_ = kNoGrip;  // where the thumb is held, pixels from its left edge
 };

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QPointer>
 #include <QValidator>
 #include <algorithm>
 #include <limits>
@@ -14,6 +15,7 @@
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/keys/key_codes.h"
+#include "platform/forms/press_event.h"
 #include "platform/forms/text_block.h"
 
 namespace platform {
@@ -137,6 +139,26 @@ void TextBoxWidget::noteChange() {
   text_ = text();
   fitFont();
   hooks_.changed();
+}
+
+QRect TextBoxWidget::placeOf(int character) const {
+  const QFontMetricsF metrics(font());
+  const QRect cursor = cursorRect();
+  const double left = cursor.left() + kBesideCursor +
+                      metrics.horizontalAdvance(text().left(character)) -
+                      metrics.horizontalAdvance(text().left(cursorPosition()));
+  const double across = metrics.horizontalAdvance(text().mid(character, 1));
+  return QRectF(left, cursor.top(), across, cursor.height()).toRect();
+}
+
+// Assistive technology's press confirms, as Enter does.
+bool TextBoxWidget::event(QEvent* event) {
+  if (event->type() != pressEvent()) return QLineEdit::event(event);
+  if (!isEnabled() || isReadOnly()) return true;
+  const QPointer<TextBoxWidget> self(this);
+  (void)filtered(kKeyEnter);
+  if (self) hooks_.keyUp(kKeyEnter);
+  return true;
 }
 
 void TextBoxWidget::keyPressEvent(QKeyEvent* event) {

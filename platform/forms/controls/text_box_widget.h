@@ -39,7 +39,11 @@ class TextBoxWidget final : public QLineEdit {
   void setLook(const QFont& font, Align align, const QColor& ink, const QColor& ground);
   void setBorder(bool border);
 
+  // The room of a character, in the coordinates of this widget.
+  [[nodiscard]] QRect placeOf(int character) const;
+
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;

@@ -7,6 +7,7 @@
 #include <QStyleOptionButton>
 
 #include "platform/forms/focus_ring.h"
+#include "platform/forms/press_event.h"
 #include "platform/forms/text_block.h"
 
 namespace platform {
@@ -26,6 +27,12 @@ class ToggleWidget : public Base {
   }
 
  protected:
+  bool event(QEvent* event) override {
+    if (event->type() != pressEvent()) return Base::event(event);
+    if (this->isEnabled()) this->click();
+    return true;
+  }
+
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     QStyleOptionButton option;

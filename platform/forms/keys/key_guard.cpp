@@ -11,6 +11,7 @@
 
 #include "platform/forms/form.h"
 #include "platform/forms/keys/keyboard_state.h"
+#include "platform/forms/press_event.h"
 #include "platform/forms/runtime.h"
 
 namespace platform {
@@ -109,7 +110,8 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
       return watched->isWindowType() &&
              mouse(static_cast<QWindow&>(*watched), static_cast<QMouseEvent&>(*event));
     default:
-      return false;
+      return event->type() == pressEvent() && watched->isWidgetType() &&
+             !mayAct(static_cast<QWidget&>(*watched));
   }
 }
 
@@ -128,6 +130,14 @@ bool KeyGuard::isMainWindow(const QWindow& window) const {
 // Nothing acts while a device is waited for, nor on a page that is being left.
 bool KeyGuard::isShut(const QWindow& window) const {
   return runtime_.isDeaf() || (isMainWindow(window) && runtime_.forms().isChanging());
+}
+
+bool KeyGuard::mayAct(const QWidget& widget) const {
+  const QWidget* window = widget.window();
+  const QWidget* modal = QApplication::activeModalWidget();
+  const bool open = modal == nullptr || modal == window || modal->isAncestorOf(window);
+  const QWindow* handle = window->windowHandle();
+  return open && handle != nullptr && !isShut(*handle);
 }
 
 // What a window holds: the page of the main window, or the window itself.

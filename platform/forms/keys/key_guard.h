@@ -10,6 +10,7 @@
 
 class QKeyEvent;
 class QMouseEvent;
+class QWidget;
 class QWindow;
 
 namespace platform {
@@ -26,6 +27,10 @@ class KeyGuard final : public QObject {
   // marks: how this desktop shows the repeats of a held key.
   KeyGuard(Runtime& runtime, RepeatMarks marks);
   ~KeyGuard() override;
+
+  // Whether a press in this widget acts now: nothing is waited for with deaf ears, its page is not
+  // being left, and no box or dialog stands over its window.
+  [[nodiscard]] bool mayAct(const QWidget& widget) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,6 +1,8 @@
 #include "exercises/bars/form_barre10_tastiera.h"
 
+#include <QAccessible>
 #include "app/form_menu_barre.h"
+
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "support/banco.h"
@@ -83,6 +85,32 @@ class FormBarre10TastieraTest : public QObject {
     forma.mnuRossa.click();
     QVERIFY(!forma.aiuto1[0].isVisible());
     QVERIFY(!forma.aiuto3[0].isVisible());
+  }
+
+  void assistiveTechnologyWritesAndConfirmsWithoutAKey() {
+    Banco banco;
+    FormBarre10Tastiera& forma = apri(banco, 7, 3);
+    QAccessibleInterface* casella =
+        QAccessible::queryAccessibleInterface(forma.TestoInput.widget());
+    QCOMPARE(casella->role(), QAccessible::EditableText);
+    const auto conferma = [casella] {
+      casella->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+      QCoreApplication::processEvents();
+    };
+    casella->editableTextInterface()->insertText(0, QStringLiteral("5"));
+    QCoreApplication::processEvents();
+    QCOMPARE(casella->textInterface()->text(0, 9), QStringLiteral("5"));
+    conferma();
+    QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
+    casella->editableTextInterface()->replaceText(0, 1, QStringLiteral("7"));
+    QCoreApplication::processEvents();
+    conferma();
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
+    // A locked box offers nothing to confirm, and a press that comes all the same does nothing.
+    QVERIFY(!casella->actionInterface()->actionNames().contains(
+        QAccessibleActionInterface::pressAction()));
+    conferma();
+    QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
   void theRightAnswerRunsAgainOnEnterInTheLockedBox() {

@@ -86,11 +86,23 @@ class ScrollBarTest : public QObject {
   void arrowKeysGoBySmallStepsPageKeysByLargeOnesHomeAndEndToTheEnds() {
     Banco banco({1000, 600}, makeForm);
     BarForm& form = open(banco);
-    for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_PageUp,
-                          Qt::Key_PageDown, Qt::Key_End, Qt::Key_Right, Qt::Key_Home}) {
+    for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_PageDown,
+                          Qt::Key_PageUp, Qt::Key_End, Qt::Key_Right, Qt::Key_Home}) {
       banco.batti(key);
     }
     QCOMPARE(form.told, QList<int>({12, 14, 12, 20, 12, 50, 10}));
+  }
+
+  void downAndPageDownGoTheWayOfRightAndTheirOppositesBack() {
+    Banco banco({1000, 600}, makeForm);
+    BarForm& form = open(banco);
+    form.bar.setValue(30);
+    form.told.clear();
+    for (const int key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Up,
+                          Qt::Key_Left}) {
+      banco.batti(key);
+    }
+    QCOMPARE(form.told, QList<int>({32, 34, 42, 34, 32, 30}));
   }
 
   void aHeldKeyIsOneStep() {

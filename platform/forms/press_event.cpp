@@ -1,0 +1,17 @@
+#include "platform/forms/press_event.h"
+
+#include <QCoreApplication>
+#include <QWidget>
+
+namespace platform {
+
+QEvent::Type pressEvent() {
+  static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
+  return type;
+}
+
+void postPress(QWidget& widget) {
+  QCoreApplication::postEvent(&widget, new QEvent(pressEvent()));
+}
+
+}  // namespace platform
