@@ -33,6 +33,9 @@ constexpr TwipsRect Posto(double sinistra, double alto) {
   return {sinistra, alto, 2580, 1155};
 }
 
+// The bar goes by quarters of a second.
+constexpr double kSecondiPerScatto = 0.25;
+
 constexpr auto kControlli = std::to_array<Row>({
     row<&FormMenu::Command2>(Posto(240, 360), Voce("Uso delle barre", "menu_barre")),
     row<&FormMenu::Command6>(Posto(3480, 360), Voce("Tabella", "menu_tabella")),
@@ -107,6 +110,7 @@ FormMenu::FormMenu(Ambiente& ambiente) : Forma(ambiente, kDisegno) {
     strada->shareCaptionSize(scritte_);
   }
   HScrollScansione.onChange([this] { CambiaTempo(); });
+  HScrollScansione.speakInUnitsOf(kSecondiPerScatto);
   CommandConfermaTempoInput.onClick([this] { PictureTempoScansione.setVisible(false); });
   CollegaMenu();
 }
@@ -127,6 +131,10 @@ void FormMenu::CollegaMenu() {
 
 void FormMenu::onLoad() {
   MLSFillMenuLanguages();
+  for (platform::Button* strada :
+       {&Command2, &Command6, &Command4, &Command3, &Command5, &Command1}) {
+    strade_.add(*strada);
+  }
   Forma::onLoad();
   stato().ContaEsatti = 0;
   stato().ContaErrati = 0;
@@ -199,9 +207,10 @@ void FormMenu::CambiaTempo() {
 
 // Neither word goes through the language file.
 void FormMenu::ScriviTempo() {
-  LabelTempoScansione.setCaption(QStringLiteral("Velocità scansione: ") +
-                                 platform::formatPicture(stato().TempoScansione / 4.0, u"##0.00") +
-                                 QStringLiteral(" secondi"));
+  LabelTempoScansione.setCaption(
+      QStringLiteral("Velocità scansione: ") +
+      platform::formatPicture(stato().TempoScansione * kSecondiPerScatto, u"##0.00") +
+      QStringLiteral(" secondi"));
 }
 
 // Every form now loaded changes its language, hidden ones too.

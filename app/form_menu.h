@@ -2,6 +2,7 @@
 
 #include "app/shared/forma.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/button_group.h"
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/controls/label.h"
 #include "platform/forms/controls/menu_item.h"
@@ -50,6 +51,7 @@ class FormMenu final : public Forma {
 
  private:
   platform::CaptionSize scritte_;  // of the ways to the families
+  platform::ButtonGroup strade_;
 
   void CollegaMenu();
   void InvertiSuoni();

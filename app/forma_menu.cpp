@@ -1,5 +1,6 @@
 #include "app/forma_menu.h"
 
+#include "app/disegno_menu.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
@@ -21,10 +22,22 @@ void FormaMenu::onActivate() {
 
 void FormaMenu::Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta) {
   pulsante.shareCaptionSize(scritte_);
+  livelli_.add(pulsante, FasciaDi(pulsante));
   pulsante.onClick([this, famiglia, scelta = std::move(scelta)] {
     scelta();
     VaiA(Strada(famiglia, stato().ModalitaInput));
   });
+}
+
+// In the designs a band comes before the levels that stand under it.
+const platform::Label* FormaMenu::FasciaDi(const platform::Button& voce) const {
+  const platform::Label* fascia = nullptr;
+  for (const platform::Control* controllo : controls()) {
+    if (controllo == &voce) return fascia;
+    const auto* etichetta = dynamic_cast<const platform::Label*>(controllo);
+    if (etichetta != nullptr && etichetta->look().back == disegno::kFascia) fascia = etichetta;
+  }
+  return nullptr;
 }
 
 void FormaMenu::ScegliTitolato(int tipo, const QString& chiave, const platform::Button& voce) {

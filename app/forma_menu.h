@@ -5,6 +5,7 @@
 #include "app/shared/forma.h"
 #include "app/strade.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/button_group.h"
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/controls/label.h"
 
@@ -32,7 +33,11 @@ class FormaMenu : public Forma {
   void TornaAlMenu();
 
  private:
+  // The band that stands over the column of a level; null where the menu has none.
+  [[nodiscard]] const platform::Label* FasciaDi(const platform::Button& voce) const;
+
   platform::CaptionSize scritte_;  // of the buttons that open exercises
+  platform::ButtonGroup livelli_;
 };
 
 }  // namespace somme

@@ -3,6 +3,7 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/core/disegno_comune.h"
+#include "exercises/core/quantita.h"
 #include "exercises/table/casi_tabella.h"
 #include "platform/base/numbers.h"
 #include "platform/forms/page.h"
@@ -71,8 +72,6 @@ FormTabella::FormTabella(Ambiente& ambiente)
   for (int i = 0; i < kCelle; ++i) {
     platform::Button& cella = Numero.element(i);
     cella.onClick([this, i] { Rispondi(i); });
-    // An empty cell is called by its row and column, counted from 1, which any language reads.
-    cella.setSpokenName(QStringLiteral("%1, %2").arg(i / kPerRiga + 1).arg(i % kPerRiga + 1));
   }
   PulsanteAvanti.onClick([this] {
     PulsanteAvanti.setEnabled(false);
@@ -111,7 +110,18 @@ void FormTabella::RiempiTabella() {
   };
   for (int i = 0; i < kCelle; ++i) {
     Numero[i].setCaption(mostra(i) ? platform::leadingBlank(i) : QString());
+    if (!mostra(i)) Numero[i].setSpokenName(NomeDiVuota(i));
   }
+}
+
+// A cell that shows no number says what is seen of its place. Where row and column bear theirs, it
+// is the tens and the units that they stand for; where nothing is numbered, the row and the column
+// counted from 1, which any language reads: the number would be found without the table.
+QString FormTabella::NomeDiVuota(int cella) const {
+  const int riga = cella / kPerRiga;
+  const int colonna = cella % kPerRiga;
+  if (mnuMedia.isChecked()) return InParole(ambiente(), {.decine = riga, .unita = colonna});
+  return QStringLiteral("%1, %2").arg(riga + 1).arg(colonna + 1);
 }
 
 // The case stays, and so do the colours of its cells.

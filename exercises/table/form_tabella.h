@@ -52,6 +52,8 @@ class FormTabella final : public FormaEsercizio {
   void Es_Caso(int tipo);
   void NuovoCaso() override;
   void Rispondi(int numero);
+  // What assistive technology calls a cell without a number.
+  [[nodiscard]] QString NomeDiVuota(int cella) const;
   void RispostaGiusta(int numero);
   void ScegliDifficolta(const platform::MenuItem& scelta);
 

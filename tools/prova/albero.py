@@ -148,9 +148,14 @@ class Albero:
         return [o for o in radice.tutti() if o.visibile] if radice else []
 
     def cerca(self, ruolo, nome):
-        """The first object on the screen with that role and that name."""
+        """The first object on the screen with that role and that name.
+
+        A level may be called without the group that it says first.
+        """
         for oggetto in self.visibili():
-            if oggetto.nome == nome and oggetto.ruolo == ruolo:
+            if oggetto.ruolo != ruolo:
+                continue
+            if oggetto.nome == nome or oggetto.nome.endswith(f", {nome}"):
                 return oggetto
         return None
 

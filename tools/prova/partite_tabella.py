@@ -3,13 +3,14 @@
 from giocatore import BOTTONE, Errore, trova
 
 # As the table is at the start only its first row and its first column are numbered; the other
-# cells are called by row and column.
+# cells are called by their tens and units.
 RIGHE = 10
 
 
 def nome(numero):
     riga, colonna = divmod(numero, RIGHE)
-    return f"{riga + 1}, {colonna + 1}" if riga and colonna else str(numero)
+    decine = "1 decina" if riga == 1 else f"{riga} decine"
+    return f"{decine}, {colonna} unità" if riga and colonna else str(numero)
 
 
 def tabella(giocatore):

@@ -178,6 +178,30 @@ class TastiTabellaTest : public QObject {
     QVERIFY(!spenta(57));
   }
 
+  // What is spoken gives no more away than what is seen.
+  void aCellSaysItsNumberOrWhatIsSeenOfItsPlace() {
+    Banco banco;
+    FormTabella& forma = apri(banco, 56);
+    const auto detto = [&forma](int cella) {
+      return QAccessible::queryAccessibleInterface(forma.Numero[cella].widget())
+          ->text(QAccessible::Name);
+    };
+    const auto scegli = [](const platform::MenuItem& voce) {
+      voce.action()->trigger();
+      QCoreApplication::processEvents();
+    };
+    QCOMPARE(detto(7), QStringLiteral("7"));
+    QCOMPARE(detto(90), QStringLiteral("90"));
+    QCOMPARE(detto(97), QStringLiteral("9 decine, 7 unità"));
+    QCOMPARE(detto(11), QStringLiteral("1 decina, 1 unità"));
+    scegli(forma.mnuFacile);
+    QCOMPARE(detto(97), QStringLiteral("97"));
+    scegli(forma.mnudifficile);
+    QCOMPARE(detto(97), QStringLiteral("10, 8"));
+    scegli(forma.mnuMedia);
+    QCOMPARE(detto(97), QStringLiteral("9 decine, 7 unità"));
+  }
+
   void anAnswerTakesTwelveKeysAtMostOnAverage() {
     constexpr int kCasi = 100;
     Banco banco;
