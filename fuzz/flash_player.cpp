@@ -2,9 +2,17 @@
 // bytes behind it are a script of what the host does meanwhile; the rest is the file. A file that
 // begins with "FWS" or "CWS" can be put in as it is: its first byte, 'F' or 'C', is then a script's
 // length, so such inputs are taken whole, with a fixed script.
+//
+// Each step, its loading, a call of the host, a picture, may take a second and 64 MB; one that
+// takes more ends the run. The second is one of this build, too, which is some ten times as slow as
+// the program: what the count of work does not end, the clock behind it does.
+#include <sanitizer/allocator_interface.h>
+
 #include <QImage>
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <span>
 
 #include "platform/flash/limits.h"
@@ -25,24 +33,64 @@ void require(bool promise) {
   if (!promise) std::abort();
 }
 
+// What is allocated now, and the most since a step began, in bytes.
+std::size_t allocated = 0;
+std::size_t peak = 0;
+
+void onAllocation(const volatile void*, std::size_t size) {
+  allocated += size;
+  peak = std::max(peak, allocated);
+}
+
+void onRelease(const volatile void* place) {
+  if (place != nullptr) allocated -= __sanitizer_get_allocated_size(place);
+}
+
+// Does a step and sees to it that it keeps to what it may take.
+template <typename Do>
+void step(const char* what, Do make) {
+  constexpr std::int64_t mostTime = 1000;       // milliseconds
+  constexpr std::size_t mostMemory = 64 << 20;  // bytes
+  static std::int64_t slowest = 100;
+  static std::size_t largest = 16 << 20;
+  const auto now = [] { return platform::flash::Budget::processorTime() / 1'000'000; };
+  const std::int64_t begin = now();
+  const std::size_t before = peak = allocated;
+  make();
+  const std::int64_t took = now() - begin;
+  const std::size_t held = peak - before;
+  if (took > slowest || held > largest) {
+    slowest = std::max(slowest, took);
+    largest = std::max(largest, held);
+    std::fprintf(stderr, "%s: %lld ms, %zu MB\n", what, static_cast<long long>(took), held >> 20U);
+  }
+  require(took <= mostTime && held <= mostMemory);
+}
+
 constexpr std::uint8_t kFixedScript[] = {0, 0, 9, 10, 11, 2, 1, 0, 7, 5, 1, 50, 6, 0, 8};
 
 class Host {
  public:
-  Host(Bytes script, std::shared_ptr<const platform::flash::Movie> movie)
-      : script_(script),
-        player_(std::move(movie), [this](const QString&, const QString&) { ++commands_; }) {
+  Host(Bytes script, std::shared_ptr<const platform::flash::Movie> movie) : script_(script) {
+    step("the first frame", [&] {
+      player_.emplace(std::move(movie), [this](const QString&, const QString&) { ++commands_; });
+    });
     checkCommands();
   }
 
   void run() {
     while (at_ < script_.size()) {
-      step();
+      step("a call", [this] { call(); });
+      step("a question", [this] {
+        (void)player_->showsHand();
+        (void)player_->canChange();
+      });
       checkCommands();
-      require(player_.currentFrame() >= 1);
-      require(player_.currentFrame() <= player_.movie().timeline.frameCount());
+      require(player_->currentFrame() >= 1);
+      require(player_->currentFrame() <= player_->movie().timeline.frameCount());
     }
-    draw();
+    step("a picture", [this] { draw(); });
+    step("the end", [this] { player_.reset(); });
   }
 
  private:
@@ -59,54 +107,52 @@ class Host {
     return {x, double(next())};
   }
 
-  void step() {
+  void call() {
     switch (next() % 11) {
       case 0:
       case 1:
-        player_.tick();
+        player_->tick();
         break;
       case 2:
-        player_.gotoFrame(next() - 1);
+        player_->gotoFrame(next() - 1);
         break;
       case 3:
-        player_.play();
+        player_->play();
         break;
       case 4:
-        player_.stop();
+        player_->stop();
         break;
       case 5: {
         const QString target = name();
         const int property = next() % 20;
-        player_.setProperty(target, property, QString::number(next() - 100));
-        (void)player_.property(target, property);
+        player_->setProperty(target, property, QString::number(next() - 100));
+        (void)player_->property(target, property);
         break;
       }
       case 6:
-        player_.mouseLeave();
+        player_->mouseLeave();
         break;
       case 7:
-        player_.mouseMove(point());
+        player_->mouseMove(point());
         break;
       case 8:
         draw();
         break;
       case 9:
-        player_.mousePress(point());
+        player_->mousePress(point());
         break;
       default:
-        player_.mouseRelease(point());
+        player_->mouseRelease(point());
         break;
     }
-    (void)player_.showsHand();
-    (void)player_.canChange();
   }
 
   void draw() {
-    const Scene now = player_.scene();
+    const Scene now = player_->scene();
     (void)platform::flash::differences(last_, now);
     last_ = now;
-    QImage image(60, 40, QImage::Format_RGB32);
-    renderer_.paint(last_, QTransform::fromScale(0.02, 0.02), 0xFFFFFFFF, image);
+    QImage image(192, 108, QImage::Format_RGB32);
+    renderer_.paint(last_, QTransform::fromScale(0.05, 0.05), 0xFFFFFFFF, image);
   }
 
   // A call from outside may raise so many commands and no more.
@@ -118,7 +164,7 @@ class Host {
   Bytes script_;
   std::size_t at_ = 0;
   int commands_ = 0;
-  Player player_;
+  std::optional<Player> player_;
   Scene last_;
   Renderer renderer_;
 };
@@ -126,6 +172,8 @@ class Host {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  [[maybe_unused]] static const int installed =
+      __sanitizer_install_malloc_and_free_hooks(onAllocation, onRelease);
   Bytes file(data, size);
   Bytes script(kFixedScript);
   const bool isMovie = size >= 3 && data[1] == 'W' && data[2] == 'S';
@@ -135,7 +183,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     file = file.subspan(1 + length);
   }
   try {
-    Host(script, platform::flash::readMovie(file)).run();
+    std::shared_ptr<const platform::flash::Movie> movie;
+    step("loading", [&] { movie = platform::flash::readMovie(file); });
+    Host(script, std::move(movie)).run();
   } catch (const platform::flash::MovieError&) {
     // No movie at all, and told so.
   }

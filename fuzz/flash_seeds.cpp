@@ -1,14 +1,17 @@
 // Writes the movies from which fuzz_flash_player sets out: some made by hand, one for each part of
 // the format, and the program's own boards, unpacked, since what is packed hides its bytes from the
-// fuzzer.
+// fuzzer; and into another folder movies that ask for much, some of them too long for the fuzzer to
+// set out from.
 //
-//   flash_seeds FOLDER [MOVIE...]
+//   flash_seeds FOLDER COSTLY_FOLDER [MOVIE...]
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <cstdio>
 
+#include "platform/flash/limits.h"
 #include "platform/flash/unpacked_file.h"
+#include "tests/platform/flash/costly.h"
 #include "tests/platform/flash/hand_made.h"
 
 using namespace hand_made;
@@ -77,12 +80,13 @@ QByteArray gradient() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  if (argc < 2) {
-    std::fprintf(stderr, "usage: flash_seeds FOLDER [MOVIE...]\n");
+  if (argc < 3) {
+    std::fprintf(stderr, "usage: flash_seeds FOLDER COSTLY_FOLDER [MOVIE...]\n");
     return 2;
   }
   const QDir folder(QString::fromLocal8Bit(argv[1]));
-  if (!folder.mkpath(QStringLiteral("."))) return 1;
+  const QDir costlyFolder(QString::fromLocal8Bit(argv[2]));
+  if (!folder.mkpath(QStringLiteral(".")) || !costlyFolder.mkpath(QStringLiteral("."))) return 1;
   const QByteArray clip =
       square(1, 10, 0xFF0000) +
       sprite(2, place(1, 1) + showFrame() + moveTo(1, 3, 3) + doAction(tell("two")) + showFrame(),
@@ -95,11 +99,20 @@ int main(int argc, char* argv[]) {
   save(folder, QStringLiteral("writing"), file(writing() + showFrame()));
   save(folder, QStringLiteral("gradient"),
        file(gradient() + showFrame() + remove(8) + showFrame(), 6, 50, 50, 2));
-  for (int i = 2; i < argc; ++i) {
+  for (const costly::Movie& movie : costly::movies()) {
+    constexpr qsizetype longest = 16'384;  // that the fuzzer takes
+    const QString name = QString::fromLatin1(movie.name).replace(u' ', u'_');
+    save(costlyFolder, name, movie.bytes);
+    if (movie.bytes.size() <= longest) save(folder, name, movie.bytes);
+  }
+  for (int i = 3; i < argc; ++i) {
     QFile in(QString::fromLocal8Bit(argv[i]));
     if (!in.open(QIODevice::ReadOnly)) return 1;
     const QByteArray packed = in.readAll();
-    const auto opened = platform::flash::unpackFile(bytesOf(packed));
+    platform::flash::Budget budget(platform::flash::Budget::processorTime);
+    budget.begin(platform::flash::limits::loading);
+    platform::flash::Allowance allowance(budget);
+    const auto opened = platform::flash::unpackFile(bytesOf(packed), allowance);
     QByteArray bytes(reinterpret_cast<const char*>(opened.bytes.data()),
                      static_cast<qsizetype>(opened.bytes.size()));
     bytes[0] = 'F';

@@ -14,7 +14,7 @@ void pushValues(ScriptRun& run, ByteReader& operand) {
   while (!operand.atEnd()) {
     switch (operand.u8()) {
       case 0:
-        run.pushText(run.stage().movie().decoded(operand.string()));
+        run.pushText(run.decoded(operand));
         break;
       case 1:
         run.push(double(operand.f32()));
@@ -51,8 +51,8 @@ void pushValues(ScriptRun& run, ByteReader& operand) {
 
 void setConstantPool(ScriptRun& run, ByteReader& operand) {
   auto texts = std::make_shared<ConstantPool>();
-  for (int left = operand.u16(); left > 0 && run.stage().spend(2); --left) {
-    texts->add(run.stage().movie().decoded(operand.string()));
+  for (int left = operand.u16(); left > 0 && !run.stage().budget().isSpent(); --left) {
+    texts->add(run.decoded(operand));
   }
   run.setConstants(std::move(texts));
 }
@@ -98,16 +98,18 @@ void returnValue(ScriptRun& run, ByteReader&) {
 
 // The body of a function follows its definition and is not run here. One without a name is a value.
 void define(ScriptRun& run, ByteReader& operand, bool second) {
+  constexpr std::size_t functionMemory = 200;
   auto function = std::make_shared<ScriptFunction>();
-  const QString name = run.stage().movie().decoded(operand.string());
+  run.stage().budget().hold(functionMemory);
+  const QString name = run.decoded(operand);
   int parameters = operand.u16();
   if (second) {
     function->registers = operand.u8();
     function->preloads = operand.u16();
   }
-  for (; parameters > 0 && run.stage().spend(2); --parameters) {
+  for (; parameters > 0 && !run.stage().budget().isSpent(); --parameters) {
     const int reg = second ? operand.u8() : 0;
-    function->addParameter(reg, run.stage().movie().decoded(operand.string()));
+    function->addParameter(reg, run.decoded(operand));
   }
   function->body = run.code().bytes(operand.u16());
   function->constants = run.constants();
@@ -130,7 +132,7 @@ void defineFunction2(ScriptRun& run, ByteReader& operand) {
 
 std::vector<Value> popArguments(ScriptRun& run) {
   std::vector<Value> arguments;
-  for (double left = run.popNumber(); left >= 1 && run.stage().spend(1); --left) {
+  for (double left = run.popNumber(); left >= 1 && !run.stage().budget().isSpent(); --left) {
     if (arguments.size() >= 255) {
       throw MovieError("a script calls with too many arguments", run.code().position());
     }

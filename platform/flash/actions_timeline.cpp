@@ -84,7 +84,7 @@ void gotoNumber(ScriptRun& run, ByteReader& operand) {
 }
 
 void gotoLabel(ScriptRun& run, ByteReader& operand) {
-  const QString label = run.stage().movie().decoded(operand.string());
+  const QString label = run.decoded(operand);
   if (Clip* clip = run.target()) {
     if (const auto frame = frameOfLabel(run.stage(), *clip, label)) {
       gotoFrame(run.stage(), *clip, *frame, false);
@@ -110,20 +110,19 @@ void openAddress(ScriptRun& run, const QString& url, const QString& target) {
 }
 
 void getUrl(ScriptRun& run, ByteReader& operand) {
-  const QString url = run.stage().movie().decoded(operand.string());
-  openAddress(run, url,
-              operand.atEnd() ? QString() : run.stage().movie().decoded(operand.string()));
+  const QString url = run.decoded(operand);
+  openAddress(run, url, operand.atEnd() ? QString() : run.decoded(operand));
 }
 
 void getUrlFromStack(ScriptRun& run, ByteReader&) {
-  // An argument that is missing is empty, also where undefined is a word.
-  const Value target = run.pop();
-  const bool missing = std::holds_alternative<Undefined>(target);
-  openAddress(run, run.popText(), missing ? QString() : run.text(target));
+  // An argument that is missing is empty, also where one that is undefined is a word.
+  const bool missing = run.stackSize() < 2;
+  const QString target = missing ? QString() : run.popText();
+  openAddress(run, run.popText(), target);
 }
 
 void setTarget(ScriptRun& run, ByteReader& operand) {
-  run.setTarget(run.stage().movie().decoded(operand.string()));
+  run.setTarget(run.decoded(operand));
 }
 
 void setTargetFromStack(ScriptRun& run, ByteReader&) {

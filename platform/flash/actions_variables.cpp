@@ -69,7 +69,7 @@ void targetPath(ScriptRun& run, ByteReader&) {
   if (object == nullptr) {
     run.push(Undefined{});
   } else {
-    run.pushText(dotPath(*object));
+    run.pushText(dotPath(run.stage(), *object));
   }
 }
 

@@ -2,29 +2,37 @@
 
 #include <cstddef>
 
+#include "platform/flash/budget.h"
 #include "platform/flash/movie_error.h"
 
 namespace platform::flash {
 
-// How much memory the things read from one movie may still take. What counts are the things that a
-// few bytes of a file can multiply, roughly, not every byte.
+// The budget of loading as readers see it: what can no longer be paid ends the tag that is being
+// read.
 class Allowance {
  public:
-  explicit Allowance(std::size_t bytes) : left_(bytes) {}
+  explicit Allowance(Budget& budget) : budget_(budget) {}
 
-  // Throws MovieError when no more is left.
+  // Takes so many bytes of memory, and the work of filling them. What counts are the things that a
+  // few bytes of a file can multiply, roughly, not every byte. Throws MovieError when no more is
+  // left.
   void spend(std::size_t bytes) {
-    if (bytes > left_) {
-      left_ = 0;
-      throw MovieError("the movie needs too much memory", 0);
-    }
-    left_ -= bytes;
+    constexpr std::int64_t workPerByte = 3;
+    check(budget_.hold(bytes) && budget_.spend(static_cast<std::int64_t>(bytes) * workPerByte));
+  }
+  // Takes work that leaves nothing behind, count times. Throws MovieError, too.
+  void work(std::int64_t nanoseconds, std::size_t count = 1) {
+    check(budget_.spend(nanoseconds * static_cast<std::int64_t>(count)));
   }
 
-  [[nodiscard]] bool isSpent() const { return left_ == 0; }
+  [[nodiscard]] bool isSpent() const { return budget_.isSpent(); }
 
  private:
-  std::size_t left_;
+  static void check(bool enough) {
+    if (!enough) throw MovieError("the movie needs too much time or memory", 0);
+  }
+
+  Budget& budget_;
 };
 
 }  // namespace platform::flash

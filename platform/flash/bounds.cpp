@@ -4,17 +4,23 @@ namespace platform::flash {
 
 namespace {
 
-QRectF ownBounds(const Instance& instance) {
+QRectF ownBounds(const Instance& instance, Budget& budget) {
+  constexpr std::int64_t thingWork = 50;
   QRectF all;
   if (const Container* container = asContainer(&instance)) {
     for (const auto& [depth, child] : container->children) {
-      all = all.united(boundsInParent(*child));
+      if (!budget.spend(thingWork)) {
+        break;
+      }
+      all = all.united(boundsInParent(*child, budget));
     }
   } else if (const auto* shape = instance.character->as<Shape>()) {
+    budget.spend(thingWork * std::int64_t(shape->parts.size()));
     for (const ShapePart& part : shape->parts) {
       all = all.united(part.bounds);
     }
   } else if (const auto* text = instance.character->as<Text>()) {
+    budget.spend(2 * thingWork * std::int64_t(text->glyphs.size()));
     for (const Text::Glyph& glyph : text->glyphs) {
       all = all.united((glyph.matrix * text->matrix).mapRect(glyph.bounds));
     }
@@ -24,8 +30,8 @@ QRectF ownBounds(const Instance& instance) {
 
 }  // namespace
 
-QRectF boundsInParent(const Instance& instance) {
-  return instance.matrix.mapRect(ownBounds(instance));
+QRectF boundsInParent(const Instance& instance, Budget& budget) {
+  return instance.matrix.mapRect(ownBounds(instance, budget));
 }
 
 }  // namespace platform::flash

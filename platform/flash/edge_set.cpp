@@ -10,6 +10,10 @@ namespace {
 
 constexpr double flatness = 0.1;  // pixels
 
+// Nanoseconds for an edge: to gather and cover, and to sort where many lie in disorder.
+constexpr std::int64_t edgeWork = 30;
+constexpr std::int64_t sortWork = 100;
+
 constexpr double farthest = 1e8;  // pixels; nothing beyond is seen
 constexpr int places = 32;        // behind the point of Across
 constexpr Across onePixel = Across(1) << places;
@@ -145,7 +149,7 @@ void EdgeSet::goTo(int row) {
   }
 }
 
-int EdgeSet::gatherLive(int subrow) {
+int EdgeSet::gatherLive(int subrow, Budget& budget) {
   int end = (row_ + 1) * samples;
   live_.clear();
   for (const Edge* edge : active_) {
@@ -156,7 +160,7 @@ int EdgeSet::gatherLive(int subrow) {
       live_.push_back({edge->at(subrow), edge});
     }
   }
-  sortLive();
+  sortLive(budget);
   if (live_.size() == active_.size()) {
     // In order for the rows that follow.
     std::transform(live_.begin(), live_.end(), active_.begin(),
@@ -165,7 +169,7 @@ int EdgeSet::gatherLive(int subrow) {
   return end;
 }
 
-void EdgeSet::sortLive() {
+void EdgeSet::sortLive(Budget& budget) {
   // The edges in work are nearly in order, so they are put in one by one; but not for longer than
   // sorting takes.
   std::size_t moves = 8 * live_.size();
@@ -177,6 +181,7 @@ void EdgeSet::sortLive() {
     }
     live_[at] = crossing;
     if (i - at > moves) {
+      budget.spend(sortWork * static_cast<std::int64_t>(live_.size()));
       std::stable_sort(live_.begin(), live_.end(), [](const Crossing& left, const Crossing& right) {
         return left.x < right.x;
       });
@@ -205,10 +210,13 @@ void EdgeSet::coverLive(RowCoverage& coverage, int subrow, int end) const {
   }
 }
 
-void EdgeSet::cover(RowCoverage& coverage) {
+void EdgeSet::cover(RowCoverage& coverage, Budget& budget) {
   const int end = (row_ + 1) * samples;
   for (int subrow = row_ * samples; subrow < end;) {
-    const int next = gatherLive(subrow);
+    if (!budget.spend(edgeWork * static_cast<std::int64_t>(active_.size()))) {
+      return;
+    }
+    const int next = gatherLive(subrow, budget);
     if (keepOrder(next - 1)) {
       coverLive(coverage, subrow, next);
       subrow = next;

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/flash/budget.h"
 #include "platform/flash/outline.h"
 
 namespace platform::flash {
@@ -79,10 +80,9 @@ class EdgeSet {
 
   // Goes on to a row, which must not lie above the last one.
   void goTo(int row);
-  // Covers what the surface covers of the present row. May be called again.
-  void cover(RowCoverage& coverage);
-  // About how long cover() takes, in edges.
-  [[nodiscard]] std::size_t work() const { return active_.size() * samples; }
+  // Covers what the surface covers of the present row; of its upper part where the budget does not
+  // do. May be called again.
+  void cover(RowCoverage& coverage, Budget& budget);
 
  private:
   struct Edge {
@@ -101,8 +101,8 @@ class EdgeSet {
   }
   // Gathers the edges that cross a row of samples, from the left to the right. Returns the row of
   // samples from which on others do.
-  int gatherLive(int subrow);
-  void sortLive();
+  int gatherLive(int subrow, Budget& budget);
+  void sortLive(Budget& budget);
   // Whether the live edges keep their order down to that row of samples.
   [[nodiscard]] bool keepOrder(int subrow) const;
   // Covers the rows of samples from the one that the live edges were gathered for.

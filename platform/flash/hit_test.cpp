@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/flash/limits.h"
 #include "platform/flash/stage.h"
 
 namespace platform::flash {
@@ -18,7 +17,7 @@ constexpr std::uint32_t buttonEvents = static_cast<std::uint32_t>(ClipEvent::Pre
                                        static_cast<std::uint32_t>(ClipEvent::DragOver) |
                                        static_cast<std::uint32_t>(ClipEvent::DragOut);
 
-// One search for one point; it gives up, and finds nothing, when it becomes too long.
+// One search for one point; it finds nothing where the budget does not do.
 class Search {
  public:
   explicit Search(const Stage& stage) : stage_(stage) {}
@@ -40,18 +39,26 @@ class Search {
     const Value enabled = container.variables.value(QStringLiteral("enabled"), Value(true));
     return toBoolean(enabled, stage_.movie().version);
   }
-  bool spend(std::size_t work) {
-    left_ -= static_cast<int>(std::min<std::size_t>(work, limits::hitWork));
-    return left_ > 0;
+  // To look at so many things.
+  [[nodiscard]] bool spend(std::size_t things = 1) const {
+    constexpr std::int64_t thingWork = 60;
+    return stage_.budget().spend(thingWork * static_cast<std::int64_t>(things));
+  }
+  // To follow the whole of an outline.
+  [[nodiscard]] bool spend(const Outline& outline) const {
+    constexpr std::int64_t segmentWork = 10;
+    constexpr std::int64_t curveWork = 640;
+    return stage_.budget().spend(segmentWork *
+                                     static_cast<std::int64_t>(outline.segments().size()) +
+                                 curveWork * static_cast<std::int64_t>(outline.curves()));
   }
 
   const Stage& stage_;
-  int left_ = limits::hitWork;
 };
 
 bool Search::covers(const Shape& shape, QPointF point) {
   return std::any_of(shape.parts.begin(), shape.parts.end(), [&](const ShapePart& part) {
-    if (!spend(1) || !part.bounds.contains(point) || !spend(part.outline.segments().size() * 4)) {
+    if (!spend() || !part.bounds.contains(point) || !spend(part.outline)) {
       return false;
     }
     return part.isLine ? part.outline.touches(point, part.lineWidth / 2.0)
@@ -65,8 +72,8 @@ bool Search::covers(const Text& text, QPointF point) {
   return possible && std::any_of(text.glyphs.begin(), text.glyphs.end(), [&](const Text::Glyph& g) {
            bool flat = false;
            const QPointF inGlyph = into(g.matrix, inText, flat);
-           return flat && spend(1) && g.bounds.contains(inGlyph) &&
-                  spend(g.outline->segments().size() * 4) && g.outline->contains(inGlyph);
+           return flat && spend() && g.bounds.contains(inGlyph) && spend(*g.outline) &&
+                  g.outline->contains(inGlyph);
          });
 }
 
@@ -88,7 +95,7 @@ bool Search::covers(const Character& character, QPointF point) {
     const Character* inner =
         placed == nullptr ? nullptr : stage_.movie().character(placed->character);
     bool possible = false;
-    if (inner != nullptr && spend(1) &&
+    if (inner != nullptr && spend() &&
         covers(*inner, into(placed->matrix.value_or(QTransform()), point, possible)) && possible) {
       return true;
     }
@@ -99,7 +106,7 @@ bool Search::covers(const Character& character, QPointF point) {
 bool Search::hits(const ButtonInstance& button, QPointF point) {
   const auto& records = button.button.records;
   return std::any_of(records.begin(), records.end(), [&](const ButtonRecord& record) {
-    if ((record.states & static_cast<unsigned>(ButtonState::HitTest)) == 0 || !spend(1)) {
+    if ((record.states & static_cast<unsigned>(ButtonState::HitTest)) == 0 || !spend()) {
       return false;
     }
     const Character* character = stage_.movie().character(record.character);
@@ -113,7 +120,7 @@ bool Search::hits(const ButtonInstance& button, QPointF point) {
 bool Search::covers(const Instance& instance, QPointF point) {
   bool possible = false;
   const QPointF inner = into(instance.matrix, point, possible);
-  if (!possible || !spend(1)) {
+  if (!possible || !spend()) {
     return false;
   }
   const Container* container = asContainer(&instance);
@@ -133,7 +140,7 @@ bool Search::isMaskedOut(const Container& container, const Instance& child, QPoi
     if (depth >= child.depth) {
       break;
     }
-    if (spend(1) && mask->clipDepth >= child.depth && !covers(*mask, point)) {
+    if (spend() && mask->clipDepth >= child.depth && !covers(*mask, point)) {
       return true;
     }
   }
@@ -143,7 +150,7 @@ bool Search::isMaskedOut(const Container& container, const Instance& child, QPoi
 Container* Search::interactiveIn(const Container& container, QPointF point) {
   for (auto at = container.children.rbegin(); at != container.children.rend(); ++at) {
     Container* child = asContainer(at->second.get());
-    if (child == nullptr || !child->visible || child->clipDepth != 0 || !spend(1)) {
+    if (child == nullptr || !child->visible || child->clipDepth != 0 || !spend()) {
       continue;
     }
     bool possible = false;

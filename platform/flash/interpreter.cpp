@@ -20,25 +20,30 @@ Interpreter::Interpreter(Stage& stage, CommandSink onCommand)
 
 void Interpreter::execute(ScriptRun& run) {
   constexpr unsigned firstWithOperand = 0x80;
-  constexpr std::size_t bytesPerWork = 8;  // they may hold texts, which are decoded
+  constexpr std::int64_t actionWork = 80;
+  constexpr std::int64_t byteWork = 2;
+  constexpr std::int64_t faultWork = 3000;
+  Budget& budget = stage_.budget();
   try {
-    while (!run.ended_ && !run.code_.atEnd() && stage_.spend(1)) {
+    while (!run.ended_ && !run.code_.atEnd() && budget.spend(actionWork)) {
       const unsigned code = run.code_.u8();
       if (code == 0) {
         return;
       }
       ByteReader operand(code >= firstWithOperand ? run.code_.bytes(run.code_.u16()) : Bytes());
-      stage_.spend(static_cast<int>(operand.remaining() / bytesPerWork));
+      budget.spend(byteWork * static_cast<std::int64_t>(operand.remaining()));
       if (const Action action = actions_[code]) {
         action(run, operand);
       }
     }
   } catch (const MovieError&) {
     // The script leads outside of its bytes: it ends here.
+    budget.spend(faultWork);
   }
 }
 
 void Interpreter::run(const QueuedScript& script) {
+  uponRemoval_ = script.whenRemoved;
   if (script.function != nullptr) {
     (void)call(*script.function, ObjectRef{script.clip}, {});
     return;
@@ -66,7 +71,7 @@ void Interpreter::bindRegisters(ScriptRun& run, const ScriptFunction& function,
       ++next;
     }
   };
-  const Container* self = stage_.find(run.self_);
+  const Container* self = find(run.self_);
   const Value parent =
       self != nullptr && self->parent != nullptr ? Value(ObjectRef{self->parent->id}) : Value();
   preload(preloadThis, thisValue);
@@ -79,11 +84,12 @@ void Interpreter::bindRegisters(ScriptRun& run, const ScriptFunction& function,
 
 Value Interpreter::call(const ScriptFunction& function, const Value& thisValue,
                         std::vector<Value> arguments) {
-  constexpr int callWork = 10;
-  constexpr int weightPerWork = 8;
-  const int work =
-      callWork + function.registers + static_cast<int>(function.weight) / weightPerWork;
-  if (callDepth_ >= limits::callDepth || !stage_.spend(work)) {
+  constexpr std::int64_t callWork = 500;
+  constexpr std::int64_t registerWork = 10;
+  constexpr std::int64_t weightWork = 10;  // for each character of a parameter's name, and more
+  const std::int64_t work =
+      callWork + registerWork * function.registers + weightWork * function.weight;
+  if (callDepth_ >= limits::callDepth || !stage_.budget().spend(work)) {
     return {};
   }
   ++callDepth_;

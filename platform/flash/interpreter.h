@@ -27,6 +27,9 @@ class ScriptRun {
   // since whatever takes it may read all of it.
   Value pop();
   void push(Value value);
+  [[nodiscard]] std::size_t stackSize() const { return stack_.size(); }
+  // The next text of an action's operand.
+  [[nodiscard]] QString decoded(ByteReader& operand);
   double popNumber() { return toNumber(pop(), version()); }
   QString popText() { return text(pop()); }
   // A truth value; version 4 knows only 1 and 0.
@@ -69,6 +72,7 @@ class ScriptRun {
  private:
   friend class Interpreter;
 
+  [[nodiscard]] Container* find(std::uint32_t id);
   [[nodiscard]] Value ownMember(Container& owner, const QString& name);
   void setOwnMember(Container& owner, const QString& name, const Value& value);
   [[nodiscard]] Container* ownerOf(const QString& path, QString& name);
@@ -95,7 +99,7 @@ struct ActionRow {
 };
 
 // Runs scripts on a stage. An action that is unknown is skipped; a script that leads outside of its
-// bytes, or uses up the work of its tick, ends.
+// bytes, or uses up what its step may cost, ends.
 class Interpreter {
  public:
   using CommandSink = std::function<void(const QString& command, const QString& args)>;
@@ -108,6 +112,10 @@ class Interpreter {
   Value call(const ScriptFunction& function, const Value& thisValue, std::vector<Value> arguments);
 
   [[nodiscard]] Stage& stage() { return stage_; }
+  // The clip or button of that number as the running script may know it; null where it has gone.
+  [[nodiscard]] Container* find(std::uint32_t id) const {
+    return uponRemoval_ ? stage_.findRemoved(id) : stage_.find(id);
+  }
   void raiseCommand(const QString& command, const QString& args);
   // The registers that blocks share which have none of their own.
   [[nodiscard]] std::span<Value> sharedRegisters() { return sharedRegisters_; }
@@ -121,6 +129,7 @@ class Interpreter {
   std::array<Action, 256> actions_{};
   std::array<Value, 4> sharedRegisters_;
   int callDepth_ = 0;
+  bool uponRemoval_ = false;  // the script belongs to a clip that has been removed
 };
 
 }  // namespace platform::flash

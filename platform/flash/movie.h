@@ -172,6 +172,8 @@ struct Movie {
   QRgb background = qRgb(255, 255, 255);
   Timeline timeline;
   std::unordered_map<CharacterId, Character> characters;
+  // Reading it took too much, and ended where it stood.
+  bool cutOff = false;
   // What could not be read and was left out; no more than limits::faults.
   std::vector<MovieError> faults;
   // The uncompressed file, into which the action blocks point.

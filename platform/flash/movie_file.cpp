@@ -2,13 +2,14 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <utility>
 
 #include "platform/flash/limits.h"
 #include "platform/flash/movie_reader.h"
 
 namespace platform::flash {
 
-std::shared_ptr<const Movie> loadMovie(const QString& path) {
+std::shared_ptr<const Movie> loadMovie(const QString& path, Budget::Clock clock) {
   // A pipe or a device could keep the reader waiting for ever.
   if (!QFileInfo(path).isFile()) {
     throw MovieError("there is no such file", 0);
@@ -19,7 +20,8 @@ std::shared_ptr<const Movie> loadMovie(const QString& path) {
   }
   const QByteArray bytes = file.read(limits::fileBytes);
   return readMovie({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
-                    static_cast<std::size_t>(bytes.size())});
+                    static_cast<std::size_t>(bytes.size())},
+                   std::move(clock));
 }
 
 }  // namespace platform::flash

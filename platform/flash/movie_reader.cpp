@@ -128,7 +128,8 @@ Timeline TimelineReader::finish() {
 
 class MovieReader {
  public:
-  explicit MovieReader(Movie& movie) : movie_(movie) {}
+  MovieReader(Movie& movie, Allowance& allowance)
+      : movie_(movie), allowance_(allowance), context_{movie, allowance} {}
 
   void read(std::size_t tagsBegin);
 
@@ -141,6 +142,7 @@ class MovieReader {
   void defineFont(TagCode code, ByteReader& body);
   void defineButton(TagCode code, ByteReader& body);
   void colorButton(ByteReader& body);
+  void setBackground(QRgb color);
   void defineSprite(ByteReader& body, std::size_t bodyAt);
   void add(CharacterId id, Character character);
   void note(const MovieError& fault) {
@@ -150,16 +152,20 @@ class MovieReader {
   }
 
   Movie& movie_;
-  Allowance allowance_{limits::retainedBytes};
-  ReadContext context_{movie_, allowance_};
+  bool backgroundSet_ = false;
+  Allowance& allowance_;
+  ReadContext context_;
 };
 
 template <typename Take>
 void MovieReader::eachTag(Bytes bytes, std::size_t bytesAt, Take take) {
+  constexpr std::int64_t tagWork = 30;
+  constexpr std::int64_t faultWork = 5000;
   ByteReader reader(bytes);
   try {
     while (!reader.atEnd() && !allowance_.isSpent()) {
       const Tag tag = nextTag(reader);
+      allowance_.work(tagWork + static_cast<std::int64_t>(tag.body.size()));
       if (tag.code == TagCode::End) {
         return;
       }
@@ -167,6 +173,7 @@ void MovieReader::eachTag(Bytes bytes, std::size_t bytesAt, Take take) {
         take(tag);
       } catch (const MovieError& fault) {
         note(fault.inTag(static_cast<int>(tag.code), bytesAt + tag.bodyAt));
+        allowance_.work(faultWork);
       }
     }
   } catch (const MovieError& fault) {
@@ -232,16 +239,26 @@ void MovieReader::colorButton(ByteReader& body) {
   Button* button =
       found == movie_.characters.end() ? nullptr : std::get_if<Button>(&found->second.content);
   if (button != nullptr) {
+    constexpr std::int64_t recordWork = 10;
+    allowance_.work(recordWork, button->records.size());
     for (ButtonRecord& record : button->records) {
       record.color = color;
     }
   }
 }
 
+// The first one holds from the first frame on, wherever it stands; those after it mean nothing.
+void MovieReader::setBackground(QRgb color) {
+  if (!backgroundSet_) {
+    movie_.background = color;
+    backgroundSet_ = true;
+  }
+}
+
 void MovieReader::define(TagCode code, ByteReader body, std::size_t bodyAt) {
   switch (code) {
     case TagCode::SetBackgroundColor:
-      movie_.background = readColor(body, false);
+      setBackground(readColor(body, false));
       break;
     case TagCode::DefineShape:
     case TagCode::DefineShape2:
@@ -287,8 +304,11 @@ void MovieReader::read(std::size_t tagsBegin) {
 
 }  // namespace
 
-std::shared_ptr<const Movie> readMovie(Bytes file) {
-  UnpackedFile opened = unpackFile(file);
+std::shared_ptr<const Movie> readMovie(Bytes file, Budget::Clock clock) {
+  Budget budget(std::move(clock));
+  budget.begin(limits::loading);
+  Allowance allowance(budget);
+  UnpackedFile opened = unpackFile(file, allowance);
   auto movie = std::make_shared<Movie>();
   movie->version = opened.version;
   movie->compressed = opened.compressed;
@@ -296,7 +316,8 @@ std::shared_ptr<const Movie> readMovie(Bytes file) {
   movie->frameRate = opened.frameRate;
   movie->announcedFrames = opened.frameCount;
   movie->bytes = std::move(opened.bytes);
-  MovieReader(*movie).read(opened.tagsBegin);
+  MovieReader(*movie, allowance).read(opened.tagsBegin);
+  movie->cutOff = budget.isSpent();
   return movie;
 }
 

@@ -21,10 +21,26 @@ constexpr double slowest = 0.5;  // frames a second
 constexpr double fastest = 120;
 constexpr QRgb emptyBoard = 0xFFFFFFFF;
 
+// The places as they are, or one around all of them where there are many.
+std::vector<QRectF> few(std::vector<QRectF> places) {
+  constexpr std::size_t most = 32;
+  if (places.size() <= most) {
+    return places;
+  }
+  QRectF all;
+  for (const QRectF& place : places) {
+    all = all.united(place);
+  }
+  return {all};
+}
+
 }  // namespace
 
-MovieView::MovieView(TimeSource& time, QWidget* parent)
-    : QWidget(parent), ticker_(time.makeTicker([this] { tick(); })) {
+MovieView::MovieView(TimeSource& time, QWidget* parent, Budget::Clock clock)
+    : QWidget(parent),
+      clock_(std::move(clock)),
+      ticker_(time.makeTicker([this] { tick(); })),
+      renderer_(clock_) {
   installMovieAccessibility();
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -41,6 +57,8 @@ void MovieView::setMovie(const QString& path) {
   player_.reset();
   renderer_.clear();
   scene_ = {};
+  path_ = path;
+  cutOffTold_ = false;
   startPlayer(path);
   update();
   changed();
@@ -50,7 +68,7 @@ void MovieView::startPlayer(const QString& path) {
   if (path.isEmpty()) return;
   std::shared_ptr<const Movie> movie;
   try {
-    movie = loadMovie(path);
+    movie = loadMovie(path, clock_);
   } catch (const MovieError& error) {
     qWarning("Movie %s cannot be shown: %s", qUtf8Printable(path), error.what());
     return;
@@ -58,7 +76,7 @@ void MovieView::startPlayer(const QString& path) {
   const double rate = std::clamp(movie->frameRate, slowest, fastest);
   player_ = std::make_unique<Player>(
       std::move(movie),
-      [this](const QString& command, const QString& args) { post(command, args); });
+      [this](const QString& command, const QString& args) { post(command, args); }, clock_);
   ticker_->setInterval(static_cast<int>(std::lround(1000 / rate)));
   adjustTicker();
   if (const auto position = mouse_ ? stagePixel(*mouse_) : std::nullopt) {
@@ -130,7 +148,20 @@ void MovieView::tick() {
   }
 }
 
+void MovieView::cutOff() {
+  player_->halt();
+  ticker_->stop();
+  if (!std::exchange(cutOffTold_, true)) {
+    qWarning("Movie %s takes too much time or memory; it is shown as far as it came",
+             qUtf8Printable(path_));
+  }
+}
+
 void MovieView::adjustTicker() {
+  if (player_->wasCutOff()) {
+    cutOff();
+    return;
+  }
   const bool needed = player_->canChange();
   if (needed && !ticker_->isRunning()) {
     ticker_->start();
@@ -159,7 +190,7 @@ void MovieView::refresh() {
   }
   Scene now = player_->scene();
   const QTransform toWidget = stageToWidget();
-  for (const QRectF& place : differences(scene_, now)) {
+  for (const QRectF& place : few(differences(scene_, now))) {
     // A pixel more for the smoothed edge, and for lines thinner than a pixel.
     update(toWidget.mapRect(place).toAlignedRect().adjusted(-1, -1, 1, 1) & rect());
   }
@@ -267,7 +298,14 @@ void MovieView::hideEvent(QHideEvent* event) {
 void MovieView::paintEvent(QPaintEvent* event) {
   refresh();
   QPainter painter(this);
-  for (const QRect& rect : event->region()) {
+  // Each part takes the whole scene through its hands, so many parts are painted as one.
+  constexpr int mostParts = 2;
+  const QRegion& region = event->region();
+  if (region.rectCount() > mostParts) {
+    paintRect(painter, region.boundingRect());
+    return;
+  }
+  for (const QRect& rect : region) {
     paintRect(painter, rect);
   }
 }
@@ -289,8 +327,10 @@ void MovieView::paintRect(QPainter& painter, const QRect& rect) {
     return;
   }
   QImage image(part.size(), QImage::Format_RGB32);
-  renderer_.paint(scene_, stageToDevice * QTransform::fromTranslate(-part.x(), -part.y()),
-                  background, image);
+  if (!renderer_.paint(scene_, stageToDevice * QTransform::fromTranslate(-part.x(), -part.y()),
+                       background, image)) {
+    cutOff();
+  }
   painter.drawImage(toDevice.inverted().mapRect(QRectF(part)), image);
 }
 

@@ -24,13 +24,17 @@ class MovieView final : public QWidget {
   Q_OBJECT
 
  public:
-  // time: paces the frames; it must outlive the view.
-  explicit MovieView(TimeSource& time, QWidget* parent = nullptr);
+  // time: paces the frames; it must outlive the view. clock: what ends the steps of a movie that
+  // take too long.
+  explicit MovieView(TimeSource& time, QWidget* parent = nullptr,
+                     Budget::Clock clock = Budget::processorTime);
   ~MovieView() override;
 
   // Loads the movie anew, also the one that is loaded already, and starts it. A file that is
-  // missing or broken gives an empty or partial board; nothing fails. An empty path unloads the
-  // movie. Commands of the old movie that have not been delivered yet are dropped.
+  // missing or broken gives an empty or partial board; nothing fails. One that takes too much to
+  // load, play or draw is shown as far as it came, and one line on the error stream says so. An
+  // empty path unloads the movie. Commands of the old movie that have not been delivered yet are
+  // dropped.
   void setMovie(const QString& path);
   // target: the name of a clip, or a path from the root as "a/b"; empty for the root. property: 0
   // x, 1 y (pixels), 2 x scale, 3 y scale (percent), 6 alpha (percent), 7 visible ("0", "1"), 10
@@ -81,8 +85,13 @@ class MovieView final : public QWidget {
   void refresh();
   void showHand(bool hand);
   void paintRect(QPainter& painter, const QRect& rect);
+  // The movie took too much: it stands still, and that is told once.
+  void cutOff();
 
+  Budget::Clock clock_;
   std::unique_ptr<Ticker> ticker_;
+  QString path_;
+  bool cutOffTold_ = false;
   std::unique_ptr<Player> player_;  // null: no movie
   Renderer renderer_;
   Scene scene_;  // what the widget shows, or has asked to be repainted to

@@ -31,6 +31,7 @@ void Outline::lineTo(QPointF to) {
 }
 
 void Outline::curveTo(QPointF control, QPointF to) {
+  ++curves_;
   segments_.push_back(
       {Segment::Kind::Curve, float(control.x()), float(control.y()), float(to.x()), float(to.y())});
 }

@@ -29,6 +29,8 @@ class Outline {
 
   [[nodiscard]] const std::vector<Segment>& segments() const { return segments_; }
   [[nodiscard]] bool isEmpty() const { return segments_.empty(); }
+  // How many of the segments are curves, which take up to 64 straight pieces each.
+  [[nodiscard]] std::size_t curves() const { return curves_; }
   // Holds all points and control points.
   [[nodiscard]] QRectF bounds() const;
   // Whether the point lies within, by the even-odd rule that fills follow.
@@ -39,6 +41,7 @@ class Outline {
 
  private:
   std::vector<Segment> segments_;
+  std::size_t curves_ = 0;
 };
 
 // Calls line(from, to) for straight pieces that follow the outline; a curve takes as many as keep

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/flash/bounds.h"
+#include "platform/flash/limits.h"
 #include "platform/flash/properties.h"
 #include "platform/flash/targets.h"
 #include "platform/flash/timeline.h"
@@ -16,27 +17,43 @@ constexpr double twips = 20;
 
 }  // namespace
 
-Player::Player(std::shared_ptr<const Movie> movie, CommandSink onCommand)
-    : stage_(std::move(movie)), interpreter_(stage_, std::move(onCommand)), pointer_(stage_) {
+Player::Player(std::shared_ptr<const Movie> movie, CommandSink onCommand, Budget::Clock clock)
+    : budget_(std::move(clock)),
+      stage_(std::move(movie), budget_),
+      interpreter_(stage_, std::move(onCommand)),
+      pointer_(stage_) {
   enter([this] { workOffFrame(stage_, stage_.root()); });
+  cutOff_ = cutOff_ || stage_.movie().cutOff;
 }
 
 template <typename Call>
 void Player::enter(Call call) {
+  budget_.begin(limits::playing);
   stage_.beginEntry();
   call();
   runScripts();
+  cutOff_ = cutOff_ || budget_.isSpent();
   stage_.endEntry();
 }
 
+template <typename Look>
+auto Player::ask(Look look) const {
+  budget_.begin(limits::asking);
+  return look();
+}
+
 void Player::runScripts() {
+  constexpr std::int64_t scriptWork = 500;
   QueuedScript script;
-  while (stage_.spend(1) && stage_.nextScript(script)) {
+  while (!cutOff_ && budget_.spend(scriptWork) && stage_.nextScript(script)) {
     interpreter_.run(script);
   }
 }
 
 void Player::tick() {
+  if (cutOff_) {
+    return;
+  }
   enter([this] {
     stage_.eachClip([this](Clip& clip) {
       stage_.raise(clip, ClipEvent::EnterFrame);
@@ -48,12 +65,14 @@ void Player::tick() {
 }
 
 bool Player::canChange() const {
-  bool can = false;
-  stage_.eachClip([&](const Clip& clip) {
-    can = can || (clip.playing && clip.timeline.frameCount() > 1) ||
-          stage_.listens(clip, static_cast<std::uint32_t>(ClipEvent::EnterFrame));
+  return !cutOff_ && ask([this] {
+    bool can = false;
+    stage_.eachClip([&](const Clip& clip) {
+      can = can || (clip.playing && clip.timeline.frameCount() > 1) ||
+            stage_.listens(clip, static_cast<std::uint32_t>(ClipEvent::EnterFrame));
+    });
+    return can;
   });
-  return can;
 }
 
 void Player::gotoFrame(int frame) {
@@ -68,7 +87,16 @@ void Player::stop() {
   stage_.root().playing = false;
 }
 
+Scene Player::scene() const {
+  return ask([this] { return sceneOf(stage_); });
+}
+
+bool Player::showsHand() const {
+  return ask([this] { return pointer_.isOverInteractive(); });
+}
+
 void Player::setProperty(const QString& target, int property, const QString& value) {
+  budget_.begin(limits::asking);
   Container* of = resolveTarget(stage_, &stage_.root(), target);
   const auto known = propertyOfNumber(property);
   if (of != nullptr && known) {
@@ -80,6 +108,7 @@ void Player::setProperty(const QString& target, int property, const QString& val
 }
 
 QString Player::property(const QString& target, int property) const {
+  budget_.begin(limits::asking);
   const Container* root = &stage_.root();
   const Container* of = resolveTarget(stage_, const_cast<Container*>(root), target);
   const auto known = propertyOfNumber(property);
@@ -94,8 +123,11 @@ QString Player::property(const QString& target, int property) const {
 }
 
 QRectF Player::placeOf(const QString& name) const {
-  const Container* child = childNamed(stage_, stage_.root(), name);
-  return child == nullptr ? QRectF() : stage_.root().matrix.mapRect(boundsInParent(*child));
+  return ask([&] {
+    const Container* child = childNamed(stage_, stage_.root(), name);
+    return child == nullptr ? QRectF()
+                            : stage_.root().matrix.mapRect(boundsInParent(*child, budget_));
+  });
 }
 
 QPointF Player::toStage(QPointF position) const {

@@ -12,20 +12,26 @@
 namespace platform::flash {
 
 // A running movie without a window. Time passes only by tick(); each call works off everything that
-// follows from it before it returns, within bounds (limits.h). It draws nothing: who wants a
-// picture takes the scene.
+// follows from it before it returns, within bounds (limits.h). A movie whose scripts and frames
+// need more in one call is cut off there: it stands still from then on and runs no script, and only
+// the host moves it. It draws nothing: who wants a picture takes the scene.
 class Player {
  public:
   using CommandSink = Interpreter::CommandSink;
 
   // Shows the first frame and runs its scripts. onCommand takes what scripts tell the host by
   // fscommand, in the middle of the call that caused it; it must not call the player.
-  Player(std::shared_ptr<const Movie> movie, CommandSink onCommand);
+  Player(std::shared_ptr<const Movie> movie, CommandSink onCommand,
+         Budget::Clock clock = Budget::processorTime);
 
   [[nodiscard]] const Movie& movie() const { return stage_.movie(); }
 
   // One frame of time.
   void tick();
+  // Lets the movie stand still, as after a call that took too much.
+  void halt() { cutOff_ = true; }
+  // Whether some call took too much and was cut off.
+  [[nodiscard]] bool wasCutOff() const { return cutOff_; }
   // Whether a tick could change anything or run a script: something plays, or listens to frames.
   [[nodiscard]] bool canChange() const;
 
@@ -53,20 +59,25 @@ class Player {
   // Lets go of what is pressed, beside the stage.
   void mouseReleaseOutside();
   // Whether the pointer should be the pointing hand.
-  [[nodiscard]] bool showsHand() const { return pointer_.isOverInteractive(); }
+  [[nodiscard]] bool showsHand() const;
 
-  [[nodiscard]] Scene scene() const { return sceneOf(stage_); }
+  [[nodiscard]] Scene scene() const;
 
  private:
   // Runs what call does as one entry: full budgets before, all scripts after.
   template <typename Call>
   void enter(Call call);
   void runScripts();
+  // What look finds, within the budget of a question.
+  template <typename Look>
+  auto ask(Look look) const;
   [[nodiscard]] QPointF toStage(QPointF position) const;
 
+  mutable Budget budget_;
   Stage stage_;
   Interpreter interpreter_;
   Pointer pointer_;
+  bool cutOff_ = false;
 };
 
 }  // namespace platform::flash

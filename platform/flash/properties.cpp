@@ -57,8 +57,8 @@ void setAxes(Container& of, Property property, double number) {
   of.matrix = axes.at(of.matrix.dx(), of.matrix.dy());
 }
 
-void setSize(Container& of, Property property, double pixels) {
-  const QRectF bounds = boundsInParent(of);
+void setSize(Container& of, Property property, double pixels, Budget& budget) {
+  const QRectF bounds = boundsInParent(of, budget);
   const bool isWidth = property == Property::Width;
   const double now = isWidth ? bounds.width() : bounds.height();
   if (now > 0 && pixels >= 0) {
@@ -111,13 +111,13 @@ Value propertyOf(const Stage& stage, const Container& of, Property property) {
     case Property::Visible:
       return stage.movie().version >= 5 ? Value(of.visible) : Value(of.visible ? 1.0 : 0.0);
     case Property::Width:
-      return boundsInParent(of).width() / twips;
+      return boundsInParent(of, stage.budget()).width() / twips;
     case Property::Height:
-      return boundsInParent(of).height() / twips;
+      return boundsInParent(of, stage.budget()).height() / twips;
     case Property::Rotation:
       return axes.angleX / degree;
     case Property::Target:
-      return slashPath(of);
+      return slashPath(stage, of);
     case Property::Name:
       return of.name;
     case Property::DropTarget:
@@ -131,9 +131,9 @@ Value propertyOf(const Stage& stage, const Container& of, Property property) {
   return {};
 }
 
-void setPropertyOf(const Stage& stage, Container& of, Property property, const Value& value) {
+void setPropertyOf(Stage& stage, Container& of, Property property, const Value& value) {
   if (property == Property::Name) {
-    of.name = toText(value, stage.movie().version);
+    stage.rename(of, toText(value, stage.movie().version));
     return;
   }
   const double number = toNumber(value, stage.movie().version);
@@ -158,7 +158,7 @@ void setPropertyOf(const Stage& stage, Container& of, Property property, const V
       break;
     case Property::Width:
     case Property::Height:
-      setSize(of, property, number);
+      setSize(of, property, number, stage.budget());
       break;
     case Property::Alpha:
       // Held in 256ths, without the rest.

@@ -41,6 +41,6 @@ enum class Property {
 [[nodiscard]] Value propertyOf(const Stage& stage, const Container& of, Property property);
 // What cannot be set, or not to that value, stays. All but visibility and name let the timeline
 // leave the instance alone from now on.
-void setPropertyOf(const Stage& stage, Container& of, Property property, const Value& value);
+void setPropertyOf(Stage& stage, Container& of, Property property, const Value& value);
 
 }  // namespace platform::flash

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/flash/edge_set.h"
@@ -16,6 +17,18 @@ namespace {
 
 // A line may be drawn wider than it is, by up to a pixel.
 constexpr double margin = 2;  // pixels
+
+// Nanoseconds, and bytes.
+constexpr std::int64_t itemWork = 200;
+constexpr std::int64_t gradientWork = 4000;
+constexpr std::int64_t pieceWork = 30;     // of an outline, with sorting it in
+constexpr std::int64_t strokeWork = 100;   // a piece of a line that has to be made
+constexpr std::int64_t surfaceWork = 40;   // in one row
+constexpr std::int64_t partWork = 25;      // a pixel covered in part
+constexpr std::int64_t maskPixelWork = 4;  // a pixel that a mask is worked out for
+constexpr std::size_t itemMemory = 400;
+constexpr std::size_t gradientMemory = 1100;
+constexpr std::size_t pieceMemory = 40;
 
 struct Surface {
   EdgeSet edges;
@@ -45,16 +58,20 @@ Stretch stretchOf(const QTransform& m) {
 // One picture in the making: first the surfaces are gathered, then painted row by row.
 class Painting {
  public:
-  Painting(const Scene& scene, const QTransform& toPixels, StrokeCache& strokes, QImage& image)
+  Painting(const Scene& scene, const QTransform& toPixels, StrokeCache& strokes, Budget& budget,
+           QImage& image)
       : scene_(scene),
         toPixels_(toPixels),
         strokes_(strokes),
+        budget_(budget),
         image_(image),
         coverage_(image.width()),
         painter_(image.width()) {}
 
   void gather();
   void paint();
+  // Whether everything was.
+  [[nodiscard]] bool isWhole() const { return segmentsLeft_ > 0 && !budget_.isSpent(); }
 
  private:
   void gatherItem(const SceneItem& item);
@@ -65,14 +82,19 @@ class Painting {
   bool addLine(EdgeSet& edges, const SceneItem& item, const QTransform& matrix);
   void paintSurface(Surface& surface, int row);
   void useMask(int mask, int row);
-  bool spendRow(std::size_t work) {
-    rowWorkLeft_ -= static_cast<std::int64_t>(work);
-    return rowWorkLeft_ > 0;
+  void paintRow(int row);
+  void paintBehindMask(int begin, int end, SampleMask mask, const PixelSource& source);
+  // Takes the pieces of an outline off what a picture may have of them.
+  bool spendSegments(std::size_t count) {
+    const bool fits = count <= segmentsLeft_;
+    segmentsLeft_ -= std::min(segmentsLeft_, count);
+    return fits;
   }
 
   const Scene& scene_;
   const QTransform& toPixels_;
   StrokeCache& strokes_;
+  Budget& budget_;
   QImage& image_;
   RowCoverage coverage_;
   RowPainter painter_;
@@ -87,21 +109,21 @@ class Painting {
   std::vector<SampleMask> throughOne_;
   int maskInUse_ = -1;
   std::size_t segmentsLeft_ = limits::frameSegments;
-  std::int64_t rowWorkLeft_ = 0;
-  std::int64_t rowPixelsLeft_ = 0;
+  std::vector<std::size_t> inWork_;  // the surfaces in the present row
+  std::int64_t pixelWork_ = 0;       // done and not yet charged
 };
 
 bool Painting::addOutline(EdgeSet& edges, const Outline& outline, const QTransform& matrix) {
   // A curve may take several pieces, but each segment takes one at least.
-  if (outline.segments().size() > segmentsLeft_) {
+  const std::size_t segments = outline.segments().size();
+  if (segments > segmentsLeft_) {
     segmentsLeft_ = 0;
     return false;
   }
-  const std::size_t used =
-      std::max(edges.add(outline, matrix, segmentsLeft_), outline.segments().size());
-  const bool fits = used <= segmentsLeft_;
-  segmentsLeft_ -= std::min(segmentsLeft_, used);
-  return fits;
+  const std::size_t used = std::max(edges.add(outline, matrix, segmentsLeft_), segments);
+  const std::size_t kept = std::min(used, segmentsLeft_);
+  budget_.hold(pieceMemory * kept);
+  return budget_.spend(pieceWork * static_cast<std::int64_t>(used)) && spendSegments(used);
 }
 
 bool Painting::addStroke(EdgeSet& edges, const StrokeCache::Key& key, const QTransform& matrix) {
@@ -111,12 +133,10 @@ bool Painting::addStroke(EdgeSet& edges, const StrokeCache::Key& key, const QTra
     const double radius = std::min(key.width * key.scale / 2, widestRadius);
     const auto pieces = static_cast<std::size_t>(8 + 4 * std::sqrt(radius));
     // The two sides of a curve are more curves than one.
-    const auto& segments = key.line->segments();
-    const auto curves = std::count_if(segments.begin(), segments.end(), [](const auto& segment) {
-      return segment.kind == Outline::Segment::Kind::Curve;
-    });
-    const std::size_t needed = (segments.size() + static_cast<std::size_t>(curves)) * pieces;
-    if (needed > segmentsLeft_) {
+    const std::size_t needed = (key.line->segments().size() + key.line->curves()) * pieces;
+    if (needed > segmentsLeft_ || !budget_.spend(strokeWork * static_cast<std::int64_t>(needed)) ||
+        !budget_.hold(pieceMemory * needed)) {
+      segmentsLeft_ = 0;
       return false;
     }
     segmentsLeft_ -= needed;
@@ -124,33 +144,28 @@ bool Painting::addStroke(EdgeSet& edges, const StrokeCache::Key& key, const QTra
   return addOutline(edges, strokes_.stroke(key), matrix);
 }
 
-// Never thinner than about a pixel, lest the line fall between the samples.
+// As wide in all directions, whatever the matrix does to what the line follows, and never thinner
+// than a pixel, lest the line fall between the samples.
 bool Painting::addLine(EdgeSet& edges, const SceneItem& item, const QTransform& matrix) {
-  constexpr double thinEnough = 0.9;  // pixels
-  const double area = matrix.determinant();
-  const double scale = std::sqrt(std::abs(area));
+  constexpr double even = 1.01;
+  const double scale = std::sqrt(std::abs(matrix.determinant()));
   const Stretch stretch = stretchOf(matrix);
   if (!(stretch.most > 0)) {
     return false;
   }
-  const double width = std::max<double>(item.lineWidth, 1 / scale);
-  if (scale > 0 && width * stretch.least >= thinEnough) {
-    return addStroke(edges, {item.outline, width, scale}, matrix);
+  const double pixels = std::max(item.lineWidth * scale, 1.0);
+  if (stretch.most <= even * stretch.least) {
+    return addStroke(edges, {item.outline, pixels / scale, scale}, matrix);
   }
-  // Squeezed one way: what the line covers, and a pixel along it. Both turn the same way round,
-  // also where the matrix is a mirror, so that one does not take away from the other.
-  if (scale > 0 && item.lineWidth * stretch.most > 1 &&
-      !addStroke(edges, {item.outline, double(item.lineWidth), stretch.most}, matrix)) {
-    return false;
-  }
-  const QTransform mirror = QTransform::fromScale(area < 0 ? -1 : 1, 1);
-  const QTransform before = matrix * mirror;
-  return addStroke(edges,
-                   {item.outline, 1, 1, {before.m11(), before.m12(), before.m21(), before.m22()}},
-                   mirror * QTransform::fromTranslate(matrix.dx(), matrix.dy()));
+  return addStroke(
+      edges, {item.outline, pixels, 1, {matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22()}},
+      QTransform::fromTranslate(matrix.dx(), matrix.dy()));
 }
 
 void Painting::gatherItem(const SceneItem& item) {
+  if (!budget_.spend(itemWork)) {
+    return;
+  }
   const QTransform matrix = item.matrix * toPixels_;
   const QRectF place = toPixels_.mapRect(item.bounds).adjusted(-margin, -margin, margin, margin);
   if (!isFinite(matrix) || !place.intersects(QRectF(image_.rect()))) {
@@ -162,6 +177,11 @@ void Painting::gatherItem(const SceneItem& item) {
   }
   edges.prepare();
   if (edges.firstRow() < edges.endRow()) {
+    budget_.hold(itemMemory);
+    if (item.gradient != nullptr) {
+      budget_.spend(gradientWork);
+      budget_.hold(gradientMemory);
+    }
     surfaces_.push_back({std::move(edges),
                          item.gradient == nullptr
                              ? PixelSource(item.color)
@@ -174,6 +194,9 @@ void Painting::gatherMasks() {
   for (const SceneMask& mask : scene_.masks) {
     Mask& made = masks_.emplace_back();
     for (const SceneMask::Part& part : mask.parts) {
+      if (!budget_.spend(itemWork) || !budget_.hold(itemMemory)) {
+        return;
+      }
       const QTransform matrix = part.matrix * toPixels_;
       EdgeSet edges(EdgeSet::Rule::EvenOdd, image_.height());
       if (isFinite(matrix) && addOutline(edges, *part.outline, matrix)) {
@@ -197,52 +220,91 @@ void Painting::useMask(int mask, int row) {
     return;
   }
   maskInUse_ = mask;
-  through_.assign(std::size_t(image_.width()), allSamples);
+  const auto width = std::size_t(image_.width());
+  through_.assign(width, allSamples);
   for (int at = mask; at >= 0; at = scene_.masks[std::size_t(at)].outer) {
     Mask& used = masks_[std::size_t(at)];
-    throughOne_.assign(std::size_t(image_.width()), 0);
-    spendRow(throughOne_.size() / samples);
+    throughOne_.assign(width, 0);
     for (EdgeSet& part : used.parts) {
+      if (!budget_.spend(surfaceWork)) {
+        return;
+      }
+      if (row < part.firstRow() || row >= part.endRow()) {
+        continue;
+      }
       if (used.atRow != row) {
         part.goTo(row);
       }
-      if (spendRow(part.work())) {
-        part.cover(coverage_);
-      }
+      part.cover(coverage_, budget_);
       coverage_.take([&](int begin, int end, SampleMask covered) {
+        pixelWork_ += end - begin;
         for (int x = begin; x < end; ++x) {
           throughOne_[std::size_t(x)] |= covered;
         }
       });
     }
     used.atRow = row;
-    for (std::size_t x = 0; x < through_.size(); ++x) {
+    for (std::size_t x = 0; x < width; ++x) {
       through_[x] &= throughOne_[x];
     }
+    if (!budget_.spend(maskPixelWork * image_.width() + std::exchange(pixelWork_, 0))) {
+      return;
+    }
+  }
+}
+
+// In stretches of which the mask lets the same through.
+void Painting::paintBehindMask(int begin, int end, SampleMask mask, const PixelSource& source) {
+  while (begin < end) {
+    const auto seen = static_cast<SampleMask>(mask & through_[std::size_t(begin)]);
+    int next = begin + 1;
+    while (next < end && (mask & through_[std::size_t(next)]) == seen) {
+      ++next;
+    }
+    if (seen != 0) {
+      painter_.paint(begin, next, seen, source);
+    }
+    pixelWork_ += seen == 0            ? next - begin
+                  : seen == allSamples ? (next - begin) * source.workPerPixel()
+                                       : (next - begin) * partWork;
+    begin = next;
   }
 }
 
 void Painting::paintSurface(Surface& surface, int row) {
   surface.edges.goTo(row);
-  if (!spendRow(surface.edges.work() + 1) || rowPixelsLeft_ <= 0) {
+  if (!budget_.spend(surfaceWork)) {
     return;
   }
   if (surface.mask >= 0) {
     useMask(surface.mask, row);
   }
-  surface.edges.cover(coverage_);
+  if (budget_.isSpent()) {
+    return;
+  }
+  surface.edges.cover(coverage_, budget_);
+  const std::int64_t wholeWork = surface.source.workPerPixel();
   coverage_.take([&](int begin, int end, SampleMask mask) {
-    rowPixelsLeft_ -= end - begin;
-    if (surface.mask < 0) {
-      painter_.paint(begin, end, mask, surface.source);
+    if (surface.mask >= 0) {
+      paintBehindMask(begin, end, mask, surface.source);
       return;
     }
-    for (int x = begin; x < end; ++x) {
-      if (const SampleMask seen = mask & through_[std::size_t(x)]) {
-        painter_.paint(x, x + 1, seen, surface.source);
-      }
-    }
+    painter_.paint(begin, end, mask, surface.source);
+    pixelWork_ += (end - begin) * (mask == allSamples ? wholeWork : partWork);
   });
+  budget_.spend(std::exchange(pixelWork_, 0));
+}
+
+void Painting::paintRow(int row) {
+  maskInUse_ = -1;
+  painter_.begin({reinterpret_cast<QRgb*>(image_.scanLine(row)), std::size_t(image_.width())}, row);
+  for (const std::size_t i : inWork_) {
+    if (budget_.isSpent()) {
+      break;
+    }
+    paintSurface(surfaces_[i], row);
+  }
+  painter_.finish();
 }
 
 void Painting::paint() {
@@ -255,36 +317,31 @@ void Painting::paint() {
     return surfaces_[left].edges.firstRow() < surfaces_[right].edges.firstRow();
   });
   std::size_t next = 0;
-  std::vector<std::size_t> inWork;
-  for (int row = 0; row < image_.height(); ++row) {
-    std::erase_if(inWork, [&](std::size_t i) { return surfaces_[i].edges.endRow() <= row; });
+  for (int row = 0; row < image_.height() && !budget_.isSpent(); ++row) {
+    std::erase_if(inWork_, [&](std::size_t i) { return surfaces_[i].edges.endRow() <= row; });
+    const auto old = static_cast<std::ptrdiff_t>(inWork_.size());
     for (; next < byBegin.size() && surfaces_[byBegin[next]].edges.firstRow() <= row; ++next) {
-      inWork.insert(std::lower_bound(inWork.begin(), inWork.end(), byBegin[next]), byBegin[next]);
+      inWork_.push_back(byBegin[next]);
     }
-    rowWorkLeft_ = limits::rowSteps;
-    rowPixelsLeft_ = std::int64_t(limits::rowLayers) * image_.width();
-    maskInUse_ = -1;
-    painter_.begin({reinterpret_cast<QRgb*>(image_.scanLine(row)), std::size_t(image_.width())},
-                   row);
-    for (const std::size_t i : inWork) {
-      paintSurface(surfaces_[i], row);
-    }
-    painter_.finish();
+    std::inplace_merge(inWork_.begin(), inWork_.begin() + old, inWork_.end());
+    paintRow(row);
   }
 }
 
 }  // namespace
 
-void Renderer::paint(const Scene& scene, const QTransform& toPixels, QRgb background,
+bool Renderer::paint(const Scene& scene, const QTransform& toPixels, QRgb background,
                      QImage& image) {
   image.fill(background | 0xFF000000U);
   if (image.isNull() || !isFinite(toPixels)) {
-    return;
+    return true;
   }
+  budget_.begin(limits::painting);
   strokes_.trim();
-  Painting painting(scene, toPixels, strokes_, image);
+  Painting painting(scene, toPixels, strokes_, budget_, image);
   painting.gather();
   painting.paint();
+  return painting.isWhole();
 }
 
 }  // namespace platform::flash

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace platform::flash {
 
@@ -50,11 +51,37 @@ void RowPainter::paintPart(int x, SampleMask mask, QRgb color) {
     paintMore(entries_[std::size_t(place)], mask, color);
     return;
   }
+  constexpr std::size_t mostStale = 4;  // for each pixel
+  if (entries_.size() > mostStale * places_.size()) {
+    compact();
+  }
   place = static_cast<int>(entries_.size());
   firstEntry_ = std::min(firstEntry_, x);
   lastEntry_ = std::max(lastEntry_, x);
   const QRgb below = pixels_[std::size_t(x)];
   entries_.push_back({x, mask, below, over(color, below), none});
+}
+
+void RowPainter::compact() {
+  std::vector<Entry> entries;
+  std::vector<Samples> kept;
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    Entry entry = entries_[i];
+    int& place = places_[std::size_t(entry.x)];
+    if (place != static_cast<int>(i)) {
+      continue;
+    }
+    if (entry.samples != none) {
+      kept.push_back(samples_[std::size_t(entry.samples)]);
+      entry.samples = static_cast<int>(kept.size()) - 1;
+    }
+    entries.push_back(entry);
+  }
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    places_[std::size_t(entries[i].x)] = static_cast<int>(i);
+  }
+  entries_ = std::move(entries);
+  samples_ = std::move(kept);
 }
 
 void RowPainter::paintMore(Entry& entry, SampleMask mask, QRgb color) {

@@ -42,6 +42,8 @@ class RowPainter {
     int samples;  // the place of its samples, where two colours do not do; else none
   };
 
+  // Lets go of entries that have been painted over whole since.
+  void compact();
   void paintWhole(int begin, int end, const PixelSource& source);
   void paintPart(int x, SampleMask mask, QRgb color);
   void paintMore(Entry& entry, SampleMask mask, QRgb color);

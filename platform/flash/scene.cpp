@@ -1,6 +1,7 @@
 #include "platform/flash/scene.h"
 
-#include <unordered_map>
+#include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -11,8 +12,12 @@ namespace platform::flash {
 
 namespace {
 
+// Nanoseconds for one instance, part or glyph.
+constexpr std::int64_t thingWork = 100;
+
 class Builder {
  public:
+  explicit Builder(Budget& budget) : budget_(budget) {}
   void add(const Instance& instance, const QTransform& outer, const ColorTransform& outerColor,
            int mask);
   Scene scene;
@@ -25,16 +30,27 @@ class Builder {
   void addText(const Instance& instance, const Text& text, const QTransform& matrix,
                const ColorTransform& color, int mask);
   void addMaskParts(const Instance& instance, const QTransform& outer, SceneMask& mask);
-  [[nodiscard]] bool isFull() const {
-    return scene.items.size() + maskParts_ >= std::size_t(limits::sceneItems);
+  // Whether one thing more can be looked at.
+  [[nodiscard]] bool goesOn() {
+    return budget_.spend(thingWork) &&
+           scene.items.size() + maskParts_ < std::size_t(limits::sceneItems);
   }
 
+  Budget& budget_;
   std::size_t maskParts_ = 0;
 };
 
+// A line is as wide in all directions, whatever the matrix does to what it follows.
+QRectF boundsOfLine(const ShapePart& part, const QTransform& matrix) {
+  const double half = part.lineWidth / 2.0;
+  const double drawn = half * std::sqrt(std::abs(matrix.determinant()));
+  return matrix.mapRect(part.bounds.adjusted(half, half, -half, -half))
+      .adjusted(-drawn, -drawn, drawn, drawn);
+}
+
 void Builder::addShape(const Instance& instance, const Shape& shape, const QTransform& matrix,
                        const ColorTransform& color, int mask) {
-  for (std::size_t i = 0; i < shape.parts.size() && !isFull(); ++i) {
+  for (std::size_t i = 0; i < shape.parts.size() && goesOn(); ++i) {
     const ShapePart& part = shape.parts[i];
     SceneItem item;
     item.instance = instance.id;
@@ -52,7 +68,7 @@ void Builder::addShape(const Instance& instance, const Shape& shape, const QTran
         continue;
       }
     }
-    item.bounds = matrix.mapRect(part.bounds);
+    item.bounds = part.isLine ? boundsOfLine(part, matrix) : matrix.mapRect(part.bounds);
     item.mask = mask;
     scene.items.push_back(item);
   }
@@ -60,7 +76,7 @@ void Builder::addShape(const Instance& instance, const Shape& shape, const QTran
 
 void Builder::addText(const Instance& instance, const Text& text, const QTransform& matrix,
                       const ColorTransform& color, int mask) {
-  for (std::size_t i = 0; i < text.glyphs.size() && !isFull(); ++i) {
+  for (std::size_t i = 0; i < text.glyphs.size() && goesOn(); ++i) {
     const Text::Glyph& glyph = text.glyphs[i];
     SceneItem item;
     item.instance = instance.id;
@@ -80,25 +96,24 @@ void Builder::addText(const Instance& instance, const Text& text, const QTransfo
 void Builder::addMaskParts(const Instance& instance, const QTransform& outer, SceneMask& mask) {
   const QTransform matrix = instance.matrix * outer;
   const auto add = [&](const Outline& outline, const QTransform& place) {
-    if (!isFull()) {
-      mask.parts.push_back({&outline, place});
-      ++maskParts_;
-    }
+    mask.parts.push_back({&outline, place});
+    ++maskParts_;
   };
   if (const Container* container = asContainer(&instance)) {
     for (const auto& [depth, child] : container->children) {
-      if (child->visible) {
+      if (child->visible && goesOn()) {
         addMaskParts(*child, matrix, mask);
       }
     }
   } else if (const auto* shape = instance.character->as<Shape>()) {
-    for (const ShapePart& part : shape->parts) {
-      if (!part.isLine) {
+    for (std::size_t i = 0; i < shape->parts.size() && goesOn(); ++i) {
+      if (const ShapePart& part = shape->parts[i]; !part.isLine) {
         add(part.outline, matrix);
       }
     }
   } else if (const auto* text = instance.character->as<Text>()) {
-    for (const Text::Glyph& glyph : text->glyphs) {
+    for (std::size_t i = 0; i < text->glyphs.size() && goesOn(); ++i) {
+      const Text::Glyph& glyph = text->glyphs[i];
       add(*glyph.outline, glyph.matrix * text->matrix * matrix);
     }
   }
@@ -122,6 +137,7 @@ void Builder::addChildren(const Container& container, const QTransform& matrix,
       continue;
     }
     SceneMask added;
+    added.instance = child->id;
     added.outer = inner;
     addMaskParts(*child, matrix, added);
     scene.masks.push_back(std::move(added));
@@ -131,7 +147,7 @@ void Builder::addChildren(const Container& container, const QTransform& matrix,
 
 void Builder::add(const Instance& instance, const QTransform& outer,
                   const ColorTransform& outerColor, int mask) {
-  if (!instance.visible || isFull()) {
+  if (!instance.visible || !goesOn()) {
     return;
   }
   const QTransform matrix = instance.matrix * outer;
@@ -149,52 +165,69 @@ std::uint64_t keyOf(const SceneItem& item) {
   return (std::uint64_t(item.instance) << 32U) | item.part;
 }
 
-bool sameMask(const Scene& before, int maskBefore, const Scene& after, int maskAfter) {
-  while (maskBefore >= 0 && maskAfter >= 0) {
-    const SceneMask& left = before.masks[std::size_t(maskBefore)];
-    const SceneMask& right = after.masks[std::size_t(maskAfter)];
-    if (left.parts != right.parts) {
-      return false;
-    }
-    maskBefore = left.outer;
-    maskAfter = right.outer;
+// For each mask of a scene where it was in the scene before; none where it has changed.
+constexpr int noMask = -2;
+std::vector<int> masksBefore(const Scene& before, const Scene& after) {
+  std::vector<std::pair<std::uint32_t, int>> old;
+  for (std::size_t i = 0; i < before.masks.size(); ++i) {
+    old.emplace_back(before.masks[i].instance, static_cast<int>(i));
   }
-  return maskBefore == maskAfter;
+  std::sort(old.begin(), old.end());
+  std::vector<int> same(after.masks.size(), noMask);
+  for (std::size_t i = 0; i < after.masks.size(); ++i) {
+    const SceneMask& mask = after.masks[i];
+    const auto found = std::lower_bound(old.begin(), old.end(), std::pair(mask.instance, 0));
+    if (found == old.end() || found->first != mask.instance) {
+      continue;
+    }
+    // A mask comes behind those around it.
+    const SceneMask& there = before.masks[std::size_t(found->second)];
+    const int outer = mask.outer < 0 ? mask.outer : same[std::size_t(mask.outer)];
+    if (outer == there.outer && mask.parts == there.parts) {
+      same[i] = found->second;
+    }
+  }
+  return same;
 }
 
-bool looksTheSame(const Scene& before, const SceneItem& left, const Scene& after,
-                  const SceneItem& right) {
+bool looksTheSame(const SceneItem& left, const SceneItem& right) {
   return left.outline == right.outline && left.color == right.color &&
          left.gradient == right.gradient && left.gradientColor == right.gradientColor &&
-         left.matrix == right.matrix && sameMask(before, left.mask, after, right.mask);
+         left.matrix == right.matrix;
 }
 
 }  // namespace
 
 Scene sceneOf(const Stage& stage) {
-  Builder builder;
+  Builder builder(stage.budget());
   builder.add(stage.root(), QTransform(), ColorTransform(), -1);
   return std::move(builder.scene);
 }
 
 std::vector<QRectF> differences(const Scene& before, const Scene& after) {
-  std::unordered_map<std::uint64_t, std::size_t> positions;
+  // Sorted: a table could be made slow by a file that knows how it works.
+  std::vector<std::pair<std::uint64_t, std::size_t>> positions;
+  positions.reserve(before.items.size());
   for (std::size_t i = 0; i < before.items.size(); ++i) {
-    positions.emplace(keyOf(before.items[i]), i);
+    positions.emplace_back(keyOf(before.items[i]), i);
   }
+  std::sort(positions.begin(), positions.end());
+  const std::vector<int> masks = masksBefore(before, after);
   std::vector<bool> met(before.items.size(), false);
   std::vector<QRectF> changed;
   std::size_t next = 0;  // where things would stand if none had changed places
   for (const SceneItem& item : after.items) {
-    const auto found = positions.find(keyOf(item));
-    if (found == positions.end()) {
+    const std::pair sought(keyOf(item), std::size_t(0));
+    const auto found = std::lower_bound(positions.begin(), positions.end(), sought);
+    if (found == positions.end() || found->first != sought.first) {
       changed.push_back(item.bounds);
       continue;
     }
     const SceneItem& old = before.items[found->second];
     met[found->second] = true;
     const bool inOrder = found->second >= next;
-    if (!inOrder || !looksTheSame(before, old, after, item)) {
+    const int mask = item.mask < 0 ? item.mask : masks[std::size_t(item.mask)];
+    if (!inOrder || mask != old.mask || !looksTheSame(old, item)) {
       changed.push_back(old.bounds);
       changed.push_back(item.bounds);
     }

@@ -34,6 +34,8 @@ struct SceneItem {
 
 // What a mask lets through: all its outlines together, and that only where the outer mask does.
 struct SceneMask {
+  std::uint32_t instance = 0;  // which is the mask
+
   struct Part {
     const Outline* outline;
     QTransform matrix;
@@ -43,8 +45,6 @@ struct SceneMask {
 
   std::vector<Part> parts;
   int outer = -1;
-
-  bool operator==(const SceneMask&) const = default;
 };
 
 // A picture of the stage as a list of things to paint, from the back to the front. It knows no
@@ -54,10 +54,12 @@ struct Scene {
   std::vector<SceneMask> masks;
 };
 
-// All that is visible now; no more than limits::sceneItems.
+// All that is visible now; no more than limits::sceneItems, and in part where the budget does not
+// do.
 [[nodiscard]] Scene sceneOf(const Stage& stage);
 
-// The places, in twips of the stage, where the two scenes differ.
+// The places, in twips of the stage, where the two scenes differ. Takes about as long as making
+// them.
 [[nodiscard]] std::vector<QRectF> differences(const Scene& before, const Scene& after);
 
 }  // namespace platform::flash

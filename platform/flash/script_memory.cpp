@@ -64,6 +64,15 @@ bool ScriptMemory::replace(const QString& key, const Value* before, const Value&
   return false;
 }
 
+bool ScriptMemory::rename(const QString& before, const QString& after) {
+  const qsizetype then = characters_ - before.size() + after.size();
+  if (after.size() > before.size() && then > limits::scriptCharacters) {
+    return false;
+  }
+  characters_ = then;
+  return true;
+}
+
 void ScriptMemory::forget(const QString& key, const Value& value) {
   characters_ -= nameWeight(key);
   subtract(value);

@@ -8,6 +8,24 @@
 
 namespace platform::flash {
 
+namespace {
+
+// Nanoseconds to look up a name.
+constexpr std::int64_t nameWork = 100;
+constexpr std::int64_t nameCharacterWork = 5;
+
+// What a text takes, in bytes.
+std::size_t memoryOf(const QString& text) {
+  constexpr std::size_t overhead = 80;
+  return overhead + 2 * static_cast<std::size_t>(text.size());
+}
+
+}  // namespace
+
+Container* ScriptRun::find(std::uint32_t id) {
+  return machine_.find(id);
+}
+
 Stage& ScriptRun::stage() {
   return machine_.stage();
 }
@@ -26,10 +44,10 @@ Value ScriptRun::pop() {
 }
 
 void ScriptRun::push(Value value) {
-  constexpr qsizetype charactersPerWork = 4;
-  if (const auto* text = std::get_if<QString>(&value)) {
-    stage().spend(static_cast<int>(text->size() / charactersPerWork));
-  }
+  constexpr std::int64_t valueWork = 20;
+  constexpr std::int64_t characterWork = 30;  // it may be read as a number
+  const auto* text = std::get_if<QString>(&value);
+  stage().budget().spend(valueWork + (text == nullptr ? 0 : characterWork * text->size()));
   if (stack_.size() >= std::size_t(limits::stackDepth)) {
     end();
     return;
@@ -47,32 +65,45 @@ void ScriptRun::pushLogical(bool truth) {
 
 void ScriptRun::pushText(QString text) {
   text.truncate(limits::stringLength);
+  stage().budget().hold(memoryOf(text));
   push(std::move(text));
 }
 
+QString ScriptRun::decoded(ByteReader& operand) {
+  constexpr std::int64_t textWork = 60;
+  constexpr std::int64_t byteWork = 3;
+  const QByteArrayView bytes = operand.string();
+  if (!stage().budget().spend(textWork + byteWork * bytes.size())) {
+    return {};
+  }
+  QString text = stage().movie().decoded(bytes);
+  stage().budget().hold(memoryOf(text));
+  return text;
+}
+
 QString ScriptRun::text(const Value& value) {
+  constexpr std::int64_t numberWork = 300;
+  if (std::holds_alternative<double>(value)) {
+    stage().budget().spend(numberWork);
+  }
   if (std::holds_alternative<ObjectRef>(value)) {
     const Container* object = container(value);
-    return object == nullptr ? QString() : dotPath(*object);
+    return object == nullptr ? QString() : dotPath(stage(), *object);
   }
   return toText(value, version());
 }
 
 Clip* ScriptRun::target() {
-  return asClip(stage().find(target_));
+  return asClip(find(target_));
 }
 
 Container* ScriptRun::container(const Value& value) {
   const auto* object = std::get_if<ObjectRef>(&value);
-  return object == nullptr ? nullptr : stage().find(object->id);
+  return object == nullptr ? nullptr : find(object->id);
 }
 
 Container* ScriptRun::resolve(QStringView path) {
-  // Looking up a child by its name may pass all of them.
-  Container* from = stage().find(target_);
-  stage().spend(static_cast<int>(path.size()) +
-                (from == nullptr ? 0 : static_cast<int>(from->children.size()) / 8));
-  return resolveTarget(stage(), from, path);
+  return resolveTarget(stage(), find(target_), path);
 }
 
 void ScriptRun::setTarget(const QString& path) {
@@ -90,7 +121,7 @@ Container* ScriptRun::ownerOf(const QString& path, QString& name) {
   name = path.mid(split + 1);
   const QStringView front = QStringView(path).first(std::max<qsizetype>(split, 0));
   if (front.isEmpty()) {
-    return split == 0 ? stage().find(stage().root().id) : stage().find(target_);
+    return split == 0 ? find(stage().root().id) : find(target_);
   }
   if (front.startsWith(u"this") && inFunction_ &&
       (front.size() == 4 || front[4] == u'.' || front[4] == u'/')) {
@@ -101,7 +132,7 @@ Container* ScriptRun::ownerOf(const QString& path, QString& name) {
 }
 
 Value ScriptRun::ownMember(Container& owner, const QString& name) {
-  stage().spend(static_cast<int>(owner.children.size()) / 8);
+  stage().budget().spend(nameWork + nameCharacterWork * name.size());
   const auto stored = owner.variables.constFind(stage().movie().folded(name));
   if (stored != owner.variables.constEnd()) {
     return stored.value();
@@ -123,6 +154,7 @@ Value ScriptRun::ownMember(Container& owner, const QString& name) {
 }
 
 void ScriptRun::setOwnMember(Container& owner, const QString& name, const Value& value) {
+  stage().budget().spend(nameWork + nameCharacterWork * name.size());
   if (const auto property = propertyOfName(name)) {
     setPropertyOf(stage(), owner, *property, value);
   } else {
@@ -131,6 +163,7 @@ void ScriptRun::setOwnMember(Container& owner, const QString& name, const Value&
 }
 
 Value ScriptRun::variable(const QString& name) {
+  stage().budget().spend(nameWork + nameCharacterWork * name.size());
   if (name.compare(u"this", Qt::CaseInsensitive) == 0) {
     return thisValue_;
   }
@@ -150,6 +183,7 @@ Value ScriptRun::variable(const QString& name) {
 }
 
 void ScriptRun::setVariable(const QString& name, const Value& value) {
+  stage().budget().spend(nameWork + nameCharacterWork * name.size());
   const QString key = stage().movie().folded(name);
   if (const auto local = locals_.find(key); local != locals_.end()) {
     local.value() = value;
@@ -162,7 +196,10 @@ void ScriptRun::setVariable(const QString& name, const Value& value) {
 }
 
 void ScriptRun::setLocal(const QString& name, const Value& value) {
+  constexpr std::size_t localMemory = 150;
   if (inFunction_) {
+    stage().budget().spend(nameWork + nameCharacterWork * name.size());
+    stage().budget().hold(localMemory + memoryOf(name));
     locals_.insert(stage().movie().folded(name), value);
   } else {
     setVariable(name, value);

@@ -1,6 +1,6 @@
 #include "platform/flash/shape_builder.h"
 
-#include <unordered_map>
+#include <algorithm>
 #include <utility>
 
 #include "platform/flash/movie_error.h"
@@ -65,34 +65,35 @@ void ShapeBuilder::add(const Edge& edge) {
   keep(lineEdges_, line_, edge);
 }
 
-// Edges by the point that they start from, to be taken one by one.
+// Edges by the point that they start from, to be taken one by one. They are sorted: a table could
+// be made slow by a file that knows how it works.
 class ShapeBuilder::EdgesByStart {
  public:
   static constexpr std::size_t none = SIZE_MAX;
 
-  explicit EdgesByStart(const Edges& edges)
-      : next_(edges.size(), none), used_(edges.size(), false) {
-    for (std::size_t i = edges.size(); i-- > 0;) {
-      const auto [place, isNew] = first_.try_emplace(key(edges[i].from), i);
-      if (!isNew) {
-        next_[i] = std::exchange(place->second, i);
-      }
+  explicit EdgesByStart(const Edges& edges) : heads_(edges.size()), used_(edges.size(), false) {
+    starts_.reserve(edges.size());
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+      starts_.push_back({key(edges[i].from), static_cast<std::uint32_t>(i)});
+      heads_[i] = static_cast<std::uint32_t>(i);
     }
+    std::sort(starts_.begin(), starts_.end());
   }
 
   [[nodiscard]] bool isUsed(std::size_t edge) const { return used_[edge]; }
   void use(std::size_t edge) { used_[edge] = true; }
   // An edge from there that is not used yet, or none.
   std::size_t from(Point point) {
-    const auto place = first_.find(key(point));
-    if (place == first_.end()) {
+    const std::uint64_t sought = key(point);
+    const auto first = std::lower_bound(starts_.begin(), starts_.end(), Start{sought, 0});
+    if (first == starts_.end() || first->key != sought) {
       return none;
     }
-    std::size_t& head = place->second;
-    while (head != none && used_[head]) {
-      head = next_[head];
+    std::uint32_t& head = heads_[static_cast<std::size_t>(first - starts_.begin())];
+    while (head < starts_.size() && starts_[head].key == sought && used_[starts_[head].edge]) {
+      ++head;
     }
-    return head;
+    return head < starts_.size() && starts_[head].key == sought ? starts_[head].edge : none;
   }
 
  private:
@@ -100,8 +101,15 @@ class ShapeBuilder::EdgesByStart {
     return (std::uint64_t(std::uint32_t(point.x)) << 32U) | std::uint32_t(point.y);
   }
 
-  std::unordered_map<std::uint64_t, std::size_t> first_;
-  std::vector<std::size_t> next_;  // a chain for each point
+  struct Start {
+    std::uint64_t key;
+    std::uint32_t edge;
+
+    auto operator<=>(const Start&) const = default;
+  };
+  std::vector<Start> starts_;
+  // For the first edge of each point, the first of them that may not yet be used, by its place.
+  std::vector<std::uint32_t> heads_;
   std::vector<bool> used_;
 };
 

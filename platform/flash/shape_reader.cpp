@@ -127,8 +127,9 @@ class RecordReader {
 
   void read(ShapeBuilder& builder) {
     readIndexWidths();
+    constexpr std::int64_t recordWork = 40;
     for (;;) {
-      allowance_.spend(1);
+      allowance_.work(recordWork);
       if (bits_.flag()) {
         readEdge(builder);
         continue;

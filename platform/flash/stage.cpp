@@ -11,7 +11,14 @@ namespace platform::flash {
 
 namespace {
 
-constexpr int placeWork = 50;
+// Nanoseconds.
+constexpr std::int64_t placeWork = 2000;  // with what removing it will take
+constexpr std::int64_t visitWork = 200;
+constexpr std::int64_t recordWork = 50;
+constexpr std::int64_t handlerWork = 3;
+constexpr std::int64_t queueWork = 50;
+constexpr std::int64_t lookUpWork = 200;
+constexpr std::size_t placeMemory = 600;  // bytes
 constexpr std::uint32_t rootId = 1;
 
 struct NamedEvent {
@@ -38,8 +45,10 @@ constexpr std::array namedEvents{
 
 }  // namespace
 
-Stage::Stage(std::shared_ptr<const Movie> movie)
-    : movie_(std::move(movie)), root_(std::make_unique<Clip>(rootId, nullptr, movie_->timeline)) {
+Stage::Stage(std::shared_ptr<const Movie> movie, Budget& budget)
+    : movie_(std::move(movie)),
+      budget_(budget),
+      root_(std::make_unique<Clip>(rootId, nullptr, movie_->timeline)) {
   containers_.emplace(root_->id, root_.get());
 }
 
@@ -48,13 +57,21 @@ Container* Stage::find(std::uint32_t id) const {
   return found == containers_.end() ? nullptr : found->second;
 }
 
+Container* Stage::findRemoved(std::uint32_t id) const {
+  if (Container* there = find(id)) {
+    return there;
+  }
+  const auto found = removed_.find(id);
+  return found == removed_.end() ? nullptr : found->second;
+}
+
 void Stage::eachClip(const std::function<void(Clip&)>& visit) const {
   std::vector<std::uint32_t> ids;
   for (auto at = containers_.rbegin(); at != containers_.rend(); ++at) {
     ids.push_back(at->first);
   }
   for (const std::uint32_t id : ids) {
-    if (Clip* clip = asClip(find(id))) {
+    if (Clip* clip = asClip(find(id)); clip != nullptr && budget_.spend(visitWork)) {
       visit(*clip);
     }
   }
@@ -79,8 +96,12 @@ std::unique_ptr<Instance> Stage::make(const Character& character) {
 
 Instance* Stage::place(Container& parent, const Placement& placement) {
   const Character* character = movie_->character(placement.character);
+  if (parent.removed) {
+    return nullptr;
+  }
   remove(parent, placement.depth);
-  if (character == nullptr || instances_ >= limits::instances || !spend(placeWork)) {
+  if (character == nullptr || instances_ >= limits::instances || !budget_.spend(placeWork) ||
+      !budget_.hold(placeMemory)) {
     return nullptr;
   }
   std::unique_ptr<Instance> made = make(*character);
@@ -114,6 +135,7 @@ void Stage::enter(Container& parent, std::unique_ptr<Instance> instance) {
   if (placed.name.isEmpty()) {
     placed.name = QStringLiteral("instance%1").arg(++lastInstanceName_);
   }
+  memory_.name(placed.name);
   if (Clip* clip = asClip(&placed)) {
     raise(*clip, ClipEvent::Initialize);
     raise(*clip, ClipEvent::Construct);
@@ -135,17 +157,29 @@ void Stage::bury(Instance& instance) {
     raise(*clip, ClipEvent::Unload, true);
   }
   containers_.erase(instance.id);
-  for (auto at = container->variables.cbegin(); at != container->variables.cend(); ++at) {
-    memory_.forget(at.key(), at.value());
-  }
+  removed_.emplace(instance.id, container);
   for (const auto& [depth, child] : container->children) {
     bury(*child);
   }
 }
 
+void Stage::forget(const Instance& instance) {
+  const Container* container = asContainer(&instance);
+  if (container == nullptr) {
+    return;
+  }
+  memory_.unname(instance.name);
+  for (auto at = container->variables.cbegin(); at != container->variables.cend(); ++at) {
+    memory_.forget(at.key(), at.value());
+  }
+  for (const auto& [depth, child] : container->children) {
+    forget(*child);
+  }
+}
+
 void Stage::remove(Container& parent, int depth) {
   const auto found = parent.children.find(depth);
-  if (found == parent.children.end()) {
+  if (found == parent.children.end() || parent.removed) {
     return;
   }
   bury(*found->second);
@@ -159,6 +193,7 @@ void Stage::setState(ButtonInstance& button, ButtonState state) {
     return (record.states & static_cast<unsigned>(state)) != 0;
   };
   const std::vector<ButtonRecord>& records = button.button.records;
+  budget_.spend(recordWork * static_cast<std::int64_t>(records.size() + button.children.size()));
   std::vector<int> leaving;
   for (const auto& [depth, child] : button.children) {
     if (!shows(records[static_cast<std::size_t>(child->placeIndex)])) {
@@ -184,6 +219,7 @@ void Stage::setState(ButtonInstance& button, ButtonState state) {
 bool Stage::raise(Clip& clip, ClipEvent event, bool whenRemoved) {
   bool any = false;
   if (clip.handlers != nullptr) {
+    budget_.spend(handlerWork * static_cast<std::int64_t>(clip.handlers->size()));
     for (const ClipHandler& handler : *clip.handlers) {
       if (handler.takes(event)) {
         enqueue({clip.id, handler.actions, nullptr, whenRemoved});
@@ -191,10 +227,10 @@ bool Stage::raise(Clip& clip, ClipEvent event, bool whenRemoved) {
       }
     }
   }
-  return (!whenRemoved && raiseMember(clip, event)) || any;
+  return raiseMember(clip, event, whenRemoved) || any;
 }
 
-bool Stage::raiseMember(Container& owner, ClipEvent event) {
+bool Stage::raiseMember(Container& owner, ClipEvent event, bool whenRemoved) {
   if (owner.variables.isEmpty()) {
     return false;
   }
@@ -207,7 +243,7 @@ bool Stage::raiseMember(Container& owner, ClipEvent event) {
   if (function == nullptr) {
     return false;
   }
-  enqueue({owner.id, {}, std::move(function), false});
+  enqueue({owner.id, {}, std::move(function), whenRemoved});
   return true;
 }
 
@@ -217,16 +253,18 @@ void Stage::raiseButton(ButtonInstance& button, ButtonEvent event, ClipEvent cli
   while (clip != nullptr && asClip(clip) == nullptr) {
     clip = clip->parent;
   }
+  budget_.spend(handlerWork * static_cast<std::int64_t>(button.button.handlers.size()));
   for (const ButtonHandler& handler : button.button.handlers) {
     if ((handler.events & static_cast<unsigned>(event)) != 0 && clip != nullptr) {
       enqueue({clip->id, handler.actions, nullptr, false});
     }
   }
-  raiseMember(button, clipEvent);
+  raiseMember(button, clipEvent, false);
 }
 
 bool Stage::listens(const Container& owner, std::uint32_t events) const {
   if (const Clip* clip = asClip(&owner); clip != nullptr && clip->handlers != nullptr) {
+    budget_.spend(handlerWork * static_cast<std::int64_t>(clip->handlers->size()));
     for (const ClipHandler& handler : *clip->handlers) {
       if ((handler.events & events) != 0) {
         return true;
@@ -246,12 +284,14 @@ bool Stage::listens(const Container& owner, std::uint32_t events) const {
 }
 
 FunctionRef Stage::memberFunction(const Container& owner, const QString& name) const {
+  budget_.spend(lookUpWork);
   const Value value = owner.variables.value(movie_->folded(name));
   const auto* function = std::get_if<FunctionRef>(&value);
   return function == nullptr ? nullptr : *function;
 }
 
 void Stage::enqueue(QueuedScript script) {
+  budget_.spend(queueWork);
   if (queue_.size() < std::size_t(limits::queuedBlocks)) {
     queue_.push_back(std::move(script));
   }
@@ -276,7 +316,6 @@ bool Stage::nextScript(QueuedScript& script) {
 }
 
 void Stage::beginEntry() {
-  workLeft_ = limits::workPerTick;
   gotosLeft_ = limits::gotosPerTick;
   commandsLeft_ = limits::commandsPerTick;
 }
@@ -284,15 +323,15 @@ void Stage::beginEntry() {
 void Stage::endEntry() {
   queue_.clear();
   initQueue_.clear();
+  for (const std::unique_ptr<Instance>& buried : graveyard_) {
+    forget(*buried);
+  }
+  removed_.clear();
   graveyard_.clear();
 }
 
-bool Stage::spend(int work) {
-  workLeft_ = work > workLeft_ ? 0 : workLeft_ - work;
-  return workLeft_ > 0;
-}
-
 void Stage::store(Container& owner, const QString& name, Value value) {
+  budget_.spend(lookUpWork);
   const QString key = movie_->folded(name);
   const auto found = owner.variables.find(key);
   const bool isNew = found == owner.variables.end();
@@ -303,6 +342,12 @@ void Stage::store(Container& owner, const QString& name, Value value) {
     owner.variables.insert(key, std::move(value));
   } else {
     found.value() = std::move(value);
+  }
+}
+
+void Stage::rename(Container& clip, QString name) {
+  if (memory_.rename(clip.name, name)) {
+    clip.name = std::move(name);
   }
 }
 

@@ -7,6 +7,7 @@
 #include <set>
 #include <vector>
 
+#include "platform/flash/budget.h"
 #include "platform/flash/instance.h"
 #include "platform/flash/script_memory.h"
 
@@ -33,18 +34,24 @@ struct QueuedScript {
   bool whenRemoved = false;  // runs although its clip has gone
 };
 
-// Everything that stands on the stage of one running movie, the scripts that wait, and what they
-// may yet cost in this tick. It keeps the books; frames are worked off by timeline.h, scripts run
-// in the Interpreter, both on the Player's word.
+// Everything that stands on the stage of one running movie, and the scripts that wait. It keeps the
+// books; frames are worked off by timeline.h, scripts run in the Interpreter, both on the Player's
+// word.
 class Stage {
  public:
-  explicit Stage(std::shared_ptr<const Movie> movie);
+  // budget: what the present step may still cost; it must outlive the stage.
+  Stage(std::shared_ptr<const Movie> movie, Budget& budget);
 
   [[nodiscard]] const Movie& movie() const { return *movie_; }
+  // Also those who only look have to pay for it.
+  [[nodiscard]] Budget& budget() const { return budget_; }
   [[nodiscard]] Clip& root() { return *root_; }
   [[nodiscard]] const Clip& root() const { return *root_; }
   // The clip or button of that number; null once it has been removed.
   [[nodiscard]] Container* find(std::uint32_t id) const;
+  // The same, but for what has been removed since the step began, too, which scripts that run upon
+  // removal still know.
+  [[nodiscard]] Container* findRemoved(std::uint32_t id) const;
   // Calls visit for each clip, the newest first, those that come meanwhile not.
   void eachClip(const std::function<void(Clip&)>& visit) const;
 
@@ -72,25 +79,29 @@ class Stage {
   // The next script whose clip is still there; false when none is left.
   bool nextScript(QueuedScript& script);
 
-  // Begins a tick or the handling of one call from outside: the budgets are full again.
+  // Begins a tick or the handling of one call from outside.
   void beginEntry();
   // Ends it: what was removed is destroyed, what still waits is dropped.
   void endEntry();
-  // Takes work off the budget; false when there is no more.
-  bool spend(int work);
   bool spendGoto() { return --gotosLeft_ >= 0; }
   bool spendCommand() { return --commandsLeft_ >= 0; }
   // Stores a variable; it is left out where scripts hold too much already.
   void store(Container& owner, const QString& name, Value value);
+  // The same for the name of a clip.
+  void rename(Container& clip, QString name);
 
  private:
   std::unique_ptr<Instance> make(const Character& character);
   void enter(Container& parent, std::unique_ptr<Instance> instance);
   void bury(Instance& instance);
-  bool raiseMember(Container& owner, ClipEvent event);
+  // Gives back what variables and names of something that is destroyed have taken.
+  void forget(const Instance& instance);
+  bool raiseMember(Container& owner, ClipEvent event, bool whenRemoved);
 
   std::shared_ptr<const Movie> movie_;
+  Budget& budget_;
   std::map<std::uint32_t, Container*> containers_;  // by number, so by age
+  std::map<std::uint32_t, Container*> removed_;     // those in the graveyard
   std::vector<std::unique_ptr<Instance>> graveyard_;
   std::unique_ptr<Clip> root_;
   std::deque<QueuedScript> queue_;
@@ -99,7 +110,6 @@ class Stage {
   std::uint32_t lastId_ = 1;  // the root's
   int lastInstanceName_ = 0;
   int instances_ = 0;
-  int workLeft_ = 0;
   int gotosLeft_ = 0;
   int commandsLeft_ = 0;
   ScriptMemory memory_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/flash/limits.h"
 #include "platform/flash/stage.h"
 
 namespace platform::flash {
@@ -27,11 +28,23 @@ QStringView takeStep(QStringView& path) {
   return step;
 }
 
-QString pathFrom(const Instance& instance, QChar separator) {
-  QString path;
+// Nanoseconds.
+constexpr std::int64_t characterWork = 3;
+constexpr std::int64_t stepWork = 60;
+constexpr std::int64_t childWork = 15;
+
+QString pathFrom(const Stage& stage, const Instance& instance, QChar separator) {
+  std::vector<const Instance*> steps;
   for (const Instance* at = &instance; at->parent != nullptr; at = at->parent) {
-    path.prepend(at->name).prepend(separator);
+    steps.push_back(at);
   }
+  QString path;
+  for (auto at = steps.rbegin(); at != steps.rend() && path.size() < limits::stringLength; ++at) {
+    path.append(separator).append((*at)->name);
+  }
+  path.truncate(limits::stringLength);
+  stage.budget().spend(stepWork + characterWork * path.size());
+  stage.budget().hold(2 * static_cast<std::size_t>(path.size()));
   return path;
 }
 
@@ -41,6 +54,10 @@ Container* childNamed(const Stage& stage, const Container& parent, QStringView n
   const Qt::CaseSensitivity sensitivity =
       stage.movie().version <= 6 ? Qt::CaseInsensitive : Qt::CaseSensitive;
   for (const auto& [depth, child] : parent.children) {
+    const qsizetype compared = std::min(name.size(), child->name.size());
+    if (!stage.budget().spend(childWork + characterWork * compared)) {
+      break;
+    }
     if (child->kind != Instance::Kind::Graphic && name.compare(child->name, sensitivity) == 0) {
       return asContainer(child.get());
     }
@@ -57,6 +74,9 @@ Container* resolveTarget(const Stage& stage, Container* from, QStringView path) 
   }
   while (at != nullptr && !path.isEmpty()) {
     const QStringView step = takeStep(path);
+    if (!stage.budget().spend(stepWork + characterWork * step.size())) {
+      return nullptr;
+    }
     const auto is = [step](QStringView name) {
       return step.compare(name, Qt::CaseInsensitive) == 0;
     };
@@ -71,12 +91,12 @@ Container* resolveTarget(const Stage& stage, Container* from, QStringView path) 
   return at;
 }
 
-QString slashPath(const Instance& instance) {
-  return instance.parent == nullptr ? QStringLiteral("/") : pathFrom(instance, u'/');
+QString slashPath(const Stage& stage, const Instance& instance) {
+  return instance.parent == nullptr ? QStringLiteral("/") : pathFrom(stage, instance, u'/');
 }
 
-QString dotPath(const Instance& instance) {
-  return QStringLiteral("_level0") + pathFrom(instance, u'.');
+QString dotPath(const Stage& stage, const Instance& instance) {
+  return QStringLiteral("_level0") + pathFrom(stage, instance, u'.');
 }
 
 }  // namespace platform::flash

@@ -15,9 +15,9 @@ class Stage;
 [[nodiscard]] Container* resolveTarget(const Stage& stage, Container* from, QStringView path);
 // The container's child of that name, the one furthest back where there are more.
 [[nodiscard]] Container* childNamed(const Stage& stage, const Container& parent, QStringView name);
-// From the root, as "/a/b"; the root is "/".
-[[nodiscard]] QString slashPath(const Instance& instance);
+// From the root, as "/a/b"; the root is "/". Cut off where it becomes too long for a text.
+[[nodiscard]] QString slashPath(const Stage& stage, const Instance& instance);
 // From the root, as "_level0.a.b".
-[[nodiscard]] QString dotPath(const Instance& instance);
+[[nodiscard]] QString dotPath(const Stage& stage, const Instance& instance);
 
 }  // namespace platform::flash

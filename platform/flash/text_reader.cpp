@@ -21,9 +21,8 @@ Font readGlyphs(ByteReader& body, std::size_t tableAt, const std::vector<std::si
       body.seek(tableAt + offset);
       font.glyphs.back() = readGlyph(body, allowance);
     } catch (const MovieError&) {
-      if (allowance.isSpent()) {
-        throw;
-      }
+      constexpr std::int64_t faultWork = 5000;
+      allowance.work(faultWork);
     }
   }
   return font;
@@ -93,10 +92,14 @@ Text readText(ByteReader& body, bool withAlpha, const ReadContext& context) {
     int count = body.u8();
     BitReader bits(body);
     for (; count > 0; --count) {
+      constexpr std::int64_t glyphWork = 20;
+      context.allowance.work(glyphWork);
       const std::size_t glyph = bits.unsignedBits(glyphBits);
       const double advance = bits.signedBits(advanceBits);
       if (font != nullptr && glyph < font->glyphs.size() && !font->glyphs[glyph].isEmpty()) {
+        constexpr std::int64_t segmentWork = 8;
         context.allowance.spend(sizeof(Text::Glyph));
+        context.allowance.work(segmentWork, font->glyphs[glyph].segments().size());
         const double scale = height / font->unitsPerEm;
         text.glyphs.push_back({&font->glyphs[glyph], QTransform(scale, 0, 0, scale, x, y), color,
                                font->glyphs[glyph].bounds()});

@@ -18,7 +18,9 @@ constexpr double twipsPerPixel = 20;
 // Owns the state of one inflation.
 class Inflater {
  public:
-  Inflater() { valid_ = inflateInit(&stream_) == Z_OK; }
+  explicit Inflater(Allowance& allowance) : allowance_(allowance) {
+    valid_ = inflateInit(&stream_) == Z_OK;
+  }
   ~Inflater() {
     if (valid_) {
       inflateEnd(&stream_);
@@ -28,36 +30,53 @@ class Inflater {
   Inflater& operator=(const Inflater&) = delete;
 
   // Appends what packed holds to out, which grows by no more than most bytes. A stream that is
-  // damaged or breaks off gives what came before.
+  // damaged, breaks off or takes too long gives what came before.
   void append(Bytes packed, std::vector<std::uint8_t>& out, std::size_t most) {
-    constexpr std::size_t step = 64U * 1024U;
-    stream_.next_in = const_cast<Bytef*>(packed.data());  // zlib only reads it
-    stream_.avail_in = static_cast<uInt>(packed.size());
-    int status = valid_ ? Z_OK : Z_MEM_ERROR;
-    while (status == Z_OK && most > 0) {
-      const std::size_t begin = out.size();
-      const std::size_t room = std::min(step, most);
-      out.resize(begin + room);
-      stream_.next_out = out.data() + begin;
-      stream_.avail_out = static_cast<uInt>(room);
-      status = inflate(&stream_, Z_NO_FLUSH);
-      const std::size_t got = room - stream_.avail_out;
-      out.resize(begin + got);
-      most -= got;
-      if (got == 0 && stream_.avail_in == 0) {
-        break;
+    try {
+      while (valid_ && !ended_ && most > 0 && (!packed.empty() || stream_.avail_in > 0)) {
+        most -= step(packed, out, most);
       }
+    } catch (const MovieError&) {
+      // As much as the allowance was good for; the reader finds it spent.
     }
   }
 
  private:
+  // Takes a little of what is packed, which may hold nothing but the descriptions of codes, and
+  // appends what comes of it: so many bytes.
+  std::size_t step(Bytes& packed, std::vector<std::uint8_t>& out, std::size_t most) {
+    constexpr std::size_t mostIn = 4U * 1024U;
+    constexpr std::size_t mostOut = 64U * 1024U;
+    constexpr std::int64_t workPerByteIn = 10;
+    constexpr std::int64_t workPerByteOut = 3;
+    if (stream_.avail_in == 0) {
+      const Bytes part = packed.first(std::min(mostIn, packed.size()));
+      packed = packed.subspan(part.size());
+      allowance_.work(workPerByteIn, part.size());
+      stream_.next_in = const_cast<Bytef*>(part.data());  // zlib only reads it
+      stream_.avail_in = static_cast<uInt>(part.size());
+    }
+    const std::size_t begin = out.size();
+    const std::size_t room = std::min(mostOut, most);
+    out.resize(begin + room);
+    stream_.next_out = out.data() + begin;
+    stream_.avail_out = static_cast<uInt>(room);
+    ended_ = inflate(&stream_, Z_NO_FLUSH) != Z_OK;
+    const std::size_t got = room - stream_.avail_out;
+    out.resize(begin + got);
+    allowance_.work(workPerByteOut, got);
+    return got;
+  }
+
+  Allowance& allowance_;
   z_stream stream_{};
   bool valid_ = false;
+  bool ended_ = false;
 };
 
 }  // namespace
 
-UnpackedFile unpackFile(Bytes file) {
+UnpackedFile unpackFile(Bytes file, Allowance& allowance) {
   ByteReader reader(file);
   UnpackedFile opened;
   const Bytes signature = reader.bytes(3);
@@ -73,7 +92,7 @@ UnpackedFile unpackFile(Bytes file) {
   opened.bytes.reserve(opened.compressed ? length : std::min(length, file.size()));
   opened.bytes.assign(file.begin(), file.begin() + plainHeader);
   if (opened.compressed) {
-    Inflater().append(body, opened.bytes, length - plainHeader);
+    Inflater(allowance).append(body, opened.bytes, length - plainHeader);
   } else {
     const Bytes used = body.first(std::min(body.size(), length - plainHeader));
     opened.bytes.insert(opened.bytes.end(), used.begin(), used.end());

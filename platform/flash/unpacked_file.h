@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "platform/flash/allowance.h"
 #include "platform/flash/byte_reader.h"
 
 namespace platform::flash {
@@ -16,13 +17,13 @@ struct UnpackedFile {
   double frameRate = 0;
   int frameCount = 0;
   // The first eight bytes of the file and, uncompressed, what follows; cut where the file's own
-  // length or a limit ends it, or where a damaged stream breaks off.
+  // length, a limit or the allowance ends it, or where a damaged stream breaks off.
   std::vector<std::uint8_t> bytes;
   std::size_t tagsBegin = 0;
 };
 
 // Throws MovieError when the bytes are no movie: another signature, a header that breaks off, a
 // stage without area or larger than limits::stageEdge.
-[[nodiscard]] UnpackedFile unpackFile(Bytes file);
+[[nodiscard]] UnpackedFile unpackFile(Bytes file, Allowance& allowance);
 
 }  // namespace platform::flash

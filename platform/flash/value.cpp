@@ -1,5 +1,6 @@
 #include "platform/flash/value.h"
 
+#include <QStringView>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -84,7 +85,33 @@ QString numberText(double number) {
   if (std::isinf(number)) {
     return number > 0 ? QStringLiteral("Infinity") : QStringLiteral("-Infinity");
   }
-  return QString::number(number == 0 ? 0 : number, 'g', 15);
+  if (number == 0) {
+    return QStringLiteral("0");
+  }
+  // All digits there are, and where the point belongs: 1.20000000000000e-07.
+  constexpr int mostDigits = 15;
+  constexpr int firstLarge = 15;
+  constexpr int lastSmall = -6;
+  const QString scientific = QString::number(std::abs(number), 'e', mostDigits - 1);
+  const qsizetype mark = scientific.indexOf(u'e');
+  const int exponent = QStringView(scientific).sliced(mark + 1).toInt();
+  QString digits = scientific.left(mark).remove(u'.');
+  while (digits.size() > 1 && digits.back() == u'0') {
+    digits.chop(1);
+  }
+  const QString sign = number < 0 ? QStringLiteral("-") : QString();
+  if (exponent >= firstLarge || exponent <= lastSmall) {
+    const QString point = digits.size() > 1 ? QStringLiteral(".") : QString();
+    return sign + digits.left(1) + point + digits.mid(1) + u'e' +
+           (exponent > 0 ? QStringLiteral("+") : QString()) + QString::number(exponent);
+  }
+  if (exponent < 0) {
+    return sign + QStringLiteral("0.") + QString(-exponent - 1, u'0') + digits;
+  }
+  if (digits.size() <= exponent + 1) {
+    return sign + digits.leftJustified(exponent + 1, u'0');
+  }
+  return sign + digits.left(exponent + 1) + u'.' + digits.mid(exponent + 1);
 }
 
 double toNumber(const Value& value, int version) {

@@ -65,7 +65,8 @@ using Value = std::variant<Undefined, Null, bool, double, QString, ObjectRef, Fu
 // Whether two values are the same after the conversions that "==" makes.
 [[nodiscard]] bool looselyEqual(const Value& left, const Value& right, int version);
 
-// A number as scripts write it: no zeros behind the point, no more than 15 digits.
+// A number as scripts write it: no zeros behind the point, no more than 15 digits, with an exponent
+// from 1e+15 up and below 1e-5.
 [[nodiscard]] QString numberText(double number);
 // The number that a whole text is; NaN where it is none, or in version 4 what it begins with.
 [[nodiscard]] double numberOf(const QString& text, int version);

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QJsonArray>
 #include <cmath>
+#include <cstdio>
 #include <utility>
 
 namespace somme::filmato {
@@ -44,6 +45,10 @@ bool Rappresentazione::esegui(std::shared_ptr<const Movie> filmato, const Copion
     ++passo_;
     std::visit([this](const auto& operazione) { compi(operazione); }, passo.operazione);
     raccontaDopo(passo);
+  }
+  if (lettore_->wasCutOff()) {
+    std::fprintf(stderr,
+                 "The movie takes too much time or memory; it is played as far as it came\n");
   }
   return riuscita_;
 }
@@ -120,10 +125,13 @@ void Rappresentazione::compi(const Scatto& scatto) {
   const Movie& filmato = lettore_->movie();
   QImage immagine(misure(filmato), QImage::Format_RGB32);
   const QPointF angolo = -filmato.stage.topLeft();
-  pittore_.paint(lettore_->scene(),
-                 QTransform::fromTranslate(angolo.x(), angolo.y()) *
-                     QTransform::fromScale(1 / twipPerPixel, 1 / twipPerPixel),
-                 filmato.background, immagine);
+  const bool intera = pittore_.paint(lettore_->scene(),
+                                     QTransform::fromTranslate(angolo.x(), angolo.y()) *
+                                         QTransform::fromScale(1 / twipPerPixel, 1 / twipPerPixel),
+                                     filmato.background, immagine);
+  if (!intera) {
+    lettore_->halt();
+  }
   const QString file = QDir(cartella_).filePath(
       QStringLiteral("%1-%2.png").arg(nomeDiFile(nome_), nomeDiFile(scatto.nome)));
   riuscita_ = immagine.save(file, "PNG") && riuscita_;

@@ -1,50 +1,19 @@
 // Files that are damaged or mean ill: whatever they claim, reading and playing them ends soon and
 // takes little memory.
 
-#include <malloc.h>
-#include <zlib.h>
-
 #include <QImage>
 #include <QTest>
-#include <ctime>
-#include <fstream>
-#include <string>
 
-#include "hand_made.h"
+#include "costly.h"
 #include "platform/flash/limits.h"
 #include "platform/flash/player.h"
 #include "platform/flash/renderer.h"
+#include "step_cost.h"
 
-using namespace hand_made;
+using namespace costly;
 using namespace platform::flash;
 
 namespace {
-
-// Generous, so that sanitizers and busy machines pass; what goes wrong takes far longer.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr std::clock_t longest = 15'000;
-constexpr long mostMegabytes = 1'000;
-#else
-constexpr std::clock_t longest = 1'000;
-constexpr long mostMegabytes = 64;
-#endif
-
-// The most that the process has held in memory since the last forgetPeak(), in megabytes.
-long peakMegabytes() {
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  long kilobytes = 0;
-  while (status >> word) {
-    if (word == "VmHWM:") {
-      status >> kilobytes;
-    }
-  }
-  return kilobytes / 1024;
-}
-
-void forgetPeak() {
-  std::ofstream("/proc/self/clear_refs") << "5";
-}
 
 // Reads the movie, plays it a little and draws it.
 void use(const QByteArray& bytes, int ticks = 1) {
@@ -61,29 +30,6 @@ void use(const QByteArray& bytes, int ticks = 1) {
   } catch (const MovieError&) {
     // No movie at all.
   }
-}
-
-QByteArray repeated(const QByteArray& bytes, qsizetype times) {
-  QByteArray all;
-  all.reserve(bytes.size() * times);
-  for (qsizetype i = 0; i < times; ++i) {
-    all += bytes;
-  }
-  return all;
-}
-
-// Packs body as a movie that claims to be as long as it likes.
-QByteArray packed(const QByteArray& body, std::uint32_t claimed) {
-  uLongf size = compressBound(uLong(body.size()));
-  QByteArray out(qsizetype(size), '\0');
-  compress(reinterpret_cast<Bytef*>(out.data()), &size,
-           reinterpret_cast<const Bytef*>(body.constData()), uLong(body.size()));
-  out.truncate(qsizetype(size));
-  return QByteArray("CWS") + u8(6) + u32(claimed) + out;
-}
-
-QByteArray header() {
-  return rect(0, 2000, 0, 2000) + u8(0) + u8(12) + u16(1);
 }
 
 // A sprite of 16 of the one before, again and again: 16 to the 15th instances.
@@ -158,11 +104,6 @@ QByteArray enlarged(unsigned id, int times) {
   return tag(26, u8(6) + u16(1) + u16(id) + matrix.bytes());
 }
 
-// Actions that are done again and again.
-QByteArray forEver(const QByteArray& actions) {
-  return actions + action(0x99, u16(0x10000U - unsigned(actions.size()) - 5));
-}
-
 QByteArray longText(char letter, qsizetype length) {
   return QByteArray(length, letter);
 }
@@ -188,17 +129,10 @@ QByteArray keep(const QByteArray& value) {
 // Runs it and tells what it took.
 template <typename Run>
 void checkCost(Run run) {
-  malloc_trim(0);  // what the tests before have left behind must not hide what this one takes
-  forgetPeak();
-  const long before = peakMegabytes();
-  const std::clock_t begin = std::clock();
-  run();
-  // The processor's time: the machine may have other things to do.
-  const std::clock_t milliseconds = (std::clock() - begin) * 1000 / CLOCKS_PER_SEC;
-  const long megabytes = peakMegabytes() - before;
-  QVERIFY2(milliseconds < longest, qPrintable(QString::number(milliseconds)));
-  QVERIFY2(megabytes <= mostMegabytes, qPrintable(QString::number(megabytes)));
-  qInfo("%ld ms, %ld MB", long(milliseconds), megabytes);
+  const step_cost::Cost cost = step_cost::costOf(run);
+  QVERIFY2(cost.milliseconds < step_cost::longest, qPrintable(QString::number(cost.milliseconds)));
+  QVERIFY2(cost.megabytes <= step_cost::most, qPrintable(QString::number(cost.megabytes)));
+  qInfo("%ld ms, %ld MB", cost.milliseconds, cost.megabytes);
 }
 
 }  // namespace

@@ -110,6 +110,19 @@ class InterpreterTest : public QObject {
     QTest::newRow("third") << 1.0 / 3 << "0.333333333333333";
     QTest::newRow("minus zero") << -0.0 << "0";
     QTest::newRow("large") << 123456789012.0 << "123456789012";
+    QTest::newRow("fifteen digits") << -123456789012345.0 << "-123456789012345";
+    QTest::newRow("more than fifteen digits") << 1234567890123456.0 << "1.23456789012346e+15";
+    QTest::newRow("from here with an exponent") << 1e15 << "1e+15";
+    QTest::newRow("nearly there") << 999999999999999.9 << "1e+15";
+    QTest::newRow("very large") << -1.5e300 << "-1.5e+300";
+    QTest::newRow("zeros before the point") << 1200.0 << "1200";
+    QTest::newRow("on both sides of the point") << -12.5 << "-12.5";
+    QTest::newRow("small") << 0.00001 << "0.00001";
+    QTest::newRow("small with digits") << -0.000012345 << "-0.000012345";
+    QTest::newRow("below here with an exponent") << 0.000009 << "9e-6";
+    QTest::newRow("very small") << 1e-7 << "1e-7";
+    QTest::newRow("very small with digits") << 1.25e-10 << "1.25e-10";
+    QTest::newRow("smallest") << 5e-324 << "4.94065645841247e-324";
     QTest::newRow("none") << std::numeric_limits<double>::quiet_NaN() << "NaN";
     QTest::newRow("infinite") << -std::numeric_limits<double>::infinity() << "-Infinity";
   }
@@ -163,8 +176,16 @@ class InterpreterTest : public QObject {
   }
 
   void anArgumentThatIsMissingIsEmptyInAnyVersion() {
-    QCOMPARE(toldBy(pushText("FSCommand:c") + pushUndefined() + action(0x9A, u8(0)), 7),
-             QStringList{QStringLiteral("c ")});
+    for (const int version : {5, 6, 7}) {
+      QCOMPARE(toldBy(pushText("FSCommand:c") + action(0x9A, u8(0)), version),
+               QStringList{QStringLiteral("c ")});
+    }
+  }
+
+  void anArgumentThatIsUndefinedIsTheWordOfItsVersion() {
+    const QByteArray undefined = pushText("FSCommand:c") + pushUndefined() + action(0x9A, u8(0));
+    QCOMPARE(toldBy(undefined, 6), QStringList{QStringLiteral("c ")});
+    QCOMPARE(toldBy(undefined, 7), QStringList{QStringLiteral("c undefined")});
   }
 
   void otherAddressesAreIgnored() {

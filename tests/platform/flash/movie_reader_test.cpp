@@ -49,6 +49,16 @@ class MovieReaderTest : public QObject {
     QVERIFY(read->faults.empty());
   }
 
+  void theFirstBackgroundHoldsAndLaterOnesMeanNothing() {
+    const auto background = [](unsigned red) { return tag(9, u8(red) + u8(2) + u8(3)); };
+    QCOMPARE(movie(file(showFrame()))->background, qRgb(255, 255, 255));
+    QCOMPARE(movie(file(background(1) + showFrame() + background(7) + showFrame()))->background,
+             qRgb(1, 2, 3));
+    QCOMPARE(movie(file(showFrame() + background(9) + showFrame()))->background, qRgb(9, 2, 3));
+    // One that cannot be read is none.
+    QCOMPARE(movie(file(tag(9, u8(5)) + background(1) + showFrame()))->background, qRgb(1, 2, 3));
+  }
+
   void aPackedMovieIsTheSameMovie() {
     const QByteArray plain = file(square(1, 10, 0xFF0000) + place(1, 1) + showFrame() + end(), 6);
     const auto read = movie(packed(plain));

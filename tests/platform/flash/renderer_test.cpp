@@ -284,27 +284,63 @@ class RendererTest : public QObject {
     QCOMPARE(image.pixel(2, 10), white);
   }
 
-  void aWideLineSqueezedOneWayKeepsItsWidthTheOtherWay() {
-    // Down the middle, four pixels wide: squeezed to a fiftieth, it is a dash of four pixels.
+  void aLineInAnUnevenScaleIsAsWideInAllDirections_data() {
+    QTest::addColumn<QString>("scaleX");
+    QTest::addColumn<QString>("scaleY");
+    QTest::newRow("squeezed") << "100"
+                              << "25";
+    QTest::newRow("mirrored") << "-100"
+                              << "25";
+    QTest::newRow("stretched") << "200"
+                               << "12.5";
+    QTest::newRow("the other way") << "25"
+                                   << "100";
+  }
+  void aLineInAnUnevenScaleIsAsWideInAllDirections() {
+    // A cross, eight pixels wide; the root of what is left of an area makes it four pixels.
+    QFETCH(QString, scaleX);
+    QFETCH(QString, scaleY);
     Bits records;
     records.raw("0010 0001");
-    begin(records, 0, 0, 1, 200, 0);
-    edge(records, 0, 200).raw("000000");
-    const QByteArray line = shape(2, u8(0) + u8(1) + u16(80) + u8(0) + u8(0) + u8(0), records);
-    for (const char* scaleY : {"2", "-2"}) {
-      Player player(movie(file(line + sprite(2, place(1, 1) + showFrame()) +
-                                   place(1, 2, 0, 10, "line") + showFrame(),
-                               6, 20, 20)),
-                    [](auto&&...) {});
-      player.setProperty(QStringLiteral("line"), 3, QString::fromLatin1(scaleY));
-      const QImage image = picture(player);
-      const int row = scaleY[0] == '-' ? 9 : 10;
-      QVERIFY(qRed(image.pixel(8, row)) < 225);
-      QVERIFY(qRed(image.pixel(11, row)) < 225);
-      QVERIFY(qRed(image.pixel(10, row)) < 160);
-      QCOMPARE(image.pixel(5, row), white);
-      QCOMPARE(image.pixel(14, row), white);
+    begin(records, 0, 0, 1, -2000, 0);
+    edge(records, 4000, 0);
+    begin(records, 0, 0, 1, 0, -2000);
+    edge(records, 0, 4000).raw("000000");
+    const QByteArray line = shape(2, u8(0) + u8(1) + u16(160) + u8(0) + u8(0) + u8(0), records);
+    Player player(movie(file(line + sprite(2, place(1, 1) + showFrame()) +
+                                 place(1, 2, 10, 10, "line") + showFrame(),
+                             6, 20, 20)),
+                  [](auto&&...) {});
+    player.setProperty(QStringLiteral("line"), 2, scaleX);
+    player.setProperty(QStringLiteral("line"), 3, scaleY);
+    const QImage image = picture(player);
+    const double area = std::abs(scaleX.toDouble() * scaleY.toDouble()) / 10'000;
+    double across = 0;
+    double down = 0;
+    for (int i = 0; i < 20; ++i) {
+      across += (255 - qRed(image.pixel(2, i))) / 255.0;
+      down += (255 - qRed(image.pixel(i, 2))) / 255.0;
     }
+    const double expected = 8 * std::sqrt(area);
+    QVERIFY2(std::abs(across - expected) < 0.15, qPrintable(QString::number(across)));
+    QVERIFY2(std::abs(down - expected) < 0.15, qPrintable(QString::number(down)));
+  }
+
+  void whatALineInAnUnevenScaleCoversIsPaintedAnew() {
+    Bits records;
+    records.raw("0010 0001");
+    begin(records, 0, 0, 1, 0, 0);
+    edge(records, 0, 200).raw("000000");
+    const QByteArray line = shape(2, u8(0) + u8(1) + u16(160) + u8(0) + u8(0) + u8(0), records);
+    Player player(movie(file(line + sprite(2, place(1, 1) + showFrame()) +
+                                 place(1, 2, 10, 0, "line") + showFrame(),
+                             6, 20, 20)),
+                  [](auto&&...) {});
+    player.setProperty(QStringLiteral("line"), 2, QStringLiteral("1"));
+    player.setProperty(QStringLiteral("line"), 3, QStringLiteral("400"));
+    // Eight pixels by the root of 0.04 are 1.6, to both sides of x 10.
+    const QRectF place = player.scene().items.front().bounds;
+    QVERIFY(place.left() <= 200 - 15.9 && place.right() >= 200 + 15.9);
   }
 
   void linesWithCapsOfTheirOwnAreReadFromTheFourthShape() {

@@ -54,7 +54,7 @@ class ScriptScopeTest : public QObject {
   void namesIgnoreCaseUpToVersionSixOnly() {
     const QByteArray script = setVariable("Beads", pushNumber(3)) + say(getVariable("bEADS"));
     QCOMPARE(toldBy(script, 6), QStringList{QStringLiteral("say 3")});
-    QCOMPARE(toldBy(script, 7), QStringList{QStringLiteral("say ")});
+    QCOMPARE(toldBy(script, 7), QStringList{QStringLiteral("say undefined")});
   }
 
   void propertiesAreReadAndSetByNumberByNameAndByMember() {
@@ -168,6 +168,71 @@ class ScriptScopeTest : public QObject {
                     pushText("f") + op(0x3D) + tell("after")),
              QStringList{QStringLiteral("after ")});
     QVERIFY(timer.elapsed() < 5000);
+  }
+
+  void functionsMayCallThemselves256LevelsDeep() {
+    const QByteArray deeper =
+        setVariable("n", getVariable("n") + op(0x50)) + pushNumber(0) + pushText("f") + op(0x3D);
+    QCOMPARE(toldBy(setVariable("n", pushNumber(0)) + function("f", {}, deeper) + pushNumber(0) +
+                    pushText("f") + op(0x3D) + say(getVariable("n"))),
+             QStringList{QStringLiteral("say 256")});
+  }
+
+  void anUnloadHandlerKnowsItsClipItsVariablesItsParentAndTheRoot() {
+    // As a handler of the clip, and as a function that the clip holds.
+    const QByteArray telling = say(getVariable("_name")) + say(getVariable("n")) +
+                               say(getMember(getVariable("this"), "n")) +
+                               say(getVariable("_parent._name")) + say(getVariable("_root.m")) +
+                               setVariable("n", pushNumber(4)) + say(getVariable("n")) +
+                               action(0x81, u16(1));
+    const QByteArray handler = telling + u8(0);
+    const QByteArray placed =
+        tag(26, u8(0xA6) + u16(1) + u16(1) + shift(0, 0) + text("c") + u16(0) + u32(4) + u32(4) +
+                    u32(std::uint32_t(handler.size())) + handler + u32(0));
+    const QByteArray variables =
+        setVariable("m", pushNumber(2)) + setVariable("outer.c.n", pushNumber(3));
+    for (const bool asFunction : {false, true}) {
+      const QByteArray functionOf =
+          pushText("outer.c.onUnload") + function("", {}, telling) + op(0x1D);
+      QStringList told;
+      Player player(
+          movie(file(sprite(1, showFrame() + showFrame(), 2) +
+                         sprite(2, (asFunction ? place(1, 1, 0, 0, "c") : placed) + showFrame()) +
+                         place(1, 2, 0, 0, "outer") +
+                         doAction(variables + (asFunction ? functionOf : QByteArray())) +
+                         showFrame() + remove(1) + showFrame(),
+                     6, 100, 100, 2)),
+          [&](const QString&, const QString& args) { told << args; });
+      player.tick();
+      // A function was made on behalf of the root, and finds its clip by "this" alone.
+      const QStringList ofHandler{QStringLiteral("c"), QStringLiteral("3"),
+                                  QStringLiteral("3"), QStringLiteral("outer"),
+                                  QStringLiteral("2"), QStringLiteral("4")};
+      if (asFunction) {
+        QCOMPARE(told.value(2), QStringLiteral("3"));
+        QCOMPARE(told.value(4), QStringLiteral("2"));
+      } else {
+        QCOMPARE(told, ofHandler);
+      }
+      QCOMPARE(player.property(QStringLiteral("outer"), 0), QString());
+    }
+  }
+
+  void anUnloadHandlerThatPlacesAndMovesThingsLeavesNothingBehind() {
+    const QByteArray handler = action(0x81, u16(1)) + setVariable("_root.c._x", pushNumber(1)) +
+                               setVariable("v", pushText("x")) + u8(0);
+    const QByteArray placed =
+        tag(26, u8(0xA6) + u16(1) + u16(2) + shift(0, 0) + text("c") + u16(0) + u32(4) + u32(4) +
+                    u32(std::uint32_t(handler.size())) + handler + u32(0));
+    Player player(
+        movie(file(sprite(1, showFrame()) +
+                       sprite(2, showFrame() + place(5, 1, 0, 0, "new") + showFrame(), 2) + placed +
+                       showFrame() + remove(1) + showFrame(),
+                   6, 100, 100, 2)),
+        [](auto&&...) {});
+    for (int i = 0; i < 6; ++i) player.tick();
+    QCOMPARE(player.currentFrame(), 1);
+    QCOMPARE(player.property(QStringLiteral("c/new"), 0), QString());
   }
 
   void anEndlessLoopEndsWithTheWorkOfItsTick() {
