@@ -1,9 +1,15 @@
 #include "platform/devices/pdf_folder.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <QUuid>
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 
 #include "platform/base/paper_codes.h"
 
@@ -24,6 +30,35 @@ QString asFileName(QString title) {
   title.truncate(kLongestTitle);
   while (title.startsWith(u'.')) title.remove(0, 1);
   return title.isEmpty() ? QStringLiteral("PDF") : title;
+}
+
+enum class Naming { Done, Taken, Failed };
+
+// One call of the system that neither replaces what has the name already nor follows a link: what
+// was looked at before may be another by now.
+Naming giveName(const QString& part, const QString& whole) {
+  const QByteArray from = QFile::encodeName(part);
+  const QByteArray to = QFile::encodeName(whole);
+  if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0) {
+    return Naming::Done;
+  }
+  // A file system that knows no such renaming may give a file a second name.
+  if (errno != EEXIST && ::link(from.constData(), to.constData()) == 0) {
+    ::unlink(from.constData());
+    return Naming::Done;
+  }
+  return errno == EEXIST ? Naming::Taken : Naming::Failed;
+}
+
+// Creates the file, which must not be there, and brings its bytes to the disk.
+bool writeWhole(QFile& file, const QByteArray& bytes) {
+  if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return false;
+  const bool written =
+      file.write(bytes) == bytes.size() && file.flush() && ::fsync(file.handle()) == 0;
+  file.close();
+  if (written && file.error() == QFileDevice::NoError) return true;
+  file.remove();
+  return false;
 }
 
 }  // namespace
@@ -55,24 +90,21 @@ PrintResult PdfFolder::print(const PrintJob& job) {
   return result;
 }
 
-// The file gets its name when it is whole; the rename does not replace one that is there.
+// The file gets its name when it is whole and on the disk.
 bool PdfFolder::writeInto(const QString& folder, const QString& name,
                           const QByteArray& pages) const {
   const QDir directory(folder);
   if (!directory.exists()) return false;
-  for (int i = 1; i <= kMostOfOneName; ++i) {
+  QFile part(directory.filePath(
+      QStringLiteral(".%1.part").arg(QUuid::createUuid().toString(QUuid::WithoutBraces))));
+  if (!writeWhole(part, pages)) return false;
+  Naming naming = Naming::Taken;
+  for (int i = 1; i <= kMostOfOneName && naming == Naming::Taken; ++i) {
     const QString base = i == 1 ? name : QStringLiteral("%1 (%2)").arg(name).arg(i);
-    const QString whole = directory.filePath(base + QStringLiteral(".pdf"));
-    QFile part(directory.filePath(u'.' + base + QStringLiteral(".part")));
-    if (QFile::exists(whole) || part.exists()) continue;
-    if (!part.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return false;
-    const bool written = part.write(pages) == pages.size() && part.flush();
-    part.close();
-    if (written && part.error() == QFileDevice::NoError && part.rename(whole)) return true;
-    part.remove();
-    if (!QFile::exists(whole)) return false;
+    naming = giveName(part.fileName(), directory.filePath(base + QStringLiteral(".pdf")));
   }
-  return false;
+  if (naming != Naming::Done) part.remove();
+  return naming == Naming::Done;
 }
 
 }  // namespace platform
