@@ -6,7 +6,6 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/modulo_navigate.h"
 #include "app/shared/nomi_forme.h"
-#include "platform/base/files_in_folder.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
@@ -151,21 +150,20 @@ void FormMenu::onActivate() {
 }
 
 void FormMenu::MLSFillMenuLanguages() {
-  const QString estensione = QStringLiteral(".lng");
-  const QStringList file = platform::filesInFolder(ambiente().servizi.cartella, estensione);
-  if (file.isEmpty()) {
+  const QStringList lingue = LingueNellaCartella(ambiente());
+  if (lingue.isEmpty()) {
     ambiente().fondo.showBox({QStringLiteral("Non è presente alcun file di linguaggio!")});
     return;
   }
-  for (int i = 0; i < file.size(); ++i) {
+  for (int i = 0; i < lingue.size(); ++i) {
     if (i > 0) {
       mnuLanguage.load(i).setVisible(true);
       mnuLanguage[i].onClick([this, i] { ScegliLingua(i); });
     }
-    mnuLanguage[i].setCaption(file[i].chopped(estensione.size()));
+    mnuLanguage[i].setCaption(lingue[i]);
   }
   stato().LinguaCorrente = LinguaScelta(ambiente());
-  for (int i = 0; i < file.size(); ++i) {
+  for (int i = 0; i < lingue.size(); ++i) {
     if (mnuLanguage[i].caption() != stato().LinguaCorrente) continue;
     mnuLanguage[i].setChecked(true);
     return;
@@ -213,16 +211,20 @@ void FormMenu::ScriviTempo() {
       QStringLiteral(" secondi"));
 }
 
-// Every form now loaded changes its language, hidden ones too.
+// Every form now loaded changes its language, hidden ones too. Events run between: of two choices
+// the later one holds, on the forms, in the file and in the mark.
 void FormMenu::ScegliLingua(int indice) {
   mnuLanguage.forEach([](platform::MenuItem& voce) { voce.setChecked(false); });
   mnuLanguage[indice].setChecked(true);
   const QString lingua = mnuLanguage[indice].caption();
   stato().LinguaCorrente = lingua;
   // Also when this form is left while the language is being applied, which unwinds from here.
-  const auto scrivi = qScopeGuard([&] { ScriviLinguaScelta(ambiente(), lingua); });
+  const auto vale = [&] { return stato().LinguaCorrente == lingua; };
+  const auto scrivi = qScopeGuard([&] {
+    if (vale()) ScriviLinguaScelta(ambiente(), lingua);
+  });
   for (const std::shared_ptr<platform::Form>& forma : ambiente().fondo.forms().all()) {
-    ApplicaLingua(ambiente(), *forma);
+    if (vale()) ApplicaLingua(ambiente(), *forma);
   }
 }
 

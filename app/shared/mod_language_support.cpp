@@ -1,8 +1,11 @@
 #include "app/shared/mod_language_support.h"
 
 #include <QDir>
+#include <QFile>
+#include <algorithm>
 
 #include "app/shared/ambiente.h"
+#include "platform/base/files_in_folder.h"
 #include "platform/base/profile_file.h"
 #include "platform/base/run_time_error.h"
 #include "platform/forms/form.h"
@@ -24,10 +27,19 @@ void IgnoraErrori(const Passo& passo) {
   }
 }
 
+const QString kEstensione = QStringLiteral(".lng");
+
 QString FileLingua(const Ambiente& ambiente) {
-  QString percorso = ambiente.servizi.cartella;
-  if (!percorso.endsWith(u'/')) percorso += u'/';
-  return percorso + ambiente.stato.LinguaCorrente + QStringLiteral(".lng");
+  QString cartella = ambiente.servizi.cartella;
+  if (!cartella.endsWith(u'/')) cartella += u'/';
+  const QString usuale = cartella + ambiente.stato.LinguaCorrente + kEstensione;
+  if (QFile::exists(usuale)) return usuale;
+  // ".LNG", as disks from elsewhere have it.
+  const QStringList file = platform::filesInFolder(cartella, kEstensione);
+  const auto trovato = std::find_if(file.begin(), file.end(), [&](const QString& nome) {
+    return nome.chopped(kEstensione.size()) == ambiente.stato.LinguaCorrente;
+  });
+  return trovato == file.end() ? usuale : cartella + *trovato;
 }
 
 const QString kFileImpostazioni = QStringLiteral("/LangSetting.ini");
@@ -67,6 +79,13 @@ void ApplicaAlControllo(Ambiente& ambiente, const QString& file, platform::Form&
 
 }  // namespace
 
+QStringList LingueNellaCartella(const Ambiente& ambiente) {
+  QStringList lingue = platform::filesInFolder(ambiente.servizi.cartella, kEstensione);
+  for (QString& lingua : lingue) lingua.chop(kEstensione.size());
+  lingue.removeDuplicates();
+  return lingue;
+}
+
 QString LeggiChiave(Ambiente& ambiente, const QString& file, const QString& sezione,
                     const QString& chiave) {
   return ambiente.profili.read(file, sezione, chiave);
@@ -105,6 +124,7 @@ QString TestoLingua(Ambiente& ambiente, const QString& chiave) {
 }
 
 void ApplicaLingua(Ambiente& ambiente, platform::Form& form) {
+  const QString lingua = ambiente.stato.LinguaCorrente;
   const QString file = FileLingua(ambiente);
   // The caption and the tag are set also when the file has no text for them: it blanks them.
   if (!form.caption().isEmpty()) {
@@ -121,6 +141,7 @@ void ApplicaLingua(Ambiente& ambiente, platform::Form& form) {
   for (platform::Control* controllo : controlli) {
     ApplicaAlControllo(ambiente, file, form, *controllo);
     form.letEventsRun();
+    if (ambiente.stato.LinguaCorrente != lingua) return;
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace platform {
 class Form;
@@ -12,7 +13,10 @@ namespace somme {
 class Ambiente;
 
 // The language files: profile files "<language>.lng" in the program's folder, with a section for
-// each form and the section "Strings" for what the code composes.
+// each form and the section "Strings" for what the code composes. ".lng" in any case of letters.
+
+// The languages that there are, by the names of their files, sorted without case; each once.
+[[nodiscard]] QStringList LingueNellaCartella(const Ambiente& ambiente);
 
 // A value of a profile file; empty where the key is absent. Throws RunTimeError(FileNotFound) for a
 // file that does not exist.
@@ -27,7 +31,8 @@ void ScriviChiave(const QString& file, const QString& sezione, const QString& ch
 [[nodiscard]] QString TestoLingua(Ambiente& ambiente, const QString& chiave);
 
 // Puts the current language on a form and all its controls: captions, tool tips and tags. A failing
-// read leaves its text as it is. Lets events run after each control.
+// read leaves its text as it is. Lets events run after each control; where another language is
+// chosen in them, that one has been put on the form meanwhile, and no more is done here.
 void ApplicaLingua(Ambiente& ambiente, platform::Form& form);
 
 // The language written in LangSetting.ini. Where the one in the program's folder cannot be written,

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-// The names of the files in a folder that end with the suffix (".lng", matched with case, since the
-// name is put together again from its stem and the suffix), without hidden ones and folders.
+// The names of the files in a folder that end with the suffix (".lng", matched without case),
+// without hidden ones and folders, and without those whose bytes are no text to this system.
 // Sorted by name without case; names that differ in case only, by their code points. Empty where
 // there is no such folder.
 [[nodiscard]] QStringList filesInFolder(const QString& folder, const QString& suffix);

@@ -46,6 +46,14 @@ class LinguaDelMenuTest : public QObject {
     });
     return nomi;
   }
+  // What of the language stands on a form.
+  static QStringList testi(const platform::Form& forma) {
+    QStringList tutti{forma.caption()};
+    for (const platform::Control* controllo : forma.controls()) {
+      tutti.append(controllo->name() + u'=' + controllo->caption() + u'|' + controllo->toolTip());
+    }
+    return tutti;
+  }
   static void togli(const Banco& banco, const QString& nome) {
     QVERIFY(QFile::remove(banco.percorso(nome)));
   }
@@ -119,6 +127,60 @@ class LinguaDelMenuTest : public QObject {
              QByteArray("[Language] CurrentLanguage=English"));
   }
 
+  void ofTwoChoicesWithinOneApplicationTheLaterOneHolds_data() {
+    QTest::addColumn<int>("passi");  // yields of the first one before the second is made
+    QTest::newRow("at its beginning") << 1;
+    QTest::newRow("on its way") << 12;
+    QTest::newRow("at its end") << 33;
+  }
+  void ofTwoChoicesWithinOneApplicationTheLaterOneHolds() {
+    QFETCH(int, passi);
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    auto& avvio = static_cast<somme::FormAvvio&>(
+        banco.ambiente->fondo.forms().loaded(somme::forme::kFormAvvio));
+    int fatti = 0;
+    std::function<void()> passo = [&] {
+      if (++fatti < passi) {
+        banco.tempo.after(0, passo);
+      } else if (fatti == passi) {
+        scegli(voce(menu, QStringLiteral("Français")));
+      }
+    };
+    banco.tempo.after(0, passo);
+    scegli(inglese(menu));
+    QCOMPARE(fatti, passi);
+    QCOMPARE(banco.ambiente->stato.LinguaCorrente, QStringLiteral("Français"));
+    QCOMPARE(segnate(menu), QStringList{QStringLiteral("Français")});
+    QCOMPARE(leggi(banco, QStringLiteral("LangSetting.ini")).simplified(),
+             QByteArray("[Language] CurrentLanguage=Français"));
+    // As where nothing else was ever chosen.
+    Banco solo;
+    FormMenu& altro = apri(solo);
+    auto& altroAvvio = static_cast<somme::FormAvvio&>(
+        solo.ambiente->fondo.forms().loaded(somme::forme::kFormAvvio));
+    scegli(voce(altro, QStringLiteral("Français")));
+    QCOMPARE(testi(menu), testi(altro));
+    QCOMPARE(testi(avvio), testi(altroAvvio));
+  }
+
+  void whoComesBackToTheFirstOfThreeLanguagesHasIt() {
+    Banco banco;
+    FormMenu& menu = apri(banco);
+    banco.tempo.after(0, [&] {
+      banco.tempo.after(0, [&] { scegli(inglese(menu)); });
+      scegli(voce(menu, QStringLiteral("Deutsch")));
+    });
+    scegli(inglese(menu));
+    Banco solo;
+    FormMenu& altro = apri(solo);
+    scegli(inglese(altro));
+    QCOMPARE(testi(menu), testi(altro));
+    QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
+    QCOMPARE(leggi(banco, QStringLiteral("LangSetting.ini")).simplified(),
+             QByteArray("[Language] CurrentLanguage=English"));
+  }
+
   void theNextRunStartsInTheChosenLanguage() {
     Banco banco;
     scegli(inglese(apri(banco)));
@@ -167,6 +229,33 @@ class LinguaDelMenuTest : public QObject {
     QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
     // The form's own caption is set also where the file has none.
     QCOMPARE(menu.caption(), QString());
+  }
+
+  void aFileWhoseExtensionIsInOtherLettersIsALanguageToo_data() {
+    QTest::addColumn<QString>("estensione");
+    for (const char* una : {"LNG", "Lng", "lnG"}) QTest::newRow(una) << QString::fromLatin1(una);
+  }
+  void aFileWhoseExtensionIsInOtherLettersIsALanguageToo() {
+    QFETCH(QString, estensione);
+    Banco banco;
+    banco.metti(QStringLiteral("Semplice.") + estensione,
+                "[FormMenu]\nCommand1.Caption=\"Via\"\n[Strings]\n0003=\"Bravo\"\n");
+    FormMenu& menu = apri(banco);
+    scegli(voce(menu, QStringLiteral("Semplice")));
+    QCOMPARE(menu.Command1.caption(), QStringLiteral("Via"));
+    QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")), QStringLiteral("Bravo"));
+    QCOMPARE(segnate(menu), QStringList{QStringLiteral("Semplice")});
+  }
+
+  void aLanguageThatIsThereInTwoSpellingsOfItsExtensionStandsOnceInTheMenu() {
+    Banco banco;
+    banco.metti(QStringLiteral("English.LNG"), "[FormMenu]\nCommand1.Caption=\"Other\"\n");
+    FormMenu& menu = apri(banco);
+    QStringList nomi;
+    menu.mnuLanguage.forEach([&nomi](platform::MenuItem& una) { nomi.append(una.caption()); });
+    QCOMPARE(nomi.count(QStringLiteral("English")), 1);
+    scegli(inglese(menu));
+    QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
   }
 
   void namesAreComparedExactly() {

@@ -1,5 +1,8 @@
 #include "platform/base/files_in_folder.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -9,7 +12,7 @@ class FilesInFolderTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void theFilesOfTheSuffixComeSortedWithoutCase() {
+  void theFilesOfTheSuffixInAnyCaseComeSortedWithoutCase() {
     const QTemporaryDir folder;
     for (const char* name :
          {"italiano.lng", "English.lng", "Due parole.lng", "Zulu.lng", "abc.lng",
@@ -20,8 +23,21 @@ class FilesInFolderTest : public QObject {
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.lng")));
     QCOMPARE(platform::filesInFolder(folder.path(), QStringLiteral(".lng")),
              QStringList({QStringLiteral("abc.lng"), QStringLiteral("Due parole.lng"),
-                          QStringLiteral("English.lng"), QStringLiteral("Italiano.lng"),
-                          QStringLiteral("italiano.lng"), QStringLiteral("Zulu.lng")}));
+                          QStringLiteral("English.lng"), QStringLiteral("ITALIANO.LNG"),
+                          QStringLiteral("Italiano.lng"), QStringLiteral("italiano.lng"),
+                          QStringLiteral("Zulu.lng")}));
+  }
+
+  void aNameThatIsNoTextIsLeftOut() {
+    const QTemporaryDir folder;
+    const QByteArray path = QFile::encodeName(folder.path()) +
+                            "/Fran\xe7"
+                            "ais.lng";
+    const int descriptor = ::creat(path.constData(), 0600);
+    QVERIFY(descriptor >= 0);
+    ::close(descriptor);
+    QVERIFY(platform::filesInFolder(folder.path(), QStringLiteral(".lng")).isEmpty());
+    QCOMPARE(::unlink(path.constData()), 0);
   }
 
   void aFolderThatIsNotThereHasNoFiles() {
