@@ -1,5 +1,6 @@
 #include "input/collegamento_helpikeys.h"
 
+#include <QScopeGuard>
 #include <utility>
 
 #include "app/shared/ambiente.h"
@@ -53,8 +54,7 @@ void CollegamentoHelpiKeys::Arrivo() {
     case SegnaliHelpiKeys::Tipo::Nulla:
       break;
     case SegnaliHelpiKeys::Tipo::Pronta:
-      ambiente_.fondo.showBox({ambiente_.stringhe.MessaggioHelpiKeys, TitoloProgramma(),
-                               platform::BoxIcon::Information, platform::BoxButtons::Ok});
+      DiciPronta();
       break;
     case SegnaliHelpiKeys::Tipo::Tocco:
       if (const int tasto = DecodificaSegnali(segnale.cella.colonna, segnale.cella.riga)) {
@@ -62,6 +62,14 @@ void CollegamentoHelpiKeys::Arrivo() {
       }
       break;
   }
+}
+
+// The other side may say OK as often as it likes: who has one box to close gets no second one.
+void CollegamentoHelpiKeys::DiciPronta() {
+  if (std::exchange(detta_, true)) return;
+  const auto chiusa = qScopeGuard([this] { detta_ = false; });
+  ambiente_.fondo.showBox({ambiente_.stringhe.MessaggioHelpiKeys, TitoloProgramma(),
+                           platform::BoxIcon::Information, platform::BoxButtons::Ok});
 }
 
 }  // namespace somme

@@ -46,12 +46,14 @@ class CollegamentoHelpiKeys {
   platform::Socket& CreaPresa();
   void Manda(const QByteArray& richiesta);
   void Arrivo();
+  void DiciPronta();
 
   Ambiente& ambiente_;
   Prese& prese_;
   const MappaTasti& mappa_;
   Azione interpreta_;
   SegnaliHelpiKeys segnali_;
+  bool detta_ = false;  // while the box of an "OK" stands
 };
 
 }  // namespace somme

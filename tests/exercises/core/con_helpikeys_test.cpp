@@ -114,6 +114,29 @@ class ConHelpiKeysTest : public QObject {
     QVERIFY(!scena.rete.collegata());
   }
 
+  void howeverOftenHelpiKeysSaysOkThereIsOneBoxAtATime() {
+    Scena scena;
+    FormDiProva& forma = scena.apri();
+    int aperti = 0;
+    int insieme = 0;
+    scena.messaggi.mentreAperto = [&] {
+      insieme = std::max(insieme, ++aperti);
+      for (int i = 0; aperti == 1 && i < 1000; ++i) scena.rete.manda("OK");
+      --aperti;
+    };
+    scena.rete.manda("OK");
+    QCOMPARE(insieme, 1);
+    QCOMPARE(scena.messaggi.mostrati.size(), std::size_t(1));
+    // They have flipped it all the same: a thousand and one times.
+    QVERIFY(forma.HelpiKeysConnesso());
+    // Closed, the box comes again with the next that sets the flip.
+    scena.messaggi.mentreAperto = {};
+    scena.rete.manda("OK");
+    QCOMPARE(scena.messaggi.mostrati.size(), std::size_t(1));
+    scena.rete.manda("OK");
+    QCOMPARE(scena.messaggi.mostrati.size(), std::size_t(2));
+  }
+
   void aFurtherActivationAsksAgainAndItsOkClearsTheFlipUntilTheNext() {
     Scena scena;
     scena.rete.aOgniRichiesta = "OK";
