@@ -16,6 +16,8 @@ QWidget* RichTextBox::create(QWidget* parent) {
   box->setTabChangesFocus(true);
   box->setContextMenuPolicy(Qt::NoContextMenu);
   box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  // Over the text the control's own pointer, not the toolkit's.
+  box->viewport()->unsetCursor();
   return box;
 }
 

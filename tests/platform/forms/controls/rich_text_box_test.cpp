@@ -30,6 +30,26 @@ class RichTextBoxTest : public QObject {
   }
 
  private Q_SLOTS:
+  void thePointerOverTheTextIsTheOneThatIsSet() {
+    Stage stage;
+    TrialForm& form = opened(stage);
+    const QWidget& viewport = *editOf(form).viewport();
+    // Where the mouse goes, too: the toolkit changes its pointer as it moves.
+    const auto moved = [&] {
+      for (const int x : {10, 60}) {
+        stage.moveMouse(viewport.mapTo(&stage.runtime->window(), QPoint(x, 20)));
+      }
+      return viewport.cursor();
+    };
+    form.PanelText.setMousePointer(0);
+    QCOMPARE(moved().shape(), Qt::ArrowCursor);
+    form.PanelText.setMousePointer(99);
+    QCOMPARE(moved().shape(), Qt::BitmapCursor);
+    QCOMPARE(viewport.cursor().hotSpot(), stage.runtime->pointer().hotSpot());
+    form.PanelText.append(QStringLiteral("one more\r\n"));
+    QCOMPARE(moved().shape(), Qt::BitmapCursor);
+  }
+
   void theTextIsKeptAsItWasGiven() {
     Stage stage;
     TrialForm& form = opened(stage);
