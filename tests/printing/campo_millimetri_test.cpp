@@ -88,6 +88,20 @@ class CampoMillimetriTest : public QObject {
     QVERIFY(prova.visto);
   }
 
+  void onScreenKeyboardsAreToldWhatEachFieldTakes() {
+    DialogoDiProva prova;
+    prova.apri(prova.richiesta(), [](frmAvviaStampa& d) {
+      for (const platform::TextBox* misura : {&d.txtPrW, &d.txtPrH}) {
+        QCOMPARE(misura->widget()->inputMethodHints(), Qt::ImhDigitsOnly);
+      }
+      // With a minus.
+      for (const platform::TextBox* margine : {&d.txtPrX, &d.txtPrY}) {
+        QCOMPARE(margine->widget()->inputMethodHints(), Qt::ImhFormattedNumbersOnly);
+      }
+    });
+    QVERIFY(prova.visto);
+  }
+
   void withAnAspectOf2AWidthOf100GivesAHeightOf50() {
     DialogoDiProva prova;
     auto r = prova.richiesta();

@@ -49,6 +49,8 @@ void UpDown::bind(TextBox& box, int lowest, int highest) {
   QObject::connect(line, &QLineEdit::textChanged, widget(),
                    [this](const QString& text) { tell(text); });
   tell(line->text());
+  // On-screen keyboards show what such a number is made of.
+  line->setInputMethodHints(lowest < 0 ? Qt::ImhFormattedNumbersOnly : Qt::ImhDigitsOnly);
   new BoxKeys(*this, line);
 }
 
