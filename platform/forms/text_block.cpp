@@ -16,6 +16,7 @@ constexpr int kSmallest = 6;           // pixels
 constexpr double kReadable = 4.5;      // contrast of text, WCAG 1.4.3
 constexpr double kLineGap = 0.25;      // between the ink of two lines, of the pixel size
 constexpr double kNextSmaller = 0.92;  // of a size that does not fit
+constexpr qsizetype kLong = 1000;      // characters of a text that is not set in every size in turn
 
 double luminance(const QColor& colour) {
   const auto linear = [](double channel) {
@@ -46,6 +47,17 @@ Mnemonic readMnemonic(const QString& caption) {
     result.text += caption[i];
   }
   return result;
+}
+
+// Whether a text may go into the room in letters of this size, by its length alone: a size that
+// surely is too large is not tried, since to set tens of thousands of letters takes a while.
+// length: on one line, in pixel sizes.
+bool mayFit(double length, int pixels, QSize room) {
+  constexpr double kSurely = 0.7;  // letters are rounded to pixels, small ones the most
+  constexpr double kNarrow = 0.8;  // no two lines are closer, in pixel sizes
+  if (pixels <= kSmallest) return true;
+  const double lines = 1 + room.height() / (kNarrow * pixels);
+  return kSurely * length * pixels <= lines * room.width();
 }
 
 // The height that the letters of a text of several lines can take. Room for accents over capitals
@@ -122,7 +134,10 @@ void TextBlock::fit() {
   layout_.reset();
   width_ = height_ = 0;
   if (text_.trimmed().isEmpty() || room_.isEmpty()) return;
-  while (!layOut() && font_.pixelSize() > kSmallest) {
+  const bool isLong = text_.size() >= kLong;
+  const double length =
+      isLong ? QFontMetricsF(wanted_).horizontalAdvance(text_) / wanted_.pixelSize() : 0;
+  while (!(mayFit(length, font_.pixelSize(), room_) && layOut()) && font_.pixelSize() > kSmallest) {
     font_.setPixelSize(std::max(
         kSmallest, std::min(font_.pixelSize() - 1, int(font_.pixelSize() * kNextSmaller))));
   }
@@ -153,7 +168,10 @@ bool TextBlock::layOut() {
   layout_->beginLayout();
   width_ = 0;
   int count = 0;
-  for (QTextLine line = layout_->createLine(); line.isValid(); line = layout_->createLine()) {
+  // What lies a line below the room is not seen.
+  while (count * lineHeight_ <= highest + lineHeight_) {
+    QTextLine line = layout_->createLine();
+    if (!line.isValid()) break;
     line.setLineWidth(widest);
     width_ = std::max(width_, line.naturalTextWidth());
     ++count;
@@ -167,8 +185,11 @@ void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
                       const QColor& ground) {
   if (height_ <= 0) return;
   const bool faint = isFaint(ink, ground);
-  if (faint != outlined_) {
-    outlined_ = faint;
+  // To draw round the letters of a very long text takes minutes; it is set in black or white.
+  const bool outlined = faint && text_.size() < kLong;
+  const QColor letters = faint && !outlined ? readableOn(ground) : ink;
+  if (outlined != outlined_) {
+    outlined_ = outlined;
     fit();
   }
   const QFontMetricsF metrics(font_);
@@ -187,7 +208,7 @@ void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
     double left = area.left() + margin_;
     if (align_ == Align::Centre) left = area.left() + (area.width() - width) / 2;
     if (align_ == Align::Right) left = area.left() + area.width() - margin_ - width;
-    paintReadable(painter, QPointF(left, baseLine), font_, part, ink, ground);
+    paintReadable(painter, QPointF(left, baseLine), font_, part, letters, ground);
     if (mnemonic_ >= first && mnemonic_ < first + part.size()) {
       const double from = left + metrics.horizontalAdvance(part.left(mnemonic_ - first));
       const double to = left + metrics.horizontalAdvance(part.left(mnemonic_ - first + 1));

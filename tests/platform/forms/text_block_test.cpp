@@ -1,5 +1,6 @@
 #include "platform/forms/text_block.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
 #include <QTest>
@@ -142,6 +143,59 @@ class TextBlockTest : public QObject {
     small.set(QStringLiteral("però\nsì"), tahoma(20), {400, 200}, Align::Left, false);
     tall.set(QStringLiteral("PERÒ\nSÌ"), tahoma(20), {400, 200}, Align::Left, false);
     QVERIFY(small.size().height() < tall.size().height() - 4);
+  }
+
+  void aTextOf32000CharactersIsSetAndPaintedInNoTime_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QSize>("room");
+    QTest::addColumn<QColor>("ink");
+    const QString words = QStringLiteral("Trova il numero giusto ").repeated(1400).left(32000);
+    const QString one = QString(32000, u'm');
+    const QString lines = QStringLiteral("uno\n").repeated(8000);
+    for (const QSize room : {QSize(60, 20), QSize(300, 60), QSize(1000, 600)}) {
+      QTest::addRow("words, %d", room.width()) << words << room << QColor(Qt::black);
+      QTest::addRow("faint words, %d", room.width()) << words << room << kCyan;
+      QTest::addRow("one word, %d", room.width()) << one << room << QColor(Qt::black);
+      QTest::addRow("lines, %d", room.width()) << lines << room << QColor(Qt::black);
+    }
+  }
+  void aTextOf32000CharactersIsSetAndPaintedInNoTime() {
+    QFETCH(QString, text);
+    QFETCH(QSize, room);
+    QFETCH(QColor, ink);
+    QImage paper(room, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter painter(&paper);
+    qint64 taken = 1000;
+    // Another program may have had the processor.
+    for (int i = 0; i < 3 && taken > 200; ++i) {
+      TextBlock block;
+      QElapsedTimer clock;
+      clock.start();
+      block.set(text, tahoma(44), room, Align::Left, true);
+      block.paint(painter, QRect(QPoint(), room), ink, Qt::white);
+      taken = clock.elapsed();
+    }
+    QVERIFY2(taken <= 200, qPrintable(QStringLiteral("%1 ms").arg(taken)));
+    painter.end();
+    QImage white(paper.size(), paper.format());
+    white.fill(Qt::white);
+    QVERIFY(paper != white);
+  }
+
+  void aLongTextTakesTheSizeThatTryingThemAllWouldGive() {
+    const QString words = QStringLiteral("Trova il numero giusto ").repeated(60);
+    QVERIFY(words.size() > 1000);
+    for (const QSize room : {QSize(200, 300), QSize(500, 300), QSize(900, 500), QSize(1900, 90)}) {
+      TextBlock block;
+      block.set(words, tahoma(44), room, Align::Left, false);
+      QVERIFY(block.size().height() <= room.height());
+      // In the next larger size it does not go there.
+      TextBlock larger;
+      larger.set(words, tahoma(block.pixelSize() + 4), QSize(room.width(), 4000), Align::Left,
+                 false);
+      QVERIFY(block.pixelSize() == 44 || larger.size().height() > room.height());
+    }
   }
 
   void aWordLongerThanItsRoomTakesASmallerSize() {
