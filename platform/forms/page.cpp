@@ -16,6 +16,9 @@ namespace {
 
 constexpr QColor kGradientFirst(255, 255, 255);
 constexpr QColor kGradientLast(255, 255, 0);
+// Where a form for paper is laid out, in pixels: on any screen its controls come out at the same
+// places, to a third of a millimetre on a sheet of 400.
+constexpr QSize kPaperRoom(2592, 2592);
 
 }  // namespace
 
@@ -92,12 +95,14 @@ bool Page::arrange() {
     if (top <= 0) top = menuBar_->sizeHint().height();
     menuBar_->setGeometry(0, 0, width(), top);
   }
-  const QSize room(width(), std::max(1, height() - top));
-  const QSize client =
-      clientPixels(room, {form_.design().width, form_.design().height}, form_.design().keepsShape);
-  canvas_->setGeometry((room.width() - client.width()) / 2,
-                       top + (room.height() - client.height()) / 2, client.width(),
-                       client.height());
+  const FormDesign& design = form_.design();
+  const bool forPaper = design.keepsShape;
+  const QSize room = forPaper ? kPaperRoom : QSize(width(), std::max(1, height() - top));
+  const QSize client = clientPixels(room, {design.width, design.height}, forPaper);
+  const QPoint letterbox((room.width() - client.width()) / 2,
+                         top + (room.height() - client.height()) / 2);
+  // Beside the page, which stays empty: the window has no room for it.
+  canvas_->setGeometry(QRect(forPaper ? QPoint(width(), 0) : letterbox, client));
   const bool changed = client != arranged_;
   arranged_ = client;
   return changed;

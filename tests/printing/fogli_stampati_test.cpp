@@ -18,6 +18,57 @@ class FogliStampatiTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
+  void everyPrintedFrameStandsInItsPlaceOnEveryScreen_data() {
+    QTest::addColumn<int>("quale");
+    QTest::addColumn<QSize>("finestra");
+    for (int i = 0; i < int(fogli().size()); ++i) {
+      for (const QSize lato : {QSize(640, 480), QSize(3840, 2160)}) {
+        QTest::addRow("%s %dx%d", std::string(fogli()[size_t(i)].nome).c_str(), lato.width(),
+                      lato.height())
+            << i << lato;
+      }
+    }
+  }
+  void everyPrintedFrameStandsInItsPlaceOnEveryScreen() {
+    QFETCH(int, quale);
+    QFETCH(QSize, finestra);
+    const Foglio& foglio = fogli()[size_t(quale)];
+    DialogoDiProva prova(finestra);
+    prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
+    mostra(prova, foglio.nome, [](FoglioTastiera&, frmAvviaStampa& d) { d.cmdStampa.click(); });
+    QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
+    const PdfLetto letto(prova.banco.stampanti.lavori[0].pages);
+    constexpr int kPunti = 300;
+    const QImage pagina = letto.immagine(1, kPunti);
+    const double mm = 25.4 / kPunti;
+    // The cells of the surface on the 400 by 280 mm of the print.
+    const QSizeF cella(400.0 / 24, 280.0 / 23);
+    const somme::Griglia unita{1, 1};
+    double lontano = 0;
+    for (int i = 0; i < foglio.posti.quanti(); ++i) {
+      if (std::find(foglio.nascosti.begin(), foglio.nascosti.end(), i) != foglio.nascosti.end()) {
+        continue;
+      }
+      const platform::TwipsRect celle = foglio.posti.Posto(i, unita);
+      const QRectF posto(celle.left * cella.width(), celle.top * cella.height(),
+                         celle.width * cella.width(), celle.height * cella.height());
+      // The frame and half a cell around it, which is less than the gaps.
+      const QRectF stanza = posto.adjusted(-8, -6, 8, 6);
+      const QRect ritaglio(qRound(stanza.x() / mm), qRound(stanza.y() / mm),
+                           qRound(stanza.width() / mm), qRound(stanza.height() / mm));
+      // The line of the edge, two of the design's 640 pixels wide, stands half outside.
+      constexpr double kMezzo = 400.0 / 640;
+      const QRectF linea = prova::inchiostro(pagina.copy(ritaglio), kPunti)
+                               .translated(ritaglio.x() * mm, ritaglio.y() * mm)
+                               .adjusted(kMezzo, kMezzo, -kMezzo, -kMezzo);
+      for (const double scarto : {linea.left() - posto.left(), linea.top() - posto.top(),
+                                  linea.right() - posto.right(), linea.bottom() - posto.bottom()}) {
+        lontano = std::max(lontano, std::abs(scarto));
+      }
+    }
+    QVERIFY2(lontano < 0.3, qPrintable(QStringLiteral("%1 mm").arg(lontano)));
+  }
+
   void everyPrintedFrameFallsOnItsKey_data() {
     QTest::addColumn<int>("quale");
     for (int i = 0; i < int(fogli().size()); ++i) {

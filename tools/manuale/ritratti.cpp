@@ -54,7 +54,9 @@ bool Forme(const QDir& cartella, const QString& lingua, QSize lato) {
     prova::ComeDalMenu(banco.ambiente->stato, nome);
     QImage ritratto;
     if (scritto.startsWith(QLatin1String("FormStampa"))) {
-      manuale::ConIlFoglio(banco, nome, [&](auto&) { ritratto = manuale::Ritratto(banco); });
+      // What goes on paper: the window shows an empty page behind the dialog.
+      manuale::ConIlFoglio(banco, nome,
+                           [&](const auto& dialogo) { ritratto = dialogo.immagine().punti(); });
     } else {
       banco.mostra(nome);
       ritratto = manuale::Ritratto(banco);
