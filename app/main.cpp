@@ -18,6 +18,7 @@
 #include "platform/forms/appearance.h"
 #include "platform/forms/qt_message_boxes.h"
 #include "platform/forms/qt_page_setup.h"
+#include "platform/forms/session_end.h"
 #include "printing/nome_formato_carta.h"
 #include "printing/parole_pagina.h"
 
@@ -59,6 +60,7 @@ int main(int /*argc*/, char* argv[]) {
            QStringLiteral("/somme")},
       [&tutto](std::string_view nome) { return somme::CreaForma(*tutto, nome); });
   tutto = &ambiente;
+  const platform::SessionEnd fineSessione(ambiente.fondo);
 
   somme::Avvia(ambiente);
   return QApplication::exec();

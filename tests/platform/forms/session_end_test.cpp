@@ -1,0 +1,97 @@
+#include "platform/forms/session_end.h"
+
+#include <QPushButton>
+#include <QTimer>
+
+#include "platform/forms/qt_message_boxes.h"
+#include "platform/forms/qt_page_setup.h"
+#include "stage.h"
+
+using platform::SessionEnd;
+using trial::kOne;
+using trial::Stage;
+using trial::TrialForm;
+
+// The end of the desktop's session, as the desktop tells it: the program is asked to quit.
+class SessionEndTest : public QObject {
+  Q_OBJECT
+
+  // What the toolkit makes of the word of the session's manager.
+  static void sessionEnds() {
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+  }
+  // Ends the session while something holds the program, and gives the status that the program has
+  // ended with by then; the process would be gone.
+  static std::optional<int> endDuring(Stage& stage, const std::function<void()>& hold) {
+    std::optional<int> status;
+    QTimer::singleShot(0, &stage.runtime->window(), [&] {
+      sessionEnds();
+      status = stage.end.stato;
+      if (QWidget* open = QApplication::activeModalWidget()) {
+        open->findChildren<QPushButton*>().first()->click();
+      }
+    });
+    TrialForm& form = stage.current();
+    form.run([&] { hold(); });
+    return status;
+  }
+
+ private Q_SLOTS:
+  void withoutADialogItEndsTheProgramAndItsForm() {
+    Stage stage;
+    stage.show(kOne);
+    const SessionEnd end(*stage.runtime);
+    stage.log.clear();
+    sessionEnds();
+    QCOMPARE(stage.end.stato, std::optional(0));
+    QVERIFY2(stage.log.join(u' ').contains(QStringLiteral("unload"), Qt::CaseInsensitive),
+             qPrintable(stage.log.join(u' ')));
+  }
+
+  void aBoxThatWantsItsAnswerDoesNotRefuseIt() {
+    Stage stage;
+    stage.show(kOne);
+    const SessionEnd end(*stage.runtime);
+    platform::QtMessageBoxes boxes(
+        [] {
+          return platform::ButtonWords{QStringLiteral("OK"), QStringLiteral("Yes"),
+                                       QStringLiteral("No")};
+        },
+        [&stage]() -> QWidget* { return &stage.runtime->window(); });
+    const auto status = endDuring(stage, [&boxes] {
+      boxes.show({.text = QStringLiteral("?"), .buttons = platform::BoxButtons::YesNo});
+    });
+    QCOMPARE(status, std::optional(0));
+  }
+
+  void anOpenPageSetUpDoesNotRefuseIt() {
+    Stage stage;
+    stage.show(kOne);
+    const SessionEnd end(*stage.runtime);
+    platform::QtPageSetup setup([] { return platform::PageSetupWords{}; },
+                                [](const platform::Paper&) { return QString(); },
+                                [&stage]() -> QWidget* { return &stage.runtime->window(); });
+    const auto status = endDuring(stage, [&setup] {
+      platform::PrinterSettings settings;
+      (void)setup.choose(QStringLiteral("Printer"), {}, settings);
+    });
+    QCOMPARE(status, std::optional(0));
+  }
+
+  void aWaitForAPrinterDoesNotRefuseIt() {
+    Stage stage;
+    stage.show(kOne);
+    const SessionEnd end(*stage.runtime);
+    bool wentOn = false;
+    const auto status = endDuring(stage, [&] {
+      stage.runtime->waitDeaf([] { QTest::qWait(50); });
+      wentOn = true;
+    });
+    QCOMPARE(status, std::optional(0));
+    QVERIFY(!wentOn);
+  }
+};
+
+QTEST_MAIN(SessionEndTest)
+#include "session_end_test.moc"
