@@ -3,7 +3,7 @@
 #include "app/shared/ambiente.h"
 #include "platform/base/run_time_error.h"
 #include "platform/forms/controls/rich_text_box.h"
-#include "platform/forms/wait_pointer.h"
+#include "printing/attendi_stampanti.h"
 #include "printing/documento_pdf.h"
 
 namespace somme {
@@ -71,11 +71,10 @@ QRectF RettangoloDiDisegno(const Margini& margini, const MisurePagina& pagina) {
 void StampaTestoRicco(Ambiente& ambiente, const platform::RichTextBox& TestoRicco,
                       qint32 MargineSinistro, double MargineSuperiore, double MargineDestro,
                       double MargineInferiore) {
-  const platform::WaitPointer clessidra;
   platform::Printers& stampanti = ambiente.servizi.stampanti;
   platform::Printers::List elenco;
   platform::Printers::Opened aperta;
-  ambiente.fondo.waitDeaf([&] {
+  AttendiStampanti(ambiente, [&] {
     elenco = stampanti.list();
     if (!elenco.standard.isEmpty()) aperta = stampanti.open(elenco.standard);
   });
@@ -88,7 +87,7 @@ void StampaTestoRicco(Ambiente& ambiente, const platform::RichTextBox& TestoRicc
                aperta.traits, titolo),
       aperta.traits.standard};
   platform::PrintResult esito;
-  ambiente.fondo.waitDeaf([&] { esito = stampanti.print(lavoro); });
+  AttendiStampanti(ambiente, [&] { esito = stampanti.print(lavoro); });
   Esigi(esito.finished);
 }
 

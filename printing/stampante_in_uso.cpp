@@ -2,22 +2,28 @@
 
 #include "app/shared/ambiente.h"
 #include "platform/base/numbers.h"
+#include "printing/attendi_stampanti.h"
 #include "printing/errore_di_stampa.h"
 
 namespace somme {
 
 using platform::Printers;
 
+// A print server that does not answer leaves its queues out.
 QStringList StampanteInUso::Elenco() {
-  Printers::List elenco;
-  ambiente_.fondo.waitDeaf([&] { elenco = ambiente_.servizi.stampanti.list(); });
-  return elenco.names;
+  QStringList nomi = Chiedi().names;
+  if (!nome_.isEmpty() && !nomi.contains(nome_)) nomi.prepend(nome_);
+  return nomi;
 }
 
 QString StampanteInUso::StampantePredefinita() {
+  return Chiedi().standard;
+}
+
+Printers::List StampanteInUso::Chiedi() {
   Printers::List elenco;
-  ambiente_.fondo.waitDeaf([&] { elenco = ambiente_.servizi.stampanti.list(); });
-  return elenco.standard;
+  AttendiStampanti(ambiente_, [&] { elenco = ambiente_.servizi.stampanti.list(); });
+  return elenco;
 }
 
 bool StampanteInUso::ApriStampante() {
@@ -28,7 +34,7 @@ bool StampanteInUso::ApriStampante() {
     throw ErroreDiStampa{ErroreDiStampa::kStampante, QStringLiteral("Errore della stampante")};
   }
   Printers::Opened trovata;
-  ambiente_.fondo.waitDeaf([&] { trovata = ambiente_.servizi.stampanti.open(nome_); });
+  AttendiStampanti(ambiente_, [&] { trovata = ambiente_.servizi.stampanti.open(nome_); });
   switch (trovata.access) {
     case Printers::Access::Denied:
       Messaggio(QStringLiteral("Non posso accedere alla stampante richiesta."),

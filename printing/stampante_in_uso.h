@@ -22,7 +22,7 @@ class StampanteInUso {
  public:
   explicit StampanteInUso(Ambiente& ambiente) : ambiente_(ambiente) {}
 
-  // Every printer of the system.
+  // Every printer of the system, and the one in use whether the system told it this time or not.
   [[nodiscard]] QStringList Elenco();
   // The name of the default printer; empty where there is none.
   [[nodiscard]] QString StampantePredefinita();
@@ -45,6 +45,7 @@ class StampanteInUso {
   void ScriviOrientamento(int orientamento);
 
  private:
+  [[nodiscard]] platform::Printers::List Chiedi();
   void Messaggio(const QString& testo, const QString& titolo);
 
   Ambiente& ambiente_;

@@ -63,16 +63,16 @@ struct PrintResult {
   bool finished = false;
 };
 
-// The printers that the program can use. Nothing is asked of any before the first call. A printer
-// that does not answer counts as none after a few seconds; meanwhile events run, so that these
-// calls belong into `Runtime::waitDeaf`.
+// The printers that the program can use. Nothing is asked of any before the first call. One that
+// does not answer is waited for up to some seconds; meanwhile events run, so that these calls
+// belong into `Runtime::waitDeaf`.
 class Printers {
  public:
   virtual ~Printers() = default;
 
   struct List {
     QStringList names;
-    QString standard;  // empty where there is none
+    QString standard;  // empty where there is none, and where the system did not tell it in time
   };
   [[nodiscard]] virtual List list() = 0;
 

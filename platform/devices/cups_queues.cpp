@@ -32,8 +32,19 @@ Paper paperOf(const cups_size_t& size) {
           size.left / kPerMillimetre, size.top / kPerMillimetre};
 }
 
+bool hasSize(const Paper& paper) {
+  return paper.width > 0 && paper.height > 0;
+}
+
 bool sameSheet(const Paper& a, const Paper& b) {
   return a.width == b.width && a.height == b.height;
+}
+
+// A4 where it is among them, else the first. papers: not empty.
+const Paper& usualOf(const std::vector<Paper>& papers) {
+  const auto a4 = std::find_if(papers.begin(), papers.end(),
+                               [](const Paper& paper) { return paper.code == kPaperA4; });
+  return a4 == papers.end() ? papers.front() : *a4;
 }
 
 }  // namespace
@@ -68,24 +79,23 @@ class CupsQueues::Queue {
       const bool isRange = std::strncmp(size.media, "custom_m", 8) == 0;
       const bool known = std::any_of(result.begin(), result.end(),
                                      [&](const Paper& other) { return sameSheet(other, paper); });
-      if (!isRange && !known && paper.width > 0 && paper.height > 0) result.push_back(paper);
+      if (!isRange && !known && hasSize(paper)) result.push_back(paper);
     }
     return result;
   }
 
-  // The library's own answer comes last: it takes a user's choice for the queue and Letter where
-  // there is none, and never looks at what the queue itself does.
+  // Where the queue names none, the library's own: a user's choice, or Letter. Nothing where the
+  // paper that is named has no size: of a roll the library knows none.
   [[nodiscard]] std::optional<Paper> standardPaper() const {
     cups_size_t size;
     const QByteArray name = standardPaperName();
-    if (!name.isEmpty() && cups_.getDestMediaByName(CUPS_HTTP_DEFAULT, dest_, info_,
-                                                    name.constData(), 0, &size) != 0) {
-      return paperOf(size);
-    }
-    if (cups_.getDestMediaDefault(CUPS_HTTP_DEFAULT, dest_, info_, 0, &size) == 0) {
-      return std::nullopt;
-    }
-    return paperOf(size);
+    const int told =
+        name.isEmpty()
+            ? cups_.getDestMediaDefault(CUPS_HTTP_DEFAULT, dest_, info_, 0, &size)
+            : cups_.getDestMediaByName(CUPS_HTTP_DEFAULT, dest_, info_, name.constData(), 0, &size);
+    if (told == 0) return std::nullopt;
+    const Paper paper = paperOf(size);
+    return hasSize(paper) ? std::optional(paper) : std::nullopt;
   }
 
   // As the library knows the paper. A user's choice may bear the short name of the printer's driver
@@ -160,7 +170,7 @@ Printers::Opened CupsQueues::open(const QString& name) const {
   const std::optional<Paper> paper = queue.standardPaper();
   if (traits.papers.empty() && paper) traits.papers.push_back(*paper);
   if (traits.papers.empty()) return refused;
-  traits.standard.paper = paper.value_or(traits.papers.front());
+  traits.standard.paper = paper.value_or(usualOf(traits.papers));
   traits.printsColour = queue.supports("print-color-mode", "color", false);
   traits.takesPages = queue.supports("document-format", "application/pdf", true);
   traits.feedsUpright = true;

@@ -24,18 +24,21 @@ SystemPrinters::SystemPrinters(TimeSource& time, PdfFolder folder, Patience pati
 
 Printers::List SystemPrinters::list() {
   const auto findings = std::make_shared<Findings>();
-  (void)work_.run<bool>(
-      [findings](Waiting&) {
-        const std::optional<CupsLibrary> cups = CupsLibrary::load();
-        if (!cups) return false;
-        CupsQueues(*cups).list([&](const QString& name, bool isStandard) {
-          const std::lock_guard lock(findings->mutex);
-          if (!findings->list.names.contains(name)) findings->list.names.append(name);
-          if (isStandard) findings->list.standard = name;
-        });
-        return true;
-      },
-      patience_.list);
+  const bool whole = work_
+                         .run<bool>(
+                             [findings](Waiting&) {
+                               const std::optional<CupsLibrary> cups = CupsLibrary::load();
+                               if (!cups) return false;
+                               CupsQueues(*cups).list([&](const QString& name, bool isStandard) {
+                                 const std::lock_guard lock(findings->mutex);
+                                 if (!findings->list.names.contains(name))
+                                   findings->list.names.append(name);
+                                 if (isStandard) findings->list.standard = name;
+                               });
+                               return true;
+                             },
+                             patience_.list)
+                         .has_value();
   List result;
   {
     const std::lock_guard lock(findings->mutex);
@@ -44,7 +47,7 @@ Printers::List SystemPrinters::list() {
   // For good: a later search may not come to its end, and the queue would be taken for the file.
   if (result.names.contains(builtIn_)) builtIn_ = QStringLiteral("PDF (file)");
   result.names.append(builtIn_);
-  if (result.standard.isEmpty()) result.standard = builtIn_;
+  if (result.standard.isEmpty() && whole) result.standard = builtIn_;
   return result;
 }
 

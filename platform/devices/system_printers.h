@@ -17,8 +17,8 @@ class SystemPrinters final : public Printers {
  public:
   // How long the print server is waited for at most, whatever is asked of it.
   struct Patience {
-    std::chrono::milliseconds list{1500};
-    std::chrono::milliseconds open{1500};
+    std::chrono::milliseconds list{10000};
+    std::chrono::milliseconds open{10000};
     std::chrono::milliseconds print{20000};
   };
 
@@ -26,7 +26,9 @@ class SystemPrinters final : public Printers {
       : SystemPrinters(time, std::move(folder), Patience{}) {}
   SystemPrinters(TimeSource& time, PdfFolder folder, Patience patience);
 
-  // The built-in printer is the default where CUPS has none, and where it does not answer.
+  // The built-in printer is the default where CUPS has none. Where CUPS has not answered in time
+  // nobody knows, and there is no default: no other printer takes the place of the one that is
+  // meant.
   [[nodiscard]] List list() override;
   [[nodiscard]] Opened open(const QString& name) override;
   [[nodiscard]] PrintResult print(const PrintJob& job) override;

@@ -141,6 +141,7 @@ class LingueTest : public QObject {
     QSet<QString> note{QStringLiteral("Strings"),
                        QStringLiteral("MessageBox"),
                        QStringLiteral("PageSetup"),
+                       QStringLiteral("Printers"),
                        QStringLiteral("Quantita"),
                        QStringLiteral("TastieraNumericaScansione"),
                        QStringLiteral("TastieraHDUScansione")};
@@ -192,6 +193,14 @@ class LingueTest : public QObject {
                      QStringLiteral("Colore"), QStringLiteral("InGrigio"),
                      QStringLiteral("Orientamento"), QStringLiteral("Orizzontale"),
                      QStringLiteral("Titolo"), QStringLiteral("Verticale")}));
+  }
+
+  void theWordsOfAWaitForAPrinterAreThere_data() { lingue(); }
+  void theWordsOfAWaitForAPrinterAreThere() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    QCOMPARE(leggi(banco.percorso(lingua)).value(QStringLiteral("Printers")).keys(),
+             QStringList{QStringLiteral("Attesa")});
   }
 
   void theWordsForWhatStandsOnABoardAreThere_data() { lingue(); }

@@ -77,6 +77,29 @@ class FrmAvviaStampaTest : public QObject {
     QVERIFY(prova.visto);
   }
 
+  void theListHasThePrinterInUseAlsoWhereTheServerDoesNotTellItAnyMore() {
+    DialogoDiProva prova;
+    prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
+    prova.conDialogo([&](frmAvviaStampa& d) {
+      QVERIFY(d.FoglioStampa(2).ok);
+      // Asked once more, it does not answer in time: nothing but the file is left.
+      prova.banco.stampanti.elenco = {{QStringLiteral("PDF")}, {}};
+      prova.banco.stampanti.metti(QStringLiteral("PDF"), prova::StampanteDiProva());
+      prova.banco.tempo.after(0.1, [&] {
+        prova.lavora(d, [&](frmAvviaStampa&) {
+          QCOMPARE(d.cboPrinterNames.items(),
+                   (QStringList{QStringLiteral("Prova"), QStringLiteral("PDF")}));
+          QCOMPARE(d.cboPrinterNames.text(), QStringLiteral("Prova"));
+          prova.clicca(d.cmdStampa);
+        });
+      });
+      d.StampaFCPB(prova.richiesta());
+    });
+    QVERIFY(prova.visto);
+    QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
+    QCOMPARE(prova.banco.stampanti.lavori[0].printer, QStringLiteral("Prova"));
+  }
+
   void choosingAPrinterDrawsItsSheetAndComingBackKeepsTheLandscape() {
     DialogoDiProva prova;
     prova.banco.stampanti.metti(QStringLiteral("Altra"), Grigia(prova::CartaA3()));

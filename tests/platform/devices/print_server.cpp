@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTcpSocket>
 #include <QTest>
+#include <QTimer>
 #include <algorithm>
 
 namespace devices_test {
@@ -190,7 +191,12 @@ void MutedServer::pass(Line& line) {
       return;
     }
   }
-  line.client->write(line.server->readAll());
+  const QByteArray answer = line.server->readAll();
+  if (late_ == 0) {
+    line.client->write(answer);
+  } else if (!answer.isEmpty()) {
+    QTimer::singleShot(late_, line.client, [&line, answer] { line.client->write(answer); });
+  }
 }
 
 void MutedServer::speakAgain() {

@@ -67,6 +67,8 @@ class MutedServer : public QObject {
   [[nodiscard]] QByteArray address() const {
     return "127.0.0.1:" + QByteArray::number(server_.serverPort());
   }
+  // Each answer comes so many milliseconds late, from now on.
+  void answerAfter(int milliseconds) { late_ = milliseconds; }
   // Silent in both directions, from now on.
   void fallSilent() { silent_ = true; }
   // What a client says is passed on as far as the piece with these words; no answer is from there.
@@ -92,6 +94,7 @@ class MutedServer : public QObject {
   std::vector<std::unique_ptr<Line>> lines_;
   QByteArray words_;
   bool silent_ = false;
+  int late_ = 0;  // milliseconds
 };
 
 }  // namespace devices_test

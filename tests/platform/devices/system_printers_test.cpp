@@ -23,6 +23,7 @@ namespace {
 
 const QString kBuiltIn = QStringLiteral("PDF");
 const QString kQueue = QStringLiteral("Prova");
+constexpr std::chrono::milliseconds kShort{1000};
 
 QDateTime now() {
   return QDateTime::currentDateTime();
@@ -65,6 +66,35 @@ QByteArray onePage() {
          "trailer<</Root 1 0 R>>\n%%EOF\n";
 }
 
+// The description of a printer with these papers ("name width height", in points); the first is the
+// one that it uses unless told otherwise.
+QByteArray driverOf(const QByteArrayList& papers) {
+  QByteArray text =
+      "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
+      "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n*PCFileName: \"TRIAL.PPD\"\n"
+      "*Manufacturer: \"Trial\"\n*Product: \"(Trial)\"\n*ModelName: \"Trial\"\n"
+      "*ShortNickName: \"Trial\"\n*NickName: \"Trial\"\n*PSVersion: \"(3010.000) 0\"\n"
+      "*LanguageLevel: \"3\"\n*ColorDevice: True\n*DefaultColorSpace: RGB\n"
+      "*cupsFilter: \"application/vnd.cups-postscript 0 -\"\n";
+  for (const char* option : {"PageSize", "PageRegion"}) {
+    text += QByteArray("*OpenUI *") + option + ": PickOne\n*Default" + option + ": " +
+            papers.first().split(' ').first() + '\n';
+    for (const QByteArray& paper : papers) {
+      text += QByteArray("*") + option + ' ' + paper.split(' ').first() + ": \"\"\n";
+    }
+    text += QByteArray("*CloseUI: *") + option + '\n';
+  }
+  text += "*DefaultImageableArea: " + papers.first().split(' ').first() +
+          "\n*DefaultPaperDimension: " + papers.first().split(' ').first() + '\n';
+  for (const QByteArray& paper : papers) {
+    const QByteArray name = paper.split(' ').first();
+    const QByteArray size = paper.mid(name.size() + 1);
+    text += "*ImageableArea " + name + ": \"0 0 " + size + "\"\n*PaperDimension " + name + ": \"" +
+            size + "\"\n";
+  }
+  return text;
+}
+
 platform::PrintJob job(const QString& printer, const QString& title,
                        const platform::PrinterSettings& settings) {
   return {printer, title, onePage(), settings};
@@ -101,15 +131,47 @@ class SystemPrintersTest : public QObject {
 
   void aServerThatDoesNotAnswerNeverHoldsTheWindow() {
     const SilentServer silent;
-    Machine machine(silent.address());
+    Machine machine(silent.address(), {.list = kShort, .open = kShort});
     Printers::List list;
     qint64 gap = longestGap([&] { list = machine.printers.list(); });
     QVERIFY2(gap < 200, qPrintable(QString::number(gap)));
     QCOMPARE(list.names, QStringList{kBuiltIn});
-    QCOMPARE(list.standard, kBuiltIn);
+    // Nobody knows what its default is; the file is not taken for it.
+    QCOMPARE(list.standard, QString());
     gap = longestGap(
         [&] { QVERIFY(machine.printers.open(kQueue).access == Printers::Access::Denied); });
     QVERIFY2(gap < 200, qPrintable(QString::number(gap)));
+  }
+
+  void aServerIsWaitedForUpToTenSeconds() {
+    const SilentServer silent;
+    Machine machine(silent.address());
+    QElapsedTimer clock;
+    clock.start();
+    const Printers::List list = machine.printers.list();
+    QVERIFY2(clock.elapsed() > 9500 && clock.elapsed() < 11000,
+             qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(list.standard, QString());
+  }
+
+  void aSlowServersQueueIsFoundAndPrintsInItsTime() {
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    QVERIFY(server.addQueue(kQueue));
+    QVERIFY(server.administer({QStringLiteral("-d"), kQueue}));
+    MutedServer slow(server.port());
+    slow.answerAfter(2000);
+    Machine machine(slow.address());
+    const Printers::List list = machine.printers.list();
+    QCOMPARE(list.names, (QStringList{kQueue, kBuiltIn}));
+    QCOMPARE(list.standard, kQueue);
+    const Printers::Opened opened = machine.printers.open(kQueue);
+    QVERIFY(opened.access == Printers::Access::Granted);
+    const platform::PrintResult result =
+        machine.printers.print(job(kQueue, QStringLiteral("lavoro-lento"), opened.traits.standard));
+    QVERIFY(result.finished);
+    QVERIFY(server.takePrinted(QStringLiteral("lavoro-lento")).startsWith("%PDF"));
+    QCOMPARE(QDir(machine.files.path()).entryList(QDir::Files).size(), 0);
   }
 
   void theQueuesOfTheServerComeBeforeTheBuiltInPrinter() {
@@ -181,6 +243,36 @@ class SystemPrintersTest : public QObject {
     const Printers::Opened opened = machine.printers.open(kQueue);
     QVERIFY(opened.access == Printers::Access::Granted);
     QCOMPARE(opened.traits.standard.paper.code, platform::kPaperA3);
+  }
+
+  void aQueueWhoseStandardPaperHasNoSizePrintsOnOneThatHas_data() {
+    QTest::addColumn<QByteArray>("others");  // its other papers, in points
+    QTest::addColumn<double>("height");      // of the one that is taken, millimetres
+    QTest::newRow("A4 where it is there")
+        << QByteArray("A3 842 1191,A4 595 842,Letter 612 792") << 297.0;
+    QTest::newRow("a label where there are labels alone")
+        << QByteArray("Etichetta 283 425") << 150.0;
+  }
+  void aQueueWhoseStandardPaperHasNoSizePrintsOnOneThatHas() {
+    QFETCH(QByteArray, others);
+    QFETCH(double, height);
+    PrintServer server;
+    QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
+    const QTemporaryDir folder;
+    QFile ppd(folder.filePath(QStringLiteral("rotolo.ppd")));
+    QVERIFY(ppd.open(QIODevice::WriteOnly));
+    ppd.write(driverOf(QByteArrayList{"Rotolo 226 0"} + others.split(',')));
+    ppd.close();
+    QVERIFY(server.addQueue(kQueue, {QStringLiteral("-P"), ppd.fileName()}));
+    Machine machine(server.address());
+    const Printers::Opened opened = machine.printers.open(kQueue);
+    QVERIFY(opened.access == Printers::Access::Granted);
+    const platform::Paper& paper = opened.traits.standard.paper;
+    QVERIFY2(paper.width > 0 && std::abs(paper.height - height) < 0.3,
+             qPrintable(QStringLiteral("%1 x %2").arg(paper.width).arg(paper.height)));
+    const QString title = QStringLiteral("lavoro-dal-rotolo");
+    QVERIFY(machine.printers.print(job(kQueue, title, opened.traits.standard)).finished);
+    QVERIFY(server.takePrinted(title).startsWith("%PDF"));
   }
 
   void aJobGoesThroughTheQueue() {
