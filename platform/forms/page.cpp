@@ -17,8 +17,8 @@ namespace {
 constexpr QColor kGradientFirst(255, 255, 255);
 constexpr QColor kGradientLast(255, 255, 0);
 // Where a form for paper is laid out, in pixels: on any screen its controls come out at the same
-// places, to a third of a millimetre on a sheet of 400.
-constexpr QSize kPaperRoom(2592, 2592);
+// places. A sheet of 24 columns and 23 rows has 63 by 46 whole pixels to a cell, and no twip over.
+constexpr QSize kPaperRoom(1512, 1512);
 
 }  // namespace
 
