@@ -152,11 +152,9 @@ class AccessibleKeyPanel final : public QAccessibleWidget {
     const auto* key = std::find_if(kSwitchKeys.begin(), kSwitchKeys.end(), named);
     if (key == kSwitchKeys.end()) {
       QAccessibleWidget::doAction(action);
-      return;
+    } else {
+      postPress(*widget(), key->keyCode);
     }
-    auto* panel = static_cast<KeyPanelWidget*>(widget());
-    QMetaObject::invokeMethod(
-        panel, [panel, code = key->keyCode] { panel->tap(code); }, Qt::QueuedConnection);
   }
 };
 

@@ -44,7 +44,7 @@ QAccessible::State AccessibleTextBox::state() const {
 
 QStringList AccessibleTextBox::actionNames() const {
   QStringList names = QAccessibleWidget::actionNames();
-  if (box().isEnabled() && !box().isReadOnly()) names.append(pressAction());
+  if (box().pressable()) names.append(pressAction());
   return names;
 }
 

@@ -7,7 +7,7 @@ namespace platform {
 class TextBoxWidget;
 
 // A text box to assistive technology: what stands in it can be read and, where the user may write,
-// written; a press confirms it, as Enter does.
+// written; a press confirms it, as Enter does, or is the click on a box that is locked.
 class AccessibleTextBox final : public QAccessibleWidget,
                                 public QAccessibleTextInterface,
                                 public QAccessibleEditableTextInterface {

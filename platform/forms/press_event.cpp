@@ -10,8 +10,8 @@ QEvent::Type pressEvent() {
   return type;
 }
 
-void postPress(QWidget& widget) {
-  QCoreApplication::postEvent(&widget, new QEvent(pressEvent()));
+void postPress(QWidget& widget, int keyCode) {
+  QCoreApplication::postEvent(&widget, new PressEvent(keyCode));
 }
 
 }  // namespace platform

@@ -11,6 +11,17 @@ namespace platform {
 // by then.
 [[nodiscard]] QEvent::Type pressEvent();
 
-void postPress(QWidget& widget);
+class PressEvent final : public QEvent {
+ public:
+  explicit PressEvent(int keyCode) : QEvent(pressEvent()), keyCode_(keyCode) {}
+  // The key that is tapped, on a widget that is worked by keys alone (see keys/key_codes.h); 0 on
+  // any other.
+  [[nodiscard]] int keyCode() const { return keyCode_; }
+
+ private:
+  int keyCode_;
+};
+
+void postPress(QWidget& widget, int keyCode = 0);
 
 }  // namespace platform

@@ -4,7 +4,6 @@
 
 #include "fondo_tastiera.h"
 #include "input/tastiera_numerica_scansione.h"
-#include "platform/forms/accessible.h"
 
 using prova::prepara;
 using somme::TastieraNumericaScansione;
@@ -28,8 +27,6 @@ class TastiDaFuoriTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void initTestCase() { platform::installAccessibility(); }
-
   void theKeyboardOffersItsTwoKeys() {
     Fondo fondo;
     prepara(fondo.tastiera, false);

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -18,6 +19,26 @@ class TestoInputScrittoTest : public QObject {
     QCOMPARE(fondo.controllo.Text.get(), QStringLiteral("123"));
     fondo.batti(Qt::Key_Backspace);
     QCOMPARE(fondo.controllo.Text.get(), QStringLiteral("12"));
+  }
+
+  void assistiveTechnologyConfirmsAndOpensTheBoxAgain() {
+    Fondo fondo;
+    const auto premi = [](const platform::TextBox& casella) {
+      auto* azioni = QAccessible::queryAccessibleInterface(casella.widget())->actionInterface();
+      const bool offerto =
+          azioni->actionNames().contains(QAccessibleActionInterface::pressAction());
+      azioni->doAction(QAccessibleActionInterface::pressAction());
+      QCoreApplication::processEvents();
+      return offerto;
+    };
+    fondo.scrivi(QStringLiteral("12"));
+    QVERIFY(premi(fondo.controllo.TestoInput));
+    QVERIFY(fondo.controllo.TestoOutput.isVisible());
+    QVERIFY(premi(fondo.controllo.TestoOutput));
+    QVERIFY(fondo.controllo.TestoInput.isVisible());
+    QVERIFY(fondo.controllo.TestoInput.hasFocus());
+    QVERIFY(!fondo.controllo.TestoOutput.isVisible());
+    QVERIFY(!fondo.forma().eventi.isEmpty());
   }
 
   void separatorsAreTakenWhereTheyAreAccepted() {

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 
 #include "platform/forms/keys/key_codes.h"
+#include "platform/forms/press_event.h"
 
 namespace platform {
 
@@ -19,10 +20,17 @@ void KeyPanelWidget::pointAt(QWidget* widget) {
   if (hasFocus()) tell();
 }
 
+bool KeyPanelWidget::event(QEvent* event) {
+  if (event->type() != pressEvent()) return QWidget::event(event);
+  tap(static_cast<PressEvent*>(event)->keyCode());
+  return true;
+}
+
+// A press and a release of a key by assistive technology. Nothing happens where a key would not
+// come here either: another control of the form has the keyboard, or a menu is open.
 void KeyPanelWidget::tap(int keyCode) {
   if (window()->focusWidget() != this || !isEnabled() || !isVisible()) return;
   if (QApplication::activePopupWidget() != nullptr) return;
-  if (QApplication::activeModalWidget() != nullptr) return;
   const QPointer<KeyPanelWidget> alive(this);
   down_(keyCode);
   if (alive) up_(keyCode);

@@ -18,17 +18,15 @@ class KeyPanelWidget final : public QWidget {
   void pointAt(QWidget* widget);
   [[nodiscard]] QWidget* pointed() const { return pointed_; }
 
-  // A press and a release of a key from outside of the keyboard. Nothing happens where a key would
-  // not come here either: another control of the form has the keyboard, or a menu or a box is open.
-  void tap(int keyCode);
-
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
 
  private:
   void tell();
+  void tap(int keyCode);
 
   Handler down_;
   Handler up_;

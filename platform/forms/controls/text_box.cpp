@@ -37,7 +37,8 @@ QWidget* TextBox::create(QWidget* parent) {
                                                // The text of the design is no change.
                                                if (isBuilt()) raiseEvent(changed_);
                                              },
-                                         .clicked = [this] { raiseEvent(clicked_); }});
+                                         .clicked = [this] { raiseEvent(clicked_); },
+                                         .clickable = [this] { return clicked_ != nullptr; }});
   align_ = look().align;
   box->setLimit(look().maxLength);
   box->setReadOnly(look().locked);

@@ -151,10 +151,17 @@ QRect TextBoxWidget::placeOf(int character) const {
   return QRectF(left, cursor.top(), across, cursor.height()).toRect();
 }
 
-// Assistive technology's press confirms, as Enter does.
+bool TextBoxWidget::pressable() const {
+  return isEnabled() && (!isReadOnly() || hooks_.clickable());
+}
+
 bool TextBoxWidget::event(QEvent* event) {
   if (event->type() != pressEvent()) return QLineEdit::event(event);
-  if (!isEnabled() || isReadOnly()) return true;
+  if (!pressable()) return true;
+  if (isReadOnly()) {
+    hooks_.clicked();
+    return true;
+  }
   const QPointer<TextBoxWidget> self(this);
   (void)filtered(kKeyEnter);
   if (self) hooks_.keyUp(kKeyEnter);

@@ -22,6 +22,8 @@ class TextBoxWidget final : public QLineEdit {
     std::function<void(int keyCode)> keyUp;
     std::function<void()> changed;
     std::function<void()> clicked;
+    // Whether a click means something.
+    std::function<bool()> clickable;
   };
 
   TextBoxWidget(QWidget* parent, Hooks hooks);
@@ -38,6 +40,10 @@ class TextBoxWidget final : public QLineEdit {
   // font: the one of the design; text that is too wide for the box takes a smaller size of it.
   void setLook(const QFont& font, Align align, const QColor& ink, const QColor& ground);
   void setBorder(bool border);
+
+  // Whether a press of assistive technology acts: in an open box it confirms, as Enter does; in a
+  // locked one it is the click, where a click means something.
+  [[nodiscard]] bool pressable() const;
 
   // The room of a character, in the coordinates of this widget.
   [[nodiscard]] QRect placeOf(int character) const;
