@@ -36,8 +36,8 @@
 
 namespace {
 
-constexpr int kAssestamento =
-    4000;  // milliseconds from the showing to "ready": a text cursor rests
+// Milliseconds from the showing to "ready"; by then a text cursor stands still.
+constexpr int kAssestamento = 4000;
 
 // The printers of the machine, with the paper in that every sheet fits on: a sheet that does not
 // fit blinks, and that is no rest.
@@ -114,9 +114,10 @@ class Riposo {
     const auto viva = dialogo.shared_from_this();
     somme::frmAvviaStampa::Richiesta richiesta;
     richiesta.oggetto = &sotto;
-    richiesta.larghezza = 100;
-    richiesta.altezza = 100;
-    richiesta.orientamento = 1;
+    // As the sheets have it.
+    richiesta.larghezza = 420;
+    richiesta.altezza = 297;
+    richiesta.orientamento = 2;
     (void)dialogo.StampaFCPB(richiesta);
   }
 
