@@ -21,7 +21,8 @@ function(somme_room name)
   file(MAKE_DIRECTORY "${view}/${parent}")
   file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${ARG_FOLDER}" "${view}/${ARG_FOLDER}" SYMBOLIC)
   target_include_directories(somme_${name} PUBLIC "${view}")
-  target_link_libraries(somme_${name} PUBLIC somme_opzioni ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
+  target_link_libraries(somme_${name} PUBLIC somme_opzioni ${ARG_LINKS}
+    PRIVATE somme_difese ${ARG_PRIVATE_LINKS})
   if(SOMME_FLOORS)
     # A static library may ask for what it does not link; the whole of it in a shared one may not.
     file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/floor_${name}.cpp" "")

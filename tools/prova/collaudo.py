@@ -5,8 +5,8 @@
 
 Where a fresh Debian can be made (root, debootstrap, an archive that answers) the package is
 installed in one, with what it depends on and nothing else, and removed at the end; elsewhere it is
-laid out in a plain folder. A case is solved, the language changed, the program started again in it,
-the manual opened.
+laid out in a plain folder. Its program must be hardened. A case is solved, the language changed, the
+program started again in it, the manual opened.
 """
 
 import os
@@ -16,6 +16,7 @@ import subprocess
 import sys
 import tempfile
 
+import difese
 from giocatore import AVVIO, BOTTONE, VOCE, Errore, Giocatore
 from installazione import NESSUNO, Cartella, Debian, SenzaDebian
 from partite import PARTITE
@@ -139,7 +140,16 @@ def usa_come_nessuno(albero, cartella):
         raise Errore("the installed program did not do what it should")
 
 
+def controlla_difese(albero):
+    """The program was hardened as Debian's own are."""
+    mancano = difese.mancano(albero.dentro(albero.programma(), "somme"))
+    if mancano:
+        raise Errore("the program is not hardened: " + "; ".join(mancano))
+    print("The program is hardened.")
+
+
 def usa_installato(albero, cartella):
+    controlla_difese(albero)
     albero.prepara_casa()
     if os.geteuid() == 0:
         usa_come_nessuno(albero, cartella)
