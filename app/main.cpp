@@ -16,6 +16,7 @@
 #include "platform/devices/system_printers.h"
 #include "platform/devices/system_process_end.h"
 #include "platform/forms/appearance.h"
+#include "platform/forms/qt_announcer.h"
 #include "platform/forms/qt_message_boxes.h"
 #include "platform/forms/qt_page_setup.h"
 #include "platform/forms/session_end.h"
@@ -34,6 +35,7 @@ int main(int /*argc*/, char* argv[]) {
   platform::QtTimeSource tempo;
   platform::SeededChance sorte(0);
   platform::SdlSound suono(QApplication::beep);
+  platform::QtAnnouncer annunci;
   platform::DesktopDocuments documenti;
   platform::SystemProcessEnd fine;
   platform::FileInstanceLock istanza(QCoreApplication::applicationFilePath());
@@ -54,7 +56,7 @@ int main(int /*argc*/, char* argv[]) {
       [&tutto] { return somme::ParolePagina(*tutto); },
       [](const platform::Paper& carta) { return somme::NomeDellaCarta(carta); }, sopra);
   somme::Ambiente ambiente(
-      {tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina, rete,
+      {tempo, sorte, suono, messaggi, annunci, documenti, fine, istanza, stampanti, pagina, rete,
        QCoreApplication::applicationDirPath(),
        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/somme")},

@@ -54,8 +54,8 @@ Durata misura(const std::function<void()>& lavoro) {
 class Cambio {
  public:
   explicit Cambio(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
-                   pagina_, rete_, cartella},
+      : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
+                   stampanti_, pagina_, rete_, cartella},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     somme::Avvia(ambiente_);
     ambiente_.stato.TipoEsercizio = kConESenzaCambio;
@@ -106,6 +106,7 @@ class Cambio {
   platform::SeededChance sorte_{1};
   bench::Muto suono_;
   bench::Zitto messaggi_;
+  bench::Tacito annunci_;
   bench::Chiuso documenti_;
   bench::Uscita fine_;
   bench::Solo istanza_;

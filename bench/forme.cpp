@@ -88,8 +88,8 @@ class Misura {
  public:
   explicit Misura(const QString& cartella)
       : cartella_(cartella),
-        ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
-                   pagina_, rete_, cartella_.percorso()},
+        ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
+                   stampanti_, pagina_, rete_, cartella_.percorso()},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     somme::Avvia(ambiente_);
     QTest::qWait(500);
@@ -265,6 +265,7 @@ class Misura {
   platform::SeededChance sorte_{1};
   bench::Muto suono_;
   bench::Zitto messaggi_;
+  bench::Tacito annunci_;
   bench::Chiuso documenti_;
   bench::Uscita fine_;
   bench::Solo istanza_;

@@ -86,8 +86,8 @@ class Occhio final : public QObject {
 class Scansione {
  public:
   explicit Scansione(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
-                   pagina_, rete_, cartella},
+      : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
+                   stampanti_, pagina_, rete_, cartella},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     somme::Avvia(ambiente_);
     ambiente_.stato.TipoEsercizio = 1;
@@ -128,6 +128,7 @@ class Scansione {
   platform::SeededChance sorte_{1};
   bench::Muto suono_;
   bench::Zitto messaggi_;
+  bench::Tacito annunci_;
   bench::Chiuso documenti_;
   bench::Uscita fine_;
   bench::Solo istanza_;

@@ -10,6 +10,9 @@ namespace bench {
 struct Muto final : platform::Sound {
   void play(const QString& /*path*/) override {}
 };
+struct Tacito final : platform::Announcer {
+  void announce(const QString& /*sentence*/) override {}
+};
 struct Chiuso final : platform::Documents {
   void open(const QString& /*path*/) override {}
 };

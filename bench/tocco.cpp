@@ -30,8 +30,8 @@ constexpr int kPerduto = 5000;  // milliseconds
 class Tocco {
  public:
   explicit Tocco(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
-                   pagina_, rete_, cartella},
+      : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
+                   stampanti_, pagina_, rete_, cartella},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     if (!tavoletta_.Ascolta(0)) std::exit(1);
     ambiente_.servizi.porta = tavoletta_.Porta();
@@ -75,6 +75,7 @@ class Tocco {
   platform::SeededChance sorte_{1};
   bench::Muto suono_;
   bench::Zitto messaggi_;
+  bench::Tacito annunci_;
   bench::Chiuso documenti_;
   bench::Uscita fine_;
   bench::Solo istanza_;

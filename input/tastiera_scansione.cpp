@@ -22,7 +22,7 @@ constexpr double kTwipPerPunto = 20;
 
 void TastieraScansione::Evidenza::set(qint16 indice) {
   indice_ = indice;
-  tastiera_.Segna(false);
+  tastiera_.Segna();
 }
 
 TastieraScansione::TastieraScansione(platform::ControlHost& ospite,
@@ -100,7 +100,7 @@ void TastieraScansione::Passo() {
   int indice = dopo(PulsanteCorrente.get());
   while (!pulsanti_[indice].isEnabled()) indice = dopo(indice);
   PulsanteCorrente.indice_ = qint16(indice);
-  Segna(true);
+  Segna();
   Accendi(qint16(indice));
 }
 
@@ -146,13 +146,13 @@ void TastieraScansione::keysLetGo() {
   if (fermata) AttivaAutomatica();
 }
 
-void TastieraScansione::Segna(bool passo) {
+void TastieraScansione::Segna() {
   if (anello_ == nullptr) return;
   const platform::Button& acceso = pulsanti_[PulsanteCorrente.get()];
   anello_->surround(acceso.widget()->geometry().translated(dentro_->pos()));
   anello_->setVisible(acceso.isVisible());
   anello_->raise();
-  PictureScansione.pointAt(acceso, !passo);
+  PictureScansione.pointAt(acceso);
 }
 
 // The frame, and the row in it at the place that the control has.
@@ -204,7 +204,7 @@ void TastieraScansione::layOut() {
   PulsanteCorrente.indice_ = PrimoPulsante();
   Accendi(PrimoPulsante());
   MostraPulsanti();
-  Segna(false);
+  Segna();
   TimerScansione.setInterval(IntervalloScansione());
   if (comuni_.ScansioneAutomatica.get()) {
     AttivaAutomatica();

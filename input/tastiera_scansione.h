@@ -110,7 +110,7 @@ class TastieraScansione : public platform::UserControl {
   void TastoPremuto(int tasto);
   void TastoLasciato(int tasto);
   void Comunica();
-  void Segna(bool passo);
+  void Segna();
   void Posa();
   [[nodiscard]] QSize Misura() const;
 

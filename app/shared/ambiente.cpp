@@ -8,7 +8,7 @@ QString TitoloProgramma() {
 
 Ambiente::Ambiente(const Servizi& dati, platform::Forms::Factory forme)
     : servizi(dati),
-      fondo({dati.tempo, dati.messaggi, dati.fine, &dati.rete}, TitoloProgramma(),
+      fondo({dati.tempo, dati.messaggi, dati.fine, dati.annunci, &dati.rete}, TitoloProgramma(),
             QStringLiteral(":/immagini"), QStringLiteral("puntatore"), std::move(forme)) {}
 
 }  // namespace somme

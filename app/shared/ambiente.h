@@ -19,6 +19,7 @@ struct Servizi {
   platform::Chance& sorte;
   platform::Sound& suono;
   platform::MessageBoxes& messaggi;
+  platform::Announcer& annunci;
   platform::Documents& documenti;
   platform::ProcessEnd& fine;
   platform::InstanceLock& istanza;

@@ -38,7 +38,7 @@ class ConPallineATasti : public Base {
     this->Mostra(genere.inAttesa, nuova, false);
     this->PallineInAttesa[static_cast<std::size_t>(nuova)][genere.colonna] = false;
     inserite = platform::toInt16(inserite + 1);
-    this->Descrivi();
+    this->Racconta();
     PallinaInserita(genere);
   }
 };

@@ -94,7 +94,7 @@ FormAbaco::FormAbaco(Ambiente& ambiente) : ConAvanti(ambiente, kDisegno) {
   PulsanteCambioUDa.onClick([this] { PremiFreccia(kPallineUnita); });
   PulsanteCambioDaH.onClick([this] { PremiFreccia(kPallineDecine); });
   PulsanteCambioHK.onClick([this] { PremiFreccia(kPallineCentinaia); });
-  PulsanteCestino.onClick([this] { EliminaNumeroSW1(); });
+  PulsanteCestino.onClick([this] { Svuota(); });
 }
 
 void FormAbaco::onLoad() {
@@ -182,7 +182,7 @@ void FormAbaco::Inserisci(const GenerePalline& genere, const QString& clip) {
   if (platform::Button* freccia = Freccia(genere); freccia != nullptr && inserite == kPalline) {
     freccia->setEnabled(true);
   }
-  Descrivi();
+  Racconta();
 }
 
 void FormAbaco::Rimuovi(const GenerePalline& genere) {
@@ -201,7 +201,7 @@ void FormAbaco::Rimuovi(const GenerePalline& genere) {
   if (platform::Button* freccia = Freccia(genere); freccia != nullptr && inserite < kPalline) {
     freccia->setEnabled(false);
   }
-  Descrivi();
+  Racconta();
 }
 
 platform::Button* FormAbaco::Freccia(const GenerePalline& genere) {

@@ -59,7 +59,7 @@ constexpr std::array<int, 4> kDaTotale{1000, 100, 10, 0};
 
 FormAbacoHK::FormAbacoHK(Ambiente& ambiente) : ConHelpiKeys(kTastiera, ambiente, kDisegno) {
   OffriFoglio(mnuStampaHP);
-  PulsanteCestino.onClick([this] { EliminaNumeroSW1(); });
+  PulsanteCestino.onClick([this] { Svuota(); });
   PulsanteConferma.onClick([this] { Conferma(); });
 }
 
@@ -121,7 +121,7 @@ void FormAbacoHK::InterpretaSegnale(int tasto) {
       CambioUDa();
       break;
     case 10:
-      if (PulsanteCestino.isEnabled()) EliminaNumeroSW1();
+      if (PulsanteCestino.isEnabled()) Svuota();
       break;
     case 11:
       if (PulsanteConferma.isEnabled()) Conferma();

@@ -84,7 +84,7 @@ void FormAbacoScansione::TastoHDU(qint16 tasto) {
       InserisciUnita();
       break;
     case TastieraHDUScansione::kCestino:
-      EliminaNumeroSW1();
+      Svuota();
       break;
     default:
       PassaAlleCifre();

@@ -29,6 +29,7 @@ class FormAbacoScansione final : public ConDueTastiere<ConPallineATasti<FormaAba
   void TastoHDU(qint16 tasto) override;
   void ScriviCifra(int cifra) override { AccodaCifra(TestoInput, cifra); }
   void SvuotaInput() override;
+  [[nodiscard]] QString Scritto() const override { return TestoInput.Text.get(); }
   void Conferma() override { TestoInput.TerminaInserimento(); }
   void ApriAvanti() override { TastieraNumericaScansione1.AttivaAvanti(); }
 

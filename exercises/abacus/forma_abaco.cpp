@@ -69,6 +69,16 @@ void FormaAbaco::EliminaNumeroSW1() {
   Descrivi();
 }
 
+void FormaAbaco::ScriviDomanda() {
+  EtOperazione.setCaption(SommaDaFare());
+  DiciDomanda(EtOperazione.caption());
+}
+
+void FormaAbaco::Svuota() {
+  EliminaNumeroSW1();
+  Racconta();
+}
+
 void FormaAbaco::Cambia(const GenerePalline& da, const GenerePalline& a) {
   const platform::Gate::AcrossCases finoInFondo(ambiente().fondo.gate());
   for (int i = kPalline - 1; i >= 0; --i) Mostra(da.inAttesa, i, true);
@@ -96,7 +106,7 @@ void FormaAbaco::Cambia(const GenerePalline& da, const GenerePalline& a) {
   if (presa >= 0) Mostra(a.inAttesa, presa, false);
   this->*da.inserite = 0;
   this->*a.inserite = platform::toInt16(this->*a.inserite + 1);
-  Descrivi();
+  Racconta();
 }
 
 int FormaAbaco::PallinaPerIlCambio(const GenerePalline& genere) const {
@@ -118,11 +128,20 @@ void FormaAbaco::Sfuma(QLatin1String clip, int numero, int alfa) {
   ShockwaveFlash1.tSetProperty(NomeClip(clip, numero), kAlfa, QString::number(alfa));
 }
 
+QString FormaAbaco::SulFerro() const {
+  return InParole(ambiente(), {.migliaia = MigliaiaInserite,
+                               .centinaia = CentinaiaInserite,
+                               .decine = DecineInserite,
+                               .unita = UnitaInserite});
+}
+
 void FormaAbaco::Descrivi() {
-  ShockwaveFlash1.setDescription(InParole(ambiente(), {.migliaia = MigliaiaInserite,
-                                                       .centinaia = CentinaiaInserite,
-                                                       .decine = DecineInserite,
-                                                       .unita = UnitaInserite}));
+  ShockwaveFlash1.setDescription(SulFerro());
+}
+
+void FormaAbaco::Racconta() {
+  Descrivi();
+  announce(SulFerro());
 }
 
 }  // namespace somme

@@ -55,7 +55,9 @@ class FormaAbaco : public FormaEsercizio {
   void ApriAbaco();
   // Draws a case of the level, or none for a `TipoEsercizio` without one.
   void GeneraCaso();
-  void ScriviDomanda() { EtOperazione.setCaption(SommaDaFare()); }
+  void ScriviDomanda();
+  // What the bin does.
+  void Svuota();
 
   // How many digits the answer can have at this level.
   virtual void ImpostaCifre(qint16 /*cifre*/) {}
@@ -74,8 +76,13 @@ class FormaAbaco : public FormaEsercizio {
   void Mostra(QLatin1String clip, int numero, bool visibile);
   // alfa: 0 transparent, `kOpaca` opaque.
   void Sfuma(QLatin1String clip, int numero, int alfa);
-  // Tells assistive technology what stands on the abacus.
+  // Gives assistive technology what stands on the abacus, for whoever looks there; and tells it,
+  // where the pupil has changed it.
   void Descrivi();
+  void Racconta();
+
+ private:
+  [[nodiscard]] QString SulFerro() const;
 };
 
 // By keys the thousands stop one lower: only nine of theirs are seen waiting.

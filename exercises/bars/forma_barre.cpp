@@ -121,12 +121,16 @@ void FormaBarre::MostraCaso(const DomandaBarre& domanda) {
   }
   Label3.setCaption(stringhe().*domanda.consegna);
   for (const Barra& b : barre) {
-    if (b.termine == domanda.termine) RisultatoAtteso = b.numero;
+    if (b.termine != domanda.termine) continue;
+    RisultatoAtteso = b.numero;
+    barraChiesta_ = &b.barra;
   }
   Chiedi(domanda);
   for (const Barra& b : barre) {
     Label4[b.termine].setCaption(b.termine == domanda.termine ? QString() : plain(b.numero));
   }
+  DiciDomanda(QStringLiteral("%1 + %2 = %3. %4")
+                  .arg(n1.caption(), n2.caption(), n3.caption(), Label3.caption()));
 }
 
 void FormaBarre::MostraNumeri() {
@@ -167,6 +171,16 @@ void FormaBarre::MostraAiuto() {
   MettiQuadretti(aiuto1, stato().Addendo1, OrigineX, altoAddendi);
   MettiQuadretti(aiuto2, stato().Addendo2, FineDi(stato().Addendo1), altoAddendi);
   MettiQuadretti(aiuto3, stato().Totale, OrigineX, toInt16(Lungo(3) + OrigineY));
+  DiciQuadretti();
+}
+
+// One by one, so that they are counted by ear as the others count them by eye.
+void FormaBarre::DiciQuadretti() {
+  if (barraChiesta_ == nullptr) return;
+  const QStringList quadretti(RisultatoAtteso, QStringLiteral("1"));
+  announce(QStringLiteral("%1: %2").arg(
+      barraChiesta_->toolTip(),
+      quadretti.isEmpty() ? QStringLiteral("0") : quadretti.join(QStringLiteral(", "))));
 }
 
 void FormaBarre::LeggiMisure() {

@@ -82,6 +82,8 @@ class FormaBarre : public FormaEsercizio {
   [[nodiscard]] qint16 FineDi(int unita) const;
 
  private:
+  // Tells assistive technology the help squares of the bar that is asked for.
+  void DiciQuadretti();
   void ScegliTipo(qint16 tipo);
   void EstraiCaso();
   void MostraCaso(const DomandaBarre& domanda);
@@ -90,10 +92,11 @@ class FormaBarre : public FormaEsercizio {
                       int alto);
 
   const PortataBarre& portata_;
-  qint16 RisultatoAtteso = 0;  // the number that the pupil must give
-  qint16 OrigineY = 0;         // top of the first row of bars, twips inside `Picture1`
-  qint16 OrigineX = 0;         // left end of the bars
-  qint16 Unita = 0;            // length of one unit, height of a bar, side of a square
+  qint16 RisultatoAtteso = 0;                      // the number that the pupil must give
+  const platform::Label* barraChiesta_ = nullptr;  // its bar; none before the first case
+  qint16 OrigineY = 0;  // top of the first row of bars, twips inside `Picture1`
+  qint16 OrigineX = 0;  // left end of the bars
+  qint16 Unita = 0;     // length of one unit, height of a bar, side of a square
 };
 
 }  // namespace somme

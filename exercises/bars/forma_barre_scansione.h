@@ -24,6 +24,7 @@ class FormaBarreScansione : public ConScansione<FormaBarre> {
   void Chiedi(const DomandaBarre& domanda) override;
   void ScriviCifra(int cifra) override { AccodaCifra(TestoInput, cifra); }
   void SvuotaInput() override { TestoInput.setText({}); }
+  [[nodiscard]] QString Scritto() const override { return TestoInput.text(); }
   void ChiediAiuto() override { MostraAiuto(); }
 
   // The colour of the number in the box.

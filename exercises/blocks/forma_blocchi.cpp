@@ -92,6 +92,7 @@ void FormaBlocchi::NuovoCaso() {
   ShockwaveFlash2.setVisible(true);
   Incornicia(Label1);
   Racconta();
+  DiciDomanda(EtOperazione.caption());
   CasoPronto();
 }
 
@@ -187,6 +188,7 @@ void FormaBlocchi::UnisciTavole() {
   }
   unita_.Unisci(quante);
   Racconta();
+  announce(InParole(ambiente(), unita_.Quante()));
 }
 
 // The sums are those of the boards as the pupil built them: what a carry has brought is not among
@@ -199,6 +201,11 @@ void FormaBlocchi::ChiediCambioDa(std::size_t quale) {
     }
   }
   ChiediRisultato();
+}
+
+void FormaBlocchi::MostraCambio(platform::Button& pulsante) {
+  pulsante.setVisible(true);
+  announce(pulsante.toolTip());
 }
 
 void FormaBlocchi::Cambia(std::size_t quale) {
@@ -222,6 +229,7 @@ void FormaBlocchi::ComandoDelFilmato(const QString& args) {
     if (args != cambio.parola) continue;
     unita_.Cambia(cambio, SuEntrambe(cambio.a) + 1);
     Racconta();
+    announce(InParole(ambiente(), unita_.Quante()));
   }
 }
 

@@ -49,7 +49,8 @@ class FormaBlocchi : public FormaEsercizio {
   virtual void CasoPronto() {}
   // The button of a carry, by the carry's place among those of the exercise.
   [[nodiscard]] virtual platform::Button& PulsanteDelCambio(std::size_t quale) = 0;
-  virtual void MostraCambio(platform::Button& pulsante) { pulsante.setVisible(true); }
+  // Shows it, and has it heard.
+  virtual void MostraCambio(platform::Button& pulsante);
   // While nothing of the case can be pressed, the focus rests on the question.
   void RiposaIlFuoco();
   // Boards and carries are done: the result can be given.

@@ -36,7 +36,7 @@ void FormaBlocchiScansione::CasoPronto() {
 }
 
 void FormaBlocchiScansione::MostraCambio(platform::Button& pulsante) {
-  ConDueTastiere::MostraCambio(pulsante);
+  pulsante.setVisible(true);
   pulsante.setFocus();
 }
 

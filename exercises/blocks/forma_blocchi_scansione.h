@@ -34,6 +34,7 @@ class FormaBlocchiScansione : public ConDueTastiere<ConCasellaRisultato<FormaBlo
   void TastoHDU(qint16 tasto) override;
   void ScriviCifra(int cifra) override { AccodaCifra(TestoInput, cifra); }
   void SvuotaInput() override { TestoInput.setText({}); }
+  [[nodiscard]] QString Scritto() const override { return TestoInput.text(); }
   void Conferma() override { GiudicaRisultato(); }
 
   void ChiudiPannelloStampa() override;

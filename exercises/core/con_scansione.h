@@ -36,6 +36,8 @@ class ConScansione : public Base {
   // `NuovoCaso`.
   virtual void ScriviCifra(int cifra) = 0;
   virtual void SvuotaInput() = 0;
+  // What the digits have written so far.
+  [[nodiscard]] virtual QString Scritto() const = 0;
   virtual void ChiediAiuto() {}
   virtual void Conferma() = 0;
 
@@ -57,6 +59,7 @@ class ConScansione : public Base {
     switch (tasto) {
       case TastieraNumericaScansione::kCestino:
         SvuotaInput();
+        this->DiciScritto(Scritto());
         break;
       case TastieraNumericaScansione::kAiuto:
         ChiediAiuto();
@@ -69,6 +72,7 @@ class ConScansione : public Base {
         break;
       default:
         ScriviCifra(tasto);
+        this->DiciScritto(Scritto());
         break;
     }
   }

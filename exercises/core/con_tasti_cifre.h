@@ -23,9 +23,9 @@ class ConTastiCifre : public ConHelpiKeys<Base> {
     if (tasto < 1) return;  // a touch beside the keys
     if (tasto <= kNove) {
       // The limit of the box is not asked: what the program sets may pass it. Settled.
-      if (SiScrive()) Casella().setText(Casella().text() + QString::number(tasto - 1));
+      if (SiScrive()) Scrivi(Casella().text() + QString::number(tasto - 1));
     } else if (tasto == kCestino) {
-      if (SiScrive()) Casella().setText({});
+      if (SiScrive()) Scrivi({});
     } else if (tasto == kAiuto) {
       Aiuta();
     } else if (tasto == kConferma) {
@@ -42,6 +42,12 @@ class ConTastiCifre : public ConHelpiKeys<Base> {
   virtual void Conferma() = 0;
   // The help key; nothing on forms without help.
   virtual void Aiuta() {}
+
+ private:
+  void Scrivi(const QString& testo) {
+    Casella().setText(testo);
+    this->DiciScritto(testo);
+  }
 };
 
 }  // namespace somme

@@ -1,6 +1,7 @@
 #include "exercises/core/forma_esercizio.h"
 
 #include "app/shared/modulo_colori_suoni.h"
+#include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
 #include "printing/modulo_stampa.h"
 
@@ -16,24 +17,32 @@ FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& d
   mnuEsci.onClick([this] { Esci(); });
 }
 
+QString FormaEsercizio::ConteggioEsatti() const {
+  return stringhe().TestoEsatti + stringhe().Spazio + platform::leadingBlank(stato().ContaEsatti);
+}
+
+QString FormaEsercizio::ConteggioErrati() const {
+  return stringhe().TestoErrati + stringhe().Spazio + platform::leadingBlank(stato().ContaErrati);
+}
+
 void FormaEsercizio::ScriviEsatti() {
-  EtichettaEsatti.setCaption(stringhe().TestoEsatti + stringhe().Spazio +
-                             platform::leadingBlank(stato().ContaEsatti));
+  EtichettaEsatti.setCaption(ConteggioEsatti());
 }
 
 void FormaEsercizio::ScriviErrati() {
-  EtichettaErrati.setCaption(stringhe().TestoErrati + stringhe().Spazio +
-                             platform::leadingBlank(stato().ContaErrati));
+  EtichettaErrati.setCaption(ConteggioErrati());
 }
 
+// The verdict is told first: whatever moves the focus or the light makes a screen reader speak,
+// too.
 void FormaEsercizio::SegnaGiusto(const Passo& primaDellEtichetta) {
   ImgSi.setVisible(true);
   ImgNo.setVisible(false);
   stato().ContaEsatti = platform::toInt16(stato().ContaEsatti + 1);
+  DiciVerdetto(ImgSi, ConteggioEsatti());
   RiproduciSuono(ambiente(), QStringLiteral("si"));
   if (primaDellEtichetta) primaDellEtichetta();
   ScriviEsatti();
-  Annuncia(ImgSi, EtichettaEsatti);
 }
 
 void FormaEsercizio::SegnaPassoGiusto() {
@@ -48,13 +57,17 @@ void FormaEsercizio::SegnaSbagliato(const Passo& primaDelSuono) {
   ScriviErrati();
   ImgSi.setVisible(false);
   ImgNo.setVisible(true);
-  Annuncia(ImgNo, EtichettaErrati);
+  DiciVerdetto(ImgNo, ConteggioErrati());
   if (primaDelSuono) primaDelSuono();
   RiproduciSuono(ambiente(), QStringLiteral("no"));
 }
 
-void FormaEsercizio::Annuncia(const platform::Image& verdetto, const platform::Label& conteggio) {
-  announce(QStringLiteral("%1. %2").arg(verdetto.toolTip(), conteggio.caption().simplified()));
+void FormaEsercizio::DiciVerdetto(const platform::Image& verdetto, const QString& conteggio) {
+  announce(QStringLiteral("%1. %2").arg(verdetto.toolTip(), conteggio.simplified()));
+}
+
+void FormaEsercizio::DiciScritto(const QString& scritto) {
+  announce(scritto.isEmpty() ? InParole(ambiente(), {}) : scritto);
 }
 
 void FormaEsercizio::AzzeraConteggio() {
@@ -70,6 +83,7 @@ void FormaEsercizio::IniziaElenco(const QString& intestazione) {
 
 void FormaEsercizio::AggiungiRiga(const QString& riga) {
   TestoStampa.append(riga + QStringLiteral("\r\n"));
+  announce(riga.simplified());
 }
 
 QString FormaEsercizio::NumeroInDomanda(qint16 numero) const {

@@ -49,9 +49,14 @@ class FormaEsercizio : public Forma {
   void SegnaSbagliato(const Passo& primaDelSuono = {});
 
   // The record of solved cases: it begins with a heading between line breaks and gets a line for
-  // each case. Both are given without their line breaks.
+  // each case, which is also told. Both are given without their line breaks.
   void IniziaElenco(const QString& intestazione);
   void AggiungiRiga(const QString& riga);
+
+  // Tells assistive technology what a case asks; each begins with it.
+  void DiciDomanda(const QString& domanda) { announce(domanda.simplified()); }
+  // Tells it what the pupil has written so far without typing it.
+  void DiciScritto(const QString& scritto);
 
   // A number as a question shows it.
   [[nodiscard]] QString NumeroInDomanda(qint16 numero) const;
@@ -69,8 +74,10 @@ class FormaEsercizio : public Forma {
   void StampaElenco();
 
  private:
-  // Tells assistive technology what the pictures show.
-  void Annuncia(const platform::Image& verdetto, const platform::Label& conteggio);
+  [[nodiscard]] QString ConteggioEsatti() const;
+  [[nodiscard]] QString ConteggioErrati() const;
+  // Tells assistive technology what the pictures show, with its count.
+  void DiciVerdetto(const platform::Image& verdetto, const QString& conteggio);
 
   std::string_view menu_;
 };

@@ -16,6 +16,7 @@ const Livello* FormaNumeri::GeneraCaso() {
 
 void FormaNumeri::ScriviDomanda() {
   EtOperazione.setCaption((this->*esercizio_.domanda)());
+  DiciDomanda(EtOperazione.caption());
 }
 
 void FormaNumeri::ScriviRisolta(const QString& operazione) {

@@ -23,6 +23,7 @@ class FormaNumeriScansione : public ConScansione<FormaNumeriInput> {
   // After a wrong answer the digits go into the hidden box, until `SvuotaInput` brings it back.
   void ScriviCifra(int cifra) override { AccodaCifra(TestoInput, cifra); }
   void SvuotaInput() override;
+  [[nodiscard]] QString Scritto() const override { return TestoInput.Text.get(); }
   void Conferma() override { TestoInput.TerminaInserimento(); }
 };
 

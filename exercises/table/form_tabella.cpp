@@ -139,6 +139,7 @@ void FormTabella::Es_Caso(int tipo) {
   EtichettaNumero.setCaption(platform::leadingBlank(caso->a) +
                              (caso->meno ? QStringLiteral(" - ") : QStringLiteral(" + ")) +
                              platform::leadingBlank(caso->b) + QStringLiteral(" = "));
+  DiciDomanda(EtichettaNumero.caption());
 }
 
 void FormTabella::NuovoCaso() {

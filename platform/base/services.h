@@ -12,6 +12,14 @@ class Sound {
   virtual void play(const QString& path) = 0;
 };
 
+// Tells assistive technology sentences that a screen reader speaks, each once, in their order. A
+// call returns at once; nothing happens where nobody listens.
+class Announcer {
+ public:
+  virtual ~Announcer() = default;
+  virtual void announce(const QString& sentence) = 0;
+};
+
 // Hands documents to the desktop.
 class Documents {
  public:

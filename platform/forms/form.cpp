@@ -1,10 +1,8 @@
 #include "platform/forms/form.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <algorithm>
 
-#include "platform/forms/accessible.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/menu_bar.h"
@@ -275,14 +273,7 @@ void Form::keysLetGo() {
 }
 
 void Form::announce(const QString& sentence) {
-  QWidget* focus = focusSpoken();
-  if (described_ && described_ != focus) described_->setAccessibleDescription({});
-  described_ = focus;
-  if (focus != nullptr) focus->setAccessibleDescription(sentence);
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-  QAccessibleAnnouncementEvent event(page_, sentence);
-  QAccessible::updateAccessibility(&event);
-#endif
+  runtime_.announcer().announce(sentence);
 }
 
 }  // namespace platform

@@ -81,8 +81,7 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   // Runs a handler through the gate; false when it did not come to its end.
   bool run(const std::function<void()>& handler, Gate::Cases cases = Gate::Cases::Matter);
 
-  // Tells a screen reader a sentence: as the description of what has the focus, and as an
-  // announcement where Qt has one.
+  // Has a screen reader speak a sentence.
   void announce(const QString& sentence);
 
   // Alt and a key. True when something of the form took it.
@@ -142,7 +141,6 @@ class Form : public ControlHost, public std::enable_shared_from_this<Form> {
   std::vector<Control*> controls_;
   Control* cover_ = nullptr;
   QPointer<QWidget> focusBelow_;
-  QPointer<QWidget> described_;
   int caseNumber_ = 0;
   bool built_ = false;
   bool laidOut_ = false;

@@ -22,6 +22,7 @@ struct RuntimeServices {
   TimeSource& time;
   MessageBoxes& boxes;
   ProcessEnd& end;
+  Announcer& announcer;
   Network* network = nullptr;  // none under forms without sockets
 };
 
@@ -38,6 +39,7 @@ class Runtime {
   Runtime& operator=(const Runtime&) = delete;
 
   [[nodiscard]] TimeSource& time() { return services_.time; }
+  [[nodiscard]] Announcer& announcer() { return services_.announcer; }
   [[nodiscard]] Network* network() { return services_.network; }
   [[nodiscard]] Gate& gate() { return gate_; }
   [[nodiscard]] Forms& forms() { return forms_; }

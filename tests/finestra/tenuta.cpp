@@ -7,6 +7,7 @@
 #include "platform/forms/controls/button.h"
 #include "platform/forms/form.h"
 #include "platform/forms/proportional_layout.h"
+#include "platform/forms/qt_announcer.h"
 #include "platform/forms/runtime.h"
 
 // A window with one button that writes a line for each click: for whoever holds keys down on a real
@@ -63,10 +64,11 @@ int main(int argc, char* argv[]) {
   platform::applyAppearance();
   platform::QtTimeSource time;
   platform::SystemProcessEnd end;
+  platform::QtAnnouncer announcer;
   NoBoxes boxes;
   platform::Runtime* ground = nullptr;
   platform::Runtime runtime(
-      {time, boxes, end}, QStringLiteral("Conta"), QString(), QString(),
+      {time, boxes, end, announcer}, QStringLiteral("Conta"), QString(), QString(),
       [&ground](std::string_view) { return std::make_shared<FormConta>(*ground); });
   ground = &runtime;
   runtime.forms().show("FormConta");

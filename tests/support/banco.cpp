@@ -32,8 +32,9 @@ Banco::Banco(QSize lato, Forme forme) {
     QFile::copy(filmati.filePath(nome), percorso(QStringLiteral("swf/") + nome));
   }
   ambiente = std::make_unique<somme::Ambiente>(
-      somme::Servizi{tempo, sorte, suono, messaggi, documenti, fine, istanza, stampanti, pagina,
-                     rete, cartella.path(), utente.filePath(QStringLiteral("config/somme"))},
+      somme::Servizi{tempo, sorte, suono, messaggi, annunci, documenti, fine, istanza, stampanti,
+                     pagina, rete, cartella.path(),
+                     utente.filePath(QStringLiteral("config/somme"))},
       [this, forme = std::move(forme)](std::string_view nome) {
         return forme ? forme(*ambiente, nome) : somme::CreaForma(*ambiente, nome);
       });

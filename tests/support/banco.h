@@ -81,6 +81,7 @@ class Banco {
   SorteDiProva sorte;
   SuonoDiProva suono;
   MessaggiDiProva messaggi;
+  AnnunciDiProva annunci;
   DocumentiDiProva documenti;
   FineDiProva fine;
   IstanzaDiProva istanza;

@@ -20,7 +20,7 @@ class FondoDiProva {
     somme::PreparaImmagini();
     platform::applyAppearance();
     runtime_ = std::make_unique<platform::Runtime>(
-        platform::RuntimeServices{tempo, messaggi, fine}, QStringLiteral("Prova"),
+        platform::RuntimeServices{tempo, messaggi, fine, annunci}, QStringLiteral("Prova"),
         QStringLiteral(":/immagini"), QStringLiteral("puntatore"),
         [this](std::string_view) { return std::make_shared<F>(*runtime_); });
     runtime_->window().setMinimumSize(1, 1);
@@ -58,6 +58,7 @@ class FondoDiProva {
   ScriptedTime tempo;
   MessaggiDiProva messaggi;
   FineDiProva fine;
+  AnnunciDiProva annunci;
 
  private:
   std::unique_ptr<platform::Runtime> runtime_;

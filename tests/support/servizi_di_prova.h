@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "platform/base/chance.h"
@@ -65,6 +66,20 @@ class MessaggiDiProva final : public platform::MessageBoxes {
   std::vector<platform::MessageBox> mostrati;
   std::deque<platform::BoxAnswer> risposte;
   std::function<void()> mentreAperto;  // what happens while a box stands open
+};
+
+// Hears what a screen reader is told.
+class AnnunciDiProva final : public platform::Announcer {
+ public:
+  void announce(const QString& sentence) override {
+    detti.push_back(sentence);
+    if (allAnnuncio) allAnnuncio();
+  }
+  // What was told since the last question for it.
+  [[nodiscard]] QStringList nuovi() { return std::exchange(detti, {}); }
+
+  QStringList detti;
+  std::function<void()> allAnnuncio;
 };
 
 class DocumentiDiProva final : public platform::Documents {

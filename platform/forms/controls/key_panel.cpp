@@ -27,18 +27,8 @@ void KeyPanel::keepFocus() {
   setFocus();
 }
 
-void KeyPanel::pointAt(const Control& control, bool sentenceFollows) {
-  auto* panel = static_cast<KeyPanelWidget*>(widget());
-  if (panel == nullptr || panel->pointed() == control.widget()) return;
-  QString sentence;
-  if (QWidget* before = panel->pointed()) {
-    sentence = before->accessibleDescription();
-    if (!sentence.isEmpty()) before->setAccessibleDescription({});
-  }
-  panel->pointAt(control.widget());
-  if (sentenceFollows && !sentence.isEmpty() && control.widget() != nullptr) {
-    control.widget()->setAccessibleDescription(sentence);
-  }
+void KeyPanel::pointAt(const Control& control) {
+  if (widget() != nullptr) static_cast<KeyPanelWidget*>(widget())->pointAt(control.widget());
 }
 
 }  // namespace platform

@@ -20,9 +20,8 @@ class KeyPanel : public Control {
 
   // Takes the focus inside its own window; never from a menu, a box or another program.
   void keepFocus();
-  // What the keys act on now. A sentence that was spoken with the last one goes on with the new one
-  // when `sentenceFollows`, and falls silent otherwise.
-  void pointAt(const Control& control, bool sentenceFollows);
+  // What the keys act on now.
+  void pointAt(const Control& control);
 
  protected:
   [[nodiscard]] QWidget* create(QWidget* parent) override;

@@ -330,8 +330,7 @@ class FormLUTest : public QObject {
     forma.PulsanteU.setFocus();
     banco.clicca(forma.PulsanteU);
     QCOMPARE(parole(forma.ShockwaveFlash1), QStringLiteral("1 decina, 1 unità"));
-    QCOMPARE(forma.PulsanteU.widget()->accessibleDescription(),
-             QStringLiteral("1 decina, 1 unità"));
+    QCOMPARE(banco.annunci.detti.last(), QStringLiteral("1 decina, 1 unità"));
     banco.clicca(forma.PulsanteCestino);
     QCOMPARE(parole(forma.ShockwaveFlash1), QStringLiteral("vuoto"));
     unisci(banco, forma);

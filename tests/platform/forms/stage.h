@@ -50,6 +50,7 @@ class Stage {
   prova::ScriptedTime time;
   prova::MessaggiDiProva boxes;
   prova::FineDiProva end;
+  prova::AnnunciDiProva announcer;
   std::unique_ptr<platform::Runtime> runtime;
 
  private:

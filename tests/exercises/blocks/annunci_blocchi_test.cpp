@@ -1,0 +1,102 @@
+#include "blocchi_scanditi.h"
+#include "exercises/blocks/form_hlu_hk.h"
+#include "form_lu_di_prova.h"
+#include "support/tocchi.h"
+
+using namespace prova;
+
+namespace {
+
+constexpr int kTastoDa = 2;
+constexpr int kTastoU = 3;
+constexpr int kTastoCambioUDa = 6;
+constexpr int kTastoConferma = 8;
+
+const QString kGiusto = QStringLiteral("Giusto");
+const QString kCambio = QStringLiteral("Cambia dieci unità in una decina");
+
+void premi(Banco& banco, int tasto, int volte = 1) {
+  for (int i = 0; i < volte; ++i) tocca(banco, somme::kMappaBlocchi, tasto);
+}
+
+}  // namespace
+
+// What a screen reader is told on the blocks forms, sentence by sentence.
+class AnnunciBlocchiTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void boardsCarryVerdictsAndTheSolvedSumAreTold() {
+    Banco banco;
+    somme::FormLU& forma = prova::apri(banco, 18, 13);
+    QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
+    banco.clicca(forma.PulsanteDa);
+    banco.clicca(forma.PulsanteU);
+    banco.clicca(forma.PulsanteCestino);
+    banco.clicca(forma.PulsanteConferma);
+    QCOMPARE(banco.annunci.nuovi(),
+             (QStringList{QStringLiteral("1 decina"), QStringLiteral("1 decina, 1 unità"),
+                          QStringLiteral("vuoto"),
+                          QStringLiteral("Sbagliato: prova ancora. Errati 1")}));
+    costruisci(banco, forma, 18);
+    banco.annunci.nuovi();
+    banco.clicca(forma.PulsanteConferma);
+    QCOMPARE(banco.annunci.nuovi(), QStringList{kGiusto});
+    costruisci(banco, forma, 13);
+    banco.annunci.nuovi();
+    banco.clicca(forma.PulsanteConferma);
+    QCOMPARE(banco.annunci.nuovi(),
+             (QStringList{kGiusto, QStringLiteral("2 decine, 11 unità"), kCambio}));
+    banco.clicca(forma.PulsanteCambio);
+    QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("3 decine, 1 unità")});
+    rispondi(banco, forma, QStringLiteral("31"));
+    QCOMPARE(banco.annunci.nuovi(),
+             (QStringList{QStringLiteral("Giusto. Esatti 1"), QStringLiteral("18 + 13 = 31")}));
+    banco.sorte.scrivi(caso(21, 14));
+    banco.batti(Qt::Key_Space);
+    QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("21 + 14 =")});
+  }
+
+  // The carry's button gets the focus there, and is heard with it.
+  void scannedTheSameIsToldButTheCarrysButton() {
+    Banco banco;
+    somme::FormLUScansione& forma = apriLU(banco, 18, 13);
+    QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
+    QVERIFY(costruisciScandendo(banco, forma, 18));
+    QCOMPARE(banco.annunci.nuovi().last(), kGiusto);
+    QVERIFY(costruisciScandendo(banco, forma, 13));
+    QCOMPARE(banco.annunci.nuovi().mid(4),
+             (QStringList{kGiusto, QStringLiteral("2 decine, 11 unità")}));
+    QVERIFY(forma.PulsanteCambio.hasFocus());
+    banco.batti(Qt::Key_Space);
+    QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("3 decine, 1 unità")});
+    QVERIFY(rispondiScandendo(banco, forma, QStringLiteral("31")));
+    QCOMPARE(banco.annunci.nuovi(),
+             (QStringList{QStringLiteral("3"), QStringLiteral("31"),
+                          QStringLiteral("Giusto. Esatti 1"), QStringLiteral("18 + 13 = 31")}));
+  }
+
+  void touchedTheSumIsToldOnceTheCarryIsDone() {
+    Banco banco;
+    banco.ambiente->stato.TipoEsercizio = kConESenzaCambi;
+    banco.sorte.scrivi(casoHLU(18, 13));
+    apriPronta<somme::FormHLUHK>(banco, somme::forme::kFormHLUHK);
+    QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
+    for (const int unita : {8, 3}) {
+      premi(banco, kTastoDa);
+      premi(banco, kTastoU, unita);
+      premi(banco, kTastoConferma);
+    }
+    const QStringList detti = banco.annunci.nuovi();
+    QCOMPARE(detti.first(), QStringLiteral("1 decina"));
+    QCOMPARE(detti.mid(detti.size() - 3),
+             (QStringList{kGiusto, QStringLiteral("2 decine, 11 unità"), kCambio}));
+    premi(banco, kTastoCambioUDa);
+    QCOMPARE(banco.annunci.nuovi(),
+             (QStringList{QStringLiteral("3 decine, 1 unità"), QStringLiteral("Giusto. Esatti 1"),
+                          QStringLiteral("18 + 13 = 31")}));
+  }
+};
+
+QTEST_MAIN(AnnunciBlocchiTest)
+#include "annunci_blocchi_test.moc"
