@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QEvent>
 
 #include "platform/forms/accessible.h"
 
@@ -33,8 +34,9 @@ void tellDescription(const QDBusConnection& bus, const QString& object, const QS
   bus.send(event);
 }
 
-// The name under which the toolkit keeps its connection, and where its objects are on it. Where it
-// has none, because nobody listens or there is no such bus, there is nothing to be sent.
+// "a11y" is the name under which the toolkit keeps its connection, and the path where its objects
+// are on it. Where it has none, because nobody listens or there is no such bus, nothing is sent. A
+// description that stayed would be read again whenever the focus comes back.
 void tell(QWidget& speaker, const QString& sentence) {
   const QDBusConnection bus(QStringLiteral("a11y"));
   QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&speaker);
@@ -42,19 +44,40 @@ void tell(QWidget& speaker, const QString& sentence) {
   const QString object =
       QStringLiteral("/org/a11y/atspi/accessible/%1").arg(QAccessible::uniqueId(told));
   tellDescription(bus, object, sentence);
-  tellDescription(bus, object, told->text(QAccessible::Description));
+  tellDescription(bus, object, {});
 }
 
 #endif
 
+// Comes after everything that is in the queue, such as what has the focus now.
+constexpr int kLast = Qt::LowEventPriority - 1;
+
 }  // namespace
+
+QtAnnouncer::QtAnnouncer() {
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) {
+    if (now != nullptr) lastFocus_ = now;
+  });
+}
 
 void QtAnnouncer::announce(const QString& sentence) {
   if (!QAccessible::isActive()) return;
+  if (untold_.isEmpty()) QCoreApplication::postEvent(this, new QEvent(QEvent::User), kLast);
+  untold_.append(sentence);
+}
+
+bool QtAnnouncer::event(QEvent* event) {
+  if (event->type() != QEvent::User) return QObject::event(event);
+  speak();
+  return true;
+}
+
+void QtAnnouncer::speak() {
   QWidget* focus = focusSpoken();
-  if (focus != nullptr) speaker_ = focus;
-  if (speaker_ == nullptr) speaker_ = QApplication::activeWindow();
-  if (speaker_ != nullptr) tell(*speaker_, sentence);
+  QWidget* speaker = focus != nullptr ? focus : lastFocus_.data();
+  if (speaker == nullptr) speaker = QApplication::activeWindow();
+  if (speaker != nullptr) tell(*speaker, untold_.join(QStringLiteral(". ")));
+  untold_.clear();
 }
 
 }  // namespace platform

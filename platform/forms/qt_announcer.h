@@ -1,23 +1,34 @@
 #pragma once
 
+#include <QObject>
 #include <QPointer>
+#include <QStringList>
 #include <QWidget>
 
 #include "platform/base/services.h"
 
 namespace platform {
 
-// Speaks through the desktop's screen reader, on behalf of what has the focus. From Qt 6.8 on that
-// is an announcement of the toolkit's. Before, the toolkit has none, and tells of a changed
-// description without its words; so the words go over the toolkit's own connection to the
-// accessibility bus, as the change of a description that does not last: the object's own follows.
-class QtAnnouncer final : public Announcer {
+// Speaks through the desktop's screen reader. What is told while one event is handled is spoken
+// together, once that is over, on behalf of what has the focus then: a screen reader hears nothing
+// else, and the handler that tells a sentence may move the focus afterwards.
+//
+// From Qt 6.8 on it is an announcement of the toolkit's. Before, the toolkit has none, and tells of
+// a changed description without its words; so the words go over the toolkit's own connection to the
+// accessibility bus, as a description that is taken back at once.
+class QtAnnouncer final : public QObject, public Announcer {
  public:
+  QtAnnouncer();
+
   void announce(const QString& sentence) override;
 
+  bool event(QEvent* event) override;
+
  private:
-  // A screen reader hears an object only while it has the focus, or had it last.
-  QPointer<QWidget> speaker_;
+  void speak();
+
+  QStringList untold_;
+  QPointer<QWidget> lastFocus_;  // where nothing has the focus a screen reader is still there
 };
 
 }  // namespace platform

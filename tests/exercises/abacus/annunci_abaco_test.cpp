@@ -57,7 +57,7 @@ class AnnunciAbacoTest : public QObject {
     banco.tasto(BancoHK::kUnita, 2);
     QCOMPARE(banco.annunci.nuovi().last(), QStringLiteral("4 decine, 2 unità"));
     banco.tasto(BancoHK::kConferma);
-    QCOMPARE(banco.annunci.nuovi(), (QStringList{kGiusto, QStringLiteral("27 + 15 = 42")}));
+    QCOMPARE(banco.annunci.nuovi(), (QStringList{kGiusto, QStringLiteral("27 + 15 = 42.")}));
     banco.tasto(BancoHK::kCestino);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("vuoto")});
     banco.sorte.scrivi(BancoHK::caso(3, 35, 21));

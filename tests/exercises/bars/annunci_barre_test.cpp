@@ -52,7 +52,7 @@ class AnnunciBarreTest : public QObject {
     Banco banco;
     banco.ambiente->stato.LimiteEsercizio = 10;
     auto& forma = banco.apri<FormBarre10>(somme::forme::kFormBarre10);
-    banco.annunci.nuovi();
+    banco.annunci.detti.clear();
     // The first addend of 0 + 5 is asked for: no square stands under its bar.
     banco.sorte.scrivi({{1, 2}, {4, 10}, {0, 5}});
     forma.mnuGiallaVerde.click();

@@ -250,7 +250,7 @@ class FormBarre10Test : public QObject {
     Banco banco;
     FormBarre10& forma = apriBarre10(banco, 7, 3);
     forma.PulsanteNumero[5].setFocus();
-    banco.annunci.nuovi();
+    banco.annunci.detti.clear();
     banco.batti(Qt::Key_Return);
     QCOMPARE(banco.annunci.nuovi(),
              QStringList{QStringLiteral("Sbagliato: prova ancora. Errati 1")});

@@ -7,10 +7,10 @@ using namespace prova;
 
 namespace {
 
-constexpr int kTastoDa = 2;
-constexpr int kTastoU = 3;
-constexpr int kTastoCambioUDa = 6;
-constexpr int kTastoConferma = 8;
+constexpr int kSulFoglioDa = 2;
+constexpr int kSulFoglioU = 3;
+constexpr int kSulFoglioCambio = 6;
+constexpr int kSulFoglioConferma = 8;
 
 const QString kGiusto = QStringLiteral("Giusto");
 const QString kCambio = QStringLiteral("Cambia dieci unità in una decina");
@@ -39,11 +39,11 @@ class AnnunciBlocchiTest : public QObject {
                           QStringLiteral("vuoto"),
                           QStringLiteral("Sbagliato: prova ancora. Errati 1")}));
     costruisci(banco, forma, 18);
-    banco.annunci.nuovi();
+    banco.annunci.detti.clear();
     banco.clicca(forma.PulsanteConferma);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kGiusto});
     costruisci(banco, forma, 13);
-    banco.annunci.nuovi();
+    banco.annunci.detti.clear();
     banco.clicca(forma.PulsanteConferma);
     QCOMPARE(banco.annunci.nuovi(),
              (QStringList{kGiusto, QStringLiteral("2 decine, 11 unità"), kCambio}));
@@ -83,15 +83,15 @@ class AnnunciBlocchiTest : public QObject {
     apriPronta<somme::FormHLUHK>(banco, somme::forme::kFormHLUHK);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
     for (const int unita : {8, 3}) {
-      premi(banco, kTastoDa);
-      premi(banco, kTastoU, unita);
-      premi(banco, kTastoConferma);
+      premi(banco, kSulFoglioDa);
+      premi(banco, kSulFoglioU, unita);
+      premi(banco, kSulFoglioConferma);
     }
     const QStringList detti = banco.annunci.nuovi();
     QCOMPARE(detti.first(), QStringLiteral("1 decina"));
     QCOMPARE(detti.mid(detti.size() - 3),
              (QStringList{kGiusto, QStringLiteral("2 decine, 11 unità"), kCambio}));
-    premi(banco, kTastoCambioUDa);
+    premi(banco, kSulFoglioCambio);
     QCOMPARE(banco.annunci.nuovi(),
              (QStringList{QStringLiteral("3 decine, 1 unità"), QStringLiteral("Giusto. Esatti 1"),
                           QStringLiteral("18 + 13 = 31")}));

@@ -96,7 +96,7 @@ class AccessibleTest : public QObject {
   void theDesktopsAnnouncerDoesNoHarmWhereNobodyListens() {
     Stage stage;
     TrialForm& form = stage.show(kOne);
-    QtAnnouncer announcer;
+    platform::QtAnnouncer announcer;
     announcer.announce(QStringLiteral("Before any focus"));
     form.First.setFocus();
     announcer.announce(QStringLiteral("Right"));

@@ -1,0 +1,167 @@
+#!/usr/bin/python3
+"""Plays exercises as gioca.py does, with the screen reader Orca listening, and holds what it says
+against what it should.
+
+    ascoltata.py <program> <folder> <stand-in for the touch surface> [<exercise> ...]
+
+Without an exercise all of them are played. On every form the question of each case must be spoken,
+and each verdict with its count: within 300 ms of the key, click or touch, and not cut off by
+anything but the next of these. The folder gets what was said, a file an exercise. Ends with 0 when
+all was heard.
+"""
+
+import contextlib
+import os
+import re
+import signal
+import sys
+import tempfile
+import time
+
+from giocatore import AVVIO, ERRATI, ESATTI, Errore, Giocatore
+from lettore import ErroreLettore, Lettore
+from partite import PARTITE
+from schermo import ErroreSchermo, Schermo
+from tavoletta import ErroreTavoletta, Tavoletta
+
+GIUSTO, SBAGLIATO = "Giusto", "Sbagliato: prova ancora"
+ENTRO = float(os.environ.get("ASCOLTATA_ENTRO", "0.3"))  # seconds; more on a machine that is busy
+AL_PIU = 12  # events of the accessibility bus at a verdict
+ASPETTA = 15  # seconds
+
+
+class Gesti(list):
+    """The moments at which the pupil's hands did something, seconds."""
+
+    def segna(self, oggetto, nome):
+        """Has every call of a method mark its moment."""
+        metodo = getattr(oggetto, nome)
+
+        def segnato(*argomenti):
+            self.append(time.monotonic())
+            return metodo(*argomenti)
+        setattr(oggetto, nome, segnato)
+
+
+class GiocatoreAscoltato(Giocatore):
+    """Plays, and hears at each step what must be heard."""
+
+    def __init__(self, *argomenti):
+        super().__init__(*argomenti[:-1])
+        self._lettore = argomenti[-1]
+        self._gesti = Gesti()
+        self.misure = []  # (what, milliseconds from the hand to the voice, events)
+        self.mancati = []
+        self._udite = 0
+        for oggetto, nome in ((self.mani, "_xdotool"), (self.tavoletta, "fai")):
+            if oggetto is not None:
+                self._gesti.segna(oggetto, nome)
+
+    def chiesta(self, leggi=None):
+        termini = super().chiesta(leggi)
+        numeri = [t or None for t in termini]
+        parole = [n for n in numeri if n]
+
+        def domanda(detto):
+            return "=" in detto and re.findall(r"\d+", detto.partition(". Trova")[0]) == parole
+        self._deve_udire("question", domanda)
+        return termini
+
+    def contano(self, esatti, errati):
+        super().contano(esatti, errati)
+        self._deve_udire("verdict", lambda d: f"{GIUSTO}. {ESATTI} {esatti}" in d)
+
+    def rispondi(self, risposta, dai, giusto):
+        super().rispondi(risposta, dai, giusto)
+        parola, conto = (GIUSTO, ESATTI) if giusto else (SBAGLIATO, ERRATI)
+        self._deve_udire("verdict", lambda d: f"{parola}. {conto} {self.conta(conto)}" in d)
+
+    def _deve_udire(self, che_cosa, vero):
+        """Looks for it among what has been said since the last thing that was found."""
+        fine = time.monotonic() + ASPETTA
+        while True:
+            detto = self._lettore.detto()
+            for i in range(self._udite, len(detto)):
+                if detto[i][1] == "say" and vero(detto[i][2]):
+                    self._udite = i + 1
+                    self._misura(che_cosa, detto, i)
+                    return
+            if time.monotonic() > fine:
+                self.mancati.append(f"{che_cosa} of {self.forme[-1]} was not spoken")
+                return
+            time.sleep(0.05)
+
+    def _misura(self, che_cosa, detto, i):
+        quando, _, parole = detto[i]
+        gesto = max((g for g in self._gesti if g < quando), default=quando)
+        time.sleep(0.5)
+        eventi = [cosa for t, cosa in self._lettore.eventi(self.albero.processo)
+                  if gesto <= t <= quando + 0.5]
+        print(f"Heard:    {parole!r} after {1000 * (quando - gesto):.0f} ms,"
+              f" {len(eventi)} events")
+        self.misure.append((che_cosa, quando - gesto, eventi))
+        fermata = next((t for t, verbo, _ in self._lettore.detto()[i + 1:] if verbo == "stop"), None)
+        if fermata and not any(quando < g <= fermata for g in self._gesti):
+            self.mancati.append(f"{parole!r} was cut off by the reader itself")
+        if che_cosa != "verdict":
+            return
+        if quando - gesto > ENTRO:
+            self.mancati.append(f"{parole!r} came after {quando - gesto:.3f} s")
+        if len(eventi) > AL_PIU:
+            conti = ", ".join(f"{eventi.count(e)} {e}" for e in sorted(set(eventi)))
+            self.mancati.append(f"{parole!r}: {len(eventi)} events: {conti}")
+
+
+def scrivi(percorso, lettore):
+    """What was said, from the first word on."""
+    detto = lettore.detto()
+    with open(percorso, "w", encoding="utf-8") as foglio:
+        for quando, verbo, parole in detto:
+            foglio.write(f"{quando - detto[0][0]:9.3f}  {'' if verbo == 'say' else '--'}{parole}\n")
+
+
+def ascolta(programma, cartella, tavoletta, nome):
+    """One exercise, from the start of the program to its end. Returns what was not as it should."""
+    partita = PARTITE[nome]
+    superficie = Tavoletta(tavoletta) if partita.a_tocchi else contextlib.nullcontext()
+    with tempfile.TemporaryDirectory() as sua, Schermo() as schermo, superficie as tocchi:
+        from albero import Albero, TempoScaduto
+        lettore = Lettore(schermo, sua)
+        processo = schermo.avvia(schermo.copia(programma))
+        giocatore = GiocatoreAscoltato(schermo, Albero(processo), os.path.join(cartella, nome),
+                                       tocchi, lettore)
+        try:
+            giocatore.vai(AVVIO)
+            partita.gioca(giocatore)
+            giocatore.chiudi(processo)
+        except (TempoScaduto, Errore, ErroreTavoletta) as errore:
+            giocatore.mancati.append(f"on {giocatore.forme[-1:] or AVVIO}: {errore}")
+            giocatore.fotografa("errore")
+        scrivi(os.path.join(cartella, nome + ".txt"), lettore)
+    return giocatore.mancati
+
+
+def main():
+    if len(sys.argv) < 4 or not {*sys.argv[4:]} <= {*PARTITE}:
+        print(__doc__, file=sys.stderr)
+        print("Exercises: " + ", ".join(PARTITE), file=sys.stderr)
+        return 2
+    programma, cartella, tavoletta = sys.argv[1:4]
+    os.makedirs(cartella, exist_ok=True)
+    sys.stdout.reconfigure(line_buffering=True)
+    # Ended from outside, it still leaves through the end of the Schermo.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    guai = []
+    for nome in sys.argv[4:] or PARTITE:
+        print(f"Exercise: {nome}")
+        try:
+            guai += [f"{nome}: {guaio}" for guaio in ascolta(programma, cartella, tavoletta, nome)]
+        except (ErroreSchermo, ErroreTavoletta, ErroreLettore) as errore:
+            guai.append(f"{nome}: {errore}")
+    for guaio in guai:
+        print(f"Failed: {guaio}", file=sys.stderr)
+    return 1 if guai else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
