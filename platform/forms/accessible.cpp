@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/forms/accessible_events.h"
 #include "platform/forms/accessible_text_box.h"
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/image_widget.h"
@@ -209,6 +210,7 @@ bool StatesToldLater::holds() {
 
 void installAccessibility() {
   QAccessible::installFactory(interfaceFor);
+  installAccessibleEvents();
 }
 
 }  // namespace platform

@@ -27,6 +27,7 @@ from tavoletta import ErroreTavoletta, Tavoletta
 GIUSTO, SBAGLIATO = "Giusto", "Sbagliato: prova ancora"
 ENTRO = float(os.environ.get("ASCOLTATA_ENTRO", "0.3"))  # seconds; more on a machine that is busy
 AL_PIU = 12  # events of the accessibility bus at a verdict
+VECCHIO = "Focus:"  # tells a change of the focus again, in older words
 ASPETTA = 15  # seconds
 
 
@@ -96,7 +97,7 @@ class GiocatoreAscoltato(Giocatore):
         gesto = max((g for g in self._gesti if g < quando), default=quando)
         time.sleep(0.5)
         eventi = [cosa for t, cosa in self._lettore.eventi(self.albero.processo)
-                  if gesto <= t <= quando + 0.5]
+                  if gesto <= t <= quando + 0.5 and not cosa.startswith(VECCHIO)]
         print(f"Heard:    {parole!r} after {1000 * (quando - gesto):.0f} ms,"
               f" {len(eventi)} events")
         self.misure.append((che_cosa, quando - gesto, eventi))

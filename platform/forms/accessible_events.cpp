@@ -1,0 +1,116 @@
+#include "platform/forms/accessible_events.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+// The toolkit hands an event to its handler or to the desktop, never to both.
+void passToDesktop(QAccessibleEvent& event) {
+  QAccessible::installUpdateHandler(nullptr);
+  QAccessible::updateAccessibility(&event);
+  QAccessible::installUpdateHandler(hearAccessibleEvent);
+}
+
+struct Held {
+  std::function<void(QAccessibleEvent&)> pass;
+  QPointer<QWidget> focus;  // has come to the focus since this event began; null for none
+  // Enabled or disabled while they were hidden, and not told.
+  std::vector<QPointer<QWidget>> changedUnseen;
+};
+
+Held& held() {
+  static Held all;
+  return all;
+}
+
+// Only the last place of the focus is told.
+void holdFocus(QWidget& widget) {
+  const bool waiting = held().focus != nullptr;
+  held().focus = &widget;
+  if (waiting) return;
+  QMetaObject::invokeMethod(
+      qApp,
+      [] {
+        QWidget* last = std::exchange(held().focus, nullptr);
+        if (last == nullptr) return;
+        QAccessibleEvent event(last, QAccessible::Focus);
+        held().pass(event);
+      },
+      Qt::QueuedConnection);
+}
+
+bool isAboutText(QAccessible::Event type) {
+  switch (type) {
+    case QAccessible::TextCaretMoved:
+    case QAccessible::TextInserted:
+    case QAccessible::TextRemoved:
+    case QAccessible::TextUpdated:
+    case QAccessible::TextSelectionChanged:
+    case QAccessible::ValueChanged:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// Who was enabled and disabled again has nothing to tell.
+void noteUnseen(QWidget& widget) {
+  std::vector<QPointer<QWidget>>& changed = held().changedUnseen;
+  const auto known = std::find(changed.begin(), changed.end(), &widget);
+  if (known == changed.end()) {
+    changed.emplace_back(&widget);
+  } else {
+    changed.erase(known);
+  }
+}
+
+void tellUnseen(QWidget& widget) {
+  if (std::erase(held().changedUnseen, &widget) == 0) return;
+  QAccessible::State state;
+  state.disabled = true;  // which one has changed, not how it is
+  QAccessibleStateChangeEvent event(&widget, state);
+  held().pass(event);
+}
+
+// True for an event of something hidden that is not told, or not yet.
+bool keepUnseen(QWidget& widget, QAccessibleEvent& event) {
+  if (widget.isVisible()) return false;
+  if (isAboutText(event.type())) return true;
+  if (event.type() != QAccessible::StateChanged) return false;
+  const auto& change = static_cast<const QAccessibleStateChangeEvent&>(event);
+  if (!change.changedStates().disabled) return false;
+  noteUnseen(widget);
+  return true;
+}
+
+}  // namespace
+
+void hearAccessibleEvent(QAccessibleEvent* event) {
+  auto* widget = qobject_cast<QWidget*>(event->object());
+  const bool whole = widget != nullptr && event->child() < 0;
+  if (event->type() == QAccessible::Focus) {
+    held().focus = whole ? held().focus : nullptr;
+    if (whole) {
+      holdFocus(*widget);
+      return;
+    }
+  }
+  if (whole && keepUnseen(*widget, *event)) return;
+  held().pass(*event);
+  if (whole && event->type() == QAccessible::ObjectShow) tellUnseen(*widget);
+}
+
+void installAccessibleEvents(std::function<void(QAccessibleEvent& event)> pass) {
+  held() = {.pass = pass ? std::move(pass) : passToDesktop};
+  QAccessible::installUpdateHandler(hearAccessibleEvent);
+}
+
+}  // namespace platform

@@ -1,0 +1,108 @@
+#include "platform/forms/accessible_events.h"
+
+#include <QAccessible>
+#include <QLineEdit>
+#include <QTest>
+
+using Told = std::vector<std::pair<QObject*, QAccessible::Event>>;
+
+// What assistive technology gets of what the toolkit tells.
+class AccessibleEventsTest : public QObject {
+  Q_OBJECT
+
+ private:
+  Told told_;
+
+  [[nodiscard]] int count(QObject* object, QAccessible::Event type) const {
+    return int(std::count(told_.begin(), told_.end(), std::pair(object, type)));
+  }
+
+  // As the toolkit does.
+  static void happens(QObject& object, QAccessible::Event type) {
+    QAccessibleEvent event(&object, type);
+    platform::hearAccessibleEvent(&event);
+  }
+  static void disables(QWidget& widget, bool disabled) {
+    widget.setDisabled(disabled);
+    QAccessible::State state;
+    state.disabled = true;
+    QAccessibleStateChangeEvent event(&widget, state);
+    platform::hearAccessibleEvent(&event);
+  }
+
+ private Q_SLOTS:
+  void init() {
+    told_.clear();
+    platform::installAccessibleEvents(
+        [this](QAccessibleEvent& event) { told_.emplace_back(event.object(), event.type()); });
+  }
+
+  void ofAFocusThatWandersOnlyTheLastPlaceIsTold() {
+    QWidget window;
+    QLineEdit one(&window);
+    QLineEdit two(&window);
+    window.show();
+    happens(one, QAccessible::Focus);
+    happens(two, QAccessible::Focus);
+    happens(one, QAccessible::Focus);
+    happens(two, QAccessible::Focus);
+    QVERIFY(told_.empty());
+    QCoreApplication::processEvents();
+    QCOMPARE(told_, (Told{{&two, QAccessible::Focus}}));
+    happens(one, QAccessible::Focus);
+    QCoreApplication::processEvents();
+    QCOMPARE(count(&one, QAccessible::Focus), 1);
+  }
+
+  void theFocusOfSomethingThatHasGoneMeanwhileIsNotTold() {
+    QWidget window;
+    auto* box = new QLineEdit(&window);
+    window.show();
+    happens(*box, QAccessible::Focus);
+    delete box;
+    QCoreApplication::processEvents();
+    QVERIFY(told_.empty());
+  }
+
+  void theTextOfAHiddenBoxIsNotToldAndThatOfAShownOneIs() {
+    QWidget window;
+    QLineEdit hidden(&window);
+    QLineEdit shown(&window);
+    hidden.hide();
+    window.show();
+    for (QLineEdit* box : {&hidden, &shown}) {
+      happens(*box, QAccessible::TextCaretMoved);
+      happens(*box, QAccessible::ValueChanged);
+    }
+    QCOMPARE(told_,
+             (Told{{&shown, QAccessible::TextCaretMoved}, {&shown, QAccessible::ValueChanged}}));
+    // Names and descriptions are remembered by whoever listens.
+    happens(hidden, QAccessible::NameChanged);
+    QCOMPARE(count(&hidden, QAccessible::NameChanged), 1);
+  }
+
+  void whatWasDisabledWhileItWasHiddenTellsItWhenItComes() {
+    QWidget window;
+    QLineEdit box(&window);
+    QLineEdit other(&window);
+    box.hide();
+    other.hide();
+    window.show();
+    disables(box, true);
+    disables(other, true);
+    disables(other, false);
+    QVERIFY(told_.empty());
+    for (QLineEdit* shown : {&box, &other}) {
+      shown->show();
+      happens(*shown, QAccessible::ObjectShow);
+    }
+    QCOMPARE(told_, (Told{{&box, QAccessible::ObjectShow},
+                          {&box, QAccessible::StateChanged},
+                          {&other, QAccessible::ObjectShow}}));
+    disables(box, false);
+    QCOMPARE(count(&box, QAccessible::StateChanged), 2);
+  }
+};
+
+QTEST_MAIN(AccessibleEventsTest)
+#include "accessible_events_test.moc"
