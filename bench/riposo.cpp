@@ -67,8 +67,8 @@ class Riposo {
  public:
   explicit Riposo(const QString& cartella)
       : stampanti_(tempo_),
-        ambiente_({tempo_, sorte_, suono_, messaggi_, documenti_, fine_, istanza_, stampanti_,
-                   pagina_, rete_, cartella},
+        ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
+                   stampanti_, pagina_, rete_, cartella},
                   [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
     if (!tavoletta_.Ascolta(0)) std::exit(1);
     ambiente_.servizi.porta = tavoletta_.Porta();
@@ -127,6 +127,7 @@ class Riposo {
   platform::SeededChance sorte_{1};
   platform::SdlSound suono_{QApplication::beep};
   bench::Zitto messaggi_;
+  bench::Tacito annunci_;
   bench::Chiuso documenti_;
   bench::Uscita fine_;
   bench::Solo istanza_;
