@@ -69,9 +69,15 @@ class GiocatoreAscoltato(Giocatore):
         self._deve_udire("question", domanda)
         return termini
 
+    def collega(self):
+        # Whoever hears the box and the question behind it answers when both have been said.
+        time.sleep(3)
+        super().collega()
+
     def contano(self, esatti, errati):
         super().contano(esatti, errati)
-        self._deve_udire("verdict", lambda d: f"{GIUSTO}. {ESATTI} {esatti}" in d)
+        # After boards and carries, which take seconds of their own.
+        self._deve_udire("verdict at the end", lambda d: f"{GIUSTO}. {ESATTI} {esatti}" in d)
 
     def rispondi(self, risposta, dai, giusto):
         super().rispondi(risposta, dai, giusto)
