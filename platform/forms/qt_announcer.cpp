@@ -49,8 +49,11 @@ void tell(QWidget& speaker, const QString& sentence) {
 
 #endif
 
-// Comes after everything that is in the queue, such as what has the focus now.
+// Comes after everything that is in the queue.
 constexpr int kLast = Qt::LowEventPriority - 1;
+// How often: what has the focus is told from the queue, and a key panel tells from there what it
+// points at, which is then told from the queue again.
+constexpr int kRounds = 2;
 
 }  // namespace
 
@@ -62,14 +65,23 @@ QtAnnouncer::QtAnnouncer() {
 
 void QtAnnouncer::announce(const QString& sentence) {
   if (!QAccessible::isActive()) return;
-  if (untold_.isEmpty()) QCoreApplication::postEvent(this, new QEvent(QEvent::User), kLast);
+  if (untold_.isEmpty()) waitRound(kRounds);
   untold_.append(sentence);
 }
 
 bool QtAnnouncer::event(QEvent* event) {
   if (event->type() != QEvent::User) return QObject::event(event);
-  speak();
+  if (rounds_ > 0) {
+    waitRound(rounds_);
+  } else {
+    speak();
+  }
   return true;
+}
+
+void QtAnnouncer::waitRound(int rounds) {
+  rounds_ = rounds - 1;
+  QCoreApplication::postEvent(this, new QEvent(QEvent::User), kLast);
 }
 
 void QtAnnouncer::speak() {

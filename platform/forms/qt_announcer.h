@@ -25,9 +25,11 @@ class QtAnnouncer final : public QObject, public Announcer {
   bool event(QEvent* event) override;
 
  private:
+  void waitRound(int rounds);
   void speak();
 
   QStringList untold_;
+  int rounds_ = 0;               // of the queue that are waited for after the next
   QPointer<QWidget> lastFocus_;  // where nothing has the focus a screen reader is still there
 };
 

@@ -55,14 +55,18 @@ class GiocatoreAscoltato(Giocatore):
         self.misure = []  # (what, milliseconds from the hand to the voice, events)
         self.mancati = []
         self._udite = 0
+        self._domanda = None
         for oggetto, nome in ((self.mani, "_xdotool"), (self.tavoletta, "fai")):
             if oggetto is not None:
                 self._gesti.segna(oggetto, nome)
 
     def chiesta(self, leggi=None):
         termini = super().chiesta(leggi)
-        numeri = [t or None for t in termini]
-        parole = [n for n in numeri if n]
+        parole = [t for t in termini if t]
+        # Read again in the middle of a case, a sum has been spoken at its beginning.
+        if (self.forme[-1], parole) == self._domanda:
+            return termini
+        self._domanda = self.forme[-1], parole
 
         def domanda(detto):
             return "=" in detto and re.findall(r"\d+", detto.partition(". Trova")[0]) == parole
