@@ -80,8 +80,10 @@ class GiocatoreAscoltato(Giocatore):
 
     def contano(self, esatti, errati):
         super().contano(esatti, errati)
-        # After boards and carries, which take seconds of their own.
-        self._deve_udire("verdict at the end", lambda d: f"{GIUSTO}. {ESATTI} {esatti}" in d)
+        frase = f"{GIUSTO}. {ESATTI} {esatti}"
+        if not any(frase in parole for _, _, parole in self._lettore.detto()):
+            # After boards and carries, which take seconds of their own.
+            self._deve_udire("verdict at the end", lambda d: frase in d)
 
     def rispondi(self, risposta, dai, giusto):
         super().rispondi(risposta, dai, giusto)
