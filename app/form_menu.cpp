@@ -146,7 +146,12 @@ void FormMenu::onLoad() {
 
 void FormMenu::onActivate() {
   paintGradient();
-  Command6.setVisible(stato().ModalitaInput == kMouseTastiera);
+  OffriTabella();
+}
+
+// A family that cannot be answered in the chosen way is not offered.
+void FormMenu::OffriTabella() {
+  Command6.setVisible(SiOffre(ambiente().forme, Famiglia::Tabella, ModoDi(stato().ModalitaInput)));
 }
 
 void FormMenu::MLSFillMenuLanguages() {
@@ -187,7 +192,7 @@ void FormMenu::ScegliModalita(int indice) {
   stato().ModalitaInput = static_cast<qint16>(indice);
   mnuInput.forEach([](platform::MenuItem& voce) { voce.setChecked(false); });
   mnuInput[indice].setChecked(true);
-  Command6.setVisible(indice == kMouseTastiera);
+  OffriTabella();
 }
 
 void FormMenu::ApriTempoScansione() {

@@ -56,6 +56,7 @@ class FormMenu final : public Forma {
   void CollegaMenu();
   void InvertiSuoni();
   void InvertiCursore();
+  void OffriTabella();
   void ScegliModalita(int indice);
   void ApriTempoScansione();
   void CambiaTempo();

@@ -25,7 +25,7 @@ void FormaMenu::Apre(platform::Button& pulsante, Famiglia famiglia, std::functio
   livelli_.add(pulsante, FasciaDi(pulsante));
   pulsante.onClick([this, famiglia, scelta = std::move(scelta)] {
     scelta();
-    VaiA(Strada(famiglia, stato().ModalitaInput));
+    VaiA(Strada(this->ambiente().forme, famiglia, ModoDi(stato().ModalitaInput)));
   });
 }
 

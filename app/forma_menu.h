@@ -3,7 +3,6 @@
 #include <functional>
 
 #include "app/shared/forma.h"
-#include "app/strade.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/button_group.h"
 #include "platform/forms/controls/caption_size.h"

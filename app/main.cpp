@@ -60,7 +60,7 @@ int main(int /*argc*/, char* argv[]) {
        QCoreApplication::applicationDirPath(),
        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/somme")},
-      [&tutto](std::string_view nome) { return somme::CreaForma(*tutto, nome); });
+      somme::LeForme());
   tutto = &ambiente;
   const platform::SessionEnd fineSessione(ambiente.fondo);
 

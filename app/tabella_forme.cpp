@@ -48,69 +48,118 @@ namespace somme {
 
 namespace {
 
-struct Voce {
-  std::string_view nome;
-  std::shared_ptr<platform::Form> (*crea)(Ambiente& ambiente);
-};
-
 template <class F>
 std::shared_ptr<platform::Form> Crea(Ambiente& ambiente) {
   return std::make_shared<F>(ambiente);
 }
 
-constexpr auto kForme = std::to_array<Voce>({
-    {forme::kFormAvvio, Crea<FormAvvio>},
-    {forme::kFormInfo, Crea<FormInfo>},
-    {forme::kFormMenu, Crea<FormMenu>},
-    {forme::kFormMenuNumeri, Crea<FormMenuNumeri>},
-    {forme::kFormMenuAbaco, Crea<FormMenuAbaco>},
-    {forme::kFormMenuPLU, Crea<FormMenuPLU>},
-    {forme::kFormMenuBarre, Crea<FormMenuBarre>},
-    {forme::kFormMenuTabella, Crea<FormMenuTabella>},
-    {forme::kFormNumeriTotale, Crea<FormNumeriTotale>},
-    {forme::kFormNumeriTotaleScansione, Crea<FormNumeriTotaleScansione>},
-    {forme::kFormNumeriTotaleHK, Crea<FormNumeriTotaleHK>},
-    {forme::kFormNumeriAddendo, Crea<FormNumeriAddendo>},
-    {forme::kFormNumeriAddendoScansione, Crea<FormNumeriAddendoScansione>},
-    {forme::kFormNumeriAddendoHK, Crea<FormNumeriAddendoHK>},
-    {forme::kFormBarre10, Crea<FormBarre10>},
-    {forme::kFormBarre10Tastiera, Crea<FormBarre10Tastiera>},
-    {forme::kFormBarre10Scansione, Crea<FormBarre10Scansione>},
-    {forme::kFormBarre10HK, Crea<FormBarre10HK>},
-    {forme::kFormBarre20, Crea<FormBarre20>},
-    {forme::kFormBarre20Scansione, Crea<FormBarre20Scansione>},
-    {forme::kFormBarre20HK, Crea<FormBarre20HK>},
-    {forme::kFormLU, Crea<FormLU>},
-    {forme::kFormLUScansione, Crea<FormLUScansione>},
-    {forme::kFormLUHK, Crea<FormLUHK>},
-    {forme::kFormHLU, Crea<FormHLU>},
-    {forme::kFormHLUScansione, Crea<FormHLUScansione>},
-    {forme::kFormHLUHK, Crea<FormHLUHK>},
-    {forme::kFormAbaco, Crea<FormAbaco>},
-    {forme::kFormAbacoScansione, Crea<FormAbacoScansione>},
-    {forme::kFormAbacoHK, Crea<FormAbacoHK>},
-    {forme::kFormTabella, Crea<FormTabella>},
-    {forme::kFormStampaFoglioNumeri, Crea<FormStampaFoglioNumeri>},
-    {forme::kFormStampaFoglioNumeri2, Crea<FormStampaFoglioNumeri2>},
-    {forme::kFormStampaLU, Crea<FormStampaLU>},
-    {forme::kFormStampaPLU, Crea<FormStampaPLU>},
-    {forme::kFormStampaAbaco, Crea<FormStampaAbaco>},
-    {forme::kFormStampaFoglio4, Crea<FormStampaFoglio4>},
-    {forme::kFormStampaFoglio1, Crea<FormStampaFoglio1>},
-    {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>},
+template <class F>
+constexpr SchedaForma Pagina(std::string_view nome) {
+  return {nome, Crea<F>, Genere::Pagina};
+}
+template <class F>
+constexpr SchedaForma Menu(std::string_view nome) {
+  return {nome, Crea<F>, Genere::Menu};
+}
+template <class F>
+constexpr SchedaForma Foglio(std::string_view nome, Genere genere = Genere::Foglio) {
+  return {nome, Crea<F>, genere};
+}
+
+// What the forms of a family in one range have in common.
+struct Percorso {
+  Famiglia famiglia;
+  qint32 portata;
+  std::string_view menu;
+};
+constexpr Percorso kNumeriTotale{Famiglia::NumeriTotale, 9999, forme::kFormMenuNumeri};
+constexpr Percorso kNumeriAddendo{Famiglia::NumeriAddendo, 20, forme::kFormMenuNumeri};
+constexpr Percorso kBarre10{Famiglia::Barre10, 10, forme::kFormMenuBarre};
+constexpr Percorso kBarre20{Famiglia::Barre20, 20, forme::kFormMenuBarre};
+constexpr Percorso kBlocchiDecine{Famiglia::BlocchiDecine, 99, forme::kFormMenuPLU};
+constexpr Percorso kBlocchiCentinaia{Famiglia::BlocchiCentinaia, 999, forme::kFormMenuPLU};
+constexpr Percorso kAbaco{Famiglia::Abaco, 9999, forme::kFormMenu};
+constexpr Percorso kTabella{Famiglia::Tabella, 99, forme::kFormMenuTabella};
+
+template <class F>
+constexpr SchedaForma Esercizio(std::string_view nome, const Percorso& percorso,
+                                Modo modo = Modo::MouseTastiera, std::string_view foglio = {}) {
+  return {nome,          Crea<F>, Genere::Esercizio, percorso.famiglia, percorso.portata, modo,
+          percorso.menu, foglio};
+}
+
+constexpr auto kForme = std::to_array<SchedaForma>({
+    Pagina<FormAvvio>(forme::kFormAvvio),
+    Pagina<FormInfo>(forme::kFormInfo),
+    Pagina<FormMenu>(forme::kFormMenu),
+    Menu<FormMenuNumeri>(forme::kFormMenuNumeri),
+    Menu<FormMenuAbaco>(forme::kFormMenuAbaco),
+    Menu<FormMenuPLU>(forme::kFormMenuPLU),
+    Menu<FormMenuBarre>(forme::kFormMenuBarre),
+    Menu<FormMenuTabella>(forme::kFormMenuTabella),
+    Esercizio<FormNumeriTotale>(forme::kFormNumeriTotale, kNumeriTotale),
+    Esercizio<FormNumeriTotaleScansione>(forme::kFormNumeriTotaleScansione, kNumeriTotale,
+                                         Modo::Scansione),
+    Esercizio<FormNumeriTotaleHK>(forme::kFormNumeriTotaleHK, kNumeriTotale, Modo::Tocco,
+                                  forme::kFormStampaFoglioNumeri2),
+    Esercizio<FormNumeriAddendo>(forme::kFormNumeriAddendo, kNumeriAddendo),
+    Esercizio<FormNumeriAddendoScansione>(forme::kFormNumeriAddendoScansione, kNumeriAddendo,
+                                          Modo::Scansione),
+    Esercizio<FormNumeriAddendoHK>(forme::kFormNumeriAddendoHK, kNumeriAddendo, Modo::Tocco,
+                                   forme::kFormStampaFoglioNumeri2),
+    Esercizio<FormBarre10>(forme::kFormBarre10, kBarre10),
+    Esercizio<FormBarre10Tastiera>(forme::kFormBarre10Tastiera, kBarre10),
+    Esercizio<FormBarre10Scansione>(forme::kFormBarre10Scansione, kBarre10, Modo::Scansione),
+    Esercizio<FormBarre10HK>(forme::kFormBarre10HK, kBarre10, Modo::Tocco,
+                             forme::kFormStampaFoglioNumeri),
+    Esercizio<FormBarre20>(forme::kFormBarre20, kBarre20),
+    Esercizio<FormBarre20Scansione>(forme::kFormBarre20Scansione, kBarre20, Modo::Scansione),
+    Esercizio<FormBarre20HK>(forme::kFormBarre20HK, kBarre20, Modo::Tocco,
+                             forme::kFormStampaFoglioNumeri),
+    Esercizio<FormLU>(forme::kFormLU, kBlocchiDecine),
+    Esercizio<FormLUScansione>(forme::kFormLUScansione, kBlocchiDecine, Modo::Scansione),
+    Esercizio<FormLUHK>(forme::kFormLUHK, kBlocchiDecine, Modo::Tocco, forme::kFormStampaLU),
+    Esercizio<FormHLU>(forme::kFormHLU, kBlocchiCentinaia),
+    Esercizio<FormHLUScansione>(forme::kFormHLUScansione, kBlocchiCentinaia, Modo::Scansione),
+    Esercizio<FormHLUHK>(forme::kFormHLUHK, kBlocchiCentinaia, Modo::Tocco, forme::kFormStampaPLU),
+    Esercizio<FormAbaco>(forme::kFormAbaco, kAbaco),
+    Esercizio<FormAbacoScansione>(forme::kFormAbacoScansione, kAbaco, Modo::Scansione),
+    Esercizio<FormAbacoHK>(forme::kFormAbacoHK, kAbaco, Modo::Tocco, forme::kFormStampaAbaco),
+    Esercizio<FormTabella>(forme::kFormTabella, kTabella),
+    Foglio<FormStampaFoglioNumeri>(forme::kFormStampaFoglioNumeri),
+    Foglio<FormStampaFoglioNumeri2>(forme::kFormStampaFoglioNumeri2),
+    Foglio<FormStampaLU>(forme::kFormStampaLU),
+    Foglio<FormStampaPLU>(forme::kFormStampaPLU),
+    Foglio<FormStampaAbaco>(forme::kFormStampaAbaco),
+    Foglio<FormStampaFoglio4>(forme::kFormStampaFoglio4, Genere::Calibrazione),
+    Foglio<FormStampaFoglio1>(forme::kFormStampaFoglio1, Genere::Calibrazione),
+    {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>, Genere::Dialogo},
 });
+
+// Rows that contradict one another do not compile.
+constexpr bool SiTiene(const SchedaForma& scheda) {
+  const bool esercizio = scheda.genere == Genere::Esercizio;
+  if (esercizio != (scheda.famiglia != Famiglia::Nessuna)) return false;
+  if (esercizio != (scheda.portata > 0)) return false;
+  if (esercizio && SchedaDi(kForme, scheda.menu).crea == nullptr) return false;
+  if ((scheda.modo == Modo::Tocco) == scheda.foglio.empty()) return false;
+  return scheda.foglio.empty() || SchedaDi(kForme, scheda.foglio).genere == Genere::Foglio;
+}
+static_assert(std::ranges::all_of(kForme, SiTiene));
+static_assert(std::ranges::none_of(kForme, [](const SchedaForma& scheda) {
+  const auto stesso = [&scheda](const SchedaForma& altra) { return altra.nome == scheda.nome; };
+  return std::ranges::count_if(kForme, stesso) != 1;
+}));
 
 }  // namespace
 
-std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view nome) {
-  const auto uguale = [nome](const Voce& voce) { return voce.nome == nome; };
-  const auto forma = std::find_if(kForme.begin(), kForme.end(), uguale);
-  return forma == kForme.end() ? nullptr : forma->crea(ambiente);
+TabellaForme LeForme() {
+  return kForme;
 }
 
 std::vector<std::string_view> NomiDelleForme() {
   std::vector<std::string_view> nomi;
-  for (const Voce& voce : kForme) nomi.push_back(voce.nome);
+  for (const SchedaForma& scheda : kForme) nomi.push_back(scheda.nome);
   return nomi;
 }
 

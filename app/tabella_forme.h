@@ -1,21 +1,16 @@
 #pragma once
 
-#include <memory>
 #include <string_view>
 #include <vector>
 
-namespace platform {
-class Form;
-}
+#include "app/shared/scheda_forma.h"
 
 namespace somme {
 
-class Ambiente;
+// Every form that the program has, and all that it is: the one place in which that stands.
+[[nodiscard]] TabellaForme LeForme();
 
-// Makes a form of the program from its name; null for a name that the program does not have.
-[[nodiscard]] std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view nome);
-
-// The names of all forms that the program has.
+// The names of all forms, in the order of the table.
 [[nodiscard]] std::vector<std::string_view> NomiDelleForme();
 
 }  // namespace somme

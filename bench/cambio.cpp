@@ -56,7 +56,7 @@ class Cambio {
   explicit Cambio(const QString& cartella)
       : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
                    stampanti_, pagina_, rete_, cartella},
-                  [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
+                  somme::LeForme()) {
     somme::Avvia(ambiente_);
     ambiente_.stato.TipoEsercizio = kConESenzaCambio;
     ambiente_.fondo.forms().show(somme::forme::kFormAbaco);

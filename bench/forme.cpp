@@ -90,7 +90,7 @@ class Misura {
       : cartella_(cartella),
         ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
                    stampanti_, pagina_, rete_, cartella_.percorso()},
-                  [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
+                  somme::LeForme()) {
     somme::Avvia(ambiente_);
     QTest::qWait(500);
   }
@@ -198,7 +198,7 @@ class Misura {
 
   double mostraForma(std::string_view nome, int& controlli) {
     platform::Forms& forme = ambiente_.fondo.forms();
-    prova::ComeDalMenu(ambiente_.stato, nome);
+    prova::ComeDalMenu(ambiente_, nome);
     Form* prima = forme.current();
     QElapsedTimer orologio;
     orologio.start();
@@ -287,10 +287,9 @@ int main(int argc, char* argv[]) {
     return 2;
   }
   Misura misura(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
-  for (const std::string_view nome : somme::NomiDelleForme()) {
+  for (const somme::SchedaForma& scheda : somme::LeForme()) {
     // Without a printer a sheet is gone as soon as it is shown; the splash form has been.
-    const bool resta = nome != somme::forme::kFormAvvio && !nome.starts_with("FormStampa");
-    if (resta) misura.mostra(nome);
+    if (scheda.nome != somme::forme::kFormAvvio && !EFoglio(scheda)) misura.mostra(scheda.nome);
   }
   misura.verdetti();
   misura.guardia();

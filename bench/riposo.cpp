@@ -69,7 +69,7 @@ class Riposo {
       : stampanti_(tempo_),
         ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
                    stampanti_, pagina_, rete_, cartella},
-                  [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
+                  somme::LeForme()) {
     if (!tavoletta_.Ascolta(0)) std::exit(1);
     ambiente_.servizi.porta = tavoletta_.Porta();
     somme::Avvia(ambiente_);
@@ -94,11 +94,11 @@ class Riposo {
   void mostra() {
     platform::Forms& forme = ambiente_.fondo.forms();
     platform::Form& sotto = *forme.current();
-    prova::ComeDalMenu(ambiente_.stato, nome_);
+    prova::ComeDalMenu(ambiente_, nome_);
     ambiente_.stato.ModalitaInput = qint16(modo_);
     if (nome_ == somme::forme::kFrmAvviaStampa) {
       sotto.run([&] { stampa(sotto); });
-    } else if (nome_.starts_with("FormStampa")) {
+    } else if (EFoglio(somme::SchedaDi(somme::LeForme(), nome_))) {
       sotto.run([&] { forme.show(nome_); });
     } else {
       try {

@@ -88,7 +88,7 @@ class Scansione {
   explicit Scansione(const QString& cartella)
       : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
                    stampanti_, pagina_, rete_, cartella},
-                  [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
+                  somme::LeForme()) {
     somme::Avvia(ambiente_);
     ambiente_.stato.TipoEsercizio = 1;
   }

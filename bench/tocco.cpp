@@ -32,7 +32,7 @@ class Tocco {
   explicit Tocco(const QString& cartella)
       : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
                    stampanti_, pagina_, rete_, cartella},
-                  [this](std::string_view nome) { return somme::CreaForma(ambiente_, nome); }) {
+                  somme::LeForme()) {
     if (!tavoletta_.Ascolta(0)) std::exit(1);
     ambiente_.servizi.porta = tavoletta_.Porta();
     somme::Avvia(ambiente_);

@@ -31,15 +31,13 @@ double kilobyte() {
   return static_cast<double>(uso.uordblks + uso.hblkhd) / 1024;
 }
 
-// Over which form a sheet is measured: the one that offers it; those for setting the keyboard,
+// Over which form a sheet is measured: the first that offers it; those for setting the keyboard,
 // which no menu offers, over any of them.
 std::string_view sottoIlFoglio(std::string_view foglio) {
-  using namespace somme::forme;
-  if (foglio == kFormStampaFoglioNumeri2) return kFormNumeriTotaleHK;
-  if (foglio == kFormStampaLU) return kFormLUHK;
-  if (foglio == kFormStampaPLU) return kFormHLUHK;
-  if (foglio == kFormStampaAbaco) return kFormAbacoHK;
-  return kFormBarre10HK;
+  for (const somme::SchedaForma& scheda : somme::LeForme()) {
+    if (scheda.foglio == foglio) return scheda.nome;
+  }
+  return somme::forme::kFormBarre10HK;
 }
 
 struct Sbagliata : std::runtime_error {
@@ -51,9 +49,10 @@ class Visite {
   Visite() { banco_.mostra(somme::forme::kFormMenu); }
 
   // To the form and back, as its users go.
-  bool visita(std::string_view nome) {
+  bool visita(const somme::SchedaForma& scheda) {
     using namespace somme::forme;
-    if (nome.starts_with("FormStampa")) {
+    const std::string_view nome = scheda.nome;
+    if (EFoglio(scheda)) {
       return conSotto(sottoIlFoglio(nome), nome, kMolteAlDialogo, [&] { foglio(nome); });
     }
     if (nome == kFrmAvviaStampa) {
@@ -68,7 +67,7 @@ class Visite {
 
   // The form stays, and is activated again, as when the print dialog over it has gone.
   bool attivazioni(std::string_view nome) {
-    prova::ComeDalMenu(banco_.ambiente->stato, nome);
+    prova::ComeDalMenu(*banco_.ambiente, nome);
     vai(nome);
     const bool bene = misura("activations of", nome, kMolte, [&] {
       forme().activateAgain();
@@ -84,8 +83,9 @@ class Visite {
   // Visits to a form from another one, which is on the screen between them.
   bool conSotto(std::string_view sotto, std::string_view nome, int volte,
                 const std::function<void()>& volta) {
-    const bool menu = sotto.starts_with("FormMenu");
-    prova::ComeDalMenu(banco_.ambiente->stato, menu ? nome : sotto);
+    const somme::SchedaForma scheda = somme::SchedaDi(somme::LeForme(), sotto);
+    const bool menu = scheda.genere != somme::Genere::Esercizio;
+    prova::ComeDalMenu(*banco_.ambiente, menu ? nome : sotto);
     vai(sotto);
     const bool bene = misura("visits to", nome, volte, volta);
     vai(somme::forme::kFormMenu);
@@ -182,10 +182,6 @@ class Visite {
   prova::Banco banco_;
 };
 
-bool haTavole(std::string_view nome) {
-  return nome.find("LU") != std::string_view::npos || nome.starts_with("FormAbaco");
-}
-
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -193,15 +189,13 @@ int main(int argc, char* argv[]) {
   Visite visite;
   bool bene = true;
   int misurate = 0;
-  for (const std::string_view nome : somme::NomiDelleForme()) {
+  for (const somme::SchedaForma& scheda : somme::LeForme()) {
+    const std::string_view nome = scheda.nome;
     if (argc > 1 && nome != argv[1]) continue;
     ++misurate;
     try {
-      bene = visite.visita(nome) && bene;
-      if (haTavole(nome) && nome.starts_with("Form") && !nome.starts_with("FormStampa") &&
-          !nome.starts_with("FormMenu")) {
-        bene = visite.attivazioni(nome) && bene;
-      }
+      bene = visite.visita(scheda) && bene;
+      if (HaTavole(scheda)) bene = visite.attivazioni(nome) && bene;
     } catch (const Sbagliata& perche) {
       std::fprintf(stderr, "visite: %.*s: %s\n", int(nome.size()), nome.data(), perche.what());
       return 2;

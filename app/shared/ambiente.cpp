@@ -6,9 +6,18 @@ QString TitoloProgramma() {
   return QStringLiteral("Esercitazioni sulle somme");
 }
 
-Ambiente::Ambiente(const Servizi& dati, platform::Forms::Factory forme)
+Ambiente::Ambiente(const Servizi& dati, TabellaForme tabella)
+    : Ambiente(dati, tabella, [this](std::string_view nome) { return CreaForma(*this, nome); }) {}
+
+Ambiente::Ambiente(const Servizi& dati, TabellaForme tabella, platform::Forms::Factory crea)
     : servizi(dati),
+      forme(tabella),
       fondo({dati.tempo, dati.messaggi, dati.fine, dati.annunci, &dati.rete}, TitoloProgramma(),
-            QStringLiteral(":/immagini"), QStringLiteral("puntatore"), std::move(forme)) {}
+            QStringLiteral(":/immagini"), QStringLiteral("puntatore"), std::move(crea)) {}
+
+std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view nome) {
+  const SchedaForma scheda = SchedaDi(ambiente.forme, nome);
+  return scheda.crea == nullptr ? nullptr : scheda.crea(ambiente);
+}
 
 }  // namespace somme

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "app/shared/scheda_forma.h"
 #include "app/shared/stato_condiviso.h"
 #include "app/shared/stringhe_condivise.h"
 #include "platform/base/chance.h"
@@ -33,18 +34,25 @@ struct Servizi {
 };
 
 // Everything that a form reaches besides its own controls: the services, the shared state, the
-// shared strings, the language files, and the ground that it stands on.
+// shared strings, the language files, what the forms are, and the ground that it stands on.
 class Ambiente {
  public:
-  // forme: makes each form of the program from its name.
-  Ambiente(const Servizi& servizi, platform::Forms::Factory forme);
+  // forme: every form of the program; the rows must outlive the whole.
+  Ambiente(const Servizi& servizi, TabellaForme forme);
+  // crea: makes the forms from their names in the place of the rows.
+  Ambiente(const Servizi& servizi, TabellaForme forme, platform::Forms::Factory crea);
 
   Servizi servizi;
+  TabellaForme forme;
   StatoCondiviso stato;
   StringheCondivise stringhe;
   platform::ProfileReader profili;
   platform::Runtime fondo;
 };
+
+// Makes a form of the program from its name, by its row; null for a name that the table does not
+// have.
+[[nodiscard]] std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view nome);
 
 // The window's title, and that of message boxes without one of their own.
 [[nodiscard]] QString TitoloProgramma();

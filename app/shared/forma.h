@@ -20,6 +20,8 @@ class Forma : public platform::Form {
   [[nodiscard]] Ambiente& ambiente() const { return ambiente_; }
   [[nodiscard]] StatoCondiviso& stato() const { return ambiente_.stato; }
   [[nodiscard]] const StringheCondivise& stringhe() const { return ambiente_.stringhe; }
+  // What the form is to the program.
+  [[nodiscard]] SchedaForma scheda() const { return SchedaDi(ambiente_.forme, design().name); }
 
   // Language, layout, icon, in this order: the beginning of every form's Load.
   void onLoad() override;

@@ -11,7 +11,7 @@ using namespace disegno;
 
 namespace {
 
-constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaAbaco, .foglio = forme::kFormStampaAbaco};
+constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaAbaco};
 
 constexpr Row Cifra(int indice, double sinistra) {
   return row<&FormAbacoHK::Label2>(

@@ -1,7 +1,6 @@
 #include "exercises/abacus/forma_abaco.h"
 
 #include "app/shared/modulo_colori_suoni.h"
-#include "app/shared/nomi_forme.h"
 #include "cases/livelli.h"
 #include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
@@ -25,7 +24,7 @@ QString NomeClip(QLatin1String clip, int numero) {
 
 // The way out leads to the main menu, not to the family's: settled.
 FormaAbaco::FormaAbaco(Ambiente& ambiente, const platform::FormDesign& disegno)
-    : FormaEsercizio(ambiente, disegno, forme::kFormMenu) {}
+    : FormaEsercizio(ambiente, disegno) {}
 
 void FormaAbaco::onLoad() {
   FormaEsercizio::onLoad();

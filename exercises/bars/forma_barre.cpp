@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "app/shared/nomi_forme.h"
 #include "cases/casuale.h"
 #include "platform/base/numbers.h"
 
@@ -34,7 +33,7 @@ constexpr int kStacco = 10;
 
 FormaBarre::FormaBarre(Ambiente& ambiente, const platform::FormDesign& disegno,
                        const PortataBarre& portata)
-    : FormaEsercizio(ambiente, disegno, forme::kFormMenuBarre), portata_(portata) {
+    : FormaEsercizio(ambiente, disegno), portata_(portata) {
   mnuRossa.onClick([this] { ScegliTipo(kTrovaRossa); });
   mnuGiallaVerde.onClick([this] { ScegliTipo(kTrovaGiallaVerde); });
   mnuTutteBarre.onClick([this] { ScegliTipo(kTrovaUna); });

@@ -1,14 +1,11 @@
 #include "exercises/bars/forma_barre_hk.h"
 
-#include "app/shared/nomi_forme.h"
-
 namespace somme {
 
 namespace {
 
 constexpr TastieraHelpiKeys kTastiera{
     .mappa = kMappaCifre,
-    .foglio = forme::kFormStampaFoglioNumeri,
     .collega = TastieraHelpiKeys::Collega::PrimaDelResizer,
 };
 

@@ -9,7 +9,7 @@ using namespace disegno;
 
 namespace {
 
-constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaBlocchi, .foglio = forme::kFormStampaPLU};
+constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaBlocchi};
 
 constexpr auto kControlli = std::to_array<Row>({
     CambioUDa<FormHLUHK>(),

@@ -9,7 +9,7 @@ using namespace disegno;
 
 namespace {
 
-constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaBlocchi, .foglio = forme::kFormStampaLU};
+constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaBlocchi};
 
 constexpr auto kControlli = std::to_array<Row>({
     CambioEntro99<FormLUHK>(),

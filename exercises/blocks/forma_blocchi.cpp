@@ -1,7 +1,6 @@
 #include "exercises/blocks/forma_blocchi.h"
 
 #include "app/shared/modulo_colori_suoni.h"
-#include "app/shared/nomi_forme.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
@@ -17,7 +16,7 @@ constexpr double kAttesaCambio = 4;  // the movie's stretch must be over by then
 
 FormaBlocchi::FormaBlocchi(Ambiente& ambiente, const platform::FormDesign& disegno,
                            const EsercizioBlocchi& esercizio)
-    : FormaEsercizio(ambiente, disegno, forme::kFormMenuPLU), esercizio_(esercizio) {
+    : FormaEsercizio(ambiente, disegno), esercizio_(esercizio) {
   ShockwaveFlash3.onFsCommand(
       [this](const QString& /*command*/, const QString& args) { ComandoDelFilmato(args); });
 }

@@ -12,7 +12,6 @@ namespace somme {
 // What the forms for the touch keyboard differ in, apart from what their keys do.
 struct TastieraHelpiKeys {
   const MappaTasti& mappa;
-  std::string_view foglio;  // the form of its keyboard sheet
   // When the Load connects: before or after the layout is started.
   enum class Collega { PrimaDelResizer, DopoIlResizer } collega = Collega::DopoIlResizer;
 };
@@ -55,7 +54,7 @@ class ConHelpiKeys : public Base {
  protected:
   // The menu item that asks for the keyboard sheet.
   void OffriFoglio(platform::MenuItem& voce) {
-    voce.onClick([this] { ChiediFoglio(this->ambiente(), tastiera_.foglio); });
+    voce.onClick([this] { ChiediFoglio(this->ambiente(), this->scheda().foglio); });
   }
   // What an activation does once the touches have been asked for.
   virtual void DopoLaRichiesta() { Base::onActivate(); }

@@ -7,9 +7,8 @@
 
 namespace somme {
 
-FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno,
-                               std::string_view menu)
-    : Forma(ambiente, disegno), menu_(menu) {
+FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno)
+    : Forma(ambiente, disegno) {
   MenuAzzera.onClick([this] { AzzeraConteggio(); });
   mnuStampa.onClick([this] { ApriPannelloStampa(); });
   CommandStampa.onClick([this] { StampaElenco(); });

@@ -18,8 +18,7 @@ namespace somme {
 // families.
 class FormaEsercizio : public Forma {
  public:
-  // menu: the form that `mnuEsci` goes back to.
-  FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno, std::string_view menu);
+  FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno);
 
   platform::Label EtichettaEsatti{*this};
   platform::Label EtichettaErrati{*this};
@@ -67,7 +66,7 @@ class FormaEsercizio : public Forma {
   // Both counters to 0; the case stays as it is.
   void AzzeraConteggio();
   // Back to the menu that the form was opened from.
-  void Esci() { VaiA(menu_); }
+  void Esci() { VaiA(scheda().menu); }
   virtual void ApriPannelloStampa();
   virtual void ChiudiPannelloStampa();
   // The record on paper; the panel stays open.
@@ -78,8 +77,6 @@ class FormaEsercizio : public Forma {
   [[nodiscard]] QString ConteggioErrati() const;
   // Tells assistive technology what the pictures show, with its count.
   void DiciVerdetto(const platform::Image& verdetto, const QString& conteggio);
-
-  std::string_view menu_;
 };
 
 }  // namespace somme

@@ -1,12 +1,10 @@
 #include "exercises/numbers/forma_numeri.h"
 
-#include "app/shared/nomi_forme.h"
-
 namespace somme {
 
 FormaNumeri::FormaNumeri(Ambiente& ambiente, const platform::FormDesign& disegno,
                          const EsercizioNumeri& esercizio)
-    : FormaEsercizio(ambiente, disegno, forme::kFormMenuNumeri), esercizio_(esercizio) {}
+    : FormaEsercizio(ambiente, disegno), esercizio_(esercizio) {}
 
 const Livello* FormaNumeri::GeneraCaso() {
   const Livello* livello = LivelloDi(esercizio_.livelli, stato().TipoEsercizio);

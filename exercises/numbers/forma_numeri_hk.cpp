@@ -1,14 +1,12 @@
 #include "exercises/numbers/forma_numeri_hk.h"
 
-#include "app/shared/nomi_forme.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
 
 namespace {
 
-constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaCifre,
-                                      .foglio = forme::kFormStampaFoglioNumeri2};
+constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaCifre};
 
 }  // namespace
 

@@ -67,8 +67,7 @@ constexpr FormDesign kDisegno{.name = forme::kFormTabella,
 
 }  // namespace
 
-FormTabella::FormTabella(Ambiente& ambiente)
-    : FormaEsercizio(ambiente, kDisegno, forme::kFormMenuTabella) {
+FormTabella::FormTabella(Ambiente& ambiente) : FormaEsercizio(ambiente, kDisegno) {
   for (int i = 0; i < kCelle; ++i) {
     platform::Button& cella = Numero.element(i);
     cella.onClick([this, i] { Rispondi(i); });

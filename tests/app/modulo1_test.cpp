@@ -11,9 +11,7 @@ namespace {
 // A program that has not started yet, over the services of a bench.
 class Programma {
  public:
-  explicit Programma(Banco& banco)
-      : ambiente(banco.ambiente->servizi,
-                 [this](std::string_view nome) { return somme::CreaForma(ambiente, nome); }) {}
+  explicit Programma(Banco& banco) : ambiente(banco.ambiente->servizi, somme::LeForme()) {}
 
   somme::Ambiente ambiente;
 };

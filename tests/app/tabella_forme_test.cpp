@@ -13,6 +13,7 @@
 #include "platform/forms/controls/option_button.h"
 #include "platform/forms/page.h"
 #include "support/banco.h"
+#include "support/come_dal_menu.h"
 
 using platform::Control;
 using platform::Form;
@@ -49,16 +50,16 @@ class TabellaFormeTest : public QObject {
     }
   }
 
-  static bool isSheet(const QByteArray& nome) { return nome.startsWith("FormStampa"); }
+  static somme::SchedaForma scheda(const QByteArray& nome) {
+    return somme::SchedaDi(somme::LeForme(), {nome.constData(), std::size_t(nome.size())});
+  }
+  static bool isSheet(const QByteArray& nome) { return somme::EFoglio(scheda(nome)); }
 
   // The form on the screen, as a family menu would leave the state for it. A keyboard sheet goes to
   // the print dialog at once; without a printer it stays until events run.
   static Form& open(Banco& banco, const QByteArray& nome) {
-    banco.ambiente->stato.LimiteEsercizio = nome.contains("20") ? 20 : 10;
-    // Blocks and abacus at a level that always finds a case.
-    const bool diCifre = nome.contains("LU") || nome.contains("Abaco");
-    banco.ambiente->stato.TipoEsercizio = diCifre ? 3 : 1;
-    const std::string_view text(nome.constData(), std::size_t(nome.size()));
+    const std::string_view text = scheda(nome).nome;
+    prova::ComeDalMenu(*banco.ambiente, text);
     if (isSheet(nome)) {
       banco.stampanti.nessuna();
       banco.mostra(somme::forme::kFormAvvio);

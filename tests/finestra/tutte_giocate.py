@@ -1,28 +1,29 @@
 #!/usr/bin/python3
 """Sees that every exercise form is played in a real window.
 
-    tutte_giocate.py <header with the names of the forms> <game> ...
+    tutte_giocate.py <the monkey, which knows the forms> <game> ...
 
 The games are those that are run as tests. Ends with 0 when they are all that there are, and between
-them play each exercise form that the header names, once.
+them play each exercise form of the program, once.
 """
 
 import collections
+import os
 import pathlib
-import re
+import subprocess
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "prova"))
 from partite import PARTITE  # noqa: E402
-
-ESERCIZIO = r'"(Form(?:Numeri|Barre|LU|HLU|Abaco|Tabella)\w*)"'
 
 
 def main():
     if len(sys.argv) < 3:
         print(__doc__, file=sys.stderr)
         return 2
-    esercizi = re.findall(ESERCIZIO, pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))
+    elenco = subprocess.run([sys.argv[1], "--elenco"], capture_output=True, text=True, check=True,
+                            env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+    esercizi = elenco.stdout.split()
     giocate = collections.Counter(f for partita in PARTITE.values() for f in partita.forme)
     guai = [f"{forma} is played {giocate[forma]} times" for forma in {*esercizi, *giocate}
             if giocate[forma] != 1 or forma not in esercizi]

@@ -4,6 +4,7 @@
 #include "exercises/numbers/form_numeri_totale_hk.h"
 #include "fogli_di_prova.h"
 #include "platform/forms/controls/menu_item.h"
+#include "support/come_dal_menu.h"
 
 using prova::Banco;
 using prova::fogli;
@@ -38,11 +39,7 @@ QString testo(std::string_view s) {
 
 // A touch form as a family menu opens it, with HelpiKeys on the other side.
 platform::Form& apri(Banco& banco, std::string_view nome) {
-  const bool venti = nome == somme::forme::kFormBarre20HK;
-  banco.ambiente->stato.LimiteEsercizio = venti ? 20 : 10;
-  // Blocks and abacus at a level that always finds a case.
-  const bool semplice = nome.find("Numeri") != nome.npos || nome.find("Barre") != nome.npos;
-  banco.ambiente->stato.TipoEsercizio = semplice ? 1 : 3;
+  prova::ComeDalMenu(*banco.ambiente, nome);
   banco.mostra(nome);
   return *banco.ambiente->fondo.forms().current();
 }

@@ -16,7 +16,9 @@
 #include "app/tabella_forme.h"
 #include "scimmia/scimmia.h"
 
-// A monkey at every form: `scimmia [--seme N] [--eventi N] [--secondi N] [--racconta] [FORM...]`.
+// A monkey at every form: `scimmia [--seme N] [--eventi N] [--secondi N] [--racconta] [FORM...]`;
+// with
+// `--elenco` it names the exercise forms and plays none.
 // FORM: the beginning of a form's name; without one, all forms of the program. It plays so many
 // events a form, in no more than so many seconds in all. The seed that it prints plays the same
 // again; that of one life is printed with what went wrong there.
@@ -117,6 +119,14 @@ std::vector<QByteArray> scelte(const QStringList& chieste) {
   return forme;
 }
 
+// The names of the exercise forms, a line each.
+void scriviElenco() {
+  for (const somme::SchedaForma& scheda : somme::LeForme()) {
+    if (scheda.genere != somme::Genere::Esercizio) continue;
+    std::printf("%.*s\n", int(scheda.nome.size()), scheda.nome.data());
+  }
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -128,8 +138,13 @@ int main(int argc, char* argv[]) {
   const QCommandLineOption secondi(QStringLiteral("secondi"), {}, QStringLiteral("N"),
                                    QStringLiteral("0"));
   const QCommandLineOption racconta(QStringLiteral("racconta"));
-  riga.addOptions({seme, eventi, secondi, racconta});
+  const QCommandLineOption elenco(QStringLiteral("elenco"));
+  riga.addOptions({seme, eventi, secondi, racconta, elenco});
   riga.process(programma);
+  if (riga.isSet(elenco)) {
+    scriviElenco();
+    return 0;
+  }
 
   const std::vector<QByteArray> forme = scelte(riga.positionalArguments());
   if (forme.empty()) {

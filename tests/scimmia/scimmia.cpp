@@ -30,18 +30,28 @@ std::string_view vista(const QByteArray& nome) {
   return {nome.constData(), static_cast<std::size_t>(nome.size())};
 }
 
-int livelli(const QByteArray& nome) {
-  if (nome.startsWith("FormNumeriTotale")) return int(somme::LivelliNumeriTotale.size());
-  if (nome.startsWith("FormNumeriAddendo")) return int(somme::LivelliNumeriAddendo.size());
-  if (nome.startsWith("FormLU")) return int(somme::LivelliLU.size());
-  if (nome.startsWith("FormHLU")) return int(somme::LivelliHLU.size());
-  return int(somme::LivelliAbaco.size());
+// What is no exercise takes the most levels that there are below the sums.
+std::size_t livelli(somme::Famiglia famiglia) {
+  using somme::Famiglia;
+  switch (famiglia) {
+    case Famiglia::NumeriTotale:
+      return somme::LivelliNumeriTotale.size();
+    case Famiglia::NumeriAddendo:
+      return somme::LivelliNumeriAddendo.size();
+    case Famiglia::BlocchiDecine:
+      return somme::LivelliLU.size();
+    case Famiglia::BlocchiCentinaia:
+      return somme::LivelliHLU.size();
+    default:
+      return somme::LivelliAbaco.size();
+  }
 }
 
 }  // namespace
 
 Scimmia::Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta)
     : nome_(forma),
+      scheda_(somme::SchedaDi(somme::LeForme(), vista(nome_))),
       dadi_(seme),
       racconto_(racconta),
       banco_({1024, 768},
@@ -69,7 +79,7 @@ Scimmia::Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta)
 Scimmia::~Scimmia() = default;
 
 bool Scimmia::diFoglio() const {
-  return nome_.startsWith("FormStampa") || nome_ == QByteArray("frmAvviaStampa");
+  return EFoglio(scheda_) || scheda_.genere == somme::Genere::Dialogo;
 }
 
 bool Scimmia::finita() const {
@@ -80,14 +90,14 @@ bool Scimmia::finita() const {
 // The state as the menus leave it for the form.
 void Scimmia::prepara() {
   somme::StatoCondiviso& stato = banco_.ambiente->stato;
-  stato.TipoEsercizio = qint16(dadi_.tra(1, livelli(nome_)));
-  stato.LimiteEsercizio = nome_.contains("20") ? 20 : 10;
+  stato.TipoEsercizio = qint16(dadi_.tra(1, int(livelli(scheda_.famiglia))));
+  stato.LimiteEsercizio = scheda_.famiglia == somme::Famiglia::Barre20 ? scheda_.portata : 10;
   stato.TempoScansione = qint16(dadi_.unoSu(3) ? dadi_.tra(4, 60) : 4);
-  if (nome_.endsWith("HK")) {
+  if (scheda_.modo == somme::Modo::Tocco) {
     stato.ModalitaInput = somme::kHelpiKeys;
-  } else if (nome_.endsWith("Scansione")) {
+  } else if (scheda_.modo == somme::Modo::Scansione) {
     stato.ModalitaInput = dadi_.unoSu(2) ? somme::kScansioneManuale : somme::kScansioneAutomatica;
-  } else if (nome_.startsWith("FormMenu")) {
+  } else if (scheda_.genere == somme::Genere::Menu || scheda_.nome == somme::forme::kFormMenu) {
     stato.ModalitaInput = qint16(dadi_.fino(4));
   } else {
     stato.ModalitaInput = somme::kMouseTastiera;

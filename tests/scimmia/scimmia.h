@@ -47,6 +47,7 @@ class Scimmia {
   [[nodiscard]] bool diFoglio() const;
 
   QByteArray nome_;
+  somme::SchedaForma scheda_;  // of that form
   Dadi dadi_;
   Racconto racconto_;
   Disturbi disturbi_;

@@ -6,7 +6,6 @@
 
 #include "app/shared/modulo_ini.h"
 #include "app/shared/nomi_forme.h"
-#include "app/tabella_forme.h"
 #include "immagini/immagini.h"
 #include "platform/forms/appearance.h"
 
@@ -18,7 +17,7 @@ constexpr int kVisibile = 7;
 
 }  // namespace
 
-Banco::Banco(QSize lato, Forme forme) {
+Banco::Banco(QSize lato, Forme forme, somme::TabellaForme tabella) {
   somme::PreparaImmagini();
   platform::applyAppearance();
   const QDir lingue(QStringLiteral(SOMME_LINGUE));
@@ -35,7 +34,7 @@ Banco::Banco(QSize lato, Forme forme) {
       somme::Servizi{tempo, sorte, suono, messaggi, annunci, documenti, fine, istanza, stampanti,
                      pagina, rete, cartella.path(),
                      utente.filePath(QStringLiteral("config/somme"))},
-      [this, forme = std::move(forme)](std::string_view nome) {
+      tabella, [this, forme = std::move(forme)](std::string_view nome) {
         return forme ? forme(*ambiente, nome) : somme::CreaForma(*ambiente, nome);
       });
   ambiente->fondo.window().setMinimumSize(1, 1);

@@ -6,6 +6,7 @@
 
 #include "app/shared/ambiente.h"
 #include "app/shared/mod_language_support.h"
+#include "app/tabella_forme.h"
 #include "platform/boards/board.h"
 #include "platform/flash/movie_view.h"
 #include "platform/forms/control.h"
@@ -26,7 +27,9 @@ class Banco {
   // lato: the size of the window. The folder holds the program's language files and its movies; the
   // language is Italian.
   // forme: makes the forms in the place of the program's own table.
-  explicit Banco(QSize lato = {1024, 768}, Forme forme = {});
+  // tabella: what the program knows of its forms.
+  explicit Banco(QSize lato = {1024, 768}, Forme forme = {},
+                 somme::TabellaForme tabella = somme::LeForme());
   ~Banco();
 
   // Shows a form.

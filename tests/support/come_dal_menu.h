@@ -2,21 +2,22 @@
 
 #include <string_view>
 
-#include "app/shared/stato_condiviso.h"
+#include "app/shared/ambiente.h"
 
 namespace prova {
 
 // Leaves the shared state as a family menu would before it shows the exercise form `nome`: at a
 // level at which every drawing of numbers ends, whatever has come before.
-inline void ComeDalMenu(somme::StatoCondiviso& stato, std::string_view nome) {
-  const auto tiene = [nome](std::string_view parte) {
-    return nome.find(parte) != std::string_view::npos;
-  };
-  stato.LimiteEsercizio = tiene("20") ? 20 : 10;
-  stato.TipoEsercizio = tiene("LU") || tiene("Abaco") ? 3 : 1;
-  stato.ModalitaInput = nome.ends_with("HK")          ? somme::kHelpiKeys
-                        : nome.ends_with("Scansione") ? somme::kScansioneAutomatica
-                                                      : somme::kMouseTastiera;
+inline void ComeDalMenu(somme::Ambiente& ambiente, std::string_view nome) {
+  using somme::Famiglia;
+  using somme::Modo;
+  const somme::SchedaForma scheda = somme::SchedaDi(ambiente.forme, nome);
+  somme::StatoCondiviso& stato = ambiente.stato;
+  stato.LimiteEsercizio = scheda.famiglia == Famiglia::Barre20 ? scheda.portata : 10;
+  stato.TipoEsercizio = HaTavole(scheda) ? 3 : 1;
+  stato.ModalitaInput = scheda.modo == Modo::Tocco       ? somme::kHelpiKeys
+                        : scheda.modo == Modo::Scansione ? somme::kScansioneAutomatica
+                                                         : somme::kMouseTastiera;
 }
 
 }  // namespace prova

@@ -1,6 +1,5 @@
 #include "support/controfigura.h"
 
-#include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 
 namespace prova {
@@ -8,8 +7,9 @@ namespace prova {
 namespace {
 
 bool ePagina(std::string_view nome) {
-  return nome == somme::forme::kFormAvvio || nome == somme::forme::kFormInfo ||
-         nome.starts_with(somme::forme::kFormMenu);
+  const somme::SchedaForma scheda = somme::SchedaDi(somme::LeForme(), nome);
+  return scheda.crea != nullptr &&
+         (scheda.genere == somme::Genere::Pagina || scheda.genere == somme::Genere::Menu);
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ bool Forme(const QDir& cartella, const QString& lingua, QSize lato) {
     prova::Banco banco(lato);
     ScegliLingua(banco, lingua);
     const QLatin1String scritto(nome.data(), qsizetype(nome.size()));
-    prova::ComeDalMenu(banco.ambiente->stato, nome);
+    prova::ComeDalMenu(*banco.ambiente, nome);
     QImage ritratto;
     if (scritto.startsWith(QLatin1String("FormStampa"))) {
       // What goes on paper: the window shows an empty page behind the dialog.

@@ -19,8 +19,7 @@ namespace prova {
 inline constexpr std::string_view kNome = "FormDiProva";
 inline constexpr std::string_view kFoglio = somme::forme::kFormStampaLU;
 
-inline constexpr somme::TastieraHelpiKeys kTastiera{.mappa = somme::kMappaBlocchi,
-                                                    .foglio = kFoglio};
+inline constexpr somme::TastieraHelpiKeys kTastiera{.mappa = somme::kMappaBlocchi};
 
 // A touch form of the test's own: it writes down its life and its keys.
 class FormDiProva final : public somme::ConHelpiKeys<somme::FormaEsercizio> {
@@ -62,19 +61,35 @@ inline constexpr platform::FormDesign kDisegno{
     .name = kNome, .caption = "", .width = 9000, .height = 6000, .tables = kTavole};
 
 inline FormDiProva::FormDiProva(somme::Ambiente& ambiente)
-    : ConHelpiKeys(kTastiera, ambiente, kDisegno, somme::forme::kFormMenuPLU) {
+    : ConHelpiKeys(kTastiera, ambiente, kDisegno) {
   OffriFoglio(mnuStampaHK);
 }
 
 // The program with the touch form of the test, and a stand-in for its keyboard sheet.
-inline std::shared_ptr<platform::Form> crea(somme::Ambiente& ambiente, std::string_view nome) {
-  if (nome == kNome) return std::make_shared<FormDiProva>(ambiente);
-  if (nome == kFoglio) return std::make_shared<Controfigura>(ambiente, kFoglio);
-  return somme::CreaForma(ambiente, nome);
+inline somme::TabellaForme conFormDiProva() {
+  static const std::vector<somme::SchedaForma> forme = [] {
+    const somme::TabellaForme vere = somme::LeForme();
+    std::vector<somme::SchedaForma> tutte(vere.begin(), vere.end());
+    for (somme::SchedaForma& scheda : tutte) {
+      if (scheda.nome != kFoglio) continue;
+      scheda.crea = [](somme::Ambiente& ambiente) -> std::shared_ptr<platform::Form> {
+        return std::make_shared<Controfigura>(ambiente, kFoglio);
+      };
+    }
+    tutte.push_back({.nome = kNome,
+                     .crea = [](somme::Ambiente& ambiente) -> std::shared_ptr<platform::Form> {
+                       return std::make_shared<FormDiProva>(ambiente);
+                     },
+                     .genere = somme::Genere::Esercizio,
+                     .menu = somme::forme::kFormMenuPLU,
+                     .foglio = kFoglio});
+    return tutte;
+  }();
+  return forme;
 }
 
 struct Scena : Banco {
-  Scena() : Banco({800, 600}, crea) {}
+  Scena() : Banco({800, 600}, {}, conFormDiProva()) {}
   FormDiProva& apri() { return Banco::apri<FormDiProva>(kNome); }
   // The form after HelpiKeys has answered.
   FormDiProva& apriPronta() {

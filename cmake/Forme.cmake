@@ -1,0 +1,12 @@
+# The names of the exercise forms, read from the one table of forms (app/tabella_forme.cpp), for what
+# must know them before the program is built.
+function(somme_exercise_forms result)
+  set(table "${CMAKE_SOURCE_DIR}/app/tabella_forme.cpp")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${table}")
+  file(STRINGS "${table}" rows REGEX "^ +Esercizio<Form[A-Za-z0-9]+>\\(forme::")
+  list(TRANSFORM rows REPLACE "^ +Esercizio<(Form[A-Za-z0-9]+)>.*" "\\1")
+  if(NOT rows)
+    message(FATAL_ERROR "${table} names no exercise form")
+  endif()
+  set(${result} "${rows}" PARENT_SCOPE)
+endfunction()
