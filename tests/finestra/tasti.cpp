@@ -10,6 +10,7 @@
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/form.h"
 #include "platform/forms/proportional_layout.h"
+#include "platform/forms/qt_announcer.h"
 #include "platform/forms/qt_message_boxes.h"
 #include "platform/forms/runtime.h"
 
@@ -115,6 +116,7 @@ int main(int argc, char* argv[]) {
   platform::applyAppearance();
   platform::QtTimeSource time;
   platform::SystemProcessEnd end;
+  platform::QtAnnouncer announcer;
   platform::Runtime* ground = nullptr;
   platform::QtMessageBoxes boxes(
       [] {
@@ -122,7 +124,8 @@ int main(int argc, char* argv[]) {
                                      QStringLiteral("No")};
       },
       [&ground] { return &ground->window(); });
-  platform::Runtime runtime({time, boxes, end}, QStringLiteral("Tasti"), QString(), QString(),
+  platform::Runtime runtime({time, boxes, end, announcer}, QStringLiteral("Tasti"), QString(),
+                            QString(),
                             [&ground](std::string_view name) { return make(*ground, name); });
   ground = &runtime;
   runtime.forms().show("FormTasti");
