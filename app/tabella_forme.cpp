@@ -28,12 +28,9 @@
 #include "exercises/blocks/form_lu.h"
 #include "exercises/blocks/form_lu_hk.h"
 #include "exercises/blocks/form_lu_scansione.h"
-#include "exercises/numbers/form_numeri_addendo.h"
-#include "exercises/numbers/form_numeri_addendo_hk.h"
-#include "exercises/numbers/form_numeri_addendo_scansione.h"
-#include "exercises/numbers/form_numeri_totale.h"
-#include "exercises/numbers/form_numeri_totale_hk.h"
-#include "exercises/numbers/form_numeri_totale_scansione.h"
+#include "exercises/numbers/forma_numeri_hk.h"
+#include "exercises/numbers/forma_numeri_scansione.h"
+#include "exercises/numbers/forma_numeri_tastiera.h"
 #include "exercises/table/form_tabella.h"
 #include "printing/form_stampa_abaco.h"
 #include "printing/form_stampa_foglio1.h"
@@ -48,9 +45,14 @@ namespace somme {
 
 namespace {
 
-template <class F>
-std::shared_ptr<platform::Form> Crea(Ambiente& ambiente) {
-  return std::make_shared<F>(ambiente);
+// varianti: what a class that makes several forms is to make; it gets the form's name, too.
+template <class F, const auto&... varianti>
+std::shared_ptr<platform::Form> Crea(Ambiente& ambiente, std::string_view nome) {
+  if constexpr (sizeof...(varianti) == 0) {
+    return std::make_shared<F>(ambiente);
+  } else {
+    return std::make_shared<F>(ambiente, nome, varianti...);
+  }
 }
 
 template <class F>
@@ -81,11 +83,17 @@ constexpr Percorso kBlocchiCentinaia{Famiglia::BlocchiCentinaia, 999, forme::kFo
 constexpr Percorso kAbaco{Famiglia::Abaco, 9999, forme::kFormMenu};
 constexpr Percorso kTabella{Famiglia::Tabella, 99, forme::kFormMenuTabella};
 
-template <class F>
+template <class F, const auto&... varianti>
 constexpr SchedaForma Esercizio(std::string_view nome, const Percorso& percorso,
                                 Modo modo = Modo::MouseTastiera, std::string_view foglio = {}) {
-  return {nome,          Crea<F>, Genere::Esercizio, percorso.famiglia, percorso.portata, modo,
-          percorso.menu, foglio};
+  return {nome,
+          Crea<F, varianti...>,
+          Genere::Esercizio,
+          percorso.famiglia,
+          percorso.portata,
+          modo,
+          percorso.menu,
+          foglio};
 }
 
 constexpr auto kForme = std::to_array<SchedaForma>({
@@ -97,16 +105,16 @@ constexpr auto kForme = std::to_array<SchedaForma>({
     Menu<FormMenuPLU>(forme::kFormMenuPLU),
     Menu<FormMenuBarre>(forme::kFormMenuBarre),
     Menu<FormMenuTabella>(forme::kFormMenuTabella),
-    Esercizio<FormNumeriTotale>(forme::kFormNumeriTotale, kNumeriTotale),
-    Esercizio<FormNumeriTotaleScansione>(forme::kFormNumeriTotaleScansione, kNumeriTotale,
-                                         Modo::Scansione),
-    Esercizio<FormNumeriTotaleHK>(forme::kFormNumeriTotaleHK, kNumeriTotale, Modo::Tocco,
-                                  forme::kFormStampaFoglioNumeri2),
-    Esercizio<FormNumeriAddendo>(forme::kFormNumeriAddendo, kNumeriAddendo),
-    Esercizio<FormNumeriAddendoScansione>(forme::kFormNumeriAddendoScansione, kNumeriAddendo,
-                                          Modo::Scansione),
-    Esercizio<FormNumeriAddendoHK>(forme::kFormNumeriAddendoHK, kNumeriAddendo, Modo::Tocco,
-                                   forme::kFormStampaFoglioNumeri2),
+    Esercizio<FormaNumeriTastiera, kTrovaTotale>(forme::kFormNumeriTotale, kNumeriTotale),
+    Esercizio<FormaNumeriScansione, kTrovaTotale>(forme::kFormNumeriTotaleScansione, kNumeriTotale,
+                                                  Modo::Scansione),
+    Esercizio<FormaNumeriHK, kTrovaTotale>(forme::kFormNumeriTotaleHK, kNumeriTotale, Modo::Tocco,
+                                           forme::kFormStampaFoglioNumeri2),
+    Esercizio<FormaNumeriTastiera, kTrovaAddendo>(forme::kFormNumeriAddendo, kNumeriAddendo),
+    Esercizio<FormaNumeriScansione, kTrovaAddendo>(forme::kFormNumeriAddendoScansione,
+                                                   kNumeriAddendo, Modo::Scansione),
+    Esercizio<FormaNumeriHK, kTrovaAddendo>(forme::kFormNumeriAddendoHK, kNumeriAddendo,
+                                            Modo::Tocco, forme::kFormStampaFoglioNumeri2),
     Esercizio<FormBarre10>(forme::kFormBarre10, kBarre10),
     Esercizio<FormBarre10Tastiera>(forme::kFormBarre10Tastiera, kBarre10),
     Esercizio<FormBarre10Scansione>(forme::kFormBarre10Scansione, kBarre10, Modo::Scansione),

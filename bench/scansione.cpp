@@ -22,7 +22,7 @@
 #include "app/shared/ambiente.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
-#include "exercises/numbers/form_numeri_totale_scansione.h"
+#include "exercises/numbers/forma_numeri_scansione.h"
 #include "immagini/immagini.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/forms/appearance.h"
@@ -103,7 +103,7 @@ class Scansione {
 
   void passo(const char* come, double limite) {
     auto& forma =
-        *dynamic_cast<somme::FormNumeriTotaleScansione*>(ambiente_.fondo.forms().current());
+        *dynamic_cast<somme::FormaNumeriScansione*>(ambiente_.fondo.forms().current());
     auto* anello = forma.TastieraNumericaScansione1.widget()->findChild<platform::RingWidget*>();
     Occhio occhio;
     anello->installEventFilter(&occhio);

@@ -14,7 +14,7 @@
 #include "app/shared/ambiente.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
-#include "exercises/numbers/form_numeri_totale_hk.h"
+#include "exercises/numbers/forma_numeri_hk.h"
 #include "immagini/immagini.h"
 #include "platform/devices/loopback_network.h"
 #include "platform/devices/qt_time_source.h"
@@ -42,7 +42,7 @@ class Tocco {
   }
 
   bool misura() {
-    auto& forma = *dynamic_cast<somme::FormNumeriTotaleHK*>(ambiente_.fondo.forms().current());
+    auto& forma = *dynamic_cast<somme::FormaNumeriHK*>(ambiente_.fondo.forms().current());
     std::vector<double> tempi;
     for (int i = 0; i < kTocchi; ++i) {
       forma.TestoInput.setText({});

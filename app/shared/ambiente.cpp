@@ -17,7 +17,7 @@ Ambiente::Ambiente(const Servizi& dati, TabellaForme tabella, platform::Forms::F
 
 std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view nome) {
   const SchedaForma scheda = SchedaDi(ambiente.forme, nome);
-  return scheda.crea == nullptr ? nullptr : scheda.crea(ambiente);
+  return scheda.crea == nullptr ? nullptr : scheda.crea(ambiente, nome);
 }
 
 }  // namespace somme

@@ -51,7 +51,8 @@ enum class Modo { MouseTastiera, Scansione, Tocco };
 // guesses from a name.
 struct SchedaForma {
   std::string_view nome;
-  std::shared_ptr<platform::Form> (*crea)(Ambiente& ambiente) = nullptr;
+  // Makes it; nome: this row's.
+  std::shared_ptr<platform::Form> (*crea)(Ambiente& ambiente, std::string_view nome) = nullptr;
   Genere genere = Genere::Pagina;
   // Of exercises: what it exercises, how it is answered, which form its menu goes back to.
   Famiglia famiglia = Famiglia::Nessuna;

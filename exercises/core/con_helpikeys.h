@@ -4,17 +4,11 @@
 #include <utility>
 
 #include "exercises/core/chiedi_foglio.h"
+#include "exercises/core/input_tocco.h"
 #include "input/collegamento_helpikeys.h"
 #include "platform/forms/controls/menu_item.h"
 
 namespace somme {
-
-// What the forms for the touch keyboard differ in, apart from what their keys do.
-struct TastieraHelpiKeys {
-  const MappaTasti& mappa;
-  // When the Load connects: before or after the layout is started.
-  enum class Collega { PrimaDelResizer, DopoIlResizer } collega = Collega::DopoIlResizer;
-};
 
 // An exercise form, or a base of some, that is worked by touch: the pupil lays a hand on a printed
 // sheet, and HelpiKeys reports where. It opens the connection at the Load, asks for the touches as
@@ -74,15 +68,5 @@ class ConHelpiKeys : public Base {
   const TastieraHelpiKeys& tastiera_;
   CollegamentoHelpiKeys collegamento_;
 };
-
-namespace disegno {
-
-// The socket that stands on a touch form; F is the form or its base that derives from ConHelpiKeys.
-template <class F>
-constexpr platform::Row Connessione() {
-  return platform::item<&F::ControlloConnessione>(0, {});
-}
-
-}  // namespace disegno
 
 }  // namespace somme

@@ -16,6 +16,27 @@ FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& d
   mnuEsci.onClick([this] { Esci(); });
 }
 
+void FormaEsercizio::onLoad() {
+  Forma::onLoad();
+  if (modo_ != nullptr) modo_->AlCaricamento();
+}
+
+void FormaEsercizio::AvviaResizer() {
+  if (modo_ != nullptr) modo_->PrimaDelResizer();
+  Forma::AvviaResizer();
+  if (modo_ != nullptr) modo_->DopoIlResizer();
+}
+
+void FormaEsercizio::onActivate() {
+  if (modo_ != nullptr) modo_->AllAttivazione();
+  IniziaAttivazione();
+}
+
+void FormaEsercizio::Esci() {
+  if (modo_ != nullptr) modo_->AllUscita();
+  VaiA(scheda().menu);
+}
+
 QString FormaEsercizio::ConteggioEsatti() const {
   return stringhe().TestoEsatti + stringhe().Spazio + platform::leadingBlank(stato().ContaEsatti);
 }
@@ -99,6 +120,7 @@ QString FormaEsercizio::SommaFatta() const {
 }
 
 void FormaEsercizio::ApriPannelloStampa() {
+  if (modo_ != nullptr) modo_->AlPannelloStampa();
   PictureStampa.cover();
 }
 

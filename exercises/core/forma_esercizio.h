@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "app/shared/forma.h"
+#include "exercises/core/modo_input.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/image.h"
 #include "platform/forms/controls/label.h"
@@ -20,6 +21,12 @@ class FormaEsercizio : public Forma {
  public:
   FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno);
 
+  // For the parts that a form is made of.
+  using Forma::ambiente;
+  using Forma::scheda;
+  // Tells assistive technology what the pupil has written so far without typing it.
+  void DiciScritto(const QString& scritto);
+
   platform::Label EtichettaEsatti{*this};
   platform::Label EtichettaErrati{*this};
   platform::Image ImgSi{*this};
@@ -33,8 +40,18 @@ class FormaEsercizio : public Forma {
   platform::MenuItem mnuEsci{*this};
 
  protected:
+  // Takes up another way of input than mouse and keyboard; the form holds it. Called at most once,
+  // in the form's constructor.
+  void Usa(ModoInput& modo) { modo_ = &modo; }
+
   // Makes and shows the next case.
   virtual void NuovoCaso() = 0;
+  // What an activation does once the way of input is ready.
+  virtual void IniziaAttivazione() {}
+
+  void onLoad() override;
+  void AvviaResizer() override;
+  void onActivate() override;
 
   void ScriviEsatti();
   void ScriviErrati();
@@ -54,8 +71,6 @@ class FormaEsercizio : public Forma {
 
   // Tells assistive technology what a case asks; each begins with it.
   void DiciDomanda(const QString& domanda) { announce(domanda.simplified()); }
-  // Tells it what the pupil has written so far without typing it.
-  void DiciScritto(const QString& scritto);
 
   // A number as a question shows it.
   [[nodiscard]] QString NumeroInDomanda(qint16 numero) const;
@@ -66,7 +81,7 @@ class FormaEsercizio : public Forma {
   // Both counters to 0; the case stays as it is.
   void AzzeraConteggio();
   // Back to the menu that the form was opened from.
-  void Esci() { VaiA(scheda().menu); }
+  void Esci();
   virtual void ApriPannelloStampa();
   virtual void ChiudiPannelloStampa();
   // The record on paper; the panel stays open.
@@ -77,6 +92,8 @@ class FormaEsercizio : public Forma {
   [[nodiscard]] QString ConteggioErrati() const;
   // Tells assistive technology what the pictures show, with its count.
   void DiciVerdetto(const platform::Image& verdetto, const QString& conteggio);
+
+  ModoInput* modo_ = nullptr;  // none: mouse and keyboard alone
 };
 
 }  // namespace somme

@@ -1,10 +1,27 @@
 #include "exercises/numbers/forma_numeri.h"
 
+#include "exercises/numbers/disegno_numeri.h"
+
 namespace somme {
 
-FormaNumeri::FormaNumeri(Ambiente& ambiente, const platform::FormDesign& disegno,
-                         const EsercizioNumeri& esercizio)
-    : FormaEsercizio(ambiente, disegno), esercizio_(esercizio) {}
+FormaNumeri::FormaNumeri(Ambiente& ambiente, std::string_view nome,
+                         const EsercizioNumeri& esercizio,
+                         std::span<const std::span<const platform::Row>> tavole)
+    : FormaEsercizio(ambiente, disegno::DisegnoNumeri(nome, tavole)), esercizio_(esercizio) {}
+
+void FormaNumeri::onLoad() {
+  FormaEsercizio::onLoad();
+  ScriviEsatti();
+  ScriviErrati();
+  ImpostaCursoreSistema();
+}
+
+void FormaNumeri::IniziaAttivazione() {
+  IniziaElenco(stato().TitoloEsercizio);
+  letEventsRun();
+  MostraRisposta();
+  NuovoCaso();
+}
 
 const Livello* FormaNumeri::GeneraCaso() {
   const Livello* livello = LivelloDi(esercizio_.livelli, stato().TipoEsercizio);
@@ -15,6 +32,18 @@ const Livello* FormaNumeri::GeneraCaso() {
 void FormaNumeri::ScriviDomanda() {
   EtOperazione.setCaption((this->*esercizio_.domanda)());
   DiciDomanda(EtOperazione.caption());
+}
+
+void FormaNumeri::Giudica(bool giusta) {
+  if (giusta) {
+    RispostaGiusta();
+  } else {
+    SegnaSbagliato();
+  }
+}
+
+void FormaNumeri::ScriviConRisposta(const QString& risposta) {
+  ScriviRisolta((this->*esercizio_.risolta)(risposta));
 }
 
 void FormaNumeri::ScriviRisolta(const QString& operazione) {

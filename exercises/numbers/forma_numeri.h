@@ -7,25 +7,28 @@ namespace somme {
 
 class FormaNumeri;
 
-// In what the form that asks for the sum and the one that asks for an addend differ; in nothing
-// else.
+// In what the forms that ask for the sum and those that ask for an addend differ; in nothing else.
 struct EsercizioNumeri {
   Livelli livelli;  // of `TipoEsercizio`
   QString (FormaNumeri::*domanda)() const;
   qint16 Caso::*cercato;  // what the answer is compared with
-  // What the operation shows after a right answer, which was written so.
+  // What the operation shows after a right answer that was typed or scanned, and written so.
   QString (FormaNumeri::*risolta)(const QString& risposta) const;
-  // The two last steps of a right answer in their order: the box is disabled, `PulsanteAvanti`
-  // takes the focus.
+  // Where the answer is typed, the two last steps of a right one in their order: the box is
+  // disabled, `PulsanteAvanti` takes the focus.
   enum class Finale { DisabilitaPoiFuoco, FuocoPoiDisabilita } finale;
+  // Where it is touched, how a case begins: whether the box is enabled and events run before
+  // anything else.
+  enum class InizioHK { AbilitaCasella, Subito } inizioHK;
 };
 
-// The number exercises: an operation with one number to find, at the level that the menu chose.
-// Through which box the answer comes is left to the forms.
+// The number exercises: an operation with one number to find, at the level that the menu chose. How
+// the answer comes is left to the forms.
 class FormaNumeri : public FormaEsercizio {
  public:
-  FormaNumeri(Ambiente& ambiente, const platform::FormDesign& disegno,
-              const EsercizioNumeri& esercizio);
+  // nome: the form's name in the table of forms; tavole: its design's rows.
+  FormaNumeri(Ambiente& ambiente, std::string_view nome, const EsercizioNumeri& esercizio,
+              std::span<const std::span<const platform::Row>> tavole);
 
   platform::Label EtOperazione{*this};
 
@@ -36,13 +39,22 @@ class FormaNumeri : public FormaEsercizio {
   [[nodiscard]] QString RicomponiSomma(const QString& risposta) const;
 
  protected:
+  void onLoad() override;
+  void IniziaAttivazione() override;
+  // Between the record's heading, with a yield, and the first case of an activation.
+  virtual void MostraRisposta() {}
+
   // Draws a case of the level; the level, or null for a `TipoEsercizio` without one, which leaves
   // the case as it was.
   const Livello* GeneraCaso();
   void ScriviDomanda();
   [[nodiscard]] qint16 Cercato() const { return stato().*esercizio_.cercato; }
+  void Giudica(bool giusta);
+  virtual void RispostaGiusta() = 0;
   // The solved operation, on the form and in the record.
   void ScriviRisolta(const QString& operazione);
+  // The same with the answer as it was typed or scanned.
+  void ScriviConRisposta(const QString& risposta);
   [[nodiscard]] const EsercizioNumeri& esercizio() const { return esercizio_; }
 
  private:
@@ -56,6 +68,7 @@ inline constexpr EsercizioNumeri kTrovaTotale{
     .cercato = &Caso::Totale,
     .risolta = &FormaNumeri::AccodaRisposta,
     .finale = EsercizioNumeri::Finale::DisabilitaPoiFuoco,
+    .inizioHK = EsercizioNumeri::InizioHK::Subito,
 };
 inline constexpr EsercizioNumeri kTrovaAddendo{
     .livelli = LivelliNumeriAddendo,
@@ -63,6 +76,7 @@ inline constexpr EsercizioNumeri kTrovaAddendo{
     .cercato = &Caso::Addendo2,
     .risolta = &FormaNumeri::RicomponiSomma,
     .finale = EsercizioNumeri::Finale::FuocoPoiDisabilita,
+    .inizioHK = EsercizioNumeri::InizioHK::AbilitaCasella,
 };
 
 }  // namespace somme

@@ -1,38 +1,60 @@
 #include "exercises/numbers/forma_numeri_hk.h"
 
+#include "exercises/numbers/disegno_numeri.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
+
+using namespace disegno;
 
 namespace {
 
 constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaCifre};
 
+constexpr auto kCasella = std::to_array<Row>({
+    row<&FormaNumeriHK::TestoInput>({3240, 3600, 3015, 1095},
+                                    {.toolTip = "Il numero che hai toccato",
+                                     .font = {Face::Tahoma, 36},
+                                     .align = Align::Centre,
+                                     .border = true,
+                                     .locked = true}),
+    Avanti<FormaNumeriHK>(kPostoAvantiNumeri),
+    Connessione<FormaNumeriHK>(),
+});
+
+constexpr auto kFoglio = std::to_array<Row>({
+    item<&FormaNumeriHK::mnuStampaHK>({.caption = "Stampa Foglio Tastiera &HelpiKeys"}),
+});
+
+constexpr std::array<std::span<const Row>, 5> kTavole{kDomandaNumeri, kCasella, kVerdettoNumeri,
+                                                      kFoglio, kMenuNumeri};
+
 }  // namespace
 
-FormaNumeriHK::FormaNumeriHK(Ambiente& ambiente, const platform::FormDesign& disegno,
-                             const EsercizioNumeriHK& esercizio)
-    : ConTastiCifre(kTastiera, ambiente, disegno, esercizio.numeri), inizio_(esercizio.inizio) {
-  OffriFoglio(mnuStampaHK);
+FormaNumeriHK::FormaNumeriHK(Ambiente& ambiente, std::string_view nome,
+                             const EsercizioNumeri& esercizio)
+    : FormaNumeri(ambiente, nome, esercizio, kTavole),
+      tasti_(*this, CifreIn(TestoInput, {.conferma = [this] { Conferma(); },
+                                         .avanti = [this] { NuovoCaso(); }})),
+      tocco_(*this, kTastiera, ControlloConnessione, mnuStampaHK,
+             [this](int tasto) { InterpretaSegnale(tasto); }) {
+  Usa(tocco_);
+  PulsanteAvanti.onClick([this] { NuovoCaso(); });
+}
+
+void FormaNumeriHK::InterpretaSegnale(int tasto) {
+  const bool risolto = PulsanteAvanti.isEnabled();
+  InterpretaCifre(tasti_, tasto, !risolto, risolto);
 }
 
 void FormaNumeriHK::onLoad() {
-  ConTastiCifre::onLoad();
+  FormaNumeri::onLoad();
   PulsanteAvanti.setVisible(true);
-  ScriviEsatti();
-  ScriviErrati();
-  ImpostaCursoreSistema();
-}
-
-void FormaNumeriHK::DopoLaRichiesta() {
-  IniziaElenco(stato().TitoloEsercizio);
-  letEventsRun();
-  NuovoCaso();
 }
 
 void FormaNumeriHK::NuovoCaso() {
   newCase();
-  if (inizio_ == EsercizioNumeriHK::Inizio::AbilitaCasella) {
+  if (esercizio().inizioHK == EsercizioNumeri::InizioHK::AbilitaCasella) {
     TestoInput.setEnabled(true);
     letEventsRun();
   }
@@ -42,18 +64,16 @@ void FormaNumeriHK::NuovoCaso() {
   ScriviDomanda();
 }
 
-void FormaNumeriHK::Conferma() {
-  const double numero = platform::leadingNumber(TestoInput.text());
-  if (numero == 0) return;
-  if (numero == Cercato()) {
-    RispostaGiusta(numero);
-  } else {
-    SegnaSbagliato();
-  }
+double FormaNumeriHK::Scritto() const {
+  return platform::leadingNumber(TestoInput.text());
 }
 
-void FormaNumeriHK::RispostaGiusta(double numero) {
-  TestoInput.setText(platform::formatPicture(numero, u"### ###"));
+void FormaNumeriHK::Conferma() {
+  if (Scritto() != 0) Giudica(Scritto() == Cercato());
+}
+
+void FormaNumeriHK::RispostaGiusta() {
+  TestoInput.setText(platform::formatPicture(Scritto(), u"### ###"));
   SegnaGiusto();
   PulsanteAvanti.setEnabled(true);
   ScriviRisolta(SommaFatta());

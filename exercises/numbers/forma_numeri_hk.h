@@ -1,45 +1,40 @@
 #pragma once
 
-#include "exercises/core/con_avanti.h"
-#include "exercises/core/con_tasti_cifre.h"
+#include "exercises/core/input_tocco.h"
 #include "exercises/numbers/forma_numeri.h"
+#include "platform/forms/controls/text_box.h"
 
 namespace somme {
 
-// What the number forms for the touch keyboard ask for, and how a case begins on them; they differ
-// in nothing else. After a right answer both show the operation made of the case.
-struct EsercizioNumeriHK {
-  const EsercizioNumeri& numeri;
-  // Whether the box is enabled and events run before anything else.
-  enum class Inizio { AbilitaCasella, Subito } inizio;
-};
-
 // The number exercises for the touch keyboard: digits, bin, confirmation and the way on are keys of
-// its sheet, and the box only shows what they write.
+// its sheet, and the box only shows what they write. After a right answer the operation is made of
+// the case, whatever was asked.
 //
 // A 0 is not judged, as if the box were empty: a case whose answer is 0 cannot be solved, and the
-// menu is the only way on. Settled.
-class FormaNumeriHK : public ConTastiCifre<ConAvanti<FormaNumeri>> {
+// menu is the only way on.
+class FormaNumeriHK final : public FormaNumeri {
  public:
-  FormaNumeriHK(Ambiente& ambiente, const platform::FormDesign& disegno,
-                const EsercizioNumeriHK& esercizio);
+  FormaNumeriHK(Ambiente& ambiente, std::string_view nome, const EsercizioNumeri& esercizio);
 
+  platform::ControlArray<platform::Socket> ControlloConnessione{*this};
   platform::TextBox TestoInput{*this};
+  platform::Button PulsanteAvanti{*this};
   platform::MenuItem mnuStampaHK{*this};
+
+  // Does what a key of the sheet does, 1 to 16.
+  void InterpretaSegnale(int tasto);
 
  protected:
   void onLoad() override;
-  void DopoLaRichiesta() override;
   void NuovoCaso() override;
-
-  [[nodiscard]] platform::TextBox& Casella() override { return TestoInput; }
-  [[nodiscard]] bool SiScrive() const override { return !PulsanteAvanti.isEnabled(); }
-  void Conferma() override;
+  void RispostaGiusta() override;
 
  private:
-  void RispostaGiusta(double numero);
+  void Conferma();
+  [[nodiscard]] double Scritto() const;
 
-  EsercizioNumeriHK::Inizio inizio_;
+  TastiCifre tasti_;
+  InputTocco tocco_;
 };
 
 }  // namespace somme

@@ -1,21 +1,47 @@
 #include "exercises/numbers/forma_numeri_scansione.h"
 
+#include "exercises/core/disegno_scansione.h"
+#include "exercises/numbers/disegno_numeri.h"
+
 namespace somme {
 
-FormaNumeriScansione::FormaNumeriScansione(Ambiente& ambiente, const platform::FormDesign& disegno,
-                                           const EsercizioNumeri& esercizio)
-    : ConScansione(ambiente, disegno, esercizio) {}
+using namespace disegno;
 
-void FormaNumeriScansione::onLoad() {
-  ConScansione::onLoad();
-  PreparaInput();
+namespace {
+
+// Smaller than where it is typed, to leave room for the keyboard.
+constexpr TwipsRect kPostoTestoInput{3360, 2400, 2175, 1095};
+
+constexpr auto kRisposta = std::to_array<Row>({
+    row<&FormaNumeriScansione::TestoInputInvisibile>(
+        kPostoTestoInput, {.font = {Face::Tahoma, 20.25}, .hidden = true}),
+    row<&FormaNumeriScansione::TestoInput>(kPostoTestoInput,
+                                           {.toolTip = "Il numero scelto con la tastiera"}),
+    TastieraNumerica<FormaNumeriScansione>({360, 4440, 9855, 705}, true, kSenzaAiuto),
+    row<&FormaNumeriScansione::LabelPerTastieraNumerica>({360, 4320, 9975, 735}, {.hidden = true}),
+});
+
+constexpr std::array<std::span<const Row>, 4> kTavole{kDomandaNumeri, kRisposta, kVerdettoNumeri,
+                                                      kMenuNumeri};
+
+}  // namespace
+
+FormaNumeriScansione::FormaNumeriScansione(Ambiente& ambiente, std::string_view nome,
+                                           const EsercizioNumeri& esercizio)
+    : FormaNumeri(ambiente, nome, esercizio, kTavole) {
+  Usa(scansione_);
+  TestoInput.onConfermato([this] { Giudica(TestoInput.ValoreInserito == Cercato()); });
 }
 
-void FormaNumeriScansione::onActivate() {
-  MostraInput();
+void FormaNumeriScansione::onLoad() {
+  FormaNumeri::onLoad();
+  TestoInput.setVisible(false);
+}
+
+void FormaNumeriScansione::MostraRisposta() {
+  casella_.Mostra();
   PosaTastiera(TastieraNumericaScansione1, LabelPerTastieraNumerica);
   TastieraNumericaScansione1.setVisible(true);
-  NuovoCaso();
 }
 
 void FormaNumeriScansione::NuovoCaso() {
@@ -24,7 +50,7 @@ void FormaNumeriScansione::NuovoCaso() {
   if (const Livello* livello = GeneraCaso()) TestoInput.MaxLength.set(livello->cifre);
   ScriviDomanda();
   TastieraNumericaScansione1.Attiva();
-  MettiModo(TastieraNumericaScansione1);
+  MettiModoScansione(stato(), TastieraNumericaScansione1);
   TastieraNumericaScansione1.DisattivaAvanti();
 }
 
@@ -35,7 +61,7 @@ void FormaNumeriScansione::SvuotaInput() {
 
 void FormaNumeriScansione::RispostaGiusta() {
   SegnaGiusto();
-  ScriviConRisposta();
+  ScriviConRisposta(TestoInput.TestoFormattato);
   TastieraNumericaScansione1.AttivaAvanti();
 }
 

@@ -1,30 +1,43 @@
 #pragma once
 
-#include "exercises/core/con_scansione.h"
-#include "exercises/numbers/forma_numeri_input.h"
+#include "exercises/core/input_scansione.h"
+#include "exercises/core/scansione.h"
+#include "exercises/numbers/casella_posata.h"
+#include "exercises/numbers/forma_numeri.h"
 
 namespace somme {
 
 // The number exercises by scanning: the keyboard of digits fills `TestoInput`, confirms, and leads
-// on after a right answer. Closing the print panel does not wake the keyboard, as settled: that
-// comes with the next case.
-class FormaNumeriScansione : public ConScansione<FormaNumeriInput> {
+// on after a right answer. Closing the print panel does not wake the keyboard: that comes with the
+// next case.
+class FormaNumeriScansione final : public FormaNumeri {
  public:
-  FormaNumeriScansione(Ambiente& ambiente, const platform::FormDesign& disegno,
-                       const EsercizioNumeri& esercizio);
+  FormaNumeriScansione(Ambiente& ambiente, std::string_view nome, const EsercizioNumeri& esercizio);
 
+  platform::TextBox TestoInputInvisibile{*this};
+  TestoInputNumerico TestoInput{*this};
+  TastieraNumericaScansione TastieraNumericaScansione1{*this};
   platform::Label LabelPerTastieraNumerica{*this};  // hidden: the keyboard's place
 
  protected:
   void onLoad() override;
-  void onActivate() override;
+  void MostraRisposta() override;
   void NuovoCaso() override;
   void RispostaGiusta() override;
-  // After a wrong answer the digits go into the hidden box, until `SvuotaInput` brings it back.
-  void ScriviCifra(int cifra) override { AccodaCifra(TestoInput, cifra); }
-  void SvuotaInput() override;
-  [[nodiscard]] QString Scritto() const override { return TestoInput.Text.get(); }
-  void Conferma() override { TestoInput.TerminaInserimento(); }
+
+ private:
+  void SvuotaInput();
+
+  CasellaPosata casella_{TestoInput, TestoInputInvisibile};
+  InputScansione scansione_{
+      *this,
+      TastieraNumericaScansione1,
+      // After a wrong answer the digits go into the hidden box, until the bin brings it back.
+      {.cifra = [this](int cifra) { AccodaCifra(TestoInput, cifra); },
+       .cestino = [this] { SvuotaInput(); },
+       .scritto = [this] { return TestoInput.Text.get(); },
+       .conferma = [this] { TestoInput.TerminaInserimento(); },
+       .avanti = [this] { NuovoCaso(); }}};
 };
 
 }  // namespace somme

@@ -1,20 +1,39 @@
 #include "exercises/numbers/forma_numeri_tastiera.h"
 
+#include "exercises/numbers/disegno_numeri.h"
+
 namespace somme {
 
-FormaNumeriTastiera::FormaNumeriTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
-                                         const EsercizioNumeri& esercizio)
-    : ConAvanti(ambiente, disegno, esercizio) {}
+using namespace disegno;
 
-void FormaNumeriTastiera::onLoad() {
-  ConAvanti::onLoad();
-  PulsanteAvanti.setVisible(true);
-  PreparaInput();
+namespace {
+
+constexpr TwipsRect kPostoTestoInput{3360, 2760, 2655, 1095};
+
+constexpr auto kCasella = std::to_array<Row>({
+    row<&FormaNumeriTastiera::TestoInputInvisibile>(kPostoTestoInput,
+                                                    {.font = {Face::Tahoma, 36}, .hidden = true}),
+    row<&FormaNumeriTastiera::TestoInput>(kPostoTestoInput,
+                                          {.toolTip = "Scrivi il numero e premi Invio"}),
+    Avanti<FormaNumeriTastiera>(kPostoAvantiNumeri),
+});
+
+constexpr std::array<std::span<const Row>, 4> kTavole{kDomandaNumeri, kCasella, kVerdettoNumeri,
+                                                      kMenuNumeri};
+
+}  // namespace
+
+FormaNumeriTastiera::FormaNumeriTastiera(Ambiente& ambiente, std::string_view nome,
+                                         const EsercizioNumeri& esercizio)
+    : FormaNumeri(ambiente, nome, esercizio, kTavole) {
+  TestoInput.onConfermato([this] { Giudica(TestoInput.ValoreInserito == Cercato()); });
+  PulsanteAvanti.onClick([this] { NuovoCaso(); });
 }
 
-void FormaNumeriTastiera::onActivate() {
-  MostraInput();
-  NuovoCaso();
+void FormaNumeriTastiera::onLoad() {
+  FormaNumeri::onLoad();
+  PulsanteAvanti.setVisible(true);
+  TestoInput.setVisible(false);
 }
 
 void FormaNumeriTastiera::NuovoCaso() {
@@ -31,7 +50,7 @@ void FormaNumeriTastiera::NuovoCaso() {
 void FormaNumeriTastiera::RispostaGiusta() {
   SegnaGiusto();
   PulsanteAvanti.setEnabled(true);
-  ScriviConRisposta();
+  ScriviConRisposta(TestoInput.TestoFormattato);
   if (esercizio().finale == EsercizioNumeri::Finale::DisabilitaPoiFuoco) {
     TestoInput.Enabled.set(false);
     PulsanteAvanti.setFocus();

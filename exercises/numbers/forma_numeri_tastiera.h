@@ -1,21 +1,27 @@
 #pragma once
 
-#include "exercises/core/con_avanti.h"
-#include "exercises/numbers/forma_numeri_input.h"
+#include "exercises/numbers/casella_posata.h"
+#include "exercises/numbers/forma_numeri.h"
 
 namespace somme {
 
 // The number exercises for mouse and keyboard: the pupil types the number into `TestoInput`.
-class FormaNumeriTastiera : public ConAvanti<FormaNumeriInput> {
+class FormaNumeriTastiera final : public FormaNumeri {
  public:
-  FormaNumeriTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
-                      const EsercizioNumeri& esercizio);
+  FormaNumeriTastiera(Ambiente& ambiente, std::string_view nome, const EsercizioNumeri& esercizio);
+
+  platform::TextBox TestoInputInvisibile{*this};
+  TestoInputNumerico TestoInput{*this};
+  platform::Button PulsanteAvanti{*this};
 
  protected:
   void onLoad() override;
-  void onActivate() override;
+  void MostraRisposta() override { casella_.Mostra(); }
   void NuovoCaso() override;
   void RispostaGiusta() override;
+
+ private:
+  CasellaPosata casella_{TestoInput, TestoInputInvisibile};
 };
 
 }  // namespace somme

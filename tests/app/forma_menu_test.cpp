@@ -6,7 +6,7 @@
 #include "app/form_menu_plu.h"
 #include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/numbers/form_numeri_totale.h"
+#include "exercises/numbers/forma_numeri_tastiera.h"
 #include "platform/forms/page.h"
 #include "support/banco.h"
 #include "support/controfigura.h"
@@ -298,13 +298,13 @@ class FormaMenuTest : public QObject {
     banco.clicca(banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri).Command1[1]);
     banco.scrivi(QStringLiteral("99"));
     banco.batti(Qt::Key_Return);
-    QCOMPARE(banco.forma<FormNumeriTotale>().EtichettaErrati.caption(),
+    QCOMPARE(banco.forma<FormaNumeriTastiera>().EtichettaErrati.caption(),
              QStringLiteral("Errati  1"));
-    banco.forma<FormNumeriTotale>().mnuEsci.click();
+    banco.forma<FormaNumeriTastiera>().mnuEsci.click();
     banco.clicca(banco.forma<FormMenuNumeri>().Command1[1]);
-    QCOMPARE(banco.forma<FormNumeriTotale>().EtichettaErrati.caption(),
+    QCOMPARE(banco.forma<FormaNumeriTastiera>().EtichettaErrati.caption(),
              QStringLiteral("Errati  0"));
-    QCOMPARE(banco.forma<FormNumeriTotale>().EtichettaEsatti.caption(),
+    QCOMPARE(banco.forma<FormaNumeriTastiera>().EtichettaEsatti.caption(),
              QStringLiteral("Esatti  0"));
   }
 

@@ -6,7 +6,7 @@
 #include "app/form_menu.h"
 #include "app/shared/modulo_ini.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/numbers/form_numeri_totale.h"
+#include "exercises/numbers/forma_numeri_tastiera.h"
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
 
@@ -206,7 +206,7 @@ class LinguaDelMenuTest : public QObject {
     Banco banco;
     scegli(inglese(apri(banco)));
     banco.ambiente->stato.TipoEsercizio = 1;
-    const auto& forma = banco.apri<somme::FormNumeriTotale>(somme::forme::kFormNumeriTotale);
+    const auto& forma = banco.apri<somme::FormaNumeriTastiera>(somme::forme::kFormNumeriTotale);
     QCOMPARE(forma.PulsanteAvanti.caption(), QStringLiteral("&next"));
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  0"));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  0"));

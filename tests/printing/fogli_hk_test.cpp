@@ -1,7 +1,6 @@
 #include "exercises/bars/form_barre10_hk.h"
 #include "exercises/bars/form_barre20_hk.h"
-#include "exercises/numbers/form_numeri_addendo_hk.h"
-#include "exercises/numbers/form_numeri_totale_hk.h"
+#include "exercises/numbers/forma_numeri_hk.h"
 #include "fogli_di_prova.h"
 #include "platform/forms/controls/menu_item.h"
 #include "support/come_dal_menu.h"

@@ -15,9 +15,8 @@
 #include "exercises/blocks/form_hlu.h"
 #include "exercises/blocks/form_lu.h"
 #include "exercises/blocks/form_lu_scansione.h"
-#include "exercises/numbers/form_numeri_addendo.h"
-#include "exercises/numbers/form_numeri_totale.h"
-#include "exercises/numbers/form_numeri_totale_scansione.h"
+#include "exercises/numbers/forma_numeri_tastiera.h"
+#include "exercises/numbers/forma_numeri_scansione.h"
 #include "exercises/table/form_tabella.h"
 #include "platform/forms/menu_bar.h"
 #include "support/scansione_di_prova.h"
@@ -182,12 +181,12 @@ FormLUScansione& LUScansione(Banco& banco) {
   return banco.apri<FormLUScansione>(forme::kFormLUScansione);
 }
 
-FormNumeriTotale& Numeri(Banco& banco) {
+FormaNumeriTastiera& Numeri(Banco& banco) {
   banco.ambiente->stato.TipoEsercizio = 7;
   banco.ambiente->stato.TitoloEsercizio =
       Titolo(banco, "0031", "0026", TestoLingua(*banco.ambiente, QStringLiteral("0012")));
   banco.sorte.scrivi({{74, 99}, {47, 75}, {38, 99}, {21, 39}});
-  return banco.apri<FormNumeriTotale>(forme::kFormNumeriTotale);
+  return banco.apri<FormaNumeriTastiera>(forme::kFormNumeriTotale);
 }
 void NumeriTotale(Banco& banco) {
   Numeri(banco);

@@ -7,7 +7,7 @@
 #include "exercises/abacus/form_abaco_hk.h"
 #include "exercises/bars/form_barre10_hk.h"
 #include "exercises/blocks/form_lu_hk.h"
-#include "exercises/numbers/form_numeri_totale_hk.h"
+#include "exercises/numbers/forma_numeri_hk.h"
 #include "support/tocchi.h"
 #include "tools/tavoletta/finestra_tavoletta.h"
 
@@ -94,7 +94,7 @@ void BarreTocco(Banco& banco) {
 }
 
 void NumeriTocco(Banco& banco) {
-  Pronta<FormNumeriTotaleHK>(banco, forme::kFormNumeriTotaleHK, 7, {{74, 99}, {47, 75}});
+  Pronta<FormaNumeriHK>(banco, forme::kFormNumeriTotaleHK, 7, {{74, 99}, {47, 75}});
   prova::toccaNumero(banco, QStringLiteral("75"));
 }
 

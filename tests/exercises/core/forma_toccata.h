@@ -7,9 +7,9 @@
 
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
-#include "exercises/core/con_helpikeys.h"
 #include "exercises/core/disegno_comune.h"
 #include "exercises/core/forma_esercizio.h"
+#include "exercises/core/input_tocco.h"
 #include "support/banco.h"
 #include "support/controfigura.h"
 
@@ -22,13 +22,18 @@ inline constexpr std::string_view kFoglio = somme::forme::kFormStampaLU;
 inline constexpr somme::TastieraHelpiKeys kTastiera{.mappa = somme::kMappaBlocchi};
 
 // A touch form of the test's own: it writes down its life and its keys.
-class FormDiProva final : public somme::ConHelpiKeys<somme::FormaEsercizio> {
+class FormDiProva final : public somme::FormaEsercizio {
  public:
   explicit FormDiProva(somme::Ambiente& ambiente);
 
+  platform::ControlArray<platform::Socket> ControlloConnessione{*this};
   platform::MenuItem mnuStampaHK{*this};
 
-  void InterpretaSegnale(int tasto) override {
+  [[nodiscard]] bool HelpiKeysConnesso() const { return tocco_.HelpiKeysConnesso(); }
+  [[nodiscard]] int DecodificaSegnali(int colonna, int riga) const {
+    return tocco_.DecodificaSegnali(colonna, riga);
+  }
+  void InterpretaSegnale(int tasto) {
     tasti.push_back(tasto);
     if (alTasto) alTasto();
   }
@@ -41,7 +46,7 @@ class FormDiProva final : public somme::ConHelpiKeys<somme::FormaEsercizio> {
   bool HelpiKeysAllAttivazione = false;
 
  protected:
-  void DopoLaRichiesta() override {
+  void IniziaAttivazione() override {
     ++attivazioni;
     HelpiKeysAllAttivazione = HelpiKeysConnesso();
   }
@@ -49,6 +54,10 @@ class FormDiProva final : public somme::ConHelpiKeys<somme::FormaEsercizio> {
     newCase();
     ++casi;
   }
+
+ private:
+  somme::InputTocco tocco_{*this, kTastiera, ControlloConnessione, mnuStampaHK,
+                           [this](int tasto) { InterpretaSegnale(tasto); }};
 };
 
 inline constexpr auto kRighe = std::to_array<platform::Row>({
@@ -60,9 +69,8 @@ inline constexpr std::array<std::span<const platform::Row>, 1> kTavole{kRighe};
 inline constexpr platform::FormDesign kDisegno{
     .name = kNome, .caption = "", .width = 9000, .height = 6000, .tables = kTavole};
 
-inline FormDiProva::FormDiProva(somme::Ambiente& ambiente)
-    : ConHelpiKeys(kTastiera, ambiente, kDisegno) {
-  OffriFoglio(mnuStampaHK);
+inline FormDiProva::FormDiProva(somme::Ambiente& ambiente) : FormaEsercizio(ambiente, kDisegno) {
+  Usa(tocco_);
 }
 
 // The program with the touch form of the test, and a stand-in for its keyboard sheet.
@@ -72,12 +80,14 @@ inline somme::TabellaForme conFormDiProva() {
     std::vector<somme::SchedaForma> tutte(vere.begin(), vere.end());
     for (somme::SchedaForma& scheda : tutte) {
       if (scheda.nome != kFoglio) continue;
-      scheda.crea = [](somme::Ambiente& ambiente) -> std::shared_ptr<platform::Form> {
+      scheda.crea = [](somme::Ambiente& ambiente,
+                       std::string_view) -> std::shared_ptr<platform::Form> {
         return std::make_shared<Controfigura>(ambiente, kFoglio);
       };
     }
     tutte.push_back({.nome = kNome,
-                     .crea = [](somme::Ambiente& ambiente) -> std::shared_ptr<platform::Form> {
+                     .crea = [](somme::Ambiente& ambiente,
+                                std::string_view) -> std::shared_ptr<platform::Form> {
                        return std::make_shared<FormDiProva>(ambiente);
                      },
                      .genere = somme::Genere::Esercizio,

@@ -1,8 +1,7 @@
 #include "app/shared/nomi_forme.h"
-#include "exercises/numbers/form_numeri_addendo.h"
-#include "exercises/numbers/form_numeri_totale.h"
-#include "exercises/numbers/form_numeri_totale_hk.h"
-#include "exercises/numbers/form_numeri_totale_scansione.h"
+#include "exercises/numbers/forma_numeri_hk.h"
+#include "exercises/numbers/forma_numeri_scansione.h"
+#include "exercises/numbers/forma_numeri_tastiera.h"
 #include "support/scansione_di_prova.h"
 #include "support/tocchi.h"
 
@@ -35,7 +34,7 @@ class AnnunciNumeriTest : public QObject {
  private Q_SLOTS:
   void typedTheQuestionTheVerdictsAndTheSolvedSumAreTold() {
     Banco banco;
-    auto& forma = apri<somme::FormNumeriTotale>(banco, somme::forme::kFormNumeriTotale);
+    auto& forma = apri<somme::FormaNumeriTastiera>(banco, somme::forme::kFormNumeriTotale);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     banco.scrivi(QStringLiteral("8"));
     banco.batti(Qt::Key_Return);
@@ -51,7 +50,7 @@ class AnnunciNumeriTest : public QObject {
 
   void theAddendThatIsAskedForIsLeftOut() {
     Banco banco;
-    apri<somme::FormNumeriAddendo>(banco, somme::forme::kFormNumeriAddendo, 2);
+    apri<somme::FormaNumeriTastiera>(banco, somme::forme::kFormNumeriAddendo, 2);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("3 + ____ = 7")});
     banco.scrivi(QStringLiteral("4"));
     banco.batti(Qt::Key_Return);
@@ -61,7 +60,7 @@ class AnnunciNumeriTest : public QObject {
   void scannedEachDigitIsToldWithThoseBeforeIt() {
     Banco banco;
     auto& forma =
-        apri<somme::FormNumeriTotaleScansione>(banco, somme::forme::kFormNumeriTotaleScansione);
+        apri<somme::FormaNumeriScansione>(banco, somme::forme::kFormNumeriTotaleScansione);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     const auto scegli = [&](int tasto) {
       return prova::scegliAMano(banco, forma.TastieraNumericaScansione1, tasto);
@@ -82,7 +81,7 @@ class AnnunciNumeriTest : public QObject {
     Banco banco;
     banco.ambiente->stato.TipoEsercizio = 1;
     banco.sorte.scrivi({{6, 10}, {3, 7}, {9, 10}, {4, 10}});
-    prova::apriPronta<somme::FormNumeriTotaleHK>(banco, somme::forme::kFormNumeriTotaleHK);
+    prova::apriPronta<somme::FormaNumeriHK>(banco, somme::forme::kFormNumeriTotaleHK);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     prova::toccaNumero(banco, QStringLiteral("12"));
     prova::tocca(banco, somme::kMappaCifre, prova::kTastoCestino);
@@ -100,7 +99,7 @@ class AnnunciNumeriTest : public QObject {
 
   void aNewCaseLeavesNothingOfTheOldOneToBeTold() {
     Banco banco;
-    auto& forma = apri<somme::FormNumeriTotale>(banco, somme::forme::kFormNumeriTotale);
+    auto& forma = apri<somme::FormaNumeriTastiera>(banco, somme::forme::kFormNumeriTotale);
     banco.scrivi(QStringLiteral("7"));
     banco.batti(Qt::Key_Return);
     banco.batti(Qt::Key_Space);

@@ -1,19 +1,19 @@
-#include "exercises/numbers/form_numeri_addendo.h"
+#include "exercises/numbers/forma_numeri_tastiera.h"
 
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
 
 using prova::Banco;
-using somme::FormNumeriAddendo;
+using somme::FormaNumeriTastiera;
 
 namespace {
 
-FormNumeriAddendo& apri(Banco& banco, qint16 tipo,
-                        const std::vector<prova::SorteDiProva::Estrazione>& estrazioni) {
+FormaNumeriTastiera& apri(Banco& banco, qint16 tipo,
+                          const std::vector<prova::SorteDiProva::Estrazione>& estrazioni) {
   banco.ambiente->stato.TipoEsercizio = tipo;
   banco.ambiente->stato.TitoloEsercizio = QStringLiteral("Trova l'addendo");
   banco.sorte.scrivi(estrazioni);
-  return banco.apri<FormNumeriAddendo>(somme::forme::kFormNumeriAddendo);
+  return banco.apri<FormaNumeriTastiera>(somme::forme::kFormNumeriAddendo);
 }
 
 void rispondi(Banco& banco, const QString& numero) {
@@ -30,7 +30,7 @@ class FormNumeriAddendoTest : public QObject {
  private Q_SLOTS:
   void theQuestionLeavesTheSecondAddendOut() {
     Banco banco;
-    FormNumeriAddendo& forma = apri(banco, 1, {{4, 10}});
+    FormaNumeriTastiera& forma = apri(banco, 1, {{4, 10}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 + ____ =  10"));
     QCOMPARE(forma.TestoInput.MaxLength.get(), qint16(2));
     QVERIFY(forma.withoutRow().empty());
@@ -38,7 +38,7 @@ class FormNumeriAddendoTest : public QObject {
 
   void onlyTenIsRightForNoughtAndTen() {
     Banco banco;
-    FormNumeriAddendo& forma = apri(banco, 1, {{0, 10}});
+    FormaNumeriTastiera& forma = apri(banco, 1, {{0, 10}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 0 + ____ =  10"));
     rispondi(banco, QStringLiteral("0"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -58,7 +58,7 @@ class FormNumeriAddendoTest : public QObject {
 
   void theRightAnswerWritesTheWholeOperationAnew() {
     Banco banco;
-    FormNumeriAddendo& forma = apri(banco, 1, {{4, 10}});
+    FormaNumeriTastiera& forma = apri(banco, 1, {{4, 10}});
     rispondi(banco, QStringLiteral("06"));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 +  6 =  10"));
     QCOMPARE(forma.TestoStampa.text(),
@@ -70,7 +70,7 @@ class FormNumeriAddendoTest : public QObject {
 
   void theFourLevelsDrawTheirKinds() {
     Banco banco;
-    FormNumeriAddendo& forma = apri(banco, 1, {{4, 10}});
+    FormaNumeriTastiera& forma = apri(banco, 1, {{4, 10}});
     struct Riga {
       qint16 tipo;
       std::vector<prova::SorteDiProva::Estrazione> estrazioni;
@@ -96,7 +96,7 @@ class FormNumeriAddendoTest : public QObject {
 
   void aFifthLevelKeepsTheLastCase() {
     Banco banco;
-    FormNumeriAddendo& forma = apri(banco, 1, {{4, 10}});
+    FormaNumeriTastiera& forma = apri(banco, 1, {{4, 10}});
     banco.ambiente->stato.TipoEsercizio = 5;
     forma.PulsanteAvanti.setEnabled(true);
     banco.clicca(forma.PulsanteAvanti);

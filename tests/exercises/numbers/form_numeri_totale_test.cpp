@@ -1,4 +1,4 @@
-#include "exercises/numbers/form_numeri_totale.h"
+#include "exercises/numbers/forma_numeri_tastiera.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -9,19 +9,19 @@
 #include "support/banco.h"
 
 using prova::Banco;
-using somme::FormNumeriTotale;
+using somme::FormaNumeriTastiera;
 
 namespace {
 
 // Draws of `GeneraEntro10` for a sum of 7 = 3 + 4.
 const std::vector<prova::SorteDiProva::Estrazione> kTrePiuQuattro{{6, 10}, {3, 7}};
 
-FormNumeriTotale& apri(Banco& banco, qint16 tipo,
-                       const std::vector<prova::SorteDiProva::Estrazione>& estrazioni) {
+FormaNumeriTastiera& apri(Banco& banco, qint16 tipo,
+                          const std::vector<prova::SorteDiProva::Estrazione>& estrazioni) {
   banco.ambiente->stato.TipoEsercizio = tipo;
   banco.ambiente->stato.TitoloEsercizio = QStringLiteral("Solo numeri. Entro 10: somme");
   banco.sorte.scrivi(estrazioni);
-  return banco.apri<FormNumeriTotale>(somme::forme::kFormNumeriTotale);
+  return banco.apri<FormaNumeriTastiera>(somme::forme::kFormNumeriTotale);
 }
 
 void rispondi(Banco& banco, const QString& numero) {
@@ -38,7 +38,7 @@ class FormNumeriTotaleTest : public QObject {
  private Q_SLOTS:
   void itOpensWithAQuestionAndAnEmptyBoxThatHasTheFocus() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 = "));
     QVERIFY(forma.TestoInput.isVisible());
     QVERIFY(!forma.TestoInputInvisibile.isVisible());
@@ -54,14 +54,14 @@ class FormNumeriTotaleTest : public QObject {
 
   void theFirstPictureIsTheTickBeforeAnyAnswer() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     QVERIFY(forma.ImgSi.isVisible());
     QVERIFY(!forma.ImgNo.isVisible());
   }
 
   void theBoxLiesWhereTheInvisibleBoxLies() {
     Banco banco({1500, 1100});
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     QCOMPARE(forma.TestoInput.left(), forma.TestoInputInvisibile.left());
     QCOMPARE(forma.TestoInput.top(), forma.TestoInputInvisibile.top());
     QCOMPARE(forma.TestoInput.width(), forma.TestoInputInvisibile.width());
@@ -73,7 +73,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void theRightAnswerIsCountedWrittenAndOpensTheWay() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     rispondi(banco, QStringLiteral("7"));
     QVERIFY(forma.ImgSi.isVisible());
     QVERIFY(!forma.ImgNo.isVisible());
@@ -89,7 +89,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void aClickOnTheShownRightAnswerDoesNotReopenTheBox() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     rispondi(banco, QStringLiteral("7"));
     banco.clicca(forma.TestoInput.TestoOutput);
     QVERIFY(forma.TestoInput.TestoOutput.isVisible());
@@ -98,7 +98,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void aWrongAnswerLeavesTheCaseOpenAndTheNumberInSight() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     rispondi(banco, QStringLiteral("8"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
@@ -115,7 +115,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void twoWrongAnswersAndARightOneWriteTheCaseOnce() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     for (const QString& numero : {QStringLiteral("8"), QStringLiteral("9"), QStringLiteral("7")}) {
       rispondi(banco, numero);
       if (numero == u"7") break;
@@ -130,7 +130,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void leadingNoughtsAreRightAndDoNotStandInTheRecord() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     forma.TestoInput.MaxLength.set(3);
     rispondi(banco, QStringLiteral("007"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -139,7 +139,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void anEmptyConfirmationIsNoAnswer() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     banco.batti(Qt::Key_Return);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QVERIFY(forma.ImgSi.isVisible());
@@ -154,7 +154,7 @@ class FormNumeriTotaleTest : public QObject {
   void enterAndSpaceOnTheWayOnMakeTheNextCase() {
     QFETCH(int, tasto);
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     rispondi(banco, QStringLiteral("7"));
     banco.sorte.scrivi({{9, 10}, {4, 10}});
     banco.batti(tasto);
@@ -172,7 +172,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void aHeldEnterNeverAnswersTwiceOrSkipsACase() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     rispondi(banco, QStringLiteral("7"));
     banco.sorte.scrivi({{9, 10}, {4, 10}});
     banco.premi(Qt::Key_Return);
@@ -188,7 +188,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void menuAzzeraKeepsTheCaseAndThePictures() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     rispondi(banco, QStringLiteral("8"));
     forma.MenuAzzera.click();
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  0"));
@@ -203,7 +203,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void aFurtherActivationMakesANewCaseAndClearsTheRecord() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     rispondi(banco, QStringLiteral("7"));
     forma.mnuStampa.click();
     banco.sorte.scrivi({{9, 10}, {4, 10}});
@@ -220,7 +220,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void aFurtherActivationReplacesAnUnansweredCase() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     banco.sorte.scrivi({{9, 10}, {4, 10}});
     banco.riattiva();
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 +  6 = "));
@@ -229,7 +229,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void thePrintViewCoversTheFormAndGivesTheFocusBack() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     forma.mnuStampa.click();
     QCOMPARE(forma.PictureStampa.width(), forma.width());
     QCOMPARE(forma.PictureStampa.height(), forma.height());
@@ -246,7 +246,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void everyLevelDrawsItsKindAndTakesItsDigits() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     const qint16 cifre[] = {2, 2, 2, 2, 2, 2, 2, 2, 2, 3, 3, 3, 3, 3,
                             3, 3, 3, 3, 5, 5, 5, 5, 5, 5, 5, 5, 5};
     for (qint16 tipo = 1; tipo <= 27; ++tipo) {
@@ -281,7 +281,8 @@ class FormNumeriTotaleTest : public QObject {
   void aLevelThatTheTableDoesNotHaveKeepsTheLastCase() {
     QFETCH(int, tipo);
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 10, {{4, 9}, {0, 10}, {0, 10}, {1, 3}, {0, 1}, {0, 1}});
+    FormaNumeriTastiera& forma =
+        apri(banco, 10, {{4, 9}, {0, 10}, {0, 10}, {1, 3}, {0, 1}, {0, 1}});
     const somme::Caso prima = banco.ambiente->stato;
     const QString domanda = forma.EtOperazione.caption();
     banco.ambiente->stato.TipoEsercizio = qint16(tipo);
@@ -294,7 +295,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void aSumOfFourDigitsIsWrittenWithItsBlank() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 23, {{9887, 9888}, {1234, 9888}});
+    FormaNumeriTastiera& forma = apri(banco, 23, {{9887, 9888}, {1234, 9888}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral("1 234 + 8 654 = "));
     rispondi(banco, QStringLiteral("9888"));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral("1 234 + 8 654 =  9 888"));
@@ -302,7 +303,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void aSumOfNoughtCanBeAnswered() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 2, {{0, 11}, {0, 11}});
+    FormaNumeriTastiera& forma = apri(banco, 2, {{0, 11}, {0, 11}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 0 +  0 = "));
     rispondi(banco, QStringLiteral("0"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -310,7 +311,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void anAnswerPastedWithOtherCharactersIsFiltered() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     QApplication::clipboard()->setText(QStringLiteral("= -7, credo"));
     banco.batti(Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(forma.TestoInput.Text.get(), QStringLiteral("7"));
@@ -320,7 +321,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void aHugeNumberSetByTheProgramIsWrongAndOneBeyondTheCurrencyAnOverflow() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     forma.TestoInput.Text.set(QStringLiteral("70000000007"));
     banco.batti(Qt::Key_Return);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -344,14 +345,14 @@ class FormNumeriTotaleTest : public QObject {
   void thePointerFollowsTheSettingInTheBoxToo() {
     Banco banco;
     banco.ambiente->stato.CursoreDiSistema = true;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     QCOMPARE(forma.TestoInput.TestoInput.widget()->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(forma.PulsanteAvanti.widget()->cursor().shape(), Qt::ArrowCursor);
   }
 
   void theTextOfTheBoxGrowsWithTheWindow() {
     Banco banco({800, 600});
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     rispondi(banco, QStringLiteral("8"));
     const auto* casella = qobject_cast<QLineEdit*>(forma.TestoInput.TestoOutput.widget());
     const double prima = casella->font().pixelSize();
@@ -362,7 +363,7 @@ class FormNumeriTotaleTest : public QObject {
 
   void theWayOutLeavesTheForm() {
     Banco banco;
-    FormNumeriTotale& forma = apri(banco, 1, kTrePiuQuattro);
+    FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     forma.mnuEsci.click();
     QVERIFY(banco.nomeForma() != QStringLiteral("FormNumeriTotale"));
   }

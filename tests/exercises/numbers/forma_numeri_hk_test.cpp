@@ -3,8 +3,6 @@
 #include <QAction>
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/numbers/form_numeri_addendo_hk.h"
-#include "exercises/numbers/form_numeri_totale_hk.h"
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
 #include "support/tocchi.h"
@@ -14,8 +12,6 @@ using prova::rispondiToccando;
 using prova::tocca;
 using prova::toccaNumero;
 using somme::FormaNumeriHK;
-using somme::FormNumeriAddendoHK;
-using somme::FormNumeriTotaleHK;
 using somme::kMappaCifre;
 using Estrazioni = std::vector<prova::SorteDiProva::Estrazione>;
 
@@ -25,20 +21,20 @@ namespace {
 const Estrazioni kTrePiuQuattro{{6, 10}, {3, 7}};
 const Estrazioni kQuattroPiuSei{{9, 10}, {4, 10}};
 
-FormNumeriTotaleHK& apriTotale(Banco& banco, qint16 tipo = 1,
-                               const Estrazioni& estrazioni = kTrePiuQuattro) {
+FormaNumeriHK& apriTotale(Banco& banco, qint16 tipo = 1,
+                          const Estrazioni& estrazioni = kTrePiuQuattro) {
   banco.ambiente->stato.TipoEsercizio = tipo;
   banco.ambiente->stato.TitoloEsercizio = QStringLiteral("Solo numeri. Entro 10: somme");
   banco.sorte.scrivi(estrazioni);
-  return prova::apriPronta<FormNumeriTotaleHK>(banco, somme::forme::kFormNumeriTotaleHK);
+  return prova::apriPronta<FormaNumeriHK>(banco, somme::forme::kFormNumeriTotaleHK);
 }
 
 // The level "trova un addendo".
-FormNumeriAddendoHK& apriAddendo(Banco& banco, qint16 tipo = 2,
-                                 const Estrazioni& estrazioni = kTrePiuQuattro) {
+FormaNumeriHK& apriAddendo(Banco& banco, qint16 tipo = 2,
+                           const Estrazioni& estrazioni = kTrePiuQuattro) {
   banco.ambiente->stato.TipoEsercizio = tipo;
   banco.sorte.scrivi(estrazioni);
-  return prova::apriPronta<FormNumeriAddendoHK>(banco, somme::forme::kFormNumeriAddendoHK);
+  return prova::apriPronta<FormaNumeriHK>(banco, somme::forme::kFormNumeriAddendoHK);
 }
 
 }  // namespace
@@ -50,7 +46,7 @@ class FormaNumeriHKTest : public QObject {
  private Q_SLOTS:
   void itOpensWithAQuestionAndAnEmptyBoxThatOnlyShows() {
     Banco banco;
-    const FormNumeriTotaleHK& forma = apriTotale(banco);
+    const FormaNumeriHK& forma = apriTotale(banco);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 = "));
     QVERIFY(forma.TestoInput.isVisible());
     QVERIFY(forma.TestoInput.isLocked());
@@ -64,14 +60,14 @@ class FormaNumeriHKTest : public QObject {
 
   void theKeysOneToTenWriteTheDigitsNoughtToNine() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     for (int tasto = 1; tasto <= 10; ++tasto) tocca(banco, kMappaCifre, tasto);
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("0123456789"));
   }
 
   void theRightAnswerIsWrittenWithThePictureAndOpensTheWay() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral(" 7"));
     QVERIFY(forma.ImgSi.isVisible());
@@ -87,7 +83,7 @@ class FormaNumeriHKTest : public QObject {
 
   void aSumOfFourDigitsIsWrittenInGroupsInTheBoxToo() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco, 23, {{9887, 9888}, {1234, 9888}});
+    FormaNumeriHK& forma = apriTotale(banco, 23, {{9887, 9888}, {1234, 9888}});
     rispondiToccando(banco, QStringLiteral("9888"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("9 888"));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral("1 234 + 8 654 = 9 888"));
@@ -95,11 +91,11 @@ class FormaNumeriHKTest : public QObject {
 
   void theOperationIsMadeOfTheCaseOnBothForms() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     rispondiToccando(banco, QStringLiteral("007"));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 =  7"));
     Banco altro;
-    FormNumeriAddendoHK& addendo = apriAddendo(altro);
+    FormaNumeriHK& addendo = apriAddendo(altro);
     rispondiToccando(altro, QStringLiteral("04"));
     QCOMPARE(addendo.EtOperazione.caption(), QStringLiteral(" 3 +  4 =  7"));
     QVERIFY(addendo.TestoStampa.text().endsWith(QStringLiteral(" 3 +  4 =  7\r\n")));
@@ -107,7 +103,7 @@ class FormaNumeriHKTest : public QObject {
 
   void theAddendIsWhatTheAddendFormAsksFor() {
     Banco banco;
-    FormNumeriAddendoHK& forma = apriAddendo(banco);
+    FormaNumeriHK& forma = apriAddendo(banco);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 + ____ =  7"));
     rispondiToccando(banco, QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -119,7 +115,7 @@ class FormaNumeriHKTest : public QObject {
 
   void aWrongAnswerStaysInTheBoxAndDigitsGoOnBehindItUntilTheBin() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     rispondiToccando(banco, QStringLiteral("8"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
@@ -139,7 +135,7 @@ class FormaNumeriHKTest : public QObject {
 
   void anEmptyBoxAndATouchedNoughtAreNotJudged() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     tocca(banco, kMappaCifre, prova::kTastoConferma);
     rispondiToccando(banco, QStringLiteral("0"));
     rispondiToccando(banco, QStringLiteral("00"));
@@ -150,7 +146,7 @@ class FormaNumeriHKTest : public QObject {
 
   void aSumOfNoughtCannotBeAnsweredAndTheMenuIsTheOnlyWayOn() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco, 2, {{0, 11}, {0, 11}});
+    FormaNumeriHK& forma = apriTotale(banco, 2, {{0, 11}, {0, 11}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 0 +  0 = "));
     rispondiToccando(banco, QStringLiteral("0"));
     tocca(banco, kMappaCifre, prova::kTastoAvanti);
@@ -162,7 +158,7 @@ class FormaNumeriHKTest : public QObject {
 
   void anAddendOfNoughtCannotBeAnsweredEither() {
     Banco banco;
-    FormNumeriAddendoHK& forma = apriAddendo(banco, 3, {{0, 11}});
+    FormaNumeriHK& forma = apriAddendo(banco, 3, {{0, 11}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 10 + ____ =  10"));
     rispondiToccando(banco, QStringLiteral("0"));
     tocca(banco, kMappaCifre, prova::kTastoAvanti);
@@ -175,7 +171,7 @@ class FormaNumeriHKTest : public QObject {
 
   void aDigitKeyAddsBeyondTheLimitOfTheBoxAndANumberTooLargeIsWrong() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     toccaNumero(banco, QStringLiteral("777"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("777"));
     forma.TestoInput.setText(QString(400, u'7'));
@@ -186,7 +182,7 @@ class FormaNumeriHKTest : public QObject {
 
   void afterARightAnswerOnlyTheWayOnActs() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     for (int tasto = 1; tasto <= 15; ++tasto) tocca(banco, kMappaCifre, tasto);
     QCOMPARE(forma.TestoInput.text(), QStringLiteral(" 7"));
@@ -202,7 +198,7 @@ class FormaNumeriHKTest : public QObject {
 
   void theWayOnDoesNothingBeforeARightAnswer() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     toccaNumero(banco, QStringLiteral("7"));
     tocca(banco, kMappaCifre, prova::kTastoAvanti);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 = "));
@@ -211,7 +207,7 @@ class FormaNumeriHKTest : public QObject {
 
   void theKeysElevenTwelveAndHelpDoNothing() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     for (const int tasto : {11, 12, prova::kTastoAiuto}) tocca(banco, kMappaCifre, tasto);
     QCOMPARE(forma.TestoInput.text(), QString());
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
@@ -220,7 +216,7 @@ class FormaNumeriHKTest : public QObject {
 
   void mouseAndKeyboardWorkTheWayOnToo() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     banco.sorte.scrivi(kQuattroPiuSei);
     banco.batti(Qt::Key_Return);
@@ -229,7 +225,7 @@ class FormaNumeriHKTest : public QObject {
 
   void nothingCanBeTypedOrPastedIntoTheBox() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     banco.clicca(forma.TestoInput);
     QVERIFY(forma.TestoInput.hasFocus());
     banco.scrivi(QStringLiteral("7"));
@@ -240,7 +236,7 @@ class FormaNumeriHKTest : public QObject {
 
   void aLevelThatTheTableDoesNotHaveKeepsTheLastCase() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco, 23, {{9887, 9888}, {1234, 9888}});
+    FormaNumeriHK& forma = apriTotale(banco, 23, {{9887, 9888}, {1234, 9888}});
     QCOMPARE(forma.TestoInput.maxLength(), 5);
     rispondiToccando(banco, QStringLiteral("9888"));
     banco.ambiente->stato.TipoEsercizio = 28;
@@ -251,7 +247,7 @@ class FormaNumeriHKTest : public QObject {
 
   void theAddendFormEnablesItsBoxAndLetsEventsRunAtEachCaseAndTheSumFormDoesNot() {
     Banco banco;
-    FormNumeriAddendoHK& addendo = apriAddendo(banco);
+    FormaNumeriHK& addendo = apriAddendo(banco);
     addendo.TestoInput.setEnabled(false);
     rispondiToccando(banco, QStringLiteral("4"));
     int prima = banco.tempo.yields();
@@ -259,7 +255,7 @@ class FormaNumeriHKTest : public QObject {
     QVERIFY(addendo.TestoInput.isEnabled());
     QCOMPARE(banco.tempo.yields() - prima, 1);
     Banco altro;
-    FormNumeriTotaleHK& totale = apriTotale(altro);
+    FormaNumeriHK& totale = apriTotale(altro);
     totale.TestoInput.setEnabled(false);
     rispondiToccando(altro, QStringLiteral("7"));
     prima = altro.tempo.yields();
@@ -270,7 +266,7 @@ class FormaNumeriHKTest : public QObject {
 
   void touchesUnderThePrintPanelGoOnAndItStaysOpen() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     forma.mnuStampa.click();
     rispondiToccando(banco, QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -281,7 +277,7 @@ class FormaNumeriHKTest : public QObject {
 
   void aFurtherActivationMakesANewCaseAndClearsTheRecord() {
     Banco banco;
-    FormNumeriTotaleHK& forma = apriTotale(banco);
+    FormaNumeriHK& forma = apriTotale(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     banco.sorte.scrivi(kQuattroPiuSei);
     banco.riattiva();
@@ -292,7 +288,7 @@ class FormaNumeriHKTest : public QObject {
 
   void theSheetEntryIsTheFirstOfTheMenu() {
     Banco banco;
-    const FormNumeriTotaleHK& forma = apriTotale(banco);
+    const FormaNumeriHK& forma = apriTotale(banco);
     QCOMPARE(forma.page()->menuBar()->actions().first()->objectName(),
              QStringLiteral("mnuStampaHK"));
     QCOMPARE(forma.mnuStampaHK.caption(), QStringLiteral("Stampa Foglio Tastiera &HelpiKeys"));

@@ -2,14 +2,10 @@
 
 #include "app/form_menu_numeri.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/numbers/form_numeri_addendo_scansione.h"
-#include "exercises/numbers/form_numeri_totale_scansione.h"
 #include "support/scansione_di_prova.h"
 
 using prova::Banco;
 using somme::FormaNumeriScansione;
-using somme::FormNumeriAddendoScansione;
-using somme::FormNumeriTotaleScansione;
 using somme::TastieraNumericaScansione;
 
 namespace {
@@ -32,8 +28,8 @@ F& apri(Banco& banco, std::string_view nome, qint16 modo,
   return banco.apri<F>(nome);
 }
 
-FormNumeriTotaleScansione& apriTotale(Banco& banco, qint16 modo = 1) {
-  return apri<FormNumeriTotaleScansione>(banco, somme::forme::kFormNumeriTotaleScansione, modo);
+FormaNumeriScansione& apriTotale(Banco& banco, qint16 modo = 1) {
+  return apri<FormaNumeriScansione>(banco, somme::forme::kFormNumeriTotaleScansione, modo);
 }
 
 // One key after the other, by manual scanning.
@@ -52,7 +48,7 @@ class FormaNumeriScansioneTest : public QObject {
  private Q_SLOTS:
   void itOpensWithTheQuestionAndTheKeyboardLitOnTheFirstKey() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 = "));
     QVERIFY(forma.withoutRow().empty());
     const TastieraNumericaScansione& tastiera = forma.TastieraNumericaScansione1;
@@ -73,7 +69,7 @@ class FormaNumeriScansioneTest : public QObject {
   void theKeyboardTakesItsPlaceFromTheHiddenLabelAndItsHeightFromItsWidth() {
     for (const QSize lato : {QSize(800, 600), QSize(1366, 768)}) {
       Banco banco(lato);
-      FormNumeriTotaleScansione& forma = apriTotale(banco);
+      FormaNumeriScansione& forma = apriTotale(banco);
       const platform::Label& etichetta = forma.LabelPerTastieraNumerica;
       const TastieraNumericaScansione& tastiera = forma.TastieraNumericaScansione1;
       QVERIFY(!etichetta.isVisible());
@@ -86,7 +82,7 @@ class FormaNumeriScansioneTest : public QObject {
 
   void aWholeSumByManualScanning() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     QVERIFY(!forma.TastieraNumericaScansione1.ScansioneAutomatica.get());
     QVERIFY(!forma.TastieraNumericaScansione1.TimerScansione.isEnabled());
     QVERIFY(scegli(banco, forma, {7, kConferma}));
@@ -109,7 +105,7 @@ class FormaNumeriScansioneTest : public QObject {
 
   void aWholeSumByAutomaticScanningWithOneKey() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco, 2);
+    FormaNumeriScansione& forma = apriTotale(banco, 2);
     TastieraNumericaScansione& tastiera = forma.TastieraNumericaScansione1;
     QVERIFY(tastiera.ScansioneAutomatica.get());
     QVERIFY(prova::scegliAspettando(banco, tastiera, 7));
@@ -130,7 +126,7 @@ class FormaNumeriScansioneTest : public QObject {
   void aChangeOfThePaceReachesTheKeyboardAtTheNextCase() {
     Banco banco;
     banco.ambiente->stato.TempoScansione = 6;
-    FormNumeriTotaleScansione& forma = apriTotale(banco, 2);
+    FormaNumeriScansione& forma = apriTotale(banco, 2);
     TastieraNumericaScansione& tastiera = forma.TastieraNumericaScansione1;
     QCOMPARE(tastiera.TimerScansione.interval(), 1500);
     banco.ambiente->stato.TempoScansione = 12;
@@ -144,7 +140,7 @@ class FormaNumeriScansioneTest : public QObject {
 
   void aDigitBeyondTheLimitIsDroppedWithoutASound() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     QCOMPARE(forma.TestoInput.MaxLength.get(), qint16(2));
     QVERIFY(scegli(banco, forma, {1, 2, 3}));
     QCOMPARE(forma.TestoInput.Text.get(), QStringLiteral("12"));
@@ -154,7 +150,7 @@ class FormaNumeriScansioneTest : public QObject {
 
   void afterAWrongAnswerDigitsGoToTheHiddenTextUntilTheBinBringsTheBoxBack() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     QVERIFY(scegli(banco, forma, {0, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QVERIFY(forma.ImgNo.isVisible());
@@ -173,7 +169,7 @@ class FormaNumeriScansioneTest : public QObject {
 
   void confirmingAnEmptyBoxDoesNothing() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     QVERIFY(scegli(banco, forma, {kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
@@ -183,13 +179,13 @@ class FormaNumeriScansioneTest : public QObject {
 
   void theWayOnIsOutOfReachBeforeARightAnswer() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     QVERIFY(!prova::scegliAMano(banco, forma.TastieraNumericaScansione1, kAvanti));
   }
 
   void aClickOnTheShownAnswerAfterARightAnswerReturnsToEditing() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     QVERIFY(scegli(banco, forma, {7, kConferma}));
     QVERIFY(forma.TestoInput.TestoOutput.isVisible());
     banco.clicca(forma.TestoInput.TestoOutput);
@@ -200,14 +196,14 @@ class FormaNumeriScansioneTest : public QObject {
 
   void aClickOfTheMouseOnAKeyWritesNothing() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     banco.clicca(forma.TastieraNumericaScansione1.PulsanteNumero[7]);
     QCOMPARE(forma.TestoInput.Text.get(), QString());
   }
 
   void thePrintPanelSilencesTheKeyboardAndClosingItDoesNotWakeIt() {
     Banco banco;
-    FormNumeriTotaleScansione& forma = apriTotale(banco);
+    FormaNumeriScansione& forma = apriTotale(banco);
     forma.mnuStampa.click();
     QVERIFY(!forma.TastieraNumericaScansione1.Timer1.isEnabled());
     banco.tempo.advance(1);
@@ -235,7 +231,7 @@ class FormaNumeriScansioneTest : public QObject {
     menu.Command1[1].setFocus();
     banco.premi(Qt::Key_Return);
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriTotaleScansione"));
-    auto& forma = banco.forma<FormNumeriTotaleScansione>();
+    auto& forma = banco.forma<FormaNumeriScansione>();
     banco.tempo.advance(0.1);
     banco.lascia(Qt::Key_Return);
     QCOMPARE(forma.TestoInput.Text.get(), QString());
@@ -244,7 +240,7 @@ class FormaNumeriScansioneTest : public QObject {
   void theAddendAloneIsRightAndTheWholeSumIsRebuilt() {
     Banco banco;
     auto& forma =
-        apri<FormNumeriAddendoScansione>(banco, somme::forme::kFormNumeriAddendoScansione, 1, {});
+        apri<FormaNumeriScansione>(banco, somme::forme::kFormNumeriAddendoScansione, 1, {});
     QVERIFY(forma.withoutRow().empty());
     const somme::StatoCondiviso& stato = banco.ambiente->stato;
     QVERIFY(forma.EtOperazione.caption().contains(QStringLiteral(" + ____ = ")));
@@ -261,7 +257,7 @@ class FormaNumeriScansioneTest : public QObject {
 
   void theKeysWithPicturesHaveSpokenNamesInBothLanguages() {
     const auto nome = [](Banco& banco, int tasto) {
-      auto& forma = banco.forma<FormNumeriTotaleScansione>();
+      auto& forma = banco.forma<FormaNumeriScansione>();
       return forma.TastieraNumericaScansione1.PulsanteNumero[tasto].widget()->accessibleName();
     };
     Banco italiano;

@@ -4,13 +4,13 @@
 #include <QProcess>
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/numbers/form_numeri_totale_hk.h"
+#include "exercises/numbers/forma_numeri_hk.h"
 #include "platform/devices/loopback_network.h"
 #include "support/banco.h"
 #include "tools/tavoletta/suggeritore.h"
 
 using prova::Banco;
-using somme::FormNumeriTotaleHK;
+using somme::FormaNumeriHK;
 using somme::tavoletta::Suggeritore;
 using somme::tavoletta::Tavoletta;
 
@@ -25,11 +25,11 @@ struct Scena {
   }
 
   // A sum of 7 = 3 + 4 on the screen, once the stand-in has answered.
-  FormNumeriTotaleHK& apri() {
+  FormaNumeriHK& apri() {
     banco.ambiente->stato.TipoEsercizio = 1;
     banco.sorte.scrivi({{6, 10}, {3, 7}});
     banco.ambiente->fondo.forms().show(somme::forme::kFormNumeriTotaleHK);
-    return banco.forma<FormNumeriTotaleHK>();
+    return banco.forma<FormaNumeriHK>();
   }
   [[nodiscard]] bool fa(const char* riga) { return suggeritore.Esegui(QString::fromUtf8(riga)); }
 
@@ -51,7 +51,7 @@ class TavolettaTest : public QObject {
  private Q_SLOTS:
   void aWholeSumIsDoneByTouchesOverRealSockets() {
     Scena scena;
-    FormNumeriTotaleHK& forma = scena.apri();
+    FormaNumeriHK& forma = scena.apri();
     QTRY_VERIFY(forma.HelpiKeysConnesso());
     QCOMPARE(scena.banco.messaggi.mostrati.size(), std::size_t(1));
     QVERIFY(scena.fa("tasto 9"));
@@ -92,7 +92,7 @@ class TavolettaTest : public QObject {
   void aStandInThatDoesNotAnswerLeavesTouchesDropped() {
     Scena scena;
     QVERIFY(scena.fa("taci"));
-    FormNumeriTotaleHK& forma = scena.apri();
+    FormaNumeriHK& forma = scena.apri();
     QTRY_COMPARE(scena.racconto.last(), QStringLiteral("tocchi"));
     QVERIFY(scena.fa("tasto 8"));
     QVERIFY(scena.fa("cella 2 2"));
@@ -107,7 +107,7 @@ class TavolettaTest : public QObject {
   void anOkInTwoPiecesTwoReportsInOneAndAMegabyteOverTheWire() {
     Scena scena;
     QVERIFY(scena.fa("taci"));
-    FormNumeriTotaleHK& forma = scena.apri();
+    FormaNumeriHK& forma = scena.apri();
     QTRY_COMPARE(scena.racconto.last(), QStringLiteral("tocchi"));
     QVERIFY(scena.fa("byte 4F"));
     QTest::qWait(20);
@@ -129,7 +129,7 @@ class TavolettaTest : public QObject {
 
   void aConnectionThatTheStandInEndsIsMissedAtTheWayOut() {
     Scena scena;
-    FormNumeriTotaleHK& forma = scena.apri();
+    FormaNumeriHK& forma = scena.apri();
     QTRY_VERIFY(forma.HelpiKeysConnesso());
     QVERIFY(scena.fa("stacca"));
     QTRY_VERIFY(!forma.ControlloConnessione[1].isConnected());
@@ -153,7 +153,7 @@ class TavolettaTest : public QObject {
 
   void aTouchIsDoneWithinAFrameOfItsArrival() {
     Scena scena;
-    FormNumeriTotaleHK& forma = scena.apri();
+    FormaNumeriHK& forma = scena.apri();
     QTRY_VERIFY(forma.HelpiKeysConnesso());
     std::vector<qint64> tempi;
     for (int i = 0; i < 50; ++i) {

@@ -1,4 +1,4 @@
-#include "exercises/core/con_helpikeys.h"
+#include "exercises/core/input_tocco.h"
 
 #include "forma_toccata.h"
 
@@ -6,7 +6,7 @@ using namespace prova;
 using namespace somme;
 
 // The link of a touch form with HelpiKeys, over its life.
-class ConHelpiKeysTest : public QObject {
+class InputToccoTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
@@ -185,5 +185,5 @@ class ConHelpiKeysTest : public QObject {
   }
 };
 
-QTEST_MAIN(ConHelpiKeysTest)
-#include "con_helpikeys_test.moc"
+QTEST_MAIN(InputToccoTest)
+#include "input_tocco_test.moc"
