@@ -102,8 +102,7 @@ class Scansione {
   }
 
   void passo(const char* come, double limite) {
-    auto& forma =
-        *dynamic_cast<somme::FormaNumeriScansione*>(ambiente_.fondo.forms().current());
+    auto& forma = *dynamic_cast<somme::FormaNumeriScansione*>(ambiente_.fondo.forms().current());
     auto* anello = forma.TastieraNumericaScansione1.widget()->findChild<platform::RingWidget*>();
     Occhio occhio;
     anello->installEventFilter(&occhio);
