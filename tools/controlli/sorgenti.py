@@ -9,8 +9,8 @@ import subprocess
 # anything of theirs.
 PIANI = (
     ("platform/base",),
-    ("platform/flash", "platform/forms", "platform/devices"),
-    ("platform/boards", "cases"),
+    ("platform/flash", "platform/forms", "platform/devices", "cases"),
+    ("platform/boards", "games"),
     ("immagini", "app/shared"),
     ("printing", "input"),
     ("exercises/core",),
