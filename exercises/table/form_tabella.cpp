@@ -4,7 +4,7 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/core/disegno_comune.h"
 #include "exercises/core/quantita.h"
-#include "exercises/table/casi_tabella.h"
+#include "games/casi_tabella.h"
 #include "platform/base/numbers.h"
 #include "platform/forms/page.h"
 

@@ -1,4 +1,4 @@
-#include "exercises/table/casi_tabella.h"
+#include "games/casi_tabella.h"
 
 #include <array>
 

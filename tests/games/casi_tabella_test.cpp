@@ -1,11 +1,10 @@
-#include "exercises/table/casi_tabella.h"
+#include "games/casi_tabella.h"
 
 #include <QTest>
 #include <set>
 
-#include "support/servizi_di_prova.h"
+#include "../cases/scripted_chance.h"
 
-using prova::SorteDiProva;
 using somme::CasoTabella;
 using somme::EstraiCasoTabella;
 
@@ -20,12 +19,10 @@ class CasiTabellaTest : public QObject {
   Q_OBJECT
 
   // The case of the given draws, which must all be used and suffice.
-  static CasoTabella estrai(int tipo, const std::vector<SorteDiProva::Estrazione>& estrazioni) {
-    SorteDiProva sorte;
-    sorte.scrivi(estrazioni);
-    sorte.finisci();
+  static CasoTabella estrai(int tipo, const std::vector<Draw>& estrazioni) {
+    ScriptedChance sorte(estrazioni);
     const std::optional<CasoTabella> caso = EstraiCasoTabella(sorte, tipo);
-    if (!caso || sorte.rimaste() != 0) throw std::logic_error("draws are left, or no case came");
+    if (!caso || !sorte.isUsedUp()) throw std::logic_error("draws are left, or no case came");
     return *caso;
   }
 
@@ -129,12 +126,11 @@ class CasiTabellaTest : public QObject {
 
   void anyOtherKindDrawsNothing() {
     for (const int tipo : {-1, 13, 77}) {
-      SorteDiProva sorte;
-      sorte.finisci();
+      ScriptedChance sorte{};
       QVERIFY(!EstraiCasoTabella(sorte, tipo).has_value());
     }
   }
 };
 
-QTEST_MAIN(CasiTabellaTest)
+QTEST_APPLESS_MAIN(CasiTabellaTest)
 #include "casi_tabella_test.moc"
