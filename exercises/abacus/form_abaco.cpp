@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/disegno_abaco.h"
+#include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
@@ -86,6 +88,10 @@ constexpr auto kParole = std::to_array<Parola>({
     {QLatin1String("unitainserita"), [](FormAbaco& f, const QString&) { f.RimuoviUnita(); }},
 });
 
+// One bead of each kind, by its column.
+constexpr std::array<Quantita, 4> kUnaPallina{
+    {{.migliaia = 1}, {.centinaia = 1}, {.decine = 1}, {.unita = 1}}};
+
 }  // namespace
 
 FormAbaco::FormAbaco(Ambiente& ambiente) : ConAvanti(ambiente, kDisegno) {
@@ -100,6 +106,27 @@ FormAbaco::FormAbaco(Ambiente& ambiente) : ConAvanti(ambiente, kDisegno) {
 void FormAbaco::onLoad() {
   ConAvanti::onLoad();
   PulsanteAvanti.setVisible(true);
+  OffriPalline();
+}
+
+// Each is called by what its press does: "1 decina da mettere".
+void FormAbaco::OffriPalline() {
+  const auto parola = [this](const char* chiave, const QString& italiana) {
+    return ParolaLingua(ambiente(), QStringLiteral("Palline"), chiave, italiana);
+  };
+  const QString daMettere = parola("DaMettere", QStringLiteral("da mettere"));
+  const QString daTogliere = parola("DaTogliere", QStringLiteral("da togliere"));
+  std::vector<platform::Board::Offered> palline;
+  for (const GenerePalline* genere : kGeneriPalline) {
+    const QString una = InParole(ambiente(), kUnaPallina[genere->colonna]) + kSpazio;
+    for (int i = 0; i < kPalline; ++i) {
+      palline.push_back({NomeClip(genere->inAttesa, i), una + daMettere});
+    }
+    for (int i = 0; i < kPalline; ++i) {
+      palline.push_back({NomeClip(genere->sulFerro, i), una + daTogliere});
+    }
+  }
+  ShockwaveFlash1.offerClips(palline);
 }
 
 void FormAbaco::onActivate() {

@@ -38,6 +38,8 @@ class FormAbaco final : public ConAvanti<FormaAbacoScritta> {
   void Correggi() override { TestoInput.TestoPerInput(); }
 
  private:
+  // Lets assistive technology press the beads.
+  void OffriPalline();
   void Ascolta(const QString& clip, const QString& parola);
   void Inserisci(const GenerePalline& genere, const QString& clip);
   void Rimuovi(const GenerePalline& genere);

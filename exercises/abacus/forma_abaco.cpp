@@ -16,10 +16,6 @@ constexpr int kVisibile = 7;
 
 constexpr double kPasso = 0.03;  // seconds
 
-QString NomeClip(QLatin1String clip, int numero) {
-  return clip + QString::number(numero);
-}
-
 }  // namespace
 
 // The way out leads to the main menu, not to the family's: settled.

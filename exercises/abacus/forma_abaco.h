@@ -20,6 +20,11 @@ struct GenerePalline {
   int daTasti;                   // up to how many keys put onto the spike
 };
 
+// The name of a clip out of its kind's.
+[[nodiscard]] inline QString NomeClip(QLatin1String clip, int numero) {
+  return clip + QString::number(numero);
+}
+
 // The abacus exercises: a sum at the level that the menu chose, and an abacus of four spikes. A
 // spike fills upward, and the bead that its counter names is the next free one; of each kind ten
 // beads wait beside it. Who moves the beads, who carries and what is judged is left to the forms.

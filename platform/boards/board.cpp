@@ -2,6 +2,7 @@
 
 #include "platform/flash/movie_view.h"
 #include "platform/forms/form.h"
+#include "platform/forms/keys/key_guard.h"
 #include "platform/forms/runtime.h"
 
 namespace platform {
@@ -22,7 +23,22 @@ QWidget* Board::create(QWidget* parent) {
                    [this](const QString& command, const QString& args) {
                      if (command_) raiseEvent([&] { command_(command, args); });
                    });
+  // As an event of its own, like a click.
+  QObject::connect(
+      view, &MovieView::clipPressed, view, [this](const QString& clip) { press(clip); },
+      Qt::QueuedConnection);
   return view;
+}
+
+void Board::press(const QString& clip) {
+  const bool live = widget()->isVisible() && widget()->isEnabled() && !form().isCovered(*this);
+  if (live && runtime().keys().mayAct(*widget())) viewOf(widget()).clickClip(clip);
+}
+
+void Board::offerClips(const std::vector<Offered>& clips) {
+  std::vector<MovieView::OfferedClip> offered;
+  for (const Offered& clip : clips) offered.push_back({clip.clip, clip.name});
+  if (widget() != nullptr) viewOf(widget()).offerClips(std::move(offered));
 }
 
 void Board::applyLook() {

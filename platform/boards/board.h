@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "platform/forms/control.h"
 
@@ -13,7 +14,7 @@ namespace platform {
 // rows holds, so a frame around it comes before its row, and nothing that must be read after it.
 //
 // To assistive technology it is a graphic, called by its tool tip, which never pops up; what stands
-// on it the form tells as its description.
+// on it the form tells as its description, and the clips that the form offers are buttons on it.
 class Board : public Control {
  public:
   using Control::Control;
@@ -37,6 +38,15 @@ class Board : public Control {
   // What stands on the board, in words.
   void setDescription(const QString& words);
 
+  // A clip of the movie that assistive technology may press, and what it is called.
+  struct Offered {
+    QString clip;
+    QString name;
+  };
+  // Offers these in the place of those offered before, in their order, whatever movie is loaded. A
+  // press is what a click in the clip's middle is, and obeys the same rules.
+  void offerClips(const std::vector<Offered>& clips);
+
   void setVisible(bool visible) override;
   void formGone() override;
   [[nodiscard]] int layer() const override { return 0; }
@@ -46,6 +56,8 @@ class Board : public Control {
   void applyLook() override;
 
  private:
+  void press(const QString& clip);
+
   std::function<void(const QString&, const QString&)> command_;
   int loading_ = 0;  // how many loads the handlers that did them have not ended after yet
 };

@@ -140,6 +140,27 @@ QRectF MovieView::clipPlace(const QString& name) const {
   return player_ == nullptr ? QRectF() : stageToWidget().mapRect(player_->placeOf(name));
 }
 
+bool MovieView::isClickable(const QString& clip) const {
+  return player_ != nullptr && player_->clickPoint(clip).has_value();
+}
+
+// The hand's own mouse is where it was, before and after.
+void MovieView::clickClip(const QString& clip) {
+  const auto point = player_ == nullptr ? std::nullopt : player_->clickPoint(clip);
+  if (!point) return;
+  player_->mouseMove(*point);
+  player_->mousePress(*point);
+  player_->mouseRelease(*point);
+  if (const auto position = mouse_ ? stagePixel(*mouse_) : std::nullopt) {
+    player_->mouseMove(*position);
+  } else {
+    player_->mouseLeave();
+  }
+  adjustTicker();
+  changed();
+  tellWaiting();
+}
+
 void MovieView::tick() {
   if (player_ != nullptr) {
     player_->tick();
@@ -178,6 +199,7 @@ void MovieView::changed() {
         [this] {
           refreshPosted_ = false;
           refresh();
+          tellOfferedClips(*this);
         },
         Qt::QueuedConnection);
   }

@@ -7,6 +7,7 @@
 #include <deque>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "platform/base/time_source.h"
 #include "platform/flash/renderer.h"
@@ -18,8 +19,9 @@ class Player;
 
 // A control that plays a movie: as large as fits in while it keeps its shape, in the middle, the
 // rest in the movie's background colour; smooth and sharp at any size. It speaks with its owner by
-// the operations below and by one signal, and takes the mouse but never the focus. To assistive
-// technology it is a graphic; its name and description are the owner's to set.
+// the operations below and by signals, and takes the mouse but never the focus. To assistive
+// technology it is a graphic; its name and description are the owner's to set, and which of its
+// clips are buttons.
 class MovieView final : public QWidget {
   Q_OBJECT
 
@@ -54,7 +56,25 @@ class MovieView final : public QWidget {
   // name that no clip has.
   [[nodiscard]] QRectF clipPlace(const QString& name) const;
 
+  // A clip of the main timeline as a button of assistive technology's.
+  struct OfferedClip {
+    QString clip;
+    QString name;  // what it is called
+  };
+  // What assistive technology may press, in the order in which it finds it. Each is there while a
+  // click in its middle would reach it.
+  void offerClips(std::vector<OfferedClip> clips) { offered_ = std::move(clips); }
+  [[nodiscard]] const std::vector<OfferedClip>& offeredClips() const { return offered_; }
+  // Whether a click in the middle of a clip works on that clip.
+  [[nodiscard]] bool isClickable(const QString& clip) const;
+  // Clicks there, if so, wherever the mouse is.
+  void clickClip(const QString& clip);
+
  Q_SIGNALS:
+  // Assistive technology presses a clip that is offered. Whether that is a click is the owner's to
+  // say.
+  void clipPressed(const QString& clip);
+
   // The movie speaks to its owner: what a press or a release makes it say at the end of that event,
   // as a button clicks, so that the next event finds what the receiver has changed; everything else
   // from the event queue. Never from within one of the operations above, so a receiver may call
@@ -100,6 +120,7 @@ class MovieView final : public QWidget {
   };
   std::deque<Telling> waiting_;  // what the movie has said and its owner has not heard yet
   bool refreshPosted_ = false;
+  std::vector<OfferedClip> offered_;
   std::optional<QPointF> mouse_;
   // The owner's cursor, while the hand is shown; without a value inside: none of its own.
   bool handShown_ = false;

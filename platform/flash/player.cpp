@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/flash/bounds.h"
+#include "platform/flash/hit_test.h"
 #include "platform/flash/limits.h"
 #include "platform/flash/properties.h"
 #include "platform/flash/targets.h"
@@ -127,6 +128,18 @@ QRectF Player::placeOf(const QString& name) const {
     const Container* child = childNamed(stage_, stage_.root(), name);
     return child == nullptr ? QRectF()
                             : stage_.root().matrix.mapRect(boundsInParent(*child, budget_));
+  });
+}
+
+std::optional<QPointF> Player::clickPoint(const QString& name) const {
+  return ask([&]() -> std::optional<QPointF> {
+    const Container* child = childNamed(stage_, stage_.root(), name);
+    if (child == nullptr || !child->visible) return std::nullopt;
+    const QPointF middle = stage_.root().matrix.mapRect(boundsInParent(*child, budget_)).center();
+    const Container* hit = interactiveAt(stage_, middle);
+    while (hit != nullptr && hit != child) hit = hit->parent;
+    if (hit == nullptr) return std::nullopt;
+    return (middle - movie().stage.topLeft()) / twips;
   });
 }
 

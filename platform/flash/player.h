@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "platform/flash/interpreter.h"
 #include "platform/flash/pointer.h"
@@ -50,6 +51,9 @@ class Player {
   // What a clip or button of the main timeline covers, shown or not, in twips of the stage; empty
   // for a name that nothing has.
   [[nodiscard]] QRectF placeOf(const QString& name) const;
+  // Where a click works on a clip or button of the main timeline: its middle, as a position of the
+  // mouse. None where something else lies there, where the thing is hidden, or takes no click.
+  [[nodiscard]] std::optional<QPointF> clickPoint(const QString& name) const;
 
   // The mouse; positions in pixels of the stage at its own size, from its upper left corner.
   void mouseMove(QPointF position);

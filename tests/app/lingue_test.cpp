@@ -143,6 +143,7 @@ class LingueTest : public QObject {
                        QStringLiteral("PageSetup"),
                        QStringLiteral("Printers"),
                        QStringLiteral("Quantita"),
+                       QStringLiteral("Palline"),
                        QStringLiteral("TastieraNumericaScansione"),
                        QStringLiteral("TastieraHDUScansione")};
     for (const std::string_view nome : somme::NomiDelleForme()) note.insert(testo(nome));
@@ -211,6 +212,14 @@ class LingueTest : public QObject {
         leggi(banco.percorso(lingua)).value(QStringLiteral("Quantita")).keys();
     QCOMPARE(chiavi.join(u' '), QStringLiteral("Centinaia Centinaio Decina Decine Migliaia "
                                                "Migliaio UnaUnita Unita Vuoto"));
+  }
+
+  void theWordsForAPressOfABeadAreThere_data() { lingue(); }
+  void theWordsForAPressOfABeadAreThere() {
+    QFETCH(QString, lingua);
+    const Banco banco({640, 480});
+    QCOMPARE(leggi(banco.percorso(lingua)).value(QStringLiteral("Palline")).keys(),
+             QStringList({QStringLiteral("DaMettere"), QStringLiteral("DaTogliere")}));
   }
 
   void theNamesOfTheScanningKeysAreThere_data() { lingue(); }

@@ -42,7 +42,7 @@ PARTITE = dict((
     _partita(blocchi.centinaia_scansione, "FormHLUScansione"),
     _partita(blocchi.blocchi_tocco, "FormLUHK"),
     _partita(blocchi.centinaia_tocco, "FormHLUHK"),
-    _partita(abaco.abaco, "FormAbaco", caso=abaco.abaco_scritto),
+    _partita(abaco.abaco, "FormAbaco", caso=abaco.abaco_senza_mouse),
     _partita(abaco.abaco_scansione, "FormAbacoScansione"),
     _partita(abaco.abaco_tocco, "FormAbacoHK"),
     _partita(tabella.tabella, "FormTabella"),

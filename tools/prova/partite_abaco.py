@@ -19,6 +19,13 @@ def _sull_abaco(giocatore, che_cosa):
     print("Abacus:   " + che_cosa)
 
 
+def _premi_palline(giocatore, nome, quante, detto):
+    """Has the tree's beads of that name pressed, one after the other, and the abacus tell each."""
+    for i in range(quante):
+        giocatore.premi(nome)
+        _sull_abaco(giocatore, detto(i + 1))
+
+
 def _tocca_pallina(giocatore, x, y):
     """A click on a place of the abacus, in pixels of its picture, which is 521 by 361.
 
@@ -48,10 +55,19 @@ def abaco(giocatore):
     _scrivi(giocatore, risposta)
 
 
-def abaco_scritto(giocatore):
-    """The sum alone."""
+def abaco_senza_mouse(giocatore):
+    """The sum; where the hands can press beads, ten units, which the arrow carries, and none again.
+
+    No key reaches a bead.
+    """
     giocatore.apri("FormAbaco", FAMIGLIA, LIVELLO)
-    _scrivi(giocatore, trova(giocatore.chiesta()))
+    risposta = trova(giocatore.chiesta())
+    if giocatore.preme_ogni_cosa:
+        _premi_palline(giocatore, "1 unità da mettere", 10, lambda n: f"{n} unità")
+        giocatore.premi("10 u = 1 da")
+        _sull_abaco(giocatore, "1 decina")
+        _premi_palline(giocatore, "1 decina da togliere", 1, lambda _: "vuoto")
+    _scrivi(giocatore, risposta)
 
 
 def _scrivi(giocatore, risposta):

@@ -27,7 +27,12 @@ def _freccia(da, a):
 
 
 class _SenzaMouse(Giocatore):
-    """What both have in common."""
+    """What both have in common.
+
+    preme_ogni_cosa: whether what takes no focus can be pressed, too.
+    """
+
+    preme_ogni_cosa = False
 
     def fotografa(self, nome):
         pass
@@ -105,6 +110,8 @@ class SoloTasti(_SenzaMouse):
 
 class SoloAusili(_SenzaMouse):
     """Plays by the actions that the tree offers and by the text that it takes, without any key."""
+
+    preme_ogni_cosa = True
 
     def __init__(self, *argomenti):
         super().__init__(*argomenti)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QAccessible>
+
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/form_abaco.h"
 #include "support/banco.h"
@@ -100,6 +102,19 @@ struct BancoAbaco : BancoDellAbaco<somme::FormAbaco> {
   // Puts so many of the waiting beads onto their spike, from bead `primo` on.
   void metti(const char* inAttesa, int quante, int primo = 0) {
     for (int i = primo; i < primo + quante; ++i) tocca(inAttesa, i);
+  }
+  // Assistive technology presses the first bead that is there by that name; false without one.
+  bool premiPallina(const QString& nome) const {
+    QAccessibleInterface* abaco =
+        QAccessible::queryAccessibleInterface(this->forma.ShockwaveFlash1.widget());
+    for (int i = 0; i < abaco->childCount(); ++i) {
+      QAccessibleInterface* pallina = abaco->child(i);
+      if (pallina->text(QAccessible::Name) != nome || pallina->state().invisible) continue;
+      pallina->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+      QCoreApplication::processEvents();
+      return true;
+    }
+    return false;
   }
   void rispondi(const QString& numero) {
     scrivi(numero);

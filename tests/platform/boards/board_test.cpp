@@ -106,6 +106,28 @@ class BoardTest : public QObject {
     QCoreApplication::processEvents();
   }
 
+  // Assistive technology presses the clip that the board offers.
+  static void press(const BoardForm& form) {
+    QAccessibleInterface* board = QAccessible::queryAccessibleInterface(form.Table.widget());
+    board->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+  }
+  // A form whose board offers its clip and counts what it says.
+  struct Offered {
+    Offered(BoardForm& its, const QString& movie) : form(its) {
+      form.Table.onFsCommand([this](const QString& word, const QString&) {
+        heard += word;
+        gated = form.runtime().gate().isRunning(form);
+      });
+      form.Table.offerClips({{QStringLiteral("a"), QStringLiteral("put one")}});
+      form.Table.setMovie(movie);
+      QCoreApplication::processEvents();
+    }
+    BoardForm& form;
+    QStringList heard;
+    bool gated = false;
+  };
+
   QTemporaryDir folder_;
   int count_ = 0;
 
@@ -239,6 +261,42 @@ class BoardTest : public QObject {
     QVERIFY(form.Table.widget()->width() < before.width());
     QVERIFY(form.Table.widget()->rect().contains(
         view(form.Table).clipPlace(QStringLiteral("a")).toRect()));
+  }
+
+  void aPressOfAnOfferedClipIsAHandlerOfTheFormLikeAClick() {
+    Ground ground;
+    Offered offered(ground.forma(), movie());
+    QAccessibleInterface* board =
+        QAccessible::queryAccessibleInterface(offered.form.Table.widget());
+    QCOMPARE(board->child(0)->text(QAccessible::Name), QStringLiteral("put one"));
+    press(offered.form);
+    QCOMPARE(offered.heard, QStringList{QStringLiteral("word")});
+    QVERIFY(offered.gated);
+  }
+
+  void aPressDoesNothingWhileADeviceIsWaitedFor() {
+    Ground ground;
+    Offered offered(ground.forma(), movie());
+    offered.form.run([&] { ground.fondo().waitDeaf([&offered] { press(offered.form); }); });
+    QCoreApplication::processEvents();
+    QVERIFY(offered.heard.isEmpty());
+    press(offered.form);
+    QCOMPARE(offered.heard.size(), 1);
+  }
+
+  void aPressDoesNothingBelowACoveringPanelOrOnADisabledBoard() {
+    Ground ground;
+    Offered offered(ground.forma(), movie());
+    offered.form.cover(offered.form.Over);
+    press(offered.form);
+    QVERIFY(offered.heard.isEmpty());
+    offered.form.uncover(offered.form.Over);
+    offered.form.Table.setEnabled(false);
+    press(offered.form);
+    QVERIFY(offered.heard.isEmpty());
+    offered.form.Table.setEnabled(true);
+    press(offered.form);
+    QCOMPARE(offered.heard.size(), 1);
   }
 
   void whatStandsOnABoardIsToldInWords() {
