@@ -104,9 +104,9 @@ struct BancoAbaco : BancoDellAbaco<somme::FormAbaco> {
     for (int i = primo; i < primo + quante; ++i) tocca(inAttesa, i);
   }
   // Assistive technology presses the first bead that is there by that name; false without one.
-  bool premiPallina(const QString& nome) const {
+  static bool premiPallina(const somme::FormAbaco& forma, const QString& nome) {
     QAccessibleInterface* abaco =
-        QAccessible::queryAccessibleInterface(this->forma.ShockwaveFlash1.widget());
+        QAccessible::queryAccessibleInterface(forma.ShockwaveFlash1.widget());
     for (int i = 0; i < abaco->childCount(); ++i) {
       QAccessibleInterface* pallina = abaco->child(i);
       if (pallina->text(QAccessible::Name) != nome || pallina->state().invisible) continue;

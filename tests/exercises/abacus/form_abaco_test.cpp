@@ -370,28 +370,29 @@ class FormAbacoTest : public QObject {
     QCOMPARE(presenti, (QMap<QString, int>{{QStringLiteral("1 centinaio da mettere"), 10},
                                            {QStringLiteral("1 decina da mettere"), 10},
                                            {QStringLiteral("1 unità da mettere"), 10}}));
-    banco.premiPallina(QStringLiteral("1 centinaio da mettere"));
-    banco.premiPallina(QStringLiteral("1 decina da mettere"));
-    banco.premiPallina(QStringLiteral("1 decina da mettere"));
-    banco.premiPallina(QStringLiteral("1 unità da mettere"));
+    banco.premiPallina(banco.forma, QStringLiteral("1 centinaio da mettere"));
+    banco.premiPallina(banco.forma, QStringLiteral("1 decina da mettere"));
+    banco.premiPallina(banco.forma, QStringLiteral("1 decina da mettere"));
+    banco.premiPallina(banco.forma, QStringLiteral("1 unità da mettere"));
     QCOMPARE(banco.detto(), QStringLiteral("1 centinaio, 2 decine, 1 unità"));
     QCOMPARE(banco.visti("da"), QStringLiteral("0 1"));
     QCOMPARE(banco.visti("daa"), QStringLiteral("2 3 4 5 6 7 8 9"));
-    banco.premiPallina(QStringLiteral("1 decina da togliere"));
-    banco.premiPallina(QStringLiteral("1 unità da togliere"));
+    banco.premiPallina(banco.forma, QStringLiteral("1 decina da togliere"));
+    banco.premiPallina(banco.forma, QStringLiteral("1 unità da togliere"));
     QCOMPARE(banco.detto(), QStringLiteral("1 centinaio, 1 decina"));
-    QVERIFY(!banco.premiPallina(QStringLiteral("1 unità da togliere")));
-    QVERIFY(!banco.premiPallina(QStringLiteral("1 migliaio da mettere")));
+    QVERIFY(!banco.premiPallina(banco.forma, QStringLiteral("1 unità da togliere")));
+    QVERIFY(!banco.premiPallina(banco.forma, QStringLiteral("1 migliaio da mettere")));
   }
 
   void aBeadIsCalledInTheLanguageOfTheForm() {
     BancoAbaco banco(19);
+    banco.batti(Qt::Key_E, Qt::AltModifier);
     banco.ambiente->stato.LinguaCorrente = QStringLiteral("English");
-    banco.mostra(somme::forme::kFormAbaco);
-    QVERIFY(banco.premiPallina(QStringLiteral("1 thousand to put on")));
-    QCOMPARE(banco.detto(), QStringLiteral("1 thousand"));
-    QVERIFY(banco.premiPallina(QStringLiteral("1 thousand to take off")));
-    QCOMPARE(banco.detto(), QStringLiteral("empty"));
+    const auto& forma = banco.apri<somme::FormAbaco>(somme::forme::kFormAbaco);
+    QVERIFY(BancoAbaco::premiPallina(forma, QStringLiteral("1 thousand to put on")));
+    QCOMPARE(forma.MigliaiaInserite, qint16(1));
+    QVERIFY(BancoAbaco::premiPallina(forma, QStringLiteral("1 thousand to take off")));
+    QCOMPARE(forma.MigliaiaInserite, qint16(0));
   }
 
   void aWordThatIsNoneOfTheEightChangesNothingAndAWordWithoutAClipHidesNone() {
