@@ -4,18 +4,18 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/core/disegno_comune.h"
 #include "exercises/core/quantita.h"
-#include "games/casi_tabella.h"
 #include "platform/base/numbers.h"
 #include "platform/forms/page.h"
 
 namespace somme {
 
 using namespace disegno;
+using Difficolta = PartitaTabella::Difficolta;
 
 namespace {
 
-constexpr int kCelle = 100;
-constexpr int kPerRiga = 10;
+constexpr int kCelle = PartitaTabella::kCelle;
+constexpr int kPerRiga = PartitaTabella::kPerRiga;
 
 constexpr Rgb kGiallo{255, 255, 0};
 constexpr Rgb kAperta{192, 255, 255};
@@ -73,14 +73,15 @@ FormTabella::FormTabella(Ambiente& ambiente) : FormaEsercizio(ambiente, kDisegno
     cella.onClick([this, i] { Rispondi(i); });
   }
   PulsanteAvanti.onClick([this] {
-    PulsanteAvanti.setEnabled(false);
+    partita_.Avanti();
+    MostraAvanti();
     NuovoCaso();
     // While the whole grid was spent nothing could take the focus from the button.
     if (page()->canvas()->focusWidget() == nullptr) celle_.focusAgain();
   });
-  mnuFacile.onClick([this] { ScegliDifficolta(mnuFacile); });
-  mnuMedia.onClick([this] { ScegliDifficolta(mnuMedia); });
-  mnudifficile.onClick([this] { ScegliDifficolta(mnudifficile); });
+  mnuFacile.onClick([this] { ScegliDifficolta(mnuFacile, Difficolta::Facile); });
+  mnuMedia.onClick([this] { ScegliDifficolta(mnuMedia, Difficolta::Media); });
+  mnudifficile.onClick([this] { ScegliDifficolta(mnudifficile, Difficolta::Difficile); });
 }
 
 // The pointer is set whatever `CursoreDiSistema` says. There is one picture of the program's own
@@ -103,13 +104,9 @@ void FormTabella::onActivate() {
 }
 
 void FormTabella::RiempiTabella() {
-  const auto mostra = [this](int i) {
-    if (mnuFacile.isChecked()) return true;
-    return mnuMedia.isChecked() && (i < kPerRiga || i % kPerRiga == 0);
-  };
   for (int i = 0; i < kCelle; ++i) {
-    Numero[i].setCaption(mostra(i) ? platform::leadingBlank(i) : QString());
-    if (!mostra(i)) Numero[i].setSpokenName(NomeDiVuota(i));
+    Numero[i].setCaption(partita_.HaNumero(i) ? platform::leadingBlank(i) : QString());
+    if (!partita_.HaNumero(i)) Numero[i].setSpokenName(NomeDiVuota(i));
   }
 }
 
@@ -119,12 +116,14 @@ void FormTabella::RiempiTabella() {
 QString FormTabella::NomeDiVuota(int cella) const {
   const int riga = cella / kPerRiga;
   const int colonna = cella % kPerRiga;
-  if (mnuMedia.isChecked()) return InParole(ambiente(), {.decine = riga, .unita = colonna});
+  const bool media = partita_.difficolta() == Difficolta::Media;
+  if (media) return InParole(ambiente(), {.decine = riga, .unita = colonna});
   return QStringLiteral("%1, %2").arg(riga + 1).arg(colonna + 1);
 }
 
 // The case stays, and so do the colours of its cells.
-void FormTabella::ScegliDifficolta(const platform::MenuItem& scelta) {
+void FormTabella::ScegliDifficolta(const platform::MenuItem& scelta, Difficolta difficolta) {
+  partita_.Cambia(difficolta);
   for (platform::MenuItem* voce : {&mnuFacile, &mnuMedia, &mnudifficile}) {
     voce->setChecked(voce == &scelta);
   }
@@ -132,9 +131,11 @@ void FormTabella::ScegliDifficolta(const platform::MenuItem& scelta) {
 }
 
 void FormTabella::Es_Caso(int tipo) {
-  const std::optional<CasoTabella> caso = EstraiCasoTabella(ambiente().servizi.sorte, tipo);
+  MostraCaso(partita_.Chiedi(tipo, ambiente().servizi.sorte));
+}
+
+void FormTabella::MostraCaso(const std::optional<CasoTabella>& caso) {
   if (!caso) return;
-  stato().RisultatoTabella = caso->risultato;
   EtichettaNumero.setCaption(platform::leadingBlank(caso->a) +
                              (caso->meno ? QStringLiteral(" - ") : QStringLiteral(" + ")) +
                              platform::leadingBlank(caso->b) + QStringLiteral(" = "));
@@ -143,16 +144,15 @@ void FormTabella::Es_Caso(int tipo) {
 
 void FormTabella::NuovoCaso() {
   newCase();
-  Es_Caso(stato().TipoEsercizio);
+  MostraCaso(partita_.NuovoCaso(stato().TipoEsercizio, ambiente().servizi.sorte));
   celle_.setEnabled(kCelle, true);
   Numero.forEach([](platform::Button& cella) { cella.setBackColor(kAperta); });
 }
 
 void FormTabella::Rispondi(int numero) {
-  if (numero == stato().RisultatoTabella) {
-    RispostaGiusta(numero);
-    return;
-  }
+  const Esito esito = partita_.Scegli(numero);
+  if (esito == Esito::Risolto) RispostaGiusta(numero);
+  if (esito != Esito::Sbagliato) return;
   SegnaSbagliato([this, numero] {
     Numero[numero].setBackColor(kRosso);
     Numero[numero].setEnabled(false);
@@ -163,7 +163,7 @@ void FormTabella::Rispondi(int numero) {
 // all that shows the place.
 void FormTabella::RispostaGiusta(int numero) {
   SegnaGiusto();
-  PulsanteAvanti.setEnabled(true);
+  MostraAvanti();
   AggiungiRiga(EtichettaNumero.caption() + platform::leadingBlank(numero));
   Numero[numero].setBackColor(kVerde);
   celle_.setEnabled(kCelle, false);

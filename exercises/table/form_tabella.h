@@ -1,15 +1,14 @@
 #pragma once
 
 #include "exercises/core/forma_esercizio.h"
+#include "games/partita_tabella.h"
 #include "platform/forms/controls/button_group.h"
 
 namespace somme {
 
-// Sums on the table of the numbers from 0 to 99: the pupil clicks the cell of the result. How much
-// of the grid is numbered is the difficulty. The operands of a case live only in its generator and
-// in the words of the question; `RisultatoTabella` is the cell to find.
-//
-// `PulsanteAvanti` starts enabled, so that the first case can be skipped; settled.
+// Sums on the table of the numbers from 0 to 99: the pupil clicks the cell of the result. The
+// operands of a case live only in the words of the question; `RisultatoTabella` is the cell to
+// find.
 class FormTabella final : public FormaEsercizio {
  public:
   explicit FormTabella(Ambiente& ambiente);
@@ -50,13 +49,17 @@ class FormTabella final : public FormaEsercizio {
  private:
   // A kind outside of 0 to 12 draws nothing.
   void Es_Caso(int tipo);
+  void MostraCaso(const std::optional<CasoTabella>& caso);
   void NuovoCaso() override;
+  // The way on, as the game has it.
+  void MostraAvanti() { PulsanteAvanti.setEnabled(partita_.SiVaAvanti()); }
   void Rispondi(int numero);
   // What assistive technology calls a cell without a number.
   [[nodiscard]] QString NomeDiVuota(int cella) const;
   void RispostaGiusta(int numero);
-  void ScegliDifficolta(const platform::MenuItem& scelta);
+  void ScegliDifficolta(const platform::MenuItem& scelta, PartitaTabella::Difficolta difficolta);
 
+  PartitaTabella partita_{stato().RisultatoTabella};
   platform::ButtonGroup celle_;
 };
 
