@@ -4,12 +4,12 @@
 #include <cstdlib>
 #include <optional>
 
-#include "input/mappa_tasti.h"
+#include "app/shared/foglio_tasti.h"
 #include "input/segnali_helpikeys.h"
 #include "platform/base/run_time_error.h"
 
-using somme::MappaTasti;
 using somme::SegnaliHelpiKeys;
+using somme::Tastiera;
 
 namespace {
 
@@ -34,12 +34,13 @@ int digitKey(int column, int row) {
 }
 
 void checkMaps(int column, int row) {
-  require(somme::kMappaCifre.Tasto(column, row) == digitKey(column, row));
-  for (const MappaTasti* map : {&somme::kMappaCifre, &somme::kMappaBlocchi, &somme::kMappaAbaco}) {
-    const int key = map->Tasto(column, row);
-    require(isBetween(key, 0, map->Tasti()));
+  require(somme::kTastieraCifre.Posto(column, row) == digitKey(column, row));
+  for (const Tastiera* map :
+       {&somme::kTastieraCifre, &somme::kTastieraBlocchi, &somme::kTastieraAbaco}) {
+    const int key = map->Posto(column, row);
+    require(isBetween(key, 0, map->Posti()));
     if (key == 0) continue;
-    require(map->ColonneDi(key).contiene(column) && map->RigheDi(key).contiene(row));
+    require(map->CelleDi(key).colonne.contiene(column) && map->CelleDi(key).righe.contiene(row));
   }
 }
 

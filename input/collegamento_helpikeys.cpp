@@ -15,8 +15,8 @@ constexpr int kPresa = 1;
 }  // namespace
 
 CollegamentoHelpiKeys::CollegamentoHelpiKeys(Ambiente& ambiente, Prese& prese,
-                                             const MappaTasti& mappa, Azione interpreta)
-    : ambiente_(ambiente), prese_(prese), mappa_(mappa), interpreta_(std::move(interpreta)) {}
+                                             const Tastiera& tastiera, Azione interpreta)
+    : ambiente_(ambiente), prese_(prese), tastiera_(tastiera), interpreta_(std::move(interpreta)) {}
 
 platform::Socket& CollegamentoHelpiKeys::CreaPresa() {
   platform::Socket& presa = prese_.load(kPresa);

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <functional>
 
-#include "input/mappa_tasti.h"
+#include "app/shared/foglio_tasti.h"
 #include "input/segnali_helpikeys.h"
 #include "platform/forms/control_array.h"
 #include "platform/forms/controls/socket.h"
@@ -24,9 +24,9 @@ class CollegamentoHelpiKeys {
   using Azione = std::function<void(int tasto)>;
 
   // prese: `ControlloConnessione` of the form. Element 0 stands on it and is not used; element 1
-  // is made by `Apri` and carries everything. interpreta: what the keys of the sheet do; never
-  // called with 0.
-  CollegamentoHelpiKeys(Ambiente& ambiente, Prese& prese, const MappaTasti& mappa,
+  // is made by `Apri` and carries everything. tastiera: kept by reference. interpreta: what the
+  // places of the sheet do; never called with 0.
+  CollegamentoHelpiKeys(Ambiente& ambiente, Prese& prese, const Tastiera& tastiera,
                         Azione interpreta);
 
   // The steps of the form's Load. A connection that does not come about passes silently.
@@ -37,9 +37,9 @@ class CollegamentoHelpiKeys {
   void Lascia();
 
   [[nodiscard]] bool HelpiKeysConnesso() const { return segnali_.HelpiKeysConnesso; }
-  // The key under a cell of the surface, or 0.
+  // The place of the sheet under a cell of the surface, or 0.
   [[nodiscard]] int DecodificaSegnali(int colonna, int riga) const {
-    return mappa_.Tasto(colonna, riga);
+    return tastiera_.Posto(colonna, riga);
   }
 
  private:
@@ -50,7 +50,7 @@ class CollegamentoHelpiKeys {
 
   Ambiente& ambiente_;
   Prese& prese_;
-  const MappaTasti& mappa_;
+  const Tastiera& tastiera_;
   Azione interpreta_;
   SegnaliHelpiKeys segnali_;
   bool detta_ = false;  // while the box of an "OK" stands

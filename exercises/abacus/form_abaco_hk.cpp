@@ -11,14 +11,12 @@ using namespace disegno;
 
 namespace {
 
-constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaAbaco};
-
 constexpr Row Cifra(int indice, double sinistra) {
   return row<&FormAbacoHK::Label2>(
       indice, {sinistra, 120, 480, 735},
       {.font = {Face::Tahoma, 24}, .back = kWhite, .align = Align::Centre, .hidden = true});
 }
-constexpr Row Tasto(Row riga, std::string_view dice, std::string_view disegno) {
+constexpr Row ConFigura(Row riga, std::string_view dice, std::string_view disegno) {
   riga.look = {.toolTip = dice, .picture = disegno, .in = nameOf<&FormAbacoHK::Picture1>};
   return riga;
 }
@@ -34,8 +32,9 @@ constexpr auto kControlli = std::to_array<Row>({
     Cifra(3, 6960),
     row<&FormAbacoHK::Picture1>({8400, 2520, 1935, 3480},
                                 {.toolTip = "Comandi dell'abaco", .border = true}),
-    Tasto(row<&FormAbacoHK::PulsanteCestino>({240, 240, 1455, 1380}), "Svuota l'abaco", "cestino"),
-    Tasto(row<&FormAbacoHK::PulsanteConferma>({240, 1860, 1455, 1380}), "Conferma", "conferma"),
+    ConFigura(row<&FormAbacoHK::PulsanteCestino>({240, 240, 1455, 1380}), "Svuota l'abaco",
+              "cestino"),
+    ConFigura(row<&FormAbacoHK::PulsanteConferma>({240, 1860, 1455, 1380}), "Conferma", "conferma"),
     Avanti<FormAbacoHK>({8400, 6360, 1935, 975}),
     Si({8940, 240, 855, 855}),
     No({8940, 240, 855, 855}),
@@ -57,7 +56,8 @@ constexpr std::array<int, 4> kDaTotale{1000, 100, 10, 0};
 
 }  // namespace
 
-FormAbacoHK::FormAbacoHK(Ambiente& ambiente) : ConHelpiKeys(kTastiera, ambiente, kDisegno) {
+FormAbacoHK::FormAbacoHK(Ambiente& ambiente)
+    : ConHelpiKeys(Collega::DopoIlResizer, ambiente, kDisegno) {
   OffriFoglio(mnuStampaHP);
   PulsanteCestino.onClick([this] { Svuota(); });
   PulsanteConferma.onClick([this] { Conferma(); });
@@ -96,37 +96,37 @@ void FormAbacoHK::MostraCifre() {
   }
 }
 
-void FormAbacoHK::InterpretaSegnale(int tasto) {
+void FormAbacoHK::Agisci(Tasto tasto) {
   if (CambioInCorso) return;
   switch (tasto) {
-    case 1:
+    case Tasto::Migliaia:
       InserisciSeServe(1000, &FormAbacoHK::InserisciMigliaio);
       break;
-    case 2:
+    case Tasto::Centinaia:
       InserisciSeServe(100, &FormAbacoHK::InserisciCentinaio);
       break;
-    case 3:
+    case Tasto::Decine:
       InserisciDecina();
       break;
-    case 4:
+    case Tasto::Unita:
       InserisciUnita();
       break;
-    case 6:
+    case Tasto::CambioHK:
       CambioHK();
       break;
-    case 7:
+    case Tasto::CambioDaH:
       CambioDaH();
       break;
-    case 8:
+    case Tasto::CambioUDa:
       CambioUDa();
       break;
-    case 10:
+    case Tasto::Cestino:
       if (PulsanteCestino.isEnabled()) Svuota();
       break;
-    case 11:
+    case Tasto::Conferma:
       if (PulsanteConferma.isEnabled()) Conferma();
       break;
-    case 12:
+    case Tasto::Avanti:
       if (PulsanteAvanti.isEnabled()) NuovoCaso();
       break;
     default:

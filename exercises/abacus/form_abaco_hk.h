@@ -26,9 +26,8 @@ class FormAbacoHK final : public ConHelpiKeys<ConPallineATasti<ConAvanti<FormaAb
   // full leaves it true: then only the mouse can go on to another case. Settled.
   bool CambioInCorso = false;
 
-  void InterpretaSegnale(int tasto) override;
-
  protected:
+  void Agisci(Tasto tasto) override;
   void onLoad() override;
   void DopoLaRichiesta() override;
   void NuovoCaso() override;

@@ -2,18 +2,9 @@
 
 namespace somme {
 
-namespace {
-
-constexpr TastieraHelpiKeys kTastiera{
-    .mappa = kMappaCifre,
-    .collega = TastieraHelpiKeys::Collega::PrimaDelResizer,
-};
-
-}  // namespace
-
 FormaBarreHK::FormaBarreHK(Ambiente& ambiente, const platform::FormDesign& disegno,
                            const PortataBarre& portata)
-    : ConTastiCifre(kTastiera, ambiente, disegno, portata) {
+    : ConTastiCifre(Collega::PrimaDelResizer, ambiente, disegno, portata) {
   OffriFoglio(mnuStamopaHK);
 }
 

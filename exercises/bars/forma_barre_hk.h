@@ -20,8 +20,6 @@ class FormaBarreHK : public ConTastiCifre<FormaBarreTastiera> {
   void InterpretaSegnaleHK(int tasto) { InterpretaSegnale(tasto); }
 
  protected:
-  using ConTastiCifre::InterpretaSegnale;
-
   void DopoLaRichiesta() override;
 
   [[nodiscard]] platform::TextBox& Casella() override { return TestoInput; }

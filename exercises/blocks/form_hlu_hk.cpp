@@ -9,8 +9,6 @@ using namespace disegno;
 
 namespace {
 
-constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaBlocchi};
-
 constexpr auto kControlli = std::to_array<Row>({
     CambioUDa<FormHLUHK>(),
     CambioDaH<FormHLUHK>(),
@@ -24,7 +22,6 @@ constexpr FormDesign kDisegno = DisegnoBlocchi(forme::kFormHLUHK, kTavole);
 
 }  // namespace
 
-FormHLUHK::FormHLUHK(Ambiente& ambiente)
-    : ConPiatti(kTastiera, ambiente, kDisegno, kBlocchiEntro999) {}
+FormHLUHK::FormHLUHK(Ambiente& ambiente) : ConPiatti(ambiente, kDisegno, kBlocchiEntro999) {}
 
 }  // namespace somme

@@ -9,8 +9,6 @@ using namespace disegno;
 
 namespace {
 
-constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaBlocchi};
-
 constexpr auto kControlli = std::to_array<Row>({
     CambioEntro99<FormLUHK>(),
 });
@@ -22,7 +20,6 @@ constexpr FormDesign kDisegno = DisegnoBlocchi(forme::kFormLUHK, kTavole);
 
 }  // namespace
 
-FormLUHK::FormLUHK(Ambiente& ambiente)
-    : ConCambio(kTastiera, ambiente, kDisegno, kBlocchiEntro99) {}
+FormLUHK::FormLUHK(Ambiente& ambiente) : ConCambio(ambiente, kDisegno, kBlocchiEntro99) {}
 
 }  // namespace somme

@@ -4,37 +4,36 @@
 
 namespace somme {
 
-FormaBlocchiHK::FormaBlocchiHK(const TastieraHelpiKeys& tastiera, Ambiente& ambiente,
-                               const platform::FormDesign& disegno,
+FormaBlocchiHK::FormaBlocchiHK(Ambiente& ambiente, const platform::FormDesign& disegno,
                                const EsercizioBlocchi& esercizio)
-    : ConHelpiKeys(tastiera, ambiente, disegno, esercizio) {
+    : ConHelpiKeys(Collega::DopoIlResizer, ambiente, disegno, esercizio) {
   OffriFoglio(mnuStampaHK);
 }
 
-void FormaBlocchiHK::InterpretaSegnale(int tasto) {
+void FormaBlocchiHK::Agisci(Tasto tasto) {
   switch (tasto) {
-    case 1:
+    case Tasto::Centinaia:
       ClicPiatti();
       break;
-    case 2:
+    case Tasto::Decine:
       ClicSpecie(PulsanteDa, blocchi::kLunghi);
       break;
-    case 3:
+    case Tasto::Unita:
       ClicSpecie(PulsanteU, blocchi::kUnita);
       break;
-    case 5:
+    case Tasto::CambioDaH:
       CambiaSeCe(1);
       break;
-    case 6:
+    case Tasto::CambioUDa:
       CambiaSeCe(0);
       break;
-    case 7:
+    case Tasto::Cestino:
       ClicCestino();
       break;
-    case 8:
+    case Tasto::Conferma:
       ClicConferma();
       break;
-    case 9:
+    case Tasto::Avanti:
       if (PulsanteAvanti.isVisible()) NuovoCaso();
       break;
     default:

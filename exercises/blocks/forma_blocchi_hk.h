@@ -13,16 +13,15 @@ namespace somme {
 // That freedom is settled.
 class FormaBlocchiHK : public ConHelpiKeys<FormaBlocchiPulsanti> {
  public:
-  FormaBlocchiHK(const TastieraHelpiKeys& tastiera, Ambiente& ambiente,
-                 const platform::FormDesign& disegno, const EsercizioBlocchi& esercizio);
+  FormaBlocchiHK(Ambiente& ambiente, const platform::FormDesign& disegno,
+                 const EsercizioBlocchi& esercizio);
 
   // The digits of the result, from hundreds to units; up to 99 the first is never shown.
   platform::ControlArray<platform::Label> Label4{*this};
   platform::MenuItem mnuStampaHK{*this};
 
-  void InterpretaSegnale(int tasto) override;
-
  protected:
+  void Agisci(Tasto tasto) override;
   void NascondiRisultato() override;
   void CasoFatto() override;
   void ChiediRisultato() override;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string_view>
 #include <utility>
 
 #include "exercises/core/chiedi_foglio.h"
@@ -15,19 +14,19 @@ namespace somme {
 // the first thing at each activation, and gives them back when the form is left. Mouse and keyboard
 // go on working as on `Base`.
 //
-// A form says what its keys do (`InterpretaSegnale`), which menu item asks for its sheet
-// (`OffriFoglio`, in its constructor), and has a row for the socket that stands on it
-// (`disegno::Connessione`). Where its activation is another than that of `Base`, it overrides
-// `DopoLaRichiesta`, never `onActivate`.
+// Which keys lie where is said by the sheet in the form's row. A form says what its keys do
+// (`Agisci`), which menu item asks for its sheet (`OffriFoglio`, in its constructor), and has a row
+// for the socket that stands on it (`disegno::Connessione`). Where its activation is another than
+// that of `Base`, it overrides `DopoLaRichiesta`, never `onActivate`.
 template <class Base>
 class ConHelpiKeys : public Base {
  public:
-  // tastiera: kept by reference; it must outlive the form.
   template <class... Argomenti>
-  explicit ConHelpiKeys(const TastieraHelpiKeys& tastiera, Argomenti&&... argomenti)
+  explicit ConHelpiKeys(Collega collega, Argomenti&&... argomenti)
       : Base(std::forward<Argomenti>(argomenti)...),
-        tastiera_(tastiera),
-        collegamento_(this->ambiente(), ControlloConnessione, tastiera.mappa,
+        collega_(collega),
+        foglio_(FoglioDi(this->scheda().foglio)),
+        collegamento_(this->ambiente(), ControlloConnessione, foglio_.tastiera,
                       [this](int tasto) { InterpretaSegnale(tasto); }) {
     this->mnuEsci.onClick([this] {
       collegamento_.Lascia();
@@ -38,14 +37,17 @@ class ConHelpiKeys : public Base {
   platform::ControlArray<platform::Socket> ControlloConnessione{*this};
 
   [[nodiscard]] bool HelpiKeysConnesso() const { return collegamento_.HelpiKeysConnesso(); }
-  // The key of the sheet under a cell of the touch surface, both counted from 1; 0 for none.
+  // The place of the sheet under a cell of the touch surface, both counted from 1; 0 for none.
   [[nodiscard]] int DecodificaSegnali(int colonna, int riga) const {
     return collegamento_.DecodificaSegnali(colonna, riga);
   }
-  // Does what a key of the sheet does on this form. tasto: from 1, row by row.
-  virtual void InterpretaSegnale(int tasto) = 0;
+  // Does what the key at a place of the sheet does on this form; nothing for any other number.
+  // tasto: from 1, row by row.
+  void InterpretaSegnale(int tasto) { Agisci(foglio_.TastoDi(tasto).tasto); }
 
  protected:
+  // Does what a key does; nothing for `Tasto::Nessuno`.
+  virtual void Agisci(Tasto tasto) = 0;
   // The menu item that asks for the keyboard sheet.
   void OffriFoglio(platform::MenuItem& voce) {
     voce.onClick([this] { ChiediFoglio(this->ambiente(), this->scheda().foglio); });
@@ -54,7 +56,7 @@ class ConHelpiKeys : public Base {
   virtual void DopoLaRichiesta() { Base::onActivate(); }
 
   void AvviaResizer() final {
-    const bool prima = tastiera_.collega == TastieraHelpiKeys::Collega::PrimaDelResizer;
+    const bool prima = collega_ == Collega::PrimaDelResizer;
     if (prima) collegamento_.Apri();
     Base::AvviaResizer();
     if (!prima) collegamento_.Apri();
@@ -65,7 +67,8 @@ class ConHelpiKeys : public Base {
   }
 
  private:
-  const TastieraHelpiKeys& tastiera_;
+  Collega collega_;
+  const FoglioTasti& foglio_;
   CollegamentoHelpiKeys collegamento_;
 };
 

@@ -7,35 +7,36 @@
 
 namespace somme {
 
-// The 16 keys of the sheet with digits, on forms with a box for the number and `PulsanteAvanti`.
+// The keys of the sheets with digits, on forms with a box for the number and `PulsanteAvanti`.
 // When a key may act, and what it confirms, is left to the forms.
 template <class Base>
 class ConTastiCifre : public ConHelpiKeys<Base> {
  public:
   using ConHelpiKeys<Base>::ConHelpiKeys;
 
-  void InterpretaSegnale(int tasto) final {
-    constexpr int kNove = 10;
-    constexpr int kCestino = 13;
-    constexpr int kAiuto = 14;
-    constexpr int kConferma = 15;
-    constexpr int kAvanti = 16;
-    if (tasto < 1) return;  // a touch beside the keys
-    if (tasto <= kNove) {
-      // The limit of the box is not asked: what the program sets may pass it. Settled.
-      if (SiScrive()) Scrivi(Casella().text() + QString::number(tasto - 1));
-    } else if (tasto == kCestino) {
-      if (SiScrive()) Scrivi({});
-    } else if (tasto == kAiuto) {
-      Aiuta();
-    } else if (tasto == kConferma) {
-      if (SiScrive()) Conferma();
-    } else if (tasto == kAvanti) {
-      if (this->PulsanteAvanti.isEnabled()) this->NuovoCaso();
+ protected:
+  void Agisci(Tasto tasto) final {
+    switch (tasto) {
+      case Tasto::Cestino:
+        if (SiScrive()) Scrivi({});
+        break;
+      case Tasto::Aiuto:
+        Aiuta();
+        break;
+      case Tasto::Conferma:
+        if (SiScrive()) Conferma();
+        break;
+      case Tasto::Avanti:
+        if (this->PulsanteAvanti.isEnabled()) this->NuovoCaso();
+        break;
+      default:
+        // The limit of the box is not asked: what the program sets may pass it. Settled.
+        if (ECifra(tasto) && SiScrive()) {
+          Scrivi(Casella().text() + QString::number(CifraDi(tasto)));
+        }
     }
   }
 
- protected:
   [[nodiscard]] virtual platform::TextBox& Casella() = 0;
   // Whether digits, bin and confirmation act now.
   [[nodiscard]] virtual bool SiScrive() const = 0;

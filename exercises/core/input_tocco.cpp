@@ -5,20 +5,23 @@
 
 namespace somme {
 
-InputTocco::InputTocco(FormaEsercizio& forma, const TastieraHelpiKeys& tastiera,
-                       CollegamentoHelpiKeys::Prese& prese, platform::MenuItem& foglio,
-                       std::function<void(int tasto)> interpreta)
-    : collega_(tastiera.collega),
-      collegamento_(forma.ambiente(), prese, tastiera.mappa, std::move(interpreta)) {
+InputTocco::InputTocco(FormaEsercizio& forma, CollegamentoHelpiKeys::Prese& prese,
+                       platform::MenuItem& foglio, std::function<void(Tasto tasto)> agisci,
+                       Collega collega)
+    : collega_(collega),
+      foglio_(FoglioDi(forma.scheda().foglio)),
+      agisci_(std::move(agisci)),
+      collegamento_(forma.ambiente(), prese, foglio_.tastiera,
+                    [this](int tasto) { InterpretaSegnale(tasto); }) {
   foglio.onClick([&forma] { ChiediFoglio(forma.ambiente(), forma.scheda().foglio); });
 }
 
 void InputTocco::PrimaDelResizer() {
-  if (collega_ == TastieraHelpiKeys::Collega::PrimaDelResizer) collegamento_.Apri();
+  if (collega_ == Collega::PrimaDelResizer) collegamento_.Apri();
 }
 
 void InputTocco::DopoIlResizer() {
-  if (collega_ == TastieraHelpiKeys::Collega::DopoIlResizer) collegamento_.Apri();
+  if (collega_ == Collega::DopoIlResizer) collegamento_.Apri();
 }
 
 void InputTocco::AllAttivazione() {
@@ -29,23 +32,23 @@ void InputTocco::AllUscita() {
   collegamento_.Lascia();
 }
 
-void InterpretaCifre(const TastiCifre& tasti, int tasto, bool siScrive, bool avanti) {
-  constexpr int kNove = 10;
-  constexpr int kCestino = 13;
-  constexpr int kAiuto = 14;
-  constexpr int kConferma = 15;
-  constexpr int kAvanti = 16;
-  if (tasto < 1) return;
-  if (tasto <= kNove) {
-    if (siScrive) tasti.Cifra(tasto - 1);
-  } else if (tasto == kCestino) {
-    if (siScrive) tasti.Cestino();
-  } else if (tasto == kAiuto) {
-    tasti.Aiuto();
-  } else if (tasto == kConferma) {
-    if (siScrive) tasti.Conferma();
-  } else if (tasto == kAvanti) {
-    if (avanti) tasti.Avanti();
+void AgisciSulleCifre(const TastiCifre& tasti, Tasto tasto, bool siScrive, bool avanti) {
+  switch (tasto) {
+    case Tasto::Cestino:
+      if (siScrive) tasti.Cestino();
+      break;
+    case Tasto::Aiuto:
+      tasti.Aiuto();
+      break;
+    case Tasto::Conferma:
+      if (siScrive) tasti.Conferma();
+      break;
+    case Tasto::Avanti:
+      if (avanti) tasti.Avanti();
+      break;
+    default:
+      if (ECifra(tasto) && siScrive) tasti.Cifra(CifraDi(tasto));
+      break;
   }
 }
 

@@ -12,32 +12,31 @@ namespace somme {
 
 class FormaEsercizio;
 
-// What the forms for the touch keyboard differ in, apart from what their keys do.
-struct TastieraHelpiKeys {
-  const MappaTasti& mappa;
-  // When the Load connects: before or after the layout is started.
-  enum class Collega { PrimaDelResizer, DopoIlResizer } collega = Collega::DopoIlResizer;
-};
+// When the Load connects: before or after the layout is started.
+enum class Collega { PrimaDelResizer, DopoIlResizer };
 
 // The touch surface, as a form holds it: the pupil lays a hand on a printed sheet, and HelpiKeys
 // reports where. It opens the connection at the Load, asks for the touches as the first thing at
 // each activation, and gives them back when the form is left. Mouse and keyboard go on working.
+// Which keys lie where is said by the sheet in the form's row.
 //
 // The form has the socket and the menu item that asks for the sheet among its controls, and a row
 // for the socket (`disegno::Connessione`).
 class InputTocco final : public ModoInput {
  public:
   // prese: `ControlloConnessione` of the form. foglio: the menu item that asks for its sheet.
-  // interpreta: does what a key of the sheet does on the form; keys count from 1, row by row.
-  InputTocco(FormaEsercizio& forma, const TastieraHelpiKeys& tastiera,
-             CollegamentoHelpiKeys::Prese& prese, platform::MenuItem& foglio,
-             std::function<void(int tasto)> interpreta);
+  // agisci: does what a key does on the form; called with `Tasto::Nessuno`, too.
+  InputTocco(FormaEsercizio& forma, CollegamentoHelpiKeys::Prese& prese, platform::MenuItem& foglio,
+             std::function<void(Tasto tasto)> agisci, Collega collega = Collega::DopoIlResizer);
 
   [[nodiscard]] bool HelpiKeysConnesso() const { return collegamento_.HelpiKeysConnesso(); }
-  // The key of the sheet under a cell of the touch surface, both counted from 1; 0 for none.
+  // The place of the sheet under a cell of the touch surface, both counted from 1; 0 for none.
   [[nodiscard]] int DecodificaSegnali(int colonna, int riga) const {
     return collegamento_.DecodificaSegnali(colonna, riga);
   }
+  // Does what the key at a place of the sheet does on the form; nothing for any other number.
+  // tasto: from 1, row by row.
+  void InterpretaSegnale(int tasto) const { agisci_(foglio_.TastoDi(tasto).tasto); }
 
   void PrimaDelResizer() override;
   void DopoIlResizer() override;
@@ -45,13 +44,15 @@ class InputTocco final : public ModoInput {
   void AllUscita() override;
 
  private:
-  TastieraHelpiKeys::Collega collega_;
+  Collega collega_;
+  const FoglioTasti& foglio_;
+  std::function<void(Tasto tasto)> agisci_;
   CollegamentoHelpiKeys collegamento_;
 };
 
-// Does what a key of the sheet with digits does. tasto: 1 to 16, or 0 for a touch beside the keys.
-// siScrive: whether digits, bin and confirmation act now; avanti: whether the way on is open.
-void InterpretaCifre(const TastiCifre& tasti, int tasto, bool siScrive, bool avanti);
+// Does what a key of a sheet with digits does. siScrive: whether digits, bin and confirmation act
+// now; avanti: whether the way on is open.
+void AgisciSulleCifre(const TastiCifre& tasti, Tasto tasto, bool siScrive, bool avanti);
 
 namespace disegno {
 

@@ -9,8 +9,6 @@ using namespace disegno;
 
 namespace {
 
-constexpr TastieraHelpiKeys kTastiera{.mappa = kMappaCifre};
-
 constexpr auto kCasella = std::to_array<Row>({
     row<&FormaNumeriHK::TestoInput>({3240, 3600, 3015, 1095},
                                     {.toolTip = "Il numero che hai toccato",
@@ -36,15 +34,14 @@ FormaNumeriHK::FormaNumeriHK(Ambiente& ambiente, std::string_view nome,
     : FormaNumeri(ambiente, nome, esercizio, kTavole),
       tasti_(*this, CifreIn(TestoInput, {.conferma = [this] { Conferma(); },
                                          .avanti = [this] { NuovoCaso(); }})),
-      tocco_(*this, kTastiera, ControlloConnessione, mnuStampaHK,
-             [this](int tasto) { InterpretaSegnale(tasto); }) {
+      tocco_(*this, ControlloConnessione, mnuStampaHK, [this](Tasto tasto) { Agisci(tasto); }) {
   Usa(tocco_);
   PulsanteAvanti.onClick([this] { NuovoCaso(); });
 }
 
-void FormaNumeriHK::InterpretaSegnale(int tasto) {
+void FormaNumeriHK::Agisci(Tasto tasto) {
   const bool risolto = PulsanteAvanti.isEnabled();
-  InterpretaCifre(tasti_, tasto, !risolto, risolto);
+  AgisciSulleCifre(tasti_, tasto, !risolto, risolto);
 }
 
 void FormaNumeriHK::onLoad() {

@@ -21,8 +21,8 @@ class FormaNumeriHK final : public FormaNumeri {
   platform::Button PulsanteAvanti{*this};
   platform::MenuItem mnuStampaHK{*this};
 
-  // Does what a key of the sheet does, 1 to 16.
-  void InterpretaSegnale(int tasto);
+  // Does what the key at a place of the sheet does, 1 to 16.
+  void InterpretaSegnale(int tasto) const { tocco_.InterpretaSegnale(tasto); }
 
  protected:
   void onLoad() override;
@@ -30,6 +30,7 @@ class FormaNumeriHK final : public FormaNumeri {
   void RispostaGiusta() override;
 
  private:
+  void Agisci(Tasto tasto);
   void Conferma();
   [[nodiscard]] double Scritto() const;
 

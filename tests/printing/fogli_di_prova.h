@@ -2,8 +2,8 @@
 
 #include <type_traits>
 
+#include "app/shared/foglio_tasti.h"
 #include "dialogo_di_prova.h"
-#include "input/mappa_tasti.h"
 #include "printing/foglio_tastiera.h"
 
 // The keyboard sheets, each with the keys that lie under it.
@@ -11,21 +11,24 @@ namespace prova {
 
 struct Foglio {
   std::string_view nome;
-  const somme::MappaTasti& mappa;
+  const somme::Tastiera& mappa;
   const somme::PostiTasti& posti;
   std::vector<int> nascosti;  // frames
 };
 
 inline const std::vector<Foglio>& fogli() {
   static const std::vector<Foglio> tutti{
-      {somme::forme::kFormStampaFoglioNumeri, somme::kMappaCifre, somme::posti::kCifre, {10, 11}},
+      {somme::forme::kFormStampaFoglioNumeri,
+       somme::kTastieraCifre,
+       somme::posti::kCifre,
+       {10, 11}},
       {somme::forme::kFormStampaFoglioNumeri2,
-       somme::kMappaCifre,
+       somme::kTastieraCifre,
        somme::posti::kCifre,
        {10, 11, 13}},
-      {somme::forme::kFormStampaLU, somme::kMappaBlocchi, somme::posti::kBlocchi, {0, 3, 4}},
-      {somme::forme::kFormStampaPLU, somme::kMappaBlocchi, somme::posti::kBlocchi, {3}},
-      {somme::forme::kFormStampaAbaco, somme::kMappaAbaco, somme::posti::kAbaco, {4, 8}},
+      {somme::forme::kFormStampaLU, somme::kTastieraBlocchi, somme::posti::kBlocchi, {0, 3, 4}},
+      {somme::forme::kFormStampaPLU, somme::kTastieraBlocchi, somme::posti::kBlocchi, {3}},
+      {somme::forme::kFormStampaAbaco, somme::kTastieraAbaco, somme::posti::kAbaco, {4, 8}},
   };
   return tutti;
 }

@@ -80,7 +80,7 @@ class FogliStampatiTest : public QObject {
     const Foglio& foglio = fogli()[size_t(quale)];
     DialogoDiProva prova({1366, 768});
     prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
-    std::vector<QRectF> attesi(size_t(foglio.mappa.Tasti()));  // millimetres
+    std::vector<QRectF> attesi(size_t(foglio.mappa.Posti()));  // millimetres
     mostra(prova, foglio.nome, [&](FoglioTastiera& f, frmAvviaStampa& d) {
       for (int i = 0; i < f.Shape1.count(); ++i) {
         const QRectF posto = postoDi(f.Shape1[i]);
@@ -117,7 +117,7 @@ class FogliStampatiTest : public QObject {
                qPrintable(QString::number(i)));
       for (const QPointF& punto : puntiDi(ink, {400.0 / 24, 280.0 / 23})) {
         const Cella c = cellaDi(punto.x() / 400, punto.y() / 280);
-        QCOMPARE(foglio.mappa.Tasto(c.colonna, c.riga), int(i) + 1);
+        QCOMPARE(foglio.mappa.Posto(c.colonna, c.riga), int(i) + 1);
       }
     }
   }

@@ -88,7 +88,7 @@ class FogliTest : public QObject {
     mostra(prova, foglio.nome, [&](FoglioTastiera& f, frmAvviaStampa&) {
       visto = true;
       const Griglia griglia = GrigliaDi(f.width(), f.height());
-      QCOMPARE(f.Shape1.count(), foglio.mappa.Tasti());
+      QCOMPARE(f.Shape1.count(), foglio.mappa.Posti());
       for (int i = 0; i < f.Shape1.count(); ++i) {
         const QRectF posto = postoDi(f.Shape1[i]);
         const Quadro q = quadroDi(foglio.nome);
@@ -121,11 +121,11 @@ class FogliTest : public QObject {
         const QSizeF cella(f.width() / somme::kColonneGriglia, f.height() / somme::kRigheGriglia);
         for (const QPointF& punto : puntiDi(postoDi(f.Shape1[i]), cella)) {
           const Cella c = cellaDi(punto.x() / f.width(), punto.y() / f.height());
-          QCOMPARE(foglio.mappa.Tasto(c.colonna, c.riga), i + 1);
+          QCOMPARE(foglio.mappa.Posto(c.colonna, c.riga), i + 1);
         }
       }
     });
-    QCOMPARE(provati, foglio.mappa.Tasti() - int(foglio.nascosti.size()));
+    QCOMPARE(provati, foglio.mappa.Posti() - int(foglio.nascosti.size()));
   }
 
   void theDigitsStandInTheMiddleOfTheFirstTenFrames() {

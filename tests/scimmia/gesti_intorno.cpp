@@ -2,7 +2,7 @@
 #include <QCoreApplication>
 #include <array>
 
-#include "input/mappa_tasti.h"
+#include "app/shared/foglio_tasti.h"
 #include "scimmia/gesti.h"
 #include "support/tocchi.h"
 
@@ -12,14 +12,14 @@ using platform::Form;
 
 void Gesti::rete(int profondita) {
   ReteDiProva& rete = banco_.rete;
-  static constexpr auto kMappe = std::to_array<const somme::MappaTasti*>(
-      {&somme::kMappaCifre, &somme::kMappaBlocchi, &somme::kMappaAbaco});
+  static constexpr auto kTastiere = std::to_array<const somme::Tastiera*>(
+      {&somme::kTastieraCifre, &somme::kTastieraBlocchi, &somme::kTastieraAbaco});
   const int come = dadi_.fino(60);
   if (come < 45) {
-    const somme::MappaTasti& mappa = *dadi_.uno(kMappe);
-    const int quale = dadi_.tra(1, mappa.Tasti());
-    racconto_.annota(profondita, QStringLiteral("touch %1 of %2").arg(quale).arg(mappa.Tasti()));
-    tocca(banco_, mappa, quale);
+    const somme::Tastiera& tastiera = *dadi_.uno(kTastiere);
+    const int quale = dadi_.tra(1, tastiera.Posti());
+    racconto_.annota(profondita, QStringLiteral("touch %1 of %2").arg(quale).arg(tastiera.Posti()));
+    tocca(banco_, tastiera, quale);
   } else if (come < 52) {
     racconto_.annota(profondita, QStringLiteral("OK"));
     rete.manda("OK");

@@ -18,13 +18,6 @@ namespace {
 using namespace somme;
 using prova::Banco;
 
-// Keys of the sheets of blocks and abacus.
-constexpr int kDecineBlocchi = 2;
-constexpr int kUnitaBlocchi = 3;
-constexpr int kConfermaBlocchi = 8;
-constexpr int kDecineAbaco = 3;
-constexpr int kUnitaAbaco = 4;
-
 constexpr QSize kTavoletta{760, 700};
 // The printer gets more pixels than a small picture can show.
 constexpr int kLarghezzaFoglio = 900;
@@ -38,8 +31,8 @@ F& Pronta(Banco& banco, std::string_view nome, qint16 tipo,
   return prova::apriPronta<F>(banco, nome);
 }
 
-void Tocca(Banco& banco, const MappaTasti& mappa, int tasto, int volte = 1) {
-  for (int i = 0; i < volte; ++i) prova::tocca(banco, mappa, tasto);
+void Tocca(Banco& banco, Tasto tasto, int volte = 1) {
+  for (int i = 0; i < volte; ++i) prova::tocca(banco, tasto);
 }
 
 QImage Foglio(Banco& banco, std::string_view nome) {
@@ -100,16 +93,16 @@ void NumeriTocco(Banco& banco) {
 
 void BlocchiTocco(Banco& banco) {
   Pronta<FormLUHK>(banco, forme::kFormLUHK, 3, {{52 - 1, 99}, {27, 52}});
-  Tocca(banco, kMappaBlocchi, kDecineBlocchi, 2);
-  Tocca(banco, kMappaBlocchi, kUnitaBlocchi, 7);
-  Tocca(banco, kMappaBlocchi, kConfermaBlocchi);
-  Tocca(banco, kMappaBlocchi, kDecineBlocchi);
+  Tocca(banco, Tasto::Decine, 2);
+  Tocca(banco, Tasto::Unita, 7);
+  Tocca(banco, Tasto::Conferma);
+  Tocca(banco, Tasto::Decine);
 }
 
 void AbacoTocco(Banco& banco) {
   Pronta<FormAbacoHK>(banco, forme::kFormAbacoHK, 3, {{43 - 1, 99}, {28, 43}});
-  Tocca(banco, kMappaAbaco, kDecineAbaco, 2);
-  Tocca(banco, kMappaAbaco, kUnitaAbaco, 8);
+  Tocca(banco, Tasto::Decine, 2);
+  Tocca(banco, Tasto::Unita, 8);
 }
 
 QImage FoglioBarre(Banco& banco) {

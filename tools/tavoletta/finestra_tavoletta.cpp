@@ -81,7 +81,7 @@ void FinestraTavoletta::Aggiorna() {
 
 void FinestraTavoletta::Toccata(int colonna, int riga) {
   const tavoletta::Foglio& foglio = kFogli.at(std::size_t(scelta_.currentIndex()));
-  const int tasto = foglio.mappa.Tasto(colonna, riga);
+  const int tasto = foglio.tastiera.Posto(colonna, riga);
   tavoletta_.Tocca(colonna, riga);
   tocco_.setText(
       tasto == 0

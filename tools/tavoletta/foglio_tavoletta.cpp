@@ -14,10 +14,6 @@ const QColor kTastoVuoto(0xF4, 0xF4, 0xF4);
 const QColor kBordo(0x40, 0x40, 0x40);
 const QColor kDito(0x1E, 0x5A, 0xC8);
 
-QString Testo(std::u16string_view testo) {
-  return QString::fromUtf16(testo.data(), qsizetype(testo.size()));
-}
-
 }  // namespace
 
 FoglioTavoletta::FoglioTavoletta(QWidget* parent) : QWidget(parent) {
@@ -38,22 +34,26 @@ QPoint FoglioTavoletta::Cella(QPointF punto) const {
   return {cella(punto.x(), width(), kColonneGriglia), cella(punto.y(), height(), kRigheGriglia)};
 }
 
-QRectF FoglioTavoletta::Zona(const Fascia& colonne, const Fascia& righe) const {
+QRectF FoglioTavoletta::Area(const Zona& zona) const {
   const double x = width() / double(kColonneGriglia);
   const double y = height() / double(kRigheGriglia);
-  return {(colonne.da - 1) * x, (righe.da - 1) * y, (colonne.a - colonne.da + 1) * x,
-          (righe.a - righe.da + 1) * y};
+  return {(zona.colonne.da - 1) * x, (zona.righe.da - 1) * y, zona.colonne.lunga() * x,
+          zona.righe.lunga() * y};
 }
 
-QPoint FoglioTavoletta::Centro(int tasto) const {
-  return Zona(foglio_->mappa.ColonneDi(tasto), foglio_->mappa.RigheDi(tasto)).center().toPoint();
+QPoint FoglioTavoletta::Centro(int posto) const {
+  return Area(foglio_->tastiera.CelleDi(posto)).center().toPoint();
 }
 
-void FoglioTavoletta::DisegnaTasto(QPainter& pittore, int tasto) const {
+QString FoglioTavoletta::Parola(int posto) const {
+  const std::string_view parola = SegnoDi(foglio_->tastiera.TastoDi(posto).tasto).parola;
+  return QString::fromUtf8(parola.data(), qsizetype(parola.size()));
+}
+
+void FoglioTavoletta::DisegnaTasto(QPainter& pittore, int posto) const {
   constexpr double kAngolo = 8;
-  const QString testo = Testo(foglio_->tasti[std::size_t(tasto) - 1]);
-  const QRectF zona =
-      Zona(foglio_->mappa.ColonneDi(tasto), foglio_->mappa.RigheDi(tasto)).adjusted(2, 2, -2, -2);
+  const QString testo = Parola(posto);
+  const QRectF zona = Area(foglio_->tastiera.CelleDi(posto)).adjusted(2, 2, -2, -2);
   pittore.setPen(testo.isEmpty() ? QPen(kGriglia.darker(115), 1, Qt::DashLine) : QPen(kBordo, 2));
   pittore.setBrush(testo.isEmpty() ? kTastoVuoto : kTasto);
   pittore.drawRoundedRect(zona, kAngolo, kAngolo);
@@ -69,7 +69,7 @@ void FoglioTavoletta::paintEvent(QPaintEvent* /*evento*/) {
   QPainter pittore(this);
   pittore.setRenderHint(QPainter::Antialiasing);
   pittore.fillRect(rect(), Qt::white);
-  for (int tasto = 1; tasto <= foglio_->mappa.Tasti(); ++tasto) DisegnaTasto(pittore, tasto);
+  for (int posto = 1; posto <= foglio_->tastiera.Posti(); ++posto) DisegnaTasto(pittore, posto);
   pittore.setPen(QPen(QColor(0, 0, 0, 26), 1));
   for (int i = 1; i < kColonneGriglia; ++i) {
     const double x = double(width()) * i / kColonneGriglia;
@@ -85,7 +85,7 @@ void FoglioTavoletta::paintEvent(QPaintEvent* /*evento*/) {
   if (toccata_.isNull()) return;
   pittore.setPen(Qt::NoPen);
   pittore.setBrush(kDito);
-  pittore.drawRect(Zona({toccata_.x(), toccata_.x()}, {toccata_.y(), toccata_.y()}));
+  pittore.drawRect(Area({{toccata_.x(), toccata_.x()}, {toccata_.y(), toccata_.y()}}));
 }
 
 void FoglioTavoletta::mousePressEvent(QMouseEvent* evento) {

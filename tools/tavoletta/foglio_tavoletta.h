@@ -18,8 +18,9 @@ class FoglioTavoletta final : public QWidget {
   [[nodiscard]] QSize sizeHint() const override { return {720, 520}; }
   // The cell under a point, column and row from 1; the nearest one for a point outside.
   [[nodiscard]] QPoint Cella(QPointF punto) const;
-  // The middle of a key.
-  [[nodiscard]] QPoint Centro(int tasto) const;
+  // The middle of a place, and the words on the key there; none where no exercise has a key.
+  [[nodiscard]] QPoint Centro(int posto) const;
+  [[nodiscard]] QString Parola(int posto) const;
 
  Q_SIGNALS:
   void toccata(int colonna, int riga);
@@ -30,8 +31,8 @@ class FoglioTavoletta final : public QWidget {
   void mouseReleaseEvent(QMouseEvent* evento) override;
 
  private:
-  [[nodiscard]] QRectF Zona(const Fascia& colonne, const Fascia& righe) const;
-  void DisegnaTasto(QPainter& pittore, int tasto) const;
+  [[nodiscard]] QRectF Area(const Zona& zona) const;
+  void DisegnaTasto(QPainter& pittore, int posto) const;
 
   const Foglio* foglio_ = kFogli.data();
   QPoint toccata_;  // the cell under the finger, or null

@@ -71,9 +71,8 @@ bool Suggeritore::Scegli(const QString& nome) {
 bool Suggeritore::Tasto(const QStringList& parole) {
   bool numero = false;
   const int tasto = parole.size() == 2 ? parole[1].toInt(&numero) : 0;
-  if (!numero || tasto < 1 || tasto > foglio_->mappa.Tasti()) return false;
-  const Fascia colonne = foglio_->mappa.ColonneDi(tasto);
-  const Fascia righe = foglio_->mappa.RigheDi(tasto);
+  if (!numero || tasto < 1 || tasto > foglio_->tastiera.Posti()) return false;
+  const auto [colonne, righe] = foglio_->tastiera.CelleDi(tasto);
   tavoletta_.Tocca((colonne.da + colonne.a) / 2, (righe.da + righe.a) / 2);
   return true;
 }

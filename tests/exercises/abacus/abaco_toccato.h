@@ -14,22 +14,12 @@ struct BancoHK : BancoDellAbaco<somme::FormAbacoHK> {
     messaggi.mostrati.clear();
   }
 
-  // Keys of the sheet.
-  enum Tasti {
-    kMigliaio = 1,
-    kCentinaio,
-    kDecina,
-    kUnita,
-    kCambioHK = 6,
-    kCambioDaH,
-    kCambioUDa,
-    kCestino = 10,
-    kConferma,
-    kAvanti,
-  };
-  void tasto(int quale, int volte = 1) {
-    for (int i = 0; i < volte; ++i) prova::tocca(*this, somme::kMappaAbaco, quale);
+  // Keys of the sheet, by name.
+  void tasto(somme::Tasto quale, int volte = 1) {
+    for (int i = 0; i < volte; ++i) prova::tocca(*this, quale);
   }
+  // A place of the sheet, with a key or without.
+  void posto(int quale) { prova::tocca(*this, quale); }
   // The digits of the sum that show, with a dot for each that does not.
   [[nodiscard]] QString cifre() const {
     QString testo;

@@ -2,6 +2,7 @@
 #include "abaco_toccato.h"
 
 using namespace prova;
+using somme::Tasto;
 
 namespace {
 
@@ -53,15 +54,15 @@ class AnnunciAbacoTest : public QObject {
   void touchedTheBinIsToldAndANewCaseTellsItsQuestionAlone() {
     BancoHK banco(3, BancoHK::caso(3, 42, 27));
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("27 + 15 =")});
-    banco.tasto(BancoHK::kDecina, 4);
-    banco.tasto(BancoHK::kUnita, 2);
+    banco.tasto(Tasto::Decine, 4);
+    banco.tasto(Tasto::Unita, 2);
     QCOMPARE(banco.annunci.nuovi().last(), QStringLiteral("4 decine, 2 unità"));
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Conferma);
     QCOMPARE(banco.annunci.nuovi(), (QStringList{kGiusto, QStringLiteral("27 + 15 = 42.")}));
-    banco.tasto(BancoHK::kCestino);
+    banco.tasto(Tasto::Cestino);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("vuoto")});
     banco.sorte.scrivi(BancoHK::caso(3, 35, 21));
-    banco.tasto(BancoHK::kAvanti);
+    banco.tasto(Tasto::Avanti);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("21 + 14 =")});
   }
 };

@@ -5,6 +5,7 @@
 
 using namespace prova;
 using somme::FormAbacoHK;
+using somme::Tasto;
 
 // The abacus by touch: its keys, the carries, and what becomes of them when the form is left.
 class FormAbacoHKTest : public QObject {
@@ -32,10 +33,10 @@ class FormAbacoHKTest : public QObject {
 
   void theFirstFourKeysPutBeadsOfTheirKindByNumber() {
     BancoHK banco(19, BancoHK::caso(19, 1234, 1000));
-    banco.tasto(BancoHK::kMigliaio);
-    banco.tasto(BancoHK::kCentinaio, 2);
-    banco.tasto(BancoHK::kDecina, 3);
-    banco.tasto(BancoHK::kUnita, 4);
+    banco.tasto(Tasto::Migliaia);
+    banco.tasto(Tasto::Centinaia, 2);
+    banco.tasto(Tasto::Decine, 3);
+    banco.tasto(Tasto::Unita, 4);
     QCOMPARE(banco.detto(), QStringLiteral("1 migliaio, 2 centinaia, 3 decine, 4 unità"));
     QCOMPARE(banco.visti("u"), QStringLiteral("0 1 2 3"));
     QCOMPARE(banco.visti("ua"), QStringLiteral("4 5 6 7 8 9"));
@@ -45,8 +46,8 @@ class FormAbacoHKTest : public QObject {
 
   void theKeysBetweenAndTheCellsOffTheKeysDoNothing() {
     BancoHK banco(3, BancoHK::caso(3, 12, 7));
-    banco.tasto(5);
-    banco.tasto(9);
+    banco.posto(5);
+    banco.posto(9);
     banco.rete.manda("FF1");
     QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
     QVERIFY(banco.suono.suonati.isEmpty());
@@ -55,8 +56,8 @@ class FormAbacoHKTest : public QObject {
 
   void aKindThatTheSumHasNoUseForPlaysTheSoundOfNo() {
     BancoHK banco(19, BancoHK::caso(19, 99, 50));
-    banco.tasto(BancoHK::kMigliaio);
-    banco.tasto(BancoHK::kCentinaio);
+    banco.tasto(Tasto::Migliaia);
+    banco.tasto(Tasto::Centinaia);
     QCOMPARE(banco.suono.suonati,
              (QStringList{banco.fileDelSuono("no"), banco.fileDelSuono("no")}));
     QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
@@ -66,20 +67,20 @@ class FormAbacoHKTest : public QObject {
 
   void aHundredIsOfUseFromOneHundredOnAndAThousandFromOneThousand() {
     BancoHK cento(19, BancoHK::caso(19, 100, 50));
-    cento.tasto(BancoHK::kMigliaio);
-    cento.tasto(BancoHK::kCentinaio);
+    cento.tasto(Tasto::Migliaia);
+    cento.tasto(Tasto::Centinaia);
     QCOMPARE(cento.detto(), QStringLiteral("1 centinaio"));
     BancoHK quasi(19, BancoHK::caso(19, 999, 50));
-    quasi.tasto(BancoHK::kMigliaio);
+    quasi.tasto(Tasto::Migliaia);
     QCOMPARE(quasi.detto(), QStringLiteral("vuoto"));
     BancoHK mille(19, BancoHK::caso(19, 1000, 50));
-    mille.tasto(BancoHK::kMigliaio);
+    mille.tasto(Tasto::Migliaia);
     QCOMPARE(mille.detto(), QStringLiteral("1 migliaio"));
   }
 
   void theNinthThousandIsTheLast() {
     BancoHK banco(19, BancoHK::caso(19, 9000, 4000));
-    banco.tasto(BancoHK::kMigliaio, 10);
+    banco.tasto(Tasto::Migliaia, 10);
     QCOMPARE(banco.forma.MigliaiaInserite, qint16(9));
     QCOMPARE(banco.visti("ka"), QStringLiteral("9"));
     QVERIFY(banco.suono.suonati.isEmpty());
@@ -88,7 +89,7 @@ class FormAbacoHKTest : public QObject {
   void tenBeadsStayOnTheirSpikeUntilAKeyCarriesThem() {
     BancoHK banco(3);
     const double prima = banco.adesso();
-    banco.tasto(BancoHK::kUnita, 11);
+    banco.tasto(Tasto::Unita, 11);
     QCOMPARE(banco.adesso(), prima);
     QCOMPARE(banco.detto(), QStringLiteral("10 unità"));
     QCOMPARE(banco.visti("u"), QString::fromLatin1(kTutti));
@@ -97,9 +98,9 @@ class FormAbacoHKTest : public QObject {
 
   void aCarryOfFewerThanTenDoesNothing() {
     BancoHK banco(3);
-    banco.tasto(BancoHK::kUnita, 9);
+    banco.tasto(Tasto::Unita, 9);
     const double prima = banco.adesso();
-    for (const int tasto : {BancoHK::kCambioUDa, BancoHK::kCambioDaH, BancoHK::kCambioHK}) {
+    for (const Tasto tasto : {Tasto::CambioUDa, Tasto::CambioDaH, Tasto::CambioHK}) {
       banco.tasto(tasto);
       QVERIFY(!banco.forma.CambioInCorso);
     }
@@ -108,20 +109,20 @@ class FormAbacoHKTest : public QObject {
   }
 
   void theKeysOfTheCarriesCarryTenOfTheirKind_data() {
-    QTest::addColumn<int>("metti");
-    QTest::addColumn<int>("cambia");
+    QTest::addColumn<Tasto>("metti");
+    QTest::addColumn<Tasto>("cambia");
     QTest::addColumn<QString>("detto");
     QTest::addColumn<QString>("attesa");
-    QTest::newRow("units") << int(BancoHK::kUnita) << int(BancoHK::kCambioUDa) << "1 decina"
+    QTest::newRow("units") << Tasto::Unita << Tasto::CambioUDa << "1 decina"
                            << "daa";
-    QTest::newRow("tens") << int(BancoHK::kDecina) << int(BancoHK::kCambioDaH) << "1 centinaio"
+    QTest::newRow("tens") << Tasto::Decine << Tasto::CambioDaH << "1 centinaio"
                           << "ha";
-    QTest::newRow("hundreds") << int(BancoHK::kCentinaio) << int(BancoHK::kCambioHK) << "1 migliaio"
+    QTest::newRow("hundreds") << Tasto::Centinaia << Tasto::CambioHK << "1 migliaio"
                               << "ka";
   }
   void theKeysOfTheCarriesCarryTenOfTheirKind() {
-    QFETCH(int, metti);
-    QFETCH(int, cambia);
+    QFETCH(Tasto, metti);
+    QFETCH(Tasto, cambia);
     QFETCH(QString, detto);
     QFETCH(QString, attesa);
     BancoHK banco(19, BancoHK::caso(19, 1234, 1000));
@@ -141,58 +142,58 @@ class FormAbacoHKTest : public QObject {
 
   void everyKeyIsDroppedWhileACarryGoesOn() {
     BancoHK banco(19, BancoHK::caso(19, 1234, 1000));
-    banco.tasto(BancoHK::kCentinaio, 10);
-    banco.tasto(BancoHK::kUnita, 10);
+    banco.tasto(Tasto::Centinaia, 10);
+    banco.tasto(Tasto::Unita, 10);
     for (const int passo : {50, 150}) {
       banco.tempo.after(nelPasso(passo), [&] {
-        for (int tasto = 1; tasto <= 12; ++tasto) banco.tasto(tasto);
+        for (int posto = 1; posto <= 12; ++posto) banco.posto(posto);
       });
     }
-    banco.tasto(BancoHK::kCambioUDa);
+    banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.detto(), QStringLiteral("10 centinaia, 1 decina"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QVERIFY(banco.suono.suonati.isEmpty());
-    banco.tasto(BancoHK::kDecina);
+    banco.tasto(Tasto::Decine);
     QCOMPARE(banco.detto(), QStringLiteral("10 centinaia, 2 decine"));
   }
 
   void aCarryOntoAFullSpikeSilencesTheKeysAndTheMouseAloneGoesOn() {
     BancoHK banco(11, BancoHK::caso(11, 110, 60));
-    banco.tasto(BancoHK::kUnita, 10);
-    banco.tasto(BancoHK::kDecina, 10);
+    banco.tasto(Tasto::Unita, 10);
+    banco.tasto(Tasto::Decine, 10);
     const double prima = banco.adesso();
-    banco.tasto(BancoHK::kCambioUDa);
+    banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.adesso(), prima);
     QVERIFY(banco.forma.CambioInCorso);
     QCOMPARE(banco.detto(), QStringLiteral("10 decine, 10 unità"));
-    for (int tasto = 1; tasto <= 12; ++tasto) banco.tasto(tasto);
+    for (int posto = 1; posto <= 12; ++posto) banco.posto(posto);
     QCOMPARE(banco.detto(), QStringLiteral("10 decine, 10 unità"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     banco.clicca(banco.forma.PulsanteConferma);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
-    banco.tasto(BancoHK::kAvanti);
+    banco.tasto(Tasto::Avanti);
     QVERIFY(banco.forma.CambioInCorso);
     banco.clicca(banco.forma.PulsanteAvanti);
     QVERIFY(!banco.forma.CambioInCorso);
-    banco.tasto(BancoHK::kUnita);
+    banco.tasto(Tasto::Unita);
     QCOMPARE(banco.detto(), QStringLiteral("1 unità"));
   }
 
   void leavingInTheMiddleOfACarryEndsItThere() {
     BancoHK banco(3);
-    banco.tasto(BancoHK::kUnita, 10);
+    banco.tasto(Tasto::Unita, 10);
     banco.tempo.after(nelPasso(120), [&] { banco.batti(Qt::Key_E, Qt::AltModifier); });
     const double prima = banco.adesso();
-    banco.tasto(BancoHK::kCambioUDa);
+    banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
     QVERIFY(banco.adesso() - prima < nelPasso(121));
   }
 
   void closingTheWindowInTheMiddleOfACarryEndsTheProgram() {
     BancoHK banco(3);
-    banco.tasto(BancoHK::kUnita, 10);
+    banco.tasto(Tasto::Unita, 10);
     banco.tempo.after(nelPasso(50), [&] { banco.ambiente->fondo.window().close(); });
-    banco.tasto(BancoHK::kCambioUDa);
+    banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.ambiente->fondo.forms().current(), nullptr);
   }
 
@@ -218,7 +219,7 @@ class FormAbacoHKTest : public QObject {
 
   void aClickOnABeadMovesNothing() {
     BancoHK banco(3);
-    banco.tasto(BancoHK::kUnita, 2);
+    banco.tasto(Tasto::Unita, 2);
     banco.tocca("ua", 5);
     banco.tocca("u", 0);
     QCOMPARE(banco.visti("u"), QStringLiteral("0 1"));

@@ -2,6 +2,7 @@
 
 using namespace prova;
 using somme::FormAbacoHK;
+using somme::Tasto;
 
 // Sums on the abacus by touch: the answer, the digits of the sum, what comes after.
 class SommaAbacoHKTest : public QObject {
@@ -11,9 +12,9 @@ class SommaAbacoHKTest : public QObject {
   void tenTensAndNoHundredAreRightForASumOfTheSameValue() {
     BancoHK banco(11, BancoHK::caso(11, 107, 100));
     const FormAbacoHK& forma = banco.forma;
-    banco.tasto(BancoHK::kDecina, 10);
-    banco.tasto(BancoHK::kUnita, 7);
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Decine, 10);
+    banco.tasto(Tasto::Unita, 7);
+    banco.tasto(Tasto::Conferma);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QVERIFY(forma.ImgSi.isVisible());
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
@@ -45,20 +46,21 @@ class SommaAbacoHKTest : public QObject {
     QCOMPARE(banco.ambiente->stato.Totale, qint16(totale));
     QCOMPARE(banco.cifre(), QStringLiteral("...."));
     int valore = 1000;
-    for (int tasto = 1; tasto <= 4; ++tasto, valore /= 10) {
+    for (const Tasto tasto : {Tasto::Migliaia, Tasto::Centinaia, Tasto::Decine, Tasto::Unita}) {
       banco.tasto(tasto, totale / valore % 10);
+      valore /= 10;
     }
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Conferma);
     QCOMPARE(banco.cifre(), cifre);
-    banco.tasto(BancoHK::kAvanti);
+    banco.tasto(Tasto::Avanti);
     QCOMPARE(banco.cifre(), QStringLiteral("...."));
   }
 
   void aWrongAbacusIsCountedAndCanBePutRight() {
     BancoHK banco(3, BancoHK::caso(3, 12, 7));
     const FormAbacoHK& forma = banco.forma;
-    banco.tasto(BancoHK::kUnita);
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Unita);
+    banco.tasto(Tasto::Conferma);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
     QVERIFY(forma.ImgNo.isVisible());
@@ -68,23 +70,23 @@ class SommaAbacoHKTest : public QObject {
     QVERIFY(!forma.PulsanteAvanti.isEnabled());
     QVERIFY(forma.PulsanteConferma.isEnabled());
     QCOMPARE(banco.visti("u"), QStringLiteral("0"));
-    banco.tasto(BancoHK::kUnita);
-    banco.tasto(BancoHK::kDecina);
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Unita);
+    banco.tasto(Tasto::Decine);
+    banco.tasto(Tasto::Conferma);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
   void confirmationAndTheWayOnActOnlyWhileTheirButtonsAreEnabled() {
     BancoHK banco(3, BancoHK::caso(3, 12, 7));
-    banco.tasto(BancoHK::kAvanti);
+    banco.tasto(Tasto::Avanti);
     QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 7 +  5 = "));
-    banco.tasto(BancoHK::kDecina);
-    banco.tasto(BancoHK::kUnita, 2);
-    banco.tasto(BancoHK::kConferma);
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Decine);
+    banco.tasto(Tasto::Unita, 2);
+    banco.tasto(Tasto::Conferma);
+    banco.tasto(Tasto::Conferma);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     banco.sorte.scrivi(BancoHK::caso(3, 82, 47));
-    banco.tasto(BancoHK::kAvanti);
+    banco.tasto(Tasto::Avanti);
     QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
     QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
     QVERIFY(banco.forma.PulsanteConferma.isEnabled());
@@ -93,13 +95,13 @@ class SommaAbacoHKTest : public QObject {
 
   void theBinClearsTheAbacusAloneByKeyAndByMouse() {
     BancoHK banco(3, BancoHK::caso(3, 12, 7));
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Conferma);
     for (const bool conIlMouse : {false, true}) {
-      banco.tasto(BancoHK::kUnita, 3);
+      banco.tasto(Tasto::Unita, 3);
       if (conIlMouse) {
         banco.clicca(banco.forma.PulsanteCestino);
       } else {
-        banco.tasto(BancoHK::kCestino);
+        banco.tasto(Tasto::Cestino);
       }
       QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
       QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
@@ -111,16 +113,16 @@ class SommaAbacoHKTest : public QObject {
 
   void theNextCaseByMouseInTheMiddleOfACarryFreesTheKeysAndTheCarryGoesOn() {
     BancoHK banco(3, BancoHK::caso(3, 10, 7));
-    banco.tasto(BancoHK::kUnita, 10);
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Unita, 10);
+    banco.tasto(Tasto::Conferma);
     banco.sorte.scrivi(BancoHK::caso(3, 82, 47));
     banco.tempo.after(nelPasso(50), [&] {
       banco.clicca(banco.forma.PulsanteAvanti);
       QVERIFY(!banco.forma.CambioInCorso);
-      banco.tasto(BancoHK::kDecina, 2);
+      banco.tasto(Tasto::Decine, 2);
       QCOMPARE(banco.detto(), QStringLiteral("2 decine"));
     });
-    banco.tasto(BancoHK::kCambioUDa);
+    banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
     QCOMPARE(banco.detto(), QStringLiteral("3 decine"));
     QVERIFY(!banco.forma.CambioInCorso);
@@ -129,42 +131,42 @@ class SommaAbacoHKTest : public QObject {
 
   void aSpikeThatFillsInTheMiddleOfACarryLeavesItNoWaitingBead() {
     BancoHK banco(3, BancoHK::caso(3, 10, 7));
-    banco.tasto(BancoHK::kUnita, 10);
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Unita, 10);
+    banco.tasto(Tasto::Conferma);
     banco.tempo.after(nelPasso(50), [&] {
       banco.clicca(banco.forma.PulsanteAvanti);
-      banco.tasto(BancoHK::kDecina, 10);
+      banco.tasto(Tasto::Decine, 10);
     });
-    banco.tasto(BancoHK::kCambioUDa);
+    banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.detto(), QStringLiteral("11 decine"));
     QCOMPARE(banco.visti("da"), QString::fromLatin1(kTutti));
-    banco.tasto(BancoHK::kCestino);
+    banco.tasto(Tasto::Cestino);
     QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
   }
 
   void theMouseStaysFreeInTheMiddleOfACarry() {
     BancoHK banco(3, BancoHK::caso(3, 10, 7));
-    banco.tasto(BancoHK::kUnita, 10);
+    banco.tasto(Tasto::Unita, 10);
     banco.tempo.after(nelPasso(50), [&] { banco.clicca(banco.forma.PulsanteConferma); });
-    banco.tasto(BancoHK::kCambioUDa);
+    banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(banco.detto(), QStringLiteral("1 decina"));
   }
 
   void aSecondActivationStartsACaseAndARecordAnewAndTheNextOkTakesTheKeysAway() {
     BancoHK banco(3, BancoHK::caso(3, 10, 7));
-    banco.tasto(BancoHK::kDecina);
-    banco.tasto(BancoHK::kConferma);
+    banco.tasto(Tasto::Decine);
+    banco.tasto(Tasto::Conferma);
     banco.sorte.scrivi(BancoHK::caso(3, 82, 47));
     banco.mostra(somme::forme::kFormAbacoHK);
     QCOMPARE(banco.rete.ricevuti.count("02#REQ-TOUCH"), 2);
     QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
     QCOMPARE(banco.forma.TestoStampa.text(), QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n"));
     QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
-    banco.tasto(BancoHK::kUnita);
+    banco.tasto(Tasto::Unita);
     QCOMPARE(banco.detto(), QStringLiteral("1 unità"));
     banco.rete.manda("OK");
-    banco.tasto(BancoHK::kUnita);
+    banco.tasto(Tasto::Unita);
     QCOMPARE(banco.detto(), QStringLiteral("1 unità"));
     QVERIFY(banco.messaggi.mostrati.empty());
   }

@@ -110,12 +110,12 @@ class AnnunciBarreTest : public QObject {
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     prova::rispondiToccando(banco, QStringLiteral("5"));
     QCOMPARE(banco.annunci.nuovi(), (QStringList{QStringLiteral("5"), kSbagliato}));
-    prova::tocca(banco, somme::kMappaCifre, prova::kTastoAiuto);
-    prova::tocca(banco, somme::kMappaCifre, prova::kTastoCestino);
+    prova::tocca(banco, somme::Tasto::Aiuto);
+    prova::tocca(banco, somme::Tasto::Cestino);
     prova::rispondiToccando(banco, QStringLiteral("7"));
     QCOMPARE(banco.annunci.nuovi(), (QStringList{kAiuto, QStringLiteral("vuoto"),
                                                  QStringLiteral("7"), kGiusto, kRisolta}));
-    prova::tocca(banco, somme::kMappaCifre, prova::kTastoAvanti);
+    prova::tocca(banco, somme::Tasto::Avanti);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kSeconda});
   }
 };

@@ -23,7 +23,7 @@ using prova::visibili;
 using somme::FormaBarreHK;
 using somme::FormBarre10HK;
 using somme::FormBarre20HK;
-using somme::kMappaCifre;
+using somme::Tasto;
 
 namespace {
 
@@ -75,14 +75,14 @@ class FormaBarreHKTest : public QObject {
     QVERIFY(!forma.Line1.isVisible());
     QCOMPARE(forma.TestoStampa.text(),
              QStringLiteral("\r\n     Uso delle barre - Fino al 20\r\n\r\n"));
-    tocca(banco, kMappaCifre, prova::kTastoAiuto);
+    tocca(banco, Tasto::Aiuto);
     QVERIFY(forma.Line1.isVisible());
     QVERIFY(std::abs(forma.Line1.left() - forma.n1.left() - 10 * forma.n1.height()) < 15);
     QCOMPARE(visibili(forma.aiuto1), 9);
     QCOMPARE(visibili(forma.aiuto2), 8);
     QCOMPARE(visibili(forma.aiuto3), 17);
     rispondiToccando(banco, QStringLiteral("17"));
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QVERIFY(!forma.Line1.isVisible());
     QCOMPARE(visibili(forma.aiuto3), 0);
   }
@@ -108,7 +108,7 @@ class FormaBarreHKTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QVERIFY(forma.ImgNo.isVisible());
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("8"));
-    tocca(banco, kMappaCifre, prova::kTastoCestino);
+    tocca(banco, Tasto::Cestino);
     QCOMPARE(forma.TestoInput.text(), QString());
     rispondiToccando(banco, QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -128,7 +128,7 @@ class FormaBarreHKTest : public QObject {
   void anEmptyConfirmationIsNoAnswer() {
     Banco banco;
     apri10(banco);
-    tocca(banco, kMappaCifre, prova::kTastoConferma);
+    tocca(banco, Tasto::Conferma);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QVERIFY(banco.suono.suonati.isEmpty());
   }
@@ -138,12 +138,12 @@ class FormaBarreHKTest : public QObject {
     FormBarre10HK& forma = apri10(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     toccaNumero(banco, QStringLiteral("0123456789"));
-    tocca(banco, kMappaCifre, prova::kTastoCestino);
-    tocca(banco, kMappaCifre, prova::kTastoConferma);
+    tocca(banco, Tasto::Cestino);
+    tocca(banco, Tasto::Conferma);
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     scriviCaso(banco, 10, 5, 2);
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QCOMPARE(forma.n1.caption(), QStringLiteral(" 2"));
     QVERIFY(!forma.TestoInput.isLocked());
     QCOMPARE(forma.TestoInput.text(), QString());
@@ -153,7 +153,7 @@ class FormaBarreHKTest : public QObject {
     Banco banco;
     FormBarre10HK& forma = apri10(banco);
     rispondiToccando(banco, QStringLiteral("7"));
-    tocca(banco, kMappaCifre, prova::kTastoAiuto);
+    tocca(banco, Tasto::Aiuto);
     QCOMPARE(visibili(forma.aiuto3), 7);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
   }
@@ -162,7 +162,7 @@ class FormaBarreHKTest : public QObject {
     Banco banco;
     FormBarre10HK& forma = apri10(banco);
     forma.PulsanteAiuto.setEnabled(false);
-    tocca(banco, kMappaCifre, prova::kTastoAiuto);
+    tocca(banco, Tasto::Aiuto);
     QCOMPARE(visibili(forma.aiuto3), 0);
   }
 
@@ -170,7 +170,7 @@ class FormaBarreHKTest : public QObject {
     Banco banco;
     FormBarre10HK& forma = apri10(banco);
     toccaNumero(banco, QStringLiteral("7"));
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("7"));
   }
 
@@ -178,8 +178,8 @@ class FormaBarreHKTest : public QObject {
     Banco banco;
     FormBarre10HK& forma = apri10(banco);
     forma.InterpretaSegnaleHK(forma.DecodificaSegnali(6, 12));
-    tocca(banco, kMappaCifre, 11);
-    tocca(banco, kMappaCifre, 12);
+    tocca(banco, 11);
+    tocca(banco, 12);
     QCOMPARE(forma.TestoInput.text(), QString());
     QCOMPARE(visibili(forma.aiuto3), 0);
   }
@@ -191,7 +191,7 @@ class FormaBarreHKTest : public QObject {
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("12"));
     toccaNumero(banco, QStringLiteral("3"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("123"));
-    tocca(banco, kMappaCifre, prova::kTastoConferma);
+    tocca(banco, Tasto::Conferma);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
   }
 
@@ -267,7 +267,7 @@ class FormaBarreHKTest : public QObject {
     forma.mnuStampa.click();
     bool toccato = false;
     banco.stampanti.mentreRisponde = [&] {
-      if (!std::exchange(toccato, true)) tocca(banco, kMappaCifre, prova::kTastoAvanti);
+      if (!std::exchange(toccato, true)) tocca(banco, Tasto::Avanti);
     };
     banco.clicca(forma.CommandStampa);
     QVERIFY(toccato);

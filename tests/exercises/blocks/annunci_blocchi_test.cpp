@@ -7,16 +7,13 @@ using namespace prova;
 
 namespace {
 
-constexpr int kSulFoglioDa = 2;
-constexpr int kSulFoglioU = 3;
-constexpr int kSulFoglioCambio = 6;
-constexpr int kSulFoglioConferma = 8;
+using somme::Tasto;
 
 const QString kGiusto = QStringLiteral("Giusto");
 const QString kCambio = QStringLiteral("Cambia dieci unità in una decina");
 
-void premi(Banco& banco, int tasto, int volte = 1) {
-  for (int i = 0; i < volte; ++i) tocca(banco, somme::kMappaBlocchi, tasto);
+void premi(Banco& banco, Tasto tasto, int volte = 1) {
+  for (int i = 0; i < volte; ++i) tocca(banco, tasto);
 }
 
 }  // namespace
@@ -83,15 +80,15 @@ class AnnunciBlocchiTest : public QObject {
     apriPronta<somme::FormHLUHK>(banco, somme::forme::kFormHLUHK);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
     for (const int unita : {8, 3}) {
-      premi(banco, kSulFoglioDa);
-      premi(banco, kSulFoglioU, unita);
-      premi(banco, kSulFoglioConferma);
+      premi(banco, Tasto::Decine);
+      premi(banco, Tasto::Unita, unita);
+      premi(banco, Tasto::Conferma);
     }
     const QStringList detti = banco.annunci.nuovi();
     QCOMPARE(detti.first(), QStringLiteral("1 decina"));
     QCOMPARE(detti.mid(detti.size() - 3),
              (QStringList{kGiusto, QStringLiteral("2 decine, 11 unità"), kCambio}));
-    premi(banco, kSulFoglioCambio);
+    premi(banco, Tasto::CambioUDa);
     QCOMPARE(banco.annunci.nuovi(),
              (QStringList{QStringLiteral("3 decine, 1 unità"), QStringLiteral("Giusto. Esatti 1"),
                           QStringLiteral("18 + 13 = 31")}));

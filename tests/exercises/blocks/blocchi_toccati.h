@@ -9,14 +9,14 @@
 namespace prova {
 
 // Keys of the sheet.
-inline constexpr int kH = 1;
-inline constexpr int kDa = 2;
-inline constexpr int kU = 3;
-inline constexpr int kCambioDaH = 5;
-inline constexpr int kCambioUDa = 6;
-inline constexpr int kCestino = 7;
-inline constexpr int kConferma = 8;
-inline constexpr int kAvanti = 9;
+inline constexpr auto kH = somme::Tasto::Centinaia;
+inline constexpr auto kDa = somme::Tasto::Decine;
+inline constexpr auto kU = somme::Tasto::Unita;
+inline constexpr auto kCambioDaH = somme::Tasto::CambioDaH;
+inline constexpr auto kCambioUDa = somme::Tasto::CambioUDa;
+inline constexpr auto kCestino = somme::Tasto::Cestino;
+inline constexpr auto kConferma = somme::Tasto::Conferma;
+inline constexpr auto kAvanti = somme::Tasto::Avanti;
 
 inline somme::FormLUHK& apriLU(Banco& banco, int addendo1, int addendo2) {
   banco.ambiente->stato.TipoEsercizio = kConESenzaCambio;
@@ -29,8 +29,8 @@ inline somme::FormHLUHK& apriHLU(Banco& banco, int addendo1, int addendo2) {
   return apriPronta<somme::FormHLUHK>(banco, somme::forme::kFormHLUHK);
 }
 
-inline void premi(Banco& banco, int tasto, int volte = 1) {
-  for (int i = 0; i < volte; ++i) tocca(banco, somme::kMappaBlocchi, tasto);
+inline void premi(Banco& banco, somme::Tasto tasto, int volte = 1) {
+  for (int i = 0; i < volte; ++i) tocca(banco, tasto);
 }
 inline void costruisciToccando(Banco& banco, int numero) {
   premi(banco, kH, numero / 100);

@@ -8,6 +8,7 @@ using namespace prova;
 using somme::FormaBlocchiHK;
 using somme::FormHLUHK;
 using somme::FormLUHK;
+using somme::Tasto;
 
 // The blocks by touch: what each key does and when, and the digits of the result.
 class FormaBlocchiHKTest : public QObject {
@@ -64,19 +65,19 @@ class FormaBlocchiHKTest : public QObject {
     Banco banco;
     FormLUHK& forma = apriLU(banco, 24, 13);
     banco.rete.manda("BB1");  // column 2, row 2: the first key
-    for (const int tasto : {kH, 4, kCambioDaH}) premi(banco, tasto);
+    for (const int posto : {1, 4, 5}) tocca(banco, posto);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieLU), QStringLiteral("0da 0u"));
     costruisciToccando(banco, 24);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     costruisciToccando(banco, 13);
-    for (const int tasto : {kH, 4, kCambioDaH}) premi(banco, tasto);
+    for (const int posto : {1, 4, 5}) tocca(banco, posto);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
   void theFourthKeyDoesNothingUpTo999Either() {
     Banco banco;
     FormHLUHK& forma = apriHLU(banco, 213, 45);
-    premi(banco, 4);
+    tocca(banco, 4);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieHLU), QStringLiteral("0h 0da 0u"));
     premi(banco, kH, 11);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieHLU), QStringLiteral("9h 0da 0u"));
@@ -104,7 +105,7 @@ class FormaBlocchiHKTest : public QObject {
     // Hidden with the box that holds it; its own flag says nothing of that.
     QVERIFY(!forma.PicturePulsanti.isVisible());
     QVERIFY(forma.PulsanteU.isVisible());
-    for (const int tasto : {kDa, kU, kCestino, kConferma}) premi(banco, tasto);
+    for (const Tasto tasto : {kDa, kU, kCestino, kConferma}) premi(banco, tasto);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieLU), QStringLiteral("3da 12u"));
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieLU), QStringLiteral("2da 7u"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
@@ -117,7 +118,7 @@ class FormaBlocchiHKTest : public QObject {
                                        &forma.PulsanteConferma, &forma.PulsanteAvanti}) {
       pulsante->setVisible(false);
     }
-    for (const int tasto : {kH, kDa, kU, kConferma, kAvanti}) premi(banco, tasto);
+    for (const Tasto tasto : {kH, kDa, kU, kConferma, kAvanti}) premi(banco, tasto);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieHLU), QStringLiteral("0h 0da 0u"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 213 +  45 = "));

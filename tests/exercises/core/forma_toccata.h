@@ -17,9 +17,7 @@
 namespace prova {
 
 inline constexpr std::string_view kNome = "FormDiProva";
-inline constexpr std::string_view kFoglio = somme::forme::kFormStampaLU;
-
-inline constexpr somme::TastieraHelpiKeys kTastiera{.mappa = somme::kMappaBlocchi};
+inline constexpr std::string_view kFoglio = somme::forme::kFormStampaPLU;
 
 // A touch form of the test's own: it writes down its life and its keys.
 class FormDiProva final : public somme::FormaEsercizio {
@@ -33,13 +31,9 @@ class FormDiProva final : public somme::FormaEsercizio {
   [[nodiscard]] int DecodificaSegnali(int colonna, int riga) const {
     return tocco_.DecodificaSegnali(colonna, riga);
   }
-  void InterpretaSegnale(int tasto) {
-    tasti.push_back(tasto);
-    if (alTasto) alTasto();
-  }
   using Form::newCase;
 
-  std::vector<int> tasti;
+  std::vector<somme::Tasto> tasti;
   std::function<void()> alTasto;
   int attivazioni = 0;
   int casi = 0;
@@ -56,8 +50,10 @@ class FormDiProva final : public somme::FormaEsercizio {
   }
 
  private:
-  somme::InputTocco tocco_{*this, kTastiera, ControlloConnessione, mnuStampaHK,
-                           [this](int tasto) { InterpretaSegnale(tasto); }};
+  somme::InputTocco tocco_{*this, ControlloConnessione, mnuStampaHK, [this](somme::Tasto tasto) {
+                             tasti.push_back(tasto);
+                             if (alTasto) alTasto();
+                           }};
 };
 
 inline constexpr auto kRighe = std::to_array<platform::Row>({

@@ -84,16 +84,16 @@ class AnnunciNumeriTest : public QObject {
     prova::apriPronta<somme::FormaNumeriHK>(banco, somme::forme::kFormNumeriTotaleHK);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     prova::toccaNumero(banco, QStringLiteral("12"));
-    prova::tocca(banco, somme::kMappaCifre, prova::kTastoCestino);
+    prova::tocca(banco, somme::Tasto::Cestino);
     QCOMPARE(banco.annunci.nuovi(),
              (QStringList{QStringLiteral("1"), QStringLiteral("12"), QStringLiteral("vuoto")}));
     prova::rispondiToccando(banco, QStringLiteral("8"));
     QCOMPARE(banco.annunci.nuovi(), (QStringList{QStringLiteral("8"), kSbagliato}));
-    prova::tocca(banco, somme::kMappaCifre, prova::kTastoCestino);
+    prova::tocca(banco, somme::Tasto::Cestino);
     prova::rispondiToccando(banco, QStringLiteral("7"));
     QCOMPARE(banco.annunci.nuovi(),
              (QStringList{QStringLiteral("vuoto"), QStringLiteral("7"), kGiusto, kRisolta}));
-    prova::tocca(banco, somme::kMappaCifre, prova::kTastoAvanti);
+    prova::tocca(banco, somme::Tasto::Avanti);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kSeconda});
   }
 

@@ -12,7 +12,7 @@ using prova::rispondiToccando;
 using prova::tocca;
 using prova::toccaNumero;
 using somme::FormaNumeriHK;
-using somme::kMappaCifre;
+using somme::Tasto;
 using Estrazioni = std::vector<prova::SorteDiProva::Estrazione>;
 
 namespace {
@@ -61,7 +61,7 @@ class FormaNumeriHKTest : public QObject {
   void theKeysOneToTenWriteTheDigitsNoughtToNine() {
     Banco banco;
     FormaNumeriHK& forma = apriTotale(banco);
-    for (int tasto = 1; tasto <= 10; ++tasto) tocca(banco, kMappaCifre, tasto);
+    for (int tasto = 1; tasto <= 10; ++tasto) tocca(banco, tasto);
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("0123456789"));
   }
 
@@ -107,7 +107,7 @@ class FormaNumeriHKTest : public QObject {
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 + ____ =  7"));
     rispondiToccando(banco, QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
-    tocca(banco, kMappaCifre, prova::kTastoCestino);
+    tocca(banco, Tasto::Cestino);
     rispondiToccando(banco, QStringLiteral("4"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral(" 4"));
@@ -127,7 +127,7 @@ class FormaNumeriHKTest : public QObject {
     rispondiToccando(banco, QStringLiteral("5"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("85"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(2));
-    tocca(banco, kMappaCifre, prova::kTastoCestino);
+    tocca(banco, Tasto::Cestino);
     QCOMPARE(forma.TestoInput.text(), QString());
     rispondiToccando(banco, QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -136,7 +136,7 @@ class FormaNumeriHKTest : public QObject {
   void anEmptyBoxAndATouchedNoughtAreNotJudged() {
     Banco banco;
     FormaNumeriHK& forma = apriTotale(banco);
-    tocca(banco, kMappaCifre, prova::kTastoConferma);
+    tocca(banco, Tasto::Conferma);
     rispondiToccando(banco, QStringLiteral("0"));
     rispondiToccando(banco, QStringLiteral("00"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
@@ -149,7 +149,7 @@ class FormaNumeriHKTest : public QObject {
     FormaNumeriHK& forma = apriTotale(banco, 2, {{0, 11}, {0, 11}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 0 +  0 = "));
     rispondiToccando(banco, QStringLiteral("0"));
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 0 +  0 = "));
     forma.mnuEsci.click();
@@ -161,7 +161,7 @@ class FormaNumeriHKTest : public QObject {
     FormaNumeriHK& forma = apriAddendo(banco, 3, {{0, 11}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 10 + ____ =  10"));
     rispondiToccando(banco, QStringLiteral("0"));
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 10 + ____ =  10"));
@@ -175,7 +175,7 @@ class FormaNumeriHKTest : public QObject {
     toccaNumero(banco, QStringLiteral("777"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("777"));
     forma.TestoInput.setText(QString(400, u'7'));
-    tocca(banco, kMappaCifre, prova::kTastoConferma);
+    tocca(banco, Tasto::Conferma);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QVERIFY(!banco.fine.stato);
   }
@@ -184,11 +184,11 @@ class FormaNumeriHKTest : public QObject {
     Banco banco;
     FormaNumeriHK& forma = apriTotale(banco);
     rispondiToccando(banco, QStringLiteral("7"));
-    for (int tasto = 1; tasto <= 15; ++tasto) tocca(banco, kMappaCifre, tasto);
+    for (int tasto = 1; tasto <= 15; ++tasto) tocca(banco, tasto);
     QCOMPARE(forma.TestoInput.text(), QStringLiteral(" 7"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     banco.sorte.scrivi(kQuattroPiuSei);
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 +  6 = "));
     QCOMPARE(forma.TestoInput.text(), QString());
     QVERIFY(!forma.PulsanteAvanti.isEnabled());
@@ -200,7 +200,7 @@ class FormaNumeriHKTest : public QObject {
     Banco banco;
     FormaNumeriHK& forma = apriTotale(banco);
     toccaNumero(banco, QStringLiteral("7"));
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 = "));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("7"));
   }
@@ -208,7 +208,7 @@ class FormaNumeriHKTest : public QObject {
   void theKeysElevenTwelveAndHelpDoNothing() {
     Banco banco;
     FormaNumeriHK& forma = apriTotale(banco);
-    for (const int tasto : {11, 12, prova::kTastoAiuto}) tocca(banco, kMappaCifre, tasto);
+    for (const int posto : {11, 12, 14}) tocca(banco, posto);
     QCOMPARE(forma.TestoInput.text(), QString());
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QVERIFY(banco.suono.suonati.isEmpty());
@@ -240,7 +240,7 @@ class FormaNumeriHKTest : public QObject {
     QCOMPARE(forma.TestoInput.maxLength(), 5);
     rispondiToccando(banco, QStringLiteral("9888"));
     banco.ambiente->stato.TipoEsercizio = 28;
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral("1 234 + 8 654 = "));
     QCOMPARE(forma.TestoInput.maxLength(), 5);
   }
@@ -251,7 +251,7 @@ class FormaNumeriHKTest : public QObject {
     addendo.TestoInput.setEnabled(false);
     rispondiToccando(banco, QStringLiteral("4"));
     int prima = banco.tempo.yields();
-    tocca(banco, kMappaCifre, prova::kTastoAvanti);
+    tocca(banco, Tasto::Avanti);
     QVERIFY(addendo.TestoInput.isEnabled());
     QCOMPARE(banco.tempo.yields() - prima, 1);
     Banco altro;
@@ -259,7 +259,7 @@ class FormaNumeriHKTest : public QObject {
     totale.TestoInput.setEnabled(false);
     rispondiToccando(altro, QStringLiteral("7"));
     prima = altro.tempo.yields();
-    tocca(altro, kMappaCifre, prova::kTastoAvanti);
+    tocca(altro, Tasto::Avanti);
     QVERIFY(!totale.TestoInput.isEnabled());
     QCOMPARE(altro.tempo.yields() - prima, 0);
   }

@@ -39,22 +39,35 @@ class FinestraTavolettaTest : public QObject {
     QVERIFY(scena.collega());
     for (int foglio = 0; foglio < int(kFogli.size()); ++foglio) {
       scena.finestra.Scelta().setCurrentIndex(foglio);
-      const somme::MappaTasti& mappa = kFogli[std::size_t(foglio)].mappa;
-      for (int tasto = 1; tasto <= mappa.Tasti(); ++tasto) {
+      const somme::Tastiera& tastiera = kFogli[std::size_t(foglio)].tastiera;
+      for (int tasto = 1; tasto <= tastiera.Posti(); ++tasto) {
         scena.mandati.clear();
         QTest::mouseClick(&scena.finestra.Foglio(), Qt::LeftButton, {},
                           scena.finestra.Foglio().Centro(tasto));
         QCOMPARE(scena.mandati.size(), 1);
         const QByteArray rapporto = scena.mandati[0];
         QCOMPARE(rapporto.size(), 3);
-        QCOMPARE(mappa.Tasto(rapporto[0] - 64, rapporto[1] - 64), tasto);
+        QCOMPARE(tastiera.Posto(rapporto[0] - 64, rapporto[1] - 64), tasto);
         QCOMPARE(rapporto[2], '1');
       }
     }
   }
 
-  void everyKeyHasAPlaceForItsWords() {
-    for (const auto& foglio : kFogli) QCOMPARE(int(foglio.tasti.size()), foglio.mappa.Tasti());
+  void everyKeyBearsItsWordsAndTheOthersNone() {
+    Scena scena;
+    const QStringList attese{
+        QStringLiteral("0,1,2,3,4,5,6,7,8,9,,,cestino,aiuto,conferma,avanti"),
+        QStringLiteral("h,da,u,,da → h,u → da,cestino,conferma,avanti"),
+        QStringLiteral("k,h,da,u,,h → k,da → h,u → da,,cestino,conferma,avanti"),
+    };
+    for (int foglio = 0; foglio < int(kFogli.size()); ++foglio) {
+      scena.finestra.Scelta().setCurrentIndex(foglio);
+      QStringList parole;
+      for (int posto = 1; posto <= kFogli[std::size_t(foglio)].tastiera.Posti(); ++posto) {
+        parole.append(scena.finestra.Foglio().Parola(posto));
+      }
+      QCOMPARE(parole.join(u','), attese[foglio]);
+    }
   }
 
   void theCornersOfTheSheetAreTheCornersOfTheGrid() {
