@@ -21,6 +21,7 @@ class FormaNumeriHK final : public FormaNumeri {
   platform::Button PulsanteAvanti{*this};
   platform::MenuItem mnuStampaHK{*this};
 
+  [[nodiscard]] bool HelpiKeysConnesso() const { return tocco_.HelpiKeysConnesso(); }
   // Does what the key at a place of the sheet does, 1 to 16.
   void InterpretaSegnale(int tasto) const { tocco_.InterpretaSegnale(tasto); }
 
