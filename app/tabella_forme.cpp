@@ -12,9 +12,9 @@
 #include "app/form_menu_plu.h"
 #include "app/form_menu_tabella.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/abacus/form_abaco.h"
-#include "exercises/abacus/form_abaco_hk.h"
-#include "exercises/abacus/form_abaco_scansione.h"
+#include "exercises/abacus/forma_abaco_hk.h"
+#include "exercises/abacus/forma_abaco_scansione.h"
+#include "exercises/abacus/forma_abaco_tastiera.h"
 #include "exercises/bars/form_barre10.h"
 #include "exercises/bars/form_barre10_hk.h"
 #include "exercises/bars/form_barre10_scansione.h"
@@ -130,9 +130,9 @@ constexpr auto kForme = std::to_array<SchedaForma>({
     Esercizio<FormHLU>(forme::kFormHLU, kBlocchiCentinaia),
     Esercizio<FormHLUScansione>(forme::kFormHLUScansione, kBlocchiCentinaia, Modo::Scansione),
     Esercizio<FormHLUHK>(forme::kFormHLUHK, kBlocchiCentinaia, Modo::Tocco, forme::kFormStampaPLU),
-    Esercizio<FormAbaco>(forme::kFormAbaco, kAbaco),
-    Esercizio<FormAbacoScansione>(forme::kFormAbacoScansione, kAbaco, Modo::Scansione),
-    Esercizio<FormAbacoHK>(forme::kFormAbacoHK, kAbaco, Modo::Tocco, forme::kFormStampaAbaco),
+    Esercizio<FormaAbacoTastiera>(forme::kFormAbaco, kAbaco),
+    Esercizio<FormaAbacoScansione>(forme::kFormAbacoScansione, kAbaco, Modo::Scansione),
+    Esercizio<FormaAbacoHK>(forme::kFormAbacoHK, kAbaco, Modo::Tocco, forme::kFormStampaAbaco),
     Esercizio<FormTabella>(forme::kFormTabella, kTabella),
     Foglio<FormStampaFoglioNumeri>(forme::kFormStampaFoglioNumeri),
     Foglio<FormStampaFoglioNumeri2>(forme::kFormStampaFoglioNumeri2),

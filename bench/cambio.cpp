@@ -17,7 +17,7 @@
 #include "app/shared/modulo_colori_suoni.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
-#include "exercises/abacus/form_abaco.h"
+#include "exercises/abacus/forma_abaco_tastiera.h"
 #include "immagini/immagini.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/forms/appearance.h"
@@ -78,7 +78,7 @@ class Cambio {
       cambi.push_back(cambio.muro);
       rapporti.push_back(cambio.muro / attese.muro);
       quote.push_back(cambio.processore / cambio.muro);
-      if (forma().DecineInserite != 1) std::printf("the carry was not made\n");
+      if (forma().partita().Inserite().decine != 1) std::printf("the carry was not made\n");
     }
     const QSize lato = ambiente_.fondo.window().size();
     std::printf(
@@ -90,14 +90,14 @@ class Cambio {
   }
 
  private:
-  somme::FormAbaco& forma() {
-    return *dynamic_cast<somme::FormAbaco*>(ambiente_.fondo.forms().current());
+  somme::FormaAbacoTastiera& forma() {
+    return *dynamic_cast<somme::FormaAbacoTastiera*>(ambiente_.fondo.forms().current());
   }
   // Ten units on an otherwise empty abacus, and time for what that paints.
   void metti() {
     forma().EliminaNumeroSW1();
-    for (int i = 0; i < somme::FormaAbaco::kPalline; ++i) {
-      forma().InserisciUnita(QStringLiteral("ua%1").arg(i));
+    for (int i = 0; i < somme::PartitaAbaco::kPalline; ++i) {
+      forma().Inserisci(somme::Posto::Unita, QStringLiteral("ua%1").arg(i));
     }
     QTest::qWait(200);
   }

@@ -7,8 +7,8 @@
 
 #include "app/form_menu.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/abacus/form_abaco.h"
-#include "exercises/abacus/form_abaco_scansione.h"
+#include "exercises/abacus/forma_abaco_scansione.h"
+#include "exercises/abacus/forma_abaco_tastiera.h"
 #include "exercises/bars/form_barre10.h"
 #include "exercises/bars/form_barre10_scansione.h"
 #include "exercises/bars/form_barre20.h"
@@ -138,13 +138,13 @@ void Blocchi999(Banco& banco) {
   Costruisci(banco, forma.PulsanteH, 2);
 }
 
-FormAbaco& Abaco(Banco& banco, qint16 tipo, int limite, int totale, int addendo1) {
+FormaAbacoTastiera& Abaco(Banco& banco, qint16 tipo, int limite, int totale, int addendo1) {
   banco.ambiente->stato.TipoEsercizio = tipo;
   banco.sorte.scrivi({{totale - 1, limite}, {addendo1, totale}});
-  return banco.apri<FormAbaco>(forme::kFormAbaco);
+  return banco.apri<FormaAbacoTastiera>(forme::kFormAbaco);
 }
 // Puts so many of the waiting beads of a kind onto their spike.
-void Infila(Banco& banco, FormAbaco& forma, const char* palline, int da, int quante) {
+void Infila(Banco& banco, FormaAbacoTastiera& forma, const char* palline, int da, int quante) {
   for (int i = da; i < da + quante; ++i) {
     banco.cliccaClip(forma.ShockwaveFlash1, QLatin1String(palline) + QString::number(i));
   }
@@ -224,7 +224,7 @@ void AbacoScansione(Banco& banco) {
   banco.ambiente->stato.ModalitaInput = kScansioneManuale;
   banco.ambiente->stato.TipoEsercizio = 3;
   banco.sorte.scrivi({{43 - 1, 99}, {28, 43}});
-  auto& forma = banco.apri<FormAbacoScansione>(forme::kFormAbacoScansione);
+  auto& forma = banco.apri<FormaAbacoScansione>(forme::kFormAbacoScansione);
   Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kDecine, 2);
   Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kUnita, 6);
 }

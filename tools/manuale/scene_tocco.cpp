@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/abacus/form_abaco_hk.h"
+#include "exercises/abacus/forma_abaco_hk.h"
 #include "exercises/bars/form_barre10_hk.h"
 #include "exercises/blocks/form_lu_hk.h"
 #include "exercises/numbers/forma_numeri_hk.h"
@@ -100,7 +100,7 @@ void BlocchiTocco(Banco& banco) {
 }
 
 void AbacoTocco(Banco& banco) {
-  Pronta<FormAbacoHK>(banco, forme::kFormAbacoHK, 3, {{43 - 1, 99}, {28, 43}});
+  Pronta<FormaAbacoHK>(banco, forme::kFormAbacoHK, 3, {{43 - 1, 99}, {28, 43}});
   Tocca(banco, Tasto::Decine, 2);
   Tocca(banco, Tasto::Unita, 8);
 }

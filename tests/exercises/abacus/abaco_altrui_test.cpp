@@ -110,12 +110,12 @@ class AbacoAltruiTest : public QObject {
   void aMovieThatSpeaksOfBeadsThatAreNotThereTakesNoneAndPutsNoMoreThanThereAre() {
     BancoAltrui banco(cheParlaDaSolo());
     banco.tempo.advance(100.0 / FilmatoAltrui::kFrequenza);
-    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
-    QCOMPARE(banco.forma.MigliaiaInserite, qint16(0));
+    QCOMPARE(banco.forma.partita().Inserite().unita, 0);
+    QCOMPARE(banco.forma.partita().Inserite().migliaia, 0);
     QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
     banco.tempo.advance(5);
-    QVERIFY(banco.forma.UnitaInserite <= 11);
-    QVERIFY(banco.forma.UnitaInserite >= 10);
+    QVERIFY(banco.forma.partita().Inserite().unita <= 11);
+    QVERIFY(banco.forma.partita().Inserite().unita >= 10);
     QVERIFY(banco.messaggi.mostrati.empty());
     banco.clicca(banco.forma.PulsanteCestino);
     QCOMPARE(banco.detto(), QStringLiteral("vuoto"));

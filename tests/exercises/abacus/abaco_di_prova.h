@@ -3,7 +3,7 @@
 #include <QAccessible>
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/abacus/form_abaco.h"
+#include "exercises/abacus/forma_abaco_tastiera.h"
 #include "support/banco.h"
 
 // What the tests of the abacus have in common.
@@ -12,6 +12,18 @@ namespace prova {
 inline constexpr int kAlfa = 6;
 
 inline constexpr const char* kTutti = "0 1 2 3 4 5 6 7 8 9";
+
+// The places of the abacus from the left, with the names of the movie's clips, which have a bead's
+// number behind them.
+struct Ferro {
+  somme::Posto posto;
+  const char* sulFerro;
+  const char* inAttesa;
+};
+inline constexpr Ferro kFerri[] = {{somme::Posto::Migliaia, "k", "ka"},
+                                   {somme::Posto::Centinaia, "h", "ha"},
+                                   {somme::Posto::Decine, "da", "daa"},
+                                   {somme::Posto::Unita, "u", "ua"}};
 
 // The two cross-fades of a carry, with the clock in the test's hand.
 inline constexpr double kPassoDelCambio = 0.03;  // seconds
@@ -95,7 +107,7 @@ struct BancoDellAbaco : Banco {
 };
 
 // The same with mouse and keyboard.
-struct BancoAbaco : BancoDellAbaco<somme::FormAbaco> {
+struct BancoAbaco : BancoDellAbaco<somme::FormaAbacoTastiera> {
   explicit BancoAbaco(qint16 tipo, const Caso& caso = {}, QSize lato = {760, 540})
       : BancoDellAbaco(somme::forme::kFormAbaco, tipo, caso, 0, lato) {}
 
@@ -104,7 +116,7 @@ struct BancoAbaco : BancoDellAbaco<somme::FormAbaco> {
     for (int i = primo; i < primo + quante; ++i) tocca(inAttesa, i);
   }
   // Assistive technology presses the first bead that is there by that name; false without one.
-  static bool premiPallina(const somme::FormAbaco& forma, const QString& nome) {
+  static bool premiPallina(const somme::FormaAbacoTastiera& forma, const QString& nome) {
     QAccessibleInterface* abaco =
         QAccessible::queryAccessibleInterface(forma.ShockwaveFlash1.widget());
     for (int i = 0; i < abaco->childCount(); ++i) {

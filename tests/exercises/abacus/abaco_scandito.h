@@ -1,7 +1,7 @@
 #pragma once
 
 #include "abaco_di_prova.h"
-#include "exercises/abacus/form_abaco_scansione.h"
+#include "exercises/abacus/forma_abaco_scansione.h"
 #include "support/scansione_di_prova.h"
 
 // The abacus by scanning, as a pupil with one or two keys uses it.
@@ -10,7 +10,7 @@ namespace prova {
 using Valori = somme::TastieraHDUScansione;
 using Cifre = somme::TastieraNumericaScansione;
 
-struct BancoScansione : BancoDellAbaco<somme::FormAbacoScansione> {
+struct BancoScansione : BancoDellAbaco<somme::FormaAbacoScansione> {
   explicit BancoScansione(qint16 tipo, const Caso& caso = {}, qint16 modo = 1)
       : BancoDellAbaco(somme::forme::kFormAbacoScansione, tipo, caso, modo, kFinestraPiccola) {}
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "abaco_di_prova.h"
-#include "exercises/abacus/form_abaco_hk.h"
+#include "exercises/abacus/forma_abaco_hk.h"
 #include "support/tocchi.h"
 
 // The abacus by touch, as a pupil with the sheet uses it.
 namespace prova {
 
-struct BancoHK : BancoDellAbaco<somme::FormAbacoHK> {
+struct BancoHK : BancoDellAbaco<somme::FormaAbacoHK> {
   explicit BancoHK(qint16 tipo, const Caso& caso = {})
       : BancoDellAbaco(somme::forme::kFormAbacoHK, tipo, caso, 3, kFinestraPiccola) {
     rete.manda("OK");

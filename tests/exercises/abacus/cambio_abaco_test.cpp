@@ -43,8 +43,8 @@ class CambioAbacoTest : public QObject {
   void tenUnitsBecomeATen() {
     DieciUnita banco;
     banco.cambia();
-    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
-    QCOMPARE(banco.forma.DecineInserite, qint16(1));
+    QCOMPARE(banco.forma.partita().Inserite().unita, 0);
+    QCOMPARE(banco.forma.partita().Inserite().decine, 1);
     QCOMPARE(banco.visti("u"), QString());
     QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
     QCOMPARE(banco.visti("da"), QStringLiteral("0"));
@@ -100,17 +100,17 @@ class CambioAbacoTest : public QObject {
   }
   void tensAndHundredsCarryInTheSameWay() {
     QFETCH(int, colonna);
-    const auto& da = *somme::kGeneriPalline[std::size_t(colonna)];
-    const auto& a = *somme::kGeneriPalline[std::size_t(colonna - 1)];
+    const prova::Ferro& da = prova::kFerri[colonna];
+    const prova::Ferro& a = prova::kFerri[colonna - 1];
     BancoAbaco banco(19);
-    banco.metti(da.inAttesa.data(), 10);
+    banco.metti(da.inAttesa, 10);
     banco.clicca(colonna == 2 ? banco.forma.PulsanteCambioDaH : banco.forma.PulsanteCambioHK);
-    QCOMPARE(banco.forma.*da.inserite, qint16(0));
-    QCOMPARE(banco.forma.*a.inserite, qint16(1));
-    QCOMPARE(banco.visti(da.sulFerro.data()), QString());
-    QCOMPARE(banco.visti(da.inAttesa.data()), QString::fromLatin1(kTutti));
-    QCOMPARE(banco.visti(a.sulFerro.data()), QStringLiteral("0"));
-    QVERIFY(!banco.vede(a.inAttesa.data(), 9));
+    QCOMPARE(banco.forma.partita().Inserite()[da.posto], 0);
+    QCOMPARE(banco.forma.partita().Inserite()[a.posto], 1);
+    QCOMPARE(banco.visti(da.sulFerro), QString());
+    QCOMPARE(banco.visti(da.inAttesa), QString::fromLatin1(kTutti));
+    QCOMPARE(banco.visti(a.sulFerro), QStringLiteral("0"));
+    QVERIFY(!banco.vede(a.inAttesa, 9));
   }
 
   void theTenthTenThatACarryBringsEnablesTheNextArrow() {
@@ -118,7 +118,7 @@ class CambioAbacoTest : public QObject {
     banco.metti("daa", 9);
     QVERIFY(!banco.forma.PulsanteCambioDaH.isEnabled());
     banco.cambia();
-    QCOMPARE(banco.forma.DecineInserite, qint16(10));
+    QCOMPARE(banco.forma.partita().Inserite().decine, 10);
     QVERIFY(banco.forma.PulsanteCambioDaH.isVisible());
     QVERIFY(banco.forma.PulsanteCambioDaH.isEnabled());
     banco.clicca(banco.forma.PulsanteCambioDaH);
@@ -181,7 +181,7 @@ class CambioAbacoTest : public QObject {
     QVERIFY(banco.vede("daa", 9));
     QCOMPARE(banco.alfa("daa", 9), 0);
     banco.tocca("daa", 9);
-    QCOMPARE(banco.forma.DecineInserite, qint16(1));
+    QCOMPARE(banco.forma.partita().Inserite().decine, 1);
     QCOMPARE(banco.alfa("da", 0), 100);
     banco.tocca("da", 0);
     QVERIFY(banco.vede("daa", 9));
@@ -210,8 +210,8 @@ class CambioAbacoTest : public QObject {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(tavola.isNull());
     // The form that comes next knows nothing of it.
-    auto& nuova = banco.apri<somme::FormAbaco>(somme::forme::kFormAbaco);
-    QCOMPARE(nuova.UnitaInserite, qint16(0));
+    auto& nuova = banco.apri<somme::FormaAbacoTastiera>(somme::forme::kFormAbaco);
+    QCOMPARE(nuova.partita().Inserite().unita, 0);
     QCOMPARE(prova::Banco::siVede(nuova.ShockwaveFlash1, QStringLiteral("u0")), false);
   }
 
@@ -234,15 +234,15 @@ class CambioAbacoTest : public QObject {
     banco.tempo.after(nel(passo), [&banco] {
       banco.clicca(banco.forma.PulsanteAvanti);
       QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
-      QCOMPARE(banco.forma.DecineInserite, qint16(0));
+      QCOMPARE(banco.forma.partita().Inserite().decine, 0);
     });
     const double prima = banco.tempo.secondsSinceMidnight();
     banco.cambia();
     QVERIFY(banco.tempo.secondsSinceMidnight() - prima > 2 * kPassi * kPasso - 1e-3);
     QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
     QVERIFY(banco.forma.TestoInput.TestoInput.hasFocus());
-    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
-    QCOMPARE(banco.forma.DecineInserite, qint16(1));
+    QCOMPARE(banco.forma.partita().Inserite().unita, 0);
+    QCOMPARE(banco.forma.partita().Inserite().decine, 1);
     QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
     // What the new case asks for is answered as ever.
     banco.rispondi(QStringLiteral("82"));
@@ -259,8 +259,8 @@ class CambioAbacoTest : public QObject {
       QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
     });
     banco.cambia();
-    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
-    QCOMPARE(banco.forma.DecineInserite, qint16(1));
+    QCOMPARE(banco.forma.partita().Inserite().unita, 0);
+    QCOMPARE(banco.forma.partita().Inserite().decine, 1);
     QCOMPARE(banco.visti("ua"), QString::fromLatin1(kTutti));
     QVERIFY(!banco.vede("daa", 9));
     // A spike that the bin emptied before the ten came gets it at its foot; one that it emptied
@@ -276,9 +276,9 @@ class CambioAbacoTest : public QObject {
     banco.tempo.after(nel(150), [&banco] { banco.tocca("ua", 4); });
     banco.cambia();
     QCOMPARE(banco.visti("da"), QStringLiteral("0 1"));
-    QCOMPARE(banco.forma.DecineInserite, qint16(2));
+    QCOMPARE(banco.forma.partita().Inserite().decine, 2);
     // The carry counts the units as it ends, whatever came onto the spike meanwhile.
-    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
+    QCOMPARE(banco.forma.partita().Inserite().unita, 0);
   }
 
   void aUnitTakenAwayInTheMiddleDoesNotHoldTheCarryUp() {
@@ -329,8 +329,8 @@ class CambioAbacoTest : public QObject {
     DieciUnita banco;
     banco.tempo.after(nel(50), [&banco] { banco.mostra(somme::forme::kFormAbaco); });
     banco.cambia();
-    QCOMPARE(banco.forma.UnitaInserite, qint16(0));
-    QCOMPARE(banco.forma.DecineInserite, qint16(1));
+    QCOMPARE(banco.forma.partita().Inserite().unita, 0);
+    QCOMPARE(banco.forma.partita().Inserite().decine, 1);
     QVERIFY(banco.vede("da", 0));
   }
 };

@@ -1,6 +1,8 @@
 #include "abaco_di_prova.h"
 
 using prova::BancoAbaco;
+using prova::Ferro;
+using prova::kFerri;
 
 // The abacus' movie and its form, one against the other: what each asks of the other is there.
 class FilmatoAbacoTest : public QObject {
@@ -10,7 +12,7 @@ class FilmatoAbacoTest : public QObject {
   void theMovieHasEveryClipThatTheFormNames() {
     const BancoAbaco banco(19);
     for (const char* nome : {"k", "h", "da", "u", "ka", "ha", "daa", "ua"}) {
-      for (int i = 0; i < somme::FormaAbaco::kPalline; ++i) {
+      for (int i = 0; i < somme::PartitaAbaco::kPalline; ++i) {
         const QString clip = BancoAbaco::clip(nome, i);
         QVERIFY2(
             !prova::Banco::proprieta(banco.forma.ShockwaveFlash1, clip, prova::kAlfa).isEmpty(),
@@ -25,33 +27,33 @@ class FilmatoAbacoTest : public QObject {
   void everyWaitingBeadCanBeClickedAndTellsItsKindAndItself_data() { generi(); }
   void everyWaitingBeadCanBeClickedAndTellsItsKindAndItself() {
     QFETCH(int, colonna);
-    const auto& genere = *somme::kGeneriPalline[std::size_t(colonna)];
+    const Ferro& ferro = kFerri[colonna];
     BancoAbaco banco(19);
     const int primo = colonna == 0 ? 1 : 0;
-    for (int i = primo; i < somme::FormaAbaco::kPalline; ++i) {
-      banco.tocca(genere.inAttesa.data(), i);
-      QCOMPARE(banco.forma.*genere.inserite, qint16(i + 1 - primo));
-      QVERIFY(!banco.vede(genere.inAttesa.data(), i));
-      QVERIFY(!banco.forma.PallineInAttesa[std::size_t(i)][genere.colonna]);
-      QVERIFY(banco.vede(genere.sulFerro.data(), i - primo));
+    for (int i = primo; i < somme::PartitaAbaco::kPalline; ++i) {
+      banco.tocca(ferro.inAttesa, i);
+      QCOMPARE(banco.forma.partita().Inserite()[ferro.posto], i + 1 - primo);
+      QVERIFY(!banco.vede(ferro.inAttesa, i));
+      QVERIFY(!banco.forma.partita().InAttesa(ferro.posto, i));
+      QVERIFY(banco.vede(ferro.sulFerro, i - primo));
     }
-    nientAltro(banco, genere);
+    nientAltro(banco, ferro);
   }
 
   void everyBeadOnASpikeCanBeClickedAndTellsItsKind_data() { generi(); }
   void everyBeadOnASpikeCanBeClickedAndTellsItsKind() {
     QFETCH(int, colonna);
-    const auto& genere = *somme::kGeneriPalline[std::size_t(colonna)];
+    const Ferro& ferro = kFerri[colonna];
     BancoAbaco banco(19);
     const int primo = colonna == 0 ? 1 : 0;
-    const int quante = somme::FormaAbaco::kPalline - primo;
-    banco.metti(genere.inAttesa.data(), quante, primo);
+    const int quante = somme::PartitaAbaco::kPalline - primo;
+    banco.metti(ferro.inAttesa, quante, primo);
     for (int i = quante - 1; i >= 0; --i) {
-      banco.tocca(genere.sulFerro.data(), i);
-      QCOMPARE(banco.forma.*genere.inserite, qint16(i));
-      QVERIFY(!banco.vede(genere.sulFerro.data(), i));
+      banco.tocca(ferro.sulFerro, i);
+      QCOMPARE(banco.forma.partita().Inserite()[ferro.posto], i);
+      QVERIFY(!banco.vede(ferro.sulFerro, i));
     }
-    nientAltro(banco, genere);
+    nientAltro(banco, ferro);
   }
 
   void aClickBesideTheBeadsSaysNothing() {
@@ -66,13 +68,11 @@ class FilmatoAbacoTest : public QObject {
  private:
   static void generi() {
     QTest::addColumn<int>("colonna");
-    for (int i = 0; i < 4; ++i) {
-      QTest::newRow(somme::kGeneriPalline[std::size_t(i)]->sulFerro.data()) << i;
-    }
+    for (int i = 0; i < 4; ++i) QTest::newRow(kFerri[i].sulFerro) << i;
   }
-  static void nientAltro(const BancoAbaco& banco, const somme::GenerePalline& genere) {
-    for (const somme::GenerePalline* altro : somme::kGeneriPalline) {
-      if (altro != &genere) QCOMPARE(banco.forma.*altro->inserite, qint16(0));
+  static void nientAltro(const BancoAbaco& banco, const Ferro& ferro) {
+    for (const Ferro& altro : kFerri) {
+      if (&altro != &ferro) QCOMPARE(banco.forma.partita().Inserite()[altro.posto], 0);
     }
   }
 };

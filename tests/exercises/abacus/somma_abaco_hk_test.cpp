@@ -1,7 +1,7 @@
 #include "abaco_toccato.h"
 
 using namespace prova;
-using somme::FormAbacoHK;
+using somme::FormaAbacoHK;
 using somme::Tasto;
 
 // Sums on the abacus by touch: the answer, the digits of the sum, what comes after.
@@ -11,7 +11,7 @@ class SommaAbacoHKTest : public QObject {
  private Q_SLOTS:
   void tenTensAndNoHundredAreRightForASumOfTheSameValue() {
     BancoHK banco(11, BancoHK::caso(11, 107, 100));
-    const FormAbacoHK& forma = banco.forma;
+    const FormaAbacoHK& forma = banco.forma;
     banco.tasto(Tasto::Decine, 10);
     banco.tasto(Tasto::Unita, 7);
     banco.tasto(Tasto::Conferma);
@@ -58,7 +58,7 @@ class SommaAbacoHKTest : public QObject {
 
   void aWrongAbacusIsCountedAndCanBePutRight() {
     BancoHK banco(3, BancoHK::caso(3, 12, 7));
-    const FormAbacoHK& forma = banco.forma;
+    const FormaAbacoHK& forma = banco.forma;
     banco.tasto(Tasto::Unita);
     banco.tasto(Tasto::Conferma);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -118,14 +118,14 @@ class SommaAbacoHKTest : public QObject {
     banco.sorte.scrivi(BancoHK::caso(3, 82, 47));
     banco.tempo.after(nelPasso(50), [&] {
       banco.clicca(banco.forma.PulsanteAvanti);
-      QVERIFY(!banco.forma.CambioInCorso);
+      QVERIFY(!banco.forma.partita().CambioInCorso());
       banco.tasto(Tasto::Decine, 2);
       QCOMPARE(banco.detto(), QStringLiteral("2 decine"));
     });
     banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
     QCOMPARE(banco.detto(), QStringLiteral("3 decine"));
-    QVERIFY(!banco.forma.CambioInCorso);
+    QVERIFY(!banco.forma.partita().CambioInCorso());
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 

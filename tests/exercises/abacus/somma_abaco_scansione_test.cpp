@@ -1,7 +1,7 @@
 #include "abaco_scandito.h"
 
 using namespace prova;
-using somme::FormAbacoScansione;
+using somme::FormaAbacoScansione;
 
 // Whole sums by scanning: the way to the digits, the answer, what comes after.
 class SommaAbacoScansioneTest : public QObject {
@@ -21,7 +21,7 @@ class SommaAbacoScansioneTest : public QObject {
 
   void aWholeSumByManualScanning() {
     BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
-    FormAbacoScansione& forma = banco.forma;
+    FormaAbacoScansione& forma = banco.forma;
     QVERIFY(banco.scegli(Valori::kConferma));
     QVERIFY(banco.rispondi("12"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -74,7 +74,7 @@ class SommaAbacoScansioneTest : public QObject {
 
   void aWrongSumLeavesThePupilWithTheKeys() {
     BancoScansione banco(3, BancoScansione::caso(3, 12, 7));
-    FormAbacoScansione& forma = banco.forma;
+    FormaAbacoScansione& forma = banco.forma;
     QVERIFY(banco.scegli(Valori::kConferma));
     QVERIFY(banco.rispondi("1"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -175,7 +175,7 @@ class SommaAbacoScansioneTest : public QObject {
     QCOMPARE(banco.forma.EtOperazione.mousePointer(), 99);
     banco.batti(Qt::Key_E, Qt::AltModifier);
     banco.ambiente->stato.CursoreDiSistema = true;
-    auto& forma = banco.apri<FormAbacoScansione>(somme::forme::kFormAbacoScansione);
+    auto& forma = banco.apri<FormaAbacoScansione>(somme::forme::kFormAbacoScansione);
     QCOMPARE(forma.EtOperazione.mousePointer(), 0);
   }
 };

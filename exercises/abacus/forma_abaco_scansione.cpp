@@ -1,7 +1,7 @@
-#include "exercises/abacus/form_abaco_scansione.h"
+#include "exercises/abacus/forma_abaco_scansione.h"
 
 #include "app/shared/nomi_forme.h"
-#include "cases/livelli.h"
+#include "exercises/abacus/casella_dietro.h"
 #include "exercises/abacus/disegno_abaco.h"
 #include "exercises/core/disegno_scansione.h"
 
@@ -17,11 +17,11 @@ constexpr auto kControlli = std::to_array<Row>({
     Ancora({120, 120, 8175, 5415}),
     Abaco({120, 120, 8175, 5415}),
     Operazione({120, 6720, 4815, 735}),
-    row<&FormAbacoScansione::TestoInput>({4915, 6720, 2407, 735},
-                                         {.toolTip = "Il numero scelto con la tastiera"}),
-    row<&FormAbacoScansione::LabelDimensioneTastiera>({1850, 5660, 4830, 805}, {.hidden = true}),
-    TastieraHDU<FormAbacoScansione>({1850, 5660, 4830, 805}, true),
-    TastieraNumerica<FormAbacoScansione>({100, 5660, 10660, 761}, true, kSenzaAiuto),
+    row<&FormaAbacoScansione::TestoInput>({4915, 6720, 2407, 735},
+                                          {.toolTip = "Il numero scelto con la tastiera"}),
+    row<&FormaAbacoScansione::LabelDimensioneTastiera>({1850, 5660, 4830, 805}, {.hidden = true}),
+    TastieraHDU<FormaAbacoScansione>({1850, 5660, 4830, 805}, true),
+    TastieraNumerica<FormaAbacoScansione>({100, 5660, 10660, 761}, true, kSenzaAiuto),
     Si({8940, 240, 855, 855}),
     No({8940, 240, 855, 855}),
     Esatti({8400, 1320, 2340, 375}),
@@ -34,28 +34,35 @@ constexpr FormDesign kDisegno = DisegnoAbaco(forme::kFormAbacoScansione, kTavole
 
 }  // namespace
 
-FormAbacoScansione::FormAbacoScansione(Ambiente& ambiente) : ConDueTastiere(ambiente, kDisegno) {}
-
-void FormAbacoScansione::onActivate() {
-  ApriAbaco();
-  PosaTestoInput();
-  PosaTastiere();
-  TestoInput.setVisible(true);
-  NuovoCaso();
+FormaAbacoScansione::FormaAbacoScansione(Ambiente& ambiente)
+    : FormaAbaco(ambiente, kDisegno, PartitaAbaco::Cambi::DaSe) {
+  Usa(scansione_);
+  TestoInput.onConfermato(
+      [this] { Giudica(gioco().Rispondi(TestoInput.ValoreInserito.toDouble())); });
 }
 
-void FormAbacoScansione::PosaTastiere() {
+void FormaAbacoScansione::onLoad() {
+  FormaAbaco::onLoad();
+  TestoInput.setVisible(false);
+}
+
+void FormaAbacoScansione::MostraRisposta() {
+  PosaDietro(TestoInput, EtOperazione);
+  PosaTastiere();
+  TestoInput.setVisible(true);
+}
+
+void FormaAbacoScansione::PosaTastiere() {
   PosaTastiera(TastieraHDUScansione1, LabelDimensioneTastiera);
   TastieraNumericaScansione1.setTop(TastieraHDUScansione1.top());
   TastieraNumericaScansione1.setLeft(kMargine);
   TastieraNumericaScansione1.setWidth(width() - 2 * kMargine);
-  if (const Livello* livello = LivelloDi(LivelliAbaco, stato().TipoEsercizio)) {
-    TastieraHDUScansione1.KVisibile.set(livello->gruppo == Gruppo::Entro9999);
-    TastieraHDUScansione1.HVisibile.set(livello->gruppo != Gruppo::Entro99);
-  }
+  const int tipo = stato().TipoEsercizio;
+  if (const auto k = HaPalline(tipo, Posto::Migliaia)) TastieraHDUScansione1.KVisibile.set(*k);
+  if (const auto h = HaPalline(tipo, Posto::Centinaia)) TastieraHDUScansione1.HVisibile.set(*h);
 }
 
-void FormAbacoScansione::NuovoCaso() {
+void FormaAbacoScansione::NuovoCaso() {
   newCase();
   EliminaNumeroSW1();
   TastieraNumericaScansione1.Disattiva();
@@ -65,23 +72,23 @@ void FormAbacoScansione::NuovoCaso() {
   GeneraCaso();
   TastieraHDUScansione1.setVisible(true);
   ScriviDomanda();
-  MettiModo(TastieraHDUScansione1);
+  MettiModoScansione(stato(), TastieraHDUScansione1);
   TastieraHDUScansione1.Attiva();
 }
 
-void FormAbacoScansione::TastoHDU(qint16 tasto) {
+void FormaAbacoScansione::TastoHDU(qint16 tasto) {
   switch (tasto) {
     case TastieraHDUScansione::kMigliaia:
-      InserisciMigliaio();
+      Inserisci(Posto::Migliaia);
       break;
     case TastieraHDUScansione::kCentinaia:
-      InserisciCentinaio();
+      Inserisci(Posto::Centinaia);
       break;
     case TastieraHDUScansione::kDecine:
-      InserisciDecina();
+      Inserisci(Posto::Decine);
       break;
     case TastieraHDUScansione::kUnita:
-      InserisciUnita();
+      Inserisci(Posto::Unita);
       break;
     case TastieraHDUScansione::kCestino:
       Svuota();
@@ -92,47 +99,47 @@ void FormAbacoScansione::TastoHDU(qint16 tasto) {
   }
 }
 
-void FormAbacoScansione::PassaAlleCifre() {
+void FormaAbacoScansione::PassaAlleCifre() {
   TastieraHDUScansione1.Disattiva();
   TastieraHDUScansione1.setVisible(false);
   TastieraNumericaScansione1.setVisible(true);
   TastieraNumericaScansione1.Attiva();
-  MettiModo(TastieraNumericaScansione1);
+  MettiModoScansione(stato(), TastieraNumericaScansione1);
 }
 
-void FormAbacoScansione::SvuotaInput() {
+void FormaAbacoScansione::SvuotaInput() {
   TestoInput.TestoPerInput();
   TestoInput.Text.set({});
 }
 
-void FormAbacoScansione::PallinaInserita(const GenerePalline& genere) {
-  if (&genere != &kPallineMigliaia && this->*genere.inserite == kPalline) Cambio(genere);
+void FormaAbacoScansione::Inserisci(Posto posto) {
+  if (InserisciDaTasto(posto) && gioco().CambiaDaSe(posto)) Cambio(posto);
 }
 
-void FormAbacoScansione::Cambio(const GenerePalline& da) {
-  const GenerePalline& a = Superiore(da);
+void FormaAbacoScansione::Cambio(Posto da) {
   TastieraHDUScansione1.setVisible(false);
-  if (this->*a.inserite >= kPalline) return;
-  Cambia(da, a);
-  if (&a != &kPallineMigliaia && this->*a.inserite >= kPalline) {
-    Cambio(a);
+  if (!gioco().IniziaCambio(da)) return;
+  if (const std::optional<Posto> poi = Cambia(da)) {
+    Cambio(*poi);
   } else {
     RiattivaTastiera();
   }
 }
 
-int FormAbacoScansione::PallinaPerIlCambio(const GenerePalline& genere) const {
-  const int numero = this->*genere.inserite;
-  return numero < kPalline ? numero : -1;
-}
-
-void FormAbacoScansione::RiattivaTastiera() {
+void FormaAbacoScansione::RiattivaTastiera() {
   TastieraHDUScansione1.setVisible(true);
   TastieraHDUScansione1.Attiva();
   qint16 primo = TastieraHDUScansione::kMigliaia;
   if (!TastieraHDUScansione1.KVisibile.get()) ++primo;
   if (!TastieraHDUScansione1.HVisibile.get()) ++primo;
   TastieraHDUScansione1.PulsanteCorrente.set(primo);
+}
+
+void FormaAbacoScansione::RispostaGiusta() {
+  SegnaGiusto();
+  TastieraNumericaScansione1.AttivaAvanti();
+  TestoInput.Enabled.set(false);
+  AggiungiSomma(TestoInput.TestoFormattato);
 }
 
 }  // namespace somme

@@ -1,10 +1,10 @@
 #include "abaco_scandito.h"
 
 using namespace prova;
-using somme::FormAbacoScansione;
+using somme::FormaAbacoScansione;
 
 // The keyboard of place values: beads, carries, and what happens in their middle.
-class FormAbacoScansioneTest : public QObject {
+class FormaAbacoScansioneTest : public QObject {
   Q_OBJECT
 
   // The levels by the first key that their keyboard shows.
@@ -19,7 +19,7 @@ class FormAbacoScansioneTest : public QObject {
  private Q_SLOTS:
   void itOpensWithAQuestionAnEmptyAbacusAndTheKeyboardOfPlaceValues() {
     BancoScansione banco(3, BancoScansione::caso(3, 82, 47));
-    FormAbacoScansione& forma = banco.forma;
+    FormaAbacoScansione& forma = banco.forma;
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
     QCOMPARE(forma.TestoStampa.text(), QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n"));
     QVERIFY(banco.solaSulloSchermo(banco.valori));
@@ -90,8 +90,8 @@ class FormAbacoScansioneTest : public QObject {
     QCOMPARE(banco.visti("ha"), QStringLiteral("2 3 4 5 6 7 8 9"));
     QCOMPARE(banco.visti("daa"), QStringLiteral("3 4 5 6 7 8 9"));
     QCOMPARE(banco.visti("ua"), QStringLiteral("4 5 6 7 8 9"));
-    QVERIFY(!banco.forma.PallineInAttesa[3][3]);
-    QVERIFY(banco.forma.PallineInAttesa[4][3]);
+    QVERIFY(!banco.forma.partita().InAttesa(somme::Posto::Unita, 3));
+    QVERIFY(banco.forma.partita().InAttesa(somme::Posto::Unita, 4));
     QCOMPARE(banco.detto(), QStringLiteral("1 migliaio, 2 centinaia, 3 decine, 4 unità"));
     QVERIFY(banco.suono.suonati.isEmpty());
   }
@@ -99,7 +99,7 @@ class FormAbacoScansioneTest : public QObject {
   void theNinthThousandIsTheLast() {
     BancoScansione banco(19);
     QVERIFY(banco.scegli(Valori::kMigliaia, 10));
-    QCOMPARE(banco.forma.MigliaiaInserite, qint16(9));
+    QCOMPARE(banco.forma.partita().Inserite().migliaia, 9);
     QCOMPARE(banco.visti("k"), QStringLiteral("0 1 2 3 4 5 6 7 8"));
     QCOMPARE(banco.visti("ka"), QStringLiteral("9"));
     QVERIFY(banco.solaSulloSchermo(banco.valori));
@@ -135,8 +135,8 @@ class FormAbacoScansioneTest : public QObject {
     QVERIFY(banco.scegli(Valori::kUnita, 10));
     QCOMPARE(banco.visti("da"), QStringLiteral("0 1 2"));
     QCOMPARE(banco.visti("daa"), QStringLiteral("3 4 5 6 7 8 9"));
-    QVERIFY(!banco.forma.PallineInAttesa[2][2]);
-    QVERIFY(banco.forma.PallineInAttesa[9][2]);
+    QVERIFY(!banco.forma.partita().InAttesa(somme::Posto::Decine, 2));
+    QVERIFY(banco.forma.partita().InAttesa(somme::Posto::Decine, 9));
   }
 
   void aCarryThatFillsTheNextSpikeLeadsToTheNextCarry() {
@@ -168,7 +168,7 @@ class FormAbacoScansioneTest : public QObject {
     BancoScansione banco(19);
     QVERIFY(banco.scegli(Valori::kMigliaia, 9));
     QVERIFY(banco.scegli(Valori::kCentinaia, 10));
-    QCOMPARE(banco.forma.MigliaiaInserite, qint16(10));
+    QCOMPARE(banco.forma.partita().Inserite().migliaia, 10);
     QVERIFY(banco.solaSulloSchermo(banco.valori));
     // Ten hundreds more find the thousands full.
     QVERIFY(banco.scegli(Valori::kCentinaia, 10));
@@ -179,18 +179,22 @@ class FormAbacoScansioneTest : public QObject {
 
   void aCarryOntoAFullSpikeLeavesThePupilTheMenuAlone() {
     BancoScansione banco(19);
-    banco.forma.CentinaiaInserite = 10;
-    banco.forma.DecineInserite = 10;
+    QVERIFY(banco.scegli(Valori::kMigliaia, 9));
+    QVERIFY(banco.scegli(Valori::kDecine, 9));
+    QVERIFY(banco.scegli(Valori::kCentinaia, 10));
+    // The tenth hundred finds the thousands full, and the tenth ten the hundreds.
+    QVERIFY(banco.scegli(Valori::kCentinaia, 9));
+    banco.forma.Inserisci(somme::Posto::Centinaia);
     const double prima = banco.adesso();
-    banco.forma.CambioDaH();
+    banco.forma.Inserisci(somme::Posto::Decine);
     QCOMPARE(banco.adesso(), prima);
-    QCOMPARE(banco.forma.DecineInserite, qint16(10));
+    QCOMPARE(banco.forma.partita().Inserite().decine, 10);
     QVERIFY(!banco.valori.isVisible());
     banco.tempo.advance(5);
     for (const int tasto : {Qt::Key_Space, Qt::Key_Return}) banco.batti(tasto);
     QVERIFY(!banco.valori.isVisible());
     QVERIFY(!banco.cifre.isVisible());
-    QCOMPARE(banco.forma.DecineInserite, qint16(10));
+    QCOMPARE(banco.forma.partita().Inserite().decine, 10);
     banco.batti(Qt::Key_E, Qt::AltModifier);
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
   }
@@ -276,11 +280,11 @@ class FormAbacoScansioneTest : public QObject {
     banco.tocca("u", 0);
     QCOMPARE(banco.visti("u"), QStringLiteral("0 1"));
     QVERIFY(banco.vede("ua", 5));
-    QCOMPARE(banco.forma.UnitaInserite, qint16(2));
+    QCOMPARE(banco.forma.partita().Inserite().unita, 2);
     banco.tempo.advance(0.02);
     QVERIFY(banco.valori.PictureScansione.hasFocus());
   }
 };
 
-QTEST_MAIN(FormAbacoScansioneTest)
-#include "form_abaco_scansione_test.moc"
+QTEST_MAIN(FormaAbacoScansioneTest)
+#include "forma_abaco_scansione_test.moc"

@@ -4,17 +4,17 @@
 #include "platform/forms/menu_bar.h"
 
 using namespace prova;
-using somme::FormAbacoHK;
+using somme::FormaAbacoHK;
 using somme::Tasto;
 
 // The abacus by touch: its keys, the carries, and what becomes of them when the form is left.
-class FormAbacoHKTest : public QObject {
+class FormaAbacoHKTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
   void itAsksForTheTouchesAndOpensWithAQuestionAndAnEmptyAbacus() {
     BancoHK banco(3, BancoHK::caso(3, 82, 47));
-    const FormAbacoHK& forma = banco.forma;
+    const FormaAbacoHK& forma = banco.forma;
     QCOMPARE(banco.rete.ricevuti, QByteArrayList{"02#REQ-TOUCH"});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 47 +  35 = "));
     QCOMPARE(forma.TestoStampa.text(), QStringLiteral("\r\nAbaco. Entro 99: prova\r\n\r\n"));
@@ -22,7 +22,7 @@ class FormAbacoHKTest : public QObject {
     QVERIFY(forma.PulsanteAvanti.isVisible());
     QVERIFY(!forma.PulsanteAvanti.isEnabled());
     QVERIFY(forma.PulsanteConferma.isEnabled());
-    QVERIFY(!forma.CambioInCorso);
+    QVERIFY(!forma.partita().CambioInCorso());
     QCOMPARE(banco.detto(), QStringLiteral("vuoto"));
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  0"));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  0"));
@@ -81,7 +81,7 @@ class FormAbacoHKTest : public QObject {
   void theNinthThousandIsTheLast() {
     BancoHK banco(19, BancoHK::caso(19, 9000, 4000));
     banco.tasto(Tasto::Migliaia, 10);
-    QCOMPARE(banco.forma.MigliaiaInserite, qint16(9));
+    QCOMPARE(banco.forma.partita().Inserite().migliaia, 9);
     QCOMPARE(banco.visti("ka"), QStringLiteral("9"));
     QVERIFY(banco.suono.suonati.isEmpty());
   }
@@ -102,7 +102,7 @@ class FormAbacoHKTest : public QObject {
     const double prima = banco.adesso();
     for (const Tasto tasto : {Tasto::CambioUDa, Tasto::CambioDaH, Tasto::CambioHK}) {
       banco.tasto(tasto);
-      QVERIFY(!banco.forma.CambioInCorso);
+      QVERIFY(!banco.forma.partita().CambioInCorso());
     }
     QCOMPARE(banco.adesso(), prima);
     QCOMPARE(banco.detto(), QStringLiteral("9 unità"));
@@ -128,12 +128,12 @@ class FormAbacoHKTest : public QObject {
     BancoHK banco(19, BancoHK::caso(19, 1234, 1000));
     banco.tasto(metti, 10);
     bool inCorso = false;
-    banco.tempo.after(nelPasso(150), [&] { inCorso = banco.forma.CambioInCorso; });
+    banco.tempo.after(nelPasso(150), [&] { inCorso = banco.forma.partita().CambioInCorso(); });
     const double prima = banco.adesso();
     banco.tasto(cambia);
     QVERIFY(std::abs(banco.adesso() - prima - kDurataDelCambio) < 1e-3);
     QVERIFY(inCorso);
-    QVERIFY(!banco.forma.CambioInCorso);
+    QVERIFY(!banco.forma.partita().CambioInCorso());
     QCOMPARE(banco.detto(), detto);
     // Of the next kind the highest waiting bead goes.
     QVERIFY(!banco.vede(qPrintable(attesa), 9));
@@ -164,7 +164,7 @@ class FormAbacoHKTest : public QObject {
     const double prima = banco.adesso();
     banco.tasto(Tasto::CambioUDa);
     QCOMPARE(banco.adesso(), prima);
-    QVERIFY(banco.forma.CambioInCorso);
+    QVERIFY(banco.forma.partita().CambioInCorso());
     QCOMPARE(banco.detto(), QStringLiteral("10 decine, 10 unità"));
     for (int posto = 1; posto <= 12; ++posto) banco.posto(posto);
     QCOMPARE(banco.detto(), QStringLiteral("10 decine, 10 unità"));
@@ -172,9 +172,9 @@ class FormAbacoHKTest : public QObject {
     banco.clicca(banco.forma.PulsanteConferma);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     banco.tasto(Tasto::Avanti);
-    QVERIFY(banco.forma.CambioInCorso);
+    QVERIFY(banco.forma.partita().CambioInCorso());
     banco.clicca(banco.forma.PulsanteAvanti);
-    QVERIFY(!banco.forma.CambioInCorso);
+    QVERIFY(!banco.forma.partita().CambioInCorso());
     banco.tasto(Tasto::Unita);
     QCOMPARE(banco.detto(), QStringLiteral("1 unità"));
   }
@@ -232,10 +232,10 @@ class FormAbacoHKTest : public QObject {
     QCOMPARE(banco.forma.PulsanteCestino.mousePointer(), 99);
     banco.batti(Qt::Key_E, Qt::AltModifier);
     banco.ambiente->stato.CursoreDiSistema = true;
-    auto& forma = banco.apri<FormAbacoHK>(somme::forme::kFormAbacoHK);
+    auto& forma = banco.apri<FormaAbacoHK>(somme::forme::kFormAbacoHK);
     QCOMPARE(forma.PulsanteCestino.mousePointer(), 0);
   }
 };
 
-QTEST_MAIN(FormAbacoHKTest)
-#include "form_abaco_hk_test.moc"
+QTEST_MAIN(FormaAbacoHKTest)
+#include "forma_abaco_hk_test.moc"

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "exercises/abacus/con_palline_a_tasti.h"
-#include "exercises/core/con_avanti.h"
-#include "exercises/core/con_helpikeys.h"
+#include "exercises/abacus/forma_abaco.h"
+#include "exercises/core/input_tocco.h"
 
 namespace somme {
 
@@ -10,35 +9,40 @@ namespace somme {
 // answer. Only its value counts, which may stand with ten beads on a spike; no carry is demanded.
 // The digits of the sum show once it is right.
 //
-// The mouse does the rest, and stays free while a carry goes on.
-class FormAbacoHK final : public ConHelpiKeys<ConPallineATasti<ConAvanti<FormaAbaco>>> {
+// While a carry goes on, and after one that found the next spike full, all keys are dropped. The
+// mouse does the rest, and stays free meanwhile. Kept: see docs/oddities.md.
+class FormaAbacoHK final : public FormaAbaco {
  public:
-  explicit FormAbacoHK(Ambiente& ambiente);
+  explicit FormaAbacoHK(Ambiente& ambiente);
 
+  platform::ControlArray<platform::Socket> ControlloConnessione{*this};
   platform::PictureBox Picture1{*this};  // the frame of the two buttons
   platform::Button PulsanteCestino{*this};
   platform::Button PulsanteConferma{*this};
+  platform::Button PulsanteAvanti{*this};
   // The digits of the sum, from thousands to units.
   platform::ControlArray<platform::Label> Label2{*this};
   platform::MenuItem mnuStampaHP{*this};
 
-  // True while a carry goes on, in which all keys are dropped. A carry that finds the next spike
-  // full leaves it true: then only the mouse can go on to another case. Settled.
-  bool CambioInCorso = false;
+  [[nodiscard]] bool HelpiKeysConnesso() const { return tocco_.HelpiKeysConnesso(); }
+  // Does what the key at a place of the sheet does, 1 to 12.
+  void InterpretaSegnale(int tasto) const { tocco_.InterpretaSegnale(tasto); }
 
  protected:
-  void Agisci(Tasto tasto) override;
   void onLoad() override;
-  void DopoLaRichiesta() override;
   void NuovoCaso() override;
-  void Cambio(const GenerePalline& da) override;
+  void RispostaGiusta() override;
 
  private:
+  void Agisci(Tasto tasto);
   // A bead for a sum that has such digits; else the sound of what is wrong.
-  void InserisciSeServe(int almeno, void (ConPallineATasti::*inserisci)());
+  void Inserisci(Posto posto);
+  void Cambio(Posto da);
   void ScriviCifre();
   void MostraCifre();
   void Conferma();
+
+  InputTocco tocco_;
 };
 
 }  // namespace somme

@@ -1,0 +1,16 @@
+#include "exercises/abacus/casella_dietro.h"
+
+#include "platform/base/numbers.h"
+
+namespace somme {
+
+void PosaDietro(TestoInputNumerico& casella, const platform::Label& operazione) {
+  constexpr int kSovrapposti = 20;  // twips by which the box reaches under the operation
+  casella.setTop(operazione.top());
+  casella.setLeft(operazione.left() + operazione.width() - kSovrapposti);
+  casella.setWidth(static_cast<double>(platform::roundHalfEven(operazione.width()) / 2));
+  casella.setHeight(operazione.height());
+  casella.DimensioneTesto.set(platform::toInt16(operazione.fontSize()));
+}
+
+}  // namespace somme
