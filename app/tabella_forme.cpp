@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 
 #include "app/form_avvio.h"
 #include "app/form_info.h"
@@ -11,6 +12,7 @@
 #include "app/form_menu_numeri.h"
 #include "app/form_menu_plu.h"
 #include "app/form_menu_tabella.h"
+#include "app/shared/foglio_tasti.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/forma_abaco_hk.h"
 #include "exercises/abacus/forma_abaco_scansione.h"
@@ -32,13 +34,7 @@
 #include "exercises/numbers/forma_numeri_scansione.h"
 #include "exercises/numbers/forma_numeri_tastiera.h"
 #include "exercises/table/form_tabella.h"
-#include "printing/form_stampa_abaco.h"
-#include "printing/form_stampa_foglio1.h"
-#include "printing/form_stampa_foglio4.h"
-#include "printing/form_stampa_foglio_numeri.h"
-#include "printing/form_stampa_foglio_numeri2.h"
-#include "printing/form_stampa_lu.h"
-#include "printing/form_stampa_plu.h"
+#include "printing/foglio_calibrazione.h"
 #include "printing/frm_avvia_stampa.h"
 
 namespace somme {
@@ -48,7 +44,7 @@ namespace {
 // varianti: what a class that makes several forms is to make; it gets the form's name, too.
 template <class F, const auto&... varianti>
 std::shared_ptr<platform::Form> Crea(Ambiente& ambiente, std::string_view nome) {
-  if constexpr (sizeof...(varianti) == 0) {
+  if constexpr (std::is_constructible_v<F, Ambiente&>) {
     return std::make_shared<F>(ambiente);
   } else {
     return std::make_shared<F>(ambiente, nome, varianti...);
@@ -63,9 +59,11 @@ template <class F>
 constexpr SchedaForma Menu(std::string_view nome) {
   return {nome, Crea<F>, Genere::Menu};
 }
-template <class F>
-constexpr SchedaForma Foglio(std::string_view nome, Genere genere = Genere::Foglio) {
-  return {nome, Crea<F>, genere};
+constexpr SchedaForma Foglio(std::string_view nome) {
+  return {nome, Crea<FoglioTastiera>, Genere::Foglio};
+}
+constexpr SchedaForma Calibrazione(std::string_view nome) {
+  return {nome, Crea<FoglioCalibrazione>, Genere::Calibrazione};
 }
 
 // What the forms of a family in one range have in common.
@@ -134,13 +132,13 @@ constexpr auto kForme = std::to_array<SchedaForma>({
     Esercizio<FormaAbacoScansione>(forme::kFormAbacoScansione, kAbaco, Modo::Scansione),
     Esercizio<FormaAbacoHK>(forme::kFormAbacoHK, kAbaco, Modo::Tocco, forme::kFormStampaAbaco),
     Esercizio<FormTabella>(forme::kFormTabella, kTabella),
-    Foglio<FormStampaFoglioNumeri>(forme::kFormStampaFoglioNumeri),
-    Foglio<FormStampaFoglioNumeri2>(forme::kFormStampaFoglioNumeri2),
-    Foglio<FormStampaLU>(forme::kFormStampaLU),
-    Foglio<FormStampaPLU>(forme::kFormStampaPLU),
-    Foglio<FormStampaAbaco>(forme::kFormStampaAbaco),
-    Foglio<FormStampaFoglio4>(forme::kFormStampaFoglio4, Genere::Calibrazione),
-    Foglio<FormStampaFoglio1>(forme::kFormStampaFoglio1, Genere::Calibrazione),
+    Foglio(forme::kFormStampaFoglioNumeri),
+    Foglio(forme::kFormStampaFoglioNumeri2),
+    Foglio(forme::kFormStampaLU),
+    Foglio(forme::kFormStampaPLU),
+    Foglio(forme::kFormStampaAbaco),
+    Calibrazione(forme::kFormStampaFoglio4),
+    Calibrazione(forme::kFormStampaFoglio1),
     {forme::kFrmAvviaStampa, Crea<frmAvviaStampa>, Genere::Dialogo},
 });
 
@@ -155,6 +153,9 @@ constexpr bool SiTiene(const SchedaForma& scheda) {
   if (esercizio != (scheda.portata > 0)) return false;
   if (Quante(scheda.nome) != 1 || (esercizio && Quante(scheda.menu) != 1)) return false;
   if ((scheda.modo == Modo::Tocco) == scheda.foglio.empty()) return false;
+  if (EFoglio(scheda) && std::ranges::count(kFogliTasti, scheda.nome, &FoglioTasti::nome) != 1) {
+    return false;
+  }
   return scheda.foglio.empty() || SchedaDi(kForme, scheda.foglio).genere == Genere::Foglio;
 }
 static_assert(std::ranges::all_of(kForme, SiTiene));

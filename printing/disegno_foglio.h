@@ -1,68 +1,43 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
-#include <initializer_list>
+#include <span>
+#include <vector>
 
+#include "app/shared/foglio_tasti.h"
 #include "platform/forms/design.h"
-#include "printing/foglio_tastiera.h"
+#include "printing/griglia_foglio.h"
 
-// What the designs of the keyboard sheets are made of.
-namespace somme::disegno_foglio {
+namespace somme {
 
-using platform::Align;
-using platform::Face;
-using platform::FontSpec;
-using platform::FormDesign;
-using platform::Look;
-using platform::Row;
-using platform::row;
-using platform::TwipsRect;
+// The design's grid: it divides the design evenly, and its shape is that of the 400 by 280 mm that
+// the print dialog begins with.
+inline constexpr Griglia kGrigliaDisegno{400, 292};
+inline constexpr double kLarghezzaFoglio = kGrigliaDisegno.X * kColonneGriglia;
+inline constexpr double kAltezzaFoglio = kGrigliaDisegno.Y * kRigheGriglia;
 
-// The grid divides the design evenly, and its shape is that of the 400 by 280 mm that the print
-// dialog begins with.
-inline constexpr Griglia kGriglia{400, 292};
-inline constexpr double kLarghezza = kGriglia.X * Griglia::kColonne;
-inline constexpr double kAltezza = kGriglia.Y * Griglia::kRighe;
+// The design of the form that prints a sheet, made of the sheet's row: a frame for every place,
+// hidden where no key is, and what shows the keys. The form keeps it as its first base, since its
+// other one is made of it.
+class DisegnoFoglio {
+ public:
+  // bordo: of the frames, logical pixels. altre: rows behind those of the sheet; they must outlive
+  // the form.
+  DisegnoFoglio(const FoglioTasti& foglio, int bordo, std::span<const platform::Row> altre);
+  DisegnoFoglio(const DisegnoFoglio&) = delete;
+  DisegnoFoglio& operator=(const DisegnoFoglio&) = delete;
 
-inline constexpr FontSpec kCaratteri{Face::Arial, 44, true};
+ protected:
+  ~DisegnoFoglio() = default;
 
-// The frames of a sheet; some stay hidden, because no key is there. bordo: of the edge, logical
-// pixels.
-template <std::size_t Quanti>
-constexpr std::array<Row, Quanti> Cornici(const PostiTasti& tasti,
-                                          std::initializer_list<int> nascoste = {}, int bordo = 2) {
-  std::array<Row, Quanti> righe{};
-  for (int i = 0; i < static_cast<int>(Quanti); ++i) {
-    const bool nascosta = std::find(nascoste.begin(), nascoste.end(), i) != nascoste.end();
-    righe[static_cast<std::size_t>(i)] = row<&FoglioTastiera::Shape1>(
-        i, tasti.Posto(i, kGriglia), {.hidden = nascosta, .borderWidth = bordo});
-  }
-  return righe;
-}
+  [[nodiscard]] const FoglioTasti& Foglio() const { return foglio_; }
+  [[nodiscard]] const platform::FormDesign& Disegno() const { return disegno_; }
 
-// A picture over a frame.
-template <auto Figura>
-constexpr Row Simbolo(const PostiTasti& tasti, int tasto, std::string_view disegno,
-                      std::string_view nome) {
-  return row<Figura>(tasti.Posto(tasto, kGriglia), {.toolTip = nome, .picture = disegno});
-}
+ private:
+  const FoglioTasti& foglio_;
+  std::vector<platform::Row> righe_;
+  std::array<std::span<const platform::Row>, 2> tavole_;
+  platform::FormDesign disegno_;
+};
 
-// A caption over a frame.
-template <auto Scritta>
-constexpr Row Parola(const PostiTasti& tasti, int tasto, std::string_view testo) {
-  return row<Scritta>(tasto, tasti.Posto(tasto, kGriglia),
-                      {.caption = testo, .font = kCaratteri, .align = Align::Centre});
-}
-
-constexpr FormDesign Foglio(std::string_view nome, std::string_view titolo,
-                            std::span<const std::span<const Row>> tavole) {
-  return {.name = nome,
-          .caption = titolo,
-          .width = kLarghezza,
-          .height = kAltezza,
-          .tables = tavole,
-          .keepsShape = true};
-}
-
-}  // namespace somme::disegno_foglio
+}  // namespace somme

@@ -1,24 +1,40 @@
 #include "printing/foglio_tastiera.h"
 
 #include "app/shared/nomi_forme.h"
+#include "platform/base/numbers.h"
 #include "printing/frm_avvia_stampa.h"
 
 namespace somme {
 
-FoglioTastiera::FoglioTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
-                               const PostiTasti& tasti)
-    : Forma(ambiente, disegno), tasti_(tasti) {}
+namespace {
+
+constexpr int kBordo = 2;
+
+}  // namespace
+
+FoglioTastiera::FoglioTastiera(Ambiente& ambiente, std::string_view nome)
+    : FoglioTastiera(ambiente, nome, kBordo, {}) {}
+
+FoglioTastiera::FoglioTastiera(Ambiente& ambiente, std::string_view nome, int bordo,
+                               std::span<const platform::Row> altre)
+    : DisegnoFoglio(FoglioDi(nome), bordo, altre), Forma(ambiente, Disegno()) {}
 
 void FoglioTastiera::onLoad() {
   Forma::onLoad();
+  for (const TastoPosato& tasto : Foglio().tastiera.tasti) {
+    if (ECifra(tasto.tasto)) {
+      Label1[tasto.controllo].setCaption(platform::plain(CifraDi(tasto.tasto)));
+    }
+  }
   foglioStampato_ = false;
 }
 
 void FoglioTastiera::onActivate() {
   const Griglia griglia = GrigliaDi(width(), height());
-  for (int i = 0; i < tasti_.quanti(); ++i) {
-    const platform::TwipsRect posto = tasti_.Posto(i, griglia);
-    Shape1[i].setPlace(posto.left, posto.top, posto.width, posto.height);
+  for (int posto = 1; posto <= Foglio().tastiera.Posti(); ++posto) {
+    const platform::TwipsRect cornice = PostoDi(Foglio().tastiera.CorniceDi(posto), griglia);
+    Shape1[posto - 1].setPlace(cornice.left, cornice.top, cornice.width, cornice.height);
+    PosaTasto(posto);
   }
   Disponi(griglia);
   if (foglioStampato_) {
@@ -44,15 +60,30 @@ void FoglioTastiera::Offri() {
   (void)dialogo.StampaFCPB(richiesta);
 }
 
-void FoglioTastiera::SopraIlTasto(platform::Control& controllo, int tasto) {
-  const platform::Shape& cornice = Shape1[tasto];
-  controllo.setPlace(cornice.left(), cornice.top(), cornice.width(), cornice.height());
+platform::Control& FoglioTastiera::ControlloDi(const TastoPosato& tasto) {
+  switch (ComeSiMostra(tasto.tasto)) {
+    case Mostra::Cifra:
+      return Label1[tasto.controllo];
+    case Mostra::Parola:
+      return Label3[tasto.controllo];
+    case Mostra::Disegno:
+      break;
+  }
+  return Image[tasto.controllo];
 }
 
-void FoglioTastiera::InMezzoAlTasto(platform::Control& controllo, int tasto) {
-  const platform::Shape& cornice = Shape1[tasto];
-  controllo.setLeft(cornice.left() + (cornice.width() - controllo.width()) / 2);
-  controllo.setTop(cornice.top() + (cornice.height() - controllo.height()) / 2);
+// A digit stands in the middle of its frame, as large as it is; the others take the frame's place.
+void FoglioTastiera::PosaTasto(int posto) {
+  const TastoPosato tasto = Foglio().TastoDi(posto);
+  if (tasto.tasto == Tasto::Nessuno) return;
+  platform::Control& controllo = ControlloDi(tasto);
+  const platform::Shape& cornice = Shape1[posto - 1];
+  if (ECifra(tasto.tasto)) {
+    controllo.setLeft(cornice.left() + (cornice.width() - controllo.width()) / 2);
+    controllo.setTop(cornice.top() + (cornice.height() - controllo.height()) / 2);
+  } else {
+    controllo.setPlace(cornice.left(), cornice.top(), cornice.width(), cornice.height());
+  }
 }
 
 }  // namespace somme

@@ -5,7 +5,7 @@
 #include "platform/forms/controls/image.h"
 #include "platform/forms/controls/label.h"
 #include "platform/forms/controls/shape.h"
-#include "printing/griglia_foglio.h"
+#include "printing/disegno_foglio.h"
 
 namespace somme {
 
@@ -14,30 +14,39 @@ namespace somme {
 // hands itself to the print dialog, and goes when that has gone. Whoever asked for it is activated
 // in turn.
 //
-// A sheet says where its frames stand and what lies over which of them.
-class FoglioTastiera : public Forma {
+// Which frames it has and what lies over them is said by its row (app/shared/foglio_tasti.h).
+class FoglioTastiera : private DisegnoFoglio, public Forma {
  public:
-  platform::ControlArray<platform::Shape> Shape1{*this};
+  // The sheet of a name.
+  FoglioTastiera(Ambiente& ambiente, std::string_view nome);
+
+  static constexpr int kDisegni = 6;
+
+  platform::ControlArray<platform::Shape> Shape1{*this};  // frame i is that of place i + 1
+  platform::ControlArray<platform::Label> Label1{*this};  // digits
+  platform::ControlArray<platform::Label> Label3{*this};  // other words
+  // Drawings, 1 to `kDisegni`: Image[4] bears the name Image4.
+  platform::ControlArray<platform::Image> Image{*this};
 
   // False from the Load until the print dialog has been called, true from then on.
   [[nodiscard]] bool FoglioStampato() const { return foglioStampato_; }
 
  protected:
-  FoglioTastiera(Ambiente& ambiente, const platform::FormDesign& disegno, const PostiTasti& tasti);
+  // bordo, altre: see `DisegnoFoglio`.
+  FoglioTastiera(Ambiente& ambiente, std::string_view nome, int bordo,
+                 std::span<const platform::Row> altre);
 
-  // Places what lies over the frames, which have their places already.
-  virtual void Disponi(const Griglia& griglia) = 0;
-  // Gives a picture or a caption the place of a frame, or its middle.
-  void SopraIlTasto(platform::Control& controllo, int tasto);
-  void InMezzoAlTasto(platform::Control& controllo, int tasto);
+  // Places what a sheet has beside its keys.
+  virtual void Disponi(const Griglia& /*griglia*/) {}
 
   void onLoad() override;
   void onActivate() final;
 
  private:
+  [[nodiscard]] platform::Control& ControlloDi(const TastoPosato& tasto);
+  void PosaTasto(int posto);
   void Offri();
 
-  const PostiTasti& tasti_;
   bool foglioStampato_ = false;
 };
 

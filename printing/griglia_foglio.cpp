@@ -8,7 +8,7 @@ Griglia GrigliaDi(double larghezza, double altezza) {
   const auto unita = [](double twips, int quante) {
     return static_cast<int>(platform::roundHalfEven(twips)) / quante;
   };
-  return {unita(larghezza, Griglia::kColonne), unita(altezza, Griglia::kRighe)};
+  return {unita(larghezza, kColonneGriglia), unita(altezza, kRigheGriglia)};
 }
 
 }  // namespace somme

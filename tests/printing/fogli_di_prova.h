@@ -6,31 +6,23 @@
 #include "dialogo_di_prova.h"
 #include "printing/foglio_tastiera.h"
 
-// The keyboard sheets, each with the keys that lie under it.
+// The keyboard sheets.
 namespace prova {
 
-struct Foglio {
-  std::string_view nome;
-  const somme::Tastiera& mappa;
-  const somme::PostiTasti& posti;
-  std::vector<int> nascosti;  // frames
-};
-
-inline const std::vector<Foglio>& fogli() {
-  static const std::vector<Foglio> tutti{
-      {somme::forme::kFormStampaFoglioNumeri,
-       somme::kTastieraCifre,
-       somme::posti::kCifre,
-       {10, 11}},
-      {somme::forme::kFormStampaFoglioNumeri2,
-       somme::kTastieraCifre,
-       somme::posti::kCifre,
-       {10, 11, 13}},
-      {somme::forme::kFormStampaLU, somme::kTastieraBlocchi, somme::posti::kBlocchi, {0, 3, 4}},
-      {somme::forme::kFormStampaPLU, somme::kTastieraBlocchi, somme::posti::kBlocchi, {3}},
-      {somme::forme::kFormStampaAbaco, somme::kTastieraAbaco, somme::posti::kAbaco, {4, 8}},
-  };
+// Those with keys.
+inline const std::vector<const somme::FoglioTasti*>& fogli() {
+  static const std::vector<const somme::FoglioTasti*> tutti = [] {
+    std::vector<const somme::FoglioTasti*> conTasti;
+    for (const somme::FoglioTasti& foglio : somme::kFogliTasti) {
+      if (!foglio.tastiera.tasti.empty()) conTasti.push_back(&foglio);
+    }
+    return conTasti;
+  }();
   return tutti;
+}
+// Whether no key is at the place of a frame.
+inline bool vuota(const somme::FoglioTasti& foglio, int cornice) {
+  return foglio.TastoDi(cornice + 1).tasto == somme::Tasto::Nessuno;
 }
 
 // Shows a sheet over an exercise; does something while its dialog stands open, and closes that
@@ -69,6 +61,14 @@ inline std::vector<QPointF> puntiDi(const QRectF& cornice, const QSizeF& cella) 
                                          -cella.width() / 10, -cella.height() / 10);
   return {cornice.center(), dentro.topLeft(), dentro.topRight(), dentro.bottomLeft(),
           dentro.bottomRight()};
+}
+
+// A control of a form by its name, as language files write it.
+inline const platform::Control& controlloDi(const platform::Form& forma, const QString& nome) {
+  for (const platform::Control* controllo : forma.controls()) {
+    if (controllo->name() == nome) return *controllo;
+  }
+  throw std::logic_error("no control is called " + nome.toStdString());
 }
 
 inline QRectF postoDi(const platform::Control& controllo) {

@@ -6,8 +6,8 @@
 #include "support/come_dal_menu.h"
 
 using prova::Banco;
-using prova::fogli;
-using prova::Foglio;
+using somme::FoglioTasti;
+using somme::Tasto;
 
 namespace {
 
@@ -17,19 +17,21 @@ struct Voce {
   std::string_view forma;
   std::string_view voce;  // of the menu
   std::string_view foglio;
-  int attiva;  // a frame whose key changes what the form shows
+  Tasto attivo;  // a key that changes what the form shows
 };
 
 constexpr std::array kVoci{
-    Voce{somme::forme::kFormBarre10HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri, 7},
-    Voce{somme::forme::kFormBarre20HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri, 7},
+    Voce{somme::forme::kFormBarre10HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri,
+         Tasto::Cifra7},
+    Voce{somme::forme::kFormBarre20HK, "mnuStamopaHK", somme::forme::kFormStampaFoglioNumeri,
+         Tasto::Cifra7},
     Voce{somme::forme::kFormNumeriAddendoHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2,
-         7},
+         Tasto::Cifra7},
     Voce{somme::forme::kFormNumeriTotaleHK, "mnuStampaHK", somme::forme::kFormStampaFoglioNumeri2,
-         7},
-    Voce{somme::forme::kFormLUHK, "mnuStampaHK", somme::forme::kFormStampaLU, 2},
-    Voce{somme::forme::kFormHLUHK, "mnuStampaHK", somme::forme::kFormStampaPLU, 2},
-    Voce{somme::forme::kFormAbacoHK, "mnuStampaHP", somme::forme::kFormStampaAbaco, 3},
+         Tasto::Cifra7},
+    Voce{somme::forme::kFormLUHK, "mnuStampaHK", somme::forme::kFormStampaLU, Tasto::Unita},
+    Voce{somme::forme::kFormHLUHK, "mnuStampaHK", somme::forme::kFormStampaPLU, Tasto::Unita},
+    Voce{somme::forme::kFormAbacoHK, "mnuStampaHP", somme::forme::kFormStampaAbaco, Tasto::Unita},
 };
 
 QString testo(std::string_view s) {
@@ -50,11 +52,11 @@ platform::MenuItem* voceDi(const platform::Form& forma, std::string_view nome) {
   return nullptr;
 }
 
-// Touches the middle of a frame of a sheet, wherever that frame is drawn.
-void toccaCornice(Banco& banco, const somme::PostiTasti& tasti, int cornice) {
-  const platform::TwipsRect posto = tasti.Posto(cornice, {1, 1});
-  const int colonna = int(posto.left + posto.width / 2) + 1;
-  const int riga = int(posto.top + posto.height / 2) + 1;
+// Touches the middle of the frame of a place, wherever that is drawn.
+void toccaCornice(Banco& banco, const FoglioTasti& foglio, int posto) {
+  const platform::TwipsRect cornice = somme::PostoDi(foglio.tastiera.CorniceDi(posto), {1, 1});
+  const int colonna = int(cornice.left + cornice.width / 2) + 1;
+  const int riga = int(cornice.top + cornice.height / 2) + 1;
   banco.rete.manda(QByteArray{}.append(char(64 + colonna)).append(char(64 + riga)).append('1'));
 }
 
@@ -124,18 +126,20 @@ class FogliHKTest : public QObject {
       return forma.page()->grab().toImage();
     };
     const QImage prima = ritratto();
-    const auto foglio = std::find_if(fogli().begin(), fogli().end(),
-                                     [&](const Foglio& f) { return f.nome == voce.foglio; });
-    QVERIFY(!foglio->nascosti.empty());
-    for (const int cornice : foglio->nascosti) {
-      toccaCornice(banco, foglio->posti, cornice);
+    const FoglioTasti& foglio = somme::FoglioDi(voce.foglio);
+    int vuote = 0;
+    for (int posto = 1; posto <= foglio.tastiera.Posti(); ++posto) {
+      if (!prova::vuota(foglio, posto - 1)) continue;
+      ++vuote;
+      toccaCornice(banco, foglio, posto);
       QCOMPARE(ritratto(), prima);
     }
+    QVERIFY(vuote > 0);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QVERIFY(banco.messaggi.mostrati.empty());
     // The keys beside them act.
-    toccaCornice(banco, foglio->posti, voce.attiva);
+    toccaCornice(banco, foglio, foglio.PostoDi(voce.attivo));
     QVERIFY(ritratto() != prima);
   }
 };

@@ -5,11 +5,12 @@ using prova::Cella;
 using prova::cellaDi;
 using prova::DialogoDiProva;
 using prova::fogli;
-using prova::Foglio;
 using prova::mostra;
 using prova::PdfLetto;
 using prova::postoDi;
 using prova::puntiDi;
+using prova::vuota;
+using somme::FoglioTasti;
 using somme::FoglioTastiera;
 using somme::frmAvviaStampa;
 
@@ -23,7 +24,7 @@ class FogliStampatiTest : public QObject {
     QTest::addColumn<QSize>("finestra");
     for (int i = 0; i < int(fogli().size()); ++i) {
       for (const QSize lato : {QSize(640, 480), QSize(3840, 2160)}) {
-        QTest::addRow("%s %dx%d", std::string(fogli()[size_t(i)].nome).c_str(), lato.width(),
+        QTest::addRow("%s %dx%d", std::string(fogli()[size_t(i)]->nome).c_str(), lato.width(),
                       lato.height())
             << i << lato;
       }
@@ -32,7 +33,7 @@ class FogliStampatiTest : public QObject {
   void everyPrintedFrameStandsInItsPlaceOnEveryScreen() {
     QFETCH(int, quale);
     QFETCH(QSize, finestra);
-    const Foglio& foglio = fogli()[size_t(quale)];
+    const FoglioTasti& foglio = *fogli()[size_t(quale)];
     DialogoDiProva prova(finestra);
     prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
     mostra(prova, foglio.nome, [](FoglioTastiera&, frmAvviaStampa& d) { d.cmdStampa.click(); });
@@ -45,11 +46,9 @@ class FogliStampatiTest : public QObject {
     const QSizeF cella(400.0 / 24, 280.0 / 23);
     const somme::Griglia unita{1, 1};
     double lontano = 0;
-    for (int i = 0; i < foglio.posti.quanti(); ++i) {
-      if (std::find(foglio.nascosti.begin(), foglio.nascosti.end(), i) != foglio.nascosti.end()) {
-        continue;
-      }
-      const platform::TwipsRect celle = foglio.posti.Posto(i, unita);
+    for (int i = 0; i < foglio.tastiera.Posti(); ++i) {
+      if (vuota(foglio, i)) continue;
+      const platform::TwipsRect celle = somme::PostoDi(foglio.tastiera.CorniceDi(i + 1), unita);
       const QRectF posto(celle.left * cella.width(), celle.top * cella.height(),
                          celle.width * cella.width(), celle.height * cella.height());
       // The frame and half a cell around it, which is less than the gaps.
@@ -72,15 +71,15 @@ class FogliStampatiTest : public QObject {
   void everyPrintedFrameFallsOnItsKey_data() {
     QTest::addColumn<int>("quale");
     for (int i = 0; i < int(fogli().size()); ++i) {
-      QTest::newRow(std::string(fogli()[size_t(i)].nome).c_str()) << i;
+      QTest::newRow(std::string(fogli()[size_t(i)]->nome).c_str()) << i;
     }
   }
   void everyPrintedFrameFallsOnItsKey() {
     QFETCH(int, quale);
-    const Foglio& foglio = fogli()[size_t(quale)];
+    const FoglioTasti& foglio = *fogli()[size_t(quale)];
     DialogoDiProva prova({1366, 768});
     prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
-    std::vector<QRectF> attesi(size_t(foglio.mappa.Posti()));  // millimetres
+    std::vector<QRectF> attesi(size_t(foglio.tastiera.Posti()));  // millimetres
     mostra(prova, foglio.nome, [&](FoglioTastiera& f, frmAvviaStampa& d) {
       for (int i = 0; i < f.Shape1.count(); ++i) {
         const QRectF posto = postoDi(f.Shape1[i]);
@@ -101,8 +100,7 @@ class FogliStampatiTest : public QObject {
       const QRect ritaglio(qRound(stanza.x() / mm), qRound(stanza.y() / mm),
                            qRound(stanza.width() / mm), qRound(stanza.height() / mm));
       const QImage pezzo = pagina.copy(ritaglio);
-      if (std::find(foglio.nascosti.begin(), foglio.nascosti.end(), int(i)) !=
-          foglio.nascosti.end()) {
+      if (vuota(foglio, int(i))) {
         QVERIFY2(prova::inchiostro(pezzo, kPunti).width() <= 0, qPrintable(QString::number(i)));
         continue;
       }
@@ -117,7 +115,7 @@ class FogliStampatiTest : public QObject {
                qPrintable(QString::number(i)));
       for (const QPointF& punto : puntiDi(ink, {400.0 / 24, 280.0 / 23})) {
         const Cella c = cellaDi(punto.x() / 400, punto.y() / 280);
-        QCOMPARE(foglio.mappa.Posto(c.colonna, c.riga), int(i) + 1);
+        QCOMPARE(foglio.tastiera.Posto(c.colonna, c.riga), int(i) + 1);
       }
     }
   }

@@ -4,8 +4,9 @@ import time
 
 from giocatore import BOTTONE, TESTO
 
-# Keys of the sheet of digits; a digit's key is its number and one more.
-CESTINO, AIUTO, CONFERMA, AVANTI = 13, 14, 15, 16
+# What stands on keys of the sheets.
+CESTINO, CONFERMA, AVANTI = "cestino", "conferma", "avanti"
+DA_IN_H, U_IN_DA = "da → h", "u → da"  # carries
 
 
 class Dita:
@@ -16,10 +17,11 @@ class Dita:
     def __init__(self, giocatore):
         self._albero, self._tavoletta = giocatore.albero, giocatore.tavoletta
 
-    def tocca(self, tasto, volte=1):
+    def tocca(self, segno, volte=1):
+        """Touches the key that bears these words."""
         for _ in range(volte):
             time.sleep(self.PAUSA)
-            self._tavoletta.fai(f"tasto {tasto}")
+            self._tavoletta.fai(f"segno {segno}")
             self._tavoletta.aspetta("mandato")
 
     def componi(self, numero):
@@ -27,7 +29,7 @@ class Dita:
         self.tocca(CESTINO)
         self._aspetta_scritto("")
         for i, cifra in enumerate(str(numero), 1):
-            self.tocca(int(cifra) + 1)
+            self.tocca(cifra)
             self._aspetta_scritto(str(numero)[:i])
         self.tocca(CONFERMA)
 

@@ -3,7 +3,7 @@
 import re
 import time
 
-from dita import Dita
+import dita
 from giocatore import AVANTI, BOTTONE, SCANSIONE, TOCCO, Errore, trova
 from luce import Luce
 
@@ -117,24 +117,22 @@ def abaco_scansione(giocatore):
 def abaco_tocco(giocatore):
     """By touch: a key carries ten units, and the abacus itself is the answer."""
     albero = giocatore.albero
-    tocca = Dita(giocatore).tocca
-    centinaio, decina, unita, cambio, cestino, conferma, avanti = 2, 3, 4, 8, 10, 11, 12
+    tocca = dita.Dita(giocatore).tocca
 
     def dai(numero):
-        tocca(cestino)
-        for tasto, quante in ((centinaio, numero // 100), (decina, numero // 10 % 10),
-                              (unita, numero % 10)):
-            tocca(tasto, quante)
-        tocca(conferma)
+        tocca(dita.CESTINO)
+        for segno, quante in (("h", numero // 100), ("da", numero // 10 % 10), ("u", numero % 10)):
+            tocca(segno, quante)
+        tocca(dita.CONFERMA)
 
     giocatore.tavoletta.fai("foglio abaco")
     giocatore.apri("FormAbacoHK", FAMIGLIA, LIVELLO, modo=TOCCO)
     giocatore.collega()
     a, b, _ = map(int, (t or 0 for t in giocatore.chiesta()))
-    tocca(unita, 10)
+    tocca("u", 10)
     _sull_abaco(giocatore, "10 unità")
-    tocca(cambio)
-    tocca(decina, 2)  # dropped: a carry goes on
+    tocca(dita.U_IN_DA)
+    tocca("da", 2)  # dropped: a carry goes on
     giocatore.fotografa("cambio")
     _sull_abaco(giocatore, "1 decina")
     giocatore.rispondi(a, dai, giusto=False)
@@ -146,7 +144,7 @@ def abaco_tocco(giocatore):
     giocatore.fotografa("giusto")
     bottone = albero.aspetta_oggetto(BOTTONE, AVANTI)
     albero.aspetta(f"the focus on {AVANTI!r}", lambda: bottone.ha_il_fuoco)
-    tocca(avanti)
+    tocca(dita.AVANTI)
     giocatore.chiesta()
     _sull_abaco(giocatore, "vuoto")
     giocatore.esci(FAMIGLIA)

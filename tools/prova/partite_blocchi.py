@@ -2,7 +2,7 @@
 
 import re
 
-from dita import Dita
+import dita
 from giocatore import BOTTONE, ETICHETTA, SCANSIONE, TESTO, TOCCO
 from luce import Luce
 
@@ -13,8 +13,9 @@ ENTRO_99, ENTRO_999 = "con il cambio", "con due cambi"
 SPECIE = {1: "u", 10: "da", 100: "h"}
 CONFERMA, AVANTI = "Conferma", "Avanti"
 CAMBI = {1: "Cambia dieci unità in una decina", 10: "Cambia dieci decine in un centinaio"}
-# Keys of the touch surface.
-TASTI = {"h": 1, "da": 2, "u": 3, CONFERMA: 8, CAMBI[10]: 5, CAMBI[1]: 6, AVANTI: 9}
+# What stands on keys of the sheet that bear another name on the screen.
+SEGNI = {CONFERMA: dita.CONFERMA, CAMBI[10]: dita.DA_IN_H, CAMBI[1]: dita.U_IN_DA,
+         AVANTI: dita.AVANTI}
 
 
 def cifra(numero, posto):
@@ -109,10 +110,10 @@ def con_due_tasti(giocatore, forma, posti, strada):
 
 
 def a_tocchi(giocatore, forma, posti, strada):
-    dita = Dita(giocatore)
+    tocca = dita.Dita(giocatore).tocca
 
     def scegli(nome):
-        dita.tocca(TASTI[nome])
+        tocca(SEGNI.get(nome, nome))
 
     gioco = Gioco(giocatore, posti, scegli, scegli)
     giocatore.apri(forma, MENU, strada, modo=TOCCO)

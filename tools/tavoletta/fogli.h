@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <array>
 #include <string_view>
 
@@ -19,5 +20,11 @@ inline constexpr std::array<Foglio, 3> kFogli{{
     {"blocchi", u"Piatti, lunghi, unità", kTastieraBlocchi},
     {"abaco", u"Abaco", kTastieraAbaco},
 }};
+
+// What stands on the key at a place; nothing where no exercise has a key.
+[[nodiscard]] inline QString Parola(const Foglio& foglio, int posto) {
+  const std::string_view parola = SegnoDi(foglio.tastiera.TastoDi(posto).tasto).parola;
+  return QString::fromUtf8(parola.data(), qsizetype(parola.size()));
+}
 
 }  // namespace somme::tavoletta

@@ -45,14 +45,9 @@ QPoint FoglioTavoletta::Centro(int posto) const {
   return Area(foglio_->tastiera.CelleDi(posto)).center().toPoint();
 }
 
-QString FoglioTavoletta::Parola(int posto) const {
-  const std::string_view parola = SegnoDi(foglio_->tastiera.TastoDi(posto).tasto).parola;
-  return QString::fromUtf8(parola.data(), qsizetype(parola.size()));
-}
-
 void FoglioTavoletta::DisegnaTasto(QPainter& pittore, int posto) const {
   constexpr double kAngolo = 8;
-  const QString testo = Parola(posto);
+  const QString testo = Parola(*foglio_, posto);
   const QRectF zona = Area(foglio_->tastiera.CelleDi(posto)).adjusted(2, 2, -2, -2);
   pittore.setPen(testo.isEmpty() ? QPen(kGriglia.darker(115), 1, Qt::DashLine) : QPen(kBordo, 2));
   pittore.setBrush(testo.isEmpty() ? kTastoVuoto : kTasto);

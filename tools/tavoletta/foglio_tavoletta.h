@@ -18,9 +18,8 @@ class FoglioTavoletta final : public QWidget {
   [[nodiscard]] QSize sizeHint() const override { return {720, 520}; }
   // The cell under a point, column and row from 1; the nearest one for a point outside.
   [[nodiscard]] QPoint Cella(QPointF punto) const;
-  // The middle of a place, and the words on the key there; none where no exercise has a key.
+  // The middle of a place.
   [[nodiscard]] QPoint Centro(int posto) const;
-  [[nodiscard]] QString Parola(int posto) const;
 
  Q_SIGNALS:
   void toccata(int colonna, int riga);

@@ -41,6 +41,7 @@ bool Suggeritore::Esegui(const QString& riga) {
   if (parole.isEmpty()) return true;
   const QString& ordine = parole[0];
   if (ordine == u"tasto") return Tasto(parole);
+  if (ordine == u"segno") return Segno(parole);
   if (ordine == u"cella") return Cella(parole);
   if (ordine == u"byte") return Byte(parole);
   if (ordine == u"foglio") return parole.size() == 2 && Scegli(parole[1]);
@@ -72,9 +73,23 @@ bool Suggeritore::Tasto(const QStringList& parole) {
   bool numero = false;
   const int tasto = parole.size() == 2 ? parole[1].toInt(&numero) : 0;
   if (!numero || tasto < 1 || tasto > foglio_->tastiera.Posti()) return false;
-  const auto [colonne, righe] = foglio_->tastiera.CelleDi(tasto);
-  tavoletta_.Tocca((colonne.da + colonne.a) / 2, (righe.da + righe.a) / 2);
+  Tocca(tasto);
   return true;
+}
+
+bool Suggeritore::Segno(const QStringList& parole) {
+  const QString segno = parole.sliced(1).join(u' ');
+  for (int posto = 1; !segno.isEmpty() && posto <= foglio_->tastiera.Posti(); ++posto) {
+    if (Parola(*foglio_, posto) != segno) continue;
+    Tocca(posto);
+    return true;
+  }
+  return false;
+}
+
+void Suggeritore::Tocca(int posto) {
+  const auto [colonne, righe] = foglio_->tastiera.CelleDi(posto);
+  tavoletta_.Tocca((colonne.da + colonne.a) / 2, (righe.da + righe.a) / 2);
 }
 
 bool Suggeritore::Cella(const QStringList& parole) {

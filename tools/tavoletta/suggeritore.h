@@ -12,7 +12,8 @@ namespace somme::tavoletta {
 // "collegata", "staccata", "ricevuto 02#REQ-TOUCH", "mandato 42 42 31".
 //
 //   foglio cifre|blocchi|abaco   which sheet the keys are of (the first at the start)
-//   tasto 3                      touches the middle of a key
+//   tasto 3                      touches the middle of a place of the sheet
+//   segno u → da                 touches the key that bears these words
 //   cella 2 22 [stato]           touches a cell: column, row, third character
 //   ok                           sends an "OK" of its own accord
 //   byte 4F 4B                   sends any bytes in one go
@@ -31,8 +32,12 @@ class Suggeritore {
  private:
   [[nodiscard]] bool Scegli(const QString& nome);
   [[nodiscard]] bool Tasto(const QStringList& parole);
+  [[nodiscard]] bool Segno(const QStringList& parole);
   [[nodiscard]] bool Cella(const QStringList& parole);
   [[nodiscard]] bool Byte(const QStringList& parole);
+
+  // Touches the middle of a place of the sheet, from 1.
+  void Tocca(int posto);
 
   Tavoletta& tavoletta_;
   std::function<void()> fine_;

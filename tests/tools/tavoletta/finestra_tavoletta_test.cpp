@@ -54,17 +54,16 @@ class FinestraTavolettaTest : public QObject {
   }
 
   void everyKeyBearsItsWordsAndTheOthersNone() {
-    Scena scena;
     const QStringList attese{
         QStringLiteral("0,1,2,3,4,5,6,7,8,9,,,cestino,aiuto,conferma,avanti"),
         QStringLiteral("h,da,u,,da → h,u → da,cestino,conferma,avanti"),
         QStringLiteral("k,h,da,u,,h → k,da → h,u → da,,cestino,conferma,avanti"),
     };
     for (int foglio = 0; foglio < int(kFogli.size()); ++foglio) {
-      scena.finestra.Scelta().setCurrentIndex(foglio);
+      const somme::tavoletta::Foglio& uno = kFogli[std::size_t(foglio)];
       QStringList parole;
-      for (int posto = 1; posto <= kFogli[std::size_t(foglio)].tastiera.Posti(); ++posto) {
-        parole.append(scena.finestra.Foglio().Parola(posto));
+      for (int posto = 1; posto <= uno.tastiera.Posti(); ++posto) {
+        parole.append(somme::tavoletta::Parola(uno, posto));
       }
       QCOMPARE(parole.join(u','), attese[foglio]);
     }

@@ -173,9 +173,10 @@ class TavolettaTest : public QObject {
 
   void aLineThatMakesNoSenseDoesNothing_data() {
     QTest::addColumn<QString>("riga");
-    for (const char* riga : {"tasto", "tasto 0", "tasto 17", "tasto x", "cella 2", "cella 0 1",
-                             "cella 25 1", "cella 2 24", "cella 2 2 12", "byte", "byte G1",
-                             "byte 100", "foglio", "foglio altro", "ok ok", "boh"}) {
+    for (const char* riga :
+         {"tasto", "tasto 0", "tasto 17", "tasto x", "segno", "segno 10", "segno boh", "cella 2",
+          "cella 0 1", "cella 25 1", "cella 2 24", "cella 2 2 12", "byte", "byte G1", "byte 100",
+          "foglio", "foglio altro", "ok ok", "boh"}) {
       QTest::newRow(riga) << QString::fromLatin1(riga);
     }
   }
@@ -207,6 +208,20 @@ class TavolettaTest : public QObject {
     QCOMPARE(scena.racconto.last(), QStringLiteral("mandato 54 52 31"));
     QVERIFY(scena.fa("foglio abaco"));
     QVERIFY(scena.fa("tasto 12"));
+    QCOMPARE(scena.racconto.last(), QStringLiteral("mandato 55 53 31"));
+  }
+
+  void aKeyIsAlsoTouchedByWhatStandsOnIt() {
+    Scena scena;
+    scena.apri();
+    QTRY_COMPARE(scena.racconto.count(QStringLiteral("mandato 4F 4B")), 1);
+    QVERIFY(scena.fa("segno 9"));
+    QCOMPARE(scena.racconto.last(), QStringLiteral("mandato 49 4E 31"));
+    QVERIFY(!scena.fa("segno da"));
+    QVERIFY(scena.fa("foglio abaco"));
+    QVERIFY(scena.fa("segno  u → da"));
+    QCOMPARE(scena.racconto.last(), QStringLiteral("mandato 55 4C 31"));
+    QVERIFY(scena.fa("segno avanti"));
     QCOMPARE(scena.racconto.last(), QStringLiteral("mandato 55 53 31"));
   }
 
