@@ -6,8 +6,11 @@ namespace somme {
 
 FormaNumeri::FormaNumeri(Ambiente& ambiente, std::string_view nome,
                          const EsercizioNumeri& esercizio,
-                         std::span<const std::span<const platform::Row>> tavole)
-    : FormaEsercizio(ambiente, disegno::DisegnoNumeri(nome, tavole)), esercizio_(esercizio) {}
+                         std::span<const std::span<const platform::Row>> tavole,
+                         PartitaNumeri::Zero zero)
+    : FormaEsercizio(ambiente, disegno::DisegnoNumeri(nome, tavole)),
+      esercizio_(esercizio),
+      partita_(stato(), esercizio.regole, zero) {}
 
 void FormaNumeri::onLoad() {
   FormaEsercizio::onLoad();
@@ -23,10 +26,8 @@ void FormaNumeri::IniziaAttivazione() {
   NuovoCaso();
 }
 
-const Livello* FormaNumeri::GeneraCaso() {
-  const Livello* livello = LivelloDi(esercizio_.livelli, stato().TipoEsercizio);
-  if (livello != nullptr) livello->genera(stato(), ambiente().servizi.sorte);
-  return livello;
+std::optional<qint16> FormaNumeri::GeneraCaso() {
+  return partita_.NuovoCaso(stato().TipoEsercizio, ambiente().servizi.sorte);
 }
 
 void FormaNumeri::ScriviDomanda() {
@@ -34,12 +35,10 @@ void FormaNumeri::ScriviDomanda() {
   DiciDomanda(EtOperazione.caption());
 }
 
-void FormaNumeri::Giudica(bool giusta) {
-  if (giusta) {
-    RispostaGiusta();
-  } else {
-    SegnaSbagliato();
-  }
+void FormaNumeri::Giudica(double numero) {
+  const Esito esito = partita_.Rispondi(numero);
+  if (esito == Esito::Risolto) RispostaGiusta();
+  if (esito == Esito::Sbagliato) SegnaSbagliato();
 }
 
 void FormaNumeri::ScriviConRisposta(const QString& risposta) {

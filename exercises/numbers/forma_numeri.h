@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cases/livelli.h"
 #include "exercises/core/forma_esercizio.h"
+#include "games/partita_numeri.h"
 
 namespace somme {
 
@@ -9,9 +9,8 @@ class FormaNumeri;
 
 // In what the forms that ask for the sum and those that ask for an addend differ; in nothing else.
 struct EsercizioNumeri {
-  Livelli livelli;  // of `TipoEsercizio`
+  const RegoleNumeri& regole;
   QString (FormaNumeri::*domanda)() const;
-  qint16 Caso::*cercato;  // what the answer is compared with
   // What the operation shows after a right answer that was typed or scanned, and written so.
   QString (FormaNumeri::*risolta)(const QString& risposta) const;
   // Where the answer is typed, the two last steps of a right one in their order: the box is
@@ -22,13 +21,14 @@ struct EsercizioNumeri {
   enum class InizioHK { AbilitaCasella, Subito } inizioHK;
 };
 
-// The number exercises: an operation with one number to find, at the level that the menu chose. How
-// the answer comes is left to the forms.
+// The number exercises: an operation with one number to find, at the level that the menu chose. The
+// rules are the game's; how the answer comes is left to the forms.
 class FormaNumeri : public FormaEsercizio {
  public:
   // nome: the form's name in the table of forms; tavole: its design's rows.
   FormaNumeri(Ambiente& ambiente, std::string_view nome, const EsercizioNumeri& esercizio,
-              std::span<const std::span<const platform::Row>> tavole);
+              std::span<const std::span<const platform::Row>> tavole,
+              PartitaNumeri::Zero zero = PartitaNumeri::Zero::SiGiudica);
 
   platform::Label EtOperazione{*this};
 
@@ -44,12 +44,13 @@ class FormaNumeri : public FormaEsercizio {
   // Between the record's heading, with a yield, and the first case of an activation.
   virtual void MostraRisposta() {}
 
-  // Draws a case of the level; the level, or null for a `TipoEsercizio` without one, which leaves
-  // the case as it was.
-  const Livello* GeneraCaso();
+  [[nodiscard]] const PartitaNumeri& partita() const { return partita_; }
+  // Draws a case of the level: how many digits its answer may have; none for a `TipoEsercizio`
+  // without one, which leaves the case as it was.
+  std::optional<qint16> GeneraCaso();
   void ScriviDomanda();
-  [[nodiscard]] qint16 Cercato() const { return stato().*esercizio_.cercato; }
-  void Giudica(bool giusta);
+  // Judges an answer and shows what became of it.
+  void Giudica(double numero);
   virtual void RispostaGiusta() = 0;
   // The solved operation, on the form and in the record.
   void ScriviRisolta(const QString& operazione);
@@ -59,21 +60,20 @@ class FormaNumeri : public FormaEsercizio {
 
  private:
   const EsercizioNumeri& esercizio_;
+  PartitaNumeri partita_;
 };
 
 // The sum is to be found, or the second addend.
 inline constexpr EsercizioNumeri kTrovaTotale{
-    .livelli = LivelliNumeriTotale,
+    .regole = kRegoleTotale,
     .domanda = &FormaNumeri::ChiediTotale,
-    .cercato = &Caso::Totale,
     .risolta = &FormaNumeri::AccodaRisposta,
     .finale = EsercizioNumeri::Finale::DisabilitaPoiFuoco,
     .inizioHK = EsercizioNumeri::InizioHK::Subito,
 };
 inline constexpr EsercizioNumeri kTrovaAddendo{
-    .livelli = LivelliNumeriAddendo,
+    .regole = kRegoleAddendo,
     .domanda = &FormaNumeri::ChiediAddendo,
-    .cercato = &Caso::Addendo2,
     .risolta = &FormaNumeri::RicomponiSomma,
     .finale = EsercizioNumeri::Finale::FuocoPoiDisabilita,
     .inizioHK = EsercizioNumeri::InizioHK::AbilitaCasella,

@@ -31,8 +31,8 @@ constexpr std::array<std::span<const Row>, 5> kTavole{kDomandaNumeri, kCasella, 
 
 FormaNumeriHK::FormaNumeriHK(Ambiente& ambiente, std::string_view nome,
                              const EsercizioNumeri& esercizio)
-    : FormaNumeri(ambiente, nome, esercizio, kTavole),
-      tasti_(*this, CifreIn(TestoInput, {.conferma = [this] { Conferma(); },
+    : FormaNumeri(ambiente, nome, esercizio, kTavole, PartitaNumeri::Zero::NonSiGiudica),
+      tasti_(*this, CifreIn(TestoInput, {.conferma = [this] { Giudica(Scritto()); },
                                          .avanti = [this] { NuovoCaso(); }})),
       tocco_(*this, ControlloConnessione, mnuStampaHK, [this](Tasto tasto) { Agisci(tasto); }) {
   Usa(tocco_);
@@ -40,8 +40,7 @@ FormaNumeriHK::FormaNumeriHK(Ambiente& ambiente, std::string_view nome,
 }
 
 void FormaNumeriHK::Agisci(Tasto tasto) {
-  const bool risolto = PulsanteAvanti.isEnabled();
-  AgisciSulleCifre(tasti_, tasto, !risolto, risolto);
+  AgisciSulleCifre(tasti_, tasto, partita().SiRisponde(), partita().SiVaAvanti());
 }
 
 void FormaNumeriHK::onLoad() {
@@ -57,16 +56,12 @@ void FormaNumeriHK::NuovoCaso() {
   }
   PulsanteAvanti.setEnabled(false);
   TestoInput.setText({});
-  if (const Livello* livello = GeneraCaso()) TestoInput.setMaxLength(livello->cifre);
+  if (const auto cifre = GeneraCaso()) TestoInput.setMaxLength(*cifre);
   ScriviDomanda();
 }
 
 double FormaNumeriHK::Scritto() const {
   return platform::leadingNumber(TestoInput.text());
-}
-
-void FormaNumeriHK::Conferma() {
-  if (Scritto() != 0) Giudica(Scritto() == Cercato());
 }
 
 void FormaNumeriHK::RispostaGiusta() {

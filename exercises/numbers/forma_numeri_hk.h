@@ -32,7 +32,6 @@ class FormaNumeriHK final : public FormaNumeri {
 
  private:
   void Agisci(Tasto tasto);
-  void Conferma();
   [[nodiscard]] double Scritto() const;
 
   TastiCifre tasti_;

@@ -30,7 +30,7 @@ FormaNumeriScansione::FormaNumeriScansione(Ambiente& ambiente, std::string_view 
                                            const EsercizioNumeri& esercizio)
     : FormaNumeri(ambiente, nome, esercizio, kTavole) {
   Usa(scansione_);
-  TestoInput.onConfermato([this] { Giudica(TestoInput.ValoreInserito == Cercato()); });
+  TestoInput.onConfermato([this] { Giudica(TestoInput.ValoreInserito.toDouble()); });
 }
 
 void FormaNumeriScansione::onLoad() {
@@ -47,7 +47,7 @@ void FormaNumeriScansione::MostraRisposta() {
 void FormaNumeriScansione::NuovoCaso() {
   newCase();
   TestoInput.Reimposta();
-  if (const Livello* livello = GeneraCaso()) TestoInput.MaxLength.set(livello->cifre);
+  if (const auto cifre = GeneraCaso()) TestoInput.MaxLength.set(*cifre);
   ScriviDomanda();
   TastieraNumericaScansione1.Attiva();
   MettiModoScansione(stato(), TastieraNumericaScansione1);

@@ -26,7 +26,7 @@ constexpr std::array<std::span<const Row>, 4> kTavole{kDomandaNumeri, kCasella, 
 FormaNumeriTastiera::FormaNumeriTastiera(Ambiente& ambiente, std::string_view nome,
                                          const EsercizioNumeri& esercizio)
     : FormaNumeri(ambiente, nome, esercizio, kTavole) {
-  TestoInput.onConfermato([this] { Giudica(TestoInput.ValoreInserito == Cercato()); });
+  TestoInput.onConfermato([this] { Giudica(TestoInput.ValoreInserito.toDouble()); });
   PulsanteAvanti.onClick([this] { NuovoCaso(); });
 }
 
@@ -42,7 +42,7 @@ void FormaNumeriTastiera::NuovoCaso() {
   letEventsRun();
   PulsanteAvanti.setEnabled(false);
   TestoInput.Reimposta();
-  if (const Livello* livello = GeneraCaso()) TestoInput.MaxLength.set(livello->cifre);
+  if (const auto cifre = GeneraCaso()) TestoInput.MaxLength.set(*cifre);
   ScriviDomanda();
   TestoInput.setFocus();
 }
