@@ -1,5 +1,7 @@
 #include "games/partita_abaco.h"
 
+#include <algorithm>
+
 namespace somme {
 
 PartitaAbaco::PartitaAbaco(Caso& caso, Cambi cambi) : caso_(caso), cambi_(cambi) {}
@@ -24,11 +26,11 @@ bool& PartitaAbaco::Attesa(Posto posto, int numero) {
 }
 
 void PartitaAbaco::AttivaFreccia(Posto da, bool attiva) {
-  if (da != Posto::Migliaia) frecce_[static_cast<std::size_t>(da)] = attiva;
+  frecceAttive_[static_cast<std::size_t>(da)] = attiva;
 }
 
 bool PartitaAbaco::FrecciaAttiva(Posto da) const {
-  return da != Posto::Migliaia && frecce_[static_cast<std::size_t>(da)];
+  return da != Posto::Migliaia && frecceAttive_[static_cast<std::size_t>(da)];
 }
 
 std::optional<int> PartitaAbaco::Inserisci(Posto posto, int inAttesa) {
@@ -43,12 +45,12 @@ std::optional<int> PartitaAbaco::Inserisci(Posto posto, int inAttesa) {
 std::optional<PartitaAbaco::Tolta> PartitaAbaco::Rimuovi(Posto posto) {
   int& inserite = inserite_[posto];
   if (inserite == 0) return std::nullopt;
-  int libera = 0;  // the first place beside the spike that has no bead
-  while (libera < kPalline && InAttesa(posto, libera)) ++libera;
   Tolta tolta{.dalFerro = --inserite, .inAttesa = {}};
-  if (libera < kPalline) {
-    Attesa(posto, libera) = true;
-    tolta.inAttesa = libera;
+  auto& posti = inAttesa_[static_cast<std::size_t>(posto)];
+  const auto libero = std::ranges::find(posti, false);
+  if (libero != posti.end()) {
+    *libero = true;
+    tolta.inAttesa = static_cast<int>(libero - posti.begin());
   }
   if (inserite < kPalline) AttivaFreccia(posto, false);
   return tolta;

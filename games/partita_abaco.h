@@ -126,7 +126,7 @@ class PartitaAbaco {
   Fase fase_ = Fase::NessunCaso;
   Quantita inserite_;
   std::array<std::array<bool, kPalline>, kPosti> inAttesa_{};
-  PerFreccia frecce_{};
+  std::array<bool, kPosti> frecceAttive_{};  // the thousands' is never asked for
   bool cambioInCorso_ = false;
 };
 

@@ -30,7 +30,7 @@ bool PartitaBarre::NuovoCaso(int tipo, int limite, platform::Chance& sorte) {
 
 void PartitaBarre::Apri() {
   fase_ = Fase::Domanda;
-  sbagliati_.clear();
+  scelti_.clear();
 }
 
 void PartitaBarre::ChiediTotale(int limite, platform::Chance& sorte) {
@@ -72,14 +72,13 @@ Esito PartitaBarre::Rispondi(std::optional<double> numero) {
 }
 
 bool PartitaBarre::SiPuoScegliere(int numero) const {
-  return fase_ == Fase::Domanda && std::ranges::find(sbagliati_, numero) == sbagliati_.end();
+  return fase_ == Fase::Domanda && std::ranges::find(scelti_, numero) == scelti_.end();
 }
 
 Esito PartitaBarre::Scegli(int numero) {
   if (!SiPuoScegliere(numero)) return Esito::Ignorato;
-  const Esito esito = Rispondi(numero);
-  if (esito == Esito::Sbagliato) sbagliati_.push_back(numero);
-  return esito;
+  scelti_.push_back(numero);
+  return Rispondi(numero);
 }
 
 }  // namespace somme

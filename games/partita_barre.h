@@ -73,7 +73,7 @@ class PartitaBarre {
   Fase fase_ = Fase::NessunCaso;
   std::optional<Termine> chiesto_;
   qint16 atteso_ = 0;
-  std::vector<int> sbagliati_;  // chosen in this case
+  std::vector<int> scelti_;  // in this case
 };
 
 }  // namespace somme

@@ -84,6 +84,11 @@ class CasiTabellaTest : public QObject {
     QCOMPARE(estrai(5, {{89, 90}, {9, 10}}), (CasoTabella{89, 9, false, 98}));
   }
 
+  void addingTensAddsUpToNinety() {
+    QCOMPARE(estrai(6, {{5, 90}, {9, 10}}), (CasoTabella{5, 90, false, 95}));
+    QCOMPARE(estrai(6, {{5, 90}, {0, 10}}), (CasoTabella{5, 0, false, 5}));
+  }
+
   void addingTensDrawsBothAgainWhenTheTableIsLeft() {
     QCOMPARE(estrai(6, {{89, 90}, {0, 10}}), (CasoTabella{89, 0, false, 89}));
     QCOMPARE(estrai(6, {{89, 90}, {2, 10}, {88, 90}, {9, 10}, {5, 90}, {3, 10}}),
@@ -104,6 +109,7 @@ class CasiTabellaTest : public QObject {
   void sumsDrawBothAgainWhenTheTableIsLeft() {
     QCOMPARE(estrai(10, {{98, 99}, {2, 99}, {3, 99}, {4, 99}}), (CasoTabella{3, 4, false, 7}));
     QCOMPARE(estrai(10, {{98, 99}, {1, 99}}), (CasoTabella{98, 1, false, 99}));
+    QCOMPARE(estrai(10, {{1, 99}, {98, 99}}), (CasoTabella{1, 98, false, 99}));
   }
 
   void differencesTakeAwayLessThanThereIs() {

@@ -87,8 +87,10 @@ class PartitaAbacoTest : public QObject {
     QCOMPARE(gioco.partita.Rimuovi(Posto::Unita)->inAttesa, 7);
   }
 
-  void theLastPlaceOfTheTenIsFilledToo() {
+  void theFirstAndTheLastPlaceOfTheTenAreFilledToo() {
     ConFrecce gioco;
+    gioco.partita.Inserisci(Posto::Unita, 0);
+    QCOMPARE(gioco.partita.Rimuovi(Posto::Unita)->inAttesa, 0);
     gioco.partita.Inserisci(Posto::Unita, 9);
     QCOMPARE(gioco.partita.Rimuovi(Posto::Unita)->inAttesa, 9);
     QCOMPARE(gioco.inAttesa(Posto::Unita), QStringLiteral("0123456789"));

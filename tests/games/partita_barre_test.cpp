@@ -68,6 +68,16 @@ class PartitaBarreTest : public QObject {
     QCOMPARE(gioco.partita.Chiesto(), Termine::Primo);
   }
 
+  void chanceIsEvenBetweenTheTotalAndAnAddendAndBetweenTheAddends() {
+    Gioco gioco;
+    gioco.chiedi(kTrovaUna, {{49, 100}}, 3, 5);
+    QCOMPARE(gioco.partita.Chiesto(), Termine::Totale);
+    gioco.chiedi(kTrovaUna, {{50, 100}, {49, 100}}, 3, 5);
+    QCOMPARE(gioco.partita.Chiesto(), Termine::Secondo);
+    gioco.chiedi(kTrovaUna, {{50, 100}, {50, 100}}, 3, 5);
+    QCOMPARE(gioco.partita.Chiesto(), Termine::Primo);
+  }
+
   void sumsGoFromOneToTheLimitAndTheSecondAddendIsNeverZero() {
     Gioco gioco;
     ScriptedChance minima({{0, 20}, {0, 1}});
