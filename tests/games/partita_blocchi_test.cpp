@@ -155,6 +155,7 @@ class PartitaBlocchiTest : public QObject {
     QVERIFY(!gioco.partita.Svuota());
     QCOMPARE(gioco.partita.Conferma(), Esito::Ignorato);
     QCOMPARE(gioco.partita.fase(), Fase::Unione);
+    QCOMPARE(gioco.partita.Su(Tavola::Prima), (Quantita{.decine = 2, .unita = 4}));
     QCOMPARE(gioco.partita.Su(Tavola::Seconda), (Quantita{.decine = 1, .unita = 3}));
   }
 
