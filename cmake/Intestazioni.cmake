@@ -4,7 +4,7 @@
 set(SOMME_COMPILED_HEADERS "" CACHE STRING "Who reads the common headers once: TESTS, ALL or nobody")
 
 # What Qt tells each program alone; nothing asks for it, and it would make one's headers no other's.
-set(SOMME_ALIKE -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR)
+set(SOMME_ALIKE -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR -UQT_NETWORK_LIB)
 
 # A set of headers, for targets that link at least what the set links.
 #

@@ -35,7 +35,7 @@ if(SOMME_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
-# The tests are some hundred and fifty programs: a fast linker where there is one.
+# Each program of tests is linked anew after a change: a fast linker where there is one.
 if(BUILD_TESTING)
   include(CheckLinkerFlag)
   check_linker_flag(CXX -fuse-ld=mold SOMME_MOLD)

@@ -36,38 +36,71 @@ function(somme_room name)
   endif()
 endfunction()
 
-# Tests: for each name one program made of <name>_test.cpp in the calling folder, known to ctest as
-# folder/name. Tests run without a display unless they say otherwise. The presets run tests of a weight
-# of four at once: two of these, which keep a core busy each, or four that mostly wait for a window.
+# Tests: the classes of a folder make one program, test_<folder>, of the files <name>_test.cpp beside the
+# caller and of SOURCES. ctest runs each class in a process of its own, as folder/name. Tests run
+# without a display unless they say otherwise. The presets run tests of a weight of four at once: two of
+# these, which keep a core busy each, or four that mostly wait for a window.
+#
+# Classes that may not share a program with their neighbours, for what they link, say APART <word>: theirs
+# is test_<folder>_<word>.
 #
 #   somme_tests(FOLDER platform/base LINKS somme::platform_base NAMES numbers profile_file)
 function(somme_tests)
-  cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "LINKS;NAMES" ${ARGN})
+  cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT;APART" "LINKS;NAMES;SOURCES" ${ARGN})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
   endif()
-  string(REPLACE "/" "_" prefix "${ARG_FOLDER}")
+  string(REPLACE "/" "_" target "test_${ARG_FOLDER}")
+  if(ARG_APART)
+    string(APPEND target "_${ARG_APART}")
+  endif()
+  add_executable(${target} ${ARG_SOURCES})
+  target_link_libraries(${target} PRIVATE ${ARG_LINKS} somme_classi_di_prova)
+  set_target_properties(${target} PROPERTIES AUTOMOC OFF)
+  somme_tests_compilation(${target} "${ARG_LINKS}")
+  somme_every_test_is_named("${ARG_NAMES}")
+  target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
   foreach(name IN LISTS ARG_NAMES)
-    set(target "test_${prefix}_${name}")
-    add_executable(${target} ${name}_test.cpp)
-    target_link_libraries(${target} PRIVATE ${ARG_LINKS} Qt6::Test)
-    # One command, where AUTOMOC would run two programs and compile an empty file for each test.
-    set_target_properties(${target} PROPERTIES AUTOMOC OFF)
-    qt6_generate_moc(${name}_test.cpp "${CMAKE_CURRENT_BINARY_DIR}/${name}_test.moc" TARGET ${target})
-    target_sources(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${name}_test.moc")
-    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
-    if(ARG_LINKS MATCHES "somme::platform_flash")
-      somme_compiled_headers(${target} finestre_intestazioni)
-    else()
-      target_compile_options(${target} PRIVATE ${SOMME_TESTS_OPTIONS})
-      # The network's tests take other headers of Qt's own.
-      if(ARG_LINKS MATCHES "somme_prova|somme_stage" AND NOT ARG_LINKS MATCHES "Network|tavoletta")
-        somme_compiled_headers(${target} prova_intestazioni)
-      endif()
-    endif()
-    add_test(NAME "${ARG_FOLDER}/${name}" COMMAND ${target})
+    # A test's class stands whole in its own file: moc need not look into what that includes, as it
+    # would if AUTOMOC ran it. It reads no raw string with a # in it: then the class has no vtable.
+    add_custom_command(OUTPUT ${name}_test.moc
+      COMMAND Qt6::moc "${CMAKE_CURRENT_SOURCE_DIR}/${name}_test.cpp" -o ${name}_test.moc
+      DEPENDS ${name}_test.cpp VERBATIM)
+    target_sources(${target} PRIVATE ${name}_test.cpp "${CMAKE_CURRENT_BINARY_DIR}/${name}_test.moc")
+    add_test(NAME "${ARG_FOLDER}/${name}" COMMAND ${target} ${name})
     set_tests_properties("${ARG_FOLDER}/${name}" PROPERTIES TIMEOUT ${ARG_TIMEOUT} PROCESSORS 2
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;SDL_AUDIODRIVER=dummy"
       SKIP_REGULAR_EXPRESSION "SKIP  :")
   endforeach()
+endfunction()
+
+# How a program of tests is compiled.
+function(somme_tests_compilation target links)
+  if(links MATCHES "somme::platform_flash")
+    somme_compiled_headers(${target} finestre_intestazioni)
+    return()
+  endif()
+  target_compile_options(${target} PRIVATE ${SOMME_TESTS_OPTIONS})
+  if(links MATCHES "somme_prova|somme_stage")
+    somme_compiled_headers(${target} prova_intestazioni)
+  endif()
+endfunction()
+
+# A file of tests that no program has been given would never fail.
+function(somme_every_test_is_named names)
+  get_property(known DIRECTORY PROPERTY SOMME_TESTS)
+  set_property(DIRECTORY APPEND PROPERTY SOMME_TESTS ${names})
+  if(NOT known)
+    cmake_language(DEFER CALL somme_no_file_is_left_over)
+  endif()
+endfunction()
+
+function(somme_no_file_is_left_over)
+  get_property(names DIRECTORY PROPERTY SOMME_TESTS)
+  file(GLOB files RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" *_test.cpp)
+  list(TRANSFORM files REPLACE "_test.cpp$" "")
+  list(REMOVE_ITEM files ${names})
+  if(files)
+    message(FATAL_ERROR "${CMAKE_CURRENT_SOURCE_DIR}: no program has been given the tests ${files}")
+  endif()
 endfunction()

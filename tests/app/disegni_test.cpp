@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
 #include <stdexcept>
@@ -5,6 +6,7 @@
 #include "app/disegno_scritto.h"
 #include "app/tabella_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 
@@ -112,5 +114,5 @@ class DisegniTest : public QObject {
   }
 };
 
-QTEST_MAIN(DisegniTest)
+const prova::Iscrizione<DisegniTest, QApplication> kIscritta;
 #include "disegni_test.moc"

@@ -1,8 +1,11 @@
 #include "app/disegno_menu.h"
 
+#include <QApplication>
+
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using platform::Row;
 using platform::TwipsRect;
@@ -102,5 +105,5 @@ class DisegnoMenuTest : public QObject {
   }
 };
 
-QTEST_MAIN(DisegnoMenuTest)
+const prova::Iscrizione<DisegnoMenuTest, QApplication> kIscritta;
 #include "disegno_menu_test.moc"

@@ -1,10 +1,12 @@
 #include "app/form_avvio.h"
 
 #include <QAccessible>
+#include <QApplication>
 
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormAvvio;
@@ -161,5 +163,5 @@ class FormAvvioTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormAvvioTest)
+const prova::Iscrizione<FormAvvioTest, QApplication> kIscritta;
 #include "form_avvio_test.moc"

@@ -1,8 +1,11 @@
 #include "app/form_info.h"
 
+#include <QApplication>
+
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormInfo;
@@ -50,5 +53,5 @@ class FormInfoTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormInfoTest)
+const prova::Iscrizione<FormInfoTest, QApplication> kIscritta;
 #include "form_info_test.moc"

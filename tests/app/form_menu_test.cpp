@@ -1,6 +1,7 @@
 #include "app/form_menu.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMenu>
 
 #include "app/form_info.h"
@@ -8,6 +9,7 @@
 #include "platform/forms/page.h"
 #include "support/banco.h"
 #include "support/controfigura.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormMenu;
@@ -272,5 +274,5 @@ class FormMenuTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormMenuTest)
+const prova::Iscrizione<FormMenuTest, QApplication> kIscritta;
 #include "form_menu_test.moc"

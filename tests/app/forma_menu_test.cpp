@@ -1,5 +1,7 @@
 #include "app/forma_menu.h"
 
+#include <QApplication>
+
 #include "app/form_menu_abaco.h"
 #include "app/form_menu_barre.h"
 #include "app/form_menu_numeri.h"
@@ -10,6 +12,7 @@
 #include "platform/forms/page.h"
 #include "support/banco.h"
 #include "support/controfigura.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using namespace somme;
@@ -318,5 +321,5 @@ class FormaMenuTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaMenuTest)
+const prova::Iscrizione<FormaMenuTest, QApplication> kIscritta;
 #include "forma_menu_test.moc"

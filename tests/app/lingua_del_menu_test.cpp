@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QApplication>
 #include <QFile>
 #include <QMenu>
 
@@ -9,6 +10,7 @@
 #include "exercises/numbers/forma_numeri_tastiera.h"
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormMenu;
@@ -344,5 +346,5 @@ class LinguaDelMenuTest : public QObject {
   }
 };
 
-QTEST_MAIN(LinguaDelMenuTest)
+const prova::Iscrizione<LinguaDelMenuTest, QApplication> kIscritta;
 #include "lingua_del_menu_test.moc"

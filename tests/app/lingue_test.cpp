@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QMap>
@@ -5,6 +6,7 @@
 
 #include "app/tabella_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 
@@ -261,5 +263,5 @@ class LingueTest : public QObject {
   }
 };
 
-QTEST_MAIN(LingueTest)
+const prova::Iscrizione<LingueTest, QApplication> kIscritta;
 #include "lingue_test.moc"

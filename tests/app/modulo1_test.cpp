@@ -1,8 +1,11 @@
 #include "app/modulo1.h"
 
+#include <QApplication>
+
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 
@@ -125,5 +128,5 @@ class Modulo1Test : public QObject {
   }
 };
 
-QTEST_MAIN(Modulo1Test)
+const prova::Iscrizione<Modulo1Test, QApplication> kIscritta;
 #include "modulo1_test.moc"

@@ -1,9 +1,11 @@
+#include <QApplication>
 #include <QElapsedTimer>
 
 #include "app/form_menu.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 
@@ -71,5 +73,5 @@ class ScritteLungheTest : public QObject {
   }
 };
 
-QTEST_MAIN(ScritteLungheTest)
+const prova::Iscrizione<ScritteLungheTest, QApplication> kIscritta;
 #include "scritte_lunghe_test.moc"

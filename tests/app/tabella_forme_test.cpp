@@ -14,6 +14,7 @@
 #include "platform/forms/page.h"
 #include "support/banco.h"
 #include "support/come_dal_menu.h"
+#include "support/iscrizione.h"
 
 using platform::Control;
 using platform::Form;
@@ -265,5 +266,5 @@ class TabellaFormeTest : public QObject {
   }
 };
 
-QTEST_MAIN(TabellaFormeTest)
+const prova::Iscrizione<TabellaFormeTest, QApplication> kIscritta;
 #include "tabella_forme_test.moc"

@@ -10,6 +10,7 @@
 #include "app/form_menu_plu.h"
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 
@@ -127,5 +128,5 @@ class TastiMenuTest : public QObject {
   }
 };
 
-QTEST_MAIN(TastiMenuTest)
+const prova::Iscrizione<TastiMenuTest, QApplication> kIscritta;
 #include "tasti_menu_test.moc"

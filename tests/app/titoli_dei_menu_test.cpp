@@ -1,8 +1,11 @@
 #include "app/form_menu_abaco.h"
+
+#include <QApplication>
 #include "app/form_menu_numeri.h"
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
 #include "support/controfigura.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormMenuAbaco;
@@ -125,5 +128,5 @@ class TitoliDeiMenuTest : public QObject {
   }
 };
 
-QTEST_MAIN(TitoliDeiMenuTest)
+const prova::Iscrizione<TitoliDeiMenuTest, QApplication> kIscritta;
 #include "titoli_dei_menu_test.moc"

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "scripted_chance.h"
+#include "support/iscrizione.h"
 
 using somme::Casuale;
 
@@ -58,5 +59,5 @@ class CasualeTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(CasualeTest)
+const prova::Iscrizione<CasualeTest> kIscritta;
 #include "casuale_test.moc"

@@ -9,6 +9,7 @@
 #include "cases/casuale.h"
 #include "cases/modulo_somme.h"
 #include "scripted_chance.h"
+#include "support/iscrizione.h"
 
 using namespace somme;
 
@@ -251,5 +252,5 @@ class EstrazioniTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(EstrazioniTest)
+const prova::Iscrizione<EstrazioniTest> kIscritta;
 #include "estrazioni_test.moc"

@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "support/iscrizione.h"
+
 using namespace somme;
 using namespace std::string_view_literals;
 
@@ -108,5 +110,5 @@ class LivelliTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(LivelliTest)
+const prova::Iscrizione<LivelliTest> kIscritta;
 #include "livelli_test.moc"

@@ -8,6 +8,7 @@
 #include <set>
 
 #include "scripted_chance.h"
+#include "support/iscrizione.h"
 
 using namespace somme;
 
@@ -276,5 +277,5 @@ class ModuloSommeTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ModuloSommeTest)
+const prova::Iscrizione<ModuloSommeTest> kIscritta;
 #include "modulo_somme_test.moc"

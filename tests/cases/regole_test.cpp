@@ -5,6 +5,7 @@
 
 #include "cases/modulo_somme.h"
 #include "scripted_chance.h"
+#include "support/iscrizione.h"
 
 using namespace somme;
 
@@ -373,5 +374,5 @@ class RegoleTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(RegoleTest)
+const prova::Iscrizione<RegoleTest> kIscritta;
 #include "regole_test.moc"

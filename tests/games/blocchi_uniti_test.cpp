@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using namespace somme;
 
 namespace somme {
@@ -142,5 +144,5 @@ class BlocchiUnitiTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(BlocchiUnitiTest)
+const prova::Iscrizione<BlocchiUnitiTest> kIscritta;
 #include "blocchi_uniti_test.moc"

@@ -1,5 +1,7 @@
 #include "abaco_giocato.h"
 
+#include "support/iscrizione.h"
+
 using namespace somme;
 using prova::ConFrecce;
 using prova::ConTasti;
@@ -254,5 +256,5 @@ class CambiAbacoTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(CambiAbacoTest)
+const prova::Iscrizione<CambiAbacoTest> kIscritta;
 #include "cambi_abaco_test.moc"

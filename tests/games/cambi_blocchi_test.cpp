@@ -1,5 +1,7 @@
 #include "blocchi_giocati.h"
 
+#include "support/iscrizione.h"
+
 using namespace somme;
 using prova::GiocoHLU;
 using prova::GiocoLU;
@@ -151,5 +153,5 @@ class CambiBlocchiTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(CambiBlocchiTest)
+const prova::Iscrizione<CambiBlocchiTest> kIscritta;
 #include "cambi_blocchi_test.moc"

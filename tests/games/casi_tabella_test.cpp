@@ -4,6 +4,7 @@
 #include <set>
 
 #include "../cases/scripted_chance.h"
+#include "support/iscrizione.h"
 
 using somme::CasoTabella;
 using somme::EstraiCasoTabella;
@@ -138,5 +139,5 @@ class CasiTabellaTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(CasiTabellaTest)
+const prova::Iscrizione<CasiTabellaTest> kIscritta;
 #include "casi_tabella_test.moc"

@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using namespace somme;
 
 namespace {
@@ -65,5 +67,5 @@ class LivelliAbacoTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(LivelliAbacoTest)
+const prova::Iscrizione<LivelliAbacoTest> kIscritta;
 #include "livelli_abaco_test.moc"

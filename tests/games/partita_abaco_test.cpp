@@ -1,5 +1,7 @@
 #include "abaco_giocato.h"
 
+#include "support/iscrizione.h"
+
 using namespace somme;
 using prova::ConFrecce;
 using prova::ConTasti;
@@ -222,5 +224,5 @@ class PartitaAbacoTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PartitaAbacoTest)
+const prova::Iscrizione<PartitaAbacoTest> kIscritta;
 #include "partita_abaco_test.moc"

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "caso_di_prova.h"
+#include "support/iscrizione.h"
 
 using namespace somme;
 using Fase = PartitaBarre::Fase;
@@ -198,5 +199,5 @@ class PartitaBarreTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PartitaBarreTest)
+const prova::Iscrizione<PartitaBarreTest> kIscritta;
 #include "partita_barre_test.moc"

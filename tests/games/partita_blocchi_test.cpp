@@ -1,5 +1,6 @@
 #include "blocchi_giocati.h"
 #include "platform/base/run_time_error.h"
+#include "support/iscrizione.h"
 
 using namespace somme;
 using prova::GiocoHLU;
@@ -249,5 +250,5 @@ class PartitaBlocchiTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PartitaBlocchiTest)
+const prova::Iscrizione<PartitaBlocchiTest> kIscritta;
 #include "partita_blocchi_test.moc"

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "caso_di_prova.h"
+#include "support/iscrizione.h"
 
 using namespace somme;
 using Fase = PartitaNumeri::Fase;
@@ -153,5 +154,5 @@ class PartitaNumeriTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PartitaNumeriTest)
+const prova::Iscrizione<PartitaNumeriTest> kIscritta;
 #include "partita_numeri_test.moc"

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "caso_di_prova.h"
+#include "support/iscrizione.h"
 
 using namespace somme;
 using Cella = PartitaTabella::Cella;
@@ -153,5 +154,5 @@ class PartitaTabellaTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PartitaTabellaTest)
+const prova::Iscrizione<PartitaTabellaTest> kIscritta;
 #include "partita_tabella_test.moc"

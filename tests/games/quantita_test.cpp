@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using namespace somme;
 
 namespace {
@@ -67,5 +69,5 @@ class QuantitaTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(QuantitaTest)
+const prova::Iscrizione<QuantitaTest> kIscritta;
 #include "quantita_test.moc"

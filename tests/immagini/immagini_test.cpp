@@ -1,5 +1,6 @@
 #include "immagini/immagini.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -10,6 +11,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+
+#include "support/iscrizione.h"
 
 namespace {
 
@@ -334,5 +337,5 @@ class ImmaginiTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(ImmaginiTest)
+const prova::Iscrizione<ImmaginiTest, QCoreApplication> kIscritta;
 #include "immagini_test.moc"

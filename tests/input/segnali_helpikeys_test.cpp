@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "platform/base/run_time_error.h"
+#include "support/iscrizione.h"
 
 using somme::SegnaliHelpiKeys;
 using Tipo = SegnaliHelpiKeys::Tipo;
@@ -132,5 +133,5 @@ class SegnaliHelpiKeysTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(SegnaliHelpiKeysTest)
+const prova::Iscrizione<SegnaliHelpiKeysTest> kIscritta;
 #include "segnali_helpikeys_test.moc"

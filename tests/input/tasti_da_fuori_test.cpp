@@ -1,9 +1,11 @@
 #include <QAccessible>
+#include <QApplication>
 #include <QMenu>
 #include <QMessageBox>
 
 #include "fondo_tastiera.h"
 #include "input/tastiera_numerica_scansione.h"
+#include "support/iscrizione.h"
 
 using prova::prepara;
 using somme::TastieraNumericaScansione;
@@ -95,5 +97,5 @@ class TastiDaFuoriTest : public QObject {
   }
 };
 
-QTEST_MAIN(TastiDaFuoriTest)
+const prova::Iscrizione<TastiDaFuoriTest, QApplication> kIscritta;
 #include "tasti_da_fuori_test.moc"

@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -7,6 +8,7 @@
 #include "platform/forms/accessible.h"
 #include "platform/forms/controls/ring_widget.h"
 #include "platform/forms/text_block.h"
+#include "support/iscrizione.h"
 
 using prova::prepara;
 using somme::TastieraNumericaScansione;
@@ -383,5 +385,5 @@ class TastiDiScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(TastiDiScansioneTest)
+const prova::Iscrizione<TastiDiScansioneTest, QApplication> kIscritta;
 #include "tasti_di_scansione_test.moc"

@@ -1,6 +1,9 @@
 #include "input/tastiera_hdu_scansione.h"
 
+#include <QApplication>
+
 #include "fondo_tastiera.h"
+#include "support/iscrizione.h"
 
 using platform::PropertyValue;
 using prova::accesi;
@@ -149,5 +152,5 @@ class TastieraHDUScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(TastieraHDUScansioneTest)
+const prova::Iscrizione<TastieraHDUScansioneTest, QApplication> kIscritta;
 #include "tastiera_hdu_scansione_test.moc"

@@ -1,7 +1,10 @@
 #include "input/tastiera_numerica_scansione.h"
 
+#include <QApplication>
+
 #include "fondo_tastiera.h"
 #include "platform/base/run_time_error.h"
+#include "support/iscrizione.h"
 
 using platform::PropertyBag;
 using platform::PropertyValue;
@@ -319,5 +322,5 @@ class TastieraNumericaScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(TastieraNumericaScansioneTest)
+const prova::Iscrizione<TastieraNumericaScansioneTest, QApplication> kIscritta;
 #include "tastiera_numerica_scansione_test.moc"

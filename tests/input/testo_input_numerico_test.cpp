@@ -1,7 +1,9 @@
 #include <QAccessible>
+#include <QApplication>
 #include <QFontInfo>
 
 #include "ospite_testo.h"
+#include "support/iscrizione.h"
 
 using platform::PropertyBag;
 using platform::PropertyValue;
@@ -279,5 +281,5 @@ class TestoInputNumericoTest : public QObject {
   }
 };
 
-QTEST_MAIN(TestoInputNumericoTest)
+const prova::Iscrizione<TestoInputNumericoTest, QApplication> kIscritta;
 #include "testo_input_numerico_test.moc"

@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 
 #include "ospite_testo.h"
+#include "support/iscrizione.h"
 
 using platform::RunTimeError;
 using Fondo = prova::FondoTesto;
@@ -236,5 +237,5 @@ class TestoInputScrittoTest : public QObject {
   }
 };
 
-QTEST_MAIN(TestoInputScrittoTest)
+const prova::Iscrizione<TestoInputScrittoTest, QApplication> kIscritta;
 #include "testo_input_scritto_test.moc"

@@ -1,6 +1,9 @@
 #include "printing/frm_avvia_stampa.h"
 
+#include <QApplication>
+
 #include "dialogo_di_prova.h"
+#include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
 using prova::DialogoDiProva;
@@ -186,5 +189,5 @@ class AnteprimaTest : public QObject {
   }
 };
 
-QTEST_MAIN(AnteprimaTest)
+const prova::Iscrizione<AnteprimaTest, QApplication> kIscritta;
 #include "anteprima_test.moc"

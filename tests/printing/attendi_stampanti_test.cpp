@@ -1,11 +1,13 @@
 #include "printing/attendi_stampanti.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <utility>
 
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormBarre10;
@@ -86,5 +88,5 @@ class AttendiStampantiTest : public QObject {
   }
 };
 
-QTEST_MAIN(AttendiStampantiTest)
+const prova::Iscrizione<AttendiStampantiTest, QApplication> kIscritta;
 #include "attendi_stampanti_test.moc"

@@ -1,8 +1,10 @@
 #include "printing/frm_avvia_stampa.h"
 
+#include <QApplication>
 #include <QClipboard>
 
 #include "dialogo_di_prova.h"
+#include "support/iscrizione.h"
 
 using prova::DialogoDiProva;
 using somme::frmAvviaStampa;
@@ -210,5 +212,5 @@ class CampoMillimetriTest : public QObject {
   }
 };
 
-QTEST_MAIN(CampoMillimetriTest)
+const prova::Iscrizione<CampoMillimetriTest, QApplication> kIscritta;
 #include "campo_millimetri_test.moc"

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QDir>
 #include <QRegularExpression>
 
@@ -7,6 +8,7 @@
 #include "platform/devices/qt_time_source.h"
 #include "platform/devices/system_printers.h"
 #include "printing/modulo_stampa.h"
+#include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
 using devices_test::FullDisk;
@@ -196,5 +198,5 @@ class CartaTest : public QObject {
   }
 };
 
-QTEST_MAIN(CartaTest)
+const prova::Iscrizione<CartaTest, QApplication> kIscritta;
 #include "carta_test.moc"

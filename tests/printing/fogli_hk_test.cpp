@@ -1,9 +1,12 @@
 #include "exercises/bars/form_barre10_hk.h"
+
+#include <QApplication>
 #include "exercises/bars/form_barre20_hk.h"
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "fogli_di_prova.h"
 #include "platform/forms/controls/menu_item.h"
 #include "support/come_dal_menu.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FoglioTasti;
@@ -144,5 +147,5 @@ class FogliHKTest : public QObject {
   }
 };
 
-QTEST_MAIN(FogliHKTest)
+const prova::Iscrizione<FogliHKTest, QApplication> kIscritta;
 #include "fogli_hk_test.moc"

@@ -1,4 +1,7 @@
 #include "fogli_di_prova.h"
+
+#include <QApplication>
+#include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
 using prova::Cella;
@@ -121,5 +124,5 @@ class FogliStampatiTest : public QObject {
   }
 };
 
-QTEST_MAIN(FogliStampatiTest)
+const prova::Iscrizione<FogliStampatiTest, QApplication> kIscritta;
 #include "fogli_stampati_test.moc"

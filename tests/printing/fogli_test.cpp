@@ -1,7 +1,10 @@
 #include "printing/foglio_tastiera.h"
 
+#include <QApplication>
+
 #include "fogli_di_prova.h"
 #include "printing/foglio_calibrazione.h"
+#include "support/iscrizione.h"
 
 using prova::Cella;
 using prova::cellaDi;
@@ -292,5 +295,5 @@ class FogliTest : public QObject {
   }
 };
 
-QTEST_MAIN(FogliTest)
+const prova::Iscrizione<FogliTest, QApplication> kIscritta;
 #include "fogli_test.moc"

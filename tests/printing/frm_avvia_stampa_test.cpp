@@ -1,6 +1,9 @@
 #include "printing/frm_avvia_stampa.h"
 
+#include <QApplication>
+
 #include "dialogo_di_prova.h"
+#include "support/iscrizione.h"
 
 using platform::Orientation;
 using prova::DialogoDiProva;
@@ -314,5 +317,5 @@ class FrmAvviaStampaTest : public QObject {
   }
 };
 
-QTEST_MAIN(FrmAvviaStampaTest)
+const prova::Iscrizione<FrmAvviaStampaTest, QApplication> kIscritta;
 #include "frm_avvia_stampa_test.moc"

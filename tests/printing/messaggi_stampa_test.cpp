@@ -1,8 +1,10 @@
+#include <QApplication>
 #include <QLineEdit>
 #include <QTemporaryDir>
 
 #include "dialogo_di_prova.h"
 #include "printing/errore_di_stampa.h"
+#include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
 using prova::DialogoDiProva;
@@ -375,5 +377,5 @@ class MessaggiStampaTest : public QObject {
   }
 };
 
-QTEST_MAIN(MessaggiStampaTest)
+const prova::Iscrizione<MessaggiStampaTest, QApplication> kIscritta;
 #include "messaggi_stampa_test.moc"

@@ -1,11 +1,13 @@
 #include "printing/modulo_stampa.h"
 
+#include <QApplication>
 #include <QRegularExpression>
 
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "platform/base/run_time_error.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
 using platform::RunTimeError;
@@ -346,5 +348,5 @@ class ModuloStampaTest : public QObject {
   }
 };
 
-QTEST_MAIN(ModuloStampaTest)
+const prova::Iscrizione<ModuloStampaTest, QApplication> kIscritta;
 #include "modulo_stampa_test.moc"

@@ -1,9 +1,11 @@
 #include "printing/nome_formato_carta.h"
 
+#include <QCoreApplication>
 #include <QSet>
 #include <QTest>
 
 #include "platform/base/paper_codes.h"
+#include "support/iscrizione.h"
 
 class NomeFormatoCartaTest : public QObject {
   Q_OBJECT
@@ -55,5 +57,5 @@ class NomeFormatoCartaTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(NomeFormatoCartaTest)
+const prova::Iscrizione<NomeFormatoCartaTest, QCoreApplication> kIscritta;
 #include "nome_formato_carta_test.moc"

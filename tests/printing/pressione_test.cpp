@@ -1,6 +1,8 @@
 #include <QAccessible>
+#include <QApplication>
 
 #include "dialogo_di_prova.h"
+#include "support/iscrizione.h"
 
 using prova::DialogoDiProva;
 using somme::frmAvviaStampa;
@@ -86,5 +88,5 @@ class PressioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(PressioneTest)
+const prova::Iscrizione<PressioneTest, QApplication> kIscritta;
 #include "pressione_test.moc"

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <set>
 
+#include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
 using prove::FilmatoLetto;
@@ -151,5 +152,5 @@ class AbacoTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(AbacoTest)
+const prova::Iscrizione<AbacoTest> kIscritta;
 #include "abaco_test.moc"

@@ -3,6 +3,8 @@
 #include <QTest>
 #include <cmath>
 
+#include "support/iscrizione.h"
+
 using somme::filmati::scritta;
 
 class LettereTest : public QObject {
@@ -33,5 +35,5 @@ class LettereTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(LettereTest)
+const prova::Iscrizione<LettereTest> kIscritta;
 #include "lettere_test.moc"

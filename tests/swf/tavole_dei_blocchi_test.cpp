@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
 using prove::FilmatoLetto;
@@ -210,5 +211,5 @@ class TavoleDeiBlocchiTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TavoleDeiBlocchiTest)
+const prova::Iscrizione<TavoleDeiBlocchiTest> kIscritta;
 #include "tavole_dei_blocchi_test.moc"

@@ -112,11 +112,32 @@ def tipi_definiti(percorso):
 
 
 def nomi_doppi():
-    """Types of one full name that are defined in two files."""
+    """Types of one full name that two files of one program define: of the product, or of the tests of
+    a folder, which stand in one program with the product and what all tests share."""
+    dove = _definizioni(sorgenti.prodotto())
+    yield from _doppi(dove, dove)
+    comuni = _definizioni(f for f in sorgenti.cpp() if f.startswith("tests/support/"))
+    prove = defaultdict(list)
+    for file in sorgenti.cpp():
+        if file.startswith("tests/"):
+            prove[file.rpartition("/")[0]].append(file)
+    for cartella, file in sorted(prove.items()):
+        proprie = _definizioni(file)
+        altrove = (dove,) if cartella == "tests/support" else (dove, comuni)
+        yield from _doppi(proprie, {nome: sum((d.get(nome, []) for d in altrove), posti)
+                                    for nome, posti in proprie.items()})
+
+
+def _definizioni(file):
+    """Full name -> the places in those files that define a type of it."""
     dove = defaultdict(list)
-    for file in sorgenti.prodotto():
-        for nome, riga in tipi_definiti(file):
-            dove[nome].append(f"{file}:{riga}")
-    for nome, posti in sorted(dove.items()):
-        if len(posti) > 1:
-            yield f"{nome} is defined more than once: " + ", ".join(posti)
+    for percorso in file:
+        for nome, riga in tipi_definiti(percorso):
+            dove[nome].append(f"{percorso}:{riga}")
+    return dove
+
+
+def _doppi(nomi, dove):
+    for nome in sorted(nomi):
+        if len(dove[nome]) > 1:
+            yield f"{nome} is defined more than once: " + ", ".join(dove[nome])

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <algorithm>
 #include <ctime>
 
@@ -6,6 +7,7 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "lingua_di_prova.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using prova::kLinguaDiProva;
@@ -262,5 +264,5 @@ class ApplicaLinguaTest : public QObject {
   }
 };
 
-QTEST_MAIN(ApplicaLinguaTest)
+const prova::Iscrizione<ApplicaLinguaTest, QApplication> kIscritta;
 #include "applica_lingua_test.moc"

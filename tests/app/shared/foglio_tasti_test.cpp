@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "support/iscrizione.h"
+
 using somme::FoglioDi;
 using somme::FoglioTasti;
 using somme::kTastieraAbaco;
@@ -185,5 +187,5 @@ class FoglioTastiTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(FoglioTastiTest)
+const prova::Iscrizione<FoglioTastiTest> kIscritta;
 #include "foglio_tasti_test.moc"

@@ -1,11 +1,14 @@
 #include "app/shared/mod_language_support.h"
 
+#include <QApplication>
+
 #include "app/form_avvio.h"
 #include "app/form_info.h"
 #include "app/shared/nomi_forme.h"
 #include "lingua_di_prova.h"
 #include "platform/base/run_time_error.h"
 #include "platform/forms/qt_message_boxes.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using prova::kLinguaDiProva;
@@ -164,5 +167,5 @@ class ModLanguageSupportTest : public QObject {
   }
 };
 
-QTEST_MAIN(ModLanguageSupportTest)
+const prova::Iscrizione<ModLanguageSupportTest, QApplication> kIscritta;
 #include "mod_language_support_test.moc"

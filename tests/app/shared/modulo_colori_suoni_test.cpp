@@ -1,9 +1,11 @@
 #include "app/shared/modulo_colori_suoni.h"
 
+#include <QApplication>
 #include <QTimer>
 
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::Attendi;
@@ -130,5 +132,5 @@ class ModuloColoriSuoniTest : public QObject {
   }
 };
 
-QTEST_MAIN(ModuloColoriSuoniTest)
+const prova::Iscrizione<ModuloColoriSuoniTest, QApplication> kIscritta;
 #include "modulo_colori_suoni_test.moc"

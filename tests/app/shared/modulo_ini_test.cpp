@@ -1,6 +1,9 @@
 #include "app/shared/modulo_ini.h"
 
+#include <QApplication>
 #include <QTest>
+
+#include "support/iscrizione.h"
 
 // The settings of the start.
 class ModuloIniTest : public QObject {
@@ -45,5 +48,5 @@ class ModuloIniTest : public QObject {
   }
 };
 
-QTEST_MAIN(ModuloIniTest)
+const prova::Iscrizione<ModuloIniTest, QApplication> kIscritta;
 #include "modulo_ini_test.moc"

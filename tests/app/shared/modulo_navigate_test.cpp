@@ -1,6 +1,9 @@
 #include "app/shared/modulo_navigate.h"
 
+#include <QApplication>
+
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 
@@ -20,5 +23,5 @@ class ModuloNavigateTest : public QObject {
   }
 };
 
-QTEST_MAIN(ModuloNavigateTest)
+const prova::Iscrizione<ModuloNavigateTest, QApplication> kIscritta;
 #include "modulo_navigate_test.moc"

@@ -1,9 +1,11 @@
 #include <unistd.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 
@@ -120,5 +122,5 @@ class SceltaDellaLinguaTest : public QObject {
   }
 };
 
-QTEST_MAIN(SceltaDellaLinguaTest)
+const prova::Iscrizione<SceltaDellaLinguaTest, QApplication> kIscritta;
 #include "scelta_della_lingua_test.moc"

@@ -1,9 +1,11 @@
 #include "app/shared/scheda_forma.h"
 
+#include <QApplication>
 #include <QTest>
 
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
+#include "support/iscrizione.h"
 
 using somme::Famiglia;
 using somme::Genere;
@@ -104,5 +106,5 @@ class SchedaFormaTest : public QObject {
   }
 };
 
-QTEST_MAIN(SchedaFormaTest)
+const prova::Iscrizione<SchedaFormaTest, QApplication> kIscritta;
 #include "scheda_forma_test.moc"

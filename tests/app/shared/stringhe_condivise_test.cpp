@@ -1,6 +1,9 @@
 #include "app/shared/stringhe_condivise.h"
 
+#include <QApplication>
+
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::StringheCondivise;
@@ -112,5 +115,5 @@ class StringheCondiviseTest : public QObject {
   }
 };
 
-QTEST_MAIN(StringheCondiviseTest)
+const prova::Iscrizione<StringheCondiviseTest, QApplication> kIscritta;
 #include "stringhe_condivise_test.moc"

@@ -1,5 +1,8 @@
 #include "abaco_di_prova.h"
+
+#include <QApplication>
 #include "support/filmato_altrui.h"
+#include "support/iscrizione.h"
 
 using prova::BancoAbaco;
 using prova::FilmatoAltrui;
@@ -125,5 +128,5 @@ class AbacoAltruiTest : public QObject {
   }
 };
 
-QTEST_MAIN(AbacoAltruiTest)
+const prova::Iscrizione<AbacoAltruiTest, QApplication> kIscritta;
 #include "abaco_altrui_test.moc"

@@ -1,5 +1,8 @@
 #include "abaco_scandito.h"
+
+#include <QApplication>
 #include "abaco_toccato.h"
+#include "support/iscrizione.h"
 
 using namespace prova;
 using somme::Tasto;
@@ -67,5 +70,5 @@ class AnnunciAbacoTest : public QObject {
   }
 };
 
-QTEST_MAIN(AnnunciAbacoTest)
+const prova::Iscrizione<AnnunciAbacoTest, QApplication> kIscritta;
 #include "annunci_abaco_test.moc"

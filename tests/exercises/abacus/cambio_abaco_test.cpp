@@ -1,7 +1,9 @@
+#include <QApplication>
 #include <QPointer>
 
 #include "abaco_di_prova.h"
 #include "app/form_menu.h"
+#include "support/iscrizione.h"
 
 using prova::kTutti;
 
@@ -335,5 +337,5 @@ class CambioAbacoTest : public QObject {
   }
 };
 
-QTEST_MAIN(CambioAbacoTest)
+const prova::Iscrizione<CambioAbacoTest, QApplication> kIscritta;
 #include "cambio_abaco_test.moc"

@@ -1,5 +1,9 @@
 #include "abaco_di_prova.h"
 
+#include <QApplication>
+
+#include "support/iscrizione.h"
+
 using prova::BancoAbaco;
 using prova::Ferro;
 using prova::kFerri;
@@ -77,5 +81,5 @@ class FilmatoAbacoTest : public QObject {
   }
 };
 
-QTEST_MAIN(FilmatoAbacoTest)
+const prova::Iscrizione<FilmatoAbacoTest, QApplication> kIscritta;
 #include "filmato_abaco_test.moc"

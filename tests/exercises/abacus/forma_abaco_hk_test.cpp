@@ -1,7 +1,9 @@
 #include <QAction>
+#include <QApplication>
 
 #include "abaco_toccato.h"
 #include "platform/forms/menu_bar.h"
+#include "support/iscrizione.h"
 
 using namespace prova;
 using somme::FormaAbacoHK;
@@ -237,5 +239,5 @@ class FormaAbacoHKTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaAbacoHKTest)
+const prova::Iscrizione<FormaAbacoHKTest, QApplication> kIscritta;
 #include "forma_abaco_hk_test.moc"

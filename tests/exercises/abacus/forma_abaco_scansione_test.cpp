@@ -1,5 +1,9 @@
 #include "abaco_scandito.h"
 
+#include <QApplication>
+
+#include "support/iscrizione.h"
+
 using namespace prova;
 using somme::FormaAbacoScansione;
 
@@ -286,5 +290,5 @@ class FormaAbacoScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaAbacoScansioneTest)
+const prova::Iscrizione<FormaAbacoScansioneTest, QApplication> kIscritta;
 #include "forma_abaco_scansione_test.moc"

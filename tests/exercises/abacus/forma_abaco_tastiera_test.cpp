@@ -1,10 +1,12 @@
 #include "exercises/abacus/forma_abaco_tastiera.h"
 
 #include <QAccessible>
+#include <QApplication>
 
 #include "abaco_di_prova.h"
 #include "platform/flash/hand_made.h"
 #include "platform/flash/movie_view.h"
+#include "support/iscrizione.h"
 
 using prova::BancoAbaco;
 using prova::kTutti;
@@ -332,5 +334,5 @@ class FormaAbacoTastieraTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaAbacoTastieraTest)
+const prova::Iscrizione<FormaAbacoTastieraTest, QApplication> kIscritta;
 #include "forma_abaco_tastiera_test.moc"

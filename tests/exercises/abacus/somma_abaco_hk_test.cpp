@@ -1,5 +1,9 @@
 #include "abaco_toccato.h"
 
+#include <QApplication>
+
+#include "support/iscrizione.h"
+
 using namespace prova;
 using somme::FormaAbacoHK;
 using somme::Tasto;
@@ -172,5 +176,5 @@ class SommaAbacoHKTest : public QObject {
   }
 };
 
-QTEST_MAIN(SommaAbacoHKTest)
+const prova::Iscrizione<SommaAbacoHKTest, QApplication> kIscritta;
 #include "somma_abaco_hk_test.moc"

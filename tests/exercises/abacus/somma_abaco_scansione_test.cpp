@@ -1,5 +1,9 @@
 #include "abaco_scandito.h"
 
+#include <QApplication>
+
+#include "support/iscrizione.h"
+
 using namespace prova;
 using somme::FormaAbacoScansione;
 
@@ -180,5 +184,5 @@ class SommaAbacoScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(SommaAbacoScansioneTest)
+const prova::Iscrizione<SommaAbacoScansioneTest, QApplication> kIscritta;
 #include "somma_abaco_scansione_test.moc"

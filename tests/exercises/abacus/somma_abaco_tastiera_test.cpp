@@ -1,6 +1,8 @@
+#include <QApplication>
 #include <QFile>
 
 #include "abaco_di_prova.h"
+#include "support/iscrizione.h"
 
 using prova::BancoAbaco;
 using prova::kTutti;
@@ -120,5 +122,5 @@ class SommaAbacoTastieraTest : public QObject {
   }
 };
 
-QTEST_MAIN(SommaAbacoTastieraTest)
+const prova::Iscrizione<SommaAbacoTastieraTest, QApplication> kIscritta;
 #include "somma_abaco_tastiera_test.moc"

@@ -1,7 +1,10 @@
 #include "barre10_di_prova.h"
+
+#include <QApplication>
 #include "exercises/bars/form_barre10_hk.h"
 #include "exercises/bars/form_barre10_scansione.h"
 #include "exercises/bars/form_barre20.h"
+#include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 #include "support/tocchi.h"
 
@@ -120,5 +123,5 @@ class AnnunciBarreTest : public QObject {
   }
 };
 
-QTEST_MAIN(AnnunciBarreTest)
+const prova::Iscrizione<AnnunciBarreTest, QApplication> kIscritta;
 #include "annunci_barre_test.moc"

@@ -1,7 +1,10 @@
 #include "exercises/bars/disegno_barre.h"
 
+#include <QApplication>
+
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using platform::Row;
 using platform::TwipsRect;
@@ -101,5 +104,5 @@ class DisegnoBarreTest : public QObject {
   }
 };
 
-QTEST_MAIN(DisegnoBarreTest)
+const prova::Iscrizione<DisegnoBarreTest, QApplication> kIscritta;
 #include "disegno_barre_test.moc"

@@ -1,11 +1,13 @@
 #include "exercises/bars/form_barre10_tastiera.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include "app/form_menu_barre.h"
 
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/form_barre10.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormBarre10;
@@ -128,5 +130,5 @@ class FormBarre10TastieraTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormBarre10TastieraTest)
+const prova::Iscrizione<FormBarre10TastieraTest, QApplication> kIscritta;
 #include "form_barre10_tastiera_test.moc"

@@ -1,8 +1,10 @@
 #include "exercises/bars/form_barre10.h"
 
+#include <QApplication>
 #include <QSet>
 
 #include "barre10_di_prova.h"
+#include "support/iscrizione.h"
 
 using prova::apriBarre10;
 using prova::Banco;
@@ -284,5 +286,5 @@ class FormBarre10Test : public QObject {
   }
 };
 
-QTEST_MAIN(FormBarre10Test)
+const prova::Iscrizione<FormBarre10Test, QApplication> kIscritta;
 #include "form_barre10_test.moc"

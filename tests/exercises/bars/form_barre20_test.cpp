@@ -7,6 +7,7 @@
 #include "app/shared/nomi_forme.h"
 #include "barre_di_prova.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using prova::kCiano;
@@ -324,5 +325,5 @@ class FormBarre20Test : public QObject {
   }
 };
 
-QTEST_MAIN(FormBarre20Test)
+const prova::Iscrizione<FormBarre20Test, QApplication> kIscritta;
 #include "form_barre20_test.moc"

@@ -1,6 +1,7 @@
 #include "exercises/bars/forma_barre_hk.h"
 
 #include <QAction>
+#include <QApplication>
 #include <utility>
 
 #include "app/shared/nomi_forme.h"
@@ -9,6 +10,7 @@
 #include "exercises/bars/form_barre20_hk.h"
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 #include "support/tocchi.h"
 
 using prova::Banco;
@@ -301,5 +303,5 @@ class FormaBarreHKTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaBarreHKTest)
+const prova::Iscrizione<FormaBarreHKTest, QApplication> kIscritta;
 #include "forma_barre_hk_test.moc"

@@ -1,9 +1,12 @@
 #include "exercises/bars/forma_barre_scansione.h"
 
+#include <QApplication>
+
 #include "app/shared/nomi_forme.h"
 #include "barre_di_prova.h"
 #include "exercises/bars/form_barre10_scansione.h"
 #include "exercises/bars/form_barre20_scansione.h"
+#include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 
 using prova::Banco;
@@ -339,5 +342,5 @@ class FormaBarreScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaBarreScansioneTest)
+const prova::Iscrizione<FormaBarreScansioneTest, QApplication> kIscritta;
 #include "forma_barre_scansione_test.moc"

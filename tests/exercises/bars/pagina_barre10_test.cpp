@@ -1,6 +1,8 @@
+#include <QApplication>
 #include <cmath>
 
 #include "barre10_di_prova.h"
+#include "support/iscrizione.h"
 
 using prova::apriBarre10;
 using prova::Banco;
@@ -187,5 +189,5 @@ class PaginaBarre10Test : public QObject {
   }
 };
 
-QTEST_MAIN(PaginaBarre10Test)
+const prova::Iscrizione<PaginaBarre10Test, QApplication> kIscritta;
 #include "pagina_barre10_test.moc"

@@ -1,6 +1,9 @@
 #include "blocchi_scanditi.h"
+
+#include <QApplication>
 #include "exercises/blocks/form_hlu_hk.h"
 #include "form_lu_di_prova.h"
+#include "support/iscrizione.h"
 #include "support/tocchi.h"
 
 using namespace prova;
@@ -95,5 +98,5 @@ class AnnunciBlocchiTest : public QObject {
   }
 };
 
-QTEST_MAIN(AnnunciBlocchiTest)
+const prova::Iscrizione<AnnunciBlocchiTest, QApplication> kIscritta;
 #include "annunci_blocchi_test.moc"

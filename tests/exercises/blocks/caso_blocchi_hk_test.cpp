@@ -1,5 +1,9 @@
 #include "blocchi_toccati.h"
 
+#include <QApplication>
+
+#include "support/iscrizione.h"
+
 using namespace prova;
 using somme::FormHLUHK;
 using somme::FormLUHK;
@@ -164,5 +168,5 @@ class CasoBlocchiHKTest : public QObject {
   }
 };
 
-QTEST_MAIN(CasoBlocchiHKTest)
+const prova::Iscrizione<CasoBlocchiHKTest, QApplication> kIscritta;
 #include "caso_blocchi_hk_test.moc"

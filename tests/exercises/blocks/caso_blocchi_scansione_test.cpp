@@ -1,5 +1,9 @@
 #include "blocchi_scanditi.h"
 
+#include <QApplication>
+
+#include "support/iscrizione.h"
+
 using namespace prova;
 using somme::FormHLUScansione;
 using somme::FormLUScansione;
@@ -181,5 +185,5 @@ class CasoBlocchiScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(CasoBlocchiScansioneTest)
+const prova::Iscrizione<CasoBlocchiScansioneTest, QApplication> kIscritta;
 #include "caso_blocchi_scansione_test.moc"

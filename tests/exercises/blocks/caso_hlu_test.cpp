@@ -1,5 +1,9 @@
 #include "form_hlu_di_prova.h"
 
+#include <QApplication>
+
+#include "support/iscrizione.h"
+
 using namespace prova;
 using somme::FormHLU;
 
@@ -154,5 +158,5 @@ class CasoHLUTest : public QObject {
   }
 };
 
-QTEST_MAIN(CasoHLUTest)
+const prova::Iscrizione<CasoHLUTest, QApplication> kIscritta;
 #include "caso_hlu_test.moc"

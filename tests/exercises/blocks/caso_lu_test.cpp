@@ -1,5 +1,9 @@
 #include "form_lu_di_prova.h"
 
+#include <QApplication>
+
+#include "support/iscrizione.h"
+
 using namespace prova;
 using somme::FormLU;
 
@@ -328,5 +332,5 @@ class CasoLUTest : public QObject {
   }
 };
 
-QTEST_MAIN(CasoLUTest)
+const prova::Iscrizione<CasoLUTest, QApplication> kIscritta;
 #include "caso_lu_test.moc"

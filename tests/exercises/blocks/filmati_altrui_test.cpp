@@ -1,8 +1,11 @@
 #include "filmati_altrui.h"
 
+#include <QApplication>
+
 #include "blocchi_toccati.h"
 #include "exercises/blocks/form_hlu.h"
 #include "exercises/blocks/form_lu.h"
+#include "support/iscrizione.h"
 
 using namespace prova;
 using somme::FormHLU;
@@ -196,5 +199,5 @@ class FilmatiAltruiTest : public QObject {
   }
 };
 
-QTEST_MAIN(FilmatiAltruiTest)
+const prova::Iscrizione<FilmatiAltruiTest, QApplication> kIscritta;
 #include "filmati_altrui_test.moc"

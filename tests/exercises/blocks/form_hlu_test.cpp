@@ -1,6 +1,9 @@
 #include "form_hlu_di_prova.h"
 
+#include <QApplication>
 #include <cmath>
+
+#include "support/iscrizione.h"
 
 using namespace prova;
 using somme::FormHLU;
@@ -247,5 +250,5 @@ class FormHLUTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormHLUTest)
+const prova::Iscrizione<FormHLUTest, QApplication> kIscritta;
 #include "form_hlu_test.moc"

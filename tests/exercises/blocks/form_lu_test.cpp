@@ -1,6 +1,9 @@
 #include "form_lu_di_prova.h"
 
+#include <QApplication>
 #include <cmath>
+
+#include "support/iscrizione.h"
 
 using namespace prova;
 using somme::FormLU;
@@ -376,5 +379,5 @@ class FormLUTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormLUTest)
+const prova::Iscrizione<FormLUTest, QApplication> kIscritta;
 #include "form_lu_test.moc"

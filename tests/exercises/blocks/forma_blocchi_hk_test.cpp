@@ -1,8 +1,10 @@
 #include "exercises/blocks/forma_blocchi_hk.h"
 
+#include <QApplication>
 #include <cmath>
 
 #include "blocchi_toccati.h"
+#include "support/iscrizione.h"
 
 using namespace prova;
 using somme::FormaBlocchiHK;
@@ -203,5 +205,5 @@ class FormaBlocchiHKTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaBlocchiHKTest)
+const prova::Iscrizione<FormaBlocchiHKTest, QApplication> kIscritta;
 #include "forma_blocchi_hk_test.moc"

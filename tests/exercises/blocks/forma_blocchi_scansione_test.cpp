@@ -1,8 +1,10 @@
 #include "exercises/blocks/forma_blocchi_scansione.h"
 
+#include <QApplication>
 #include <cmath>
 
 #include "blocchi_scanditi.h"
+#include "support/iscrizione.h"
 
 using namespace prova;
 using somme::FormHLUScansione;
@@ -217,5 +219,5 @@ class FormaBlocchiScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaBlocchiScansioneTest)
+const prova::Iscrizione<FormaBlocchiScansioneTest, QApplication> kIscritta;
 #include "forma_blocchi_scansione_test.moc"

@@ -3,6 +3,7 @@
 #include "blocchi_toccati.h"
 #include "exercises/blocks/form_hlu.h"
 #include "exercises/blocks/form_lu.h"
+#include "support/iscrizione.h"
 
 using namespace prova;
 
@@ -110,5 +111,5 @@ class FuocoBlocchiTest : public QObject {
   }
 };
 
-QTEST_MAIN(FuocoBlocchiTest)
+const prova::Iscrizione<FuocoBlocchiTest, QApplication> kIscritta;
 #include "fuoco_blocchi_test.moc"

@@ -1,6 +1,9 @@
 #include "exercises/core/input_tocco.h"
 
+#include <QApplication>
+
 #include "forma_toccata.h"
+#include "support/iscrizione.h"
 
 using namespace prova;
 using namespace somme;
@@ -193,5 +196,5 @@ class InputToccoTest : public QObject {
   }
 };
 
-QTEST_MAIN(InputToccoTest)
+const prova::Iscrizione<InputToccoTest, QApplication> kIscritta;
 #include "input_tocco_test.moc"

@@ -1,6 +1,9 @@
 #include "exercises/core/quantita.h"
 
+#include <QApplication>
+
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::InParole;
@@ -47,5 +50,5 @@ class QuantitaTest : public QObject {
   }
 };
 
-QTEST_MAIN(QuantitaTest)
+const prova::Iscrizione<QuantitaTest, QApplication> kIscritta;
 #include "quantita_test.moc"

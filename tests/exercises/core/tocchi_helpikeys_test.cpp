@@ -1,6 +1,8 @@
+#include <QApplication>
 #include <utility>
 
 #include "forma_toccata.h"
+#include "support/iscrizione.h"
 
 using namespace prova;
 using namespace somme;
@@ -186,5 +188,5 @@ class TocchiHelpiKeysTest : public QObject {
   }
 };
 
-QTEST_MAIN(TocchiHelpiKeysTest)
+const prova::Iscrizione<TocchiHelpiKeysTest, QApplication> kIscritta;
 #include "tocchi_helpikeys_test.moc"

@@ -1,7 +1,10 @@
 #include "app/shared/nomi_forme.h"
+
+#include <QApplication>
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "exercises/numbers/forma_numeri_scansione.h"
 #include "exercises/numbers/forma_numeri_tastiera.h"
+#include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 #include "support/tocchi.h"
 
@@ -111,5 +114,5 @@ class AnnunciNumeriTest : public QObject {
   }
 };
 
-QTEST_MAIN(AnnunciNumeriTest)
+const prova::Iscrizione<AnnunciNumeriTest, QApplication> kIscritta;
 #include "annunci_numeri_test.moc"

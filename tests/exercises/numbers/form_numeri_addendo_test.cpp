@@ -1,7 +1,10 @@
 #include "exercises/numbers/forma_numeri_tastiera.h"
 
+#include <QApplication>
+
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormaNumeriTastiera;
@@ -111,5 +114,5 @@ class FormNumeriAddendoTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormNumeriAddendoTest)
+const prova::Iscrizione<FormNumeriAddendoTest, QApplication> kIscritta;
 #include "form_numeri_addendo_test.moc"

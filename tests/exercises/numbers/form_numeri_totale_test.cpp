@@ -7,6 +7,7 @@
 #include "app/shared/nomi_forme.h"
 #include "cases/modulo_somme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormaNumeriTastiera;
@@ -369,5 +370,5 @@ class FormNumeriTotaleTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormNumeriTotaleTest)
+const prova::Iscrizione<FormNumeriTotaleTest, QApplication> kIscritta;
 #include "form_numeri_totale_test.moc"

@@ -1,10 +1,12 @@
 #include "exercises/numbers/forma_numeri_hk.h"
 
 #include <QAction>
+#include <QApplication>
 
 #include "app/shared/nomi_forme.h"
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 #include "support/tocchi.h"
 
 using prova::Banco;
@@ -295,5 +297,5 @@ class FormaNumeriHKTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaNumeriHKTest)
+const prova::Iscrizione<FormaNumeriHKTest, QApplication> kIscritta;
 #include "forma_numeri_hk_test.moc"

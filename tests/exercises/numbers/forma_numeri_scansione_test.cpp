@@ -1,7 +1,10 @@
 #include "exercises/numbers/forma_numeri_scansione.h"
 
+#include <QApplication>
+
 #include "app/form_menu_numeri.h"
 #include "app/shared/nomi_forme.h"
+#include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 
 using prova::Banco;
@@ -273,5 +276,5 @@ class FormaNumeriScansioneTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormaNumeriScansioneTest)
+const prova::Iscrizione<FormaNumeriScansioneTest, QApplication> kIscritta;
 #include "forma_numeri_scansione_test.moc"

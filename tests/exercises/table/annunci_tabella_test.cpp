@@ -1,6 +1,9 @@
 #include "app/shared/nomi_forme.h"
+
+#include <QApplication>
 #include "exercises/table/form_tabella.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormTabella;
@@ -27,5 +30,5 @@ class AnnunciTabellaTest : public QObject {
   }
 };
 
-QTEST_MAIN(AnnunciTabellaTest)
+const prova::Iscrizione<AnnunciTabellaTest, QApplication> kIscritta;
 #include "annunci_tabella_test.moc"

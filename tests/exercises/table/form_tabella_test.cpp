@@ -1,9 +1,11 @@
 #include "exercises/table/form_tabella.h"
 
 #include <QAction>
+#include <QApplication>
 
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormTabella;
@@ -291,5 +293,5 @@ class FormTabellaTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormTabellaTest)
+const prova::Iscrizione<FormTabellaTest, QApplication> kIscritta;
 #include "form_tabella_test.moc"

@@ -7,6 +7,7 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/table/form_tabella.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using prova::Banco;
 using somme::FormTabella;
@@ -226,5 +227,5 @@ class TastiTabellaTest : public QObject {
   }
 };
 
-QTEST_MAIN(TastiTabellaTest)
+const prova::Iscrizione<TastiTabellaTest, QApplication> kIscritta;
 #include "tasti_tabella_test.moc"

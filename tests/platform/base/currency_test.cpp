@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "platform/base/run_time_error.h"
+#include "support/iscrizione.h"
 
 using platform::Currency;
 using platform::RunTimeError;
@@ -71,5 +72,5 @@ class CurrencyTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(CurrencyTest)
+const prova::Iscrizione<CurrencyTest> kIscritta;
 #include "currency_test.moc"

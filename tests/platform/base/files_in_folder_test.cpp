@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 class FilesInFolderTest : public QObject {
   Q_OBJECT
 
@@ -46,5 +48,5 @@ class FilesInFolderTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(FilesInFolderTest)
+const prova::Iscrizione<FilesInFolderTest> kIscritta;
 #include "files_in_folder_test.moc"

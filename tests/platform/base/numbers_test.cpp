@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "platform/base/chance.h"
+#include "support/iscrizione.h"
 
 using platform::RunTimeError;
 
@@ -248,5 +249,5 @@ class NumbersTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(NumbersTest)
+const prova::Iscrizione<NumbersTest> kIscritta;
 #include "numbers_test.moc"

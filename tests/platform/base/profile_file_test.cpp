@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "platform/base/profile_reader.h"
+#include "support/iscrizione.h"
 
 namespace {
 
@@ -236,5 +237,5 @@ class ProfileFileTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ProfileFileTest)
+const prova::Iscrizione<ProfileFileTest> kIscritta;
 #include "profile_file_test.moc"

@@ -3,6 +3,8 @@
 #include <QBuffer>
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using platform::ProfileLines;
 
 namespace {
@@ -213,5 +215,5 @@ class ProfileLinesTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ProfileLinesTest)
+const prova::Iscrizione<ProfileLinesTest> kIscritta;
 #include "profile_lines_test.moc"

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "platform/base/run_time_error.h"
+#include "support/iscrizione.h"
 
 using platform::ProfileReader;
 using platform::RunTimeError;
@@ -130,5 +131,5 @@ class ProfileReaderTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ProfileReaderTest)
+const prova::Iscrizione<ProfileReaderTest> kIscritta;
 #include "profile_reader_test.moc"

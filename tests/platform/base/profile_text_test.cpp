@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using platform::ProfileText;
 
 namespace {
@@ -215,5 +217,5 @@ class ProfileTextTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ProfileTextTest)
+const prova::Iscrizione<ProfileTextTest> kIscritta;
 #include "profile_text_test.moc"

@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using platform::RunTimeError;
 
 class RunTimeErrorTest : public QObject {
@@ -31,5 +33,5 @@ class RunTimeErrorTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(RunTimeErrorTest)
+const prova::Iscrizione<RunTimeErrorTest> kIscritta;
 #include "run_time_error_test.moc"

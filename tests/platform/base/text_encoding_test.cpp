@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using platform::TextEncoding;
 
 class TextEncodingTest : public QObject {
@@ -62,5 +64,5 @@ class TextEncodingTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TextEncodingTest)
+const prova::Iscrizione<TextEncodingTest> kIscritta;
 #include "text_encoding_test.moc"

@@ -1,6 +1,7 @@
 #include "platform/boards/board.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QTemporaryDir>
 
 #include "platform/flash/hand_made.h"
@@ -8,6 +9,7 @@
 #include "platform/forms/controls/button.h"
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
+#include "support/iscrizione.h"
 
 using namespace hand_made;
 using platform::Board;
@@ -312,5 +314,5 @@ class BoardTest : public QObject {
   }
 };
 
-QTEST_MAIN(BoardTest)
+const prova::Iscrizione<BoardTest, QApplication> kIscritta;
 #include "board_test.moc"

@@ -1,11 +1,13 @@
 #include "platform/devices/bounded_work.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
 #include <future>
 
 #include "platform/devices/qt_time_source.h"
+#include "support/iscrizione.h"
 
 using platform::BoundedWork;
 using platform::Waiting;
@@ -108,5 +110,5 @@ class BoundedWorkTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(BoundedWorkTest)
+const prova::Iscrizione<BoundedWorkTest, QCoreApplication> kIscritta;
 #include "bounded_work_test.moc"

@@ -1,11 +1,14 @@
 #include "platform/devices/desktop_documents.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <memory>
+
+#include "support/iscrizione.h"
 
 using platform::DesktopDocuments;
 
@@ -117,5 +120,5 @@ class DesktopDocumentsTest : public QObject {
   QString document_;
 };
 
-QTEST_GUILESS_MAIN(DesktopDocumentsTest)
+const prova::Iscrizione<DesktopDocumentsTest, QCoreApplication> kIscritta;
 #include "desktop_documents_test.moc"

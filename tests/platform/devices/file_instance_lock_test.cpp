@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -12,6 +13,8 @@
 #include <QTemporaryFile>
 #include <QTest>
 #include <memory>
+
+#include "support/iscrizione.h"
 
 using platform::FileInstanceLock;
 
@@ -251,5 +254,5 @@ class FileInstanceLockTest : public QObject {
   std::unique_ptr<QTemporaryDir> folder_;
 };
 
-QTEST_GUILESS_MAIN(FileInstanceLockTest)
+const prova::Iscrizione<FileInstanceLockTest, QCoreApplication> kIscritta;
 #include "file_instance_lock_test.moc"

@@ -1,9 +1,12 @@
 #include "platform/devices/loopback_network.h"
 
+#include <QCoreApplication>
 #include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+
+#include "support/iscrizione.h"
 
 using platform::Connection;
 using platform::LoopbackNetwork;
@@ -231,5 +234,5 @@ class LoopbackNetworkTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(LoopbackNetworkTest)
+const prova::Iscrizione<LoopbackNetworkTest, QCoreApplication> kIscritta;
 #include "loopback_network_test.moc"

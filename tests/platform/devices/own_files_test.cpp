@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTest>
 #include <array>
@@ -11,6 +12,7 @@
 #include <thread>
 
 #include "platform/devices/quiet_thread.h"
+#include "support/iscrizione.h"
 
 using platform::startQuietThread;
 using platform::takeOwnFiles;
@@ -164,5 +166,5 @@ class OwnFilesTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(OwnFilesTest)
+const prova::Iscrizione<OwnFilesTest, QCoreApplication> kIscritta;
 #include "own_files_test.moc"

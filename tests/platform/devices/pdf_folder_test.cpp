@@ -4,6 +4,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -13,6 +14,7 @@
 #include <utility>
 
 #include "full_disk.h"
+#include "support/iscrizione.h"
 
 using devices_test::FullDisk;
 using platform::PdfFolder;
@@ -227,5 +229,5 @@ class PdfFolderTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(PdfFolderTest)
+const prova::Iscrizione<PdfFolderTest, QCoreApplication> kIscritta;
 #include "pdf_folder_test.moc"

@@ -1,5 +1,6 @@
 #include "platform/devices/qt_time_source.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QPointer>
@@ -11,6 +12,8 @@
 #include <functional>
 #include <memory>
 #include <vector>
+
+#include "support/iscrizione.h"
 
 using platform::QtTimeSource;
 using platform::Ticker;
@@ -381,5 +384,5 @@ class QtTimeSourceTest : public QObject {
   QObject context_;
 };
 
-QTEST_GUILESS_MAIN(QtTimeSourceTest)
+const prova::Iscrizione<QtTimeSourceTest, QCoreApplication> kIscritta;
 #include "qt_time_source_test.moc"

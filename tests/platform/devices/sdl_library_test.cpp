@@ -1,7 +1,10 @@
 #include "platform/devices/sdl_library.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTest>
+
+#include "support/iscrizione.h"
 
 using platform::SdlLibrary;
 
@@ -33,5 +36,5 @@ class SdlLibraryTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(SdlLibraryTest)
+const prova::Iscrizione<SdlLibraryTest, QCoreApplication> kIscritta;
 #include "sdl_library_test.moc"

@@ -1,5 +1,6 @@
 #include "platform/devices/sdl_sound.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>
@@ -10,6 +11,8 @@
 #include <QTest>
 #include <QtEndian>
 #include <memory>
+
+#include "support/iscrizione.h"
 
 namespace {
 
@@ -339,5 +342,5 @@ class SdlSoundTest : public QObject {
   QProcessEnvironment environment_;
 };
 
-QTEST_GUILESS_MAIN(SdlSoundTest)
+const prova::Iscrizione<SdlSoundTest, QCoreApplication> kIscritta;
 #include "sdl_sound_test.moc"

@@ -1,5 +1,6 @@
 #include "platform/devices/system_printers.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -12,6 +13,7 @@
 #include "platform/devices/cups_library.h"
 #include "platform/devices/qt_time_source.h"
 #include "print_server.h"
+#include "support/iscrizione.h"
 
 using devices_test::MutedServer;
 using devices_test::PrintServer;
@@ -362,5 +364,5 @@ class SystemPrintersTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(SystemPrintersTest)
+const prova::Iscrizione<SystemPrintersTest, QCoreApplication> kIscritta;
 #include "system_printers_test.moc"

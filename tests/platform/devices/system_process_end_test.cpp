@@ -1,8 +1,11 @@
 #include "platform/devices/system_process_end.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTest>
+
+#include "support/iscrizione.h"
 
 class SystemProcessEndTest : public QObject {
   Q_OBJECT
@@ -29,5 +32,5 @@ class SystemProcessEndTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(SystemProcessEndTest)
+const prova::Iscrizione<SystemProcessEndTest, QCoreApplication> kIscritta;
 #include "system_process_end_test.moc"

@@ -1,12 +1,14 @@
 #include "platform/flash/accessible_movie.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
 
 #include "hand_made.h"
 #include "platform/flash/movie_view.h"
 #include "support/desktop_di_prova.h"
+#include "support/iscrizione.h"
 #include "view_bench.h"
 
 using namespace hand_made;
@@ -194,5 +196,5 @@ class AccessibleMovieTest : public QObject {
   }
 };
 
-QTEST_MAIN(AccessibleMovieTest)
+const prova::Iscrizione<AccessibleMovieTest, QApplication> kIscritta;
 #include "accessible_movie_test.moc"

@@ -9,6 +9,7 @@
 #include "platform/flash/player.h"
 #include "platform/flash/renderer.h"
 #include "step_cost.h"
+#include "support/iscrizione.h"
 
 using namespace costly;
 using namespace platform::flash;
@@ -284,5 +285,5 @@ class BrokenFilesTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(BrokenFilesTest)
+const prova::Iscrizione<BrokenFilesTest> kIscritta;
 #include "broken_files_test.moc"

@@ -4,6 +4,7 @@
 
 #include "platform/flash/limits.h"
 #include "scripts.h"
+#include "support/iscrizione.h"
 
 using platform::flash::Budget;
 using namespace scripts;
@@ -113,5 +114,5 @@ class BudgetTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(BudgetTest)
+const prova::Iscrizione<BudgetTest> kIscritta;
 #include "budget_test.moc"

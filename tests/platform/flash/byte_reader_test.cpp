@@ -7,6 +7,7 @@
 #include "platform/flash/bit_reader.h"
 #include "platform/flash/movie_error.h"
 #include "platform/flash/structures.h"
+#include "support/iscrizione.h"
 
 using namespace platform::flash;
 
@@ -141,5 +142,5 @@ class ByteReaderTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ByteReaderTest)
+const prova::Iscrizione<ByteReaderTest> kIscritta;
 #include "byte_reader_test.moc"

@@ -8,6 +8,7 @@
 #include "platform/flash/player.h"
 #include "platform/flash/renderer.h"
 #include "step_cost.h"
+#include "support/iscrizione.h"
 
 using namespace platform::flash;
 using step_cost::costOf;
@@ -84,5 +85,5 @@ class CostlyMoviesTest : public QObject {
   const std::vector<costly::Movie> movies_ = costly::movies();
 };
 
-QTEST_APPLESS_MAIN(CostlyMoviesTest)
+const prova::Iscrizione<CostlyMoviesTest> kIscritta;
 #include "costly_movies_test.moc"

@@ -1,5 +1,6 @@
 // Movies that ask for much, in a window: it goes on, and one line tells of them.
 
+#include <QApplication>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTest>
@@ -8,6 +9,7 @@
 #include "platform/flash/limits.h"
 #include "platform/flash/movie_view.h"
 #include "step_cost.h"
+#include "support/iscrizione.h"
 #include "view_bench.h"
 
 using namespace hand_made;
@@ -138,5 +140,5 @@ class CostlyViewTest : public QObject {
   }
 };
 
-QTEST_MAIN(CostlyViewTest)
+const prova::Iscrizione<CostlyViewTest, QApplication> kIscritta;
 #include "costly_view_test.moc"

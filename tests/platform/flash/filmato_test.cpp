@@ -1,5 +1,6 @@
 // The program filmato, run as a process on movies made by hand.
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -11,6 +12,7 @@
 #include <QTest>
 
 #include "hand_made.h"
+#include "support/iscrizione.h"
 
 using namespace hand_made;
 
@@ -75,8 +77,9 @@ class FilmatoTest : public QObject {
     QCOMPARE(result.status, 0);
     QCOMPARE(result.records.size(), 2);
     QCOMPARE(result.records[0],
-             QJsonDocument::fromJson(R"({"ev":"meta","version":6,"compressed":false,"frames":2,
-                "width":210,"height":90,"rate":12,"background":"#FFEE0A"})")
+             QJsonDocument::fromJson(
+                 "{\"ev\":\"meta\",\"version\":6,\"compressed\":false,\"frames\":2,"
+                 "\"width\":210,\"height\":90,\"rate\":12,\"background\":\"#FFEE0A\"}")
                  .object());
     QCOMPARE(result.records[1], QJsonDocument::fromJson(R"({"ev":"done","ok":true})").object());
   }
@@ -195,5 +198,5 @@ class FilmatoTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(FilmatoTest)
+const prova::Iscrizione<FilmatoTest, QCoreApplication> kIscritta;
 #include "filmato_test.moc"

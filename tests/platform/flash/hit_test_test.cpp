@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "pointer_bench.h"
+#include "support/iscrizione.h"
 
 using namespace hand_made;
 using namespace pointer_bench;
@@ -133,5 +134,5 @@ class HitTestTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(HitTestTest)
+const prova::Iscrizione<HitTestTest> kIscritta;
 #include "hit_test_test.moc"

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "scripts.h"
+#include "support/iscrizione.h"
 
 using namespace scripts;
 
@@ -207,5 +208,5 @@ class InterpreterTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(InterpreterTest)
+const prova::Iscrizione<InterpreterTest> kIscritta;
 #include "interpreter_test.moc"

@@ -6,6 +6,7 @@
 
 #include "hand_made.h"
 #include "platform/flash/limits.h"
+#include "support/iscrizione.h"
 
 using namespace hand_made;
 using namespace platform::flash;
@@ -284,5 +285,5 @@ class MovieReaderTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(MovieReaderTest)
+const prova::Iscrizione<MovieReaderTest> kIscritta;
 #include "movie_reader_test.moc"

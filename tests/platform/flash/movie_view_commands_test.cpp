@@ -1,9 +1,11 @@
+#include <QApplication>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
 #include "hand_made.h"
 #include "platform/flash/movie_view.h"
+#include "support/iscrizione.h"
 #include "view_bench.h"
 
 using namespace hand_made;
@@ -215,5 +217,5 @@ class MovieViewCommandsTest : public QObject {
   }
 };
 
-QTEST_MAIN(MovieViewCommandsTest)
+const prova::Iscrizione<MovieViewCommandsTest, QApplication> kIscritta;
 #include "movie_view_commands_test.moc"

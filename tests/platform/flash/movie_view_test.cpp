@@ -1,11 +1,13 @@
 #include "platform/flash/movie_view.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QPaintEvent>
 #include <QRegularExpression>
 #include <QTest>
 
 #include "hand_made.h"
+#include "support/iscrizione.h"
 #include "view_bench.h"
 
 using namespace hand_made;
@@ -258,5 +260,5 @@ class MovieViewTest : public QObject {
   }
 };
 
-QTEST_MAIN(MovieViewTest)
+const prova::Iscrizione<MovieViewTest, QApplication> kIscritta;
 #include "movie_view_test.moc"

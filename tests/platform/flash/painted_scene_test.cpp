@@ -1,5 +1,7 @@
 #include "painted.h"
 
+#include "support/iscrizione.h"
+
 using namespace painted;
 
 // How what is placed is painted: colours, depths, masks, matrices, texts.
@@ -159,5 +161,5 @@ class PaintedSceneTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PaintedSceneTest)
+const prova::Iscrizione<PaintedSceneTest> kIscritta;
 #include "painted_scene_test.moc"

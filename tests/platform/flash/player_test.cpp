@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "hand_made.h"
+#include "support/iscrizione.h"
 
 using namespace hand_made;
 using platform::flash::Player;
@@ -393,5 +394,5 @@ class PlayerTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PlayerTest)
+const prova::Iscrizione<PlayerTest> kIscritta;
 #include "player_test.moc"

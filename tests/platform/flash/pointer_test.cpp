@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "pointer_bench.h"
+#include "support/iscrizione.h"
 
 using namespace hand_made;
 using namespace pointer_bench;
@@ -233,5 +234,5 @@ class PointerTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PointerTest)
+const prova::Iscrizione<PointerTest> kIscritta;
 #include "pointer_test.moc"

@@ -1,5 +1,7 @@
 #include "painted.h"
 
+#include "support/iscrizione.h"
+
 using namespace painted;
 
 // Shapes: their fills, lines and styles.
@@ -368,5 +370,5 @@ class RendererTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(RendererTest)
+const prova::Iscrizione<RendererTest> kIscritta;
 #include "renderer_test.moc"

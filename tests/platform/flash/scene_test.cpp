@@ -4,6 +4,7 @@
 
 #include "hand_made.h"
 #include "platform/flash/player.h"
+#include "support/iscrizione.h"
 
 using namespace hand_made;
 using namespace platform::flash;
@@ -104,5 +105,5 @@ class SceneTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(SceneTest)
+const prova::Iscrizione<SceneTest> kIscritta;
 #include "scene_test.moc"

@@ -6,6 +6,7 @@
 #include "hand_made.h"
 #include "platform/flash/limits.h"
 #include "platform/flash/player.h"
+#include "support/iscrizione.h"
 
 using namespace hand_made;
 using namespace platform::flash;
@@ -108,5 +109,5 @@ class ScriptMemoryTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ScriptMemoryTest)
+const prova::Iscrizione<ScriptMemoryTest> kIscritta;
 #include "script_memory_test.moc"

@@ -5,6 +5,7 @@
 
 #include "platform/flash/limits.h"
 #include "scripts.h"
+#include "support/iscrizione.h"
 
 using namespace scripts;
 
@@ -291,5 +292,5 @@ class ScriptScopeTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ScriptScopeTest)
+const prova::Iscrizione<ScriptScopeTest> kIscritta;
 #include "script_scope_test.moc"

@@ -1,8 +1,11 @@
 #include "platform/forms/accessible_events.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+
+#include "support/iscrizione.h"
 
 using Told = std::vector<std::pair<QObject*, QAccessible::Event>>;
 
@@ -108,5 +111,5 @@ class AccessibleEventsTest : public QObject {
   }
 };
 
-QTEST_MAIN(AccessibleEventsTest)
+const prova::Iscrizione<AccessibleEventsTest, QApplication> kIscritta;
 #include "accessible_events_test.moc"

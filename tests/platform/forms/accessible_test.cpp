@@ -5,6 +5,7 @@
 
 #include "platform/forms/qt_announcer.h"
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::Stage;
@@ -106,5 +107,5 @@ class AccessibleTest : public QObject {
   }
 };
 
-QTEST_MAIN(AccessibleTest)
+const prova::Iscrizione<AccessibleTest, QApplication> kIscritta;
 #include "accessible_test.moc"

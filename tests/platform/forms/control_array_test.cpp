@@ -1,10 +1,12 @@
 #include "platform/forms/control_array.h"
 
+#include <QApplication>
 #include <QWidget>
 #include <cmath>
 #include <stdexcept>
 
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::Stage;
@@ -178,5 +180,5 @@ class ControlArrayTest : public QObject {
   }
 };
 
-QTEST_MAIN(ControlArrayTest)
+const prova::Iscrizione<ControlArrayTest, QApplication> kIscritta;
 #include "control_array_test.moc"

@@ -2,6 +2,7 @@
 #include <QPlainTextEdit>
 
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::Stage;
@@ -263,5 +264,5 @@ class CoveringPanelTest : public QObject {
   }
 };
 
-QTEST_MAIN(CoveringPanelTest)
+const prova::Iscrizione<CoveringPanelTest, QApplication> kIscritta;
 #include "covering_panel_test.moc"

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using platform::Button;
 using platform::ControlArray;
@@ -169,5 +170,5 @@ class DesignTest : public QObject {
   }
 };
 
-QTEST_MAIN(DesignTest)
+const prova::Iscrizione<DesignTest, QApplication> kIscritta;
 #include "design_test.moc"

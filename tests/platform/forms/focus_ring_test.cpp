@@ -1,9 +1,12 @@
 #include "platform/forms/focus_ring.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QPainter>
 #include <QTest>
 #include <QWidget>
+
+#include "support/iscrizione.h"
 
 using platform::kFocusRingWidth;
 using platform::markScale;
@@ -57,5 +60,5 @@ class FocusRingTest : public QObject {
   }
 };
 
-QTEST_MAIN(FocusRingTest)
+const prova::Iscrizione<FocusRingTest, QApplication> kIscritta;
 #include "focus_ring_test.moc"

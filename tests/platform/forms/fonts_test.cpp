@@ -1,6 +1,9 @@
 #include "platform/forms/fonts.h"
 
+#include <QApplication>
 #include <QtTest>
+
+#include "support/iscrizione.h"
 
 using platform::largestThatFits;
 
@@ -37,5 +40,5 @@ class FontsTest : public QObject {
   }
 };
 
-QTEST_MAIN(FontsTest)
+const prova::Iscrizione<FontsTest, QApplication> kIscritta;
 #include "fonts_test.moc"

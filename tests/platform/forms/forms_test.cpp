@@ -7,6 +7,7 @@
 #include "leading_form.h"
 #include "platform/base/run_time_error.h"
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::kThree;
@@ -322,5 +323,5 @@ class FormsTest : public QObject {
   }
 };
 
-QTEST_MAIN(FormsTest)
+const prova::Iscrizione<FormsTest, QApplication> kIscritta;
 #include "forms_test.moc"

@@ -1,6 +1,9 @@
 #include "platform/forms/gate.h"
 
+#include <QApplication>
+
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using platform::Gate;
 using trial::kOne;
@@ -333,5 +336,5 @@ class GateTest : public QObject {
   }
 };
 
-QTEST_MAIN(GateTest)
+const prova::Iscrizione<GateTest, QApplication> kIscritta;
 #include "gate_test.moc"

@@ -1,11 +1,13 @@
 #include "platform/forms/geometry.h"
 #include "platform/forms/menu_bar.h"
 
+#include <QApplication>
 #include <QWidget>
 #include <cmath>
 #include <random>
 
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using platform::clientPixels;
 using platform::Scale;
@@ -241,5 +243,5 @@ class GeometryTest : public QObject {
   }
 };
 
-QTEST_MAIN(GeometryTest)
+const prova::Iscrizione<GeometryTest, QApplication> kIscritta;
 #include "geometry_test.moc"

@@ -1,9 +1,11 @@
+#include <QCoreApplication>
 #include <QTest>
 #include <algorithm>
 #include <random>
 #include <vector>
 
 #include "key_listener.h"
+#include "support/iscrizione.h"
 
 using namespace std::chrono_literals;
 using namespace key_listener;
@@ -247,5 +249,5 @@ class HeldKeysTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(HeldKeysTest)
+const prova::Iscrizione<HeldKeysTest, QCoreApplication> kIscritta;
 #include "held_keys_test.moc"

@@ -1,7 +1,9 @@
+#include <QCoreApplication>
 #include <QTest>
 #include <vector>
 
 #include "key_listener.h"
+#include "support/iscrizione.h"
 
 using namespace std::chrono_literals;
 using namespace key_listener;
@@ -245,5 +247,5 @@ class KeyStateTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(KeyStateTest)
+const prova::Iscrizione<KeyStateTest, QCoreApplication> kIscritta;
 #include "key_state_test.moc"

@@ -1,5 +1,8 @@
 #include "leading_form.h"
+
+#include <QApplication>
 #include "platform/forms/forms.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::kTwo;
@@ -105,5 +108,5 @@ class PageChangeTest : public QObject {
   }
 };
 
-QTEST_MAIN(PageChangeTest)
+const prova::Iscrizione<PageChangeTest, QApplication> kIscritta;
 #include "page_change_test.moc"

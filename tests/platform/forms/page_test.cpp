@@ -1,11 +1,13 @@
 #include "platform/forms/page.h"
 #include "platform/forms/menu_bar.h"
 
+#include <QApplication>
 #include <QImage>
 #include <cmath>
 #include <set>
 
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::Stage;
@@ -145,5 +147,5 @@ class PageTest : public QObject {
   }
 };
 
-QTEST_MAIN(PageTest)
+const prova::Iscrizione<PageTest, QApplication> kIscritta;
 #include "page_test.moc"

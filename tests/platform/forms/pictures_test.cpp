@@ -1,10 +1,13 @@
 #include "platform/forms/pictures.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include "support/iscrizione.h"
 
 using platform::Pictures;
 
@@ -96,5 +99,5 @@ class PicturesTest : public QObject {
   }
 };
 
-QTEST_MAIN(PicturesTest)
+const prova::Iscrizione<PicturesTest, QApplication> kIscritta;
 #include "pictures_test.moc"

@@ -2,12 +2,14 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QApplication>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTimer>
 
 #include "platform/forms/qt_message_boxes.h"
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::Stage;
@@ -100,5 +102,5 @@ class PressTest : public QObject {
   }
 };
 
-QTEST_MAIN(PressTest)
+const prova::Iscrizione<PressTest, QApplication> kIscritta;
 #include "press_test.moc"

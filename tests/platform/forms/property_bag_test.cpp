@@ -1,6 +1,9 @@
 #include "platform/forms/property_bag.h"
 
+#include <QApplication>
 #include <QTest>
+
+#include "support/iscrizione.h"
 
 using platform::convertedTo;
 using platform::PropertyBag;
@@ -79,5 +82,5 @@ class PropertyBagTest : public QObject {
   }
 };
 
-QTEST_MAIN(PropertyBagTest)
+const prova::Iscrizione<PropertyBagTest, QApplication> kIscritta;
 #include "property_bag_test.moc"

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/forms/appearance.h"
+#include "support/iscrizione.h"
 
 using platform::BoxAnswer;
 using platform::BoxButtons;
@@ -202,5 +203,5 @@ class QtMessageBoxesTest : public QObject {
   }
 };
 
-QTEST_MAIN(QtMessageBoxesTest)
+const prova::Iscrizione<QtMessageBoxesTest, QApplication> kIscritta;
 #include "qt_message_boxes_test.moc"

@@ -11,6 +11,7 @@
 
 #include "platform/base/paper_codes.h"
 #include "platform/forms/appearance.h"
+#include "support/iscrizione.h"
 
 using platform::ColourMode;
 using platform::Orientation;
@@ -156,5 +157,5 @@ class QtPageSetupTest : public QObject {
   }
 };
 
-QTEST_MAIN(QtPageSetupTest)
+const prova::Iscrizione<QtPageSetupTest, QApplication> kIscritta;
 #include "qt_page_setup_test.moc"

@@ -1,5 +1,8 @@
 #include "platform/base/run_time_error.h"
+
+#include <QApplication>
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using platform::RunTimeError;
 using trial::kOne;
@@ -117,5 +120,5 @@ class RunTimeErrorsTest : public QObject {
   }
 };
 
-QTEST_MAIN(RunTimeErrorsTest)
+const prova::Iscrizione<RunTimeErrorsTest, QApplication> kIscritta;
 #include "run_time_errors_test.moc"

@@ -1,11 +1,13 @@
 #include "platform/forms/session_end.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QTimer>
 
 #include "platform/forms/qt_message_boxes.h"
 #include "platform/forms/qt_page_setup.h"
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using platform::SessionEnd;
 using trial::kOne;
@@ -93,5 +95,5 @@ class SessionEndTest : public QObject {
   }
 };
 
-QTEST_MAIN(SessionEndTest)
+const prova::Iscrizione<SessionEndTest, QApplication> kIscritta;
 #include "session_end_test.moc"

@@ -1,5 +1,6 @@
 #include "platform/forms/text_block.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
@@ -7,6 +8,7 @@
 #include <cmath>
 
 #include "platform/forms/fonts.h"
+#include "support/iscrizione.h"
 
 using platform::accessKeyOf;
 using platform::Align;
@@ -332,5 +334,5 @@ class TextBlockTest : public QObject {
   }
 };
 
-QTEST_MAIN(TextBlockTest)
+const prova::Iscrizione<TextBlockTest, QApplication> kIscritta;
 #include "text_block_test.moc"

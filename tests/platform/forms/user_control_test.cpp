@@ -1,9 +1,12 @@
 #include "platform/forms/user_control.h"
 
+#include <QApplication>
+
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
+#include "support/iscrizione.h"
 
 using platform::Form;
 using platform::inner;
@@ -216,5 +219,5 @@ class UserControlTest : public QObject {
   }
 };
 
-QTEST_MAIN(UserControlTest)
+const prova::Iscrizione<UserControlTest, QApplication> kIscritta;
 #include "user_control_test.moc"

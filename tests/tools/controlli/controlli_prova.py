@@ -77,6 +77,17 @@ class Casa(unittest.TestCase):
         self.assertEqual(["x::y::A is defined more than once: cases/a.h:2, cases/b.h:4"],
                          list(struttura.nomi_doppi()))
 
+    def test_tests_of_one_folder_stand_in_one_program_and_those_of_two_do_not(self):
+        self.file(tests__cases__a_cpp="struct A {};\n", tests__cases__b_cpp="struct A {};\n",
+                  tests__input__a_cpp="struct A {};\n")
+        self.assertEqual(["A is defined more than once: tests/cases/a.cpp:1, tests/cases/b.cpp:1"],
+                         list(struttura.nomi_doppi()))
+        self.file(tests__cases__b_cpp="struct B {};\nstruct C {};\n", tests__support__c_h="struct B {};\n",
+                  cases__c_h="struct C {};\n")
+        self.assertEqual(["B is defined more than once: tests/cases/b.cpp:1, tests/support/c.h:1",
+                          "C is defined more than once: tests/cases/b.cpp:2, cases/c.h:1"],
+                         list(struttura.nomi_doppi()))
+
     def test_types_that_nobody_else_sees_are_no_pair(self):
         self.file(cases__a_h="namespace x {\nnamespace {\nstruct A {};\n}\nvoid f() {\nstruct B {};\n}"
                              "\nstruct C;\nstruct K { struct D {}; };\n}\n// struct E {};\n",

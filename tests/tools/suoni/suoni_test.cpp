@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFile>
 #include <QProcess>
@@ -12,6 +13,8 @@
 #include <numbers>
 #include <span>
 #include <vector>
+
+#include "support/iscrizione.h"
 
 namespace {
 
@@ -260,5 +263,5 @@ class SuoniTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(SuoniTest)
+const prova::Iscrizione<SuoniTest, QCoreApplication> kIscritta;
 #include "suoni_test.moc"

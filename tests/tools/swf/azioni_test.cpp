@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using namespace somme::swf;
 using Byte = std::vector<std::uint8_t>;
 
@@ -61,5 +63,5 @@ class AzioniTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(AzioniTest)
+const prova::Iscrizione<AzioniTest> kIscritta;
 #include "azioni_test.moc"

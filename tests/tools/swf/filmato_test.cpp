@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
 using namespace somme::swf;
@@ -73,5 +74,5 @@ class FilmatoTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(FilmatoTest)
+const prova::Iscrizione<FilmatoTest> kIscritta;
 #include "filmato_test.moc"

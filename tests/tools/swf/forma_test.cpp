@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
 using namespace somme::swf;
@@ -133,5 +134,5 @@ class FormaTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(FormaTest)
+const prova::Iscrizione<FormaTest> kIscritta;
 #include "forma_test.moc"

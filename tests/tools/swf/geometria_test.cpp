@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
 using namespace somme::swf;
@@ -75,5 +76,5 @@ class GeometriaTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(GeometriaTest)
+const prova::Iscrizione<GeometriaTest> kIscritta;
 #include "geometria_test.moc"

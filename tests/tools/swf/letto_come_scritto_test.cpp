@@ -1,7 +1,9 @@
+#include <QCoreApplication>
 #include <QTest>
 
 #include "platform/flash/movie_reader.h"
 #include "platform/flash/player.h"
+#include "support/iscrizione.h"
 #include "tests/tools/swf/filmato_a_caso.h"
 #include "tests/tools/swf/racconto.h"
 
@@ -101,5 +103,5 @@ class LettoComeScrittoTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(LettoComeScrittoTest)
+const prova::Iscrizione<LettoComeScrittoTest, QCoreApplication> kIscritta;
 #include "letto_come_scritto_test.moc"

@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using namespace somme::swf;
 using Byte = std::vector<std::uint8_t>;
 
@@ -60,5 +62,5 @@ class LineaTempoTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(LineaTempoTest)
+const prova::Iscrizione<LineaTempoTest> kIscritta;
 #include "linea_tempo_test.moc"

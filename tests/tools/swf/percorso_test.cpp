@@ -3,6 +3,8 @@
 #include <QTest>
 #include <cmath>
 
+#include "support/iscrizione.h"
+
 using namespace somme::swf;
 
 class PercorsoTest : public QObject {
@@ -53,5 +55,5 @@ class PercorsoTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PercorsoTest)
+const prova::Iscrizione<PercorsoTest> kIscritta;
 #include "percorso_test.moc"

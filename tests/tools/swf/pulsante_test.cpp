@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using namespace somme::swf;
 using Byte = std::vector<std::uint8_t>;
 
@@ -37,5 +39,5 @@ class PulsanteTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(PulsanteTest)
+const prova::Iscrizione<PulsanteTest> kIscritta;
 #include "pulsante_test.moc"

@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/iscrizione.h"
+
 using somme::swf::ScrittoreByte;
 using Byte = std::vector<std::uint8_t>;
 
@@ -72,5 +74,5 @@ class ScrittoreByteTest : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(ScrittoreByteTest)
+const prova::Iscrizione<ScrittoreByteTest> kIscritta;
 #include "scrittore_byte_test.moc"

@@ -1,6 +1,9 @@
 #include "tools/tavoletta/finestra_tavoletta.h"
 
+#include <QApplication>
 #include <QTest>
+
+#include "support/iscrizione.h"
 
 using somme::tavoletta::FinestraTavoletta;
 using somme::tavoletta::kFogli;
@@ -126,5 +129,5 @@ class FinestraTavolettaTest : public QObject {
   }
 };
 
-QTEST_MAIN(FinestraTavolettaTest)
+const prova::Iscrizione<FinestraTavolettaTest, QApplication> kIscritta;
 #include "finestra_tavoletta_test.moc"

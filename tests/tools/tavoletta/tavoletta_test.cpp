@@ -1,5 +1,6 @@
 #include "tools/tavoletta/tavoletta.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QProcess>
 
@@ -7,6 +8,7 @@
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "platform/devices/loopback_network.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 #include "tools/tavoletta/suggeritore.h"
 
 using prova::Banco;
@@ -279,5 +281,5 @@ class TavolettaTest : public QObject {
   }
 };
 
-QTEST_MAIN(TavolettaTest)
+const prova::Iscrizione<TavolettaTest, QApplication> kIscritta;
 #include "tavoletta_test.moc"

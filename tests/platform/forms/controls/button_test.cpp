@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::Stage;
@@ -424,5 +425,5 @@ class ButtonTest : public QObject {
   }
 };
 
-QTEST_MAIN(ButtonTest)
+const prova::Iscrizione<ButtonTest, QApplication> kIscritta;
 #include "button_test.moc"

@@ -1,9 +1,11 @@
 #include "platform/forms/controls/caption_size.h"
 
+#include <QApplication>
 #include <QTest>
 
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/pictures.h"
+#include "support/iscrizione.h"
 
 using platform::ButtonWidget;
 using platform::CaptionSize;
@@ -87,5 +89,5 @@ class CaptionSizeTest : public QObject {
   std::unique_ptr<CaptionSize> shared;
 };
 
-QTEST_MAIN(CaptionSizeTest)
+const prova::Iscrizione<CaptionSizeTest, QApplication> kIscritta;
 #include "caption_size_test.moc"

@@ -1,5 +1,6 @@
 #include "platform/forms/controls/focus_keeper.h"
 
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -8,6 +9,7 @@
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
+#include "support/iscrizione.h"
 
 using platform::FocusKeeper;
 
@@ -248,5 +250,5 @@ class FocusKeeperTest : public QObject {
   }
 };
 
-QTEST_MAIN(FocusKeeperTest)
+const prova::Iscrizione<FocusKeeperTest, QApplication> kIscritta;
 #include "focus_keeper_test.moc"

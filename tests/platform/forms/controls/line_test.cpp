@@ -1,9 +1,12 @@
 #include "platform/forms/controls/line.h"
 
+#include <QApplication>
+
 #include "platform/forms/controls/label.h"
 #include "platform/forms/controls/picture_box.h"
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
+#include "support/iscrizione.h"
 
 using platform::Form;
 using platform::Row;
@@ -96,5 +99,5 @@ class LineTest : public QObject {
   }
 };
 
-QTEST_MAIN(LineTest)
+const prova::Iscrizione<LineTest, QApplication> kIscritta;
 #include "line_test.moc"

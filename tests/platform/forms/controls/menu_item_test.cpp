@@ -8,6 +8,7 @@
 #include <QWindow>
 
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::kTwo;
@@ -211,5 +212,5 @@ class MenuItemTest : public QObject {
   }
 };
 
-QTEST_MAIN(MenuItemTest)
+const prova::Iscrizione<MenuItemTest, QApplication> kIscritta;
 #include "menu_item_test.moc"

@@ -1,9 +1,11 @@
 #include "platform/forms/controls/rich_text_box.h"
 
+#include <QApplication>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::Stage;
@@ -128,5 +130,5 @@ class RichTextBoxTest : public QObject {
   }
 };
 
-QTEST_MAIN(RichTextBoxTest)
+const prova::Iscrizione<RichTextBoxTest, QApplication> kIscritta;
 #include "rich_text_box_test.moc"

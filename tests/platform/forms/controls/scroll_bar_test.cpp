@@ -1,10 +1,12 @@
 #include "platform/forms/controls/scroll_bar.h"
 
 #include <QAccessible>
+#include <QApplication>
 
 #include "app/shared/forma.h"
 #include "app/tabella_forme.h"
 #include "support/banco.h"
+#include "support/iscrizione.h"
 
 using platform::ScrollBar;
 using prova::Banco;
@@ -178,5 +180,5 @@ class ScrollBarTest : public QObject {
   }
 };
 
-QTEST_MAIN(ScrollBarTest)
+const prova::Iscrizione<ScrollBarTest, QApplication> kIscritta;
 #include "scroll_bar_test.moc"

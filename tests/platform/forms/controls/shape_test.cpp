@@ -1,7 +1,10 @@
 #include "platform/forms/controls/shape.h"
 
+#include <QApplication>
+
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
+#include "support/iscrizione.h"
 
 using platform::Shape;
 
@@ -83,5 +86,5 @@ class ShapeTest : public QObject {
   }
 };
 
-QTEST_MAIN(ShapeTest)
+const prova::Iscrizione<ShapeTest, QApplication> kIscritta;
 #include "shape_test.moc"

@@ -11,6 +11,7 @@
 #include "platform/forms/controls/button.h"
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
+#include "support/iscrizione.h"
 
 using platform::Form;
 using platform::Row;
@@ -444,5 +445,5 @@ class TextBoxTest : public QObject {
   }
 };
 
-QTEST_MAIN(TextBoxTest)
+const prova::Iscrizione<TextBoxTest, QApplication> kIscritta;
 #include "text_box_test.moc"

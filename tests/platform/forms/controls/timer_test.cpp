@@ -1,7 +1,10 @@
 #include "platform/forms/controls/timer.h"
 
+#include <QApplication>
+
 #include "platform/base/run_time_error.h"
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using trial::kOne;
 using trial::Stage;
@@ -141,5 +144,5 @@ class TimerTest : public QObject {
   }
 };
 
-QTEST_MAIN(TimerTest)
+const prova::Iscrizione<TimerTest, QApplication> kIscritta;
 #include "timer_test.moc"

@@ -12,6 +12,7 @@
 #include "keys/sent_keys.h"
 #include "platform/forms/qt_message_boxes.h"
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using platform::KeyGuard;
 using platform::RepeatMarks;
@@ -205,5 +206,5 @@ class KeyGuardTest : public QObject {
   }
 };
 
-QTEST_MAIN(KeyGuardTest)
+const prova::Iscrizione<KeyGuardTest, QApplication> kIscritta;
 #include "key_guard_test.moc"

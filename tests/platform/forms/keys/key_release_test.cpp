@@ -6,6 +6,7 @@
 
 #include "keys/sent_keys.h"
 #include "stage.h"
+#include "support/iscrizione.h"
 
 using platform::KeyGuard;
 using platform::RepeatMarks;
@@ -241,5 +242,5 @@ class KeyReleaseTest : public QObject {
   }
 };
 
-QTEST_MAIN(KeyReleaseTest)
+const prova::Iscrizione<KeyReleaseTest, QApplication> kIscritta;
 #include "key_release_test.moc"
