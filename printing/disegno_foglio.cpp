@@ -1,5 +1,6 @@
 #include "printing/disegno_foglio.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -32,6 +33,15 @@ constexpr std::array<Accesso, sizeof...(i)> Accessi(std::index_sequence<i...> /*
   }...};
 }
 constexpr auto kAccessi = Accessi(std::make_index_sequence<F::kDisegni>());
+
+// Every drawing of every sheet is one of them.
+constexpr bool HaUnDisegno(const TastoPosato& tasto) {
+  return tasto.tasto == Tasto::Nessuno || ComeSiMostra(tasto.tasto) != Mostra::Disegno ||
+         (tasto.controllo >= 1 && tasto.controllo <= F::kDisegni);
+}
+static_assert(std::ranges::all_of(kFogliTasti, [](const FoglioTasti& foglio) {
+  return std::ranges::all_of(foglio.tastiera.tasti, HaUnDisegno);
+}));
 
 constexpr TwipsRect InMezzo(const TwipsRect& cornice, double lato) {
   return {cornice.left + (cornice.width - lato) / 2, cornice.top + (cornice.height - lato) / 2,
