@@ -45,6 +45,11 @@ class BlocchiUnitiTest : public QObject {
     QCOMPARE(uniti.Tolti(Posto::Decine), 0);
   }
 
+  void aNewCaseTakesOffWhatBothBoardsAndACarryCanBringButNoFlats() {
+    QCOMPARE(kRegoleBlocchiEntro99.sgombero, (Quantita{.decine = 9, .unita = 19}));
+    QCOMPARE(kRegoleBlocchiEntro999.sgombero, (Quantita{.decine = 19, .unita = 19}));
+  }
+
   void aWordThatComesTwiceCarriesOnce() {
     BlocchiUniti uniti(kRegoleBlocchiEntro99);
     uniti.Unisci({.decine = 3, .unita = 12});
