@@ -220,6 +220,16 @@ void Gesti::tieni(int profondita) {
   if (dove) batti(QTest::Release, dove, quale);
 }
 
+// A number and its confirmation where the sheet with digits has them, whatever sheet or form is
+// there.
+void Gesti::toccaCifre(const QString& cifre) {
+  const somme::Tastiera& tastiera = somme::kTastieraCifre;
+  for (const QChar cifra : cifre) {
+    tocca(banco_, tastiera, tastiera.PostoDi(somme::TastoCifra(cifra.digitValue())));
+  }
+  tocca(banco_, tastiera, tastiera.PostoDi(somme::Tasto::Conferma));
+}
+
 // A whole answer, often the right one, in the way that the form takes it.
 void Gesti::rispondi(int profondita) {
   const somme::StatoCondiviso& stato = banco_.ambiente->stato;
@@ -229,7 +239,7 @@ void Gesti::rispondi(int profondita) {
   const QString cifre = QString::number(numero);
   racconto_.annota(profondita, QStringLiteral("answer ") + cifre);
   if (stato.ModalitaInput == somme::kHelpiKeys && dadi_.unoSu(2)) {
-    rispondiToccando(banco_, cifre);
+    toccaCifre(cifre);
     return;
   }
   const Form* forma = inUso();

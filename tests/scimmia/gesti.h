@@ -45,6 +45,7 @@ class Gesti {
   void tasto(int profondita);
   void tieni(int profondita);
   void rispondi(int profondita);
+  void toccaCifre(const QString& cifre);
   void mouse(int profondita);
   void controllo(int profondita);
   void menu(int profondita);
