@@ -6,47 +6,53 @@ namespace platform::flash {
 
 namespace {
 
-void pushValues(ScriptRun& run, ByteReader& operand) {
-  const auto constant = [&](std::size_t index) {
-    const ScriptRun::Constants& texts = run.constants();
-    return texts != nullptr && index < texts->texts.size() ? Value(texts->texts[index]) : Value();
-  };
-  while (!operand.atEnd()) {
-    switch (operand.u8()) {
-      case 0:
-        run.pushText(run.decoded(operand));
-        break;
-      case 1:
-        run.push(double(operand.f32()));
-        break;
-      case 2:
-        run.push(Null{});
-        break;
-      case 3:
-        run.push(Undefined{});
-        break;
-      case 4:
-        run.push(run.reg(operand.u8()));
-        break;
-      case 5:
-        run.push(operand.u8() != 0);
-        break;
-      case 6:
-        run.push(operand.f64());
-        break;
-      case 7:
-        run.push(double(static_cast<std::int32_t>(operand.u32())));
-        break;
-      case 8:
-        run.push(constant(operand.u8()));
-        break;
-      case 9:
-        run.push(constant(operand.u16()));
-        break;
-      default:
-        throw MovieError("a script pushes a value of no known type", operand.position());
-    }
+// What kind of value a push names.
+enum class Pushed : std::uint8_t {
+  Text,
+  Float,
+  Null,
+  Undefined,
+  Register,
+  Boolean,
+  Double,
+  Integer,
+  Constant,      // by a number of 8 bits
+  WideConstant,  // of 16
+};
+
+Value constant(ScriptRun& run, std::size_t index) {
+  const ScriptRun::Constants& texts = run.constants();
+  return texts != nullptr && index < texts->texts.size() ? Value(texts->texts[index]) : Value();
+}
+
+void pushValue(ScriptRun& run, ByteReader& operand) {
+  switch (Pushed(operand.u8())) {
+    case Pushed::Text:
+      return run.pushText(run.decoded(operand));
+    case Pushed::Float:
+      return run.push(double(operand.f32()));
+    case Pushed::Null:
+      return run.push(Null{});
+    case Pushed::Undefined:
+      return run.push(Undefined{});
+    case Pushed::Register:
+      return run.push(run.reg(operand.u8()));
+    case Pushed::Boolean:
+      return run.push(operand.u8() != 0);
+    case Pushed::Double:
+      return run.push(operand.f64());
+    case Pushed::Integer:
+      return run.push(double(static_cast<std::int32_t>(operand.u32())));
+    case Pushed::Constant:
+      return run.push(constant(run, operand.u8()));
+    case Pushed::WideConstant:
+      return run.push(constant(run, operand.u16()));
   }
+  throw MovieError("a script pushes a value of no known type", operand.position());
+}
+
+void pushValues(ScriptRun& run, ByteReader& operand) {
+  while (!operand.atEnd()) pushValue(run, operand);
 }
 
 void setConstantPool(ScriptRun& run, ByteReader& operand) {
@@ -176,13 +182,20 @@ void callMethod(ScriptRun& run, ByteReader&) {
 }
 
 constexpr std::array rows{
-    ActionRow{0x96, pushValues},      ActionRow{0x17, popValue},
-    ActionRow{0x88, setConstantPool}, ActionRow{0x99, jump},
-    ActionRow{0x9D, jumpIf},          ActionRow{0x4C, duplicate},
-    ActionRow{0x4D, swapTop},         ActionRow{0x87, storeRegister},
-    ActionRow{0x3E, returnValue},     ActionRow{0x9B, defineFunction},
-    ActionRow{0x8E, defineFunction2}, ActionRow{0x3D, callFunction},
-    ActionRow{0x52, callMethod},      ActionRow{0x26, popValue},  // a trace goes nowhere
+    ActionRow{Op::Push, pushValues},
+    ActionRow{Op::Pop, popValue},
+    ActionRow{Op::ConstantPool, setConstantPool},
+    ActionRow{Op::Jump, jump},
+    ActionRow{Op::If, jumpIf},
+    ActionRow{Op::PushDuplicate, duplicate},
+    ActionRow{Op::StackSwap, swapTop},
+    ActionRow{Op::StoreRegister, storeRegister},
+    ActionRow{Op::Return, returnValue},
+    ActionRow{Op::DefineFunction, defineFunction},
+    ActionRow{Op::DefineFunction2, defineFunction2},
+    ActionRow{Op::CallFunction, callFunction},
+    ActionRow{Op::CallMethod, callMethod},
+    ActionRow{Op::Trace, popValue},  // a trace goes nowhere
 };
 
 }  // namespace

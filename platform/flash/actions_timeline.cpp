@@ -130,17 +130,17 @@ void setTargetFromStack(ScriptRun& run, ByteReader&) {
 }
 
 constexpr std::array rows{
-    ActionRow{0x04, nextFrame},
-    ActionRow{0x05, previousFrame},
-    ActionRow{0x06, play},
-    ActionRow{0x07, stop},
-    ActionRow{0x81, gotoNumber},
-    ActionRow{0x8C, gotoLabel},
-    ActionRow{0x9F, gotoValue},
-    ActionRow{0x83, getUrl},
-    ActionRow{0x9A, getUrlFromStack},
-    ActionRow{0x8B, setTarget},
-    ActionRow{0x20, setTargetFromStack},
+    ActionRow{Op::NextFrame, nextFrame},
+    ActionRow{Op::PreviousFrame, previousFrame},
+    ActionRow{Op::Play, play},
+    ActionRow{Op::Stop, stop},
+    ActionRow{Op::GotoFrame, gotoNumber},
+    ActionRow{Op::GotoLabel, gotoLabel},
+    ActionRow{Op::GotoFrame2, gotoValue},
+    ActionRow{Op::GetUrl, getUrl},
+    ActionRow{Op::GetUrl2, getUrlFromStack},
+    ActionRow{Op::SetTarget, setTarget},
+    ActionRow{Op::SetTarget2, setTargetFromStack},
 };
 
 }  // namespace

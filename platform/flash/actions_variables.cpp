@@ -74,10 +74,11 @@ void targetPath(ScriptRun& run, ByteReader&) {
 }
 
 constexpr std::array rows{
-    ActionRow{0x1C, getVariable},  ActionRow{0x1D, setVariable}, ActionRow{0x3C, defineLocal},
-    ActionRow{0x41, declareLocal}, ActionRow{0x22, getProperty}, ActionRow{0x23, setProperty},
-    ActionRow{0x4E, getMember},    ActionRow{0x4F, setMember},   ActionRow{0x44, typeOf},
-    ActionRow{0x45, targetPath},
+    ActionRow{Op::GetVariable, getVariable}, ActionRow{Op::SetVariable, setVariable},
+    ActionRow{Op::DefineLocal, defineLocal}, ActionRow{Op::DefineLocal2, declareLocal},
+    ActionRow{Op::GetProperty, getProperty}, ActionRow{Op::SetProperty, setProperty},
+    ActionRow{Op::GetMember, getMember},     ActionRow{Op::SetMember, setMember},
+    ActionRow{Op::TypeOf, typeOf},           ActionRow{Op::TargetPath, targetPath},
 };
 
 }  // namespace

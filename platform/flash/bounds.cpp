@@ -1,5 +1,7 @@
 #include "platform/flash/bounds.h"
 
+#include <cmath>
+
 namespace platform::flash {
 
 namespace {
@@ -29,6 +31,17 @@ QRectF ownBounds(const Instance& instance, Budget& budget) {
 }
 
 }  // namespace
+
+double halfWidthOfLine(const ShapePart& line, const QTransform& matrix) {
+  return line.lineWidth / 2.0 * std::sqrt(std::abs(matrix.determinant()));
+}
+
+QRectF boundsOfLine(const ShapePart& line, const QTransform& matrix) {
+  const double half = line.lineWidth / 2.0;
+  const double drawn = halfWidthOfLine(line, matrix);
+  return matrix.mapRect(line.bounds.adjusted(half, half, -half, -half))
+      .adjusted(-drawn, -drawn, drawn, drawn);
+}
 
 QRectF boundsInParent(const Instance& instance, Budget& budget) {
   return instance.matrix.mapRect(ownBounds(instance, budget));

@@ -11,4 +11,9 @@ namespace platform::flash {
 // that draws nothing; in part where the budget does not do.
 [[nodiscard]] QRectF boundsInParent(const Instance& instance, Budget& budget);
 
+// A line is as wide in all directions, whatever the matrix does to what it follows: half its width
+// where the matrix leads to, and what it covers there.
+[[nodiscard]] double halfWidthOfLine(const ShapePart& line, const QTransform& matrix);
+[[nodiscard]] QRectF boundsOfLine(const ShapePart& line, const QTransform& matrix);
+
 }  // namespace platform::flash

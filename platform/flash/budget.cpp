@@ -27,15 +27,10 @@ void Budget::begin(const Amount& amount) {
 
 void Budget::look() {
   if (left_ <= 0 || clock_() >= end_) {
-    cut();
+    exhaust();
   } else {
     nextLook_ = std::max<std::int64_t>(0, left_ - betweenLooks);
   }
-}
-
-void Budget::cut() {
-  left_ = 0;
-  nextLook_ = 0;
 }
 
 }  // namespace platform::flash

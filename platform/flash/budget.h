@@ -39,15 +39,19 @@ class Budget {
   // The same for memory. What a step lets go of is not given back.
   bool hold(std::size_t bytes) {
     memoryLeft_ -= static_cast<std::int64_t>(bytes);
-    if (memoryLeft_ < 0) cut();
+    if (memoryLeft_ < 0) exhaust();
     return left_ > 0;
+  }
+  // Ends the step where something else than its cost does.
+  void exhaust() {
+    left_ = 0;
+    nextLook_ = 0;
   }
   [[nodiscard]] bool isSpent() const { return left_ <= 0; }
   [[nodiscard]] std::int64_t workLeft() const { return left_; }
 
  private:
   void look();
-  void cut();
 
   Clock clock_;
   std::int64_t left_ = 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/flash/bounds.h"
 #include "platform/flash/stage.h"
 
 namespace platform::flash {
@@ -22,19 +23,27 @@ class Search {
  public:
   explicit Search(const Stage& stage) : stage_(stage) {}
 
-  Container* interactiveIn(const Container& container, QPointF point);
+  // A point in the coordinates of something on the stage.
+  struct Aim {
+    QPointF point;
+    QPointF onStage;     // the same, in twips of the stage
+    QTransform toStage;  // from these coordinates
+  };
+
+  Container* interactiveIn(const Container& container, const Aim& aim);
+  // In the coordinates of what stands there by the matrix.
+  static Aim into(const QTransform& matrix, const Aim& aim, bool& possible) {
+    return {matrix.inverted(&possible).map(aim.point), aim.onStage, matrix * aim.toStage};
+  }
 
  private:
-  static QPointF into(const QTransform& matrix, QPointF point, bool& possible) {
-    return matrix.inverted(&possible).map(point);
-  }
-  bool covers(const Instance& instance, QPointF point);
-  bool covers(const Container& container, QPointF point);
-  bool covers(const Character& character, QPointF point);
-  bool covers(const Shape& shape, QPointF point);
-  bool covers(const Text& text, QPointF point);
-  bool hits(const ButtonInstance& button, QPointF point);
-  bool isMaskedOut(const Container& container, const Instance& child, QPointF point);
+  bool covers(const Instance& instance, const Aim& aim);
+  bool covers(const Container& container, const Aim& aim);
+  bool covers(const Character& character, const Aim& aim);
+  bool covers(const Shape& shape, const Aim& aim);
+  bool covers(const Text& text, const Aim& aim);
+  bool hits(const ButtonInstance& button, const Aim& aim);
+  bool isMaskedOut(const Container& container, const Instance& child, const Aim& aim);
   bool isEnabled(const Container& container) const {
     const Value enabled = container.variables.value(QStringLiteral("enabled"), Value(true));
     return toBoolean(enabled, stage_.movie().version);
@@ -56,35 +65,39 @@ class Search {
   const Stage& stage_;
 };
 
-bool Search::covers(const Shape& shape, QPointF point) {
+bool Search::covers(const Shape& shape, const Aim& aim) {
   return std::any_of(shape.parts.begin(), shape.parts.end(), [&](const ShapePart& part) {
-    if (!spend() || !part.bounds.contains(point) || !spend(part.outline)) {
+    if (!spend()) {
       return false;
     }
-    return part.isLine ? part.outline.touches(point, part.lineWidth / 2.0)
-                       : part.outline.contains(point);
+    if (part.isLine) {
+      return boundsOfLine(part, aim.toStage).contains(aim.onStage) && spend(part.outline) &&
+             part.outline.touches(aim.onStage, halfWidthOfLine(part, aim.toStage), aim.toStage);
+    }
+    return part.bounds.contains(aim.point) && spend(part.outline) &&
+           part.outline.contains(aim.point);
   });
 }
 
-bool Search::covers(const Text& text, QPointF point) {
+bool Search::covers(const Text& text, const Aim& aim) {
   bool possible = false;
-  const QPointF inText = into(text.matrix, point, possible);
+  const Aim inText = into(text.matrix, aim, possible);
   return possible && std::any_of(text.glyphs.begin(), text.glyphs.end(), [&](const Text::Glyph& g) {
            bool flat = false;
-           const QPointF inGlyph = into(g.matrix, inText, flat);
-           return flat && spend() && g.bounds.contains(inGlyph) && spend(*g.outline) &&
-                  g.outline->contains(inGlyph);
+           const Aim inGlyph = into(g.matrix, inText, flat);
+           return flat && spend() && g.bounds.contains(inGlyph.point) && spend(*g.outline) &&
+                  g.outline->contains(inGlyph.point);
          });
 }
 
 // What a character covers that is not on the stage, as the hit state of a button is never: of a
 // sprite the first frame.
-bool Search::covers(const Character& character, QPointF point) {
+bool Search::covers(const Character& character, const Aim& aim) {
   if (const auto* shape = character.as<Shape>()) {
-    return covers(*shape, point);
+    return covers(*shape, aim);
   }
   if (const auto* text = character.as<Text>()) {
-    return covers(*text, point);
+    return covers(*text, aim);
   }
   const auto* sprite = character.as<Sprite>();
   if (sprite == nullptr) {
@@ -96,14 +109,14 @@ bool Search::covers(const Character& character, QPointF point) {
         placed == nullptr ? nullptr : stage_.movie().character(placed->character);
     bool possible = false;
     if (inner != nullptr && spend() &&
-        covers(*inner, into(placed->matrix.value_or(QTransform()), point, possible)) && possible) {
+        covers(*inner, into(placed->matrix.value_or(QTransform()), aim, possible)) && possible) {
       return true;
     }
   }
   return false;
 }
 
-bool Search::hits(const ButtonInstance& button, QPointF point) {
+bool Search::hits(const ButtonInstance& button, const Aim& aim) {
   const auto& records = button.button.records;
   return std::any_of(records.begin(), records.end(), [&](const ButtonRecord& record) {
     if ((record.states & static_cast<unsigned>(ButtonState::HitTest)) == 0 || !spend()) {
@@ -111,15 +124,15 @@ bool Search::hits(const ButtonInstance& button, QPointF point) {
     }
     const Character* character = stage_.movie().character(record.character);
     bool possible = false;
-    const QPointF inner = into(record.matrix, point, possible);
+    const Aim inner = into(record.matrix, aim, possible);
     return possible && character != nullptr && covers(*character, inner);
   });
 }
 
-// point: in the coordinates of the parent.
-bool Search::covers(const Instance& instance, QPointF point) {
+// aim: in the coordinates of the parent.
+bool Search::covers(const Instance& instance, const Aim& aim) {
   bool possible = false;
-  const QPointF inner = into(instance.matrix, point, possible);
+  const Aim inner = into(instance.matrix, aim, possible);
   if (!possible || !spend()) {
     return false;
   }
@@ -127,34 +140,34 @@ bool Search::covers(const Instance& instance, QPointF point) {
   return container != nullptr ? covers(*container, inner) : covers(*instance.character, inner);
 }
 
-bool Search::covers(const Container& container, QPointF point) {
+bool Search::covers(const Container& container, const Aim& aim) {
   return std::any_of(container.children.begin(), container.children.end(), [&](const auto& entry) {
     const Instance& child = *entry.second;
-    return child.visible && child.clipDepth == 0 && covers(child, point) &&
-           !isMaskedOut(container, child, point);
+    return child.visible && child.clipDepth == 0 && covers(child, aim) &&
+           !isMaskedOut(container, child, aim);
   });
 }
 
-bool Search::isMaskedOut(const Container& container, const Instance& child, QPointF point) {
+bool Search::isMaskedOut(const Container& container, const Instance& child, const Aim& aim) {
   for (const auto& [depth, mask] : container.children) {
     if (depth >= child.depth) {
       break;
     }
-    if (spend() && mask->clipDepth >= child.depth && !covers(*mask, point)) {
+    if (spend() && mask->clipDepth >= child.depth && !covers(*mask, aim)) {
       return true;
     }
   }
   return false;
 }
 
-Container* Search::interactiveIn(const Container& container, QPointF point) {
+Container* Search::interactiveIn(const Container& container, const Aim& aim) {
   for (auto at = container.children.rbegin(); at != container.children.rend(); ++at) {
     Container* child = asContainer(at->second.get());
     if (child == nullptr || !child->visible || child->clipDepth != 0 || !spend()) {
       continue;
     }
     bool possible = false;
-    const QPointF inner = into(child->matrix, point, possible);
+    const Aim inner = into(child->matrix, aim, possible);
     if (!possible) {
       continue;
     }
@@ -171,7 +184,7 @@ Container* Search::interactiveIn(const Container& container, QPointF point) {
     } else {
       found = interactiveIn(*child, inner);
     }
-    if (found != nullptr && !isMaskedOut(container, *child, point)) {
+    if (found != nullptr && !isMaskedOut(container, *child, aim)) {
       return found;
     }
   }
@@ -183,8 +196,8 @@ Container* Search::interactiveIn(const Container& container, QPointF point) {
 Container* interactiveAt(const Stage& stage, QPointF point) {
   const Clip& root = stage.root();
   bool possible = false;
-  const QPointF inner = root.matrix.inverted(&possible).map(point);
-  return root.visible && possible ? Search(stage).interactiveIn(root, inner) : nullptr;
+  const Search::Aim aim = Search::into(root.matrix, {point, point, {}}, possible);
+  return root.visible && possible ? Search(stage).interactiveIn(root, aim) : nullptr;
 }
 
 }  // namespace platform::flash

@@ -13,7 +13,7 @@ Interpreter::Interpreter(Stage& stage, CommandSink onCommand)
   for (const std::span<const ActionRow> family :
        {flowActions(), arithmeticActions(), variableActions(), timelineActions()}) {
     for (const ActionRow& row : family) {
-      actions_[row.code] = row.action;
+      actions_[static_cast<std::size_t>(row.op)] = row.action;
     }
   }
 }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <span>
 
+#include "platform/flash/op.h"
 #include "platform/flash/stage.h"
 
 namespace platform::flash {
@@ -94,7 +95,7 @@ class ScriptRun {
 // What one action does. operand holds the bytes that belong to it.
 using Action = void (*)(ScriptRun& run, ByteReader& operand);
 struct ActionRow {
-  std::uint8_t code;
+  Op op;
   Action action;
 };
 

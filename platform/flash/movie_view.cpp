@@ -217,6 +217,7 @@ void MovieView::refresh() {
     update(toWidget.mapRect(place).toAlignedRect().adjusted(-1, -1, 1, 1) & rect());
   }
   scene_ = std::move(now);
+  if (!scene_.isWhole) cutOff();
   showHand(player_->showsHand());
 }
 

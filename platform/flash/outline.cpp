@@ -72,10 +72,10 @@ bool Outline::contains(QPointF point) const {
   return inside;
 }
 
-bool Outline::touches(QPointF point, double distance) const {
+bool Outline::touches(QPointF point, double distance, const QTransform& matrix) const {
   bool near = false;
   flatten(*this, 1, hitTolerance, [&](QPointF from, QPointF to) {
-    near = near || squaredDistance(point, from, to) <= distance * distance;
+    near = near || squaredDistance(point, matrix.map(from), matrix.map(to)) <= distance * distance;
   });
   return near;
 }

@@ -3,6 +3,7 @@
 #include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -36,7 +37,9 @@ class Outline {
   // Whether the point lies within, by the even-odd rule that fills follow.
   [[nodiscard]] bool contains(QPointF point) const;
   // Whether the point lies at most distance away from the line itself.
-  [[nodiscard]] bool touches(QPointF point, double distance) const;
+  // Whether the point lies at most distance away from the line itself once that has gone through
+  // the matrix; both are told in what comes out of it.
+  [[nodiscard]] bool touches(QPointF point, double distance, const QTransform& matrix) const;
   [[nodiscard]] QPainterPath toPainterPath() const;
 
  private:

@@ -37,56 +37,49 @@ PlaceCommand readPlaceObject(ByteReader& body) {
   return command;
 }
 
-PlaceCommand readPlaceObject2(ByteReader& body, bool third, const ReadContext& context) {
-  constexpr unsigned hasMove = 1;
-  constexpr unsigned hasCharacter = 2;
-  constexpr unsigned hasMatrix = 4;
-  constexpr unsigned hasColor = 8;
-  constexpr unsigned hasRatio = 16;
-  constexpr unsigned hasName = 32;
-  constexpr unsigned hasClipDepth = 64;
-  constexpr unsigned hasActions = 128;
-  constexpr unsigned hasFilters = 0x100;
-  constexpr unsigned hasBlendMode = 0x200;
-  constexpr unsigned hasCacheFlag = 0x400;
-  constexpr unsigned hasClassName = 0x800;
+namespace {
 
+// What a later kind of place holds.
+constexpr unsigned hasMove = 1;
+constexpr unsigned hasCharacter = 2;
+constexpr unsigned hasMatrix = 4;
+constexpr unsigned hasColor = 8;
+constexpr unsigned hasRatio = 16;
+constexpr unsigned hasName = 32;
+constexpr unsigned hasClipDepth = 64;
+constexpr unsigned hasActions = 128;
+constexpr unsigned hasFilters = 0x100;
+constexpr unsigned hasBlendMode = 0x200;
+constexpr unsigned hasCacheFlag = 0x400;
+constexpr unsigned hasClassName = 0x800;
+
+PlaceCommand::Mode modeOf(unsigned flags) {
+  if ((flags & hasCharacter) == 0) return PlaceCommand::Mode::Move;
+  return (flags & hasMove) == 0 ? PlaceCommand::Mode::Place : PlaceCommand::Mode::Replace;
+}
+
+}  // namespace
+
+PlaceCommand readPlaceObject2(ByteReader& body, bool third, const ReadContext& context) {
   const unsigned flags = third ? body.u16() : body.u8();
+  const auto has = [flags](unsigned what) { return (flags & what) != 0; };
   PlaceCommand command;
-  command.mode = (flags & hasCharacter) == 0 ? PlaceCommand::Mode::Move
-                 : (flags & hasMove) == 0    ? PlaceCommand::Mode::Place
-                                             : PlaceCommand::Mode::Replace;
+  command.mode = modeOf(flags);
   command.depth = body.u16();
-  if ((flags & hasClassName) != 0) {
-    (void)body.string();
-  }
-  if ((flags & hasCharacter) != 0) {
-    command.character = body.u16();
-  }
-  if ((flags & hasMatrix) != 0) {
-    command.matrix = readMatrix(body);
-  }
-  if ((flags & hasColor) != 0) {
-    command.color = readColorTransform(body, true);
-  }
-  if ((flags & hasRatio) != 0) {
-    body.skip(2);
-  }
-  if ((flags & hasName) != 0) {
+  if (has(hasClassName)) (void)body.string();
+  if (has(hasCharacter)) command.character = body.u16();
+  if (has(hasMatrix)) command.matrix = readMatrix(body);
+  if (has(hasColor)) command.color = readColorTransform(body, true);
+  if (has(hasRatio)) body.skip(2);
+  if (has(hasName)) {
     const QByteArrayView name = body.string();
     context.allowance.spend(2 * static_cast<std::size_t>(name.size()));
     command.name = context.movie.decoded(name);
   }
-  if ((flags & hasClipDepth) != 0) {
-    command.clipDepth = body.u16();
-  }
-  if ((flags & hasFilters) != 0) {
-    return command;  // filters are not drawn, and what follows them is not found
-  }
-  body.skip(((flags & hasBlendMode) != 0 ? 1U : 0U) + ((flags & hasCacheFlag) != 0 ? 1U : 0U));
-  if ((flags & hasActions) != 0) {
-    command.handlers = readClipActions(body, context);
-  }
+  if (has(hasClipDepth)) command.clipDepth = body.u16();
+  if (has(hasFilters)) return command;  // they are not drawn, and what follows them is not found
+  body.skip((has(hasBlendMode) ? 1U : 0U) + (has(hasCacheFlag) ? 1U : 0U));
+  if (has(hasActions)) command.handlers = readClipActions(body, context);
   return command;
 }
 

@@ -89,8 +89,16 @@ std::optional<Property> propertyOfName(QStringView name) {
   return std::nullopt;
 }
 
-Value propertyOf(const Stage& stage, const Container& of, Property property) {
-  const Clip* clip = asClip(&of);
+namespace {
+
+// Of the clip's own timeline; nothing for a button.
+Value frameProperty(const Clip* clip, Property property) {
+  if (clip == nullptr) return {};
+  return double(property == Property::CurrentFrame ? clip->frame + 1 : clip->timeline.frameCount());
+}
+
+// Where and how it stands in its parent.
+Value placeProperty(const Stage& stage, const Container& of, Property property) {
   const Axes axes(of.matrix);
   switch (property) {
     case Property::X:
@@ -101,21 +109,35 @@ Value propertyOf(const Stage& stage, const Container& of, Property property) {
       return axes.scaleX * percent;
     case Property::ScaleY:
       return axes.scaleY * percent;
-    case Property::CurrentFrame:
-      return clip == nullptr ? Value() : Value(double(clip->frame + 1));
-    case Property::TotalFrames:
-    case Property::FramesLoaded:
-      return clip == nullptr ? Value() : Value(double(clip->timeline.frameCount()));
-    case Property::Alpha:
-      return of.color.multiply[3] * percent;
-    case Property::Visible:
-      return stage.movie().version >= 5 ? Value(of.visible) : Value(of.visible ? 1.0 : 0.0);
     case Property::Width:
       return boundsInParent(of, stage.budget()).width() / twips;
     case Property::Height:
       return boundsInParent(of, stage.budget()).height() / twips;
-    case Property::Rotation:
+    default:
       return axes.angleX / degree;
+  }
+}
+
+}  // namespace
+
+Value propertyOf(const Stage& stage, const Container& of, Property property) {
+  switch (property) {
+    case Property::X:
+    case Property::Y:
+    case Property::ScaleX:
+    case Property::ScaleY:
+    case Property::Width:
+    case Property::Height:
+    case Property::Rotation:
+      return placeProperty(stage, of, property);
+    case Property::CurrentFrame:
+    case Property::TotalFrames:
+    case Property::FramesLoaded:
+      return frameProperty(asClip(&of), property);
+    case Property::Alpha:
+      return of.color.multiply[3] * percent;
+    case Property::Visible:
+      return stage.movie().version >= 5 ? Value(of.visible) : Value(of.visible ? 1.0 : 0.0);
     case Property::Target:
       return slashPath(stage, of);
     case Property::Name:

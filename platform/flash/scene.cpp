@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/flash/bounds.h"
 #include "platform/flash/limits.h"
 #include "platform/flash/stage.h"
 
@@ -30,23 +31,15 @@ class Builder {
   void addText(const Instance& instance, const Text& text, const QTransform& matrix,
                const ColorTransform& color, int mask);
   void addMaskParts(const Instance& instance, const QTransform& outer, SceneMask& mask);
-  // Whether one thing more can be looked at.
+  // Whether one thing more can be looked at. A scene that is full ends the step.
   [[nodiscard]] bool goesOn() {
-    return budget_.spend(thingWork) &&
-           scene.items.size() + maskParts_ < std::size_t(limits::sceneItems);
+    if (scene.items.size() + maskParts_ >= std::size_t(limits::sceneItems)) budget_.exhaust();
+    return budget_.spend(thingWork);
   }
 
   Budget& budget_;
   std::size_t maskParts_ = 0;
 };
-
-// A line is as wide in all directions, whatever the matrix does to what it follows.
-QRectF boundsOfLine(const ShapePart& part, const QTransform& matrix) {
-  const double half = part.lineWidth / 2.0;
-  const double drawn = half * std::sqrt(std::abs(matrix.determinant()));
-  return matrix.mapRect(part.bounds.adjusted(half, half, -half, -half))
-      .adjusted(-drawn, -drawn, drawn, drawn);
-}
 
 void Builder::addShape(const Instance& instance, const Shape& shape, const QTransform& matrix,
                        const ColorTransform& color, int mask) {
@@ -201,6 +194,7 @@ bool looksTheSame(const SceneItem& left, const SceneItem& right) {
 Scene sceneOf(const Stage& stage) {
   Builder builder(stage.budget());
   builder.add(stage.root(), QTransform(), ColorTransform(), -1);
+  builder.scene.isWhole = !stage.budget().isSpent();
   return std::move(builder.scene);
 }
 

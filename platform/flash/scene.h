@@ -52,10 +52,11 @@ struct SceneMask {
 struct Scene {
   std::vector<SceneItem> items;
   std::vector<SceneMask> masks;
+  bool isWhole = true;
 };
 
-// All that is visible now; no more than limits::sceneItems, and in part where the budget does not
-// do.
+// All that is visible now; where that is more than limits::sceneItems or than the budget does for,
+// a part of it.
 [[nodiscard]] Scene sceneOf(const Stage& stage);
 
 // The places, in twips of the stage, where the two scenes differ. Takes about as long as making

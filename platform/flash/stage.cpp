@@ -1,7 +1,6 @@
 #include "platform/flash/stage.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "platform/flash/limits.h"
@@ -15,33 +14,10 @@ namespace {
 constexpr std::int64_t placeWork = 2000;  // with what removing it will take
 constexpr std::int64_t visitWork = 200;
 constexpr std::int64_t recordWork = 50;
-constexpr std::int64_t handlerWork = 3;
 constexpr std::int64_t queueWork = 50;
 constexpr std::int64_t lookUpWork = 200;
 constexpr std::size_t placeMemory = 600;  // bytes
 constexpr std::uint32_t rootId = 1;
-
-struct NamedEvent {
-  ClipEvent event;
-  const char16_t* name;
-};
-
-// The members in which scripts keep their handlers.
-constexpr std::array namedEvents{
-    NamedEvent{ClipEvent::Load, u"onLoad"},
-    NamedEvent{ClipEvent::EnterFrame, u"onEnterFrame"},
-    NamedEvent{ClipEvent::Unload, u"onUnload"},
-    NamedEvent{ClipEvent::MouseMove, u"onMouseMove"},
-    NamedEvent{ClipEvent::MouseDown, u"onMouseDown"},
-    NamedEvent{ClipEvent::MouseUp, u"onMouseUp"},
-    NamedEvent{ClipEvent::Press, u"onPress"},
-    NamedEvent{ClipEvent::Release, u"onRelease"},
-    NamedEvent{ClipEvent::ReleaseOutside, u"onReleaseOutside"},
-    NamedEvent{ClipEvent::RollOver, u"onRollOver"},
-    NamedEvent{ClipEvent::RollOut, u"onRollOut"},
-    NamedEvent{ClipEvent::DragOver, u"onDragOver"},
-    NamedEvent{ClipEvent::DragOut, u"onDragOut"},
-};
 
 }  // namespace
 
@@ -100,8 +76,9 @@ Instance* Stage::place(Container& parent, const Placement& placement) {
     return nullptr;
   }
   remove(parent, placement.depth);
-  if (character == nullptr || instances_ >= limits::instances || !budget_.spend(placeWork) ||
-      !budget_.hold(placeMemory)) {
+  // A stage that is full ends the step.
+  if (character != nullptr && instances_ >= limits::instances) budget_.exhaust();
+  if (character == nullptr || !budget_.spend(placeWork) || !budget_.hold(placeMemory)) {
     return nullptr;
   }
   std::unique_ptr<Instance> made = make(*character);
@@ -214,80 +191,6 @@ void Stage::setState(ButtonInstance& button, ButtonState state) {
           {record.character, record.depth, record.matrix, record.color, {}, 0, nullptr, 0, index});
     }
   }
-}
-
-bool Stage::raise(Clip& clip, ClipEvent event, bool whenRemoved) {
-  bool any = false;
-  if (clip.handlers != nullptr) {
-    budget_.spend(handlerWork * static_cast<std::int64_t>(clip.handlers->size()));
-    for (const ClipHandler& handler : *clip.handlers) {
-      if (handler.takes(event)) {
-        enqueue({clip.id, handler.actions, nullptr, whenRemoved});
-        any = true;
-      }
-    }
-  }
-  return raiseMember(clip, event, whenRemoved) || any;
-}
-
-bool Stage::raiseMember(Container& owner, ClipEvent event, bool whenRemoved) {
-  if (owner.variables.isEmpty()) {
-    return false;
-  }
-  const auto named = std::find_if(namedEvents.begin(), namedEvents.end(),
-                                  [event](const NamedEvent& row) { return row.event == event; });
-  if (named == namedEvents.end()) {
-    return false;
-  }
-  FunctionRef function = memberFunction(owner, QString::fromUtf16(named->name));
-  if (function == nullptr) {
-    return false;
-  }
-  enqueue({owner.id, {}, std::move(function), whenRemoved});
-  return true;
-}
-
-void Stage::raiseButton(ButtonInstance& button, ButtonEvent event, ClipEvent clipEvent) {
-  // A button within a button has no clip of its own; the scripts run for the next one outwards.
-  Container* clip = button.parent;
-  while (clip != nullptr && asClip(clip) == nullptr) {
-    clip = clip->parent;
-  }
-  budget_.spend(handlerWork * static_cast<std::int64_t>(button.button.handlers.size()));
-  for (const ButtonHandler& handler : button.button.handlers) {
-    if ((handler.events & static_cast<unsigned>(event)) != 0 && clip != nullptr) {
-      enqueue({clip->id, handler.actions, nullptr, false});
-    }
-  }
-  raiseMember(button, clipEvent, false);
-}
-
-bool Stage::listens(const Container& owner, std::uint32_t events) const {
-  if (const Clip* clip = asClip(&owner); clip != nullptr && clip->handlers != nullptr) {
-    budget_.spend(handlerWork * static_cast<std::int64_t>(clip->handlers->size()));
-    for (const ClipHandler& handler : *clip->handlers) {
-      if ((handler.events & events) != 0) {
-        return true;
-      }
-    }
-  }
-  if (owner.variables.isEmpty()) {
-    return false;
-  }
-  for (const NamedEvent& named : namedEvents) {
-    if ((static_cast<std::uint32_t>(named.event) & events) != 0 &&
-        memberFunction(owner, QString::fromUtf16(named.name)) != nullptr) {
-      return true;
-    }
-  }
-  return false;
-}
-
-FunctionRef Stage::memberFunction(const Container& owner, const QString& name) const {
-  budget_.spend(lookUpWork);
-  const Value value = owner.variables.value(movie_->folded(name));
-  const auto* function = std::get_if<FunctionRef>(&value);
-  return function == nullptr ? nullptr : *function;
 }
 
 void Stage::enqueue(QueuedScript script) {

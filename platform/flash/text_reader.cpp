@@ -60,11 +60,53 @@ Font readFont2(ByteReader& body, double unitsPerEm, Allowance& allowance) {
   return font;
 }
 
-Text readText(ByteReader& body, bool withAlpha, const ReadContext& context) {
+namespace {
+
+// How the glyphs that follow are set.
+struct Setting {
+  const Font* font = nullptr;
+  QRgb color = qRgb(0, 0, 0);
+  double height = 0;
+  double x = 0;
+  double y = 0;
+};
+
+// What a record changes of it. flags: the record's first byte.
+void change(Setting& setting, unsigned flags, ByteReader& body, bool withAlpha,
+            const Movie& movie) {
   constexpr unsigned hasFont = 8;
   constexpr unsigned hasColor = 4;
   constexpr unsigned hasY = 2;
   constexpr unsigned hasX = 1;
+  if ((flags & hasFont) != 0) {
+    const Character* character = movie.character(body.u16());
+    setting.font = character == nullptr ? nullptr : character->as<Font>();
+  }
+  if ((flags & hasColor) != 0) {
+    setting.color = readColor(body, withAlpha);
+  }
+  setting.x = (flags & hasX) != 0 ? body.s16() : setting.x;
+  setting.y = (flags & hasY) != 0 ? body.s16() : setting.y;
+  setting.height = (flags & hasFont) != 0 ? body.u16() : setting.height;
+}
+
+// A glyph of the font, where it has one of that number.
+void addGlyph(Text& text, const Setting& setting, std::size_t glyph, const ReadContext& context) {
+  constexpr std::int64_t segmentWork = 8;
+  const Font* font = setting.font;
+  if (font == nullptr || glyph >= font->glyphs.size() || font->glyphs[glyph].isEmpty()) return;
+  const Outline& outline = font->glyphs[glyph];
+  context.allowance.spend(sizeof(Text::Glyph));
+  context.allowance.work(segmentWork, outline.segments().size());
+  const double scale = setting.height / font->unitsPerEm;
+  text.glyphs.push_back({&outline, QTransform(scale, 0, 0, scale, setting.x, setting.y),
+                         setting.color, outline.bounds()});
+}
+
+}  // namespace
+
+Text readText(ByteReader& body, bool withAlpha, const ReadContext& context) {
+  constexpr std::int64_t glyphWork = 20;
   Text text;
   (void)readRect(body);
   text.matrix = readMatrix(body);
@@ -73,38 +115,17 @@ Text readText(ByteReader& body, bool withAlpha, const ReadContext& context) {
   if (glyphBits > 32 || advanceBits > 32) {
     throw MovieError("a glyph has too many bits", body.position());
   }
-  const Font* font = nullptr;
-  QRgb color = qRgb(0, 0, 0);
-  double height = 0;
-  double x = 0;
-  double y = 0;
+  Setting setting;
   for (unsigned flags = body.u8(); flags != 0; flags = body.u8()) {
-    if ((flags & hasFont) != 0) {
-      const Character* character = context.movie.character(body.u16());
-      font = character == nullptr ? nullptr : character->as<Font>();
-    }
-    if ((flags & hasColor) != 0) {
-      color = readColor(body, withAlpha);
-    }
-    x = (flags & hasX) != 0 ? body.s16() : x;
-    y = (flags & hasY) != 0 ? body.s16() : y;
-    height = (flags & hasFont) != 0 ? body.u16() : height;
+    change(setting, flags, body, withAlpha, context.movie);
     int count = body.u8();
     BitReader bits(body);
     for (; count > 0; --count) {
-      constexpr std::int64_t glyphWork = 20;
       context.allowance.work(glyphWork);
       const std::size_t glyph = bits.unsignedBits(glyphBits);
       const double advance = bits.signedBits(advanceBits);
-      if (font != nullptr && glyph < font->glyphs.size() && !font->glyphs[glyph].isEmpty()) {
-        constexpr std::int64_t segmentWork = 8;
-        context.allowance.spend(sizeof(Text::Glyph));
-        context.allowance.work(segmentWork, font->glyphs[glyph].segments().size());
-        const double scale = height / font->unitsPerEm;
-        text.glyphs.push_back({&font->glyphs[glyph], QTransform(scale, 0, 0, scale, x, y), color,
-                               font->glyphs[glyph].bounds()});
-      }
-      x += advance;
+      addGlyph(text, setting, glyph, context);
+      setting.x += advance;
     }
   }
   return text;
