@@ -83,6 +83,21 @@ class BudgetTest : public QObject {
     QVERIFY(player.wasCutOff());
   }
 
+  void aStageThatIsFullEndsTheStep() {
+    // Sprites of 16 of the one before: 4,369 are let stand, 69,905 are not.
+    QByteArray tags = square(1, 20, 0);
+    for (unsigned id = 2; id <= 5; ++id) {
+      QByteArray inside;
+      for (unsigned depth = 1; depth <= 16; ++depth) inside += place(depth, id - 1);
+      tags += sprite(id, inside + showFrame());
+    }
+    const Player few(movie(file(tags + place(1, 4) + showFrame(), 6)), [](auto&&...) {});
+    QVERIFY(!few.wasCutOff());
+    const Player many(movie(file(tags + place(1, 5) + showFrame(), 6)), [](auto&&...) {});
+    QVERIFY(many.wasCutOff());
+    QVERIFY(many.scene().isWhole);
+  }
+
   void aMovieThatWasCutOffStandsStillAndOnlyTheHostMovesIt() {
     QStringList told;
     Player player(movie(file(sprite(1, showFrame()) + place(1, 1, 0, 0, "c") + doAction(endless()) +

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "painted.h"
 #include "pointer_bench.h"
 #include "support/iscrizione.h"
 
@@ -115,6 +116,36 @@ class HitTestTest : public QObject {
     QVERIFY(movie.player.showsHand());
     movie.player.mouseMove({55, 10});
     QVERIFY(!movie.player.showsHand());
+  }
+
+  void aLineInAnUnevenScaleIsHitWhereItIsDrawn_data() {
+    QTest::addColumn<QString>("scaleX");
+    QTest::addColumn<QString>("scaleY");
+    QTest::newRow("squeezed") << "25"
+                              << "100";
+    QTest::newRow("the other way") << "100"
+                                   << "25";
+  }
+  void aLineInAnUnevenScaleIsHitWhereItIsDrawn() {
+    // A line down, eight pixels wide; the root of a quarter of the area leaves four of them.
+    QFETCH(QString, scaleX);
+    QFETCH(QString, scaleY);
+    Bits records;
+    records.raw("0010 0001");
+    painted::begin(records, 0, 0, 1, 0, 0);
+    painted::edge(records, 0, 1600).raw("000000");
+    const QByteArray line =
+        painted::shape(2, u8(0) + u8(1) + u16(160) + u8(0) + u8(0) + u8(0), records);
+    Running movie(line + tag(34, u16(5) + u8(0) + u16(0) + record(8, 1, true) + u8(0)) +
+                  sprite(6, place(1, 5) + showFrame()) + place(1, 6, 50, 0, "c") + showFrame());
+    movie.player.setProperty(QStringLiteral("c"), 2, scaleX);
+    movie.player.setProperty(QStringLiteral("c"), 3, scaleY);
+    for (const double side : {-1.0, 1.0}) {
+      movie.player.mouseMove({50 + side * 1.5, 10});
+      QVERIFY(movie.player.showsHand());
+      movie.player.mouseMove({50 + side * 2.5, 10});
+      QVERIFY(!movie.player.showsHand());
+    }
   }
 
   void aRootThatIsMovedIsHitWhereItIsSeenAndAHiddenOneNowhere() {
