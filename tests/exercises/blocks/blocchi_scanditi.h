@@ -7,6 +7,8 @@
 
 // The blocks by scanning, as a pupil with one or two keys uses them.
 namespace prova {
+// The tests of other forms, in the same program, have others of these names.
+inline namespace scanditi {
 
 inline constexpr int kConferma = somme::TastieraNumericaScansione::kConferma;
 inline constexpr int kCestino = somme::TastieraNumericaScansione::kCestino;
@@ -61,4 +63,5 @@ inline bool rispondiScandendo(Banco& banco, const somme::FormaBlocchiScansione& 
          scegli(banco, forma.TastieraNumericaScansione1, kConferma);
 }
 
+}  // namespace scanditi
 }  // namespace prova

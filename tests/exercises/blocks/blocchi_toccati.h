@@ -7,6 +7,8 @@
 
 // The blocks by touch, as a pupil with the sheet uses them.
 namespace prova {
+// The tests of other forms, in the same program, have others of these names.
+inline namespace toccati {
 
 // Keys of the sheet.
 inline constexpr auto kH = somme::Tasto::Centinaia;
@@ -58,4 +60,5 @@ inline QString scritte(somme::FormaBlocchiHK& forma) {
   return tutte.join(u'|');
 }
 
+}  // namespace toccati
 }  // namespace prova

@@ -5,6 +5,8 @@
 
 // The form of flats, longs and units, as its tests open it.
 namespace prova {
+// The tests of other forms, in the same program, have others of these names.
+inline namespace hlu {
 
 inline const QString kSpecie = kSpecieHLU;
 
@@ -17,4 +19,5 @@ inline somme::FormHLU& apri(Banco& banco, int addendo1, int addendo2) {
   return banco.apri<somme::FormHLU>(somme::forme::kFormHLU);
 }
 
+}  // namespace hlu
 }  // namespace prova

@@ -5,6 +5,8 @@
 
 // The form of longs and units, as its tests open it.
 namespace prova {
+// The tests of other forms, in the same program, have others of these names.
+inline namespace lu {
 
 inline const QString kSpecie = kSpecieLU;
 
@@ -21,4 +23,5 @@ inline QString suono(const Banco& banco, const char* nome) {
   return banco.percorso(QStringLiteral("suoni/%1.wav").arg(QLatin1String(nome)));
 }
 
+}  // namespace lu
 }  // namespace prova
