@@ -17,13 +17,10 @@
 #include "exercises/abacus/forma_abaco_hk.h"
 #include "exercises/abacus/forma_abaco_scansione.h"
 #include "exercises/abacus/forma_abaco_tastiera.h"
-#include "exercises/bars/form_barre10.h"
-#include "exercises/bars/form_barre10_hk.h"
-#include "exercises/bars/form_barre10_scansione.h"
-#include "exercises/bars/form_barre10_tastiera.h"
-#include "exercises/bars/form_barre20.h"
-#include "exercises/bars/form_barre20_hk.h"
-#include "exercises/bars/form_barre20_scansione.h"
+#include "exercises/bars/forma_barre_hk.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
+#include "exercises/bars/forma_barre_scansione.h"
+#include "exercises/bars/forma_barre_tastiera.h"
 #include "exercises/blocks/form_hlu.h"
 #include "exercises/blocks/form_hlu_hk.h"
 #include "exercises/blocks/form_hlu_scansione.h"
@@ -113,15 +110,17 @@ constexpr auto kForme = std::to_array<SchedaForma>({
                                                    kNumeriAddendo, Modo::Scansione),
     Esercizio<FormaNumeriHK, kTrovaAddendo>(forme::kFormNumeriAddendoHK, kNumeriAddendo,
                                             Modo::Tocco, forme::kFormStampaFoglioNumeri2),
-    Esercizio<FormBarre10>(forme::kFormBarre10, kBarre10),
-    Esercizio<FormBarre10Tastiera>(forme::kFormBarre10Tastiera, kBarre10),
-    Esercizio<FormBarre10Scansione>(forme::kFormBarre10Scansione, kBarre10, Modo::Scansione),
-    Esercizio<FormBarre10HK>(forme::kFormBarre10HK, kBarre10, Modo::Tocco,
-                             forme::kFormStampaFoglioNumeri),
-    Esercizio<FormBarre20>(forme::kFormBarre20, kBarre20),
-    Esercizio<FormBarre20Scansione>(forme::kFormBarre20Scansione, kBarre20, Modo::Scansione),
-    Esercizio<FormBarre20HK>(forme::kFormBarre20HK, kBarre20, Modo::Tocco,
-                             forme::kFormStampaFoglioNumeri),
+    Esercizio<FormaBarrePulsanti, kBarrePulsanti10>(forme::kFormBarre10, kBarre10),
+    Esercizio<FormaBarreTastiera, kBarreTastiera10>(forme::kFormBarre10Tastiera, kBarre10),
+    Esercizio<FormaBarreScansione, kBarreScansione10>(forme::kFormBarre10Scansione, kBarre10,
+                                                      Modo::Scansione),
+    Esercizio<FormaBarreHK, kBarreHK10>(forme::kFormBarre10HK, kBarre10, Modo::Tocco,
+                                        forme::kFormStampaFoglioNumeri),
+    Esercizio<FormaBarreTastiera, kBarreTastiera20>(forme::kFormBarre20, kBarre20),
+    Esercizio<FormaBarreScansione, kBarreScansione20>(forme::kFormBarre20Scansione, kBarre20,
+                                                      Modo::Scansione),
+    Esercizio<FormaBarreHK, kBarreHK20>(forme::kFormBarre20HK, kBarre20, Modo::Tocco,
+                                        forme::kFormStampaFoglioNumeri),
     Esercizio<FormLU>(forme::kFormLU, kBlocchiDecine),
     Esercizio<FormLUScansione>(forme::kFormLUScansione, kBlocchiDecine, Modo::Scansione),
     Esercizio<FormLUHK>(forme::kFormLUHK, kBlocchiDecine, Modo::Tocco, forme::kFormStampaLU),

@@ -14,7 +14,7 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 #include "immagini/immagini.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/forms/appearance.h"
@@ -126,7 +126,7 @@ class Misura {
     ambiente_.stato.LimiteEsercizio = 10;
     ambiente_.fondo.forms().show(somme::forme::kFormBarre10);
     QTest::qWait(300);
-    auto& forma = *dynamic_cast<somme::FormBarre10*>(ambiente_.fondo.forms().current());
+    auto& forma = *dynamic_cast<somme::FormaBarrePulsanti*>(ambiente_.fondo.forms().current());
     QWindow* finestra = ambiente_.fondo.window().windowHandle();
     std::vector<double> tempi;
     for (int i = 0; i < 200; ++i) {
@@ -155,7 +155,7 @@ class Misura {
     constexpr int kCampione = 50;
     ambiente_.fondo.forms().show(somme::forme::kFormBarre10);
     QTest::qWait(300);
-    auto& forma = *dynamic_cast<somme::FormBarre10*>(ambiente_.fondo.forms().current());
+    auto& forma = *dynamic_cast<somme::FormaBarrePulsanti*>(ambiente_.fondo.forms().current());
     std::vector<double> prime;
     std::vector<double> ultime;
     for (int i = 0; i < kRighe; ++i) {

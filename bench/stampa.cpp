@@ -9,7 +9,7 @@
 #include <string>
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 #include "printing/frm_avvia_stampa.h"
 #include "printing/modulo_stampa.h"
 #include "support/banco.h"
@@ -55,7 +55,7 @@ void azzeraMassimo() {
 
 class Misura {
  public:
-  Misura() : forma_(banco_.apri<somme::FormBarre10>(somme::forme::kFormBarre10)) {}
+  Misura() : forma_(banco_.apri<somme::FormaBarrePulsanti>(somme::forme::kFormBarre10)) {}
 
   // Free memory of the process is given back first: used again, it would not be seen.
   void memoriaDiUnElenco() {
@@ -134,7 +134,7 @@ class Misura {
   }
 
   prova::Banco banco_;
-  somme::FormBarre10& forma_;
+  somme::FormaBarrePulsanti& forma_;
 };
 
 }  // namespace

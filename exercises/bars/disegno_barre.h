@@ -63,6 +63,15 @@ constexpr auto SommaScritta(double sinistra, double alto) {
   });
 }
 
+// da, a: where the mark of the ten begins and ends inside the panel, twips; across, the form puts
+// it where ten units end.
+constexpr Row Segno(double da, double a, bool nascosto = true) {
+  return row<&FormaBarre::Line1>({4890, da, 0, a - da}, {.toolTip = "Qui finisce la decina",
+                                                         .hidden = nascosto,
+                                                         .borderWidth = 2,
+                                                         .in = nameOf<&FormaBarre::Picture1>});
+}
+
 constexpr Row Consegna(double alto, std::string_view testo) {
   return row<&FormaBarre::Label3>({360, alto, 5175, 480}, {.caption = testo, .font = kTahoma9});
 }
@@ -74,6 +83,25 @@ constexpr auto BarreInAlto(double unita) {
 inline constexpr auto kSommaSotto = SommaScritta(2760, 4320);
 inline constexpr auto kConsegnaSotto =
     std::to_array<Row>({Consegna(5520, "Trova il numero che corrisponde alla barra rossa")});
+
+// F: a form with `PulsanteAiuto`.
+template <class F>
+constexpr Row Aiuto(TwipsRect posto) {
+  return row<&F::PulsanteAiuto>(posto,
+                                {.caption = "&aiuto", .font = kTahoma14, .picture = "aiuto"});
+}
+
+// The box for the answer; the form lays it over the empty term. scansione: whether the program
+// alone writes in it.
+template <class F>
+constexpr Row Casella(TwipsRect posto, std::string_view nome, bool scansione = false) {
+  return row<&F::TestoInput>(posto, {.toolTip = nome,
+                                     .font = kNumeroGrande,
+                                     .align = Align::Centre,
+                                     .border = true,
+                                     .locked = scansione,
+                                     .maxLength = 2});
+}
 
 // The kinds of exercise in the menu, in every bars form.
 inline constexpr auto kMenuBarre = std::to_array<Row>({

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "cases/casuale.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
@@ -15,37 +14,97 @@ using platform::toInt16;
 
 namespace {
 
-constexpr int kPrimoTermine = 0;
-constexpr int kSecondoTermine = 2;
-constexpr int kTermineTotale = 4;
+// One for each term, in their order.
+constexpr auto kDomande = std::to_array<DomandaBarre>({
+    {Termine::Primo, &StringheCondivise::ConsegnaBarre2, kCiano},
+    {Termine::Secondo, &StringheCondivise::ConsegnaBarre3, kVerdeScuro},
+    {Termine::Totale, &StringheCondivise::ConsegnaBarre1, kRosso},
+});
 
-constexpr DomandaBarre kChiediTotale{kTermineTotale, &StringheCondivise::ConsegnaBarre1, kRosso};
-constexpr DomandaBarre kChiediSecondo{kSecondoTermine, &StringheCondivise::ConsegnaBarre3,
-                                      kVerdeScuro};
-constexpr DomandaBarre kChiediPrimo{kPrimoTermine, &StringheCondivise::ConsegnaBarre2, kCiano};
-
-enum TipiDiEsercizio : qint16 { kTrovaRossa = 1, kTrovaGiallaVerde = 2, kTrovaUna = 3 };
+constexpr std::size_t Posto(Termine termine) {
+  return static_cast<std::size_t>(termine);
+}
 
 // The gap above the first row of help squares; the second row has none.
 constexpr int kStacco = 10;
 
+FormDesign Disegno(std::string_view nome, const VarianteBarre& variante) {
+  return {.name = nome,
+          .caption = "Esercitazioni sulle somme",
+          .width = variante.larghezza,
+          .height = variante.altezza,
+          .back = kGialloPallido,
+          .tables = variante.tavole};
+}
+
 }  // namespace
 
-FormaBarre::FormaBarre(Ambiente& ambiente, const platform::FormDesign& disegno,
-                       const PortataBarre& portata)
-    : FormaEsercizio(ambiente, disegno), portata_(portata) {
+FormaBarre::FormaBarre(Ambiente& ambiente, std::string_view nome, const VarianteBarre& variante)
+    : FormaEsercizio(ambiente, Disegno(nome, variante)), variante_(variante) {
   mnuRossa.onClick([this] { ScegliTipo(kTrovaRossa); });
   mnuGiallaVerde.onClick([this] { ScegliTipo(kTrovaGiallaVerde); });
   mnuTutteBarre.onClick([this] { ScegliTipo(kTrovaUna); });
 }
 
-void FormaBarre::IniziaEsercizio() {
+void FormaBarre::onLoad() {
+  FormaEsercizio::onLoad();
   ScriviEsatti();
   ScriviErrati();
   stato().TipoEsercizio = kTrovaRossa;
 }
 
-void FormaBarre::ScegliTipo(qint16 tipo) {
+void FormaBarre::IniziaAttivazione() {
+  LeggiMisure();
+  PosaSegno();
+  MisuraAiuti();
+  ScriviTitolo();
+  CreaAiuti();
+  ColoraTermini();
+  IniziaCasi();
+}
+
+void FormaBarre::LeggiMisure() {
+  Unita = toInt16(n1.height());
+  OrigineY = toInt16(n1.top());
+  OrigineX = toInt16(n1.left());
+  n2.setHeight(Unita);
+  n3.setHeight(Unita);
+}
+
+void FormaBarre::PosaSegno() {
+  if (!Line1) return;
+  Line1->setX1(FineDi(PartitaBarre::kDecina));
+  Line1->setX2(FineDi(PartitaBarre::kDecina));
+}
+
+void FormaBarre::MisuraAiuti() {
+  for (platform::Label* primo : {&aiuto1[0], &aiuto2[0], &aiuto3[0]}) {
+    primo->setWidth(Unita);
+    primo->setHeight(Unita);
+  }
+}
+
+void FormaBarre::ScriviTitolo() {
+  IniziaElenco(QStringLiteral("     ") + stringhe().TitoloBarre + stringhe().Trattino +
+               stringhe().*variante_.titolo);
+}
+
+void FormaBarre::CreaAiuti() {
+  for (int i = 1; i < scheda().portata; ++i) {
+    aiuto1.load(i);
+    aiuto2.load(i);
+    aiuto3.load(i);
+  }
+}
+
+void FormaBarre::ColoraTermini(std::optional<platform::Rgb> primo) {
+  for (const DomandaBarre& domanda : kDomande) {
+    Scritto(domanda.termine).setForeColor(domanda.colore);
+  }
+  if (primo) Scritto(Termine::Primo).setForeColor(*primo);
+}
+
+void FormaBarre::ScegliTipo(TipoBarre tipo) {
   stato().TipoEsercizio = tipo;
   mnuRossa.setChecked(tipo == kTrovaRossa);
   mnuGiallaVerde.setChecked(tipo == kTrovaGiallaVerde);
@@ -54,104 +113,85 @@ void FormaBarre::ScegliTipo(qint16 tipo) {
 }
 
 void FormaBarre::GeneraPerTipo() {
-  switch (stato().TipoEsercizio) {
-    case kTrovaRossa:
-      GeneraCaso1();
-      break;
-    case kTrovaGiallaVerde:
-      GeneraCaso2();
-      break;
-    case kTrovaUna:
-      if (Casuale(ambiente().servizi.sorte, 2) + 1 == 1) {
-        GeneraCaso1();
-      } else {
-        GeneraCaso2();
-      }
-      break;
-    default:
-      break;
-  }
-}
-
-void FormaBarre::EstraiCaso() {
-  platform::Chance& sorte = ambiente().servizi.sorte;
-  stato().Totale = toInt16(Casuale(sorte, stato().LimiteEsercizio) + 1);
-  stato().Addendo1 = toInt16(Casuale(sorte, stato().Totale));
-  stato().Addendo2 = toInt16(stato().Totale - stato().Addendo1);
+  const bool estratto =
+      partita_.NuovoCaso(stato().TipoEsercizio, stato().LimiteEsercizio, ambiente().servizi.sorte);
+  if (estratto) MostraCaso();
 }
 
 void FormaBarre::GeneraCaso1() {
-  EstraiCaso();
-  MostraCaso(kChiediTotale);
+  partita_.ChiediTotale(stato().LimiteEsercizio, ambiente().servizi.sorte);
+  MostraCaso();
 }
 
 void FormaBarre::GeneraCaso2() {
-  const int nascosto = Casuale(ambiente().servizi.sorte, 2) + 1;
-  EstraiCaso();
-  MostraCaso(nascosto == 1 ? kChiediSecondo : kChiediPrimo);
+  partita_.ChiediAddendo(stato().LimiteEsercizio, ambiente().servizi.sorte);
+  MostraCaso();
 }
 
-qint16 FormaBarre::Lungo(int unita) const {
-  return toInt16(int(Unita) * unita);
-}
-
-qint16 FormaBarre::FineDi(int unita) const {
-  return toInt16(Lungo(unita) + OrigineX);
-}
-
-void FormaBarre::MostraCaso(const DomandaBarre& domanda) {
-  const Caso& caso = stato();
-  struct Barra {
-    platform::Label& barra;
-    int termine;
-    qint16 numero;
-    int sinistra;
-    int alto;
-  };
-  const std::array barre{
-      Barra{n1, kPrimoTermine, caso.Addendo1, OrigineX, OrigineY},
-      Barra{n2, kSecondoTermine, caso.Addendo2, FineDi(caso.Addendo1), OrigineY},
-      Barra{n3, kTermineTotale, caso.Totale, OrigineX, toInt16(OrigineY + Unita)},
-  };
-  for (const Barra& b : barre) {
-    const bool chiesta = b.termine == domanda.termine;
-    b.barra.setPlace(b.sinistra, b.alto, Lungo(b.numero), b.barra.height());
-    b.barra.setCaption(chiesta ? QStringLiteral("?") : leadingBlank(b.numero));
-  }
+void FormaBarre::MostraCaso() {
+  const DomandaBarre& domanda = kDomande[Posto(*partita_.Chiesto())];
+  const qint16 fineDelPrimo = FineDi(partita_.Numero(Termine::Primo));
+  const qint16 altoTotale = toInt16(OrigineY + Unita);
+  MettiBarra(Termine::Primo, OrigineX, OrigineY);
+  MettiBarra(Termine::Secondo, fineDelPrimo, OrigineY);
+  MettiBarra(Termine::Totale, OrigineX, altoTotale);
   Label3.setCaption(stringhe().*domanda.consegna);
-  for (const Barra& b : barre) {
-    if (b.termine != domanda.termine) continue;
-    RisultatoAtteso = b.numero;
-    barraChiesta_ = &b.barra;
-  }
   Chiedi(domanda);
-  for (const Barra& b : barre) {
-    Label4[b.termine].setCaption(b.termine == domanda.termine ? QString() : plain(b.numero));
+  for (const DomandaBarre& d : kDomande) {
+    const bool chiesto = d.termine == domanda.termine;
+    Scritto(d.termine).setCaption(chiesto ? QString() : plain(partita_.Numero(d.termine)));
   }
   DiciDomanda(QStringLiteral("%1 + %2 = %3. %4")
                   .arg(n1.caption(), n2.caption(), n3.caption(), Label3.caption()));
 }
 
+void FormaBarre::MettiBarra(Termine termine, int sinistra, int alto) {
+  platform::Label& barra = Barra(termine);
+  const qint16 numero = partita_.Numero(termine);
+  barra.setPlace(sinistra, alto, Lungo(numero), barra.height());
+  barra.setCaption(termine == partita_.Chiesto() ? QStringLiteral("?") : leadingBlank(numero));
+}
+
+void FormaBarre::CopriTermine(platform::TextBox& casella, const DomandaBarre& domanda) {
+  const platform::Label& vuoto = Scritto(domanda.termine);
+  casella.setPlace(vuoto.left(), vuoto.top(), vuoto.width(), vuoto.height());
+  casella.setForeColor(vuoto.foreColor());
+}
+
 void FormaBarre::MostraNumeri() {
-  n1.setCaption(leadingBlank(stato().Addendo1));
-  n2.setCaption(leadingBlank(stato().Addendo2));
-  n3.setCaption(leadingBlank(stato().Totale));
+  for (const DomandaBarre& domanda : kDomande) {
+    Barra(domanda.termine).setCaption(leadingBlank(partita_.Numero(domanda.termine)));
+  }
+}
+
+void FormaBarre::ScriviSomma() {
+  for (const DomandaBarre& domanda : kDomande) {
+    Scritto(domanda.termine).setCaption(plain(partita_.Numero(domanda.termine)));
+  }
 }
 
 void FormaBarre::AggiungiAllElenco() {
   AggiungiRiga(QStringLiteral("    %1 + %2 = %3").arg(n1.caption(), n2.caption(), n3.caption()));
 }
 
-void FormaBarre::ScriviSomma() {
-  Label4[kPrimoTermine].setCaption(plain(stato().Addendo1));
-  Label4[kSecondoTermine].setCaption(plain(stato().Addendo2));
-  Label4[kTermineTotale].setCaption(plain(stato().Totale));
-}
-
 void FormaBarre::NascondiAiuti() {
   for (platform::ControlArray<platform::Label>* quadretti : {&aiuto1, &aiuto3, &aiuto2}) {
     quadretti->forEach([](platform::Label& quadretto) { quadretto.setVisible(false); });
   }
+}
+
+void FormaBarre::NascondiSegno() {
+  if (Line1) Line1->setVisible(false);
+}
+
+void FormaBarre::MostraAiuto() {
+  if (Line1 && PartitaBarre::HaIlSegno(stato().LimiteEsercizio)) Line1->setVisible(true);
+  const qint16 primo = partita_.Numero(Termine::Primo);
+  const int altoAddendi = toInt16(Lungo(2) + OrigineY + kStacco);
+  MettiQuadretti(aiuto1, primo, OrigineX, altoAddendi);
+  MettiQuadretti(aiuto2, partita_.Numero(Termine::Secondo), FineDi(primo), altoAddendi);
+  MettiQuadretti(aiuto3, partita_.Numero(Termine::Totale), OrigineX, toInt16(Lungo(3) + OrigineY));
+  DiciQuadretti();
 }
 
 void FormaBarre::MettiQuadretti(platform::ControlArray<platform::Label>& quadretti, int quanti,
@@ -165,56 +205,32 @@ void FormaBarre::MettiQuadretti(platform::ControlArray<platform::Label>& quadret
   }
 }
 
-void FormaBarre::MostraAiuto() {
-  const int altoAddendi = toInt16(Lungo(2) + OrigineY + kStacco);
-  MettiQuadretti(aiuto1, stato().Addendo1, OrigineX, altoAddendi);
-  MettiQuadretti(aiuto2, stato().Addendo2, FineDi(stato().Addendo1), altoAddendi);
-  MettiQuadretti(aiuto3, stato().Totale, OrigineX, toInt16(Lungo(3) + OrigineY));
-  DiciQuadretti();
-}
-
 // One by one, so that they are counted by ear as the others count them by eye.
 void FormaBarre::DiciQuadretti() {
-  if (barraChiesta_ == nullptr) return;
-  const QStringList quadretti(RisultatoAtteso, QStringLiteral("1"));
+  const std::optional<Termine> chiesto = partita_.Chiesto();
+  if (!chiesto) return;
+  const QStringList quadretti(partita_.Atteso(), QStringLiteral("1"));
   announce(QStringLiteral("%1: %2").arg(
-      barraChiesta_->toolTip(),
+      Barra(*chiesto).toolTip(),
       quadretti.isEmpty() ? QStringLiteral("0") : quadretti.join(QStringLiteral(", "))));
 }
 
-void FormaBarre::LeggiMisure() {
-  Unita = toInt16(n1.height());
-  OrigineY = toInt16(n1.top());
-  OrigineX = toInt16(n1.left());
-  n2.setHeight(Unita);
-  n3.setHeight(Unita);
+platform::Label& FormaBarre::Barra(Termine termine) {
+  const std::array barre{&n1, &n2, &n3};
+  return *barre[Posto(termine)];
 }
 
-void FormaBarre::MisuraAiuti() {
-  for (platform::Label* primo : {&aiuto1[0], &aiuto2[0], &aiuto3[0]}) {
-    primo->setWidth(Unita);
-    primo->setHeight(Unita);
-  }
+// In `Label4` the signs stand between the terms.
+platform::Label& FormaBarre::Scritto(Termine termine) {
+  return Label4[2 * static_cast<int>(termine)];
 }
 
-void FormaBarre::ScriviTitolo() {
-  IniziaElenco(QStringLiteral("     ") + stringhe().TitoloBarre + stringhe().Trattino +
-               stringhe().*portata_.titolo);
+qint16 FormaBarre::Lungo(int unita) const {
+  return toInt16(int(Unita) * unita);
 }
 
-void FormaBarre::CreaAiuti() {
-  for (int i = 1; i < portata_.aiuti; ++i) {
-    aiuto1.load(i);
-    aiuto2.load(i);
-    aiuto3.load(i);
-  }
-}
-
-void FormaBarre::ColoraTermini(std::optional<platform::Rgb> primo) {
-  for (const DomandaBarre& domanda : {kChiediPrimo, kChiediSecondo, kChiediTotale}) {
-    Label4[domanda.termine].setForeColor(domanda.colore);
-  }
-  if (primo) Label4[kPrimoTermine].setForeColor(*primo);
+qint16 FormaBarre::FineDi(int unita) const {
+  return toInt16(Lungo(unita) + OrigineX);
 }
 
 }  // namespace somme

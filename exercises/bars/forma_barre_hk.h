@@ -1,7 +1,8 @@
 #pragma once
 
-#include "exercises/bars/forma_barre_tastiera.h"
-#include "exercises/core/con_tasti_cifre.h"
+#include "exercises/bars/forma_barre.h"
+#include "exercises/bars/risposta_scritta.h"
+#include "exercises/core/input_tocco.h"
 
 namespace somme {
 
@@ -9,23 +10,40 @@ namespace somme {
 // and go on. The box takes typing, too.
 //
 // Each activation, also the one after the keyboard sheet, drops the open case and the record.
-class FormaBarreHK : public ConTastiCifre<FormaBarreTastiera> {
+class FormaBarreHK final : public FormaBarre {
  public:
-  FormaBarreHK(Ambiente& ambiente, const platform::FormDesign& disegno,
-               const PortataBarre& portata);
+  FormaBarreHK(Ambiente& ambiente, std::string_view nome, const VarianteBarre& variante);
 
+  platform::ControlArray<platform::Socket> ControlloConnessione{*this};
+  platform::TextBox TestoInput{*this};
+  platform::Button PulsanteAiuto{*this};
+  platform::Button PulsanteAvanti{*this};
   platform::MenuItem mnuStamopaHK{*this};
 
-  // `InterpretaSegnale` bears another name on the bars.
-  void InterpretaSegnaleHK(int tasto) { InterpretaSegnale(tasto); }
+  [[nodiscard]] bool HelpiKeysConnesso() const { return tocco_.HelpiKeysConnesso(); }
+  // The place of the sheet under a cell of the touch surface, both counted from 1; 0 for none.
+  [[nodiscard]] int DecodificaSegnali(int colonna, int riga) const {
+    return tocco_.DecodificaSegnali(colonna, riga);
+  }
+  // Does what the key at a place of the sheet does, 1 to 16.
+  void InterpretaSegnaleHK(int tasto) const { tocco_.InterpretaSegnale(tasto); }
 
  protected:
-  void DopoLaRichiesta() override;
+  void onLoad() override;
+  void IniziaCasi() override;
+  void NuovoCaso() override;
+  void Chiedi(const DomandaBarre& domanda) override { CopriTermine(TestoInput, domanda); }
 
-  [[nodiscard]] platform::TextBox& Casella() override { return TestoInput; }
-  [[nodiscard]] bool SiScrive() const override { return !TestoInput.isLocked(); }
-  void Conferma() override { Controlla(); }
-  void Aiuta() override;
+ private:
+  void Agisci(Tasto tasto);
+  void Aiuta();
+
+  RispostaScritta risposta_{*this, TestoInput, PulsanteAiuto, PulsanteAvanti};
+  TastiCifre tasti_;
+  InputTocco tocco_;
 };
+
+extern const VarianteBarre kBarreHK10;
+extern const VarianteBarre kBarreHK20;
 
 }  // namespace somme

@@ -1,36 +1,60 @@
 #pragma once
 
 #include "exercises/bars/forma_barre.h"
-#include "exercises/core/con_scansione.h"
+#include "exercises/core/input_scansione.h"
+#include "exercises/core/scansione.h"
 
 namespace somme {
 
-// The bars forms that are worked by scanning: the keyboard of digits fills a box that lies over the
-// empty term of the written sum, helps, confirms, and leads on after a right answer.
-class FormaBarreScansione : public ConScansione<FormaBarre> {
- public:
-  FormaBarreScansione(Ambiente& ambiente, const platform::FormDesign& disegno,
-                      const PortataBarre& portata);
+// What two bars forms that are worked by scanning differ in.
+struct VarianteBarreScansione {
+  VarianteBarre pagina;
+  // Each case writes all three terms of the sum, the one that is asked for under the box, and the
+  // first in this colour; without one the term that is asked for is empty. Kept: see
+  // docs/oddities.md.
+  std::optional<platform::Rgb> primoTermine;
+  // Which comes back first when the print panel closes: the page or its keyboard.
+  enum class Chiusura { PaginaPoiTastiera, TastieraPoiPagina } chiusura;
+};
 
-  platform::TextBox TestoInput{*this};             // only the program writes in it
+// The bars forms that are worked by scanning: the keyboard of digits fills a box that lies over the
+// empty term of the written sum, helps, confirms, and leads on after a right answer. Closing the
+// print panel wakes the keyboard and drops the open case.
+class FormaBarreScansione final : public FormaBarre {
+ public:
+  FormaBarreScansione(Ambiente& ambiente, std::string_view nome,
+                      const VarianteBarreScansione& variante);
+
+  platform::TextBox TestoInput{*this};  // only the program writes in it
+  TastieraNumericaScansione TastieraNumericaScansione1{*this};
   platform::Label LabelDimensioneTastiera{*this};  // hidden: the keyboard's place
 
   // Judges what stands in the box; an empty one is 0.
-  void Conferma() override;
+  void Conferma();
+  void MostraAiuto() override;
 
  protected:
-  void onLoad() override;
+  void IniziaCasi() override;
   void NuovoCaso() override;
-  void Chiedi(const DomandaBarre& domanda) override;
-  void ScriviCifra(int cifra) override { AccodaCifra(TestoInput, cifra); }
-  void SvuotaInput() override { TestoInput.setText({}); }
-  [[nodiscard]] QString Scritto() const override { return TestoInput.text(); }
-  void ChiediAiuto() override { MostraAiuto(); }
+  // In a colour of its own the first term gives it to the box from the second case on.
+  void Chiedi(const DomandaBarre& domanda) override { CopriTermine(TestoInput, domanda); }
+  void ChiudiPannelloStampa() override;
 
-  // The colour of the number in the box.
-  [[nodiscard]] virtual platform::Rgb ColoreRisposta(const DomandaBarre& domanda) const {
-    return domanda.colore;
-  }
+ private:
+  void RispostaGiusta();
+
+  const VarianteBarreScansione& variante_;
+  InputScansione scansione_{*this,
+                            TastieraNumericaScansione1,
+                            {.cifra = [this](int cifra) { AccodaCifra(TestoInput, cifra); },
+                             .cestino = [this] { TestoInput.setText({}); },
+                             .scritto = [this] { return TestoInput.text(); },
+                             .conferma = [this] { Conferma(); },
+                             .avanti = [this] { NuovoCaso(); },
+                             .aiuto = [this] { MostraAiuto(); }}};
 };
+
+extern const VarianteBarreScansione kBarreScansione10;
+extern const VarianteBarreScansione kBarreScansione20;
 
 }  // namespace somme

@@ -1,26 +1,29 @@
 #pragma once
 
-#include "exercises/bars/forma_barre_pulsanti.h"
-#include "platform/forms/controls/text_box.h"
+#include "exercises/bars/forma_barre.h"
+#include "exercises/bars/risposta_scritta.h"
 
 namespace somme {
 
-// The bars forms on which the answer is typed: into a box that lies over the empty term of the
-// written sum, in its colour. Enter, at its release, checks it.
-class FormaBarreTastiera : public FormaBarrePulsanti {
+// The bars forms on which the answer is typed.
+class FormaBarreTastiera final : public FormaBarre {
  public:
-  FormaBarreTastiera(Ambiente& ambiente, const platform::FormDesign& disegno,
-                     const PortataBarre& portata);
+  FormaBarreTastiera(Ambiente& ambiente, std::string_view nome, const VarianteBarre& variante);
 
   platform::TextBox TestoInput{*this};
+  platform::Button PulsanteAiuto{*this};
+  platform::Button PulsanteAvanti{*this};
 
  protected:
   void onLoad() override;
-  void NuovoCaso() override;
-  void Chiedi(const DomandaBarre& domanda) override;
-  // It does not look at the locked state: Enter in the box of a solved case counts again, as
-  // settled.
-  void Controlla();
+  void NuovoCaso() override { risposta_.NuovoCaso(); }
+  void Chiedi(const DomandaBarre& domanda) override { CopriTermine(TestoInput, domanda); }
+
+ private:
+  RispostaScritta risposta_{*this, TestoInput, PulsanteAiuto, PulsanteAvanti};
 };
+
+extern const VarianteBarre kBarreTastiera10;
+extern const VarianteBarre kBarreTastiera20;
 
 }  // namespace somme

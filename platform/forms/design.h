@@ -118,6 +118,18 @@ struct MemberOf<Type Owner::*> {
 
 template <class T>
 concept IsArray = requires(T& t) { t.element(0); };
+template <class T>
+concept IsOptional = requires(T& t) { t.element(); };
+
+// The control that a member stands for.
+template <class T>
+constexpr Control& controlOf(T& member) {
+  if constexpr (IsOptional<T>) {
+    return member.element();
+  } else {
+    return member;
+  }
+}
 
 }  // namespace design
 
@@ -125,13 +137,15 @@ concept IsArray = requires(T& t) { t.element(0); };
 template <auto Member>
 inline constexpr std::string_view nameOf = design::spelledName<Member>();
 
-// A row for a member outside of an array.
+// A row for a member outside of an array: a control, or one that only some designs have.
 template <auto Member>
 constexpr Row row(TwipsRect place, Look look = {}) {
   using Owner = typename design::MemberOf<decltype(Member)>::Class;
   return {nameOf<Member>, -1,
-          [](Form& form, int) -> Control& { return static_cast<Owner&>(form).*Member; }, place,
-          look};
+          [](Form& form, int) -> Control& {
+            return design::controlOf(static_cast<Owner&>(form).*Member);
+          },
+          place, look};
 }
 
 // A row for element `index` of a control array.

@@ -3,7 +3,7 @@
 
 #include "app/form_menu.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
 

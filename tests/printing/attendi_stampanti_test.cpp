@@ -5,18 +5,18 @@
 #include <utility>
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
 using prova::Banco;
-using somme::FormBarre10;
+using somme::FormaBarrePulsanti;
 
 namespace {
 
-FormBarre10& apri(Banco& banco) {
+FormaBarrePulsanti& apri(Banco& banco) {
   banco.ambiente->stato.LimiteEsercizio = 10;
-  return banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+  return banco.apri<FormaBarrePulsanti>(somme::forme::kFormBarre10);
 }
 
 }  // namespace
@@ -28,7 +28,7 @@ class AttendiStampantiTest : public QObject {
  private Q_SLOTS:
   void aWaitForThePrinterIsSeenFromHalfASecondOn() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     forma.mnuStampa.click();
     const auto avviso = [&] {
       return banco.ambiente->fondo.window().findChild<QLabel*>(QStringLiteral("WaitSign"));
@@ -61,7 +61,7 @@ class AttendiStampantiTest : public QObject {
 
   void theWindowMayBeClosedWhileThePrinterIsWaitedFor() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     forma.mnuStampa.click();
     banco.stampanti.mentreRisponde = [&] { banco.ambiente->fondo.window().close(); };
     banco.clicca(forma.CommandStampa);
@@ -71,7 +71,7 @@ class AttendiStampantiTest : public QObject {
 
   void whileAPrinterKeepsTheProgramWaitingNoClickAndNoKeyGetsThrough() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     forma.mnuStampa.click();
     bool provato = false;
     banco.stampanti.mentreRisponde = [&] {

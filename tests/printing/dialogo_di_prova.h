@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 #include "printing/frm_avvia_stampa.h"
 #include "support/banco.h"
 
@@ -117,13 +117,13 @@ class DialogoDiProva {
   }
 
   Banco banco;
-  somme::FormBarre10& forma;
+  somme::FormaBarrePulsanti& forma;
   bool visto = false;  // whether the dialog was ever open
 
  private:
-  somme::FormBarre10& apriForma() {
+  somme::FormaBarrePulsanti& apriForma() {
     banco.ambiente->stato.LimiteEsercizio = 10;
-    return banco.apri<somme::FormBarre10>(somme::forme::kFormBarre10);
+    return banco.apri<somme::FormaBarrePulsanti>(somme::forme::kFormBarre10);
   }
 
   somme::frmAvviaStampa* aperto_ = nullptr;

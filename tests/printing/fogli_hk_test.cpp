@@ -1,7 +1,6 @@
-#include "exercises/bars/form_barre10_hk.h"
-
 #include <QApplication>
-#include "exercises/bars/form_barre20_hk.h"
+
+#include "exercises/bars/forma_barre_hk.h"
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "fogli_di_prova.h"
 #include "platform/forms/controls/menu_item.h"

@@ -4,7 +4,7 @@
 #include <QRegularExpression>
 
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 #include "platform/base/run_time_error.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
@@ -13,16 +13,16 @@
 using platform::RunTimeError;
 using prova::Banco;
 using prova::PdfLetto;
-using somme::FormBarre10;
+using somme::FormaBarrePulsanti;
 
 namespace {
 
 constexpr double kMillimetriPerTwip = 25.4 / 1440;
 constexpr int kMargine = 1440;
 
-FormBarre10& apri(Banco& banco) {
+FormaBarrePulsanti& apri(Banco& banco) {
   banco.ambiente->stato.LimiteEsercizio = 10;
-  return banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+  return banco.apri<FormaBarrePulsanti>(somme::forme::kFormBarre10);
 }
 
 // Numbered lines, each a word of its own.
@@ -38,14 +38,15 @@ QStringList paroleDi(const QString& testo) {
   return testo.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
 }
 
-QByteArray stampa(Banco& banco, FormBarre10& forma, const QString& testo, int margine = kMargine) {
+QByteArray stampa(Banco& banco, FormaBarrePulsanti& forma, const QString& testo,
+                  int margine = kMargine) {
   forma.TestoStampa.setText(testo);
   somme::StampaTestoRicco(*banco.ambiente, forma.TestoStampa, margine, margine, margine, margine);
   return banco.stampanti.lavori.back().pages;
 }
 
 // How many lines fill a page of the printer exactly.
-int righePerPagina(const FormBarre10& forma, const QRectF& rettangolo) {
+int righePerPagina(const FormaBarrePulsanti& forma, const QRectF& rettangolo) {
   const qsizetype seguente = forma.TestoStampa.formatRange(nullptr, rettangolo, 0);
   return int(forma.TestoStampa.text().left(seguente).count(u'\n'));
 }
@@ -73,7 +74,7 @@ class ModuloStampaTest : public QObject {
  private Q_SLOTS:
   void commandStampaPrintsTheRecordOnTheDefaultPrinterAndLeavesThePanelOpen() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     forma.mnuStampa.click();
     QVERIFY(forma.CommandStampa.isEnabled());
     forma.TestoStampa.append(QStringLiteral("     3 +  4 =  7\r\n"));
@@ -94,7 +95,7 @@ class ModuloStampaTest : public QObject {
 
   void aRecordWithoutASolvedSumIsItsTitleAlone() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     forma.mnuStampa.click();
     banco.clicca(forma.CommandStampa);
     QCOMPARE(banco.stampanti.lavori.size(), size_t(1));
@@ -105,7 +106,7 @@ class ModuloStampaTest : public QObject {
 
   void theMarginsAreAnInchFromTheEdgesOfTheSheet() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     // Full lines of full pages: the ink reaches every margin.
     forma.TestoStampa.setText(QStringLiteral("\u2588").repeated(9000));
     forma.mnuStampa.click();
@@ -135,7 +136,7 @@ class ModuloStampaTest : public QObject {
 
   void whatAPrinterDoesNotReachDoesNotMoveTheTextOnThePaper() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     const QRectF plain =
         prova::inchiostro(PdfLetto(stampa(banco, forma, righe(1))).immagine(1, 150), 150);
     platform::Paper carta = prova::CartaA4();
@@ -150,7 +151,7 @@ class ModuloStampaTest : public QObject {
 
   void aRecordOfOneLineTakesOnePageTrueToSize() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     const PdfLetto letto(stampa(banco, forma, righe(1)));
     QCOMPARE(letto.pagine(), 1);
     QVERIFY(std::abs(letto.millimetri().width() - 210) < 0.2);
@@ -160,13 +161,13 @@ class ModuloStampaTest : public QObject {
 
   void anEmptyRecordTakesOnePage() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     QCOMPARE(PdfLetto(stampa(banco, forma, {})).pagine(), 1);
   }
 
   void aRecordOfExactlyOnePageTakesNoSecondOne() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     forma.TestoStampa.setText(righe(500));
     const int perPagina = righePerPagina(forma, paginaA4());
     QVERIFY2(perPagina > 20 && perPagina < 80, qPrintable(QString::number(perPagina)));
@@ -176,7 +177,7 @@ class ModuloStampaTest : public QObject {
 
   void aRecordThatFitsIsSetInOneCallOfTheFormatRange() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     forma.TestoStampa.setText(righe(20));
     QCOMPARE(forma.TestoStampa.formatRange(nullptr, paginaA4(), 0),
              forma.TestoStampa.text().size());
@@ -184,7 +185,7 @@ class ModuloStampaTest : public QObject {
 
   void noLineIsLostOrDoubledAtAPageBreak() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     forma.TestoStampa.setText(righe(500));
     const int perPagina = righePerPagina(forma, paginaA4());
     const int quante = 2 * perPagina + 7;
@@ -211,7 +212,7 @@ class ModuloStampaTest : public QObject {
     QFETCH(double, larghezza);
     QFETCH(double, altezza);
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     const QRectF area = somme::RettangoloDiDisegno(
         {kMargine, kMargine, kMargine, kMargine},
         {larghezza / kMillimetriPerTwip, altezza / kMillimetriPerTwip, 0, 0});
@@ -231,7 +232,7 @@ class ModuloStampaTest : public QObject {
 
   void aPageBreakInsideOfALongParagraphFallsBetweenTwoLines() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     QString testo;
     for (int i = 0; i < 3000; ++i) testo += QStringLiteral("p%1 ").arg(i, 4, 10, QLatin1Char('0'));
     const PdfLetto letto(stampa(banco, forma, testo));
@@ -252,7 +253,7 @@ class ModuloStampaTest : public QObject {
 
   void theRecordTakesThePrintersOwnPaperAndDirection() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     platform::PrinterTraits stampante = prova::StampanteDiProva(prova::CartaA3());
     stampante.standard.orientation = platform::Orientation::Landscape;
     banco.stampanti.metti(QStringLiteral("Prova"), stampante);
@@ -264,7 +265,7 @@ class ModuloStampaTest : public QObject {
 
   void aQueueGetsUprightPagesWithTheTextTurned() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     platform::PrinterTraits stampante = prova::StampanteDiProva();
     stampante.standard.orientation = platform::Orientation::Landscape;
     stampante.feedsUpright = true;
@@ -285,14 +286,14 @@ class ModuloStampaTest : public QObject {
 
   void withoutAPrinterTheRecordIsRunTimeError482() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     banco.stampanti.nessuna();
     QCOMPARE(erroreDi([&] { stampa(banco, forma, righe(1)); }), 482);
   }
 
   void aPrinterThatRefusesIsRunTimeError482() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     banco.stampanti.esito = {};
     QCOMPARE(erroreDi([&] { stampa(banco, forma, righe(1)); }), 482);
     banco.stampanti.esito = {17, false};
@@ -301,14 +302,14 @@ class ModuloStampaTest : public QObject {
 
   void aPrinterThatCannotBeOpenedIsRunTimeError482() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     banco.stampanti.stampanti.clear();
     QCOMPARE(erroreDi([&] { stampa(banco, forma, righe(1)); }), 482);
   }
 
   void aPrinterThatTakesNoPagesIsRunTimeError482() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     banco.stampanti.stampanti[QStringLiteral("Prova")].traits.takesPages = false;
     QCOMPARE(erroreDi([&] { stampa(banco, forma, righe(1)); }), 482);
     QVERIFY(banco.stampanti.lavori.empty());
@@ -316,7 +317,7 @@ class ModuloStampaTest : public QObject {
 
   void aFailedPrintShowsTheBoxOfTheRunTimeAndEndsTheProgram() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     banco.stampanti.esito = {};
     forma.mnuStampa.click();
     banco.clicca(forma.CommandStampa);
@@ -328,7 +329,7 @@ class ModuloStampaTest : public QObject {
 
   void noPrinterIsAskedForAnythingBeforeAPrint() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     int domande = 0;
     banco.stampanti.mentreRisponde = [&domande] { ++domande; };
     forma.mnuStampa.click();
@@ -340,7 +341,7 @@ class ModuloStampaTest : public QObject {
 
   void aPrintServerThatDoesNotTellItsDefaultIsAFailedPrintAndNoOtherPrinterIsTaken() {
     Banco banco;
-    FormBarre10& forma = apri(banco);
+    FormaBarrePulsanti& forma = apri(banco);
     banco.stampanti.elenco.standard.clear();
     QCOMPARE(erroreDi([&] { stampa(banco, forma, righe(1)); }), 482);
     QVERIFY(banco.stampanti.aperte.isEmpty());

@@ -9,9 +9,9 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/forma_abaco_scansione.h"
 #include "exercises/abacus/forma_abaco_tastiera.h"
-#include "exercises/bars/form_barre10.h"
-#include "exercises/bars/form_barre10_scansione.h"
-#include "exercises/bars/form_barre20.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
+#include "exercises/bars/forma_barre_scansione.h"
+#include "exercises/bars/forma_barre_tastiera.h"
 #include "exercises/blocks/form_hlu.h"
 #include "exercises/blocks/form_lu.h"
 #include "exercises/blocks/form_lu_scansione.h"
@@ -78,23 +78,23 @@ void TempoScansione(Banco& banco) {
 }
 
 void Barre10(Banco& banco) {
-  Barre<FormBarre10>(banco, forme::kFormBarre10, 10, 7, 3);
+  Barre<FormaBarrePulsanti>(banco, forme::kFormBarre10, 10, 7, 3);
 }
 void Barre10Aiuto(Banco& banco) {
-  auto& forma = Barre<FormBarre10>(banco, forme::kFormBarre10, 10, 7, 3);
+  auto& forma = Barre<FormaBarrePulsanti>(banco, forme::kFormBarre10, 10, 7, 3);
   banco.clicca(forma.PulsanteNumero[6]);
   banco.clicca(forma.PulsanteAiuto);
 }
 void Barre10Giusto(Banco& banco) {
-  auto& forma = Barre<FormBarre10>(banco, forme::kFormBarre10, 10, 7, 3);
+  auto& forma = Barre<FormaBarrePulsanti>(banco, forme::kFormBarre10, 10, 7, 3);
   banco.clicca(forma.PulsanteNumero[7]);
 }
 void Barre20(Banco& banco) {
-  Barre<FormBarre20>(banco, forme::kFormBarre20, 20, 15, 8);
+  Barre<FormaBarreTastiera>(banco, forme::kFormBarre20, 20, 15, 8);
 }
 void BarreScansione(Banco& banco) {
   banco.ambiente->stato.ModalitaInput = kScansioneAutomatica;
-  Barre<FormBarre10Scansione>(banco, forme::kFormBarre10Scansione, 10, 7, 3);
+  Barre<FormaBarreScansione>(banco, forme::kFormBarre10Scansione, 10, 7, 3);
   banco.tempo.advance(3.2);
 }
 

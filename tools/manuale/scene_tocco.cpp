@@ -5,7 +5,7 @@
 
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/forma_abaco_hk.h"
-#include "exercises/bars/form_barre10_hk.h"
+#include "exercises/bars/forma_barre_hk.h"
 #include "exercises/blocks/form_lu_hk.h"
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "support/tocchi.h"
@@ -82,7 +82,7 @@ void ConIlFoglio(Banco& banco, std::string_view nome,
 
 void BarreTocco(Banco& banco) {
   banco.ambiente->stato.LimiteEsercizio = 10;
-  Pronta<FormBarre10HK>(banco, forme::kFormBarre10HK, 1, {{7 - 1, 10}, {3, 7}});
+  Pronta<FormaBarreHK>(banco, forme::kFormBarre10HK, 1, {{7 - 1, 10}, {3, 7}});
   prova::toccaNumero(banco, QStringLiteral("7"));
 }
 

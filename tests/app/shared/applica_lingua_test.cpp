@@ -5,15 +5,15 @@
 #include "app/form_avvio.h"
 #include "app/form_info.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 #include "lingua_di_prova.h"
 #include "support/iscrizione.h"
 
 using prova::Banco;
 using prova::kLinguaDiProva;
 using prova::parla;
+using somme::FormaBarrePulsanti;
 using somme::FormAvvio;
-using somme::FormBarre10;
 using somme::FormInfo;
 using somme::TestoLingua;
 using somme::forme::kFormAvvio;
@@ -65,7 +65,7 @@ class ApplicaLinguaTest : public QObject {
     Banco banco;
     banco.ambiente->stato.LimiteEsercizio = 10;
     parla(banco, "[FormBarre10]\nMenuAzzera.Caption=\"Da capo\"\n");
-    const FormBarre10& forma = banco.apri<FormBarre10>(kFormBarre10);
+    const FormaBarrePulsanti& forma = banco.apri<FormaBarrePulsanti>(kFormBarre10);
     QCOMPARE(forma.MenuAzzera.caption(), QStringLiteral("Da capo"));
   }
 
@@ -121,7 +121,7 @@ class ApplicaLinguaTest : public QObject {
     banco.tempo.after(0, [&] {
       banco.tempo.after(0, [&] { QFile::remove(banco.percorso(QStringLiteral("Prova.lng"))); });
     });
-    const FormBarre10& forma = banco.apri<FormBarre10>(kFormBarre10);
+    const FormaBarrePulsanti& forma = banco.apri<FormaBarrePulsanti>(kFormBarre10);
     QCOMPARE(forma.PulsanteNumero[0].caption(), QStringLiteral("0"));
     QVERIFY(banco.messaggi.mostrati.empty());
   }
@@ -184,7 +184,7 @@ class ApplicaLinguaTest : public QObject {
 
     const double memory = memoria();
     const std::clock_t start = std::clock();
-    const FormBarre10& forma = banco.apri<FormBarre10>(kFormBarre10);
+    const FormaBarrePulsanti& forma = banco.apri<FormaBarrePulsanti>(kFormBarre10);
     const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
     const double grown = memoria() - memory;
     QCOMPARE(forma.PulsanteAiuto.caption(), QStringLiteral("l'ultima riga"));
@@ -196,7 +196,7 @@ class ApplicaLinguaTest : public QObject {
   void eventsRunAfterEachControlInTheOrderOfTheForm() {
     Banco banco;
     banco.ambiente->stato.LimiteEsercizio = 10;
-    FormBarre10& forma = banco.apri<FormBarre10>(kFormBarre10);
+    FormaBarrePulsanti& forma = banco.apri<FormaBarrePulsanti>(kFormBarre10);
     QByteArray testo = "[FormBarre10]\n";
     for (const platform::Control* controllo : forma.controls()) {
       testo += controllo->name().toUtf8() + ".Tag=\"letto\"\n";

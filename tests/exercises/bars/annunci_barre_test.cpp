@@ -1,15 +1,15 @@
-#include "barre10_di_prova.h"
-
 #include <QApplication>
-#include "exercises/bars/form_barre10_hk.h"
-#include "exercises/bars/form_barre10_scansione.h"
-#include "exercises/bars/form_barre20.h"
+
+#include "barre10_di_prova.h"
+#include "exercises/bars/forma_barre_hk.h"
+#include "exercises/bars/forma_barre_scansione.h"
+#include "exercises/bars/forma_barre_tastiera.h"
 #include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 #include "support/tocchi.h"
 
 using prova::Banco;
-using somme::FormBarre10;
+using somme::FormaBarrePulsanti;
 using somme::TastieraNumericaScansione;
 
 namespace {
@@ -39,7 +39,7 @@ class AnnunciBarreTest : public QObject {
   void onTheNumberedButtonsQuestionHelpVerdictAndSumAreTold() {
     Banco banco;
     scriviCasi(banco);
-    auto& forma = banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+    auto& forma = banco.apri<FormaBarrePulsanti>(somme::forme::kFormBarre10);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     banco.clicca(forma.PulsanteNumero[5]);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kSbagliato});
@@ -54,7 +54,7 @@ class AnnunciBarreTest : public QObject {
   void theBarThatIsAskedForHasNoNumberAndItsSquaresAreTold() {
     Banco banco;
     banco.ambiente->stato.LimiteEsercizio = 10;
-    auto& forma = banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+    auto& forma = banco.apri<FormaBarrePulsanti>(somme::forme::kFormBarre10);
     banco.annunci.detti.clear();
     // The first addend of 0 + 5 is asked for: no square stands under its bar.
     banco.sorte.scrivi({{1, 2}, {4, 10}, {0, 5}});
@@ -69,7 +69,7 @@ class AnnunciBarreTest : public QObject {
   void typedTheSameIsTold() {
     Banco banco;
     scriviCasi(banco);
-    auto& forma = banco.apri<somme::FormBarre20>(somme::forme::kFormBarre20);
+    auto& forma = banco.apri<somme::FormaBarreTastiera>(somme::forme::kFormBarre20);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     banco.clicca(forma.PulsanteAiuto);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kAiuto});
@@ -84,7 +84,7 @@ class AnnunciBarreTest : public QObject {
   void scannedTheVerdictComesBeforeTheLightMoves() {
     Banco banco;
     scriviCasi(banco);
-    auto& forma = banco.apri<somme::FormBarre10Scansione>(somme::forme::kFormBarre10Scansione);
+    auto& forma = banco.apri<somme::FormaBarreScansione>(somme::forme::kFormBarre10Scansione);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     const TastieraNumericaScansione& tastiera = forma.TastieraNumericaScansione1;
     qint16 accesoAlVerdetto = -1;
@@ -109,7 +109,7 @@ class AnnunciBarreTest : public QObject {
   void touchedTheSameIsTold() {
     Banco banco;
     scriviCasi(banco);
-    prova::apriPronta<somme::FormBarre10HK>(banco, somme::forme::kFormBarre10HK);
+    prova::apriPronta<somme::FormaBarreHK>(banco, somme::forme::kFormBarre10HK);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kDomanda});
     prova::rispondiToccando(banco, QStringLiteral("5"));
     QCOMPARE(banco.annunci.nuovi(), (QStringList{QStringLiteral("5"), kSbagliato}));

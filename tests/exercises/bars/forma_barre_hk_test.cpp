@@ -6,8 +6,6 @@
 
 #include "app/shared/nomi_forme.h"
 #include "barre_di_prova.h"
-#include "exercises/bars/form_barre10_hk.h"
-#include "exercises/bars/form_barre20_hk.h"
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
@@ -23,8 +21,6 @@ using prova::tocca;
 using prova::toccaNumero;
 using prova::visibili;
 using somme::FormaBarreHK;
-using somme::FormBarre10HK;
-using somme::FormBarre20HK;
 using somme::Tasto;
 
 namespace {
@@ -35,14 +31,14 @@ void scriviCaso(Banco& banco, int limite, int totale, int addendo1) {
   banco.sorte.scrivi({{totale - 1, limite}, {addendo1, totale}});
 }
 
-FormBarre10HK& apri10(Banco& banco, int totale = 7, int addendo1 = 3) {
+FormaBarreHK& apri10(Banco& banco, int totale = 7, int addendo1 = 3) {
   scriviCaso(banco, 10, totale, addendo1);
-  return prova::apriPronta<FormBarre10HK>(banco, somme::forme::kFormBarre10HK);
+  return prova::apriPronta<FormaBarreHK>(banco, somme::forme::kFormBarre10HK);
 }
 
-FormBarre20HK& apri20(Banco& banco, int totale = 17, int addendo1 = 9) {
+FormaBarreHK& apri20(Banco& banco, int totale = 17, int addendo1 = 9) {
   scriviCaso(banco, 20, totale, addendo1);
-  return prova::apriPronta<FormBarre20HK>(banco, somme::forme::kFormBarre20HK);
+  return prova::apriPronta<FormaBarreHK>(banco, somme::forme::kFormBarre20HK);
 }
 
 }  // namespace
@@ -54,7 +50,7 @@ class FormaBarreHKTest : public QObject {
  private Q_SLOTS:
   void itOpensWithTheBoxOverTheTotalAndTheFocusInIt() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     QVERIFY(forma.TestoInput.hasFocus());
     QVERIFY(!forma.TestoInput.isLocked());
     QVERIFY(stannoSulPosto(forma.TestoInput, forma.Label4[4]));
@@ -72,26 +68,26 @@ class FormaBarreHKTest : public QObject {
 
   void upToTwentyThereAreTwentySquaresAndTheMarkOfTheTen() {
     Banco banco;
-    FormBarre20HK& forma = apri20(banco);
+    FormaBarreHK& forma = apri20(banco);
     QCOMPARE(forma.aiuto1.count(), 20);
-    QVERIFY(!forma.Line1.isVisible());
+    QVERIFY(!forma.Line1->isVisible());
     QCOMPARE(forma.TestoStampa.text(),
              QStringLiteral("\r\n     Uso delle barre - Fino al 20\r\n\r\n"));
     tocca(banco, Tasto::Aiuto);
-    QVERIFY(forma.Line1.isVisible());
-    QVERIFY(std::abs(forma.Line1.left() - forma.n1.left() - 10 * forma.n1.height()) < 15);
+    QVERIFY(forma.Line1->isVisible());
+    QVERIFY(std::abs(forma.Line1->left() - forma.n1.left() - 10 * forma.n1.height()) < 15);
     QCOMPARE(visibili(forma.aiuto1), 9);
     QCOMPARE(visibili(forma.aiuto2), 8);
     QCOMPARE(visibili(forma.aiuto3), 17);
     rispondiToccando(banco, QStringLiteral("17"));
     tocca(banco, Tasto::Avanti);
-    QVERIFY(!forma.Line1.isVisible());
+    QVERIFY(!forma.Line1->isVisible());
     QCOMPARE(visibili(forma.aiuto3), 0);
   }
 
   void theRightAnswerByTouchShowsTheSumLocksTheBoxAndOpensTheWay() {
     Banco banco;
-    FormBarre20HK& forma = apri20(banco);
+    FormaBarreHK& forma = apri20(banco);
     rispondiToccando(banco, QStringLiteral("17"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(forma.n3.caption(), QStringLiteral(" 17"));
@@ -105,7 +101,7 @@ class FormaBarreHKTest : public QObject {
 
   void aWrongAnswerKeepsTheTextAndTheBinEmptiesIt() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     rispondiToccando(banco, QStringLiteral("8"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QVERIFY(forma.ImgNo.isVisible());
@@ -118,7 +114,7 @@ class FormaBarreHKTest : public QObject {
 
   void aTouchedNoughtIsJudgedOnTheBars() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     rispondiToccando(banco, QStringLiteral("0"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     banco.sorte.scrivi({{1, 2}, {4, 10}, {0, 5}});
@@ -137,7 +133,7 @@ class FormaBarreHKTest : public QObject {
 
   void afterARightAnswerDigitsBinAndConfirmationDoNothingAndTheWayOnActs() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     toccaNumero(banco, QStringLiteral("0123456789"));
     tocca(banco, Tasto::Cestino);
@@ -153,7 +149,7 @@ class FormaBarreHKTest : public QObject {
 
   void theHelpWorksOnASolvedCaseToo() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     tocca(banco, Tasto::Aiuto);
     QCOMPARE(visibili(forma.aiuto3), 7);
@@ -162,7 +158,7 @@ class FormaBarreHKTest : public QObject {
 
   void theHelpKeyDoesNothingWhileItsButtonIsDisabled() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     forma.PulsanteAiuto.setEnabled(false);
     tocca(banco, Tasto::Aiuto);
     QCOMPARE(visibili(forma.aiuto3), 0);
@@ -170,7 +166,7 @@ class FormaBarreHKTest : public QObject {
 
   void theWayOnDoesNothingBeforeARightAnswer() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     toccaNumero(banco, QStringLiteral("7"));
     tocca(banco, Tasto::Avanti);
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("7"));
@@ -178,7 +174,7 @@ class FormaBarreHKTest : public QObject {
 
   void theKeysElevenAndTwelveAndNoKeyAtAllDoNothing() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     forma.InterpretaSegnaleHK(forma.DecodificaSegnali(6, 12));
     tocca(banco, 11);
     tocca(banco, 12);
@@ -188,7 +184,7 @@ class FormaBarreHKTest : public QObject {
 
   void aTouchedDigitPassesTheLimitThatATypedOneMeets() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     banco.scrivi(QStringLiteral("123"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("12"));
     toccaNumero(banco, QStringLiteral("3"));
@@ -199,7 +195,7 @@ class FormaBarreHKTest : public QObject {
 
   void aNormalKeyboardAlsoWorks() {
     Banco banco;
-    FormBarre20HK& forma = apri20(banco);
+    FormaBarreHK& forma = apri20(banco);
     banco.scrivi(QStringLiteral("1a7"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("17"));
     banco.batti(Qt::Key_Return);
@@ -209,7 +205,7 @@ class FormaBarreHKTest : public QObject {
 
   void enterInTheLockedBoxCountsAgainAsOnTheOtherForms() {
     Banco banco;
-    FormBarre20HK& forma = apri20(banco);
+    FormaBarreHK& forma = apri20(banco);
     rispondiToccando(banco, QStringLiteral("17"));
     banco.clicca(forma.TestoInput);
     banco.batti(Qt::Key_Return);
@@ -218,7 +214,7 @@ class FormaBarreHKTest : public QObject {
 
   void aSecondActivationDropsCaseAndRecordAndDoesNotMakeTheSquaresAgain() {
     Banco banco;
-    FormBarre20HK& forma = apri20(banco);
+    FormaBarreHK& forma = apri20(banco);
     rispondiToccando(banco, QStringLiteral("17"));
     const platform::Label* ultimo = &forma.aiuto1[19];
     scriviCaso(banco, 20, 15, 4);
@@ -235,7 +231,7 @@ class FormaBarreHKTest : public QObject {
 
   void aSecondActivationReadsTheMeasuresOfTheWindowAsItIsNow() {
     Banco banco({800, 600});
-    FormBarre20HK& forma = apri20(banco);
+    FormaBarreHK& forma = apri20(banco);
     banco.ridimensiona({1600, 1200});
     scriviCaso(banco, 20, 10, 4);
     banco.riattiva();
@@ -244,7 +240,7 @@ class FormaBarreHKTest : public QObject {
 
   void theCountsShareOneSizeOfWriting() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     QCOMPARE(forma.EtichettaEsatti.fontSize(), forma.EtichettaErrati.fontSize());
     forma.EtichettaErrati.setFontSize(20);
     banco.riattiva();
@@ -257,14 +253,14 @@ class FormaBarreHKTest : public QObject {
     banco.tempo.after(0.2, [&banco] { banco.ambiente->fondo.window().resize(1600, 1200); });
     banco.tempo.after(0.4, [&banco] { banco.rete.accettaOra(); });
     scriviCaso(banco, 10, 7, 3);
-    auto& forma = banco.apri<FormBarre10HK>(somme::forme::kFormBarre10HK);
+    auto& forma = banco.apri<FormaBarreHK>(somme::forme::kFormBarre10HK);
     QVERIFY(std::abs(forma.n3.width() - 7 * forma.n1.height()) < 10);
     QVERIFY(forma.n1.widget()->height() > 50);
   }
 
   void aTouchThatGoesOnWhileThePrinterIsAskedDoesNotLoseTheRecord() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     rispondiToccando(banco, QStringLiteral("7"));
     forma.mnuStampa.click();
     bool toccato = false;
@@ -279,7 +275,7 @@ class FormaBarreHKTest : public QObject {
 
   void theWayOutLeadsToTheMenuOfTheBars() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     forma.mnuEsci.click();
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuBarre"));
     QCOMPARE(banco.rete.ricevuti.back(), QByteArray("02#REQ-DEFAULT"));
@@ -287,7 +283,7 @@ class FormaBarreHKTest : public QObject {
 
   void theKindsOfExerciseCanBeChosen() {
     Banco banco;
-    FormBarre10HK& forma = apri10(banco);
+    FormaBarreHK& forma = apri10(banco);
     banco.sorte.scrivi({{0, 2}, {6, 10}, {3, 7}});
     forma.mnuGiallaVerde.click();
     QVERIFY(stannoSulPosto(forma.TestoInput, forma.Label4[2]));
@@ -297,7 +293,7 @@ class FormaBarreHKTest : public QObject {
 
   void theSheetEntryIsTheFirstOfTheMenu() {
     Banco banco;
-    const FormBarre10HK& forma = apri10(banco);
+    const FormaBarreHK& forma = apri10(banco);
     QCOMPARE(forma.page()->menuBar()->actions().first()->objectName(),
              QStringLiteral("mnuStamopaHK"));
   }

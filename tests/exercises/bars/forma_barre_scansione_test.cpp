@@ -4,8 +4,6 @@
 
 #include "app/shared/nomi_forme.h"
 #include "barre_di_prova.h"
-#include "exercises/bars/form_barre10_scansione.h"
-#include "exercises/bars/form_barre20_scansione.h"
 #include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 
@@ -16,7 +14,6 @@ using prova::kVerdeScuro;
 using prova::stannoSulPosto;
 using prova::visibili;
 using somme::FormaBarreScansione;
-using somme::FormBarre20Scansione;
 using somme::TastieraNumericaScansione;
 
 namespace {
@@ -217,14 +214,14 @@ class FormaBarreScansioneTest : public QObject {
 
   void theMarkOfTheTenIsShownByHelpWhateverTheRangeAndHiddenByEachCase() {
     Banco banco;
-    auto& forma = dynamic_cast<FormBarre20Scansione&>(apri(banco, 20, 17, 3));
-    QVERIFY(!forma.Line1.isVisible());
-    QCOMPARE(qRound(forma.Line1.x1()), qRound(forma.Line1.x2()));
+    FormaBarreScansione& forma = apri(banco, 20, 17, 3);
+    QVERIFY(!forma.Line1->isVisible());
+    QCOMPARE(qRound(forma.Line1->x1()), qRound(forma.Line1->x2()));
     banco.ambiente->stato.LimiteEsercizio = 10;
     QVERIFY(scegli(banco, forma, {kAiuto}));
-    QVERIFY(forma.Line1.isVisible());
+    QVERIFY(forma.Line1->isVisible());
     forma.mnuRossa.click();
-    QVERIFY(!forma.Line1.isVisible());
+    QVERIFY(!forma.Line1->isVisible());
   }
 
   void upTo10TheBoxTakesTheColourOfWhatIsAskedFor() {

@@ -8,7 +8,7 @@ using prova::apriBarre10;
 using prova::Banco;
 using prova::barre;
 using prova::visibili;
-using somme::FormBarre10;
+using somme::FormaBarrePulsanti;
 
 // The page of the bars up to 10: lengths, help, the record and its panel, the pointer.
 class PaginaBarre10Test : public QObject {
@@ -17,7 +17,7 @@ class PaginaBarre10Test : public QObject {
  private Q_SLOTS:
   void theBarsHaveTheLengthsOfTheNumbers() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     const double unita = forma.n1.height();
     QCOMPARE(qRound(forma.n1.width()), qRound(3 * std::round(unita)));
     QCOMPARE(qRound(forma.n2.left()), qRound(3 * std::round(unita)));
@@ -36,7 +36,7 @@ class PaginaBarre10Test : public QObject {
 
   void aSecondAddendOfTenFillsTheRowAndItsTenSquares() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 10, 0);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 10, 0);
     const double unita = std::round(forma.n1.height());
     QCOMPARE(qRound(forma.n2.width()), qRound(10 * unita));
     QCOMPARE(qRound(forma.n3.width()), qRound(10 * unita));
@@ -48,7 +48,7 @@ class PaginaBarre10Test : public QObject {
 
   void helpLaysTheSumOutUnitByUnitAndCostsNothing() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     const int unita = int(std::lround(forma.n1.height()));
     banco.clicca(forma.PulsanteAiuto);
     QCOMPARE(visibili(forma.aiuto1), 3);
@@ -70,7 +70,7 @@ class PaginaBarre10Test : public QObject {
 
   void helpWorksOnASolvedCaseAndGoesWithTheNext() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteNumero[7]);
     banco.clicca(forma.PulsanteAiuto);
     QCOMPARE(visibili(forma.aiuto3), 7);
@@ -80,7 +80,7 @@ class PaginaBarre10Test : public QObject {
 
   void theRecordBeginsWithItsTitleAndGainsALineForEachSum() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     const QString titolo = QStringLiteral("\r\n     Uso delle barre - Fino al 10\r\n\r\n");
     QCOMPARE(forma.TestoStampa.text(), titolo);
     banco.clicca(forma.PulsanteNumero[7]);
@@ -93,7 +93,7 @@ class PaginaBarre10Test : public QObject {
 
   void thePrintPanelCoversTheFormAndGivesItBackUnchanged() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.batti(Qt::Key_S, Qt::AltModifier);
     QVERIFY(forma.PictureStampa.isVisible());
     QCOMPARE(forma.PictureStampa.left(), 0.0);
@@ -113,7 +113,7 @@ class PaginaBarre10Test : public QObject {
 
   void theGeometryIsReadOnceAndABarFollowsALaterResize() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     const double prima = forma.n3.width() / forma.width();
     const double unita = std::round(forma.n1.height());
     banco.ridimensiona({1400, 900});
@@ -125,13 +125,13 @@ class PaginaBarre10Test : public QObject {
     QCOMPARE(qRound(forma.n3.width()), qRound(8 * unita));
     QCOMPARE(qRound(forma.n3.top()), qRound(unita));
     banco.batti(Qt::Key_E, Qt::AltModifier);
-    FormBarre10& nuova = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& nuova = apriBarre10(banco, 7, 3);
     QCOMPARE(qRound(nuova.n3.width()), qRound(7 * std::round(nuova.n1.height())));
   }
 
   void aBarThatPassesSixteenBitsEndsTheProgram() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     forma.n1.setHeight(3277);
     banco.sorte.scrivi({{9, 10}, {4, 10}});
     forma.run([&forma] { forma.fireActivate(); });
@@ -143,7 +143,7 @@ class PaginaBarre10Test : public QObject {
 
   void aSecondActivationKeepsTheSquaresAndRestartsTheRecord() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteNumero[7]);
     const std::size_t quanti = forma.controls().size();
     banco.mostra(somme::forme::kFormBarre10);
@@ -154,26 +154,26 @@ class PaginaBarre10Test : public QObject {
   void theSystemsArrowIsTakenWhenTheSettingAsksForIt() {
     Banco banco;
     banco.ambiente->stato.CursoreDiSistema = true;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     QCOMPARE(forma.PulsanteNumero[3].mousePointer(), 0);
     QCOMPARE(forma.PulsanteNumero[3].widget()->cursor().shape(), Qt::ArrowCursor);
   }
 
   void theProgramsOwnPointerIsThereOtherwise() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     QCOMPARE(forma.PulsanteNumero[3].mousePointer(), 99);
     QCOMPARE(forma.PulsanteNumero[3].widget()->cursor().shape(), Qt::BitmapCursor);
   }
 
   void leavingAndComingBackStartsAFreshRecord() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteNumero[7]);
     banco.batti(Qt::Key_E, Qt::AltModifier);
     QVERIFY(banco.nomeForma() != QStringLiteral("FormBarre10"));
     banco.sorte.scrivi({{1, 10}, {0, 2}});
-    auto& nuova = banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+    auto& nuova = banco.apri<FormaBarrePulsanti>(somme::forme::kFormBarre10);
     QVERIFY(!nuova.TestoStampa.text().contains(QStringLiteral("=")));
     QCOMPARE(barre(nuova),
              (QStringList{QStringLiteral(" 0"), QStringLiteral(" 2"), QStringLiteral("?")}));
@@ -181,7 +181,7 @@ class PaginaBarre10Test : public QObject {
 
   void noBarPassesTheSixteenBitsOnAnyWindow() {
     Banco banco({3840, 2160});
-    FormBarre10& forma = apriBarre10(banco, 10, 0);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 10, 0);
     banco.clicca(forma.PulsanteAiuto);
     QCOMPARE(visibili(forma.aiuto3), 10);
     QVERIFY(!banco.fine.stato);

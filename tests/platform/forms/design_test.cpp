@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QWidget>
 
+#include "platform/forms/optional_control.h"
 #include "stage.h"
 #include "support/iscrizione.h"
 
@@ -11,6 +12,7 @@ using platform::ControlArray;
 using platform::FormDesign;
 using platform::Label;
 using platform::nameOf;
+using platform::OptionalControl;
 using platform::PictureBox;
 using platform::Row;
 using platform::row;
@@ -31,6 +33,7 @@ class Patchwork final : public platform::Form {
   PictureBox Box{*this};
   Label Inside{*this};
   Label Forgotten{*this};
+  OptionalControl<Label> Maybe{*this};
 
   platform::ProportionalLayout layout{*this};
 
@@ -56,6 +59,15 @@ constexpr std::array<std::span<const Row>, 2> kTables{kShared, kOwn};
 constexpr FormDesign kPatchwork{
     .name = "Patchwork", .caption = "Patchwork", .width = 12000, .height = 9000, .tables = kTables};
 
+constexpr auto kMore =
+    std::to_array<Row>({row<&Patchwork::Maybe>({0, 6000, 1500, 750}, {.caption = "maybe"})});
+constexpr std::array<std::span<const Row>, 3> kMoreTables{kShared, kOwn, kMore};
+constexpr FormDesign kWithMore{.name = "Patchwork",
+                               .caption = "Patchwork",
+                               .width = 12000,
+                               .height = 9000,
+                               .tables = kMoreTables};
+
 // The names are the members' own, known to the compiler.
 static_assert(nameOf<&Patchwork::Alpha> == "Alpha");
 static_assert(nameOf<&Patchwork::Gamma> == "Gamma");
@@ -63,8 +75,8 @@ static_assert(kShared[1].name == "Gamma" && kShared[1].index == 0);
 static_assert(kShared[0].index == -1);
 
 // Builds the form on the page of the stage, without showing it.
-std::shared_ptr<Patchwork> build(Stage& stage) {
-  auto form = std::make_shared<Patchwork>(*stage.runtime, kPatchwork);
+std::shared_ptr<Patchwork> build(Stage& stage, const FormDesign& design = kPatchwork) {
+  auto form = std::make_shared<Patchwork>(*stage.runtime, design);
   form->build(stage.runtime->window().pages());
   form->page()->resize(800, 600);
   form->page()->arrange();
@@ -101,6 +113,18 @@ class DesignTest : public QObject {
     const auto form = build(stage);
     QCOMPARE(form->withoutRow(), (std::vector<const platform::Control*>{&form->Forgotten}));
     QVERIFY(stage.show(kOne).withoutRow().empty());
+  }
+
+  void anOptionalControlIsThereWhereItHasARow() {
+    Stage stage;
+    const auto without = build(stage);
+    QVERIFY(!without->Maybe);
+    QVERIFY(!namesOf(*without).contains(QStringLiteral("Maybe")));
+    const auto with = build(stage, kWithMore);
+    QVERIFY(bool(with->Maybe));
+    QCOMPARE(namesOf(*with).last(), QStringLiteral("Maybe"));
+    QCOMPARE(with->Maybe->caption(), QStringLiteral("maybe"));
+    QCOMPARE(with->withoutRow(), (std::vector<const platform::Control*>{&with->Forgotten}));
   }
 
   void aRowWithAContainerIsMadeInIt() {

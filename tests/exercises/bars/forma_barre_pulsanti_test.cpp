@@ -1,4 +1,4 @@
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
 
 #include <QApplication>
 #include <QSet>
@@ -14,7 +14,7 @@ using prova::kRosso;
 using prova::kVerdeScuro;
 using prova::somma;
 using prova::visibili;
-using somme::FormBarre10;
+using somme::FormaBarrePulsanti;
 
 namespace {
 
@@ -23,20 +23,20 @@ constexpr platform::Rgb kGrigio{224, 224, 224};
 }  // namespace
 
 // The bars up to 10, as a pupil answers on them.
-class FormBarre10Test : public QObject {
+class FormaBarrePulsantiTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
   void theFirstPictureIsTheTickBeforeAnyAnswer() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     QVERIFY(forma.ImgSi.isVisible());
     QVERIFY(!forma.ImgNo.isVisible());
   }
 
   void aWrongAnswerCountsDisablesItsButtonAndKeepsTheCase() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteNumero[5]);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
@@ -54,7 +54,7 @@ class FormBarre10Test : public QObject {
 
   void theRightAnswerShowsTheSumAndOpensTheWay() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteNumero[7]);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
@@ -72,7 +72,7 @@ class FormBarre10Test : public QObject {
 
   void aTotalOfOneHasNothingPlusOne() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 1, 0);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 1, 0);
     QCOMPARE(banco.ambiente->stato.Addendo1, qint16(0));
     QCOMPARE(banco.ambiente->stato.Addendo2, qint16(1));
     QCOMPARE(somma(forma),
@@ -82,7 +82,7 @@ class FormBarre10Test : public QObject {
 
   void aFirstAddendOfNothingHasNoBarAndTheAnswerIsTheButtonZero() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 4, 0);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 4, 0);
     // The kind that asks for an addend: the first one is hidden, of a case 0 + 4.
     banco.sorte.scrivi({{1, 2}, {3, 10}, {0, 4}});
     forma.mnuGiallaVerde.click();
@@ -101,7 +101,7 @@ class FormBarre10Test : public QObject {
 
   void theSecondAddendIsAskedInTheDarkGreenOfTheWrittenSum() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.sorte.scrivi({{0, 2}, {7, 10}, {5, 8}});
     forma.mnuGiallaVerde.click();
     QCOMPARE(barre(forma),
@@ -117,7 +117,7 @@ class FormBarre10Test : public QObject {
 
   void theFirstAddendIsAskedInTheColourOfItsBar() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.sorte.scrivi({{1, 2}, {7, 10}, {5, 8}});
     forma.mnuGiallaVerde.click();
     QCOMPARE(barre(forma),
@@ -131,7 +131,7 @@ class FormBarre10Test : public QObject {
 
   void theThirdKindAsksForTheTotalInHalfOfTheCases() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.sorte.scrivi({{0, 2}, {4, 10}, {2, 5}});
     forma.mnuTutteBarre.click();
     QCOMPARE(barre(forma),
@@ -144,7 +144,7 @@ class FormBarre10Test : public QObject {
 
   void theCheckMarkStandsOnTheChosenKindAlone() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     QVERIFY(forma.mnuRossa.isChecked());
     forma.mnuTutteBarre.click();
     QVERIFY(!forma.mnuRossa.isChecked());
@@ -155,7 +155,7 @@ class FormBarre10Test : public QObject {
 
   void choosingTheKindThatIsCheckedStillMakesANewCase() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteNumero[1]);
     banco.sorte.scrivi({{4, 10}, {2, 5}});
     forma.mnuRossa.click();
@@ -170,7 +170,7 @@ class FormBarre10Test : public QObject {
 
   void goingOnIsImpossibleBeforeTheRightAnswer() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteAvanti);
     banco.batti(Qt::Key_V, Qt::AltModifier);
     QCOMPARE(somma(forma),
@@ -180,7 +180,7 @@ class FormBarre10Test : public QObject {
 
   void goingOnAsksTheNextCaseAndKeepsThePicture() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteNumero[7]);
     banco.sorte.scrivi({{4, 10}, {2, 5}});
     banco.batti(Qt::Key_Return);
@@ -198,7 +198,7 @@ class FormBarre10Test : public QObject {
 
   void arrowKeysWalkTheNumbersAndANewCaseBeginsWhereTheyWere() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     forma.PulsanteNumero[0].setFocus();
     banco.batti(Qt::Key_End);
     QVERIFY(forma.PulsanteNumero[10].hasFocus());
@@ -222,7 +222,7 @@ class FormBarre10Test : public QObject {
 
   void everyWrongPressCountsUntilTheRightOne() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     for (int i = 0; i <= 10; ++i) {
       if (i != 7) banco.clicca(forma.PulsanteNumero[i]);
     }
@@ -234,7 +234,7 @@ class FormBarre10Test : public QObject {
 
   void clearingTheCountKeepsCaseKindAndRecord() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.clicca(forma.PulsanteNumero[2]);
     banco.clicca(forma.PulsanteNumero[7]);
     const QString elenco = forma.TestoStampa.text();
@@ -250,7 +250,7 @@ class FormBarre10Test : public QObject {
 
   void theVerdictIsSpokenWithItsCount() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     forma.PulsanteNumero[5].setFocus();
     banco.annunci.detti.clear();
     banco.batti(Qt::Key_Return);
@@ -263,7 +263,7 @@ class FormBarre10Test : public QObject {
 
   void soundsOffKeepTheVerdictSilent() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     banco.ambiente->stato.SuoniAttivi = false;
     banco.clicca(forma.PulsanteNumero[7]);
     QVERIFY(banco.suono.suonati.isEmpty());
@@ -272,7 +272,7 @@ class FormBarre10Test : public QObject {
 
   void everyTotalFromOneToTenComesAndNeverASecondAddendOfNothing() {
     Banco banco;
-    FormBarre10& forma = apriBarre10(banco, 7, 3);
+    FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     QSet<int> totali;
     for (int i = 0; i < 2000; ++i) {
       forma.GeneraCaso1();
@@ -286,5 +286,5 @@ class FormBarre10Test : public QObject {
   }
 };
 
-const prova::Iscrizione<FormBarre10Test, QApplication> kIscritta;
-#include "form_barre10_test.moc"
+const prova::Iscrizione<FormaBarrePulsantiTest, QApplication> kIscritta;
+#include "forma_barre_pulsanti_test.moc"

@@ -1,30 +1,29 @@
-#include "exercises/bars/form_barre10_tastiera.h"
-
 #include <QAccessible>
 #include <QApplication>
-#include "app/form_menu_barre.h"
 
+#include "app/form_menu_barre.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/bars/form_barre10.h"
+#include "exercises/bars/forma_barre_pulsanti.h"
+#include "exercises/bars/forma_barre_tastiera.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
 using prova::Banco;
-using somme::FormBarre10;
-using somme::FormBarre10Tastiera;
+using somme::FormaBarrePulsanti;
+using somme::FormaBarreTastiera;
 
 namespace {
 
-FormBarre10Tastiera& apri(Banco& banco, int totale, int addendo1) {
+FormaBarreTastiera& apri(Banco& banco, int totale, int addendo1) {
   banco.ambiente->stato.LimiteEsercizio = 10;
   banco.sorte.scrivi({{totale - 1, 10}, {addendo1, totale}});
-  return banco.apri<FormBarre10Tastiera>(somme::forme::kFormBarre10Tastiera);
+  return banco.apri<FormaBarreTastiera>(somme::forme::kFormBarre10Tastiera);
 }
 
 }  // namespace
 
 // The bars up to 10 with a typed answer, in what they differ from those up to 20.
-class FormBarre10TastieraTest : public QObject {
+class Barre10ScritteTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
@@ -33,11 +32,11 @@ class FormBarre10TastieraTest : public QObject {
     banco.ambiente->stato.LimiteEsercizio = 10;
     banco.ambiente->stato.ContaEsatti = 3;
     banco.ambiente->stato.ContaErrati = 2;
-    auto& prima = banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+    auto& prima = banco.apri<FormaBarrePulsanti>(somme::forme::kFormBarre10);
     QVERIFY(prima.mnuTastiera.isEnabled());
     prima.mnuTastiera.click();
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormBarre10Tastiera"));
-    auto& forma = banco.forma<FormBarre10Tastiera>();
+    auto& forma = banco.forma<FormaBarreTastiera>();
     QCOMPARE(banco.ambiente->stato.LimiteEsercizio, 10);
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  3"));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  2"));
@@ -50,15 +49,15 @@ class FormBarre10TastieraTest : public QObject {
     Banco banco;
     banco.ambiente->stato.LimiteEsercizio = 10;
     banco.sorte.scrivi({{6, 10}, {3, 7}});
-    auto& prima = banco.apri<FormBarre10>(somme::forme::kFormBarre10);
+    auto& prima = banco.apri<FormaBarrePulsanti>(somme::forme::kFormBarre10);
     banco.clicca(prima.PulsanteNumero[7]);
     prima.mnuTutteBarre.click();
     prima.mnuTastiera.click();
     const QString titolo = QStringLiteral("\r\n     Uso delle barre - Fino al 10\r\n\r\n");
-    QCOMPARE(banco.forma<FormBarre10Tastiera>().TestoStampa.text(), titolo);
-    banco.forma<FormBarre10Tastiera>().mnuEsci.click();
+    QCOMPARE(banco.forma<FormaBarreTastiera>().TestoStampa.text(), titolo);
+    banco.forma<FormaBarreTastiera>().mnuEsci.click();
     banco.clicca(banco.forma<somme::FormMenuBarre>().Command2);
-    auto& poi = banco.forma<FormBarre10>();
+    auto& poi = banco.forma<FormaBarrePulsanti>();
     QCOMPARE(poi.TestoStampa.text(), titolo);
     QCOMPARE(poi.EtichettaEsatti.caption(), QStringLiteral("Esatti  0"));
     QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(1));
@@ -67,7 +66,7 @@ class FormBarre10TastieraTest : public QObject {
 
   void itOpensWithTheBoxOverTheTotalAndTenHelpSquaresARow() {
     Banco banco;
-    FormBarre10Tastiera& forma = apri(banco, 7, 3);
+    FormaBarreTastiera& forma = apri(banco, 7, 3);
     QVERIFY(forma.withoutRow().empty());
     QVERIFY(forma.TestoInput.hasFocus());
     QVERIFY(forma.TestoInput.widget()->geometry() == forma.Label4[4].widget()->geometry());
@@ -79,7 +78,7 @@ class FormBarre10TastieraTest : public QObject {
 
   void helpShowsTheSquaresAndTheNextCaseHidesThem() {
     Banco banco;
-    FormBarre10Tastiera& forma = apri(banco, 7, 3);
+    FormaBarreTastiera& forma = apri(banco, 7, 3);
     banco.clicca(forma.PulsanteAiuto);
     QVERIFY(forma.aiuto1[2].isVisible());
     QVERIFY(!forma.aiuto1[3].isVisible());
@@ -91,7 +90,7 @@ class FormBarre10TastieraTest : public QObject {
 
   void assistiveTechnologyWritesAndConfirmsWithoutAKey() {
     Banco banco;
-    FormBarre10Tastiera& forma = apri(banco, 7, 3);
+    FormaBarreTastiera& forma = apri(banco, 7, 3);
     QAccessibleInterface* casella =
         QAccessible::queryAccessibleInterface(forma.TestoInput.widget());
     QCOMPARE(casella->role(), QAccessible::EditableText);
@@ -117,7 +116,7 @@ class FormBarre10TastieraTest : public QObject {
 
   void theRightAnswerRunsAgainOnEnterInTheLockedBox() {
     Banco banco;
-    FormBarre10Tastiera& forma = apri(banco, 7, 3);
+    FormaBarreTastiera& forma = apri(banco, 7, 3);
     banco.scrivi(QStringLiteral("7"));
     banco.batti(Qt::Key_Return);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -130,5 +129,5 @@ class FormBarre10TastieraTest : public QObject {
   }
 };
 
-const prova::Iscrizione<FormBarre10TastieraTest, QApplication> kIscritta;
-#include "form_barre10_tastiera_test.moc"
+const prova::Iscrizione<Barre10ScritteTest, QApplication> kIscritta;
+#include "barre10_scritte_test.moc"

@@ -1,4 +1,4 @@
-#include "exercises/bars/form_barre20.h"
+#include "exercises/bars/forma_barre_tastiera.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -15,7 +15,7 @@ using prova::kRosso;
 using prova::kVerdeScuro;
 using prova::stannoSulPosto;
 using prova::visibili;
-using somme::FormBarre20;
+using somme::FormaBarreTastiera;
 
 namespace {
 
@@ -23,14 +23,14 @@ namespace {
 constexpr QSize kDisegno{732, 507 + 30};
 
 // The form with the case `totale` = `addendo1` + rest, asking for the total.
-FormBarre20& apri(Banco& banco, int totale, int addendo1) {
+FormaBarreTastiera& apri(Banco& banco, int totale, int addendo1) {
   banco.ambiente->stato.LimiteEsercizio = 20;
   banco.sorte.scrivi({{totale - 1, 20}, {addendo1, totale}});
-  return banco.apri<FormBarre20>(somme::forme::kFormBarre20);
+  return banco.apri<FormaBarreTastiera>(somme::forme::kFormBarre20);
 }
 
 // The same form at its next case, which asks for an addend.
-void chiediAddendo(Banco& banco, FormBarre20& forma, int quale, int totale, int addendo1) {
+void chiediAddendo(Banco& banco, FormaBarreTastiera& forma, int quale, int totale, int addendo1) {
   banco.sorte.scrivi({{quale == 2 ? 0 : 1, 2}, {totale - 1, 20}, {addendo1, totale}});
   forma.mnuGiallaVerde.click();
 }
@@ -43,20 +43,20 @@ void rispondi(Banco& banco, const QString& numero) {
 }  // namespace
 
 // The bars up to 20, as a pupil uses them.
-class FormBarre20Test : public QObject {
+class FormaBarreTastieraTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
   void itOpensWithTheBoxOverTheTotalAndTheFocusInIt() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     QVERIFY(forma.TestoInput.hasFocus());
     QVERIFY(stannoSulPosto(forma.TestoInput, forma.Label4[4]));
     QVERIFY(forma.TestoInput.foreColor() == kRosso);
     QCOMPARE(forma.TestoInput.text(), QString());
     QCOMPARE(forma.TestoInput.maxLength(), 2);
     QVERIFY(forma.TestoInput.widget()->inputMethodHints().testFlag(Qt::ImhDigitsOnly));
-    QVERIFY(!forma.Line1.isVisible());
+    QVERIFY(!forma.Line1->isVisible());
     QVERIFY(forma.ImgSi.isVisible());
     QCOMPARE(forma.n1.caption(), QStringLiteral(" 9"));
     QCOMPARE(forma.n2.caption(), QStringLiteral(" 8"));
@@ -68,7 +68,7 @@ class FormBarre20Test : public QObject {
 
   void theBoxLiesOverTheTermThatIsAskedFor() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     chiediAddendo(banco, forma, 2, 15, 4);
     QVERIFY(stannoSulPosto(forma.TestoInput, forma.Label4[2]));
     QVERIFY(forma.TestoInput.foreColor() == kVerdeScuro);
@@ -86,7 +86,7 @@ class FormBarre20Test : public QObject {
 
   void theRightAnswerShowsTheSumLocksTheBoxAndOpensTheWay() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     rispondi(banco, QStringLiteral("17"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
@@ -103,7 +103,7 @@ class FormBarre20Test : public QObject {
 
   void aWrongAnswerKeepsTheTextAndTheCaseAndCountsEachTime() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     rispondi(banco, QStringLiteral("16"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
@@ -129,7 +129,7 @@ class FormBarre20Test : public QObject {
 
   void enterOnTheWayOnDoesNotAnswerTheNextCaseAtItsRelease() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     rispondi(banco, QStringLiteral("17"));
     banco.suono.suonati.clear();
     banco.sorte.scrivi({{11, 20}, {5, 12}});
@@ -147,7 +147,7 @@ class FormBarre20Test : public QObject {
 
   void enterInTheLockedBoxOfASolvedCaseCountsAgain() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     rispondi(banco, QStringLiteral("17"));
     banco.clicca(forma.TestoInput);
     QVERIFY(forma.TestoInput.hasFocus());
@@ -174,7 +174,7 @@ class FormBarre20Test : public QObject {
 
   void onlyDigitsAreTakenAndTwoOfThem() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 7, 3);
+    FormaBarreTastiera& forma = apri(banco, 7, 3);
     banco.scrivi(QStringLiteral("a1 -b23"));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("12"));
     forma.TestoInput.setText(QString());
@@ -185,7 +185,7 @@ class FormBarre20Test : public QObject {
 
   void aLongRowOfDigitsSetByTheProgramIsWrong() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 7, 3);
+    FormaBarreTastiera& forma = apri(banco, 7, 3);
     forma.TestoInput.setText(QString(400, u'7'));
     banco.batti(Qt::Key_Return);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -211,34 +211,34 @@ class FormBarre20Test : public QObject {
 
   void theHelpShowsTheSquaresAndTheMarkOfTen() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     banco.clicca(forma.PulsanteAiuto);
-    QVERIFY(forma.Line1.isVisible());
+    QVERIFY(forma.Line1->isVisible());
     QCOMPARE(visibili(forma.aiuto1), 9);
     QCOMPARE(visibili(forma.aiuto2), 8);
     QCOMPARE(visibili(forma.aiuto3), 17);
     // The mark stands at the end of the tenth unit, through both rows and the bars.
     const double fine = forma.aiuto3[10].left();
-    QVERIFY(std::abs(forma.Line1.x1() - fine) < 1);
-    QCOMPARE(forma.Line1.x1(), forma.Line1.x2());
+    QVERIFY(std::abs(forma.Line1->x1() - fine) < 1);
+    QCOMPARE(forma.Line1->x1(), forma.Line1->x2());
     const double scala = forma.height() / 7605;
-    QVERIFY(std::abs(forma.Line1.y1() + 120 * scala) < 1e-6);
-    QVERIFY(std::abs(forma.Line1.y2() - 3360 * scala) < 1e-6);
+    QVERIFY(std::abs(forma.Line1->y1() + 120 * scala) < 1e-6);
+    QVERIFY(std::abs(forma.Line1->y2() - 3360 * scala) < 1e-6);
     // It goes at the next case, and the squares with it.
     banco.clicca(forma.TestoInput);
     rispondi(banco, QStringLiteral("17"));
-    QVERIFY(forma.Line1.isVisible());
+    QVERIFY(forma.Line1->isVisible());
     banco.clicca(forma.PulsanteAvanti);
-    QVERIFY(!forma.Line1.isVisible());
+    QVERIFY(!forma.Line1->isVisible());
     QCOMPARE(visibili(forma.aiuto1) + visibili(forma.aiuto2) + visibili(forma.aiuto3), 0);
   }
 
   void theMarkLiesOverBarsAndSquares() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 20, 0);
+    FormaBarreTastiera& forma = apri(banco, 20, 0);
     banco.clicca(forma.PulsanteAiuto);
     const QImage quadro = forma.Picture1.widget()->grab().toImage();
-    const QRect linea = forma.Line1.widget()->geometry();
+    const QRect linea = forma.Line1->widget()->geometry();
     for (const platform::Control* sotto :
          {static_cast<platform::Control*>(&forma.n2), static_cast<platform::Control*>(&forma.n3),
           static_cast<platform::Control*>(&forma.aiuto3[10])}) {
@@ -249,7 +249,7 @@ class FormBarre20Test : public QObject {
 
   void aTotalOfTwentyNeedsTwentySquares() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 20, 0);
+    FormaBarreTastiera& forma = apri(banco, 20, 0);
     banco.clicca(forma.PulsanteAiuto);
     QCOMPARE(visibili(forma.aiuto1), 0);
     QCOMPARE(visibili(forma.aiuto2), 20);
@@ -262,24 +262,24 @@ class FormBarre20Test : public QObject {
 
   void belowTenTheMarkStandsBeyondTheBars() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 4, 1);
+    FormaBarreTastiera& forma = apri(banco, 4, 1);
     banco.clicca(forma.PulsanteAiuto);
-    QVERIFY(forma.Line1.isVisible());
-    QVERIFY(forma.Line1.x1() > forma.n3.left() + forma.n3.width());
+    QVERIFY(forma.Line1->isVisible());
+    QVERIFY(forma.Line1->x1() > forma.n3.left() + forma.n3.width());
   }
 
   void withAnotherRangeTheHelpShowsNoMark() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 4, 1);
+    FormaBarreTastiera& forma = apri(banco, 4, 1);
     banco.ambiente->stato.LimiteEsercizio = 10;
     banco.clicca(forma.PulsanteAiuto);
-    QVERIFY(!forma.Line1.isVisible());
+    QVERIFY(!forma.Line1->isVisible());
     QCOMPARE(visibili(forma.aiuto3), 4);
   }
 
   void atTheDesignsSizeTheMeasuresAreThoseOfTheDesign() {
     Banco banco(kDisegno);
-    FormBarre20& forma = apri(banco, 20, 0);
+    FormaBarreTastiera& forma = apri(banco, 20, 0);
     banco.ridimensiona({732, 537 - (forma.page()->canvas()->height() - 507)});
     QVERIFY(std::abs(forma.height() - 7605) < 15);
     QVERIFY(std::abs(forma.n3.width() - 9300) < 60);
@@ -288,7 +288,7 @@ class FormBarre20Test : public QObject {
 
   void theLargestScreenEndsInNoOverflow() {
     Banco banco({7680, 4320});
-    FormBarre20& forma = apri(banco, 20, 0);
+    FormaBarreTastiera& forma = apri(banco, 20, 0);
     banco.clicca(forma.PulsanteAiuto);
     QVERIFY(!banco.fine.stato.has_value());
     QVERIFY(forma.n3.left() + forma.n3.width() <= 32767);
@@ -299,7 +299,7 @@ class FormBarre20Test : public QObject {
 
   void aChoiceOfTheMenuOpensASolvedCaseAnew() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     rispondi(banco, QStringLiteral("17"));
     banco.sorte.scrivi({{4, 20}, {2, 5}});
     forma.mnuRossa.click();
@@ -311,7 +311,7 @@ class FormBarre20Test : public QObject {
 
   void theFaintColoursOfTheAnswerAreOutlined() {
     Banco banco;
-    FormBarre20& forma = apri(banco, 17, 9);
+    FormaBarreTastiera& forma = apri(banco, 17, 9);
     chiediAddendo(banco, forma, 1, 15, 8);
     banco.scrivi(QStringLiteral("8"));
     const QImage casella = forma.TestoInput.widget()->grab().toImage();
@@ -325,5 +325,5 @@ class FormBarre20Test : public QObject {
   }
 };
 
-const prova::Iscrizione<FormBarre20Test, QApplication> kIscritta;
-#include "form_barre20_test.moc"
+const prova::Iscrizione<FormaBarreTastieraTest, QApplication> kIscritta;
+#include "forma_barre_tastiera_test.moc"
