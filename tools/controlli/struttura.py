@@ -112,8 +112,9 @@ def tipi_definiti(percorso):
 
 
 def nomi_doppi():
-    """Types of one full name that two files of one program define: of the product, or of the tests of
-    a folder, which stand in one program with the product and what all tests share."""
+    """Types, or inline functions and variables, of one full name that two files of one program define:
+    of the product, or of the tests of a folder, which stand in one program with the product and what
+    all tests share."""
     dove = _definizioni(sorgenti.prodotto())
     yield from _doppi(dove, dove)
     comuni = _definizioni(f for f in sorgenti.cpp() if f.startswith("tests/support/"))
@@ -128,16 +129,45 @@ def nomi_doppi():
                                     for nome, posti in proprie.items()})
 
 
+_IN_LINEA = re.compile(r"^inline\s+(?!namespace\b)[^;{}()=]*?\b(?P<nome>\w+)\s*"
+                       r"(?P<argomenti>\((?:[^;(){}]|\{\})*\))?\s*(?:const\s*)?[={]", re.M)
+
+
+def in_linea(percorso):
+    """(full name, line) of the inline functions, with the types of their arguments, and of the inline
+    variables that a file defines. Of two of one name the linker takes the first one's for both."""
+    codice = sorgenti.codice(percorso)
+    for trovato in _IN_LINEA.finditer(codice):
+        argomenti = re.sub(r"\s*=[^,)]*|\s*\b\w+(?=\s*[,)=])", "", trovato["argomenti"] or "")
+        dentro = [n for n in _spazi(codice, trovato.start())]
+        if "" not in dentro:
+            yield ("::".join([*dentro, trovato["nome"]]) + argomenti,
+                   codice.count("\n", 0, trovato.start("nome")) + 1)
+
+
+def _spazi(codice, fin_qui):
+    """The namespaces that a place of a file lies in; "" for an unnamed one."""
+    dentro = []
+    for trovato in _APRE.finditer(codice, 0, fin_qui):
+        if trovato["chiude"]:
+            del dentro[-1:]
+        elif trovato["apre"]:
+            dentro.append(None)
+        else:
+            dentro.append(trovato["nomi"].strip() if trovato["spazio"] else trovato["tipo"])
+    return dentro
+
+
 def _definizioni(file):
-    """Full name -> the places in those files that define a type of it."""
+    """Full name -> the places in those files that define a type of it, or something inline."""
     dove = defaultdict(list)
     for percorso in file:
-        for nome, riga in tipi_definiti(percorso):
+        for nome, riga in (*tipi_definiti(percorso), *in_linea(percorso)):
             dove[nome].append(f"{percorso}:{riga}")
     return dove
 
 
 def _doppi(nomi, dove):
     for nome in sorted(nomi):
-        if len(dove[nome]) > 1:
+        if len({posto.rpartition(":")[0] for posto in dove[nome]}) > 1:
             yield f"{nome} is defined more than once: " + ", ".join(dove[nome])

@@ -88,6 +88,21 @@ class Casa(unittest.TestCase):
                           "C is defined more than once: tests/cases/b.cpp:2, cases/c.h:1"],
                          list(struttura.nomi_doppi()))
 
+    def test_inline_helpers_of_one_name_in_one_program_are_found(self):
+        self.file(tests__cases__a_h="namespace x {\ninline int f(int a, const B& b = {}) {\n}\n}\n",
+                  tests__cases__b_h="namespace x {\n\ninline C& f(int c, const B& d) {\n}\n}\n")
+        self.assertEqual(["x::f(int, const B&) is defined more than once: tests/cases/a.h:2, "
+                          "tests/cases/b.h:3"], list(struttura.nomi_doppi()))
+        self.file(tests__cases__a_h="inline constexpr int k = 1;\n",
+                  tests__cases__b_h="inline constexpr auto k{2};\n")
+        self.assertEqual(["k is defined more than once: tests/cases/a.h:1, tests/cases/b.h:1"],
+                         list(struttura.nomi_doppi()))
+
+    def test_inline_helpers_of_other_arguments_or_namespaces_are_no_pair(self):
+        self.file(tests__cases__a_h="namespace x {\ninline namespace p {\ninline int f(int a) {\n}\n}\n}\n",
+                  tests__cases__b_h="namespace x {\ninline int f(int a) {\n}\ninline int f(char a) {\n}\n}\n")
+        self.assertEqual([], list(struttura.nomi_doppi()))
+
     def test_types_that_nobody_else_sees_are_no_pair(self):
         self.file(cases__a_h="namespace x {\nnamespace {\nstruct A {};\n}\nvoid f() {\nstruct B {};\n}"
                              "\nstruct C;\nstruct K { struct D {}; };\n}\n// struct E {};\n",
