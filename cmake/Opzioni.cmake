@@ -44,6 +44,15 @@ if(BUILD_TESTING)
   endif()
 endif()
 
+# A compiler cache takes over where one is installed and nobody has chosen otherwise; an empty
+# CMAKE_CXX_COMPILER_LAUNCHER is a choice, too.
+if(NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER AND NOT DEFINED ENV{CMAKE_CXX_COMPILER_LAUNCHER})
+  find_program(SOMME_CCACHE ccache)
+  if(SOMME_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${SOMME_CCACHE}" CACHE STRING "What calls the compiler")
+  endif()
+endif()
+
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
