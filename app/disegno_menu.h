@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "app/forma_menu.h"
 #include "platform/forms/design.h"
 
@@ -20,12 +22,6 @@ using platform::TwipsRect;
 inline constexpr Rgb kSfondoMenu{255, 255, 192};
 inline constexpr Rgb kInchiostro{24, 33, 59};
 inline constexpr Rgb kFascia{214, 232, 255};
-
-// The levels stand in rows of one height, 840 twips from row to row.
-constexpr double AltoRiga(int riga, double primo = 1440) {
-  return primo + 840 * riga;
-}
-inline constexpr double kAltoLivello = 675;
 
 constexpr Row Intestazione(double larghezza, std::string_view testo) {
   return row<&FormaMenu::Label1>({240, 120, larghezza, 720}, {.caption = testo,
@@ -66,6 +62,29 @@ constexpr FormDesign Menu(std::string_view nome, double larghezza, double altezz
           .height = altezza,
           .back = kSfondoMenu,
           .tables = tavole};
+}
+
+// What must hold of the rows that a menu makes of levels; each menu asks as it is compiled.
+
+constexpr bool Discosti(const Row& a, const Row& b) {
+  if (a.name == b.name && a.index == b.index) return true;
+  const auto prima = [](double da, double lungo, double altro) { return da + lungo <= altro; };
+  const TwipsRect& p = a.place;
+  const TwipsRect& q = b.place;
+  return a.look.hidden || b.look.hidden || prima(p.left, p.width, q.left) ||
+         prima(q.left, q.width, p.left) || prima(p.top, p.height, q.top) ||
+         prima(q.top, q.height, p.top);
+}
+
+// No level lies over another, or over what else the menu shows, or out of the form. Lengths are
+// twips of the form.
+constexpr bool HaPosto(double larghezza, double altezza, std::span<const Row> livelli,
+                       std::span<const Row> altre) {
+  return std::ranges::all_of(livelli, [&](const Row& a) {
+    const auto daA = [&a](const Row& b) { return Discosti(a, b); };
+    return a.place.left + a.place.width <= larghezza && a.place.top + a.place.height <= altezza &&
+           std::ranges::all_of(livelli, daA) && std::ranges::all_of(altre, daA);
+  });
 }
 
 }  // namespace somme::disegno

@@ -29,8 +29,12 @@ FormMenuBarre::FormMenuBarre(Ambiente& ambiente) : FormaMenu(ambiente, kDisegno)
 
 void FormMenuBarre::onLoad() {
   FormaMenu::onLoad();
-  Apre(Command2, Famiglia::Barre10, [this] { stato().LimiteEsercizio = 10; });
-  Apre(Command4, Famiglia::Barre20, [this] { stato().LimiteEsercizio = 20; });
+  const auto fino = [this](platform::Button& pulsante, Famiglia famiglia) {
+    const qint32 limite = Portata(ambiente().forme, famiglia);
+    Apre(pulsante, famiglia, [this, limite] { stato().LimiteEsercizio = limite; });
+  };
+  fino(Command2, Famiglia::Barre10);
+  fino(Command4, Famiglia::Barre20);
 }
 
 }  // namespace somme

@@ -1,6 +1,8 @@
 #include "app/form_menu_plu.h"
 
-#include "app/disegno_menu.h"
+#include <utility>
+
+#include "app/menu_di_livelli.h"
 #include "app/shared/nomi_forme.h"
 
 namespace somme {
@@ -10,58 +12,53 @@ using namespace disegno;
 namespace {
 
 constexpr double kLarghezza = 9060;
+constexpr double kAltezza = 7140;
 
-template <auto Pulsante>
-constexpr Row Voce(double sinistra, int riga, std::string_view testo) {
-  return row<Pulsante>({sinistra, AltoRiga(riga, 1560), 2580, kAltoLivello}, VoceGrande(testo, 12));
+constexpr auto kFamiglie = std::to_array({Famiglia::BlocchiDecine, Famiglia::BlocchiCentinaia});
+
+constexpr auto kFasce = std::to_array<FasciaMenu>({
+    {Gruppo::Entro99, row<&FormMenuPLU::Label2>, "Entro 99", 120},
+    {Gruppo::Entro999, row<&FormMenuPLU::Label3>, "Entro 999", 3240, 2, 3120},
+});
+
+// The way to the button of a row of `kLivelli`, for the ground.
+template <int kRiga>
+platform::Control& PulsanteDellaRiga(platform::Form& forma, int /*indice*/) {
+  return static_cast<FormMenuPLU&>(forma).DellaRiga(kRiga);
+}
+constexpr auto kPulsanti = []<int... kRighe>(std::integer_sequence<int, kRighe...>) {
+  return std::array{&PulsanteDellaRiga<kRighe>...};
+}(std::make_integer_sequence<int, static_cast<int>(kLivelli.size())>{});
+
+constexpr std::size_t RigaDi(const Livello& livello) {
+  return static_cast<std::size_t>(&livello - kLivelli.data());
 }
 
-constexpr auto kControlli = std::to_array<Row>({
-    Intestazione(kLarghezza - 480, "Piatti, lunghi e unità"),
-    row<&FormMenuPLU::Label2>({120, 1020, 2580, 435}, Fascia("Entro 99")),
-    Voce<&FormMenuPLU::Command2>(120, 0, " senza cambio"),
-    Voce<&FormMenuPLU::Command3>(120, 1, " con il cambio"),
-    Voce<&FormMenuPLU::Command4>(120, 2, " con e senza cambio"),
-    Voce<&FormMenuPLU::Command14>(120, 3, " aggiungi solo unità"),
-    Voce<&FormMenuPLU::Command5>(120, 4, "aggiungi solo decine"),
-    row<&FormMenuPLU::Label3>({3240, 1020, 5700, 435}, Fascia("Entro 999")),
-    Voce<&FormMenuPLU::Command9>(3240, 0, " senza cambio"),
-    Voce<&FormMenuPLU::Command11>(3240, 1, " cambio alle unità"),
-    Voce<&FormMenuPLU::Command12>(3240, 2, " cambio alle decine"),
-    Voce<&FormMenuPLU::Command8>(3240, 3, " con un cambio"),
-    Voce<&FormMenuPLU::Command10>(3240, 4, "con due cambi"),
-    Voce<&FormMenuPLU::Command7>(6360, 0, " con e senza cambi"),
-    Voce<&FormMenuPLU::Command15>(6360, 1, " aggiungi solo unità"),
-    Voce<&FormMenuPLU::Command6>(6360, 2, " aggiungi solo decine"),
-    Voce<&FormMenuPLU::Command13>(6360, 3, "aggiungi solo centinaia"),
+constexpr Row Pulsante(const Livello& livello, TwipsRect posto) {
+  const auto& [tipo, pulsante, registro, didascalia] = livello.blocchi;
+  const std::string_view parole = didascalia.empty() ? livello.didascalia : didascalia;
+  return {pulsante, -1, kPulsanti.at(RigaDi(livello)), posto, VoceGrande(parole, 12)};
+}
+
+constexpr MenuDiLivelli kMenu{.famiglie = kFamiglie,
+                              .fasce = kFasce,
+                              .pulsante = Pulsante,
+                              .larghezzaLivello = 2580,
+                              .titolato = false,
+                              .altoFasce = 1020,
+                              .altezzaFascia = 435,
+                              .alto = 1560};
+
+constexpr auto kSopra =
+    std::to_array<Row>({Intestazione(kLarghezza - 480, "Piatti, lunghi e unità")});
+constexpr auto kLivelliDelMenu = DisponiLivelli<kMenu>();
+constexpr auto kSotto = std::to_array<Row>({
     row<&FormMenuPLU::Command1>({6360, 5760, 2580, 1155}, Indietro()),
 });
+static_assert(HaPosto(kLarghezza, kAltezza, kLivelliDelMenu, kSotto), "a level has no place");
 
-constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
-constexpr FormDesign kDisegno = Menu(forme::kFormMenuPLU, kLarghezza, 7140, kTavole);
-
-struct VocePLU {
-  platform::Button FormMenuPLU::*pulsante;
-  qint16 tipo;
-  Famiglia famiglia;
-};
-
-constexpr auto kVoci = std::to_array<VocePLU>({
-    {&FormMenuPLU::Command2, 1, Famiglia::BlocchiDecine},
-    {&FormMenuPLU::Command3, 2, Famiglia::BlocchiDecine},
-    {&FormMenuPLU::Command4, 3, Famiglia::BlocchiDecine},
-    {&FormMenuPLU::Command14, 4, Famiglia::BlocchiDecine},
-    {&FormMenuPLU::Command5, 5, Famiglia::BlocchiDecine},
-    {&FormMenuPLU::Command9, 1, Famiglia::BlocchiCentinaia},
-    {&FormMenuPLU::Command11, 2, Famiglia::BlocchiCentinaia},
-    {&FormMenuPLU::Command12, 3, Famiglia::BlocchiCentinaia},
-    {&FormMenuPLU::Command8, 4, Famiglia::BlocchiCentinaia},
-    {&FormMenuPLU::Command10, 5, Famiglia::BlocchiCentinaia},
-    {&FormMenuPLU::Command7, 6, Famiglia::BlocchiCentinaia},
-    {&FormMenuPLU::Command15, 7, Famiglia::BlocchiCentinaia},
-    {&FormMenuPLU::Command6, 8, Famiglia::BlocchiCentinaia},
-    {&FormMenuPLU::Command13, 9, Famiglia::BlocchiCentinaia},
-});
+constexpr std::array<std::span<const Row>, 3> kTavole{kSopra, kLivelliDelMenu, kSotto};
+constexpr FormDesign kDisegno = Menu(forme::kFormMenuPLU, kLarghezza, kAltezza, kTavole);
 
 }  // namespace
 
@@ -71,9 +68,13 @@ FormMenuPLU::FormMenuPLU(Ambiente& ambiente) : FormaMenu(ambiente, kDisegno) {
 
 void FormMenuPLU::onLoad() {
   FormaMenu::onLoad();
-  for (const VocePLU& voce : kVoci) {
-    Apre(this->*voce.pulsante, voce.famiglia,
-         [this, tipo = voce.tipo] { stato().TipoEsercizio = tipo; });
+  for (const Livello& livello : kLivelli) {
+    for (const Famiglia famiglia : kFamiglie) {
+      const qint16 tipo = TipoIn(livello, famiglia);
+      if (tipo == 0) continue;
+      Apre(DellaRiga(static_cast<int>(RigaDi(livello))), famiglia,
+           [this, tipo] { stato().TipoEsercizio = tipo; });
+    }
   }
 }
 

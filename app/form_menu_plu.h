@@ -1,11 +1,13 @@
 #pragma once
 
 #include "app/forma_menu.h"
+#include "platform/forms/control_array.h"
 
 namespace somme {
 
 // The levels of the blocks: with tens and units, and with hundreds. No title is built here: these
-// exercises compose their headings themselves. `Command1` is the way back.
+// exercises compose their headings themselves. `Command1` is the way back; the button of a level
+// bears the name that the level's row gives it.
 class FormMenuPLU final : public FormaMenu {
  public:
   explicit FormMenuPLU(Ambiente& ambiente);
@@ -13,23 +15,15 @@ class FormMenuPLU final : public FormaMenu {
   platform::Label Label2{*this};
   platform::Label Label3{*this};
   platform::Button Command1{*this};
-  platform::Button Command2{*this};
-  platform::Button Command3{*this};
-  platform::Button Command4{*this};
-  platform::Button Command5{*this};
-  platform::Button Command6{*this};
-  platform::Button Command7{*this};
-  platform::Button Command8{*this};
-  platform::Button Command9{*this};
-  platform::Button Command10{*this};
-  platform::Button Command11{*this};
-  platform::Button Command12{*this};
-  platform::Button Command13{*this};
-  platform::Button Command14{*this};
-  platform::Button Command15{*this};
+
+  // The button of the level whose row is the `riga`th of `kLivelli`, counted from 0.
+  [[nodiscard]] platform::Button& DellaRiga(int riga) { return livelli_.element(riga); }
 
  protected:
   void onLoad() override;
+
+ private:
+  platform::ControlArray<platform::Button> livelli_{*this};
 };
 
 }  // namespace somme

@@ -1,7 +1,10 @@
 #include "app/form_menu_tabella.h"
 
+#include <algorithm>
+
 #include "app/disegno_menu.h"
 #include "app/shared/nomi_forme.h"
+#include "games/generi_tabella.h"
 
 namespace somme {
 
@@ -10,23 +13,35 @@ using namespace disegno;
 namespace {
 
 constexpr double kLarghezza = 6420;
+constexpr double kAltezza = 6420;
 
-constexpr Row Voce(int indice, double sinistra, double alto, std::string_view testo) {
-  return row<&FormMenuTabella::Command2>(indice, {sinistra, alto, 2580, 915}, VoceGrande(testo));
+constexpr bool SiOffre(const GenereTabella& genere) {
+  return !genere.didascalia.empty();
 }
 
-constexpr auto kControlli = std::to_array<Row>({
-    Intestazione(kLarghezza - 480, "Uso della tabella"),
-    Voce(0, 240, 1440, "Aggiungi un'unità"),
-    Voce(1, 240, 2640, "Aggiungi una decina"),
-    Voce(5, 240, 3840, "Aggiungi più unità"),
-    Voce(6, 3600, 1440, "Aggiungi più decine"),
-    Voce(10, 3600, 2640, "Somme"),
+// The kinds stand from the top, three to a column.
+constexpr auto kGeneri = [] {
+  constexpr int kPerColonna = 3;
+  std::array<Row, std::ranges::count_if(kGeneriTabella, SiOffre)> righe{};
+  for (int rango = 0; const GenereTabella& genere : kGeneriTabella) {
+    if (!SiOffre(genere)) continue;
+    const TwipsRect posto{240.0 + 3360 * (rango / kPerColonna),
+                          1440.0 + 1200 * (rango % kPerColonna), 2580, 915};
+    righe.at(static_cast<std::size_t>(rango)) =
+        row<&FormMenuTabella::Command2>(genere.tipo, posto, VoceGrande(genere.didascalia));
+    ++rango;
+  }
+  return righe;
+}();
+
+constexpr auto kSopra = std::to_array<Row>({Intestazione(kLarghezza - 480, "Uso della tabella")});
+constexpr auto kSotto = std::to_array<Row>({
     row<&FormMenuTabella::Command1>({3600, 5040, 2580, 1155}, Indietro()),
 });
+static_assert(HaPosto(kLarghezza, kAltezza, kGeneri, kSotto), "a kind of the table has no place");
 
-constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
-constexpr FormDesign kDisegno = Menu(forme::kFormMenuTabella, kLarghezza, 6420, kTavole);
+constexpr std::array<std::span<const Row>, 3> kTavole{kSopra, kGeneri, kSotto};
+constexpr FormDesign kDisegno = Menu(forme::kFormMenuTabella, kLarghezza, kAltezza, kTavole);
 
 }  // namespace
 

@@ -40,10 +40,14 @@ const platform::Label* FormaMenu::FasciaDi(const platform::Button& voce) const {
   return nullptr;
 }
 
-void FormaMenu::ScegliTitolato(int tipo, const QString& chiave, const platform::Button& voce) {
-  stato().TipoEsercizio = static_cast<qint16>(tipo);
-  stato().TitoloEsercizio += TestoLingua(ambiente(), chiave);
-  stato().TitoloEsercizio += voce.caption();
+void FormaMenu::ApreTitolato(platform::Button& pulsante, Famiglia famiglia, qint16 tipo,
+                             std::string_view chiave, const platform::Button& voce) {
+  const QString gruppo = QString::fromLatin1(chiave.data(), qsizetype(chiave.size()));
+  Apre(pulsante, famiglia, [this, tipo, gruppo, &voce] {
+    stato().TipoEsercizio = tipo;
+    stato().TitoloEsercizio += TestoLingua(ambiente(), gruppo);
+    stato().TitoloEsercizio += voce.caption();
+  });
 }
 
 void FormaMenu::TornaAlMenu() {

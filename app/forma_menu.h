@@ -26,9 +26,10 @@ class FormaMenu : public Forma {
   // Makes a button open an exercise of a family: scelta writes the level down, then the form that
   // fits the pupil's input mode is shown.
   void Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta);
-  // Writes a level down on a menu whose exercises have a title: the group's words and the caption
-  // of a button go to its end. chiave: of the group's words.
-  void ScegliTitolato(int tipo, const QString& chiave, const platform::Button& voce);
+  // The same on a menu whose exercises have a title: the group's words and the caption of a button
+  // go to its end. chiave: of the group's words, in section "Strings".
+  void ApreTitolato(platform::Button& pulsante, Famiglia famiglia, qint16 tipo,
+                    std::string_view chiave, const platform::Button& voce);
   void TornaAlMenu();
 
  private:

@@ -1,80 +1,265 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <span>
 #include <string_view>
 
+#include "cases/famiglia.h"
 #include "cases/modulo_somme.h"
 
 namespace somme {
 
-// The groups in which the menus show the levels.
+// The groups in which the menus show the levels, by their greatest sum.
 enum class Gruppo { Entro10, Entro20, Entro99, Entro999, Entro9999 };
 
-// One level of a family: what its button says, in which group, and what stands behind it. Blanks
-// that begin a caption are part of it, also where the caption ends a title.
-struct Livello {
-  Gruppo gruppo;
-  std::string_view didascalia;  // UTF-8
-  Generatore genera;
-  qint16 cifre;  // MaxLength of the box for the answer, on the number forms
+// The arrows that a level shows on the abacus: units into a ten, tens into a hundred, hundreds into
+// a thousand. An arrow that is hidden forbids its carry: ten beads stay on the spike.
+struct Frecce {
+  bool UDa = false;
+  bool DaH = false;
+  bool HK = false;
+};
+inline constexpr Frecce kSenzaFrecce{};
+inline constexpr Frecce kFrecciaUDa{.UDa = true};
+inline constexpr Frecce kFrecciaDaH{.DaH = true};
+inline constexpr Frecce kDueFrecce{.UDa = true, .DaH = true};
+inline constexpr Frecce kTreFrecce{.UDa = true, .DaH = true, .HK = true};
+
+// A level's numbers, each 0 in a family that does not have the level. A number is the
+// `TipoEsercizio` that the menu writes and the index of the level's button there, by which the
+// language files know it. Levels keep their numbers: a further one takes the next that is free,
+// wherever its row stands.
+struct NeiNumeri {
+  qint16 totale = 0;   // the sum is to be found: `Command1`
+  qint16 addendo = 0;  // an addend is: `Command2`, and the title has the words of that sum
+};
+struct SullAbaco {
+  qint16 tipo = 0;
+  Frecce frecce = {};
+};
+// On the blocks each level has a button of its own name, "Command2" or higher.
+struct ConIBlocchi {
+  qint16 tipo = 0;
+  std::string_view pulsante = {};
+  std::string_view registro = {};    // the key of its name on the record, in section "Strings"
+  std::string_view didascalia = {};  // where the menu has other words than the level
 };
 
-// Levels in the order of TipoEsercizio, which counts from 1.
+// One level and all that it is. The menus show the levels of a group in the order of the rows.
+struct Livello {
+  Gruppo gruppo;
+  std::string_view didascalia;  // UTF-8; a blank that begins it is part of it, in titles, too
+  Generatore genera;
+  qint16 cifre;  // the answer's box takes so many
+  NeiNumeri numeri = {};
+  SullAbaco abaco = {};
+  ConIBlocchi blocchi = {};
+};
 using Livelli = std::span<const Livello>;
 
-// The level of a TipoEsercizio, or nullptr for one that the table does not have: then no case is
-// made, and the form shows the one before.
-[[nodiscard]] constexpr const Livello* LivelloDi(Livelli livelli, int TipoEsercizio) {
-  const bool esiste =
-      TipoEsercizio >= 1 && static_cast<std::size_t>(TipoEsercizio) <= livelli.size();
-  return esiste ? &livelli[static_cast<std::size_t>(TipoEsercizio) - 1] : nullptr;
+// A level touches its row here, its routine in modulo_somme, and a line in each language file for
+// each menu that shows it. What must hold between rows stands in livelli_coerenti.h.
+inline constexpr auto kLivelli = std::to_array<Livello>({
+    {Gruppo::Entro10, "somme", GeneraEntro10, 2, {.totale = 1}},
+    {Gruppo::Entro10, "componi il 10", GeneraTotale10, 2, {.addendo = 1}},
+    {Gruppo::Entro10, "trova un addendo", GeneraEntro10, 2, {.addendo = 2}},
+
+    {Gruppo::Entro20, "addendi entro il 10", GeneraEntro20, 2, {.totale = 2}},
+    {Gruppo::Entro20, "10 + ....", GeneraDieciPiu, 2, {.totale = 3}},
+    {Gruppo::Entro20, "10 + ... = 18", GeneraDieciPiu, 2, {.addendo = 3}},
+    {Gruppo::Entro20, "addendo > 10", GeneraAddendoMaggiore10, 2, {.totale = 4}},
+    {Gruppo::Entro20, "completa il 20", GeneraTotale20, 2, {.addendo = 4}},
+
+    {Gruppo::Entro99,
+     "senza cambio",
+     GeneraEntro99SenzaCambio,
+     2,
+     {.totale = 5},
+     {1, kSenzaFrecce},
+     {1, "Command2", "0009", " senza cambio"}},
+    {Gruppo::Entro99,
+     "con il cambio",
+     GeneraEntro99ConCambio,
+     2,
+     {.totale = 6},
+     {2, kFrecciaUDa},
+     {2, "Command3", "0015", " con il cambio"}},
+    {Gruppo::Entro99,
+     "con e senza cambio",
+     GeneraEntro99ConESenzaCambio,
+     2,
+     {.totale = 7},
+     {3, kFrecciaUDa},
+     {3, "Command4", "0012", " con e senza cambio"}},
+    {Gruppo::Entro99,
+     "aggiungi solo unità",
+     GeneraEntro99SoloUnita,
+     2,
+     {.totale = 8},
+     {4, kFrecciaUDa},
+     {4, "Command14", "0014", " aggiungi solo unità"}},
+    {Gruppo::Entro99,
+     "aggiungi solo decine",
+     GeneraEntro99SoloDecine,
+     2,
+     {.totale = 9},
+     {5, kFrecciaUDa},
+     {5, "Command5", "0016"}},
+
+    {Gruppo::Entro999,
+     " senza cambio",
+     GeneraEntro999SenzaCambio,
+     3,
+     {.totale = 10},
+     {6, kSenzaFrecce},
+     {1, "Command9", "0009"}},
+    {Gruppo::Entro999,
+     " cambio alle unità",
+     GeneraEntro999CambioUnita,
+     3,
+     {.totale = 11},
+     {7, kFrecciaUDa},
+     {2, "Command11", "0018"}},
+    {Gruppo::Entro999,
+     " cambio alle decine",
+     GeneraEntro999CambioDecine,
+     3,
+     {.totale = 12},
+     {8, kFrecciaDaH},
+     {3, "Command12", "0019"}},
+    {Gruppo::Entro999,
+     " con un cambio",
+     GeneraEntro999UnCambio,
+     3,
+     {.totale = 13},
+     {9, kDueFrecce},
+     {4, "Command8", "0010"}},
+    {Gruppo::Entro999,
+     "con due cambi",
+     GeneraEntro999DueCambi,
+     3,
+     {.totale = 14},
+     {10, kDueFrecce},
+     {5, "Command10", "0011"}},
+    {Gruppo::Entro999,
+     " con e senza cambi",
+     GeneraEntro999ConESenzaCambi,
+     3,
+     {.totale = 15},
+     {11, kDueFrecce},
+     {6, "Command7", "0012"}},
+    {Gruppo::Entro999,
+     " aggiungi solo unità",
+     GeneraEntro999SoloUnita,
+     3,
+     {.totale = 16},
+     {12, kDueFrecce},
+     {7, "Command15", "0014"}},
+    {Gruppo::Entro999,
+     " aggiungi solo decine",
+     GeneraEntro999SoloDecine,
+     3,
+     {.totale = 17},
+     {13, kDueFrecce},
+     {8, "Command6", "0016"}},
+    {Gruppo::Entro999,
+     "aggiungi solo centinaia",
+     GeneraEntro999SoloCentinaia,
+     3,
+     {.totale = 18},
+     {14, kDueFrecce},
+     {9, "Command13", "0017"}},
+
+    {Gruppo::Entro9999,
+     " senza cambio",
+     GeneraEntro9999SenzaCambio,
+     5,
+     {.totale = 19},
+     {15, kSenzaFrecce}},
+    {Gruppo::Entro9999,
+     " con un cambio",
+     GeneraEntro9999UnCambio,
+     5,
+     {.totale = 20},
+     {16, kTreFrecce}},
+    {Gruppo::Entro9999,
+     "con due cambi",
+     GeneraEntro9999DueCambi,
+     5,
+     {.totale = 21},
+     {17, kTreFrecce}},
+    {Gruppo::Entro9999,
+     "con tre cambi",
+     GeneraEntro9999TreCambi,
+     5,
+     {.totale = 22},
+     {18, kTreFrecce}},
+    {Gruppo::Entro9999,
+     " con e senza cambi",
+     GeneraEntro9999ConESenzaCambi,
+     5,
+     {.totale = 23},
+     {19, kTreFrecce}},
+    {Gruppo::Entro9999,
+     " aggiungi solo unità",
+     GeneraEntro9999SoloUnita,
+     5,
+     {.totale = 24},
+     {20, kTreFrecce}},
+    {Gruppo::Entro9999,
+     " aggiungi solo decine",
+     GeneraEntro9999SoloDecine,
+     5,
+     {.totale = 25},
+     {21, kTreFrecce}},
+    {Gruppo::Entro9999,
+     "aggiungi solo centinaia",
+     GeneraEntro9999SoloCentinaia,
+     5,
+     {.totale = 26},
+     {22, kTreFrecce}},
+    {Gruppo::Entro9999,
+     "aggiungi solo migliaia",
+     GeneraEntro9999SoloMigliaia,
+     5,
+     {.totale = 27},
+     {23, kTreFrecce}},
+});
+
+// A level's number in a family; 0 where the family does not have it. The group says on which of
+// the two boards the blocks show a level.
+[[nodiscard]] constexpr qint16 TipoIn(const Livello& livello, Famiglia famiglia) {
+  switch (famiglia) {
+    case Famiglia::NumeriTotale:
+      return livello.numeri.totale;
+    case Famiglia::NumeriAddendo:
+      return livello.numeri.addendo;
+    case Famiglia::Abaco:
+      return livello.abaco.tipo;
+    case Famiglia::BlocchiDecine:
+      return livello.gruppo == Gruppo::Entro99 ? livello.blocchi.tipo : qint16{0};
+    case Famiglia::BlocchiCentinaia:
+      return livello.gruppo == Gruppo::Entro999 ? livello.blocchi.tipo : qint16{0};
+    default:
+      return 0;
+  }
 }
 
-// Numbers, the sum to find.
-inline constexpr std::array<Livello, 27> LivelliNumeriTotale = {{
-    {Gruppo::Entro10, "somme", GeneraEntro10, 2},
-    {Gruppo::Entro20, "addendi entro il 10", GeneraEntro20, 2},
-    {Gruppo::Entro20, "10 + ....", GeneraDieciPiu, 2},
-    {Gruppo::Entro20, "addendo > 10", GeneraAddendoMaggiore10, 2},
-    {Gruppo::Entro99, "senza cambio", GeneraEntro99SenzaCambio, 2},
-    {Gruppo::Entro99, "con il cambio", GeneraEntro99ConCambio, 2},
-    {Gruppo::Entro99, "con e senza cambio", GeneraEntro99ConESenzaCambio, 2},
-    {Gruppo::Entro99, "aggiungi solo unità", GeneraEntro99SoloUnita, 2},
-    {Gruppo::Entro99, "aggiungi solo decine", GeneraEntro99SoloDecine, 2},
-    {Gruppo::Entro999, " senza cambio", GeneraEntro999SenzaCambio, 3},
-    {Gruppo::Entro999, " cambio alle unità", GeneraEntro999CambioUnita, 3},
-    {Gruppo::Entro999, " cambio alle decine", GeneraEntro999CambioDecine, 3},
-    {Gruppo::Entro999, " con un cambio", GeneraEntro999UnCambio, 3},
-    {Gruppo::Entro999, "con due cambi", GeneraEntro999DueCambi, 3},
-    {Gruppo::Entro999, " con e senza cambi", GeneraEntro999ConESenzaCambi, 3},
-    {Gruppo::Entro999, " aggiungi solo unità", GeneraEntro999SoloUnita, 3},
-    {Gruppo::Entro999, " aggiungi solo decine", GeneraEntro999SoloDecine, 3},
-    {Gruppo::Entro999, "aggiungi solo centinaia", GeneraEntro999SoloCentinaia, 3},
-    {Gruppo::Entro9999, " senza cambio", GeneraEntro9999SenzaCambio, 5},
-    {Gruppo::Entro9999, " con un cambio", GeneraEntro9999UnCambio, 5},
-    {Gruppo::Entro9999, "con due cambi", GeneraEntro9999DueCambi, 5},
-    {Gruppo::Entro9999, "con tre cambi", GeneraEntro9999TreCambi, 5},
-    {Gruppo::Entro9999, " con e senza cambi", GeneraEntro9999ConESenzaCambi, 5},
-    {Gruppo::Entro9999, " aggiungi solo unità", GeneraEntro9999SoloUnita, 5},
-    {Gruppo::Entro9999, " aggiungi solo decine", GeneraEntro9999SoloDecine, 5},
-    {Gruppo::Entro9999, "aggiungi solo centinaia", GeneraEntro9999SoloCentinaia, 5},
-    {Gruppo::Entro9999, "aggiungi solo migliaia", GeneraEntro9999SoloMigliaia, 5},
-}};
+// The level of a TipoEsercizio of a family, or nullptr for one that the family does not have: then
+// no case is made, and the form shows the one before.
+[[nodiscard]] constexpr const Livello* LivelloDi(Famiglia famiglia, int TipoEsercizio) {
+  if (TipoEsercizio <= 0) return nullptr;
+  for (const Livello& livello : kLivelli) {
+    if (TipoIn(livello, famiglia) == TipoEsercizio) return &livello;
+  }
+  return nullptr;
+}
 
-// Numbers, the addend to find.
-inline constexpr std::array<Livello, 4> LivelliNumeriAddendo = {{
-    {Gruppo::Entro10, "componi il 10", GeneraTotale10, 2},
-    {Gruppo::Entro10, "trova un addendo", GeneraEntro10, 2},
-    {Gruppo::Entro20, "10 + ... = 18", GeneraDieciPiu, 2},
-    {Gruppo::Entro20, "completa il 20", GeneraTotale20, 2},
-}};
-
-// The abacus and both boards of blocks take their levels from the sums to find: from the first of
-// "Entro 99" to the end, and the groups "Entro 99" and "Entro 999" alone. The menu of the abacus
-// takes the captions, too; that of the blocks has captions of its own.
-inline constexpr Livelli LivelliAbaco = Livelli(LivelliNumeriTotale).subspan(4);
-inline constexpr Livelli LivelliLU = Livelli(LivelliNumeriTotale).subspan(4, 5);
-inline constexpr Livelli LivelliHLU = Livelli(LivelliNumeriTotale).subspan(9, 9);
+// How many levels a family has.
+[[nodiscard]] constexpr std::ptrdiff_t QuantiLivelli(Famiglia famiglia) {
+  return std::ranges::count_if(kLivelli,
+                               [famiglia](const Livello& l) { return TipoIn(l, famiglia) != 0; });
+}
 
 }  // namespace somme

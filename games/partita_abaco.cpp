@@ -14,7 +14,7 @@ void PartitaAbaco::Svuota() {
 void PartitaAbaco::NuovoCaso(int tipo, platform::Chance& sorte) {
   fase_ = Fase::Domanda;
   cambioInCorso_ = false;
-  if (const Livello* livello = LivelloDi(LivelliAbaco, tipo)) livello->genera(caso_, sorte);
+  if (const Livello* livello = LivelloDi(Famiglia::Abaco, tipo)) livello->genera(caso_, sorte);
 }
 
 bool PartitaAbaco::InAttesa(Posto posto, int numero) const {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cases/livelli.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
@@ -14,7 +15,7 @@ void PartitaBlocchi::NuovoCaso(int tipo, platform::Chance& sorte) {
   tavole_ = {};
   cambio_ = 0;
   uniti_.Sgombra();
-  if (const Livello* livello = LivelloDi(regole_.livelli, tipo)) livello->genera(caso_, sorte);
+  if (const Livello* livello = LivelloDi(regole_.famiglia, tipo)) livello->genera(caso_, sorte);
 }
 
 std::optional<PartitaBlocchi::Tavola> PartitaBlocchi::InUso() const {

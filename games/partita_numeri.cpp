@@ -7,7 +7,7 @@ PartitaNumeri::PartitaNumeri(Caso& caso, const RegoleNumeri& regole, Zero zero)
 
 std::optional<qint16> PartitaNumeri::NuovoCaso(int tipo, platform::Chance& sorte) {
   fase_ = Fase::Domanda;
-  const Livello* livello = LivelloDi(regole_.livelli, tipo);
+  const Livello* livello = LivelloDi(regole_.famiglia, tipo);
   if (livello == nullptr) return std::nullopt;
   livello->genera(caso_, sorte);
   return livello->cifre;

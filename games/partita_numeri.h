@@ -12,12 +12,12 @@ namespace somme {
 
 // In what the rules of the number exercises differ: which number of the sum is to be found.
 struct RegoleNumeri {
-  Livelli livelli;  // of `TipoEsercizio`
+  Famiglia famiglia;  // of `TipoEsercizio`
   qint16 Caso::*cercato;
 };
 
-inline constexpr RegoleNumeri kRegoleTotale{LivelliNumeriTotale, &Caso::Totale};
-inline constexpr RegoleNumeri kRegoleAddendo{LivelliNumeriAddendo, &Caso::Addendo2};
+inline constexpr RegoleNumeri kRegoleTotale{Famiglia::NumeriTotale, &Caso::Totale};
+inline constexpr RegoleNumeri kRegoleAddendo{Famiglia::NumeriAddendo, &Caso::Addendo2};
 
 // The game of the numbers: an operation with one number to find. A form drives it so:
 //

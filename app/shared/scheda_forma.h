@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "app/shared/stato_condiviso.h"
+#include "cases/famiglia.h"
 
 namespace platform {
 class Form;
@@ -22,19 +23,6 @@ enum class Genere {
   Foglio,        // a keyboard sheet for the touch surface
   Calibrazione,  // a sheet to adjust the touch surface by; nothing in the program leads to it
   Dialogo,       // a modal window
-};
-
-// What the menus lead to: a family of exercises in one range.
-enum class Famiglia {
-  Nessuna,
-  NumeriTotale,
-  NumeriAddendo,
-  Abaco,
-  BlocchiDecine,
-  BlocchiCentinaia,
-  Barre10,
-  Barre20,
-  Tabella,
 };
 
 // How a form takes the answer. Both ways of scanning are one form's business.
@@ -91,6 +79,14 @@ using TabellaForme = std::span<const SchedaForma>;
     if (scheda.famiglia == famiglia && scheda.modo == modo) return true;
   }
   return false;
+}
+
+// The greatest number of a family's forms; 0 where it has none.
+[[nodiscard]] constexpr qint32 Portata(TabellaForme forme, Famiglia famiglia) {
+  for (const SchedaForma& scheda : forme) {
+    if (scheda.famiglia == famiglia) return scheda.portata;
+  }
+  return 0;
 }
 
 // The form to which the menus lead for a family and a way of input: where the family has none of

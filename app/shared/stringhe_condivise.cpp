@@ -1,9 +1,11 @@
 #include "app/shared/stringhe_condivise.h"
 
+#include <algorithm>
 #include <array>
 
 #include "app/shared/ambiente.h"
 #include "app/shared/mod_language_support.h"
+#include "cases/livelli.h"
 
 namespace somme {
 
@@ -12,47 +14,63 @@ namespace {
 // Where a shared string comes from: a key of the language file, or the program itself.
 struct Riga {
   QString StringheCondivise::*stringa;
-  const char* chiave;
-  const char* letterale;
+  std::string_view chiave;
+  const char* letterale = nullptr;
 };
 
 constexpr auto kRighe = std::to_array<Riga>({
-    {&StringheCondivise::TestoErrati, "0002", nullptr},
-    {&StringheCondivise::TestoEsatti, "0003", nullptr},
-    {&StringheCondivise::Spazio, nullptr, " "},
-    {&StringheCondivise::MessaggioHelpiKeys, "0004", nullptr},
-    {&StringheCondivise::TitoloBarre, "0005", nullptr},
-    {&StringheCondivise::Trattino, nullptr, " - "},
-    {&StringheCondivise::TitoloFinoAl10, "0006", nullptr},
-    {&StringheCondivise::TitoloFinoAl20, "0007", nullptr},
-    {&StringheCondivise::TitoloPLUEntro999, "0008", nullptr},
-    {&StringheCondivise::TipoSenzaCambio, "0009", nullptr},
-    {&StringheCondivise::TipoUnCambio, "0010", nullptr},
-    {&StringheCondivise::TipoDueCambi, "0011", nullptr},
-    {&StringheCondivise::TipoConESenzaCambi, "0012", nullptr},
-    {&StringheCondivise::TitoloPLUEntro99, "0013", nullptr},
-    {&StringheCondivise::TipoSoloUnita, "0014", nullptr},
-    {&StringheCondivise::TipoConCambio, "0015", nullptr},
-    {&StringheCondivise::TipoSoloDecine, "0016", nullptr},
-    {&StringheCondivise::TipoSoloCentinaia, "0017", nullptr},
-    {&StringheCondivise::TipoCambioUnita, "0018", nullptr},
-    {&StringheCondivise::TipoCambioDecine, "0019", nullptr},
-    {&StringheCondivise::SegnoPiu, nullptr, " + "},
-    {&StringheCondivise::SegnoUguale, nullptr, " = "},
-    {&StringheCondivise::FormatoNumeri, nullptr, "# ##0"},
-    {&StringheCondivise::DomandaStampaTastiera, "0020", nullptr},
-    {&StringheCondivise::ConsegnaBarre1, "0021", nullptr},
-    {&StringheCondivise::ConsegnaBarre2, "0022", nullptr},
-    {&StringheCondivise::ConsegnaBarre3, "0023", nullptr},
+    {&StringheCondivise::TestoErrati, "0002"},
+    {&StringheCondivise::TestoEsatti, "0003"},
+    {&StringheCondivise::Spazio, {}, " "},
+    {&StringheCondivise::MessaggioHelpiKeys, "0004"},
+    {&StringheCondivise::TitoloBarre, "0005"},
+    {&StringheCondivise::Trattino, {}, " - "},
+    {&StringheCondivise::TitoloFinoAl10, "0006"},
+    {&StringheCondivise::TitoloFinoAl20, "0007"},
+    {&StringheCondivise::TitoloPLUEntro999, "0008"},
+    {&StringheCondivise::TipoSenzaCambio, "0009"},
+    {&StringheCondivise::TipoUnCambio, "0010"},
+    {&StringheCondivise::TipoDueCambi, "0011"},
+    {&StringheCondivise::TipoConESenzaCambi, "0012"},
+    {&StringheCondivise::TitoloPLUEntro99, "0013"},
+    {&StringheCondivise::TipoSoloUnita, "0014"},
+    {&StringheCondivise::TipoConCambio, "0015"},
+    {&StringheCondivise::TipoSoloDecine, "0016"},
+    {&StringheCondivise::TipoSoloCentinaia, "0017"},
+    {&StringheCondivise::TipoCambioUnita, "0018"},
+    {&StringheCondivise::TipoCambioDecine, "0019"},
+    {&StringheCondivise::SegnoPiu, {}, " + "},
+    {&StringheCondivise::SegnoUguale, {}, " = "},
+    {&StringheCondivise::FormatoNumeri, {}, "# ##0"},
+    {&StringheCondivise::DomandaStampaTastiera, "0020"},
+    {&StringheCondivise::ConsegnaBarre1, "0021"},
+    {&StringheCondivise::ConsegnaBarre2, "0022"},
+    {&StringheCondivise::ConsegnaBarre3, "0023"},
 });
+
+QString Leggi(Ambiente& ambiente, std::string_view chiave) {
+  return TestoLingua(ambiente, QString::fromLatin1(chiave.data(), qsizetype(chiave.size())));
+}
 
 }  // namespace
 
+QString StringheCondivise::NomeDelLivello(std::string_view chiave) const {
+  const auto riga = std::ranges::find(kRighe, chiave, &Riga::chiave);
+  if (riga != kRighe.end()) return this->*riga->stringa;
+  const auto altro = AltriTipi.find(chiave);
+  return altro == AltriTipi.end() ? QString() : altro->second;
+}
+
 void CaricaStringhe(Ambiente& ambiente) {
+  StringheCondivise& stringhe = ambiente.stringhe;
   for (const Riga& riga : kRighe) {
-    ambiente.stringhe.*riga.stringa = riga.chiave != nullptr
-                                          ? TestoLingua(ambiente, QLatin1String(riga.chiave))
-                                          : QLatin1String(riga.letterale);
+    stringhe.*riga.stringa = riga.letterale == nullptr ? Leggi(ambiente, riga.chiave)
+                                                       : QString(QLatin1String(riga.letterale));
+  }
+  for (const Livello& livello : kLivelli) {
+    const std::string_view chiave = livello.blocchi.registro;
+    if (chiave.empty() || std::ranges::count(kRighe, chiave, &Riga::chiave) > 0) continue;
+    stringhe.AltriTipi[chiave] = Leggi(ambiente, chiave);
   }
 }
 

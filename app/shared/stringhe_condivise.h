@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <map>
+#include <string_view>
 
 namespace somme {
 
@@ -39,6 +41,11 @@ struct StringheCondivise {
   QString ConsegnaBarre1;
   QString ConsegnaBarre2;
   QString ConsegnaBarre3;
+  // The names that levels bear on the record and that are none of the above, by their keys.
+  std::map<std::string_view, QString> AltriTipi;
+
+  // The name of a level on the record, by the key that its row gives; empty for any other key.
+  [[nodiscard]] QString NomeDelLivello(std::string_view chiave) const;
 };
 
 // Reads them all, in their order; the first key read also loads `LinguaCorrente`.

@@ -6,19 +6,6 @@ namespace somme {
 
 namespace {
 
-using Stringa = QString StringheCondivise::*;
-
-constexpr std::array<Stringa, 5> kNomiEntro99{
-    &StringheCondivise::TipoSenzaCambio, &StringheCondivise::TipoConCambio,
-    &StringheCondivise::TipoConESenzaCambi, &StringheCondivise::TipoSoloUnita,
-    &StringheCondivise::TipoSoloDecine};
-constexpr std::array<Stringa, 9> kNomiEntro999{
-    &StringheCondivise::TipoSenzaCambio,  &StringheCondivise::TipoCambioUnita,
-    &StringheCondivise::TipoCambioDecine, &StringheCondivise::TipoUnCambio,
-    &StringheCondivise::TipoDueCambi,     &StringheCondivise::TipoConESenzaCambi,
-    &StringheCondivise::TipoSoloUnita,    &StringheCondivise::TipoSoloDecine,
-    &StringheCondivise::TipoSoloCentinaia};
-
 constexpr std::array kSpecieEntro99{&blocchi::kUnita, &blocchi::kLunghi};
 constexpr std::array kSpecieEntro999{&blocchi::kUnita, &blocchi::kLunghi, &blocchi::kPiatti};
 
@@ -37,9 +24,8 @@ constexpr std::array kCambiEntro999{
 }  // namespace
 
 constinit const EsercizioBlocchi kBlocchiEntro99{
-    .livelli = LivelliLU,
+    .famiglia = Famiglia::BlocchiDecine,
     .titolo = &StringheCondivise::TitoloPLUEntro99,
-    .nomi = kNomiEntro99,
     .filmatoAddendo = u"swf/dau.swf",
     .filmatoUnione = u"swf/unione.swf",
     .specie = kSpecieEntro99,
@@ -48,9 +34,8 @@ constinit const EsercizioBlocchi kBlocchiEntro99{
 };
 
 constinit const EsercizioBlocchi kBlocchiEntro999{
-    .livelli = LivelliHLU,
+    .famiglia = Famiglia::BlocchiCentinaia,
     .titolo = &StringheCondivise::TitoloPLUEntro999,
-    .nomi = kNomiEntro999,
     .filmatoAddendo = u"swf/hdau.swf",
     .filmatoUnione = u"swf/unionehdau.swf",
     .specie = kSpecieEntro999,

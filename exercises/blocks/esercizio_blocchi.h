@@ -4,7 +4,7 @@
 #include <span>
 
 #include "app/shared/stringhe_condivise.h"
-#include "cases/livelli.h"
+#include "cases/famiglia.h"
 #include "exercises/core/quantita.h"
 
 namespace somme {
@@ -48,10 +48,9 @@ struct Sgombero {
 
 // In what the blocks up to 99 and those up to 999 differ.
 struct EsercizioBlocchi {
-  Livelli livelli;                                    // of `TipoEsercizio`
-  QString StringheCondivise::*titolo;                 // of the record
-  std::span<QString StringheCondivise::*const> nomi;  // of the levels, in their order
-  QStringView filmatoAddendo;                         // from the program's folder
+  Famiglia famiglia;                   // of `TipoEsercizio`
+  QString StringheCondivise::*titolo;  // of the record
+  QStringView filmatoAddendo;          // from the program's folder
   QStringView filmatoUnione;
   std::span<const SpecieBlocchi* const> specie;  // in the order in which the boards are joined
   std::span<const Sgombero> sgombero;

@@ -1,6 +1,7 @@
 #include "exercises/blocks/forma_blocchi.h"
 
 #include "app/shared/modulo_colori_suoni.h"
+#include "cases/livelli.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
@@ -49,11 +50,10 @@ void FormaBlocchi::PosaTavole() {
 }
 
 void FormaBlocchi::IniziaElencoDelLivello() {
-  const int tipo = stato().TipoEsercizio;
-  if (tipo < 1 || tipo > int(esercizio_.nomi.size())) return;
-  const auto nome = esercizio_.nomi[std::size_t(tipo - 1)];
+  const Livello* livello = LivelloDi(esercizio_.famiglia, stato().TipoEsercizio);
+  if (livello == nullptr) return;
   IniziaElenco(QStringLiteral("     ") + stringhe().*esercizio_.titolo + stringhe().Trattino +
-               stringhe().*nome);
+               stringhe().NomeDelLivello(livello->blocchi.registro));
 }
 
 void FormaBlocchi::CaricaFilmati() {
@@ -81,7 +81,7 @@ void FormaBlocchi::NuovoCaso() {
   ShockwaveFlash3.setVisible(false);
   NascondiRisultato();
   MettiComandi(Label1);
-  if (const Livello* livello = LivelloDi(esercizio_.livelli, stato().TipoEsercizio)) {
+  if (const Livello* livello = LivelloDi(esercizio_.famiglia, stato().TipoEsercizio)) {
     livello->genera(stato(), ambiente().servizi.sorte);
   }
   CasoFatto();

@@ -13,6 +13,7 @@
 #include "support/banco.h"
 #include "support/controfigura.h"
 #include "support/iscrizione.h"
+#include "support/pulsante.h"
 
 using prova::Banco;
 using namespace somme;
@@ -90,7 +91,7 @@ constexpr Voce kAbaco[] = {
 };
 
 struct VoceBlocchi {
-  platform::Button FormMenuPLU::*pulsante;
+  const char* pulsante;
   const char* didascalia;
   int sinistra;
   int alto;
@@ -98,20 +99,20 @@ struct VoceBlocchi {
   const char* forma;
 };
 constexpr VoceBlocchi kBlocchi[] = {
-    {&FormMenuPLU::Command2, " senza cambio", 120, 1560, 1, "FormLU"},
-    {&FormMenuPLU::Command3, " con il cambio", 120, 2400, 2, "FormLU"},
-    {&FormMenuPLU::Command4, " con e senza cambio", 120, 3240, 3, "FormLU"},
-    {&FormMenuPLU::Command14, " aggiungi solo unità", 120, 4080, 4, "FormLU"},
-    {&FormMenuPLU::Command5, "aggiungi solo decine", 120, 4920, 5, "FormLU"},
-    {&FormMenuPLU::Command9, " senza cambio", 3240, 1560, 1, "FormHLU"},
-    {&FormMenuPLU::Command11, " cambio alle unità", 3240, 2400, 2, "FormHLU"},
-    {&FormMenuPLU::Command12, " cambio alle decine", 3240, 3240, 3, "FormHLU"},
-    {&FormMenuPLU::Command8, " con un cambio", 3240, 4080, 4, "FormHLU"},
-    {&FormMenuPLU::Command10, "con due cambi", 3240, 4920, 5, "FormHLU"},
-    {&FormMenuPLU::Command7, " con e senza cambi", 6360, 1560, 6, "FormHLU"},
-    {&FormMenuPLU::Command15, " aggiungi solo unità", 6360, 2400, 7, "FormHLU"},
-    {&FormMenuPLU::Command6, " aggiungi solo decine", 6360, 3240, 8, "FormHLU"},
-    {&FormMenuPLU::Command13, "aggiungi solo centinaia", 6360, 4080, 9, "FormHLU"},
+    {"Command2", " senza cambio", 120, 1560, 1, "FormLU"},
+    {"Command3", " con il cambio", 120, 2400, 2, "FormLU"},
+    {"Command4", " con e senza cambio", 120, 3240, 3, "FormLU"},
+    {"Command14", " aggiungi solo unità", 120, 4080, 4, "FormLU"},
+    {"Command5", "aggiungi solo decine", 120, 4920, 5, "FormLU"},
+    {"Command9", " senza cambio", 3240, 1560, 1, "FormHLU"},
+    {"Command11", " cambio alle unità", 3240, 2400, 2, "FormHLU"},
+    {"Command12", " cambio alle decine", 3240, 3240, 3, "FormHLU"},
+    {"Command8", " con un cambio", 3240, 4080, 4, "FormHLU"},
+    {"Command10", "con due cambi", 3240, 4920, 5, "FormHLU"},
+    {"Command7", " con e senza cambi", 6360, 1560, 6, "FormHLU"},
+    {"Command15", " aggiungi solo unità", 6360, 2400, 7, "FormHLU"},
+    {"Command6", " aggiungi solo decine", 6360, 3240, 8, "FormHLU"},
+    {"Command13", "aggiungi solo centinaia", 6360, 4080, 9, "FormHLU"},
 };
 
 bool sta(const platform::Control& controllo, int sinistra, int alto, int larghezza, int altezza) {
@@ -200,7 +201,7 @@ class FormaMenuTest : public QObject {
     banco.ambiente->stato.TitoloEsercizio = QStringLiteral("come prima");
     FormMenuPLU& menu = banco.apri<FormMenuPLU>(forme::kFormMenuPLU);
     const VoceBlocchi& voce = kBlocchi[riga];
-    const platform::Button& pulsante = menu.*voce.pulsante;
+    const platform::Button& pulsante = prova::pulsante(menu, voce.pulsante);
     QCOMPARE(pulsante.caption(), QString::fromUtf8(voce.didascalia));
     QVERIFY(sta(pulsante, voce.sinistra, voce.alto, 2580, 675));
     banco.clicca(pulsante);
@@ -253,7 +254,7 @@ class FormaMenuTest : public QObject {
   void theModeOfInputChoosesTheFormAndTheMenuIsUnloadedAfterwards() {
     Banco banco(kFinestra, prova::SenzaEsercizi);
     banco.ambiente->stato.ModalitaInput = 2;
-    banco.clicca(banco.apri<FormMenuPLU>(forme::kFormMenuPLU).Command2);
+    banco.clicca(prova::pulsante(banco.apri<FormMenuPLU>(forme::kFormMenuPLU), "Command2"));
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormLUScansione"));
     for (const auto& forma : banco.ambiente->fondo.forms().all()) {
       QVERIFY(forma->name() != QStringLiteral("FormMenuPLU"));
@@ -287,12 +288,9 @@ class FormaMenuTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(menu.Label1.caption(), intestazione);
     QVERIFY(menu.page()->canvas()->hasGradient());
-    const auto trovato =
-        std::find_if(menu.controls().begin(), menu.controls().end(),
-                     [&indietro](const auto* controllo) { return controllo->name() == indietro; });
-    QVERIFY(trovato != menu.controls().end());
-    QCOMPARE((*trovato)->caption(), QStringLiteral("Torna al menù principale"));
-    banco.clicca(**trovato);
+    const platform::Button& pulsante = prova::pulsante(menu, indietro);
+    QCOMPARE(pulsante.caption(), QStringLiteral("Torna al menù principale"));
+    banco.clicca(pulsante);
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
   }
 

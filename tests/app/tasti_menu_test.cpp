@@ -11,6 +11,7 @@
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/pulsante.h"
 
 using prova::Banco;
 
@@ -85,8 +86,9 @@ class TastiMenuTest : public QObject {
   void aLevelSaysItsGroup() {
     Banco banco;
     auto& blocchi = banco.apri<somme::FormMenuPLU>(somme::forme::kFormMenuPLU);
-    QCOMPARE(detto(blocchi.Command2), QStringLiteral("Entro 99, senza cambio"));
-    QCOMPARE(detto(blocchi.Command13), QStringLiteral("Entro 999, aggiungi solo centinaia"));
+    QCOMPARE(detto(prova::pulsante(blocchi, "Command2")), QStringLiteral("Entro 99, senza cambio"));
+    QCOMPARE(detto(prova::pulsante(blocchi, "Command13")),
+             QStringLiteral("Entro 999, aggiungi solo centinaia"));
     QCOMPARE(detto(blocchi.Command1), QStringLiteral("Torna al menù principale"));
     auto& barre = banco.apri<somme::FormMenuBarre>(somme::forme::kFormMenuBarre);
     QCOMPARE(detto(barre.Command2), QStringLiteral("Fino al 10"));
@@ -103,7 +105,7 @@ class TastiMenuTest : public QObject {
     Banco banco;
     auto& menu = banco.apri<somme::FormMenuPLU>(somme::forme::kFormMenuPLU);
     menu.Label2.setCaption(QStringLiteral("Up to 99"));
-    QCOMPARE(detto(menu.Command2), QStringLiteral("Up to 99, senza cambio"));
+    QCOMPARE(detto(prova::pulsante(menu, "Command2")), QStringLiteral("Up to 99, senza cambio"));
   }
 
   void theIntervalBarSpeaksSecondsAndTakesThem() {

@@ -14,14 +14,14 @@ class LivelliTest : public QObject {
 
  private Q_SLOTS:
   void theLevelsOfTheSumsStandAtTheirNumbers() {
-    const auto* primo = LivelloDi(LivelliNumeriTotale, 1);
+    const auto* primo = LivelloDi(Famiglia::NumeriTotale, 1);
     QVERIFY(primo != nullptr);
     QCOMPARE(primo->didascalia, "somme"sv);
     QVERIFY(primo->genera == &GeneraEntro10);
-    const auto* ottavo = LivelloDi(LivelliNumeriTotale, 8);
+    const auto* ottavo = LivelloDi(Famiglia::NumeriTotale, 8);
     QCOMPARE(ottavo->didascalia, "aggiungi solo unità"sv);
     QVERIFY(ottavo->genera == &GeneraEntro99SoloUnita);
-    const auto* ultimo = LivelloDi(LivelliNumeriTotale, 27);
+    const auto* ultimo = LivelloDi(Famiglia::NumeriTotale, 27);
     QCOMPARE(ultimo->didascalia, "aggiungi solo migliaia"sv);
     QVERIFY(ultimo->genera == &GeneraEntro9999SoloMigliaia);
   }
@@ -42,19 +42,19 @@ class LivelliTest : public QObject {
                                                                 {26, GeneraEntro9999SoloCentinaia},
                                                                 {27, GeneraEntro9999SoloMigliaia}}};
     for (const auto& [tipo, genera] : attesi) {
-      QVERIFY(LivelloDi(LivelliNumeriTotale, tipo)->genera == genera);
+      QVERIFY(LivelloDi(Famiglia::NumeriTotale, tipo)->genera == genera);
     }
   }
 
   void theBlanksThatBeginACaptionArePartOfIt() {
-    QCOMPARE(LivelloDi(LivelliNumeriTotale, 10)->didascalia, " senza cambio"sv);
-    QCOMPARE(LivelloDi(LivelliNumeriTotale, 14)->didascalia, "con due cambi"sv);
-    QCOMPARE(LivelloDi(LivelliNumeriTotale, 24)->didascalia, " aggiungi solo unità"sv);
+    QCOMPARE(LivelloDi(Famiglia::NumeriTotale, 10)->didascalia, " senza cambio"sv);
+    QCOMPARE(LivelloDi(Famiglia::NumeriTotale, 14)->didascalia, "con due cambi"sv);
+    QCOMPARE(LivelloDi(Famiglia::NumeriTotale, 24)->didascalia, " aggiungi solo unità"sv);
   }
 
   void groupsAndDigitsFollowTheNumber() {
     for (int tipo = 1; tipo <= 27; ++tipo) {
-      const Livello& livello = *LivelloDi(LivelliNumeriTotale, tipo);
+      const Livello& livello = *LivelloDi(Famiglia::NumeriTotale, tipo);
       const Gruppo gruppo = tipo == 1    ? Gruppo::Entro10
                             : tipo <= 4  ? Gruppo::Entro20
                             : tipo <= 9  ? Gruppo::Entro99
@@ -71,7 +71,7 @@ class LivelliTest : public QObject {
     const std::array didascalie = {"componi il 10"sv, "trova un addendo"sv, "10 + ... = 18"sv,
                                    "completa il 20"sv};
     for (int tipo = 1; tipo <= 4; ++tipo) {
-      const Livello& livello = *LivelloDi(LivelliNumeriAddendo, tipo);
+      const Livello& livello = *LivelloDi(Famiglia::NumeriAddendo, tipo);
       const auto indice = static_cast<std::size_t>(tipo) - 1;
       QVERIFY(livello.genera == attesi.at(indice));
       QCOMPARE(livello.didascalia, didascalie.at(indice));
@@ -81,32 +81,36 @@ class LivelliTest : public QObject {
   }
 
   void theAbacusHasTheSumsFromEntro99On() {
-    QCOMPARE(LivelliAbaco.size(), std::size_t{23});
+    QCOMPARE(QuantiLivelli(Famiglia::Abaco), 23);
     for (int tipo = 1; tipo <= 23; ++tipo) {
-      QCOMPARE(LivelloDi(LivelliAbaco, tipo), LivelloDi(LivelliNumeriTotale, tipo + 4));
+      QCOMPARE(LivelloDi(Famiglia::Abaco, tipo), LivelloDi(Famiglia::NumeriTotale, tipo + 4));
     }
-    QVERIFY(LivelloDi(LivelliAbaco, 5)->gruppo == Gruppo::Entro99);
-    QVERIFY(LivelloDi(LivelliAbaco, 6)->gruppo == Gruppo::Entro999);
-    QVERIFY(LivelloDi(LivelliAbaco, 15)->gruppo == Gruppo::Entro9999);
+    QVERIFY(LivelloDi(Famiglia::Abaco, 5)->gruppo == Gruppo::Entro99);
+    QVERIFY(LivelloDi(Famiglia::Abaco, 6)->gruppo == Gruppo::Entro999);
+    QVERIFY(LivelloDi(Famiglia::Abaco, 15)->gruppo == Gruppo::Entro9999);
   }
 
   void theBlocksHaveOneGroupForEachBoard() {
-    QCOMPARE(LivelliLU.size(), std::size_t{5});
-    for (const Livello& livello : LivelliLU) QVERIFY(livello.gruppo == Gruppo::Entro99);
-    QVERIFY(LivelloDi(LivelliLU, 2)->genera == &GeneraEntro99ConCambio);
-    QCOMPARE(LivelliHLU.size(), std::size_t{9});
-    for (const Livello& livello : LivelliHLU) QVERIFY(livello.gruppo == Gruppo::Entro999);
-    QVERIFY(LivelloDi(LivelliHLU, 9)->genera == &GeneraEntro999SoloCentinaia);
+    QCOMPARE(QuantiLivelli(Famiglia::BlocchiDecine), 5);
+    for (int tipo = 1; tipo <= 5; ++tipo) {
+      QVERIFY(LivelloDi(Famiglia::BlocchiDecine, tipo)->gruppo == Gruppo::Entro99);
+    }
+    QVERIFY(LivelloDi(Famiglia::BlocchiDecine, 2)->genera == &GeneraEntro99ConCambio);
+    QCOMPARE(QuantiLivelli(Famiglia::BlocchiCentinaia), 9);
+    for (int tipo = 1; tipo <= 9; ++tipo) {
+      QVERIFY(LivelloDi(Famiglia::BlocchiCentinaia, tipo)->gruppo == Gruppo::Entro999);
+    }
+    QVERIFY(LivelloDi(Famiglia::BlocchiCentinaia, 9)->genera == &GeneraEntro999SoloCentinaia);
   }
 
   void anyOtherNumberHasNoLevel() {
     for (const int tipo : {-32768, -1, 0, 28, 32767}) {
-      QVERIFY(LivelloDi(LivelliNumeriTotale, tipo) == nullptr);
+      QVERIFY(LivelloDi(Famiglia::NumeriTotale, tipo) == nullptr);
     }
-    QVERIFY(LivelloDi(LivelliNumeriAddendo, 5) == nullptr);
-    QVERIFY(LivelloDi(LivelliAbaco, 24) == nullptr);
-    QVERIFY(LivelloDi(LivelliLU, 6) == nullptr);
-    QVERIFY(LivelloDi(LivelliHLU, 10) == nullptr);
+    QVERIFY(LivelloDi(Famiglia::NumeriAddendo, 5) == nullptr);
+    QVERIFY(LivelloDi(Famiglia::Abaco, 24) == nullptr);
+    QVERIFY(LivelloDi(Famiglia::BlocchiDecine, 6) == nullptr);
+    QVERIFY(LivelloDi(Famiglia::BlocchiCentinaia, 10) == nullptr);
   }
 };
 

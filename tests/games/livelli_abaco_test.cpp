@@ -8,7 +8,7 @@ using namespace somme;
 
 namespace {
 
-constexpr int kLivelli = 23;
+constexpr int kUltimo = 23;
 
 // The arrows of a level as "UDa DaH HK", or "-" for a level that does not exist.
 QString frecce(int tipo) {
@@ -28,21 +28,21 @@ class LivelliAbacoTest : public QObject {
 
  private Q_SLOTS:
   void tensAndUnitsWaitAtEveryLevelAndWithoutOne() {
-    for (int tipo = 0; tipo <= kLivelli + 1; ++tipo) {
+    for (int tipo = 0; tipo <= kUltimo + 1; ++tipo) {
       QCOMPARE(HaPalline(tipo, Posto::Unita), true);
       QCOMPARE(HaPalline(tipo, Posto::Decine), true);
     }
   }
 
   void hundredsWaitFromTheSixthLevelOnAndThousandsFromTheFifteenth() {
-    for (int tipo = 1; tipo <= kLivelli; ++tipo) {
+    for (int tipo = 1; tipo <= kUltimo; ++tipo) {
       QCOMPARE(HaPalline(tipo, Posto::Centinaia), tipo >= 6);
       QCOMPARE(HaPalline(tipo, Posto::Migliaia), tipo >= 15);
     }
   }
 
   void aLevelThatDoesNotExistSaysNothing() {
-    for (const int tipo : {-1, 0, kLivelli + 1}) {
+    for (const int tipo : {-1, 0, kUltimo + 1}) {
       QVERIFY(!HaPalline(tipo, Posto::Centinaia));
       QVERIFY(!HaPalline(tipo, Posto::Migliaia));
       QVERIFY(!CifreDellaRisposta(tipo));
@@ -51,7 +51,7 @@ class LivelliAbacoTest : public QObject {
   }
 
   void theAnswerHasTwoThreeOrFiveDigits() {
-    for (int tipo = 1; tipo <= kLivelli; ++tipo) {
+    for (int tipo = 1; tipo <= kUltimo; ++tipo) {
       QCOMPARE(CifreDellaRisposta(tipo), qint16(tipo <= 5 ? 2 : tipo <= 14 ? 3 : 5));
     }
   }
@@ -61,7 +61,7 @@ class LivelliAbacoTest : public QObject {
     for (const int tipo : {2, 3, 4, 5, 7}) QCOMPARE(frecce(tipo), QStringLiteral("UDa"));
     QCOMPARE(frecce(8), QStringLiteral("DaH"));
     for (int tipo = 9; tipo <= 14; ++tipo) QCOMPARE(frecce(tipo), QStringLiteral("UDa DaH"));
-    for (int tipo = 16; tipo <= kLivelli; ++tipo) {
+    for (int tipo = 16; tipo <= kUltimo; ++tipo) {
       QCOMPARE(frecce(tipo), QStringLiteral("UDa DaH HK"));
     }
   }

@@ -5,8 +5,10 @@
 #include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QThread>
+#include <algorithm>
 #include <array>
 #include <utility>
+#include <vector>
 
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
@@ -30,21 +32,16 @@ std::string_view vista(const QByteArray& nome) {
   return {nome.constData(), static_cast<std::size_t>(nome.size())};
 }
 
-// What is no exercise takes the most levels that there are below the sums.
-std::size_t livelli(somme::Famiglia famiglia) {
-  using somme::Famiglia;
-  switch (famiglia) {
-    case Famiglia::NumeriTotale:
-      return somme::LivelliNumeriTotale.size();
-    case Famiglia::NumeriAddendo:
-      return somme::LivelliNumeriAddendo.size();
-    case Famiglia::BlocchiDecine:
-      return somme::LivelliLU.size();
-    case Famiglia::BlocchiCentinaia:
-      return somme::LivelliHLU.size();
-    default:
-      return somme::LivelliAbaco.size();
+// The numbers of a family's levels. What has no levels of its own takes those of the abacus, the
+// most that there are below the sums.
+std::vector<qint16> tipi(somme::Famiglia famiglia) {
+  if (somme::QuantiLivelli(famiglia) == 0) famiglia = somme::Famiglia::Abaco;
+  std::vector<qint16> numeri;
+  for (const somme::Livello& livello : somme::kLivelli) {
+    if (const qint16 tipo = TipoIn(livello, famiglia); tipo != 0) numeri.push_back(tipo);
   }
+  std::ranges::sort(numeri);
+  return numeri;
 }
 
 }  // namespace
@@ -90,7 +87,8 @@ bool Scimmia::finita() const {
 // The state as the menus leave it for the form.
 void Scimmia::prepara() {
   somme::StatoCondiviso& stato = banco_.ambiente->stato;
-  stato.TipoEsercizio = qint16(dadi_.tra(1, int(livelli(scheda_.famiglia))));
+  const std::vector<qint16> numeri = tipi(scheda_.famiglia);
+  stato.TipoEsercizio = numeri[std::size_t(dadi_.tra(1, int(numeri.size()))) - 1];
   stato.LimiteEsercizio = scheda_.famiglia == somme::Famiglia::Barre20 ? scheda_.portata : 10;
   stato.TempoScansione = qint16(dadi_.unoSu(3) ? dadi_.tra(4, 60) : 4);
   if (scheda_.modo == somme::Modo::Tocco) {

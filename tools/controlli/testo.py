@@ -32,13 +32,13 @@ def _forma(riga):
     return _NUMERO.sub("0", _NOME.sub(lambda n: n[0] if n[0] in _PAROLE else "x", riga))
 
 
-_DISEGNO = re.compile(r"to_array<Row>\(\{.*?\}\);|\{\s*\.name =.*?\};", re.S)
+_DATI = re.compile(r"to_array<(?:Row|Livello)>\(\{.*?\}\);|\{\s*\.(?:name|famiglie) =.*?\};", re.S)
 
 
 def _righe_che_contano(file):
-    """(line number, shape) of the lines of a file in which something is said: rows of designs are
-    data, and includes, access words and lone brackets are alike everywhere."""
-    codice = _DISEGNO.sub(lambda d: "\n" * d[0].count("\n"), sorgenti.codice(file))
+    """(line number, shape) of the lines of a file in which something is said: rows of designs and
+    of levels, and what menus are made of, are data, and includes, access words and lone brackets are alike everywhere."""
+    codice = _DATI.sub(lambda d: "\n" * d[0].count("\n"), sorgenti.codice(file))
     for numero, riga in enumerate(codice.splitlines(), 1):
         riga = re.sub(r"\s+", " ", riga.strip())
         if len(riga) < 4 or riga.startswith(("#", "namespace", "public:", "private:")):

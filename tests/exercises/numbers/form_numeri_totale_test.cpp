@@ -259,7 +259,7 @@ class FormNumeriTotaleTest : public QObject {
       for (int i = 0; i < 40; ++i) estrazioni.push_back({(i * 7 + tipo) % 10, 10});
       stessa.scrivi(estrazioni);
       somme::Caso atteso;
-      somme::LivelliNumeriTotale[std::size_t(tipo - 1)].genera(atteso, stessa);
+      somme::LivelloDi(somme::Famiglia::NumeriTotale, tipo)->genera(atteso, stessa);
       const auto usate = estrazioni.size() - stessa.rimaste();
       estrazioni.resize(usate);
       banco.sorte.scrivi(estrazioni);
