@@ -21,12 +21,9 @@
 #include "exercises/bars/forma_barre_pulsanti.h"
 #include "exercises/bars/forma_barre_scansione.h"
 #include "exercises/bars/forma_barre_tastiera.h"
-#include "exercises/blocks/form_hlu.h"
-#include "exercises/blocks/form_hlu_hk.h"
-#include "exercises/blocks/form_hlu_scansione.h"
-#include "exercises/blocks/form_lu.h"
-#include "exercises/blocks/form_lu_hk.h"
-#include "exercises/blocks/form_lu_scansione.h"
+#include "exercises/blocks/forma_blocchi_hk.h"
+#include "exercises/blocks/forma_blocchi_scansione.h"
+#include "exercises/blocks/forma_blocchi_tastiera.h"
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "exercises/numbers/forma_numeri_scansione.h"
 #include "exercises/numbers/forma_numeri_tastiera.h"
@@ -121,12 +118,16 @@ constexpr auto kForme = std::to_array<SchedaForma>({
                                                       Modo::Scansione),
     Esercizio<FormaBarreHK, kBarreHK20>(forme::kFormBarre20HK, kBarre20, Modo::Tocco,
                                         forme::kFormStampaFoglioNumeri),
-    Esercizio<FormLU>(forme::kFormLU, kBlocchiDecine),
-    Esercizio<FormLUScansione>(forme::kFormLUScansione, kBlocchiDecine, Modo::Scansione),
-    Esercizio<FormLUHK>(forme::kFormLUHK, kBlocchiDecine, Modo::Tocco, forme::kFormStampaLU),
-    Esercizio<FormHLU>(forme::kFormHLU, kBlocchiCentinaia),
-    Esercizio<FormHLUScansione>(forme::kFormHLUScansione, kBlocchiCentinaia, Modo::Scansione),
-    Esercizio<FormHLUHK>(forme::kFormHLUHK, kBlocchiCentinaia, Modo::Tocco, forme::kFormStampaPLU),
+    Esercizio<FormaBlocchiTastiera, kBlocchiTastiera99>(forme::kFormLU, kBlocchiDecine),
+    Esercizio<FormaBlocchiScansione, kBlocchiScansione99>(forme::kFormLUScansione, kBlocchiDecine,
+                                                          Modo::Scansione),
+    Esercizio<FormaBlocchiHK, kBlocchiHK99>(forme::kFormLUHK, kBlocchiDecine, Modo::Tocco,
+                                            forme::kFormStampaLU),
+    Esercizio<FormaBlocchiTastiera, kBlocchiTastiera999>(forme::kFormHLU, kBlocchiCentinaia),
+    Esercizio<FormaBlocchiScansione, kBlocchiScansione999>(forme::kFormHLUScansione,
+                                                           kBlocchiCentinaia, Modo::Scansione),
+    Esercizio<FormaBlocchiHK, kBlocchiHK999>(forme::kFormHLUHK, kBlocchiCentinaia, Modo::Tocco,
+                                             forme::kFormStampaPLU),
     Esercizio<FormaAbacoTastiera>(forme::kFormAbaco, kAbaco),
     Esercizio<FormaAbacoScansione>(forme::kFormAbacoScansione, kAbaco, Modo::Scansione),
     Esercizio<FormaAbacoHK>(forme::kFormAbacoHK, kAbaco, Modo::Tocco, forme::kFormStampaAbaco),

@@ -1,31 +1,14 @@
 #pragma once
 
-#include "exercises/blocks/forma_blocchi_pulsanti.h"
+#include "exercises/blocks/forma_blocchi.h"
 #include "exercises/core/disegno_comune.h"
 
 // Rows that the blocks forms share.
 namespace somme::disegno {
 
-inline constexpr Rgb kBlu{0, 0, 255};
-inline constexpr FontSpec kNomeBlocco{Face::Tahoma, 15.75, true};
-
 // A rectangle that tells a board its place.
 constexpr Look Ancora() {
   return {.hidden = true};
-}
-
-// A button that puts a block, in its colour; text: white where the colour is dark.
-constexpr Look Blocco(std::string_view nome, std::string_view aiuto, Rgb colore, Rgb testo) {
-  return {.caption = nome,
-          .toolTip = aiuto,
-          .font = kNomeBlocco,
-          .fore = testo,
-          .back = colore,
-          .in = nameOf<&FormaBlocchiPulsanti::PicturePulsanti>};
-}
-constexpr Look Comando(std::string_view aiuto, std::string_view disegno) {
-  return {
-      .toolTip = aiuto, .picture = disegno, .in = nameOf<&FormaBlocchiPulsanti::PicturePulsanti>};
 }
 
 // The operation above, the three boards with the frame around the one in use. The boards take
@@ -46,13 +29,23 @@ inline constexpr auto kTavoleBlocchi = std::to_array<Row>({
                                         {.toolTip = "I due addendi insieme", .hidden = true}),
 });
 
-constexpr Look ScrittaRisultato(int cifre) {
-  return {.toolTip = "Scrivi il risultato e premi Invio",
-          .font = {Face::Tahoma, 24},
-          .align = Align::Centre,
-          .border = true,
-          .hidden = true,
-          .maxLength = cifre};
+// The box of the result. F: a form with it; aiuto: how the result comes there.
+template <class F>
+constexpr Row Risultato(double sinistra, int cifre, std::string_view aiuto) {
+  return row<&F::TestoInput>({sinistra, 5520, 1215, 855}, {.toolTip = aiuto,
+                                                           .font = {Face::Tahoma, 24},
+                                                           .align = Align::Centre,
+                                                           .border = true,
+                                                           .hidden = true,
+                                                           .maxLength = cifre});
+}
+template <class F>
+constexpr Row RisultatoEntro99(std::string_view aiuto) {
+  return Risultato<F>(4680, 2, aiuto);
+}
+template <class F>
+constexpr Row RisultatoEntro999(std::string_view aiuto) {
+  return Risultato<F>(5160, 3, aiuto);
 }
 
 constexpr Look Cambio(std::string_view aiuto, std::string_view disegno) {
@@ -60,52 +53,16 @@ constexpr Look Cambio(std::string_view aiuto, std::string_view disegno) {
 }
 
 // The buttons of the carries, all in one place: no two are shown together.
-template <class F>
-constexpr Row CambioEntro99() {
-  return row<&F::PulsanteCambio>({4560, 5520, 2055, 975},
-                                 Cambio("Cambia dieci unità in una decina", "cambio_u_da"));
-}
+inline constexpr auto kCambioEntro99 = std::to_array<Row>({
+    row<&FormaBlocchi::PulsanteCambio>({4560, 5520, 2055, 975},
+                                       Cambio("Cambia dieci unità in una decina", "cambio_u_da")),
+});
 inline constexpr TwipsRect kPostoCambio{4680, 5520, 2055, 975};
-template <class F>
-constexpr Row CambioUDa() {
-  return row<&F::PulsanteCambioUDa>(kPostoCambio,
-                                    Cambio("Cambia dieci unità in una decina", "cambio_u_da"));
-}
-template <class F>
-constexpr Row CambioDaH() {
-  return row<&F::PulsanteCambioDaH>(kPostoCambio,
-                                    Cambio("Cambia dieci decine in un centinaio", "cambio_da_h"));
-}
-
-// What the blocks are put with by buttons, up to 99.
-inline constexpr auto kComandiEntro99 = std::to_array<Row>({
-    row<&FormaBlocchiPulsanti::PicturePulsanti>({840, 5640, 4575, 615},
-                                                {.toolTip = "Blocchi", .back = kGialloPallido}),
-    row<&FormaBlocchiPulsanti::PulsanteDa>({180, 0, 975, 615},
-                                           Blocco("da", "Metti una decina", kRosso, kBlack)),
-    row<&FormaBlocchiPulsanti::PulsanteU>({1260, 0, 975, 615},
-                                          Blocco("u", "Metti un'unità", kBlu, kWhite)),
-    row<&FormaBlocchiPulsanti::PulsanteCestino>({2340, 0, 975, 615}, Comando("Svuota", "cestino")),
-    row<&FormaBlocchiPulsanti::PulsanteConferma>({3420, 0, 975, 615},
-                                                 Comando("Conferma", "conferma")),
-});
-// The same up to 999; F: a form with the button for the flats.
-template <class F>
-inline constexpr auto kComandiEntro999 = std::to_array<Row>({
-    row<&F::PicturePulsanti>({720, 5520, 4575, 615},
-                             {.toolTip = "Blocchi", .back = kGialloPallido}),
-    row<&F::PulsanteH>({240, 0, 735, 615}, Blocco("h", "Metti un centinaio", kVerde, kBlack)),
-    row<&F::PulsanteDa>({1080, 0, 735, 615}, Blocco("da", "Metti una decina", kRosso, kBlack)),
-    row<&F::PulsanteU>({1920, 0, 735, 615}, Blocco("u", "Metti un'unità", kBlu, kWhite)),
-    row<&F::PulsanteCestino>({2760, 0, 735, 615}, Comando("Svuota", "cestino")),
-    row<&F::PulsanteConferma>({3600, 0, 735, 615}, Comando("Conferma", "conferma")),
-});
-
-inline constexpr TwipsRect kPostoAvantiBlocchi{8880, 6600, 1935, 975};
-
-inline constexpr auto kContiBlocchi = std::to_array<Row>({
-    Esatti({1560, 6720, 2415, 375}),
-    Errati({1560, 7125, 2415, 375}),
+inline constexpr auto kCambiEntro999 = std::to_array<Row>({
+    row<&FormaBlocchi::PulsanteCambioUDa>(
+        kPostoCambio, Cambio("Cambia dieci unità in una decina", "cambio_u_da")),
+    row<&FormaBlocchi::PulsanteCambioDaH>(
+        kPostoCambio, Cambio("Cambia dieci decine in un centinaio", "cambio_da_h")),
 });
 
 // Verdict, print panel.
@@ -123,15 +80,5 @@ inline constexpr auto kMenuBlocchi = std::to_array<Row>({
     item<&FormaBlocchi::mnuStampa>({.caption = "&Stampa"}),
     item<&FormaBlocchi::mnuEsci>({.caption = "&Esci"}),
 });
-
-constexpr FormDesign DisegnoBlocchi(std::string_view nome,
-                                    std::span<const std::span<const Row>> tavole) {
-  return {.name = nome,
-          .caption = "Esercitazioni sulle somme",
-          .width = 11175,
-          .height = 7695,
-          .back = kGialloPallido,
-          .tables = tavole};
-}
 
 }  // namespace somme::disegno

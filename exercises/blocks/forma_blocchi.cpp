@@ -2,6 +2,8 @@
 
 #include "app/shared/modulo_colori_suoni.h"
 #include "cases/livelli.h"
+#include "exercises/core/disegno_comune.h"
+#include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
@@ -13,22 +15,38 @@ namespace {
 constexpr double kAttesaUnione = 2;  // seconds
 constexpr double kAttesaCambio = 4;  // the movie's stretch must be over by then
 
+platform::FormDesign Disegno(std::string_view nome, const VarianteBlocchi& variante) {
+  return {.name = nome,
+          .caption = "Esercitazioni sulle somme",
+          .width = 11175,
+          .height = 7695,
+          .back = disegno::kGialloPallido,
+          .tables = variante.tavole};
+}
+
 }  // namespace
 
-FormaBlocchi::FormaBlocchi(Ambiente& ambiente, const platform::FormDesign& disegno,
-                           const EsercizioBlocchi& esercizio)
-    : FormaEsercizio(ambiente, disegno), esercizio_(esercizio) {
+FormaBlocchi::FormaBlocchi(Ambiente& ambiente, std::string_view nome,
+                           const VarianteBlocchi& variante)
+    : FormaEsercizio(ambiente, Disegno(nome, variante)),
+      variante_(variante),
+      partita_(stato(), esercizio().regole) {
   ShockwaveFlash3.onFsCommand(
       [this](const QString& /*command*/, const QString& args) { ComandoDelFilmato(args); });
 }
 
 void FormaBlocchi::onLoad() {
   FormaEsercizio::onLoad();
+  for (std::size_t quale = 0; quale < esercizio().cambi.size(); ++quale) {
+    PulsanteDi(esercizio().cambi[quale]).onClick([this, quale] { Cambia(quale); });
+  }
   ScriviEsatti();
   ScriviErrati();
+  const bool seguono = variante_.puntatori == VarianteBlocchi::Puntatori::Impostazione;
+  if (seguono && stato().CursoreDiSistema) ImpostaCursoreSistema();
 }
 
-void FormaBlocchi::onActivate() {
+void FormaBlocchi::IniziaAttivazione() {
   PosaTavole();
   IniziaElencoDelLivello();
   CaricaFilmati();
@@ -50,9 +68,9 @@ void FormaBlocchi::PosaTavole() {
 }
 
 void FormaBlocchi::IniziaElencoDelLivello() {
-  const Livello* livello = LivelloDi(esercizio_.famiglia, stato().TipoEsercizio);
+  const Livello* livello = LivelloDi(esercizio().regole.famiglia, stato().TipoEsercizio);
   if (livello == nullptr) return;
-  IniziaElenco(QStringLiteral("     ") + stringhe().*esercizio_.titolo + stringhe().Trattino +
+  IniziaElenco(QStringLiteral("     ") + stringhe().*esercizio().titolo + stringhe().Trattino +
                stringhe().NomeDelLivello(livello->blocchi.registro));
 }
 
@@ -60,30 +78,23 @@ void FormaBlocchi::CaricaFilmati() {
   const auto percorso = [this](QStringView filmato) {
     return QStringLiteral("%1/%2").arg(ambiente().servizi.cartella, filmato);
   };
-  ShockwaveFlash1.setMovie(percorso(esercizio_.filmatoAddendo));
-  ShockwaveFlash2.setMovie(percorso(esercizio_.filmatoAddendo));
-  ShockwaveFlash3.setMovie(percorso(esercizio_.filmatoUnione));
-  unita_.Ricomincia();
+  ShockwaveFlash1.setMovie(percorso(esercizio().filmatoAddendo));
+  ShockwaveFlash2.setMovie(percorso(esercizio().filmatoAddendo));
+  ShockwaveFlash3.setMovie(percorso(esercizio().filmatoUnione));
+  partita_.FilmatiCaricati();
 }
 
 void FormaBlocchi::NuovoCaso() {
   newCase();
   ChiudiAvanti();
-  Fase = 1;
-  SW1 = {};
-  SW2 = {};
-  EliminaNumeroSW1();
-  EliminaNumeroSW2();
-  unita_.Sgombra();
-  for (std::size_t i = 0; i < esercizio_.cambi.size(); ++i) {
-    PulsanteDelCambio(i).setVisible(false);
-  }
+  partita_.NuovoCaso(stato().TipoEsercizio, ambiente().servizi.sorte);
+  Sgombra(PartitaBlocchi::Tavola::Prima);
+  Sgombra(PartitaBlocchi::Tavola::Seconda);
+  unita_.Ricomincia();
+  for (const CambioBlocchi& cambio : esercizio().cambi) PulsanteDi(cambio).setVisible(false);
   ShockwaveFlash3.setVisible(false);
   NascondiRisultato();
-  MettiComandi(Label1);
-  if (const Livello* livello = LivelloDi(esercizio_.famiglia, stato().TipoEsercizio)) {
-    livello->genera(stato(), ambiente().servizi.sorte);
-  }
+  MettiComandi();
   CasoFatto();
   EtOperazione.setCaption(leadingBlank(stato().Addendo1) + stringhe().SegnoPiu +
                           leadingBlank(stato().Addendo2) + stringhe().SegnoUguale);
@@ -95,18 +106,18 @@ void FormaBlocchi::NuovoCaso() {
   CasoPronto();
 }
 
-void FormaBlocchi::Sgombra(platform::Board& filmato) {
-  for (const SpecieBlocchi* specie : esercizio_.specie) {
-    MostraBlocchi(filmato, *specie, 1, blocchi::kMassimoPerSpecie, false);
+platform::Board& FormaBlocchi::FilmatoDi(PartitaBlocchi::Tavola tavola) {
+  return tavola == PartitaBlocchi::Tavola::Prima ? ShockwaveFlash1 : ShockwaveFlash2;
+}
+
+void FormaBlocchi::Sgombra(PartitaBlocchi::Tavola tavola) {
+  for (const Posto specie : esercizio().regole.specie) {
+    MostraBlocchi(FilmatoDi(tavola), specie, 1, PartitaBlocchi::kMassimoPerSpecie, false);
   }
 }
 
-void FormaBlocchi::EliminaNumeroSW1() {
-  Sgombra(ShockwaveFlash1);
-}
-
-void FormaBlocchi::EliminaNumeroSW2() {
-  Sgombra(ShockwaveFlash2);
+platform::Button& FormaBlocchi::PulsanteDi(const CambioBlocchi& cambio) {
+  return *(this->*cambio.pulsante);
 }
 
 // The edge's width is a number of pixels and is taken off twips as it is, so that the frame stands
@@ -118,88 +129,85 @@ void FormaBlocchi::Incornicia(const platform::Label& ancora) {
   Shape1.setVisible(true);
 }
 
-std::optional<FormaBlocchi::Tavola> FormaBlocchi::InUso() {
-  if (Fase == 1) return Tavola{ShockwaveFlash1, Label1, SW1, &Caso::Addendo1};
-  if (Fase == 2) return Tavola{ShockwaveFlash2, Label2, SW2, &Caso::Addendo2};
-  return std::nullopt;
+void FormaBlocchi::MettiComandi() {
+  Comandi().setLeft(Label1.left());
+  Comandi().setVisible(true);
 }
 
-void FormaBlocchi::MettiBlocco(const SpecieBlocchi& specie) {
-  const std::optional<Tavola> tavola = InUso();
-  if (!tavola) return;
-  int& quanti = tavola->blocchi.*specie.quanti;
-  if (quanti == blocchi::kMassimoPerSpecie) return;
-  ++quanti;
-  MostraBlocchi(tavola->filmato, specie, quanti, quanti, true);
+void FormaBlocchi::TogliComandi() {
+  Comandi().setVisible(false);
+}
+
+void FormaBlocchi::NascondiCasella(platform::TextBox& casella) {
+  casella.setText({});
+  casella.setVisible(false);
+  casella.setLocked(false);
+}
+
+void FormaBlocchi::MettiBlocco(Posto specie) {
+  const std::optional<PartitaBlocchi::Tavola> tavola = partita_.InUso();
+  const std::optional<int> nuovo = partita_.Metti(specie);
+  if (!tavola || !nuovo) return;
+  MostraBlocchi(FilmatoDi(*tavola), specie, *nuovo, *nuovo, true);
   Racconta();
-  announce(InParole(ambiente(), tavola->blocchi));
+  announce(InParole(ambiente(), partita_.Su(*tavola)));
 }
 
 void FormaBlocchi::Svuota() {
-  const std::optional<Tavola> tavola = InUso();
+  const std::optional<PartitaBlocchi::Tavola> tavola = partita_.Svuota();
   if (!tavola) return;
-  tavola->blocchi = {};
-  Sgombra(tavola->filmato);
+  Sgombra(*tavola);
   Racconta();
-  announce(InParole(ambiente(), tavola->blocchi));
+  announce(InParole(ambiente(), partita_.Su(*tavola)));
 }
 
 void FormaBlocchi::GiudicaTavola() {
-  const std::optional<Tavola> tavola = InUso();
-  if (!tavola) return;
-  int valore = 0;
-  for (const SpecieBlocchi* specie : esercizio_.specie) {
-    valore += tavola->blocchi.*specie->quanti * specie->valore;
+  switch (partita_.Conferma()) {
+    case Esito::Sbagliato:
+      SegnaSbagliato();
+      break;
+    case Esito::PassoGiusto:
+      if (partita_.InUso()) {
+        PassaAllaSeconda();
+      } else {
+        UnisciTavole();
+      }
+      break;
+    default:
+      break;
   }
-  if (valore != stato().*tavola->addendo) {
-    SegnaSbagliato();
-    return;
-  }
-  if (Fase == 1) {
-    Fase = 2;
-    SpostaComandi(Label2);
-    Incornicia(Label2);
-    SegnaPassoGiusto();
-    return;
-  }
-  Fase = 3;
+}
+
+void FormaBlocchi::PassaAllaSeconda() {
+  Comandi().setLeft(Label2.left());
+  Incornicia(Label2);
+  SegnaPassoGiusto();
+}
+
+void FormaBlocchi::UnisciTavole() {
   Incornicia(Label3);
   TogliComandi();
   RiposaIlFuoco();
   SegnaPassoGiusto();
   Attendi(ambiente(), kAttesaUnione);
-  UnisciTavole();
-  letEventsRun();
-  ChiediCambioDa(0);
-}
-
-int FormaBlocchi::SuEntrambe(const SpecieBlocchi& specie) const {
-  return SW1.*specie.quanti + SW2.*specie.quanti;
-}
-
-void FormaBlocchi::UnisciTavole() {
   ShockwaveFlash1.setVisible(false);
   ShockwaveFlash2.setVisible(false);
   ShockwaveFlash3.setVisible(true);
-  Quantita quante;
-  for (const SpecieBlocchi* specie : esercizio_.specie) {
-    quante.*specie->quanti = SuEntrambe(*specie);
-  }
-  unita_.Unisci(quante);
+  partita_.Unisci();
+  unita_.Mostra();
   Racconta();
-  announce(InParole(ambiente(), unita_.Quante()));
+  announce(InParole(ambiente(), partita_.Uniti().Quanti()));
+  letEventsRun();
+  Prosegui();
 }
 
-// The sums are those of the boards as the pupil built them: what a carry has brought is not among
-// them, so that nine tens and a carried one ask for no further carry. That is settled.
-void FormaBlocchi::ChiediCambioDa(std::size_t quale) {
-  for (; quale < esercizio_.cambi.size(); ++quale) {
-    if (SuEntrambe(esercizio_.cambi[quale].da) >= blocchi::kDieci) {
-      MostraCambio(PulsanteDelCambio(quale));
-      return;
-    }
+void FormaBlocchi::Prosegui() {
+  partita_.Prosegui();
+  if (const std::optional<std::size_t> quale = partita_.CambioDaChiedere()) {
+    MostraCambio(PulsanteDi(esercizio().cambi[*quale]));
+  } else {
+    ChiediRisultato();
   }
-  ChiediRisultato();
 }
 
 void FormaBlocchi::MostraCambio(platform::Button& pulsante) {
@@ -208,14 +216,17 @@ void FormaBlocchi::MostraCambio(platform::Button& pulsante) {
 }
 
 void FormaBlocchi::Cambia(std::size_t quale) {
-  platform::Button& pulsante = PulsanteDelCambio(quale);
-  if (!pulsante.isVisible()) return;
+  if (quale >= esercizio().cambi.size()) return;
+  const CambioBlocchi& cambio = esercizio().cambi[quale];
+  platform::Button& pulsante = PulsanteDi(cambio);
+  if (!pulsante.isVisible() || !partita_.IniziaCambio(quale)) return;
   pulsante.setVisible(false);
   RiposaIlFuoco();
-  unita_.AvviaCambio(esercizio_.cambi[quale], caseNumber());
+  unita_.AvviaCambio(cambio.tratto);
   Attendi(ambiente(), kAttesaCambio);
-  unita_.FinisciAttesa();
-  ChiediCambioDa(quale + 1);
+  partita_.FinisciAttesa();
+  unita_.NascondiGliAltri();
+  Prosegui();
 }
 
 void FormaBlocchi::RiposaIlFuoco() {
@@ -223,27 +234,33 @@ void FormaBlocchi::RiposaIlFuoco() {
 }
 
 void FormaBlocchi::ComandoDelFilmato(const QString& args) {
-  if (!unita_.ParlaDi(caseNumber())) return;
-  for (const CambioBlocchi& cambio : esercizio_.cambi) {
-    if (args != cambio.parola) continue;
-    unita_.Cambia(cambio, SuEntrambe(cambio.a) + 1);
+  for (std::size_t quale = 0; quale < esercizio().cambi.size(); ++quale) {
+    const TrattoDelCambio& tratto = esercizio().cambi[quale].tratto;
+    if (args != tratto.parola) continue;
+    const std::optional<int> nuovo = partita_.CambioDetto(quale);
+    if (!nuovo) continue;
+    unita_.Cambia(tratto, esercizio().regole.cambi[quale], *nuovo);
     Racconta();
-    announce(InParole(ambiente(), unita_.Quante()));
+    announce(InParole(ambiente(), partita_.Uniti().Quanti()));
   }
 }
 
-void FormaBlocchi::SegnaRisolto() {
+void FormaBlocchi::Concludi(Esito esito) {
+  if (esito == Esito::Sbagliato) SegnaSbagliato();
+  if (esito != Esito::Risolto) return;
   SegnaGiusto();
   ApriAvanti();
   EtOperazione.setCaption(EtOperazione.caption() + stringhe().Spazio +
                           platform::plain(stato().Totale));
   AggiungiRiga(EtOperazione.caption());
+  RisultatoGiusto();
 }
 
 void FormaBlocchi::Racconta() {
-  ShockwaveFlash1.setDescription(InParole(ambiente(), SW1));
-  ShockwaveFlash2.setDescription(InParole(ambiente(), SW2));
-  ShockwaveFlash3.setDescription(InParole(ambiente(), unita_.Quante()));
+  using Tavola = PartitaBlocchi::Tavola;
+  ShockwaveFlash1.setDescription(InParole(ambiente(), partita_.Su(Tavola::Prima)));
+  ShockwaveFlash2.setDescription(InParole(ambiente(), partita_.Su(Tavola::Seconda)));
+  ShockwaveFlash3.setDescription(InParole(ambiente(), partita_.Uniti().Quanti()));
 }
 
 }  // namespace somme

@@ -1,21 +1,29 @@
 #pragma once
 
-#include <optional>
-
-#include "exercises/blocks/tavola_unita.h"
+#include "exercises/blocks/esercizio_blocchi.h"
 #include "exercises/core/forma_esercizio.h"
+#include "games/partita_blocchi.h"
 #include "platform/forms/controls/shape.h"
+#include "platform/forms/controls/text_box.h"
+#include "platform/forms/optional_control.h"
 
 namespace somme {
 
-// The blocks exercises: the pupil builds each addend on a board of its own and has it judged, sees
-// the boards joined on a third, carries wherever there are ten of a kind, and only then gives the
-// result. Which blocks there are, the movies and the carries come as data. With what the pupil puts
-// blocks, and how the result comes, is left to the forms.
+// What a class of blocks forms needs to make one of them.
+struct VarianteBlocchi {
+  const EsercizioBlocchi& esercizio;
+  std::span<const std::span<const platform::Row>> tavole;  // the design's rows
+  // What the pointers of the controls follow.
+  enum class Puntatori { Impostazione, Disegno } puntatori = Puntatori::Impostazione;
+};
+
+// The blocks exercises on the screen: the boards of the addends, the joined one, the carries. With
+// what the pupil puts blocks, and how the result comes, is left to the forms; the rules are the
+// game's.
 class FormaBlocchi : public FormaEsercizio {
  public:
-  FormaBlocchi(Ambiente& ambiente, const platform::FormDesign& disegno,
-               const EsercizioBlocchi& esercizio);
+  // nome: the form's name in the table of forms.
+  FormaBlocchi(Ambiente& ambiente, std::string_view nome, const VarianteBlocchi& variante);
 
   platform::Label Label1{*this};  // hidden: the places of the three boards
   platform::Label Label2{*this};
@@ -25,10 +33,24 @@ class FormaBlocchi : public FormaEsercizio {
   platform::Board ShockwaveFlash3{*this};
   platform::Shape Shape1{*this};
   platform::Label EtOperazione{*this};
+  // The buttons of the carries: those that the exercise names.
+  platform::OptionalControl<platform::Button> PulsanteCambio{*this};
+  platform::OptionalControl<platform::Button> PulsanteCambioUDa{*this};
+  platform::OptionalControl<platform::Button> PulsanteCambioDaH{*this};
+
+  // What the pupil does, on the board in use.
+  void MettiBlocco(Posto specie);
+  void Svuota();
+  void GiudicaTavola();
+  // A carry by its place among those of the exercise; nothing where there is no such, or where its
+  // button is not on the screen.
+  void Cambia(std::size_t quale);
+
+  [[nodiscard]] const EsercizioBlocchi& esercizio() const { return variante_.esercizio; }
 
  protected:
   void onLoad() override;
-  void onActivate() override;
+  void IniziaAttivazione() override;
   void NuovoCaso() override;
 
   // The steps in which the forms differ.
@@ -38,69 +60,54 @@ class FormaBlocchi : public FormaEsercizio {
   virtual void ChiudiAvanti() = 0;
   // Hides where the result will stand, empty.
   virtual void NascondiRisultato() = 0;
-  // Puts what blocks are put with below a board.
-  virtual void MettiComandi(const platform::Label& ancora) = 0;
-  // A right board: the commands go to the other one.
-  virtual void SpostaComandi(const platform::Label& ancora) = 0;
-  virtual void TogliComandi() = 0;
+  // What blocks are put with. It stands below the board in use.
+  [[nodiscard]] virtual platform::Control& Comandi() = 0;
+  // It comes, below the first board; it goes.
+  virtual void MettiComandi();
+  virtual void TogliComandi();
   // The numbers of the new case are made, and nothing of it is on the screen.
   virtual void CasoFatto() {}
   // The new case is on the screen.
   virtual void CasoPronto() {}
-  // The button of a carry, by the carry's place among those of the exercise.
-  [[nodiscard]] virtual platform::Button& PulsanteDelCambio(std::size_t quale) = 0;
-  // Shows it, and has it heard.
+  // Shows the button of a carry, and has it heard.
   virtual void MostraCambio(platform::Button& pulsante);
-  // While nothing of the case can be pressed, the focus rests on the question.
-  void RiposaIlFuoco();
   // Boards and carries are done: the result can be given.
   virtual void ChiediRisultato() = 0;
-  // The result is right: the way to the next case opens.
+  // The result is right: the way to the next case opens, before the record is written.
   virtual void ApriAvanti() = 0;
+  // What a form does last when the result is right.
+  virtual void RisultatoGiusto() {}
 
-  [[nodiscard]] const EsercizioBlocchi& esercizio() const { return esercizio_; }
-
-  // What the pupil does, on the board in use.
-  void MettiBlocco(const SpecieBlocchi& specie);
-  void Svuota();
-  void GiudicaTavola();
-  void Cambia(std::size_t quale);
-  // The steps of a right result up to the record.
-  void SegnaRisolto();
+  // The result that the pupil gives; an empty box is no answer. Or it shows, and nobody gives it.
+  void Rispondi(std::optional<double> numero) { Concludi(partita_.Rispondi(numero)); }
+  void Risolvi() { Concludi(partita_.Risolvi()); }
+  [[nodiscard]] const PartitaBlocchi& partita() const { return partita_; }
+  // The box of the result: empty, hidden, and open.
+  static void NascondiCasella(platform::TextBox& casella);
 
  private:
-  // A board of an addend.
-  struct Tavola {
-    platform::Board& filmato;
-    const platform::Label& ancora;
-    Quantita& blocchi;
-    qint16 Caso::*addendo;
-  };
-  // The board that is being built; none once they are joined.
-  [[nodiscard]] std::optional<Tavola> InUso();
   void PosaTavole();
   void CaricaFilmati();
   void IniziaElencoDelLivello();
+  [[nodiscard]] platform::Board& FilmatoDi(PartitaBlocchi::Tavola tavola);
   // Takes all blocks off the board of an addend.
-  void Sgombra(platform::Board& filmato);
-  void EliminaNumeroSW1();
-  void EliminaNumeroSW2();
+  void Sgombra(PartitaBlocchi::Tavola tavola);
+  [[nodiscard]] platform::Button& PulsanteDi(const CambioBlocchi& cambio);
   void Incornicia(const platform::Label& ancora);
+  // While nothing of the case can be pressed, the focus rests on the question.
+  void RiposaIlFuoco();
+  void PassaAllaSeconda();
   void UnisciTavole();
-  // The first carry, from `quale` on, that ten of a kind ask for; else the result.
-  void ChiediCambioDa(std::size_t quale);
+  // The carry that the game asks for next; else the result.
+  void Prosegui();
   void ComandoDelFilmato(const QString& args);
-  [[nodiscard]] int SuEntrambe(const SpecieBlocchi& specie) const;
+  void Concludi(Esito esito);
   // Tells assistive technology what stands on each board.
   void Racconta();
 
-  const EsercizioBlocchi& esercizio_;
-  // How many blocks the pupil has put on boards 1 and 2, 0 to 9 of each kind. A carry changes the
-  // joined board alone.
-  Quantita SW1;
-  Quantita SW2;
-  TavolaUnita unita_{ShockwaveFlash3, esercizio_};
-  qint16 Fase = 1;  // 1 the first addend, 2 the second, 3 the boards are joined
+  const VarianteBlocchi& variante_;
+  PartitaBlocchi partita_;
+  TavolaUnita unita_{ShockwaveFlash3, esercizio().regole, partita_.Uniti()};
 };
 
 }  // namespace somme

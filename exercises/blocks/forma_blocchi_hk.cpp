@@ -1,37 +1,82 @@
 #include "exercises/blocks/forma_blocchi_hk.h"
 
+#include "exercises/blocks/disegno_pulsanti.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
 
-FormaBlocchiHK::FormaBlocchiHK(Ambiente& ambiente, const platform::FormDesign& disegno,
-                               const EsercizioBlocchi& esercizio)
-    : ConHelpiKeys(Collega::DopoIlResizer, ambiente, disegno, esercizio) {
-  OffriFoglio(mnuStampaHK);
+using namespace disegno;
+
+namespace {
+
+constexpr auto kPresa = std::to_array<Row>({Connessione<FormaBlocchiHK>()});
+
+constexpr Row CifraRisultato(int indice, double sinistra) {
+  return row<&FormaBlocchiHK::Label4>(
+      indice, {sinistra, 5520, 975, 855},
+      {.font = {Face::Tahoma, 36, true}, .align = Align::Centre, .hidden = true});
+}
+constexpr auto kRisultato = std::to_array<Row>({
+    CifraRisultato(0, 4080),
+    CifraRisultato(1, 5040),
+    CifraRisultato(2, 6000),
+    Avanti<FormaBlocchiHK>(kPostoAvantiBlocchi),
+});
+
+constexpr auto kFoglio = std::to_array<Row>({
+    item<&FormaBlocchiHK::mnuStampaHK>({.caption = "Stampa Foglio Tastiera &HelpiKeys"}),
+});
+
+constexpr std::array<std::span<const Row>, 9> kTavole99{
+    kPresa,         kTavoleBlocchi, kComandiEntro99<FormaBlocchiHK>,
+    kCambioEntro99, kRisultato,     kContiBlocchi,
+    kSottoBlocchi,  kFoglio,        kMenuBlocchi};
+constexpr std::array<std::span<const Row>, 9> kTavole999{
+    kPresa,         kTavoleBlocchi, kComandiEntro999<FormaBlocchiHK>,
+    kCambiEntro999, kRisultato,     kContiBlocchi,
+    kSottoBlocchi,  kFoglio,        kMenuBlocchi};
+
+}  // namespace
+
+constinit const VarianteBlocchi kBlocchiHK99{.esercizio = kBlocchiEntro99, .tavole = kTavole99};
+constinit const VarianteBlocchi kBlocchiHK999{.esercizio = kBlocchiEntro999, .tavole = kTavole999};
+
+FormaBlocchiHK::FormaBlocchiHK(Ambiente& ambiente, std::string_view nome,
+                               const VarianteBlocchi& variante)
+    : FormaBlocchi(ambiente, nome, variante),
+      tocco_(*this, ControlloConnessione, mnuStampaHK, [this](Tasto tasto) { Agisci(tasto); }) {
+  Usa(tocco_);
+  PulsanteAvanti.onClick([this] { NuovoCaso(); });
+}
+
+void FormaBlocchiHK::onLoad() {
+  FormaBlocchi::onLoad();
+  PulsanteAvanti.setVisible(true);
+  pulsanti.AlCaricamento();
 }
 
 void FormaBlocchiHK::Agisci(Tasto tasto) {
   switch (tasto) {
     case Tasto::Centinaia:
-      ClicPiatti();
+      pulsanti.ClicBlocco(Posto::Centinaia);
       break;
     case Tasto::Decine:
-      ClicSpecie(PulsanteDa, blocchi::kLunghi);
+      pulsanti.ClicBlocco(Posto::Decine);
       break;
     case Tasto::Unita:
-      ClicSpecie(PulsanteU, blocchi::kUnita);
+      pulsanti.ClicBlocco(Posto::Unita);
       break;
     case Tasto::CambioDaH:
-      CambiaSeCe(1);
+      Cambia(1);
       break;
     case Tasto::CambioUDa:
-      CambiaSeCe(0);
+      Cambia(0);
       break;
     case Tasto::Cestino:
-      ClicCestino();
+      pulsanti.ClicCestino();
       break;
     case Tasto::Conferma:
-      ClicConferma();
+      pulsanti.ClicConferma();
       break;
     case Tasto::Avanti:
       if (PulsanteAvanti.isVisible()) NuovoCaso();
@@ -41,33 +86,30 @@ void FormaBlocchiHK::Agisci(Tasto tasto) {
   }
 }
 
-void FormaBlocchiHK::CambiaSeCe(std::size_t quale) {
-  if (quale < esercizio().cambi.size()) Cambia(quale);
+void FormaBlocchiHK::MettiComandi() {
+  FormaBlocchi::MettiComandi();
+  pulsanti.PrendiIlFuoco();
 }
 
-int FormaBlocchiHK::PrimaCifra() const {
-  return Label4.count() - static_cast<int>(esercizio().specie.size());
+platform::Label& FormaBlocchiHK::EtichettaDi(Posto cifra) {
+  return Label4[Label4.count() - 1 - static_cast<int>(cifra)];
 }
 
 void FormaBlocchiHK::NascondiRisultato() {
   Label4.forEach([](platform::Label& cifra) { cifra.setVisible(false); });
 }
 
-// The first digit takes all that is above it: its number is not cut down to one place.
 void FormaBlocchiHK::CasoFatto() {
-  int resto = stato().Totale;
-  for (int i = Label4.count() - 1; i >= PrimaCifra(); --i) {
-    const bool unita = i == Label4.count() - 1;
-    const int numero = i == PrimaCifra() ? resto : resto % 10;
-    Label4[i].setCaption(resto == 0 && !unita ? QString() : platform::plain(numero));
-    resto /= 10;
+  const Cifre cifre = partita().CifreDelRisultato();
+  for (const Posto posto : esercizio().regole.specie) {
+    const std::optional<int> cifra = cifre[static_cast<std::size_t>(posto)];
+    EtichettaDi(posto).setCaption(cifra ? platform::plain(*cifra) : QString());
   }
 }
 
 void FormaBlocchiHK::ChiediRisultato() {
-  for (int i = PrimaCifra(); i < Label4.count(); ++i) Label4[i].setVisible(true);
-  SegnaRisolto();
-  PulsanteAvanti.setFocus();
+  for (const Posto posto : esercizio().regole.specie) EtichettaDi(posto).setVisible(true);
+  Risolvi();
 }
 
 }  // namespace somme

@@ -1,11 +1,59 @@
 #include "exercises/blocks/forma_blocchi_scansione.h"
 
+#include "exercises/blocks/disegno_blocchi.h"
+#include "exercises/core/disegno_scansione.h"
+
 namespace somme {
 
-FormaBlocchiScansione::FormaBlocchiScansione(Ambiente& ambiente,
-                                             const platform::FormDesign& disegno,
-                                             const EsercizioBlocchi& esercizio)
-    : ConDueTastiere(ambiente, disegno, esercizio) {}
+using namespace disegno;
+
+namespace {
+
+constexpr TwipsRect kPostoHDU{840, 5400, 4335, 722};
+constexpr TwipsRect kPostoNumerica{2640, 6480, 6255, 447};
+constexpr std::string_view kAiuto = "Il numero scelto con la tastiera";
+
+constexpr auto kValori99 = std::to_array<Row>({
+    TastieraHDU<FormaBlocchiScansione>(kPostoHDU, true, kSenzaKH),
+});
+constexpr auto kValori999 = std::to_array<Row>({
+    TastieraHDU<FormaBlocchiScansione>(kPostoHDU, true, kSenzaK),
+});
+constexpr auto kRisultato99 = std::to_array<Row>({
+    RisultatoEntro99<FormaBlocchiScansione>(kAiuto),
+});
+constexpr auto kRisultato999 = std::to_array<Row>({
+    RisultatoEntro999<FormaBlocchiScansione>(kAiuto),
+});
+
+// The counters stand right of the keyboard of digits, where other forms have the way on.
+constexpr auto kCifre = std::to_array<Row>({
+    row<&FormaBlocchiScansione::LabelDimensioneTastiera>(kPostoHDU, {.hidden = true}),
+    row<&FormaBlocchiScansione::LabelPerTastieraNumerica>(kPostoNumerica, {.hidden = true}),
+    TastieraNumerica<FormaBlocchiScansione>(kPostoNumerica, true, kSenzaAiuto),
+    Esatti({9000, 6720, 2055, 375}),
+    Errati({9000, 7125, 2055, 375}),
+});
+
+constexpr std::array<std::span<const Row>, 7> kTavole99{
+    kTavoleBlocchi, kValori99, kCambioEntro99, kRisultato99, kCifre, kSottoBlocchi, kMenuBlocchi};
+constexpr std::array<std::span<const Row>, 7> kTavole999{
+    kTavoleBlocchi, kValori999, kCambiEntro999, kRisultato999, kCifre, kSottoBlocchi, kMenuBlocchi};
+
+}  // namespace
+
+constinit const VarianteBlocchi kBlocchiScansione99{
+    .esercizio = kBlocchiEntro99,
+    .tavole = kTavole99,
+    .puntatori = VarianteBlocchi::Puntatori::Disegno};
+constinit const VarianteBlocchi kBlocchiScansione999{.esercizio = kBlocchiEntro999,
+                                                     .tavole = kTavole999};
+
+FormaBlocchiScansione::FormaBlocchiScansione(Ambiente& ambiente, std::string_view nome,
+                                             const VarianteBlocchi& variante)
+    : FormaBlocchi(ambiente, nome, variante) {
+  Usa(scansione_);
+}
 
 void FormaBlocchiScansione::PosaTastiere() {
   PosaTastiera(TastieraHDUScansione1, LabelDimensioneTastiera);
@@ -17,22 +65,9 @@ void FormaBlocchiScansione::ChiudiAvanti() {
   TastieraNumericaScansione1.setVisible(false);
 }
 
-void FormaBlocchiScansione::MettiComandi(const platform::Label& ancora) {
-  TastieraHDUScansione1.setLeft(ancora.left());
-  TastieraHDUScansione1.setVisible(true);
-}
-
-void FormaBlocchiScansione::SpostaComandi(const platform::Label& ancora) {
-  TastieraHDUScansione1.setLeft(ancora.left());
-}
-
 void FormaBlocchiScansione::TogliComandi() {
   TastieraHDUScansione1.Disattiva();
-  TastieraHDUScansione1.setVisible(false);
-}
-
-void FormaBlocchiScansione::CasoPronto() {
-  Avvia(TastieraHDUScansione1);
+  FormaBlocchi::TogliComandi();
 }
 
 void FormaBlocchiScansione::MostraCambio(platform::Button& pulsante) {
@@ -51,13 +86,13 @@ void FormaBlocchiScansione::ChiediRisultato() {
 void FormaBlocchiScansione::TastoHDU(qint16 tasto) {
   switch (tasto) {
     case TastieraHDUScansione::kCentinaia:
-      if (TastieraHDUScansione1.HVisibile.get()) MettiBlocco(blocchi::kPiatti);
+      MettiBlocco(Posto::Centinaia);
       break;
     case TastieraHDUScansione::kDecine:
-      MettiBlocco(blocchi::kLunghi);
+      MettiBlocco(Posto::Decine);
       break;
     case TastieraHDUScansione::kUnita:
-      MettiBlocco(blocchi::kUnita);
+      MettiBlocco(Posto::Unita);
       break;
     case TastieraHDUScansione::kCestino:
       Svuota();
@@ -71,7 +106,7 @@ void FormaBlocchiScansione::TastoHDU(qint16 tasto) {
 }
 
 void FormaBlocchiScansione::ChiudiPannelloStampa() {
-  ConDueTastiere::ChiudiPannelloStampa();
+  FormaBlocchi::ChiudiPannelloStampa();
   NuovoCaso();
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "exercises/blocks/con_casella_risultato.h"
-#include "exercises/core/con_scansione.h"
+#include "exercises/blocks/forma_blocchi.h"
+#include "exercises/core/input_scansione.h"
+#include "exercises/core/scansione.h"
+#include "exercises/core/testo_cifre.h"
 
 namespace somme {
 
@@ -11,11 +13,13 @@ namespace somme {
 // it as any other.
 //
 // Opening the print panel silences the keyboards, and closing it begins a new case.
-class FormaBlocchiScansione : public ConDueTastiere<ConCasellaRisultato<FormaBlocchi>> {
+class FormaBlocchiScansione final : public FormaBlocchi {
  public:
-  FormaBlocchiScansione(Ambiente& ambiente, const platform::FormDesign& disegno,
-                        const EsercizioBlocchi& esercizio);
+  FormaBlocchiScansione(Ambiente& ambiente, std::string_view nome, const VarianteBlocchi& variante);
 
+  platform::TextBox TestoInput{*this};
+  TastieraNumericaScansione TastieraNumericaScansione1{*this};
+  TastieraHDUScansione TastieraHDUScansione1{*this};
   // Hidden: the places of the two keyboards.
   platform::Label LabelDimensioneTastiera{*this};
   platform::Label LabelPerTastieraNumerica{*this};
@@ -24,26 +28,34 @@ class FormaBlocchiScansione : public ConDueTastiere<ConCasellaRisultato<FormaBlo
   void PosaTastiere() override;
   void ChiudiAvanti() override;
   void ApriAvanti() override { TastieraNumericaScansione1.AttivaAvanti(); }
-  void MettiComandi(const platform::Label& ancora) override;
-  void SpostaComandi(const platform::Label& ancora) override;
+  platform::Control& Comandi() override { return TastieraHDUScansione1; }
   void TogliComandi() override;
-  void CasoPronto() override;
+  void NascondiRisultato() override { NascondiCasella(TestoInput); }
+  void CasoPronto() override { Avvia(TastieraHDUScansione1); }
   void MostraCambio(platform::Button& pulsante) override;
   void ChiediRisultato() override;
-
-  void TastoHDU(qint16 tasto) override;
-  void ScriviCifra(int cifra) override { AccodaCifra(TestoInput, cifra); }
-  void SvuotaInput() override { TestoInput.setText({}); }
-  [[nodiscard]] QString Scritto() const override { return TestoInput.text(); }
-  void Conferma() override { GiudicaRisultato(); }
-
   void ChiudiPannelloStampa() override;
 
  private:
+  void TastoHDU(qint16 tasto);
   void Avvia(auto& tastiera) {
-    MettiModo(tastiera);
+    MettiModoScansione(stato(), tastiera);
     tastiera.Attiva();
   }
+
+  InputScansione scansione_{*this,
+                            TastieraNumericaScansione1,
+                            {.cifra = [this](int cifra) { AccodaCifra(TestoInput, cifra); },
+                             .cestino = [this] { TestoInput.setText({}); },
+                             .scritto = [this] { return TestoInput.text(); },
+                             .conferma = [this] { Rispondi(NumeroScritto(TestoInput)); },
+                             .avanti = [this] { NuovoCaso(); }},
+                            TastieraHDUScansione1,
+                            [this](qint16 tasto) { TastoHDU(tasto); }};
 };
+
+// Up to 99 and up to 999.
+extern const VarianteBlocchi kBlocchiScansione99;
+extern const VarianteBlocchi kBlocchiScansione999;
 
 }  // namespace somme

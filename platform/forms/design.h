@@ -148,6 +148,17 @@ constexpr Row row(TwipsRect place, Look look = {}) {
           place, look};
 }
 
+// A row for a control that a part of the form owns. Part: the form's member that is the part.
+template <auto Part, auto Member>
+constexpr Row row(TwipsRect place, Look look = {}) {
+  using Owner = typename design::MemberOf<decltype(Part)>::Class;
+  return {nameOf<Member>, -1,
+          [](Form& form, int) -> Control& {
+            return design::controlOf(static_cast<Owner&>(form).*Part.*Member);
+          },
+          place, look};
+}
+
 // A row for element `index` of a control array.
 template <auto Member>
   requires design::IsArray<typename design::MemberOf<decltype(Member)>::Kind>

@@ -15,6 +15,8 @@ class OptionalControl {
 
   [[nodiscard]] explicit operator bool() const { return control_.has_value(); }
   // The control; asking for one that the design does not have is a mistake in the program.
+  [[nodiscard]] T& operator*() { return control_.value(); }
+  [[nodiscard]] const T& operator*() const { return control_.value(); }
   [[nodiscard]] T* operator->() { return &control_.value(); }
   [[nodiscard]] const T* operator->() const { return &control_.value(); }
 

@@ -12,9 +12,8 @@
 #include "exercises/bars/forma_barre_pulsanti.h"
 #include "exercises/bars/forma_barre_scansione.h"
 #include "exercises/bars/forma_barre_tastiera.h"
-#include "exercises/blocks/form_hlu.h"
-#include "exercises/blocks/form_lu.h"
-#include "exercises/blocks/form_lu_scansione.h"
+#include "exercises/blocks/forma_blocchi_scansione.h"
+#include "exercises/blocks/forma_blocchi_tastiera.h"
 #include "exercises/numbers/forma_numeri_scansione.h"
 #include "exercises/numbers/forma_numeri_tastiera.h"
 #include "exercises/table/form_tabella.h"
@@ -101,26 +100,26 @@ void BarreScansione(Banco& banco) {
 void Costruisci(Banco& banco, const platform::Button& pulsante, int quanti) {
   for (int i = 0; i < quanti; ++i) banco.clicca(pulsante);
 }
-FormLU& LU(Banco& banco, int totale, int addendo1) {
+FormaBlocchiTastiera& LU(Banco& banco, int totale, int addendo1) {
   banco.ambiente->stato.TipoEsercizio = 3;
   banco.sorte.scrivi({{totale - 1, 99}, {addendo1, totale}});
-  return banco.apri<FormLU>(forme::kFormLU);
+  return banco.apri<FormaBlocchiTastiera>(forme::kFormLU);
 }
 void Blocchi99(Banco& banco) {
   auto& forma = LU(banco, 52, 27);
-  Costruisci(banco, forma.PulsanteDa, 2);
-  Costruisci(banco, forma.PulsanteU, 7);
-  banco.clicca(forma.PulsanteConferma);
-  Costruisci(banco, forma.PulsanteDa, 1);
+  Costruisci(banco, forma.pulsanti.PulsanteDa, 2);
+  Costruisci(banco, forma.pulsanti.PulsanteU, 7);
+  banco.clicca(forma.pulsanti.PulsanteConferma);
+  Costruisci(banco, forma.pulsanti.PulsanteDa, 1);
 }
-FormLU& LUUnite(Banco& banco) {
+FormaBlocchiTastiera& LUUnite(Banco& banco) {
   auto& forma = LU(banco, 52, 27);
-  Costruisci(banco, forma.PulsanteDa, 2);
-  Costruisci(banco, forma.PulsanteU, 7);
-  banco.clicca(forma.PulsanteConferma);
-  Costruisci(banco, forma.PulsanteDa, 2);
-  Costruisci(banco, forma.PulsanteU, 5);
-  banco.clicca(forma.PulsanteConferma);
+  Costruisci(banco, forma.pulsanti.PulsanteDa, 2);
+  Costruisci(banco, forma.pulsanti.PulsanteU, 7);
+  banco.clicca(forma.pulsanti.PulsanteConferma);
+  Costruisci(banco, forma.pulsanti.PulsanteDa, 2);
+  Costruisci(banco, forma.pulsanti.PulsanteU, 5);
+  banco.clicca(forma.pulsanti.PulsanteConferma);
   banco.tempo.advance(3);
   return forma;
 }
@@ -130,12 +129,12 @@ void BlocchiCambio(Banco& banco) {
 void Blocchi999(Banco& banco) {
   banco.ambiente->stato.TipoEsercizio = 6;
   banco.sorte.scrivi({{365 - 1, 988}, {142, 365}});
-  auto& forma = banco.apri<FormHLU>(forme::kFormHLU);
-  Costruisci(banco, forma.PulsanteH, 1);
-  Costruisci(banco, forma.PulsanteDa, 4);
-  Costruisci(banco, forma.PulsanteU, 2);
-  banco.clicca(forma.PulsanteConferma);
-  Costruisci(banco, forma.PulsanteH, 2);
+  auto& forma = banco.apri<FormaBlocchiTastiera>(forme::kFormHLU);
+  Costruisci(banco, *forma.pulsanti.PulsanteH, 1);
+  Costruisci(banco, forma.pulsanti.PulsanteDa, 4);
+  Costruisci(banco, forma.pulsanti.PulsanteU, 2);
+  banco.clicca(forma.pulsanti.PulsanteConferma);
+  Costruisci(banco, *forma.pulsanti.PulsanteH, 2);
 }
 
 FormaAbacoTastiera& Abaco(Banco& banco, qint16 tipo, int limite, int totale, int addendo1) {
@@ -174,11 +173,11 @@ void Scegli(Banco& banco, const TastieraScansione& tastiera, int tasto, int volt
     if (!prova::scegliAMano(banco, tastiera, tasto)) throw std::logic_error("the key is not lit");
   }
 }
-FormLUScansione& LUScansione(Banco& banco) {
+FormaBlocchiScansione& LUScansione(Banco& banco) {
   banco.ambiente->stato.ModalitaInput = kScansioneManuale;
   banco.ambiente->stato.TipoEsercizio = 3;
   banco.sorte.scrivi({{37 - 1, 99}, {23, 37}});
-  return banco.apri<FormLUScansione>(forme::kFormLUScansione);
+  return banco.apri<FormaBlocchiScansione>(forme::kFormLUScansione);
 }
 
 FormaNumeriTastiera& Numeri(Banco& banco) {

@@ -6,7 +6,7 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/forma_abaco_hk.h"
 #include "exercises/bars/forma_barre_hk.h"
-#include "exercises/blocks/form_lu_hk.h"
+#include "exercises/blocks/forma_blocchi_hk.h"
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "support/tocchi.h"
 #include "tools/tavoletta/finestra_tavoletta.h"
@@ -92,7 +92,7 @@ void NumeriTocco(Banco& banco) {
 }
 
 void BlocchiTocco(Banco& banco) {
-  Pronta<FormLUHK>(banco, forme::kFormLUHK, 3, {{52 - 1, 99}, {27, 52}});
+  Pronta<FormaBlocchiHK>(banco, forme::kFormLUHK, 3, {{52 - 1, 99}, {27, 52}});
   Tocca(banco, Tasto::Decine, 2);
   Tocca(banco, Tasto::Unita, 7);
   Tocca(banco, Tasto::Conferma);

@@ -1,8 +1,8 @@
+#include "blocchi_entro99.h"
 #include "blocchi_scanditi.h"
 
 #include <QApplication>
-#include "exercises/blocks/form_hlu_hk.h"
-#include "form_lu_di_prova.h"
+#include "exercises/blocks/forma_blocchi_hk.h"
 #include "support/iscrizione.h"
 #include "support/tocchi.h"
 
@@ -28,26 +28,26 @@ class AnnunciBlocchiTest : public QObject {
  private Q_SLOTS:
   void boardsCarryVerdictsAndTheSolvedSumAreTold() {
     Banco banco;
-    somme::FormLU& forma = prova::apri(banco, 18, 13);
+    somme::FormaBlocchiTastiera& forma = prova::apri(banco, 18, 13);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
-    banco.clicca(forma.PulsanteDa);
-    banco.clicca(forma.PulsanteU);
-    banco.clicca(forma.PulsanteCestino);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteDa);
+    banco.clicca(forma.pulsanti.PulsanteU);
+    banco.clicca(forma.pulsanti.PulsanteCestino);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     QCOMPARE(banco.annunci.nuovi(),
              (QStringList{QStringLiteral("1 decina"), QStringLiteral("1 decina, 1 unità"),
                           QStringLiteral("vuoto"),
                           QStringLiteral("Sbagliato: prova ancora. Errati 1")}));
     costruisci(banco, forma, 18);
     banco.annunci.detti.clear();
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     QCOMPARE(banco.annunci.nuovi(), QStringList{kGiusto});
     costruisci(banco, forma, 13);
     banco.annunci.detti.clear();
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     QCOMPARE(banco.annunci.nuovi(),
              (QStringList{kGiusto, QStringLiteral("2 decine, 11 unità"), kCambio}));
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("3 decine, 1 unità")});
     rispondi(banco, forma, QStringLiteral("31"));
     QCOMPARE(banco.annunci.nuovi(),
@@ -60,14 +60,14 @@ class AnnunciBlocchiTest : public QObject {
   // The carry's button gets the focus there, and is heard with it.
   void scannedTheSameIsToldButTheCarrysButton() {
     Banco banco;
-    somme::FormLUScansione& forma = apriLU(banco, 18, 13);
+    somme::FormaBlocchiScansione& forma = apriLU(banco, 18, 13);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
     QVERIFY(costruisciScandendo(banco, forma, 18));
     QCOMPARE(banco.annunci.nuovi().last(), kGiusto);
     QVERIFY(costruisciScandendo(banco, forma, 13));
     QCOMPARE(banco.annunci.nuovi().mid(4),
              (QStringList{kGiusto, QStringLiteral("2 decine, 11 unità")}));
-    QVERIFY(forma.PulsanteCambio.hasFocus());
+    QVERIFY(forma.PulsanteCambio->hasFocus());
     banco.batti(Qt::Key_Space);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("3 decine, 1 unità")});
     QVERIFY(rispondiScandendo(banco, forma, QStringLiteral("31")));
@@ -80,7 +80,7 @@ class AnnunciBlocchiTest : public QObject {
     Banco banco;
     banco.ambiente->stato.TipoEsercizio = kConESenzaCambi;
     banco.sorte.scrivi(casoHLU(18, 13));
-    apriPronta<somme::FormHLUHK>(banco, somme::forme::kFormHLUHK);
+    apriPronta<somme::FormaBlocchiHK>(banco, somme::forme::kFormHLUHK);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
     for (const int unita : {8, 3}) {
       premi(banco, Tasto::Decine);

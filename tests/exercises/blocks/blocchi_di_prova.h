@@ -61,22 +61,19 @@ inline void ripeti(Banco& banco, const platform::Control& pulsante, int volte) {
 // Puts the blocks of a number on the board in use.
 template <class F>
 void costruisci(Banco& banco, F& forma, int numero) {
-  if constexpr (requires { forma.PulsanteH; }) {
-    ripeti(banco, forma.PulsanteH, numero / 100);
-    ripeti(banco, forma.PulsanteDa, numero / 10 % 10);
-  } else {
-    ripeti(banco, forma.PulsanteDa, numero / 10);
-  }
-  ripeti(banco, forma.PulsanteU, numero % 10);
+  const bool piatti = static_cast<bool>(forma.pulsanti.PulsanteH);
+  if (piatti) ripeti(banco, *forma.pulsanti.PulsanteH, numero / 100);
+  ripeti(banco, forma.pulsanti.PulsanteDa, piatti ? numero / 10 % 10 : numero / 10);
+  ripeti(banco, forma.pulsanti.PulsanteU, numero % 10);
 }
 
 // Builds both addends and has them judged; the two seconds before the boards are joined pass.
 template <class F>
 void unisci(Banco& banco, F& forma) {
   costruisci(banco, forma, banco.ambiente->stato.Addendo1);
-  banco.clicca(forma.PulsanteConferma);
+  banco.clicca(forma.pulsanti.PulsanteConferma);
   costruisci(banco, forma, banco.ambiente->stato.Addendo2);
-  banco.clicca(forma.PulsanteConferma);
+  banco.clicca(forma.pulsanti.PulsanteConferma);
 }
 
 template <class F>

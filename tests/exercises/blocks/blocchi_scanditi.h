@@ -1,8 +1,7 @@
 #pragma once
 
 #include "blocchi_di_prova.h"
-#include "exercises/blocks/form_hlu_scansione.h"
-#include "exercises/blocks/form_lu_scansione.h"
+#include "exercises/blocks/forma_blocchi_scansione.h"
 #include "support/scansione_di_prova.h"
 
 // The blocks by scanning, as a pupil with one or two keys uses them.
@@ -14,17 +13,19 @@ inline constexpr int kConferma = somme::TastieraNumericaScansione::kConferma;
 inline constexpr int kCestino = somme::TastieraNumericaScansione::kCestino;
 inline constexpr int kAvanti = somme::TastieraNumericaScansione::kAvanti;
 
-inline somme::FormLUScansione& apriLU(Banco& banco, int addendo1, int addendo2, qint16 modo = 1) {
+inline somme::FormaBlocchiScansione& apriLU(Banco& banco, int addendo1, int addendo2,
+                                            qint16 modo = 1) {
   banco.ambiente->stato.TipoEsercizio = kConESenzaCambio;
   banco.ambiente->stato.ModalitaInput = modo;
   banco.sorte.scrivi(casoLU(addendo1, addendo2));
-  return banco.apri<somme::FormLUScansione>(somme::forme::kFormLUScansione);
+  return banco.apri<somme::FormaBlocchiScansione>(somme::forme::kFormLUScansione);
 }
-inline somme::FormHLUScansione& apriHLU(Banco& banco, int addendo1, int addendo2, qint16 modo = 1) {
+inline somme::FormaBlocchiScansione& apriHLU(Banco& banco, int addendo1, int addendo2,
+                                             qint16 modo = 1) {
   banco.ambiente->stato.TipoEsercizio = kConESenzaCambi;
   banco.ambiente->stato.ModalitaInput = modo;
   banco.sorte.scrivi(casoHLU(addendo1, addendo2));
-  return banco.apri<somme::FormHLUScansione>(somme::forme::kFormHLUScansione);
+  return banco.apri<somme::FormaBlocchiScansione>(somme::forme::kFormHLUScansione);
 }
 
 // The pupil's way of choosing on a keyboard: by hand, or by waiting.

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "blocchi_di_prova.h"
-#include "exercises/blocks/form_hlu_hk.h"
-#include "exercises/blocks/form_lu_hk.h"
+#include "exercises/blocks/forma_blocchi_hk.h"
 #include "support/tocchi.h"
 
 // The blocks by touch, as a pupil with the sheet uses them.
@@ -20,15 +19,15 @@ inline constexpr auto kCestino = somme::Tasto::Cestino;
 inline constexpr auto kConferma = somme::Tasto::Conferma;
 inline constexpr auto kAvanti = somme::Tasto::Avanti;
 
-inline somme::FormLUHK& apriLU(Banco& banco, int addendo1, int addendo2) {
+inline somme::FormaBlocchiHK& apriLU(Banco& banco, int addendo1, int addendo2) {
   banco.ambiente->stato.TipoEsercizio = kConESenzaCambio;
   banco.sorte.scrivi(casoLU(addendo1, addendo2));
-  return apriPronta<somme::FormLUHK>(banco, somme::forme::kFormLUHK);
+  return apriPronta<somme::FormaBlocchiHK>(banco, somme::forme::kFormLUHK);
 }
-inline somme::FormHLUHK& apriHLU(Banco& banco, int addendo1, int addendo2) {
+inline somme::FormaBlocchiHK& apriHLU(Banco& banco, int addendo1, int addendo2) {
   banco.ambiente->stato.TipoEsercizio = kConESenzaCambi;
   banco.sorte.scrivi(casoHLU(addendo1, addendo2));
-  return apriPronta<somme::FormHLUHK>(banco, somme::forme::kFormHLUHK);
+  return apriPronta<somme::FormaBlocchiHK>(banco, somme::forme::kFormHLUHK);
 }
 
 inline void premi(Banco& banco, somme::Tasto tasto, int volte = 1) {

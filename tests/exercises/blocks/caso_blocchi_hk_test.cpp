@@ -5,8 +5,7 @@
 #include "support/iscrizione.h"
 
 using namespace prova;
-using somme::FormHLUHK;
-using somme::FormLUHK;
+using somme::FormaBlocchiHK;
 
 // The course of a case of blocks by touch: whole sums with their carries, and the key that begins
 // the next case at any moment.
@@ -16,7 +15,7 @@ class CasoBlocchiHKTest : public QObject {
  private Q_SLOTS:
   void aWholeSumWithoutCarry() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 24, 13);
+    FormaBlocchiHK& forma = apriLU(banco, 24, 13);
     unisciToccando(banco);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieLU), QStringLiteral("3da 7u"));
     QCOMPARE(cifre(forma), QStringLiteral(".37"));
@@ -39,13 +38,13 @@ class CasoBlocchiHKTest : public QObject {
 
   void aCarryByItsKeyComesBeforeTheResult() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 27, 15);
+    FormaBlocchiHK& forma = apriLU(banco, 27, 15);
     unisciToccando(banco);
-    QVERIFY(forma.PulsanteCambio.isVisible());
+    QVERIFY(forma.PulsanteCambio->isVisible());
     QCOMPARE(cifre(forma), QStringLiteral("..."));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     premi(banco, kCambioUDa);
-    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteCambio->isVisible());
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 4);
     QCOMPARE(cifre(forma), QStringLiteral(".42"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -53,14 +52,14 @@ class CasoBlocchiHKTest : public QObject {
 
   void bothCarriesByTheirKeysComeBeforeTheResult() {
     Banco banco;
-    FormHLUHK& forma = apriHLU(banco, 167, 258);
+    FormaBlocchiHK& forma = apriHLU(banco, 167, 258);
     unisciToccando(banco);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieHLU), QStringLiteral("3h 11da 15u"));
     // The second carry is not asked for yet.
     premi(banco, kCambioDaH);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("h")), 3);
     premi(banco, kCambioUDa);
-    QVERIFY(forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(forma.PulsanteCambioDaH->isVisible());
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     premi(banco, kCambioDaH);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("h")), 4);
@@ -71,10 +70,10 @@ class CasoBlocchiHKTest : public QObject {
 
   void twelveUnitsAndNineTensAskForOneCarryOnly() {
     Banco banco;
-    FormHLUHK& forma = apriHLU(banco, 147, 255);
+    FormaBlocchiHK& forma = apriHLU(banco, 147, 255);
     unisciToccando(banco);
     premi(banco, kCambioUDa);
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     QCOMPARE(cifre(forma), QStringLiteral("402"));
   }
 
@@ -90,7 +89,7 @@ class CasoBlocchiHKTest : public QObject {
   void theLastKeyBeginsANewCaseAtAnyMoment() {
     QFETCH(int, quando);
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 27, 15);
+    FormaBlocchiHK& forma = apriLU(banco, 27, 15);
     const auto avanti = [&] {
       QVERIFY(!forma.PulsanteAvanti.isEnabled());
       banco.sorte.scrivi(casoLU(24, 13));
@@ -115,7 +114,7 @@ class CasoBlocchiHKTest : public QObject {
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
     QVERIFY(incorniciata(forma, forma.Label1));
     QVERIFY(!forma.ShockwaveFlash3.isVisible());
-    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteCambio->isVisible());
     QCOMPARE(cifre(forma), QStringLiteral("..."));
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieLU), QStringLiteral("0da 0u"));
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieLU), QStringLiteral("0da 0u"));
@@ -134,7 +133,7 @@ class CasoBlocchiHKTest : public QObject {
   void aNewCaseInTheMiddleOfACarryLetsTheNextOneCarryAgain() {
     QFETCH(bool, secondo);
     Banco banco;
-    FormHLUHK& forma = apriHLU(banco, 167, 258);
+    FormaBlocchiHK& forma = apriHLU(banco, 167, 258);
     unisciToccando(banco);
     if (secondo) premi(banco, kCambioUDa);
     banco.tempo.after(1, [&] {
@@ -146,7 +145,7 @@ class CasoBlocchiHKTest : public QObject {
     premi(banco, secondo ? kCambioDaH : kCambioUDa);
     banco.tempo.advance(10);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieHLU), QStringLiteral("3h 0da 0u"));
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     unisciToccando(banco);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, QStringLiteral("da u")), QStringLiteral("11da 15u"));
     premi(banco, kCambioUDa);
@@ -157,7 +156,7 @@ class CasoBlocchiHKTest : public QObject {
 
   void aNewCaseAfterACarryThatHasEndedLeavesTheMovieWhereItStands() {
     Banco banco;
-    FormHLUHK& forma = apriHLU(banco, 167, 258);
+    FormaBlocchiHK& forma = apriHLU(banco, 167, 258);
     unisciToccando(banco);
     premi(banco, kCambioUDa);
     const int fotogramma = Banco::filmato(forma.ShockwaveFlash3).currentFrame();

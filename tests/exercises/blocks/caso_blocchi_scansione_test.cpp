@@ -5,8 +5,7 @@
 #include "support/iscrizione.h"
 
 using namespace prova;
-using somme::FormHLUScansione;
-using somme::FormLUScansione;
+using somme::FormaBlocchiScansione;
 using somme::TastieraHDUScansione;
 
 // The course of a case of blocks by scanning: whole sums with their carries, a wrong result, the
@@ -23,15 +22,15 @@ class CasoBlocchiScansioneTest : public QObject {
   void aWholeSumWithACarryByScanning() {
     QFETCH(qint16, modo);
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 27, 15, modo);
+    const FormaBlocchiScansione& forma = apriLU(banco, 27, 15, modo);
     QVERIFY(unisciScandendo(banco, forma));
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieLU), QStringLiteral("3da 12u"));
     QVERIFY(!forma.TastieraHDUScansione1.isVisible());
     QVERIFY(!forma.TastieraNumericaScansione1.isVisible());
-    QVERIFY(forma.PulsanteCambio.isVisible());
-    QVERIFY(forma.PulsanteCambio.hasFocus());
+    QVERIFY(forma.PulsanteCambio->isVisible());
+    QVERIFY(forma.PulsanteCambio->hasFocus());
     banco.batti(modo == 1 ? Qt::Key_Return : Qt::Key_Space);
-    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteCambio->isVisible());
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 4);
     QVERIFY(forma.TestoInput.isVisible());
     QVERIFY(forma.TestoInput.isLocked());
@@ -58,13 +57,13 @@ class CasoBlocchiScansioneTest : public QObject {
 
   void aWholeSumUpTo999WithBothCarries() {
     Banco banco;
-    const FormHLUScansione& forma = apriHLU(banco, 167, 258);
+    const FormaBlocchiScansione& forma = apriHLU(banco, 167, 258);
     QVERIFY(unisciScandendo(banco, forma));
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieHLU), QStringLiteral("3h 11da 15u"));
-    QVERIFY(forma.PulsanteCambioUDa.hasFocus());
+    QVERIFY(forma.PulsanteCambioUDa->hasFocus());
     banco.batti(Qt::Key_Space);
-    QVERIFY(forma.PulsanteCambioDaH.isVisible());
-    QVERIFY(forma.PulsanteCambioDaH.hasFocus());
+    QVERIFY(forma.PulsanteCambioDaH->isVisible());
+    QVERIFY(forma.PulsanteCambioDaH->hasFocus());
     QVERIFY(!forma.TestoInput.isVisible());
     QVERIFY(!forma.TastieraNumericaScansione1.isVisible());
     banco.batti(Qt::Key_Space);
@@ -76,24 +75,24 @@ class CasoBlocchiScansioneTest : public QObject {
 
   void tenTensAloneAskForTheSecondCarryByItsButton() {
     Banco banco;
-    const FormHLUScansione& forma = apriHLU(banco, 162, 253);
+    const FormaBlocchiScansione& forma = apriHLU(banco, 162, 253);
     QVERIFY(unisciScandendo(banco, forma));
-    QVERIFY(!forma.PulsanteCambioUDa.isVisible());
-    QVERIFY(forma.PulsanteCambioDaH.hasFocus());
+    QVERIFY(!forma.PulsanteCambioUDa->isVisible());
+    QVERIFY(forma.PulsanteCambioDaH->hasFocus());
   }
 
   void twelveUnitsAndNineTensAskForOneCarryOnly() {
     Banco banco;
-    const FormHLUScansione& forma = apriHLU(banco, 147, 255);
+    const FormaBlocchiScansione& forma = apriHLU(banco, 147, 255);
     QVERIFY(unisciScandendo(banco, forma));
     banco.batti(Qt::Key_Return);
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     QVERIFY(forma.TastieraNumericaScansione1.isVisible());
   }
 
   void aWrongResultLeavesTheKeyboardRunningAndTheTextInTheBox() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(unisciScandendo(banco, forma));
     QVERIFY(rispondiScandendo(banco, forma, QStringLiteral("36")));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -114,7 +113,7 @@ class CasoBlocchiScansioneTest : public QObject {
   void thePrintPanelSilencesTheKeyboardAndClosingItGivesANewCase() {
     QFETCH(bool, unite);
     Banco banco;
-    FormLUScansione& forma = apriLU(banco, 24, 13);
+    FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     if (unite) QVERIFY(unisciScandendo(banco, forma));
     forma.mnuStampa.click();
     QVERIFY(!forma.TastieraHDUScansione1.Timer1.isEnabled());
@@ -139,7 +138,7 @@ class CasoBlocchiScansioneTest : public QObject {
   void closingThePrintPanelInTheMiddleOfAWaitDropsTheCase() {
     QFETCH(bool, cambio);
     Banco banco;
-    FormLUScansione& forma = apriLU(banco, 27, 15);
+    FormaBlocchiScansione& forma = apriLU(banco, 27, 15);
     const auto traUnPo = [&] {
       banco.tempo.after(1.5, [&] {
         forma.mnuStampa.click();
@@ -160,7 +159,7 @@ class CasoBlocchiScansioneTest : public QObject {
     }
     banco.tempo.advance(10);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
-    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteCambio->isVisible());
     QVERIFY(!forma.TestoInput.isVisible());
     QVERIFY(!forma.ShockwaveFlash3.isVisible());
     QVERIFY(!forma.TastieraNumericaScansione1.isVisible());
@@ -173,7 +172,7 @@ class CasoBlocchiScansioneTest : public QObject {
 
   void comingBackRestartsAtTheFirstBoardWithItsKeyboard() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(unisciScandendo(banco, forma));
     banco.sorte.scrivi(casoLU(27, 15));
     banco.riattiva();

@@ -3,28 +3,28 @@
 #include <QApplication>
 
 #include "blocchi_toccati.h"
-#include "exercises/blocks/form_hlu.h"
-#include "exercises/blocks/form_lu.h"
+#include "exercises/blocks/forma_blocchi_tastiera.h"
 #include "support/iscrizione.h"
 
 using namespace prova;
-using somme::FormHLU;
-using somme::FormLU;
+using somme::FormaBlocchiTastiera;
 
 namespace {
 
 // A form on which the joined board is another artist's.
-FormLU& apriLUCon(Banco& banco, const QByteArray& filmato, int addendo1, int addendo2) {
+FormaBlocchiTastiera& apriLUCon(Banco& banco, const QByteArray& filmato, int addendo1,
+                                int addendo2) {
   banco.metti(kUnione, filmato);
   banco.ambiente->stato.TipoEsercizio = kConESenzaCambio;
   banco.sorte.scrivi(casoLU(addendo1, addendo2));
-  return banco.apri<FormLU>(somme::forme::kFormLU);
+  return banco.apri<FormaBlocchiTastiera>(somme::forme::kFormLU);
 }
-FormHLU& apriHLUCon(Banco& banco, const QByteArray& filmato, int addendo1, int addendo2) {
+FormaBlocchiTastiera& apriHLUCon(Banco& banco, const QByteArray& filmato, int addendo1,
+                                 int addendo2) {
   banco.metti(kUnioneHDU, filmato);
   banco.ambiente->stato.TipoEsercizio = kConESenzaCambi;
   banco.sorte.scrivi(casoHLU(addendo1, addendo2));
-  return banco.apri<FormHLU>(somme::forme::kFormHLU);
+  return banco.apri<FormaBlocchiTastiera>(somme::forme::kFormHLU);
 }
 
 bool siVede(const platform::Board& tavola, const char* clip) {
@@ -81,9 +81,9 @@ class FilmatiAltruiTest : public QObject {
 
   void aStretchThatIsLongerThanItsWaitIsBrokenOffByTheNextCase() {
     Banco banco;
-    FormLU& forma = apriLUCon(banco, cheToglieLeDieci(6), 27, 15);
+    FormaBlocchiTastiera& forma = apriLUCon(banco, cheToglieLeDieci(6), 27, 15);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     QVERIFY(forma.TestoInput.isVisible());
     banco.sorte.scrivi(casoLU(21, 4));
     rispondi(banco, forma, QStringLiteral("42"));
@@ -96,10 +96,10 @@ class FilmatiAltruiTest : public QObject {
 
   void afterACarryTheBoardShowsWhatIsLeftThoughAllBlocksComeBackWithTheFirstFrame() {
     Banco banco;
-    FormLU& forma = apriLUCon(banco, cheToglieTutto(), 27, 15);
+    FormaBlocchiTastiera& forma = apriLUCon(banco, cheToglieTutto(), 27, 15);
     unisci(banco, forma);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieLU), QStringLiteral("3da 12u"));
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, QStringLiteral("da")), QStringLiteral("4da"));
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u")), -1);
     QVERIFY(!siVede(forma.ShockwaveFlash3, "u10"));
@@ -111,19 +111,19 @@ class FilmatiAltruiTest : public QObject {
     banco.clicca(forma.PulsanteAvanti);
     unisci(banco, forma);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieLU), QStringLiteral("3da 17u"));
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u"), 11), 7);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, QStringLiteral("da")), QStringLiteral("4da"));
   }
 
   void tenThatComeBackAfterTheWordAreHiddenWhenTheWaitIsOver() {
     Banco banco;
-    FormHLU& forma = apriHLUCon(banco, cheRimetteDopoLaParola(2), 167, 258);
+    FormaBlocchiTastiera& forma = apriHLUCon(banco, cheRimetteDopoLaParola(2), 167, 258);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambioUDa);
+    banco.clicca(*forma.PulsanteCambioUDa);
     QVERIFY(!siVede(forma.ShockwaveFlash3, "u1"));
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u"), 11), 5);
-    banco.clicca(forma.PulsanteCambioDaH);
+    banco.clicca(*forma.PulsanteCambioDaH);
     QVERIFY(!siVede(forma.ShockwaveFlash3, "da10"));
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da"), 11), 2);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("h")), 4);
@@ -132,9 +132,9 @@ class FilmatiAltruiTest : public QObject {
 
   void aSecondStretchThatBeginsWithTheWholeBoardShowsNoUnitsThatAreGone() {
     Banco banco;
-    FormHLU& forma = apriHLUCon(banco, cheRicominciaIntero(), 167, 258);
+    FormaBlocchiTastiera& forma = apriHLUCon(banco, cheRicominciaIntero(), 167, 258);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambioUDa);
+    banco.clicca(*forma.PulsanteCambioUDa);
     bool inCorso = false;
     banco.tempo.after(0.4, [&] {
       inCorso = Banco::filmato(forma.ShockwaveFlash3).currentFrame() > 51;
@@ -142,7 +142,7 @@ class FilmatiAltruiTest : public QObject {
       QVERIFY(!siVede(forma.ShockwaveFlash3, "u10"));
       QVERIFY(!siVede(forma.ShockwaveFlash3, "u19"));
     });
-    banco.clicca(forma.PulsanteCambioDaH);
+    banco.clicca(*forma.PulsanteCambioDaH);
     QVERIFY(inCorso);
     QVERIFY(!siVede(forma.ShockwaveFlash3, "u1"));
   }
@@ -166,9 +166,9 @@ class FilmatiAltruiTest : public QObject {
 
   void aMovieWithoutASingleNameIsPlayedToItsEnd() {
     Banco banco;
-    FormLU& forma = apriLUCon(banco, senzaNomi(), 27, 15);
+    FormaBlocchiTastiera& forma = apriLUCon(banco, senzaNomi(), 27, 15);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     QCOMPARE(detto(forma.ShockwaveFlash3), QStringLiteral("4 decine, 2 unità"));
     rispondi(banco, forma, QStringLiteral("42"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -176,9 +176,9 @@ class FilmatiAltruiTest : public QObject {
 
   void wordsThatComeTwiceCarryOnce() {
     Banco banco;
-    FormLU& forma = apriLUCon(banco, cheParlaTroppo(), 27, 15);
+    FormaBlocchiTastiera& forma = apriLUCon(banco, cheParlaTroppo(), 27, 15);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     QCOMPARE(detto(forma.ShockwaveFlash3), QStringLiteral("4 decine, 2 unità"));
     QCOMPARE(contenuto(forma.ShockwaveFlash3, QStringLiteral("da")), QStringLiteral("4da"));
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u"), 11), 2);
@@ -186,9 +186,9 @@ class FilmatiAltruiTest : public QObject {
 
   void aWordThatAClipOfTheMovieSaysInALaterCaseIsNoCarryOfIt() {
     Banco banco;
-    FormLU& forma = apriLUCon(banco, conUnEco(), 27, 15);
+    FormaBlocchiTastiera& forma = apriLUCon(banco, conUnEco(), 27, 15);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     banco.sorte.scrivi(casoLU(2, 3));
     rispondi(banco, forma, QStringLiteral("42"));
     banco.clicca(forma.PulsanteAvanti);

@@ -8,8 +8,6 @@
 
 using namespace prova;
 using somme::FormaBlocchiHK;
-using somme::FormHLUHK;
-using somme::FormLUHK;
 using somme::Tasto;
 
 // The blocks by touch: what each key does and when, and the digits of the result.
@@ -19,11 +17,11 @@ class FormaBlocchiHKTest : public QObject {
  private Q_SLOTS:
   void itOpensAsThePlainFormWithButtonsAndNoBoxForTheResult() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 24, 13);
+    FormaBlocchiHK& forma = apriLU(banco, 24, 13);
     QVERIFY(forma.withoutRow().empty());
     QVERIFY(forma.HelpiKeysConnesso());
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
-    QVERIFY(forma.PicturePulsanti.isVisible());
+    QVERIFY(forma.pulsanti.PicturePulsanti.isVisible());
     QVERIFY(forma.PulsanteAvanti.isVisible());
     QVERIFY(!forma.PulsanteAvanti.isEnabled());
     QCOMPARE(cifre(forma), QStringLiteral("..."));
@@ -34,7 +32,7 @@ class FormaBlocchiHKTest : public QObject {
 
   void theDigitsStandSideBySideWhereTheBoxIsOnThePlainForms() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 24, 13);
+    FormaBlocchiHK& forma = apriLU(banco, 24, 13);
     QCOMPARE(forma.Label4.count(), 3);
     const double x = forma.Label1.left() / 840;
     const double y = forma.Label1.top() / 1320;
@@ -48,7 +46,7 @@ class FormaBlocchiHKTest : public QObject {
 
   void theKeyOfACarryDoesNothingWhileNoneIsAskedFor() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 24, 13);
+    FormaBlocchiHK& forma = apriLU(banco, 24, 13);
     premi(banco, kCambioUDa);
     premi(banco, kDa, 2);
     premi(banco, kCambioUDa);
@@ -65,7 +63,7 @@ class FormaBlocchiHKTest : public QObject {
 
   void theKeysThatTheFormUpTo99DoesNotHaveDoNothing() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 24, 13);
+    FormaBlocchiHK& forma = apriLU(banco, 24, 13);
     banco.rete.manda("BB1");  // column 2, row 2: the first key
     for (const int posto : {1, 4, 5}) tocca(banco, posto);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieLU), QStringLiteral("0da 0u"));
@@ -78,7 +76,7 @@ class FormaBlocchiHKTest : public QObject {
 
   void theFourthKeyDoesNothingUpTo999Either() {
     Banco banco;
-    FormHLUHK& forma = apriHLU(banco, 213, 45);
+    FormaBlocchiHK& forma = apriHLU(banco, 213, 45);
     tocca(banco, 4);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieHLU), QStringLiteral("0h 0da 0u"));
     premi(banco, kH, 11);
@@ -88,7 +86,7 @@ class FormaBlocchiHKTest : public QObject {
 
   void binAndConfirmActAsTheButtons() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 24, 13);
+    FormaBlocchiHK& forma = apriLU(banco, 24, 13);
     premi(banco, kU, 3);
     premi(banco, kConferma);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -97,16 +95,16 @@ class FormaBlocchiHKTest : public QObject {
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieLU), QStringLiteral("0da 0u"));
     costruisciToccando(banco, 24);
     QVERIFY(incorniciata(forma, forma.Label2));
-    QCOMPARE(forma.PicturePulsanti.left(), forma.Label2.left());
+    QCOMPARE(forma.pulsanti.PicturePulsanti.left(), forma.Label2.left());
   }
 
   void afterTheBoardsAreJoinedTheKeysOfTheBlocksDoNothing() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 27, 15);
+    FormaBlocchiHK& forma = apriLU(banco, 27, 15);
     unisciToccando(banco);
     // Hidden with the box that holds it; its own flag says nothing of that.
-    QVERIFY(!forma.PicturePulsanti.isVisible());
-    QVERIFY(forma.PulsanteU.isVisible());
+    QVERIFY(!forma.pulsanti.PicturePulsanti.isVisible());
+    QVERIFY(forma.pulsanti.PulsanteU.isVisible());
     for (const Tasto tasto : {kDa, kU, kCestino, kConferma}) premi(banco, tasto);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecieLU), QStringLiteral("3da 12u"));
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieLU), QStringLiteral("2da 7u"));
@@ -115,18 +113,19 @@ class FormaBlocchiHKTest : public QObject {
 
   void aHiddenButtonKeepsItsKeyFromActing() {
     Banco banco;
-    FormHLUHK& forma = apriHLU(banco, 213, 45);
-    for (platform::Button* pulsante : {&forma.PulsanteH, &forma.PulsanteDa, &forma.PulsanteU,
-                                       &forma.PulsanteConferma, &forma.PulsanteAvanti}) {
+    FormaBlocchiHK& forma = apriHLU(banco, 213, 45);
+    for (platform::Button* pulsante :
+         {&*forma.pulsanti.PulsanteH, &forma.pulsanti.PulsanteDa, &forma.pulsanti.PulsanteU,
+          &forma.pulsanti.PulsanteConferma, &forma.PulsanteAvanti}) {
       pulsante->setVisible(false);
     }
     for (const Tasto tasto : {kH, kDa, kU, kConferma, kAvanti}) premi(banco, tasto);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieHLU), QStringLiteral("0h 0da 0u"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 213 +  45 = "));
-    forma.PulsanteU.setVisible(true);
+    forma.pulsanti.PulsanteU.setVisible(true);
     premi(banco, kU, 2);
-    forma.PulsanteCestino.setVisible(false);
+    forma.pulsanti.PulsanteCestino.setVisible(false);
     premi(banco, kCestino);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieHLU), QStringLiteral("0h 0da 2u"));
   }
@@ -158,9 +157,8 @@ class FormaBlocchiHKTest : public QObject {
     QFETCH(QString, attese);
     QFETCH(QString, mostrate);
     Banco banco;
-    FormaBlocchiHK& forma = piatti
-                                ? static_cast<FormaBlocchiHK&>(apriHLU(banco, addendo1, addendo2))
-                                : static_cast<FormaBlocchiHK&>(apriLU(banco, addendo1, addendo2));
+    FormaBlocchiHK& forma =
+        piatti ? apriHLU(banco, addendo1, addendo2) : apriLU(banco, addendo1, addendo2);
     QCOMPARE(scritte(forma), attese);
     QCOMPARE(cifre(forma), QStringLiteral("..."));
     unisciToccando(banco);
@@ -171,18 +169,18 @@ class FormaBlocchiHKTest : public QObject {
     Banco banco;
     banco.ambiente->stato.Totale = 123;
     banco.ambiente->stato.TipoEsercizio = 99;  // no level: the numbers stay as they were
-    FormLUHK& forma = apriPronta<FormLUHK>(banco, somme::forme::kFormLUHK);
+    FormaBlocchiHK& forma = apriPronta<FormaBlocchiHK>(banco, somme::forme::kFormLUHK);
     QCOMPARE(forma.Label4[1].caption(), QStringLiteral("12"));
     QCOMPARE(forma.Label4[2].caption(), QStringLiteral("3"));
   }
 
   void theMouseStillWorksTheButtonsAndNotTheDisabledWayOn() {
     Banco banco;
-    FormLUHK& forma = apriLU(banco, 27, 15);
+    FormaBlocchiHK& forma = apriLU(banco, 27, 15);
     banco.clicca(forma.PulsanteAvanti);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 27 +  15 = "));
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     QCOMPARE(cifre(forma), QStringLiteral(".42"));
     banco.sorte.scrivi(casoLU(24, 13));
     banco.batti(Qt::Key_Return);
@@ -193,7 +191,7 @@ class FormaBlocchiHKTest : public QObject {
     for (const bool diSistema : {false, true}) {
       Banco banco;
       banco.ambiente->stato.CursoreDiSistema = diSistema;
-      QCOMPARE(apriLU(banco, 24, 13).PulsanteCambio.mousePointer(), diSistema ? 0 : 99);
+      QCOMPARE(apriLU(banco, 24, 13).PulsanteCambio->mousePointer(), diSistema ? 0 : 99);
     }
   }
 

@@ -7,8 +7,7 @@
 #include "support/iscrizione.h"
 
 using namespace prova;
-using somme::FormHLUScansione;
-using somme::FormLUScansione;
+using somme::FormaBlocchiScansione;
 using somme::TastieraHDUScansione;
 using somme::TastieraNumericaScansione;
 
@@ -29,7 +28,7 @@ class FormaBlocchiScansioneTest : public QObject {
  private Q_SLOTS:
   void itOpensWithTheKeyboardOfPlaceValuesUnderTheFirstBoard() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(forma.withoutRow().empty());
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
     QVERIFY(incorniciata(forma, forma.Label1));
@@ -40,13 +39,13 @@ class FormaBlocchiScansioneTest : public QObject {
     QVERIFY(!forma.TastieraNumericaScansione1.isVisible());
     QVERIFY(sulPosto(forma.TastieraNumericaScansione1, forma.LabelPerTastieraNumerica));
     QVERIFY(!forma.TestoInput.isVisible());
-    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteCambio->isVisible());
     QVERIFY(forma.ImgSi.isVisible());
   }
 
   void theLabelsThatKeepTheKeyboardsPlacesStandAsDesigned() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     // Of the design; the form has another size here.
     const double scala = forma.Label1.left() / 840;
     const auto vicino = [&](double misura, double disegno) {
@@ -62,13 +61,13 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void theKeysOfHigherPlacesAndTheHelpAreNotThere() {
     Banco banco;
-    const FormLUScansione& lu = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& lu = apriLU(banco, 24, 13);
     QVERIFY(!lu.TastieraHDUScansione1.KVisibile.get());
     QVERIFY(!lu.TastieraHDUScansione1.HVisibile.get());
     QVERIFY(!lu.TastieraNumericaScansione1.AiutoVisibile.get());
     QCOMPARE(lu.TastieraHDUScansione1.pulsanteAcceso(), qint16(TastieraHDUScansione::kDecine));
     Banco altro;
-    const FormHLUScansione& hlu = apriHLU(altro, 213, 45);
+    const FormaBlocchiScansione& hlu = apriHLU(altro, 213, 45);
     QVERIFY(!hlu.TastieraHDUScansione1.KVisibile.get());
     QVERIFY(hlu.TastieraHDUScansione1.HVisibile.get());
     QVERIFY(!hlu.TastieraNumericaScansione1.AiutoVisibile.get());
@@ -77,7 +76,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void manualScanningLeavesBothKeyboardsWithoutAutomaticScanning() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(!forma.TastieraHDUScansione1.ScansioneAutomatica.get());
     QVERIFY(unisciScandendo(banco, forma));
     QVERIFY(!forma.TastieraHDUScansione1.ScansioneAutomatica.get());
@@ -87,7 +86,7 @@ class FormaBlocchiScansioneTest : public QObject {
   void automaticScanningGoesAtThePaceOfTheSettingsOnBothKeyboards() {
     Banco banco;
     banco.ambiente->stato.TempoScansione = 5;
-    const FormLUScansione& forma = apriLU(banco, 24, 13, 2);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13, 2);
     QVERIFY(forma.TastieraHDUScansione1.ScansioneAutomatica.get());
     QCOMPARE(forma.TastieraHDUScansione1.TimerScansione.interval(), 1250);
     QVERIFY(unisciScandendo(banco, forma));
@@ -97,7 +96,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void theKeyboardFollowsTheBoardsAndGoesAtTheThird() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(costruisciScandendo(banco, forma, 24));
     QCOMPARE(forma.TastieraHDUScansione1.left(), forma.Label2.left());
     QVERIFY(incorniciata(forma, forma.Label2));
@@ -114,7 +113,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void binAndConfirmOfThePlaceValuesActAsTheButtons() {
     Banco banco;
-    const FormHLUScansione& forma = apriHLU(banco, 213, 45);
+    const FormaBlocchiScansione& forma = apriHLU(banco, 213, 45);
     QVERIFY(metti(banco, forma, TastieraHDUScansione::kCentinaia, 2));
     QVERIFY(metti(banco, forma, TastieraHDUScansione::kDecine));
     QVERIFY(metti(banco, forma, TastieraHDUScansione::kUnita, 4));
@@ -131,7 +130,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void theTenthBlockIsSilentlyRefused() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(metti(banco, forma, TastieraHDUScansione::kUnita, 10));
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecieLU), QStringLiteral("0da 9u"));
     QVERIFY(banco.suono.suonati.isEmpty());
@@ -139,7 +138,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void theKeysOfHigherPlacesPutNothing() {
     Banco banco;
-    FormLUScansione& forma = apriLU(banco, 24, 13);
+    FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     for (const qint16 tasto : {qint16(0), qint16(1)}) {
       forma.TastieraHDUScansione1.PulsanteCorrente.set(tasto);
       banco.batti(Qt::Key_Return);
@@ -152,7 +151,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void theWayOnIsOutOfReachBeforeARightResultAndTheOnlyKeyAfterIt() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(unisciScandendo(banco, forma));
     const TastieraNumericaScansione& tastiera = forma.TastieraNumericaScansione1;
     QVERIFY(!tastiera.AvantiAttivo.get());
@@ -175,7 +174,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void digitsStopAtTheLimitOfTheBox() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(unisciScandendo(banco, forma));
     QVERIFY(scriviScandendo(banco, forma, QStringLiteral("375")));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("37"));
@@ -183,7 +182,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void anEmptyTextIsNotJudged() {
     Banco banco;
-    const FormLUScansione& forma = apriLU(banco, 24, 13);
+    const FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(unisciScandendo(banco, forma));
     QVERIFY(scegli(banco, forma.TastieraNumericaScansione1, kConferma));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
@@ -192,7 +191,7 @@ class FormaBlocchiScansioneTest : public QObject {
 
   void theLockedBoxTakesNothingThatIsTyped() {
     Banco banco;
-    FormLUScansione& forma = apriLU(banco, 24, 13);
+    FormaBlocchiScansione& forma = apriLU(banco, 24, 13);
     QVERIFY(unisciScandendo(banco, forma));
     forma.TestoInput.setFocus();
     banco.scrivi(QStringLiteral("37"));
@@ -205,10 +204,10 @@ class FormaBlocchiScansioneTest : public QObject {
     for (const bool diSistema : {false, true}) {
       Banco banco;
       banco.ambiente->stato.CursoreDiSistema = diSistema;
-      QCOMPARE(apriLU(banco, 24, 13).PulsanteCambio.mousePointer(), 99);
+      QCOMPARE(apriLU(banco, 24, 13).PulsanteCambio->mousePointer(), 99);
       Banco altro;
       altro.ambiente->stato.CursoreDiSistema = diSistema;
-      QCOMPARE(apriHLU(altro, 213, 45).PulsanteCambioDaH.mousePointer(), diSistema ? 0 : 99);
+      QCOMPARE(apriHLU(altro, 213, 45).PulsanteCambioDaH->mousePointer(), diSistema ? 0 : 99);
     }
   }
 

@@ -1,8 +1,7 @@
 #include <QApplication>
 
 #include "blocchi_toccati.h"
-#include "exercises/blocks/form_hlu.h"
-#include "exercises/blocks/form_lu.h"
+#include "exercises/blocks/forma_blocchi_tastiera.h"
 #include "support/iscrizione.h"
 
 using namespace prova;
@@ -21,14 +20,11 @@ void guardaNellAttesa(Banco& banco, double secondi, QString& dove) {
   banco.tempo.after(secondi, [&dove] { dove = fuoco(); });
 }
 
-template <class F>
-F& aperta(Banco& banco, int addendo1, int addendo2) {
-  if constexpr (std::is_same_v<F, somme::FormLUHK>) return apriLU(banco, addendo1, addendo2);
-  if constexpr (std::is_same_v<F, somme::FormHLUHK>) return apriHLU(banco, addendo1, addendo2);
-  constexpr bool kCentinaia = std::is_same_v<F, somme::FormHLU>;
-  banco.ambiente->stato.TipoEsercizio = kCentinaia ? kConESenzaCambi : kConESenzaCambio;
-  banco.sorte.scrivi(kCentinaia ? casoHLU(addendo1, addendo2) : casoLU(addendo1, addendo2));
-  return banco.apri<F>(kCentinaia ? somme::forme::kFormHLU : somme::forme::kFormLU);
+somme::FormaBlocchiTastiera& aperta(Banco& banco, int addendo1, int addendo2, bool centinaia) {
+  banco.ambiente->stato.TipoEsercizio = centinaia ? kConESenzaCambi : kConESenzaCambio;
+  banco.sorte.scrivi(centinaia ? casoHLU(addendo1, addendo2) : casoLU(addendo1, addendo2));
+  return banco.apri<somme::FormaBlocchiTastiera>(centinaia ? somme::forme::kFormHLU
+                                                           : somme::forme::kFormLU);
 }
 
 }  // namespace
@@ -39,16 +35,14 @@ class FuocoBlocchiTest : public QObject {
 
   // A whole sum with a carry from the units, and the beginning of the next.
   template <class F>
-  static void provaUnCaso(const QString& primo) {
-    Banco banco;
-    F& forma = aperta<F>(banco, 27, 15);
+  static void provaUnCaso(Banco& banco, F& forma, const QString& primo) {
     QCOMPARE(fuoco(), primo);
     costruisci(banco, forma, 27);
-    forma.PulsanteConferma.setFocus();
+    forma.pulsanti.PulsanteConferma.setFocus();
     banco.batti(Qt::Key_Return);
     QCOMPARE(fuoco(), QStringLiteral("PulsanteConferma"));
     costruisci(banco, forma, 15);
-    forma.PulsanteConferma.setFocus();
+    forma.pulsanti.PulsanteConferma.setFocus();
     QString unione;
     guardaNellAttesa(banco, 1, unione);
     banco.batti(Qt::Key_Return);
@@ -72,14 +66,26 @@ class FuocoBlocchiTest : public QObject {
   }
 
  private Q_SLOTS:
-  void byButtonsUpTo99() { provaUnCaso<somme::FormLU>(QStringLiteral("PulsanteDa")); }
-  void byButtonsUpTo999() { provaUnCaso<somme::FormHLU>(QStringLiteral("PulsanteH")); }
-  void onTheTouchFormUpTo99() { provaUnCaso<somme::FormLUHK>(QStringLiteral("PulsanteDa")); }
-  void onTheTouchFormUpTo999() { provaUnCaso<somme::FormHLUHK>(QStringLiteral("PulsanteH")); }
+  void byButtonsUpTo99() {
+    Banco banco;
+    provaUnCaso(banco, aperta(banco, 27, 15, false), QStringLiteral("PulsanteDa"));
+  }
+  void byButtonsUpTo999() {
+    Banco banco;
+    provaUnCaso(banco, aperta(banco, 27, 15, true), QStringLiteral("PulsanteH"));
+  }
+  void onTheTouchFormUpTo99() {
+    Banco banco;
+    provaUnCaso(banco, apriLU(banco, 27, 15), QStringLiteral("PulsanteDa"));
+  }
+  void onTheTouchFormUpTo999() {
+    Banco banco;
+    provaUnCaso(banco, apriHLU(banco, 27, 15), QStringLiteral("PulsanteH"));
+  }
 
   void aNewCaseByTheSheetFindsTheFirstButtonWhereverTheLastWasLeft() {
     Banco banco;
-    aperta<somme::FormLUHK>(banco, 27, 15);
+    apriLU(banco, 27, 15);
     unisciToccando(banco);
     QCOMPARE(fuoco(), QStringLiteral("EtOperazione"));
     banco.sorte.scrivi(casoLU(3, 4));
@@ -89,8 +95,8 @@ class FuocoBlocchiTest : public QObject {
 
   void aFocusThatIsOnAButtonStaysThereWhenTheSheetBeginsANewCase() {
     Banco banco;
-    auto& forma = aperta<somme::FormLUHK>(banco, 27, 15);
-    forma.PulsanteCestino.setFocus();
+    auto& forma = apriLU(banco, 27, 15);
+    forma.pulsanti.PulsanteCestino.setFocus();
     banco.sorte.scrivi(casoLU(3, 4));
     premi(banco, kAvanti);
     QCOMPARE(fuoco(), QStringLiteral("PulsanteCestino"));
@@ -98,7 +104,7 @@ class FuocoBlocchiTest : public QObject {
 
   void arrowKeysWalkTheButtonsOfTheBlocks() {
     Banco banco;
-    aperta<somme::FormHLU>(banco, 27, 15);
+    aperta(banco, 27, 15, true);
     QStringList visitati;
     for (const int tasto : {Qt::Key_Right, Qt::Key_Right, Qt::Key_End, Qt::Key_Right, Qt::Key_Left,
                             Qt::Key_Home, Qt::Key_Up}) {

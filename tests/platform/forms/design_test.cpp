@@ -68,6 +68,36 @@ constexpr FormDesign kWithMore{.name = "Patchwork",
                                .height = 9000,
                                .tables = kMoreTables};
 
+// A part of a form that owns controls, one of them in some designs alone.
+struct Pair {
+  explicit Pair(platform::Form& form) : Left(form), Right(form) {}
+
+  Button Left;
+  platform::OptionalControl<Button> Right;
+};
+
+// A form with a part.
+class Composed final : public platform::Form {
+ public:
+  Composed(platform::Runtime& runtime, std::span<const std::span<const Row>> tables)
+      : Form(runtime, {.name = "Composed",
+                       .caption = "Composed",
+                       .width = 12000,
+                       .height = 9000,
+                       .tables = tables}) {}
+
+  Pair pair{*this};
+};
+
+constexpr auto kLeft = std::to_array<Row>({
+    row<&Composed::pair, &Pair::Left>({0, 0, 1500, 750}, {.caption = "left"}),
+});
+constexpr auto kRight = std::to_array<Row>({
+    row<&Composed::pair, &Pair::Right>({1500, 0, 1500, 750}, {.caption = "right"}),
+});
+constexpr std::array<std::span<const Row>, 1> kHalf{kLeft};
+constexpr std::array<std::span<const Row>, 2> kWhole{kLeft, kRight};
+
 // The names are the members' own, known to the compiler.
 static_assert(nameOf<&Patchwork::Alpha> == "Alpha");
 static_assert(nameOf<&Patchwork::Gamma> == "Gamma");
@@ -125,6 +155,19 @@ class DesignTest : public QObject {
     QCOMPARE(namesOf(*with).last(), QStringLiteral("Maybe"));
     QCOMPARE(with->Maybe->caption(), QStringLiteral("maybe"));
     QCOMPARE(with->withoutRow(), (std::vector<const platform::Control*>{&with->Forgotten}));
+  }
+
+  void aControlThatAPartOfTheFormOwnsIsMadeFromItsRow() {
+    Stage stage;
+    const auto half = std::make_shared<Composed>(*stage.runtime, kHalf);
+    half->build(stage.runtime->window().pages());
+    QCOMPARE(namesOf(*half), QStringList{QStringLiteral("Left")});
+    QVERIFY(half->withoutRow().empty());
+    const auto whole = std::make_shared<Composed>(*stage.runtime, kWhole);
+    whole->build(stage.runtime->window().pages());
+    QCOMPARE(namesOf(*whole), QStringLiteral("Left Right").split(u' '));
+    QCOMPARE(whole->pair.Left.caption(), QStringLiteral("left"));
+    QCOMPARE(whole->pair.Right->caption(), QStringLiteral("right"));
   }
 
   void aRowWithAContainerIsMadeInIt() {

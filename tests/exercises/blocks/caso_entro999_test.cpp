@@ -1,21 +1,21 @@
-#include "form_hlu_di_prova.h"
+#include "blocchi_entro999.h"
 
 #include <QApplication>
 
 #include "support/iscrizione.h"
 
 using namespace prova;
-using somme::FormHLU;
+using somme::FormaBlocchiTastiera;
 
 // The cases of flats, longs and units: what each level draws, what the joined board keeps from case
 // to case, and what becomes of a carry when the form is left or comes back.
-class CasoHLUTest : public QObject {
+class CasoEntro999Test : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
   void flatsOfAnEarlierCaseStayOnTheJoinedBoard() {
     Banco banco;
-    FormHLU& forma = apri(banco, 213, 211);  // 4 hundreds
+    FormaBlocchiTastiera& forma = apri(banco, 213, 211);  // 4 hundreds
     unisci(banco, forma);
     rispondi(banco, forma, QStringLiteral("424"));
     banco.sorte.scrivi(caso(101, 112));
@@ -35,9 +35,9 @@ class CasoHLUTest : public QObject {
 
   void theFlatOfACarryStaysToo() {
     Banco banco;
-    FormHLU& forma = apri(banco, 162, 253);
+    FormaBlocchiTastiera& forma = apri(banco, 162, 253);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambioDaH);
+    banco.clicca(*forma.PulsanteCambioDaH);
     rispondi(banco, forma, QStringLiteral("415"));
     banco.sorte.scrivi(caso(101, 12));
     banco.clicca(forma.PulsanteAvanti);
@@ -47,7 +47,7 @@ class CasoHLUTest : public QObject {
 
   void flatsThatStayAreToldUntilTheMovieIsLoadedAgain() {
     Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
+    FormaBlocchiTastiera& forma = apri(banco, 213, 45);
     unisci(banco, forma);
     rispondi(banco, forma, QStringLiteral("258"));
     const auto parole = [&] { return forma.ShockwaveFlash3.widget()->accessibleDescription(); };
@@ -61,7 +61,7 @@ class CasoHLUTest : public QObject {
 
   void whatHasBeenChangedStandsInItsPlaceAgainInTheNextCase() {
     Banco banco;
-    FormHLU& forma = apri(banco, 167, 258);
+    FormaBlocchiTastiera& forma = apri(banco, 167, 258);
     unisci(banco, forma);
     const auto posti = [&] {
       std::vector<QRectF> tutti;
@@ -74,8 +74,8 @@ class CasoHLUTest : public QObject {
       return tutti;
     };
     const std::vector<QRectF> prima = posti();
-    banco.clicca(forma.PulsanteCambioUDa);
-    banco.clicca(forma.PulsanteCambioDaH);
+    banco.clicca(*forma.PulsanteCambioUDa);
+    banco.clicca(*forma.PulsanteCambioDaH);
     rispondi(banco, forma, QStringLiteral("425"));
     banco.sorte.scrivi(caso(167, 258));
     banco.clicca(forma.PulsanteAvanti);
@@ -102,12 +102,12 @@ class CasoHLUTest : public QObject {
     livello("9", {{122, 988}, {4, 10}}, " 123 +  400 = ", "aggiungi solo centinaia");
   }
   void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord() {
-    provaLivello<FormHLU>(somme::forme::kFormHLU, "Piatti, lunghi, unità: entro 999");
+    provaLivello<FormaBlocchiTastiera>(somme::forme::kFormHLU, "Piatti, lunghi, unità: entro 999");
   }
 
   void aLevelThatTheTableDoesNotHaveKeepsCaseAndRecord() {
     Banco banco;
-    const FormHLU& forma = apri(banco, 213, 45);
+    const FormaBlocchiTastiera& forma = apri(banco, 213, 45);
     provaLivelloIgnoto(banco, forma, 10);
   }
 
@@ -129,9 +129,9 @@ class CasoHLUTest : public QObject {
     QFETCH(double, dopo);
     QFETCH(bool, esce);
     Banco banco;
-    FormHLU& forma = apri(banco, 167, 258);
+    FormaBlocchiTastiera& forma = apri(banco, 167, 258);
     unisci(banco, forma);
-    if (secondo) banco.clicca(forma.PulsanteCambioUDa);
+    if (secondo) banco.clicca(*forma.PulsanteCambioUDa);
     banco.tempo.after(dopo, [&] {
       if (esce) {
         forma.mnuEsci.click();
@@ -140,7 +140,7 @@ class CasoHLUTest : public QObject {
         banco.riattiva();
       }
     });
-    banco.clicca(secondo ? forma.PulsanteCambioDaH : forma.PulsanteCambioUDa);
+    banco.clicca(secondo ? *forma.PulsanteCambioDaH : *forma.PulsanteCambioUDa);
     banco.tempo.advance(10);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QVERIFY(!banco.fine.stato);
@@ -149,8 +149,8 @@ class CasoHLUTest : public QObject {
       QVERIFY(!banco.tempo.anyTicker());
       return;
     }
-    QVERIFY(!forma.PulsanteCambioUDa.isVisible());
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioUDa->isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     QVERIFY(!forma.TestoInput.isVisible());
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0h 0da 0u"));
     unisci(banco, forma);
@@ -158,5 +158,5 @@ class CasoHLUTest : public QObject {
   }
 };
 
-const prova::Iscrizione<CasoHLUTest, QApplication> kIscritta;
-#include "caso_hlu_test.moc"
+const prova::Iscrizione<CasoEntro999Test, QApplication> kIscritta;
+#include "caso_entro999_test.moc"

@@ -1,4 +1,4 @@
-#include "form_hlu_di_prova.h"
+#include "blocchi_entro999.h"
 
 #include <QApplication>
 #include <cmath>
@@ -6,18 +6,18 @@
 #include "support/iscrizione.h"
 
 using namespace prova;
-using somme::FormHLU;
+using somme::FormaBlocchiTastiera;
 
 // Flats, longs and units up to 999, as a pupil uses them: the boards, from the first block to the
 // result.
-class FormHLUTest : public QObject {
+class BlocchiEntro999Test : public QObject {
   Q_OBJECT
 
-  static bool siVede(const FormHLU& forma, const QString& clip) {
+  static bool siVede(const FormaBlocchiTastiera& forma, const QString& clip) {
     return Banco::siVede(forma.ShockwaveFlash3, clip);
   }
   // Blocks of a kind on the joined board after its first ten have gone.
-  static int avanzati(const FormHLU& forma, const QString& clip) {
+  static int avanzati(const FormaBlocchiTastiera& forma, const QString& clip) {
     for (int i = 1; i <= 10; ++i) {
       if (siVede(forma, clip + QString::number(i))) return -1;
     }
@@ -27,15 +27,15 @@ class FormHLUTest : public QObject {
  private Q_SLOTS:
   void aCaseBeginsWithTwoEmptyBoards() {
     Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
+    FormaBlocchiTastiera& forma = apri(banco, 213, 45);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 213 +  45 = "));
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("0h 0da 0u"));
     QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0h 0da 0u"));
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0h 0da 0u"));
-    QCOMPARE(forma.PicturePulsanti.left(), forma.Label1.left());
+    QCOMPARE(forma.pulsanti.PicturePulsanti.left(), forma.Label1.left());
     QVERIFY(incorniciata(forma, forma.Label1));
-    QVERIFY(!forma.PulsanteCambioUDa.isVisible());
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioUDa->isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     QCOMPARE(forma.TestoInput.maxLength(), 3);
   }
 
@@ -47,7 +47,7 @@ class FormHLUTest : public QObject {
     QFETCH(QString, clip);
     OcchioSuiBlocchi occhio(clip);
     Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
+    FormaBlocchiTastiera& forma = apri(banco, 213, 45);
     forma.page()->grab();
     forma.ShockwaveFlash3.widget()->grab();
     banco.riattiva();
@@ -59,48 +59,48 @@ class FormHLUTest : public QObject {
 
   void everyKindStopsAtNine() {
     Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
-    ripeti(banco, forma.PulsanteH, 11);
-    ripeti(banco, forma.PulsanteDa, 11);
-    ripeti(banco, forma.PulsanteU, 11);
+    FormaBlocchiTastiera& forma = apri(banco, 213, 45);
+    ripeti(banco, *forma.pulsanti.PulsanteH, 11);
+    ripeti(banco, forma.pulsanti.PulsanteDa, 11);
+    ripeti(banco, forma.pulsanti.PulsanteU, 11);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("9h 9da 9u"));
     QVERIFY(banco.suono.suonati.isEmpty());
   }
 
   void theBasketEmptiesAllKindsOfTheBoardInUse() {
     Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
+    FormaBlocchiTastiera& forma = apri(banco, 213, 45);
     costruisci(banco, forma, 213);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     costruisci(banco, forma, 999);
-    banco.clicca(forma.PulsanteCestino);
+    banco.clicca(forma.pulsanti.PulsanteCestino);
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("2h 1da 3u"));
     QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0h 0da 0u"));
     costruisci(banco, forma, 45);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     QVERIFY(forma.TestoInput.hasFocus());
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
   }
 
   void theFlatsCountInTheValueOfABoard() {
     Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
+    FormaBlocchiTastiera& forma = apri(banco, 213, 45);
     costruisci(banco, forma, 113);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
-    banco.clicca(forma.PulsanteH);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(*forma.pulsanti.PulsanteH);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     QVERIFY(incorniciata(forma, forma.Label2));
-    QCOMPARE(forma.PicturePulsanti.left(), forma.Label2.left());
+    QCOMPARE(forma.pulsanti.PicturePulsanti.left(), forma.Label2.left());
   }
 
   void aSumWithoutCarriesGoesStraightToTheResult() {
     Banco banco;
-    FormHLU& forma = apri(banco, 213, 45);
+    FormaBlocchiTastiera& forma = apri(banco, 213, 45);
     unisci(banco, forma);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("2h 5da 8u"));
-    QVERIFY(!forma.PulsanteCambioUDa.isVisible());
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioUDa->isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     QVERIFY(forma.TestoInput.hasFocus());
     rispondi(banco, forma, QStringLiteral("258"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -109,30 +109,30 @@ class FormHLUTest : public QObject {
 
   void bothCarriesComeOneAfterTheOtherAndThenTheResult() {
     Banco banco;
-    FormHLU& forma = apri(banco, 167, 258);  // 15 units, 11 tens
+    FormaBlocchiTastiera& forma = apri(banco, 167, 258);  // 15 units, 11 tens
     unisci(banco, forma);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("3h 11da 15u"));
-    QVERIFY(forma.PulsanteCambioUDa.isVisible());
-    QVERIFY(!forma.PulsanteCambioUDa.hasFocus());
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(forma.PulsanteCambioUDa->isVisible());
+    QVERIFY(!forma.PulsanteCambioUDa->hasFocus());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     QVERIFY(!forma.TestoInput.isVisible());
     const double prima = adesso(banco);
-    banco.clicca(forma.PulsanteCambioUDa);
+    banco.clicca(*forma.PulsanteCambioUDa);
     QVERIFY(std::abs(adesso(banco) - prima - 4) < 0.05);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 12);
     QCOMPARE(avanzati(forma, QStringLiteral("u")), 5);
-    QVERIFY(!forma.PulsanteCambioUDa.isVisible());
-    QVERIFY(forma.PulsanteCambioDaH.isVisible());
-    QVERIFY(!forma.PulsanteCambioDaH.hasFocus());
+    QVERIFY(!forma.PulsanteCambioUDa->isVisible());
+    QVERIFY(forma.PulsanteCambioDaH->isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->hasFocus());
     QVERIFY(!forma.TestoInput.isVisible());
     // The movie stands where it said its word: the form leaves its frame alone.
     QVERIFY(Banco::filmato(forma.ShockwaveFlash3).currentFrame() > 1);
-    banco.clicca(forma.PulsanteCambioDaH);
+    banco.clicca(*forma.PulsanteCambioDaH);
     QVERIFY(std::abs(adesso(banco) - prima - 8) < 0.05);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("h")), 4);
     QCOMPARE(avanzati(forma, QStringLiteral("da")), 2);
     QCOMPARE(avanzati(forma, QStringLiteral("u")), 5);
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     QVERIFY(forma.TestoInput.hasFocus());
     rispondi(banco, forma, QStringLiteral("425"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -141,17 +141,17 @@ class FormHLUTest : public QObject {
 
   void tenTensAloneAskForTheSecondCarryOnly() {
     Banco banco;
-    FormHLU& forma = apri(banco, 162, 253);
+    FormaBlocchiTastiera& forma = apri(banco, 162, 253);
     unisci(banco, forma);
-    QVERIFY(!forma.PulsanteCambioUDa.isVisible());
-    QVERIFY(forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioUDa->isVisible());
+    QVERIFY(forma.PulsanteCambioDaH->isVisible());
     bool guardato = false;
     banco.tempo.after(3.9, [&] {
       guardato = true;
       QVERIFY(siVede(forma, QStringLiteral("h4")));
       QVERIFY(!forma.TestoInput.isVisible());
     });
-    banco.clicca(forma.PulsanteCambioDaH);
+    banco.clicca(*forma.PulsanteCambioDaH);
     QVERIFY(guardato);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("h")), 4);
     QCOMPARE(avanzati(forma, QStringLiteral("da")), 1);
@@ -161,14 +161,14 @@ class FormHLUTest : public QObject {
 
   void twelveUnitsAndNineTensAskForOneCarryOnly() {
     Banco banco;
-    FormHLU& forma = apri(banco, 147, 255);  // 12 units, 9 tens
+    FormaBlocchiTastiera& forma = apri(banco, 147, 255);  // 12 units, 9 tens
     unisci(banco, forma);
-    QVERIFY(forma.PulsanteCambioUDa.isVisible());
-    banco.clicca(forma.PulsanteCambioUDa);
+    QVERIFY(forma.PulsanteCambioUDa->isVisible());
+    banco.clicca(*forma.PulsanteCambioUDa);
     // Ten longs stand there, and no second carry is asked for.
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 10);
     QCOMPARE(avanzati(forma, QStringLiteral("u")), 2);
-    QVERIFY(!forma.PulsanteCambioDaH.isVisible());
+    QVERIFY(!forma.PulsanteCambioDaH->isVisible());
     QVERIFY(forma.TestoInput.hasFocus());
     rispondi(banco, forma, QStringLiteral("402"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -186,13 +186,13 @@ class FormHLUTest : public QObject {
     QFETCH(int, addendo1);
     QFETCH(int, addendo2);
     Banco banco;
-    FormHLU& forma = apri(banco, addendo1, addendo2);
+    FormaBlocchiTastiera& forma = apri(banco, addendo1, addendo2);
     unisci(banco, forma);
     const auto cifra = [&](int posto) { return addendo1 / posto % 10 + addendo2 / posto % 10; };
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie),
              QStringLiteral("%1h %2da %3u").arg(cifra(100)).arg(cifra(10)).arg(cifra(1)));
-    if (forma.PulsanteCambioUDa.isVisible()) banco.clicca(forma.PulsanteCambioUDa);
-    if (forma.PulsanteCambioDaH.isVisible()) banco.clicca(forma.PulsanteCambioDaH);
+    if (forma.PulsanteCambioUDa->isVisible()) banco.clicca(*forma.PulsanteCambioUDa);
+    if (forma.PulsanteCambioDaH->isVisible()) banco.clicca(*forma.PulsanteCambioDaH);
     const int centinaia = cifra(100) + (cifra(10) >= 10 ? 1 : 0);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("h")), centinaia);
     rispondi(banco, forma, QString::number(addendo1 + addendo2));
@@ -214,41 +214,41 @@ class FormHLUTest : public QObject {
     Banco banco;
     banco.ambiente->stato.TipoEsercizio = qint16(tipo);
     banco.sorte.scrivi({{122, 988}, {4, 10}});
-    auto& forma = banco.apri<FormHLU>(somme::forme::kFormHLU);
+    auto& forma = banco.apri<FormaBlocchiTastiera>(somme::forme::kFormHLU);
     costruisci(banco, forma, 123);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     costruisci(banco, forma, 111);
     QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("1h 1da 1u"));
-    banco.clicca(forma.PulsanteCestino);
+    banco.clicca(forma.pulsanti.PulsanteCestino);
     costruisci(banco, forma, aggiunta);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), unite);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
   }
 
   void whatStandsOnTheJoinedBoardIsToldThroughBothCarries() {
     Banco banco;
-    FormHLU& forma = apri(banco, 167, 258);
+    FormaBlocchiTastiera& forma = apri(banco, 167, 258);
     const auto parole = [&] { return forma.ShockwaveFlash3.widget()->accessibleDescription(); };
     unisci(banco, forma);
     QCOMPARE(parole(), QStringLiteral("3 centinaia, 11 decine, 15 unità"));
-    banco.clicca(forma.PulsanteCambioUDa);
+    banco.clicca(*forma.PulsanteCambioUDa);
     QCOMPARE(parole(), QStringLiteral("3 centinaia, 12 decine, 5 unità"));
-    banco.clicca(forma.PulsanteCambioDaH);
+    banco.clicca(*forma.PulsanteCambioDaH);
     QCOMPARE(parole(), QStringLiteral("4 centinaia, 2 decine, 5 unità"));
   }
 
   void withoutItsMoviesTheExerciseGoesOn() {
     Banco banco;
     togliFilmati(banco);
-    FormHLU& forma = apri(banco, 167, 258);
+    FormaBlocchiTastiera& forma = apri(banco, 167, 258);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambioUDa);
-    banco.clicca(forma.PulsanteCambioDaH);
+    banco.clicca(*forma.PulsanteCambioUDa);
+    banco.clicca(*forma.PulsanteCambioDaH);
     rispondi(banco, forma, QStringLiteral("425"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 };
 
-const prova::Iscrizione<FormHLUTest, QApplication> kIscritta;
-#include "form_hlu_test.moc"
+const prova::Iscrizione<BlocchiEntro999Test, QApplication> kIscritta;
+#include "blocchi_entro999_test.moc"

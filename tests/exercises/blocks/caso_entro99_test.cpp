@@ -1,21 +1,21 @@
-#include "form_lu_di_prova.h"
+#include "blocchi_entro99.h"
 
 #include <QApplication>
 
 #include "support/iscrizione.h"
 
 using namespace prova;
-using somme::FormLU;
+using somme::FormaBlocchiTastiera;
 
 // The course of a case of longs and units: its result, what comes after it, and what becomes of it
 // when the form is left or comes back.
-class CasoLUTest : public QObject {
+class CasoEntro99Test : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
   void aWrongResultCountsAndStaysToBeCorrected() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     unisci(banco, forma);
     rispondi(banco, forma, QStringLiteral("36"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
@@ -31,7 +31,7 @@ class CasoLUTest : public QObject {
 
   void theRightResultSolvesTheCaseOnce() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     unisci(banco, forma);
     rispondi(banco, forma, QStringLiteral("37"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -53,7 +53,7 @@ class CasoLUTest : public QObject {
 
   void theBoxTakesTwoDigitsAndNothingElse() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     unisci(banco, forma);
     QVERIFY(forma.TestoInput.widget()->inputMethodHints().testFlag(Qt::ImhDigitsOnly));
     banco.scrivi(QStringLiteral("a -1.2x34"));
@@ -67,7 +67,7 @@ class CasoLUTest : public QObject {
 
   void aResultWithALeadingZeroIsTheNumberThatItMeans() {
     Banco banco;
-    FormLU& forma = apri(banco, 4, 3);
+    FormaBlocchiTastiera& forma = apri(banco, 4, 3);
     unisci(banco, forma);
     rispondi(banco, forma, QStringLiteral("07"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -76,9 +76,9 @@ class CasoLUTest : public QObject {
 
   void goingOnBeginsTheNextCaseAndKeepsThePicture() {
     Banco banco;
-    FormLU& forma = apri(banco, 27, 15);
+    FormaBlocchiTastiera& forma = apri(banco, 27, 15);
     unisci(banco, forma);
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     rispondi(banco, forma, QStringLiteral("42"));
     banco.sorte.scrivi(caso(30, 8));
     banco.batti(Qt::Key_Return);
@@ -92,14 +92,14 @@ class CasoLUTest : public QObject {
     QCOMPARE(contenuto(forma.ShockwaveFlash2, kSpecie), QStringLiteral("0da 0u"));
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0da 0u"));
     QVERIFY(incorniciata(forma, forma.Label1));
-    QCOMPARE(forma.PicturePulsanti.left(), forma.Label1.left());
+    QCOMPARE(forma.pulsanti.PicturePulsanti.left(), forma.Label1.left());
     QVERIFY(forma.ImgSi.isVisible());
     QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral(" 27 +  15 =  42\r\n")));
   }
 
   void whatIsTypedBeforeTheBoardsOfTheNextCaseAreBuiltGoesNowhere() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     unisci(banco, forma);
     rispondi(banco, forma, QStringLiteral("37"));
     banco.sorte.scrivi(caso(30, 8));
@@ -113,7 +113,7 @@ class CasoLUTest : public QObject {
     QVERIFY(!forma.PulsanteAvanti.isEnabled());
     // Enter was for the button with the focus, which is the first of the blocks.
     QCOMPARE(contenuto(forma.ShockwaveFlash1, kSpecie), QStringLiteral("1da 0u"));
-    banco.clicca(forma.PulsanteCestino);
+    banco.clicca(forma.pulsanti.PulsanteCestino);
     unisci(banco, forma);
     QCOMPARE(forma.TestoInput.text(), QString());
     rispondi(banco, forma, QStringLiteral("38"));
@@ -122,8 +122,8 @@ class CasoLUTest : public QObject {
 
   void aWrongVerdictStaysIntoTheNextCaseToo() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
-    banco.clicca(forma.PulsanteConferma);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     banco.sorte.scrivi(caso(30, 8));
     banco.riattiva();
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
@@ -133,7 +133,7 @@ class CasoLUTest : public QObject {
 
   void goingOnIsImpossibleBeforeTheRightResult() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     banco.clicca(forma.PulsanteAvanti);
     banco.batti(Qt::Key_V, Qt::AltModifier);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 24 +  13 = "));
@@ -144,24 +144,24 @@ class CasoLUTest : public QObject {
 
   void aWholeSumGoesByTheKeyboardAlone() {
     Banco banco;
-    FormLU& forma = apri(banco, 11, 9);
-    forma.PulsanteDa.setFocus();
+    FormaBlocchiTastiera& forma = apri(banco, 11, 9);
+    forma.pulsanti.PulsanteDa.setFocus();
     banco.batti(Qt::Key_Space);
     banco.batti(Qt::Key_Tab);
     banco.batti(Qt::Key_Return);
     banco.batti(Qt::Key_Tab);
     banco.batti(Qt::Key_Tab);
-    QVERIFY(forma.PulsanteConferma.hasFocus());
+    QVERIFY(forma.pulsanti.PulsanteConferma.hasFocus());
     banco.batti(Qt::Key_Return);
-    QVERIFY(forma.PulsanteConferma.hasFocus());
+    QVERIFY(forma.pulsanti.PulsanteConferma.hasFocus());
     banco.batti(Qt::Key_Backtab, Qt::ShiftModifier);
     banco.batti(Qt::Key_Backtab, Qt::ShiftModifier);
     for (int i = 0; i < 9; ++i) banco.batti(Qt::Key_Space);
     banco.batti(Qt::Key_Tab);
     banco.batti(Qt::Key_Tab);
     banco.batti(Qt::Key_Return);
-    QVERIFY(forma.PulsanteCambio.isVisible());
-    for (int i = 0; i < 4 && !forma.PulsanteCambio.hasFocus(); ++i) banco.batti(Qt::Key_Tab);
+    QVERIFY(forma.PulsanteCambio->isVisible());
+    for (int i = 0; i < 4 && !forma.PulsanteCambio->hasFocus(); ++i) banco.batti(Qt::Key_Tab);
     banco.batti(Qt::Key_Space);
     rispondi(banco, forma, QStringLiteral("20"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -177,18 +177,18 @@ class CasoLUTest : public QObject {
     livello("5", {{23, 88}, {3, 10}}, " 24 +  30 = ", "aggiungi solo decine");
   }
   void eachLevelDrawsItsKindOfCaseAndNamesItInTheRecord() {
-    provaLivello<FormLU>(somme::forme::kFormLU, "Piatti, lunghi, unità: entro 99");
+    provaLivello<FormaBlocchiTastiera>(somme::forme::kFormLU, "Piatti, lunghi, unità: entro 99");
   }
 
   void aLevelThatTheTableDoesNotHaveKeepsCaseAndRecord() {
     Banco banco;
-    const FormLU& forma = apri(banco, 24, 13);
+    const FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     provaLivelloIgnoto(banco, forma, 6);
   }
 
   void comingBackStartsANewCaseAndRestartsTheRecord() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     unisci(banco, forma);
     rispondi(banco, forma, QStringLiteral("37"));
     banco.sorte.scrivi(caso(30, 8));
@@ -213,26 +213,26 @@ class CasoLUTest : public QObject {
     QFETCH(bool, inCambio);
     QFETCH(double, dopo);
     Banco banco;
-    FormLU& forma = apri(banco, 27, 15);
+    FormaBlocchiTastiera& forma = apri(banco, 27, 15);
     costruisci(banco, forma, 27);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     costruisci(banco, forma, 15);
     const auto torna = [&] {
       banco.sorte.scrivi(caso(30, 8));
       banco.riattiva();
     };
     if (!inCambio) banco.tempo.after(dopo, torna);
-    banco.clicca(forma.PulsanteConferma);
+    banco.clicca(forma.pulsanti.PulsanteConferma);
     if (inCambio) {
       banco.tempo.after(dopo, torna);
-      banco.clicca(forma.PulsanteCambio);
+      banco.clicca(*forma.PulsanteCambio);
     }
     banco.tempo.advance(10);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 30 +  8 = "));
     QVERIFY(forma.ShockwaveFlash1.isVisible());
     QVERIFY(!forma.ShockwaveFlash3.isVisible());
     QVERIFY(!forma.TestoInput.isVisible());
-    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteCambio->isVisible());
     QVERIFY(incorniciata(forma, forma.Label1));
     QCOMPARE(contenuto(forma.ShockwaveFlash3, kSpecie), QStringLiteral("0da 0u"));
     unisci(banco, forma);
@@ -243,12 +243,12 @@ class CasoLUTest : public QObject {
 
   void comingBackWhileTheCarryIsAskedForTakesItsButtonAway() {
     Banco banco;
-    FormLU& forma = apri(banco, 27, 15);
+    FormaBlocchiTastiera& forma = apri(banco, 27, 15);
     unisci(banco, forma);
-    QVERIFY(forma.PulsanteCambio.isVisible());
+    QVERIFY(forma.PulsanteCambio->isVisible());
     banco.sorte.scrivi(caso(30, 8));
     banco.riattiva();
-    QVERIFY(!forma.PulsanteCambio.isVisible());
+    QVERIFY(!forma.PulsanteCambio->isVisible());
   }
 
   void leavingInTheMiddleOfAWaitEndsIt_data() {
@@ -259,14 +259,14 @@ class CasoLUTest : public QObject {
   void leavingInTheMiddleOfAWaitEndsIt() {
     QFETCH(bool, inCambio);
     Banco banco;
-    FormLU& forma = apri(banco, 27, 15);
+    FormaBlocchiTastiera& forma = apri(banco, 27, 15);
     const double prima = adesso(banco);
     const auto esci = [&] { forma.mnuEsci.click(); };
     if (inCambio) unisci(banco, forma);
     const double poi = adesso(banco);
     banco.tempo.after(1, esci);
     if (inCambio) {
-      banco.clicca(forma.PulsanteCambio);
+      banco.clicca(*forma.PulsanteCambio);
       QVERIFY(adesso(banco) - poi < 1.5);
     } else {
       unisci(banco, forma);
@@ -281,23 +281,23 @@ class CasoLUTest : public QObject {
 
   void theButtonsDoNothingInTheMiddleOfTheWaits() {
     Banco banco;
-    FormLU& forma = apri(banco, 27, 15);
-    const QPoint cestino = banco.centro(forma.PulsanteCestino);
-    const QPoint conferma = banco.centro(forma.PulsanteConferma);
+    FormaBlocchiTastiera& forma = apri(banco, 27, 15);
+    const QPoint cestino = banco.centro(forma.pulsanti.PulsanteCestino);
+    const QPoint conferma = banco.centro(forma.pulsanti.PulsanteConferma);
     int volte = 0;
     const auto premiTutto = [&] {
       ++volte;
       banco.cliccaIn(cestino);
       banco.cliccaIn(conferma);
       banco.clicca(forma.PulsanteAvanti);
-      banco.clicca(forma.PulsanteCambio);
+      banco.clicca(*forma.PulsanteCambio);
       forma.MenuAzzera.click();
     };
     banco.tempo.after(1, premiTutto);
     unisci(banco, forma);
     banco.tempo.after(1, premiTutto);
     banco.tempo.after(3.5, premiTutto);
-    banco.clicca(forma.PulsanteCambio);
+    banco.clicca(*forma.PulsanteCambio);
     QCOMPARE(volte, 3);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("da")), 4);
     QCOMPARE(blocchi(forma.ShockwaveFlash3, QStringLiteral("u"), 11), 2);
@@ -308,7 +308,7 @@ class CasoLUTest : public QObject {
 
   void thePrintViewOpenedInAWaitLetsTheBoxHaveTheFocusAfterwards() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     banco.tempo.after(1, [&] { forma.mnuStampa.click(); });
     unisci(banco, forma);
     QVERIFY(forma.PictureStampa.isVisible());
@@ -322,7 +322,7 @@ class CasoLUTest : public QObject {
 
   void thePrintViewCoversTheBoards() {
     Banco banco;
-    FormLU& forma = apri(banco, 24, 13);
+    FormaBlocchiTastiera& forma = apri(banco, 24, 13);
     banco.batti(Qt::Key_S, Qt::AltModifier);
     QCOMPARE(forma.PictureStampa.width(), forma.width());
     QCOMPARE(forma.PictureStampa.height(), forma.height());
@@ -332,5 +332,5 @@ class CasoLUTest : public QObject {
   }
 };
 
-const prova::Iscrizione<CasoLUTest, QApplication> kIscritta;
-#include "caso_lu_test.moc"
+const prova::Iscrizione<CasoEntro99Test, QApplication> kIscritta;
+#include "caso_entro99_test.moc"
