@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exercises/core/con_scansione.h"
+#include "exercises/core/input_scansione.h"
 #include "exercises/core/disegno_comune.h"
 
 // Rows of the scanning forms' keyboards, with what each form stores of them.

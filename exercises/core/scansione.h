@@ -6,7 +6,7 @@
 #include "input/testo_input_numerico.h"
 #include "platform/forms/controls/text_box.h"
 
-// What the scanning forms of all families do with their keyboards; see con_scansione.h.
+// What the scanning forms of all families do with their keyboards; see input_scansione.h.
 namespace somme {
 
 // Gives a keyboard the place that a hidden label carries: width, top and left, in this order; its
