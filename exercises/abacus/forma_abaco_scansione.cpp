@@ -76,29 +76,6 @@ void FormaAbacoScansione::NuovoCaso() {
   TastieraHDUScansione1.Attiva();
 }
 
-void FormaAbacoScansione::TastoHDU(qint16 tasto) {
-  switch (tasto) {
-    case TastieraHDUScansione::kMigliaia:
-      Inserisci(Posto::Migliaia);
-      break;
-    case TastieraHDUScansione::kCentinaia:
-      Inserisci(Posto::Centinaia);
-      break;
-    case TastieraHDUScansione::kDecine:
-      Inserisci(Posto::Decine);
-      break;
-    case TastieraHDUScansione::kUnita:
-      Inserisci(Posto::Unita);
-      break;
-    case TastieraHDUScansione::kCestino:
-      Svuota();
-      break;
-    default:
-      PassaAlleCifre();
-      break;
-  }
-}
-
 void FormaAbacoScansione::PassaAlleCifre() {
   TastieraHDUScansione1.Disattiva();
   TastieraHDUScansione1.setVisible(false);

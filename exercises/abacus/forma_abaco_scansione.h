@@ -37,7 +37,6 @@ class FormaAbacoScansione final : public FormaAbaco {
 
  private:
   void PosaTastiere();
-  void TastoHDU(qint16 tasto);
   void Cambio(Posto da);
   void PassaAlleCifre();
   void SvuotaInput();
@@ -52,7 +51,9 @@ class FormaAbacoScansione final : public FormaAbaco {
        .conferma = [this] { TestoInput.TerminaInserimento(); },
        .avanti = [this] { NuovoCaso(); }},
       TastieraHDUScansione1,
-      [this](qint16 tasto) { TastoHDU(tasto); }};
+      {.metti = [this](Posto posto) { Inserisci(posto); },
+       .cestino = [this] { Svuota(); },
+       .conferma = [this] { PassaAlleCifre(); }}};
 };
 
 }  // namespace somme

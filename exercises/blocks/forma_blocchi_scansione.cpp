@@ -83,28 +83,6 @@ void FormaBlocchiScansione::ChiediRisultato() {
   TastieraNumericaScansione1.DisattivaAvanti();
 }
 
-void FormaBlocchiScansione::TastoHDU(qint16 tasto) {
-  switch (tasto) {
-    case TastieraHDUScansione::kCentinaia:
-      MettiBlocco(Posto::Centinaia);
-      break;
-    case TastieraHDUScansione::kDecine:
-      MettiBlocco(Posto::Decine);
-      break;
-    case TastieraHDUScansione::kUnita:
-      MettiBlocco(Posto::Unita);
-      break;
-    case TastieraHDUScansione::kCestino:
-      Svuota();
-      break;
-    case TastieraHDUScansione::kConferma:
-      GiudicaTavola();
-      break;
-    default:
-      break;
-  }
-}
-
 void FormaBlocchiScansione::ChiudiPannelloStampa() {
   FormaBlocchi::ChiudiPannelloStampa();
   NuovoCaso();

@@ -37,7 +37,6 @@ class FormaBlocchiScansione final : public FormaBlocchi {
   void ChiudiPannelloStampa() override;
 
  private:
-  void TastoHDU(qint16 tasto);
   void Avvia(auto& tastiera) {
     MettiModoScansione(stato(), tastiera);
     tastiera.Attiva();
@@ -51,7 +50,9 @@ class FormaBlocchiScansione final : public FormaBlocchi {
                              .conferma = [this] { Rispondi(NumeroScritto(TestoInput)); },
                              .avanti = [this] { NuovoCaso(); }},
                             TastieraHDUScansione1,
-                            [this](qint16 tasto) { TastoHDU(tasto); }};
+                            {.metti = [this](Posto posto) { MettiBlocco(posto); },
+                             .cestino = [this] { Svuota(); },
+                             .conferma = [this] { GiudicaTavola(); }}};
 };
 
 // Up to 99 and up to 999.

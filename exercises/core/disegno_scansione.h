@@ -1,7 +1,7 @@
 #pragma once
 
-#include "exercises/core/input_scansione.h"
 #include "exercises/core/disegno_comune.h"
+#include "exercises/core/input_scansione.h"
 
 // Rows of the scanning forms' keyboards, with what each form stores of them.
 namespace somme::disegno {

@@ -12,11 +12,11 @@ InputScansione::InputScansione(FormaEsercizio& forma, TastieraNumericaScansione&
 }
 
 InputScansione::InputScansione(FormaEsercizio& forma, TastieraNumericaScansione& cifre,
-                               AzioniCifre azioni, TastieraHDUScansione& hdu,
-                               std::function<void(qint16 tasto)> tasto)
+                               AzioniCifre azioni, TastieraHDUScansione& hdu, AzioniValori valori)
     : InputScansione(forma, cifre, std::move(azioni)) {
   hdu_ = &hdu;
-  hdu_->onComunicaPulsante(std::move(tasto));
+  valori_ = std::move(valori);
+  hdu_->onComunicaPulsante([this](qint16 tasto) { TastoHDU(tasto); });
 }
 
 void InputScansione::AlCaricamento() {
@@ -45,6 +45,29 @@ void InputScansione::TastoNumerico(qint16 tasto) {
       break;
     default:
       tasti_.Cifra(tasto);
+      break;
+  }
+}
+
+void InputScansione::TastoHDU(qint16 tasto) const {
+  switch (tasto) {
+    case TastieraHDUScansione::kMigliaia:
+      valori_.metti(Posto::Migliaia);
+      break;
+    case TastieraHDUScansione::kCentinaia:
+      valori_.metti(Posto::Centinaia);
+      break;
+    case TastieraHDUScansione::kDecine:
+      valori_.metti(Posto::Decine);
+      break;
+    case TastieraHDUScansione::kUnita:
+      valori_.metti(Posto::Unita);
+      break;
+    case TastieraHDUScansione::kCestino:
+      valori_.cestino();
+      break;
+    default:
+      valori_.conferma();
       break;
   }
 }

@@ -4,12 +4,20 @@
 
 #include "exercises/core/modo_input.h"
 #include "exercises/core/tasti_cifre.h"
+#include "games/quantita.h"
 #include "input/tastiera_hdu_scansione.h"
 #include "input/tastiera_numerica_scansione.h"
 
 namespace somme {
 
 class FormaEsercizio;
+
+// What the keys of a keyboard of place values lead to on a form.
+struct AzioniValori {
+  std::function<void(Posto posto)> metti;
+  std::function<void()> cestino;
+  std::function<void()> conferma;
+};
 
 // Scanning, as a form holds it: the keyboard of digits and what its keys lead to, and on some forms
 // the keyboard of place values beside it; only one of the two is on the screen at a time. The
@@ -25,10 +33,9 @@ class FormaEsercizio;
 class InputScansione final : public ModoInput {
  public:
   InputScansione(FormaEsercizio& forma, TastieraNumericaScansione& cifre, AzioniCifre azioni);
-  // hdu: the keyboard of place values; tasto: does what one of TastieraHDUScansione::Tasti leads
-  // to.
+  // hdu: the keyboard of place values.
   InputScansione(FormaEsercizio& forma, TastieraNumericaScansione& cifre, AzioniCifre azioni,
-                 TastieraHDUScansione& hdu, std::function<void(qint16 tasto)> tasto);
+                 TastieraHDUScansione& hdu, AzioniValori valori);
 
   // Names the keys that show a picture in the current language.
   void AlCaricamento() override;
@@ -36,11 +43,13 @@ class InputScansione final : public ModoInput {
 
  private:
   void TastoNumerico(qint16 tasto);
+  void TastoHDU(qint16 tasto) const;
 
   FormaEsercizio& forma_;
   TastiCifre tasti_;
   TastieraNumericaScansione& cifre_;
   TastieraHDUScansione* hdu_ = nullptr;
+  AzioniValori valori_;
 };
 
 }  // namespace somme
