@@ -228,7 +228,7 @@ class Misura {
 
   static Descrizione descrivi(const Control& controllo) {
     const QWidget* widget = controllo.widget();
-    const QPoint alto = widget->mapTo(controllo.form().page(), QPoint());
+    const QPoint alto = widget->mapTo(controllo.home().page(), QPoint());
     return {dynamic_cast<const platform::Button*>(&controllo) != nullptr, controllo.caption(),
             widget->font(), QRect(alto, widget->size()), controllo.isVisible()};
   }

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "app/shared/ambiente.h"
-#include "platform/forms/form.h"
 
 namespace somme {
 
@@ -27,7 +26,7 @@ platform::Socket& CollegamentoHelpiKeys::CreaPresa() {
 void CollegamentoHelpiKeys::Apri() {
   segnali_.HelpiKeysConnesso = false;
   CreaPresa().close();
-  prese_[0].form().letEventsRun();
+  prese_[0].home().letEventsRun();
   prese_.unload(kPresa);
   platform::Socket& presa = CreaPresa();
   presa.connectTo(ambiente_.servizi.porta);
@@ -40,7 +39,7 @@ void CollegamentoHelpiKeys::Manda(const QByteArray& richiesta) {
 
 void CollegamentoHelpiKeys::Richiedi() {
   Manda(QByteArrayLiteral("02#REQ-TOUCH"));
-  prese_[0].form().letEventsRun();
+  prese_[0].home().letEventsRun();
 }
 
 void CollegamentoHelpiKeys::Lascia() {

@@ -38,7 +38,7 @@ void FoglioTastiera::onActivate() {
   }
   Disponi(griglia);
   if (foglioStampato_) {
-    runtime().forms().unload(*this);
+    unload();
     return;
   }
   Offri();
@@ -48,7 +48,8 @@ void FoglioTastiera::onActivate() {
 // A sheet without a printer is told by its size, which is below 0, and the dialog does not open.
 void FoglioTastiera::Offri() {
   constexpr float kScala = 500000;
-  auto& dialogo = static_cast<frmAvviaStampa&>(runtime().forms().loaded(forme::kFrmAvviaStampa));
+  auto& dialogo =
+      static_cast<frmAvviaStampa&>(ambiente().fondo.forms().loaded(forme::kFrmAvviaStampa));
   const frmAvviaStampa::Foglio foglio =
       dialogo.FoglioStampa(static_cast<int>(platform::Orientation::Landscape));
   frmAvviaStampa::Richiesta richiesta;

@@ -64,7 +64,7 @@ frmAvviaStampa::frmAvviaStampa(Ambiente& ambiente)
   cmdStampa.onClick([this] { Stampa(); });
   cmdChiudi.onClick([this] { Chiudi(); });
   // The chosen printer is the one in use already.
-  cmdOK.onClick([this] { runtime().forms().unload(*this); });
+  cmdOK.onClick([this] { unload(); });
 }
 
 void frmAvviaStampa::onLoad() {
@@ -90,8 +90,8 @@ frmAvviaStampa::Foglio frmAvviaStampa::FoglioStampa(std::optional<int> orientame
   if (!ApriLaPredefinita()) return {};
   if (orientamento) {
     if (!EOrientamento(*orientamento)) {
-      runtime().showBox({QStringLiteral("Orientamento errato"), kErroreDocumento, BoxIcon::Critical,
-                         BoxButtons::Ok});
+      ground().showBox({QStringLiteral("Orientamento errato"), kErroreDocumento, BoxIcon::Critical,
+                        BoxButtons::Ok});
       return {};
     }
     stampante_.ScriviOrientamento(*orientamento);
@@ -110,7 +110,7 @@ bool frmAvviaStampa::ApriLaPredefinita() {
 }
 
 bool frmAvviaStampa::StampaFCPB(const Richiesta& richiesta) {
-  platform::Forms& forme = runtime().forms();
+  platform::Forms& forme = ambiente().fondo.forms();
   // The dialog is unloaded before this returns.
   const std::shared_ptr<platform::Form> vivo = shared_from_this();
   bool pronta = false;
@@ -120,8 +120,8 @@ bool frmAvviaStampa::StampaFCPB(const Richiesta& richiesta) {
       pronta = true;
     }
   } catch (const ErroreDiStampa& errore) {
-    runtime().showBox({errore.descrizione + QStringLiteral("\n\n"), kErroreDocumento,
-                       BoxIcon::Critical, BoxButtons::Ok});
+    ground().showBox({errore.descrizione + QStringLiteral("\n\n"), kErroreDocumento,
+                      BoxIcon::Critical, BoxButtons::Ok});
   }
   if (!pronta) {
     forme.unload(*this);
@@ -203,7 +203,7 @@ void frmAvviaStampa::Copia_Oggetto(QWidget& finestra, const QString& nome,
     destinazione.setPicture(copia, {});
     picCopiaTemp.clear();
   } catch (const RunTimeError& errore) {
-    runtime().showBox(
+    ground().showBox(
         {QStringLiteral("Errore %1\n%2").arg(errore.number()).arg(errore.description()),
          QStringLiteral(" Errore nella stampa di ") + nome, BoxIcon::Critical, BoxButtons::Ok});
   }
@@ -251,7 +251,7 @@ void frmAvviaStampa::MostraProprieta() {
   if (!stampante_.aperta()) return;
   platform::PrinterSettings scelte = stampante_.impostazioni();
   bool accettate = false;
-  runtime().gate().wait([&] {
+  ground().gate().wait([&] {
     accettate =
         ambiente().servizi.pagina.choose(stampante_.nome(), stampante_.caratteristiche(), scelte);
   });
@@ -300,8 +300,8 @@ void frmAvviaStampa::AggiornaAnteprima() {
 
 void frmAvviaStampa::DisegnaAnteprima(const QRect& dove) {
   if (!immagine_.presente()) {
-    runtime().showBox({QStringLiteral("Errore di Copia"), QStringLiteral(" Errore nell'anteprima"),
-                       BoxIcon::Critical, BoxButtons::Ok});
+    ground().showBox({QStringLiteral("Errore di Copia"), QStringLiteral(" Errore nell'anteprima"),
+                      BoxIcon::Critical, BoxButtons::Ok});
     return;
   }
   const QImage& ridotta = immagine_.Ridotta(monocromatica_);
@@ -355,12 +355,12 @@ void frmAvviaStampa::Stampa() {
   letEventsRun();
   EseguiStampa(ambiente(), stampante_, immagine_, posto_, titolo_);
   lblStampaInCorso.setVisible(false);
-  runtime().forms().unload(*this);
+  unload();
 }
 
 void frmAvviaStampa::Chiudi() {
   stampante_.ScriviImpostazioni(salvate_);
-  runtime().forms().unload(*this);
+  unload();
 }
 
 void frmAvviaStampa::onClose() {

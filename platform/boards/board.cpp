@@ -1,9 +1,8 @@
 #include "platform/boards/board.h"
 
 #include "platform/flash/movie_view.h"
-#include "platform/forms/form.h"
-#include "platform/forms/keys/key_guard.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/gate.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
@@ -18,7 +17,7 @@ MovieView& viewOf(QWidget* widget) {
 }  // namespace
 
 QWidget* Board::create(QWidget* parent) {
-  auto* view = new MovieView(runtime().time(), parent);
+  auto* view = new MovieView(ground().time(), parent);
   QObject::connect(view, &MovieView::fsCommand, view,
                    [this](const QString& command, const QString& args) {
                      if (command_) raiseEvent([&] { command_(command, args); });
@@ -31,8 +30,8 @@ QWidget* Board::create(QWidget* parent) {
 }
 
 void Board::press(const QString& clip) {
-  const bool live = widget()->isVisible() && widget()->isEnabled() && !form().isCovered(*this);
-  if (live && runtime().keys().mayAct(*widget())) viewOf(widget()).clickClip(clip);
+  const bool live = widget()->isVisible() && widget()->isEnabled() && !home().isCovered(*this);
+  if (live && ground().mayAct(*widget())) viewOf(widget()).clickClip(clip);
 }
 
 void Board::offerClips(const std::vector<Offered>& clips) {
@@ -51,7 +50,7 @@ void Board::setMovie(const QString& path) {
   widget()->hide();
   viewOf(widget()).setMovie(path);
   // The control lives as long as its widget.
-  runtime().gate().afterHandler([this, view = QPointer<QWidget>(widget())] {
+  ground().gate().afterHandler([this, view = QPointer<QWidget>(widget())] {
     if (view && --loading_ == 0) view->setVisible(isVisible());
   });
 }

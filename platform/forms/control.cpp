@@ -2,8 +2,7 @@
 
 #include <QWidget>
 
-#include "platform/forms/form.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
@@ -19,10 +18,6 @@ Control::Control(ControlHost& host) : host_(host) {
 
 Control::~Control() {
   delete widget_.data();
-}
-
-Runtime& Control::runtime() const {
-  return form().runtime();
 }
 
 void Control::build(QWidget* parent, const QString& name, int index, const TwipsRect& place,
@@ -69,11 +64,11 @@ void buildCopy(Control& copy, const Control& original, int index) {
   copy.setEnabled(original.isEnabled());
   copy.setFontSize(original.fontSize());
   copy.setMousePointer(original.mousePointer());
-  original.form().adopt(copy);
+  original.home().adopt(copy);
 }
 
 void takeOff(Control& control) {
-  control.form().release(control);
+  control.home().release(control);
 }
 
 void Control::applyScale() {
@@ -113,7 +108,7 @@ void Control::setVisible(bool visible) {
   visible_ = visible;
   if (!widget_) return;
   widget_->setVisible(visible);
-  if (!visible) form().dropHiddenFocus();
+  if (!visible) home().dropHiddenFocus();
 }
 
 void Control::setEnabled(bool enabled) {
@@ -157,7 +152,7 @@ void Control::setMousePointer(int pointer) {
   pointer_ = pointer;
   if (!widget_) return;
   if (pointer == kOwnPointer) {
-    widget_->setCursor(runtime().pointer());
+    widget_->setCursor(ground().pointer());
   } else {
     widget_->setCursor(Qt::ArrowCursor);
   }
@@ -165,8 +160,8 @@ void Control::setMousePointer(int pointer) {
 
 void Control::setFocus() {
   if (!widget_ || !enabled_ || !visible_) return;
-  if (form().isCovered(*this)) {
-    form().setFocusBelow(*this);
+  if (home().isCovered(*this)) {
+    home().setFocusBelow(*this);
     return;
   }
   if (widget_->isVisible() && widget_->isEnabled()) widget_->setFocus(Qt::OtherFocusReason);
@@ -181,7 +176,7 @@ void Control::bringToFront() {
 }
 
 void Control::raiseEvent(const std::function<void()>& handler) const {
-  if (handler) form().run(handler);
+  if (handler) home().raise(handler);
 }
 
 }  // namespace platform

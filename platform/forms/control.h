@@ -6,17 +6,17 @@
 #include <functional>
 #include <vector>
 
+#include "platform/forms/control_home.h"
 #include "platform/forms/design.h"
 
 namespace platform {
-
-class Runtime;
 
 // What controls live in: a form, or a reusable control that is made of controls itself.
 class ControlHost {
  public:
   virtual ~ControlHost() = default;
-  [[nodiscard]] virtual Form& form() = 0;
+  // The form that it is, or stands on.
+  [[nodiscard]] virtual ControlHome& home() = 0;
   // How the design stands on the page now.
   [[nodiscard]] virtual const Scale& scale() const = 0;
   // Takes note of a member when it is constructed.
@@ -40,7 +40,7 @@ class Control {
   [[nodiscard]] const QString& name() const { return name_; }
   [[nodiscard]] int index() const { return index_; }  // -1 outside of an array
   [[nodiscard]] bool isBuilt() const { return built_; }
-  [[nodiscard]] Form& form() const { return host_.form(); }
+  [[nodiscard]] ControlHome& home() const { return host_.home(); }
 
   // The place in the container, in twips of the page as it stands now. It is kept as a fraction of
   // the page, so that it follows every resize without drift.
@@ -119,7 +119,7 @@ class Control {
  protected:
   [[nodiscard]] ControlHost& host() const { return host_; }
   [[nodiscard]] const Scale& scale() const { return host_.scale(); }
-  [[nodiscard]] Runtime& runtime() const;
+  [[nodiscard]] Ground& ground() const { return home().ground(); }
   // Runs a handler of the form through its gate.
   void raiseEvent(const std::function<void()>& handler) const;
 

@@ -3,11 +3,11 @@
 #include <QApplication>
 #include <algorithm>
 
+#include "platform/base/services.h"
+#include "platform/base/time_source.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/menu_bar.h"
-#include "platform/forms/modal_window.h"
-#include "platform/forms/runtime.h"
 
 namespace platform {
 
@@ -54,8 +54,8 @@ bool keepFromHidden(Page& page, QWidget* before, QWidget& now) {
 
 }  // namespace
 
-Form::Form(Runtime& runtime, const FormDesign& design)
-    : runtime_(runtime),
+Form::Form(Ground& ground, const FormDesign& design)
+    : ground_(ground),
       design_(design),
       name_(toText(design.name)),
       caption_(toText(design.caption)) {}
@@ -146,25 +146,22 @@ std::vector<const Control*> Form::withoutRow() const {
 
 void Form::setCaption(const QString& caption) {
   caption_ = caption;
-  runtime_.window().formChanged(*this);
+  ground_.formChanged(*this);
 }
 
 void Form::setDesignHeight(double twips) {
   design_.height = twips;
   laidOut_ = false;
-  if (auto* window = qobject_cast<ModalWindow*>(page_->window())) {
-    window->fit();
-    takeSize();
-  }
+  ground_.formChanged(*this);
 }
 
 void Form::onClose() {
-  runtime_.forms().unload(*this);
+  unload();
 }
 
 void Form::setIcon(const QIcon& icon) {
   icon_ = icon;
-  runtime_.window().formChanged(*this);
+  ground_.formChanged(*this);
 }
 
 void Form::paintGradient() {
@@ -185,11 +182,11 @@ void Form::layOut() {
 }
 
 void Form::letEventsRun() {
-  runtime_.gate().wait([this] { runtime_.time().letEventsRun(); });
+  ground_.gate().wait([this] { ground_.time().letEventsRun(); });
 }
 
 bool Form::run(const std::function<void()>& handler, Gate::Cases cases) {
-  return runtime_.gate().run(shared_from_this(), handler, cases);
+  return ground_.gate().run(shared_from_this(), handler, cases);
 }
 
 void Form::dispose() {
@@ -242,6 +239,10 @@ void Form::dropHiddenFocus() {
   if (left != nullptr && !left->isVisible()) left->clearFocus();
 }
 
+const QWidget* Form::focusRoom() const {
+  return cover_ == nullptr ? nullptr : cover_->container();
+}
+
 bool Form::isCovered(const Control& control) const {
   if (cover_ == nullptr || control.widget() == nullptr) return false;
   return cover_ != &control && !cover_->container()->isAncestorOf(control.widget());
@@ -273,7 +274,7 @@ void Form::keysLetGo() {
 }
 
 void Form::announce(const QString& sentence) {
-  runtime_.announcer().announce(sentence);
+  ground_.announcer().announce(sentence);
 }
 
 }  // namespace platform

@@ -4,19 +4,21 @@
 #include <algorithm>
 
 #include "platform/base/run_time_error.h"
-#include "platform/forms/form.h"
+#include "platform/base/time_source.h"
+#include "platform/forms/loaded_form.h"
 #include "platform/forms/modal_window.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/window.h"
 
 namespace platform {
 
-Forms::Forms(Runtime& runtime, Factory factory) : runtime_(runtime), factory_(std::move(factory)) {}
+Forms::Forms(Gate& gate, TimeSource& time, Window& window, Factory factory)
+    : gate_(gate), time_(time), window_(window), factory_(std::move(factory)) {}
 
 Forms::~Forms() = default;
 
 std::shared_ptr<Form> Forms::find(std::string_view name) const {
   const auto found = std::find_if(loaded_.begin(), loaded_.end(), [name](const auto& form) {
-    return form->design().name == name && !form->isLeaving();
+    return form->design().name == name && !LoadedForm(*form).isLeaving();
   });
   return found == loaded_.end() ? nullptr : *found;
 }
@@ -26,10 +28,10 @@ std::shared_ptr<Form> Forms::load(std::string_view name) {
   std::shared_ptr<Form> form = factory_(name);
   if (!form) throw RunTimeError(RunTimeError::InvalidCall);
   loaded_.push_back(form);
-  form->build(runtime_.window().pages());
-  form->page()->resize(runtime_.window().pages()->size());
+  LoadedForm(*form).build(window_.pages());
+  form->page()->resize(window_.pages()->size());
   form->page()->arrange();
-  const bool done = form->run([&form] { form->fireLoad(); }, Gate::Cases::DoNotMatter);
+  const bool done = LoadedForm(*form).runLoad();
   if (!done || form->isUnloaded()) throw Unwind{};
   return form;
 }
@@ -46,15 +48,15 @@ void Forms::show(std::string_view name) {
   std::erase(shown_, form);
   shown_.push_back(form);
   ++pageNumber_;
-  runtime_.window().showPage(*form);
+  window_.showPage(*form);
   --changing_;
-  form->run([&form] { form->fireActivate(); }, Gate::Cases::DoNotMatter);
-  if (runtime_.gate().isClosed()) throw Unwind{};
+  LoadedForm(*form).runActivate();
+  if (gate_.isClosed()) throw Unwind{};
 }
 
 void Forms::pass(Form& from, std::string_view to) {
   const std::shared_ptr<Form> keep = from.shared_from_this();
-  from.leave();
+  LoadedForm(from).leave();
   show(to);
   unload(from);
 }
@@ -62,47 +64,46 @@ void Forms::pass(Form& from, std::string_view to) {
 void Forms::unload(Form& form) {
   if (form.isUnloaded()) return;
   const std::shared_ptr<Form> keep = form.shared_from_this();
-  keep->run([&keep] { keep->fireUnload(); }, Gate::Cases::DoNotMatter);
+  LoadedForm(*keep).runUnload();
   const bool onScreen = current() == keep.get();
   std::erase(shown_, keep);
   std::erase(loaded_, keep);
   gone_.push_back(keep);
-  if (onScreen && !shown_.empty() && !runtime_.gate().isClosed()) {
+  if (onScreen && !shown_.empty() && !gate_.isClosed()) {
     const std::shared_ptr<Form> below = shown_.back();
     ++pageNumber_;
-    runtime_.window().showPage(*below);
+    window_.showPage(*below);
     activateLater(below);
   }
-  keep->dispose();
+  LoadedForm(*keep).dispose();
   bury();
 }
 
 void Forms::activateLater(const std::shared_ptr<Form>& form) {
   const auto activate = [this, weak = std::weak_ptr(form)] {
     const std::shared_ptr<Form> alive = weak.lock();
-    if (!alive || current() != alive.get() || alive->isLeaving()) return;
-    alive->run([&alive] { alive->fireActivate(); }, Gate::Cases::DoNotMatter);
+    if (!alive || current() != alive.get() || LoadedForm(*alive).isLeaving()) return;
+    LoadedForm(*alive).runActivate();
   };
-  runtime_.gate().afterHandler(
-      [this, activate] { QTimer::singleShot(0, &runtime_.window(), activate); });
+  gate_.afterHandler([this, activate] { QTimer::singleShot(0, &window_, activate); });
 }
 
 void Forms::showModal(Form& form) {
   constexpr double kLong = 60;  // seconds; any event ends the sleep
   const std::shared_ptr<Form> keep = form.shared_from_this();
-  runtime_.gate().wait([&] {
-    ModalWindow window(runtime_, form);
+  gate_.wait([&] {
+    ModalWindow window(window_, form);
     modal_.push_back(keep);
     window.fit();
     window.show();
-    form.takeSize();
-    form.run([&form] { form.fireActivate(); }, Gate::Cases::DoNotMatter);
-    while (!form.isUnloaded() && !runtime_.gate().isClosed()) {
-      runtime_.time().sleepUntilEvent(kLong);
+    LoadedForm(form).takeSize();
+    LoadedForm(form).runActivate();
+    while (!form.isUnloaded() && !gate_.isClosed()) {
+      time_.sleepUntilEvent(kLong);
     }
     std::erase(modal_, keep);
     // The page outlives the window: what a handler still holds of it is there until it is buried.
-    form.page()->setParent(runtime_.window().pages());
+    form.page()->setParent(window_.pages());
     activateAgain();
   });
 }
@@ -111,8 +112,19 @@ void Forms::activateAgain() {
   if (Form* form = current()) activateLater(form->shared_from_this());
 }
 
+void Forms::formChanged(Form& form) {
+  QWidget* own = form.page() == nullptr ? nullptr : form.page()->window();
+  if (auto* modal = qobject_cast<ModalWindow*>(own)) {
+    modal->takeTitle();
+    modal->fit();
+    LoadedForm(form).takeSize();
+  } else if (current() == &form) {
+    window_.takeTitle(form);
+  }
+}
+
 Form* Forms::shownIn(const QWindow& window) const {
-  if (&window == runtime_.window().windowHandle()) return current();
+  if (&window == window_.windowHandle()) return current();
   for (const std::shared_ptr<Form>& form : modal_) {
     if (form->page()->window()->windowHandle() == &window) return form.get();
   }
@@ -143,11 +155,10 @@ void Forms::closeCurrent() {
 void Forms::bury() {
   if (burying_ || gone_.empty()) return;
   burying_ = true;
-  QTimer::singleShot(0, &runtime_.window(), [this] {
+  QTimer::singleShot(0, &window_, [this] {
     burying_ = false;
-    std::erase_if(gone_, [this](const std::shared_ptr<Form>& form) {
-      return !runtime_.gate().isRunning(*form);
-    });
+    std::erase_if(gone_,
+                  [this](const std::shared_ptr<Form>& form) { return !gate_.isRunning(*form); });
   });
 }
 

@@ -11,7 +11,9 @@ class QWindow;
 namespace platform {
 
 class Form;
-class Runtime;
+class Gate;
+class TimeSource;
+class Window;
 
 // The forms now loaded, and the moves between them. A form is named by its name, so that who asks
 // for one need not know it.
@@ -20,7 +22,8 @@ class Forms {
   // Makes a form from its name; null for a name that the program does not have.
   using Factory = std::function<std::shared_ptr<Form>(std::string_view name)>;
 
-  Forms(Runtime& runtime, Factory factory);
+  // window: shows one form at a time. time: waits while a form stands over it.
+  Forms(Gate& gate, TimeSource& time, Window& window, Factory factory);
   ~Forms();
 
   // Shows a form: Load in full, where it is not loaded, then Resize, the change of page, Activate,
@@ -41,6 +44,9 @@ class Forms {
   // A form for reading something of it, also one that is being left: loaded without being shown
   // where it was not.
   [[nodiscard]] Form& loaded(std::string_view name);
+
+  // Caption, icon or height of a form have changed: the window that shows it follows.
+  void formChanged(Form& form);
 
   // The form on the screen, or null.
   [[nodiscard]] Form* current() const;
@@ -64,7 +70,9 @@ class Forms {
   std::shared_ptr<Form> load(std::string_view name);
   void activateLater(const std::shared_ptr<Form>& form);
 
-  Runtime& runtime_;
+  Gate& gate_;
+  TimeSource& time_;
+  Window& window_;
   Factory factory_;
   std::vector<std::shared_ptr<Form>> loaded_;
   std::vector<std::shared_ptr<Form>> shown_;  // the last is on the screen

@@ -3,11 +3,10 @@
 #include <algorithm>
 
 #include "platform/base/run_time_error.h"
-#include "platform/forms/form.h"
 
 namespace platform {
 
-bool Gate::run(const std::shared_ptr<Form>& form, const std::function<void()>& handler,
+bool Gate::run(const std::shared_ptr<HandlerOwner>& form, const std::function<void()>& handler,
                Cases cases) {
   if (closed_ || form->isUnloaded()) return false;
   frames_.push_back({form, cases});
@@ -44,7 +43,7 @@ void Gate::wait(const std::function<void()>& work, Cases cases) {
     work();
     return;
   }
-  const std::shared_ptr<Form> form = frames_.back().form;
+  const std::shared_ptr<HandlerOwner> form = frames_.back().form;
   const int caseNumber = form->caseNumber();
   work();
   const bool matter = cases == Cases::Matter && frames_.back().cases == Cases::Matter;
@@ -52,7 +51,7 @@ void Gate::wait(const std::function<void()>& work, Cases cases) {
   if (closed_ || form->isUnloaded() || replaced) throw Unwind{};
 }
 
-bool Gate::isRunning(const Form& form) const {
+bool Gate::isRunning(const HandlerOwner& form) const {
   return std::any_of(frames_.begin(), frames_.end(),
                      [&form](const Frame& frame) { return frame.form.get() == &form; });
 }

@@ -6,8 +6,16 @@
 
 namespace platform {
 
-class Form;
 class RunTimeError;
+
+// Who handlers belong to: a form.
+class HandlerOwner {
+ public:
+  virtual ~HandlerOwner() = default;
+  [[nodiscard]] virtual bool isUnloaded() const = 0;
+  // Goes up with each case that begins.
+  [[nodiscard]] virtual int caseNumber() const = 0;
+};
 
 // Thrown by a wait that must not return into the handler that called it. Only gates catch it.
 struct Unwind {};
@@ -28,7 +36,7 @@ class Gate {
 
   // Runs the handler, unless the program is ending or the form has gone. False when the handler did
   // not come to its end. cases: whether a wait in it ends with its case (see `Form::newCase`).
-  bool run(const std::shared_ptr<Form>& form, const std::function<void()>& handler,
+  bool run(const std::shared_ptr<HandlerOwner>& form, const std::function<void()>& handler,
            Cases cases = Cases::Matter);
 
   // Lets a wait or a yield of the running handler do its work and checks afterwards whether the
@@ -44,7 +52,7 @@ class Gate {
   void close() { closed_ = true; }
   [[nodiscard]] bool isClosed() const { return closed_; }
   // Whether a handler of the form is on the stack.
-  [[nodiscard]] bool isRunning(const Form& form) const;
+  [[nodiscard]] bool isRunning(const HandlerOwner& form) const;
 
   // While one lives, the waits of the running handler go on although its case is replaced: for the
   // one action that is told to come to its end.
@@ -62,7 +70,7 @@ class Gate {
 
  private:
   struct Frame {
-    std::shared_ptr<Form> form;
+    std::shared_ptr<HandlerOwner> form;
     Cases cases;
     std::vector<std::function<void()>> afterwards = {};
   };

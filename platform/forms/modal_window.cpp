@@ -3,8 +3,7 @@
 #include <QResizeEvent>
 #include <algorithm>
 
-#include "platform/forms/form.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/loaded_form.h"
 
 namespace platform {
 
@@ -15,14 +14,17 @@ constexpr double kShare = 0.9;
 
 }  // namespace
 
-ModalWindow::ModalWindow(Runtime& runtime, Form& form)
-    : QDialog(&runtime.window()), runtime_(runtime), form_(form) {
+ModalWindow::ModalWindow(QWidget& over, Form& form) : QDialog(&over), over_(over), form_(form) {
   setModal(true);
-  setWindowTitle(form.caption());
+  takeTitle();
   setWindowIcon(form.icon());
-  setAccessibleName(form.caption());
   form.page()->setParent(this);
   form.page()->show();
+}
+
+void ModalWindow::takeTitle() {
+  setWindowTitle(form_.caption());
+  setAccessibleName(form_.caption());
 }
 
 // The growth goes by the design's own width, so that a form that changes its height keeps its
@@ -30,7 +32,7 @@ ModalWindow::ModalWindow(Runtime& runtime, Form& form)
 void ModalWindow::fit() {
   const FormDesign& design = form_.design();
   const QSizeF plain(design.width / kTwipsPerPixel, design.height / kTwipsPerPixel);
-  const QSizeF room = QSizeF(runtime_.window().size()) * kShare;
+  const QSizeF room = QSizeF(over_.size()) * kShare;
   if (growth_ <= 0) {
     growth_ = std::max(1.0, std::min(room.width() / plain.width(), room.height() / plain.height()));
   }
@@ -41,7 +43,7 @@ void ModalWindow::reject() {
   if (form_.isUnloaded()) {
     QDialog::reject();
   } else {
-    form_.run([this] { form_.fireClose(); });
+    LoadedForm(form_).runClose();
   }
 }
 

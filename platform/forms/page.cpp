@@ -6,7 +6,8 @@
 #include <QPainter>
 #include <QResizeEvent>
 
-#include "platform/forms/form.h"
+#include "platform/forms/appearance.h"
+#include "platform/forms/design.h"
 #include "platform/forms/menu_bar.h"
 #include "platform/forms/text_block.h"
 
@@ -22,7 +23,7 @@ constexpr QSize kPaperRoom(1512, 1512);
 
 }  // namespace
 
-Canvas::Canvas(Form& form, QWidget* parent) : QWidget(parent), form_(form) {
+Canvas::Canvas(const PageOwner& owner, QWidget* parent) : QWidget(parent), owner_(owner) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -30,7 +31,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QRect exposed = event->rect();
   if (gradient_.isEmpty()) {
-    painter.fillRect(exposed, toColor(form_.design().back));
+    painter.fillRect(exposed, toColor(owner_.design().back));
     return;
   }
   constexpr int kBands = 256;
@@ -62,8 +63,8 @@ bool Canvas::focusNextPrevChild(bool next) {
 }
 
 bool Canvas::passFocus(QWidget* from, bool next) {
-  const Control* cover = form_.covering();
-  const QWidget* room = cover != nullptr ? cover->container() : this;
+  const QWidget* covering = owner_.focusRoom();
+  const QWidget* room = covering != nullptr ? covering : this;
   QWidget* start = from != nullptr && isAncestorOf(from) ? from : this;
   QWidget* widget = start;
   do {
@@ -77,8 +78,8 @@ bool Canvas::passFocus(QWidget* from, bool next) {
   return false;
 }
 
-Page::Page(Form& form, QWidget* parent)
-    : QWidget(parent), form_(form), canvas_(new Canvas(form, this)) {
+Page::Page(PageOwner& owner, QWidget* parent)
+    : QWidget(parent), owner_(owner), canvas_(new Canvas(owner, this)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -95,7 +96,7 @@ bool Page::arrange() {
     if (top <= 0) top = menuBar_->sizeHint().height();
     menuBar_->setGeometry(0, 0, width(), top);
   }
-  const FormDesign& design = form_.design();
+  const FormDesign& design = owner_.design();
   const bool forPaper = design.keepsShape;
   const QSize room = forPaper ? kPaperRoom : QSize(width(), std::max(1, height() - top));
   const QSize client = clientPixels(room, {design.width, design.height}, forPaper);
@@ -110,7 +111,7 @@ bool Page::arrange() {
 
 // A page that comes up gets its resize event late: its form has taken the size already.
 void Page::resizeEvent(QResizeEvent* /*event*/) {
-  if (arrange()) form_.takeSize();
+  if (arrange()) owner_.takeSize();
 }
 
 // An open menu or list has a window of its own, which does not leave the screen with the page.
@@ -127,7 +128,7 @@ void Page::paintEvent(QPaintEvent* event) {
   // Only the letterbox shows of the page itself. A gradient goes on in its colours at the ends.
   QPainter painter(this);
   if (!canvas_->hasGradient()) {
-    painter.fillRect(event->rect(), toColor(form_.design().back));
+    painter.fillRect(event->rect(), toColor(owner_.design().back));
     return;
   }
   painter.fillRect(event->rect(), kGradientLast);

@@ -5,15 +5,26 @@
 
 namespace platform {
 
-class Form;
 class MenuBar;
+struct FormDesign;
+
+// Whose page it is: a form.
+class PageOwner {
+ public:
+  virtual ~PageOwner() = default;
+  [[nodiscard]] virtual const FormDesign& design() const = 0;
+  // What the focus must stay in: the widget of a covering panel, or null.
+  [[nodiscard]] virtual const QWidget* focusRoom() const = 0;
+  // The client area has another size.
+  virtual void takeSize() = 0;
+};
 
 // The client area of a form: its background, and the parent of its controls.
 class Canvas final : public QWidget {
   Q_OBJECT
 
  public:
-  Canvas(Form& form, QWidget* parent);
+  Canvas(const PageOwner& owner, QWidget* parent);
 
   // Gives the focus to the next control that can take it, in the order of the design; from: where
   // to begin. False where no control can.
@@ -31,7 +42,7 @@ class Canvas final : public QWidget {
   bool focusNextPrevChild(bool next) override;
 
  private:
-  Form& form_;
+  const PageOwner& owner_;
   QSize gradient_;  // empty: the plain back colour
 };
 
@@ -41,7 +52,7 @@ class Page final : public QWidget {
   Q_OBJECT
 
  public:
-  Page(Form& form, QWidget* parent);
+  Page(PageOwner& owner, QWidget* parent);
 
   [[nodiscard]] Canvas* canvas() const { return canvas_; }
   // The menu bar, made at the first call: a form without menus has none.
@@ -57,7 +68,7 @@ class Page final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  Form& form_;
+  PageOwner& owner_;
   MenuBar* menuBar_ = nullptr;
   Canvas* canvas_;
   QSize arranged_;

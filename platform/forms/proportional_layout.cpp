@@ -1,15 +1,15 @@
 #include "platform/forms/proportional_layout.h"
 
-#include "platform/forms/form.h"
+#include "platform/forms/loaded_form.h"
 
 namespace platform {
 
 void ProportionalLayout::start() {
-  form_.layOut();
+  LoadedForm(form_).layOut();
 }
 
 void ProportionalLayout::resize() {
-  form_.layOut();
+  LoadedForm(form_).layOut();
 }
 
 }  // namespace platform

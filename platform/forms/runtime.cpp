@@ -26,9 +26,13 @@ Runtime::Runtime(RuntimeServices services, QString title, QString pictures, QStr
       pointerName_(std::move(pointer)),
       pictures_(std::move(pictures)),
       gate_([this](const RunTimeError& error) { failed(error); }, [this] { forms_.bury(); }),
-      forms_(*this, std::move(factory)),
-      window_(std::make_unique<Window>(*this)),
-      keys_(std::make_unique<KeyGuard>(*this, askForRepeatMarks())) {}
+      window_(std::make_unique<Window>(services.time,
+                                       [this] {
+                                         forms_.closeCurrent();
+                                         endProcess(0);
+                                       })),
+      forms_(gate_, services.time, *window_, std::move(factory)),
+      keys_(std::make_unique<KeyGuard>(*this, forms_, *window_, askForRepeatMarks())) {}
 
 Runtime::~Runtime() {
   gate_.close();
@@ -43,6 +47,10 @@ const QCursor& Runtime::pointer() {
     pointer_ = std::make_unique<QCursor>(image, tip.x(), tip.y());
   }
   return *pointer_;
+}
+
+bool Runtime::mayAct(const QWidget& widget) const {
+  return keys_->mayAct(widget);
 }
 
 // A box is there to be answered: while it stands it hears, whatever is waited for below it. It is

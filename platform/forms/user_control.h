@@ -58,7 +58,7 @@ class UserControl : public Control, public ControlHost {
   [[nodiscard]] const QStringList& changedProperties() const { return changed_; }
 
   // ControlHost
-  [[nodiscard]] Form& form() override { return Control::form(); }
+  [[nodiscard]] ControlHome& home() override { return Control::home(); }
   [[nodiscard]] const Scale& scale() const override { return Control::scale(); }
   void declare(Control& /*control*/) override {}
 

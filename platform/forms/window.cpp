@@ -5,9 +5,8 @@
 #include <QStackedWidget>
 #include <QWindow>
 
-#include "platform/forms/form.h"
-#include "platform/forms/modal_window.h"
-#include "platform/forms/runtime.h"
+#include "platform/base/time_source.h"
+#include "platform/forms/loaded_form.h"
 
 namespace platform {
 
@@ -22,7 +21,8 @@ constexpr QSize kFrame{20, 60};
 
 }  // namespace
 
-Window::Window(Runtime& runtime) : runtime_(runtime), stack_(new QStackedWidget(this)) {
+Window::Window(TimeSource& time, std::function<void()> closed)
+    : time_(time), closed_(std::move(closed)), stack_(new QStackedWidget(this)) {
   setCentralWidget(stack_);
   setMinimumSize(kSmallestSize.boundedTo(screen()->availableSize() - kFrame));
   resize(kNormalSize);
@@ -36,15 +36,15 @@ void Window::showPage(Form& form) {
   Page* page = form.page();
   if (stack_->indexOf(page) < 0) stack_->addWidget(page);
   if (!isVisible()) {
-    formChanged(form);
+    takeTitle(form);
     stack_->setCurrentWidget(page);
     appear();
   }
   page->resize(stack_->size());
   page->arrange();
-  form.takeSize();
+  LoadedForm(form).takeSize();
   stack_->setCurrentWidget(page);
-  formChanged(form);
+  takeTitle(form);
 }
 
 // Maximised from the first picture on; a desktop without a window manager leaves the window as it
@@ -56,27 +56,19 @@ void Window::appear() {
   setWindowState(windowState() | Qt::WindowMaximized);
   show();
   for (int i = 0; i < kMostWaits && !windowHandle()->isExposed(); ++i) {
-    runtime_.time().sleepUntilEvent(kWait);
+    time_.sleepUntilEvent(kWait);
   }
   setUpdatesEnabled(true);
 }
 
-void Window::formChanged(const Form& form) {
-  QWidget* own = form.page() == nullptr ? nullptr : form.page()->window();
-  if (auto* modal = qobject_cast<ModalWindow*>(own)) {
-    modal->setWindowTitle(form.caption());
-    modal->setAccessibleName(form.caption());
-    return;
-  }
-  if (runtime_.forms().current() != &form) return;
+void Window::takeTitle(const Form& form) {
   setWindowTitle(form.caption());
   setWindowIcon(form.icon());
 }
 
 void Window::closeEvent(QCloseEvent* event) {
   event->accept();
-  runtime_.forms().closeCurrent();
-  runtime_.endProcess(0);
+  closed_();
 }
 
 }  // namespace platform

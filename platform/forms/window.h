@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 
 class QStackedWidget;
 
 namespace platform {
 
 class Form;
-class Runtime;
+class TimeSource;
 
 // The one main window: it shows one form at a time, from which it takes its caption and icon, and
 // keeps its own size, place and maximised state from form to form.
@@ -15,14 +16,15 @@ class Window final : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit Window(Runtime& runtime);
+  // time: waits for the desktop. closed: the user closes the window.
+  Window(TimeSource& time, std::function<void()> closed);
 
   // The parent of the pages.
   [[nodiscard]] QWidget* pages();
   // Resizes the form to the window, runs its Resize, and puts it on the screen.
   void showPage(Form& form);
-  // Caption and icon follow the form on the screen.
-  void formChanged(const Form& form);
+  // Takes caption and icon of the form on the screen.
+  void takeTitle(const Form& form);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -30,7 +32,8 @@ class Window final : public QMainWindow {
  private:
   void appear();
 
-  Runtime& runtime_;
+  TimeSource& time_;
+  std::function<void()> closed_;
   QStackedWidget* stack_;
 };
 

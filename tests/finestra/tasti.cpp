@@ -90,13 +90,10 @@ constexpr platform::FormDesign kListDesign{
 FormTasti::FormTasti(platform::Runtime& runtime) : Form(runtime, kDesign) {
   Riquadro.onClick([this] {
     QTimer::singleShot(0, [] { tell("box open"); });
-    this->runtime().showBox({.text = QStringLiteral("Look")});
+    this->ground().showBox({.text = QStringLiteral("Look")});
     tell("box closed");
   });
-  Dialogo.onClick([this] {
-    platform::Forms& forms = this->runtime().forms();
-    forms.showModal(forms.loaded("FormLista"));
-  });
+  Dialogo.onClick([&forms = runtime.forms()] { forms.showModal(forms.loaded("FormLista")); });
   mnuPrima.onClick([] { tell("item chosen"); });
 }
 

@@ -3,13 +3,12 @@
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/fonts.h"
-#include "platform/forms/form.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
 QWidget* Button::create(QWidget* parent) {
-  auto* button = new ButtonWidget(parent, runtime().pictures(), [this] { click(); });
+  auto* button = new ButtonWidget(parent, ground().pictures(), [this] { click(); });
   button->setPicture(QString::fromUtf8(look().picture.data(), qsizetype(look().picture.size())));
   if (captionSize_ != nullptr) captionSize_->add(*button);
   return button;
@@ -17,7 +16,7 @@ QWidget* Button::create(QWidget* parent) {
 
 bool Button::isLive() const {
   return widget() != nullptr && widget()->isEnabled() && widget()->isVisible() &&
-         !form().isCovered(*this) && !runtime().forms().isChanging();
+         !home().isCovered(*this) && !ground().isChanging();
 }
 
 void Button::click() {

@@ -6,7 +6,7 @@
 
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
@@ -35,7 +35,7 @@ QWidget* ComboBox::create(QWidget* parent) {
   auto* box = new ComboWidget(parent);
   QObject::connect(box, &QComboBox::currentIndexChanged, box, [this](int index) {
     // Assistive technology chooses past all events.
-    if (index != chosen_ && runtime().isDeaf()) {
+    if (index != chosen_ && ground().isDeaf()) {
       const QSignalBlocker quiet(widget());
       boxOf(widget())->setCurrentIndex(chosen_);
       return;

@@ -5,8 +5,7 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "platform/forms/form.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
@@ -47,7 +46,7 @@ FocusKeeper::FocusKeeper(ControlHost& host, KeyPanel& panel) : Control(host), pa
 FocusKeeper::~FocusKeeper() = default;
 
 QWidget* FocusKeeper::create(QWidget* /*parent*/) {
-  ticker_ = runtime().time().makeTicker([this] { look(); });
+  ticker_ = ground().time().makeTicker([this] { look(); });
   watch_ = std::make_unique<Watch>(*this);
   setInterval(interval_);
   return nullptr;
@@ -75,7 +74,7 @@ void FocusKeeper::formGone() {
 }
 
 bool FocusKeeper::isOn() const {
-  return isEnabled() && interval_ > 0 && !form().isUnloaded();
+  return isEnabled() && interval_ > 0 && !home().isUnloaded();
 }
 
 void FocusKeeper::wake() {

@@ -4,7 +4,6 @@
 #include <QPainter>
 
 #include "platform/forms/fonts.h"
-#include "platform/forms/form.h"
 #include "platform/forms/text_block.h"
 
 namespace platform {
@@ -64,7 +63,7 @@ QWidget* Frame::create(QWidget* parent) {
 
 void Frame::applyLook() {
   widget()->setFont(fontOf(fontSpec(), fontPixels()));
-  frameOf(widget())->setGround(toColor(look().back ? backColor() : form().design().back));
+  frameOf(widget())->setGround(toColor(look().back ? backColor() : home().design().back));
 }
 
 void Frame::setCaption(const QString& caption) {

@@ -1,13 +1,13 @@
 #include "platform/forms/controls/image.h"
 
 #include "platform/forms/controls/image_widget.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
 QWidget* Image::create(QWidget* parent) {
   return new ImageWidget(
-      parent, runtime().pictures(),
+      parent, ground().pictures(),
       QString::fromUtf8(look().picture.data(), qsizetype(look().picture.size())));
 }
 

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "platform/forms/fonts.h"
-#include "platform/forms/form.h"
 
 namespace platform {
 
@@ -72,7 +71,7 @@ void Label::applyLook() {
   label->setFont(fontOf(fontSpec(), fontPixels()));
   label->setColours(toColor(foreColor()),
                     look().back ? std::optional(toColor(backColor())) : std::nullopt,
-                    toColor(form().design().back));
+                    toColor(home().design().back));
   label->setToolTip(toolTip());
   const QString words = (look().mnemonic ? withoutMnemonic(caption()) : caption()).trimmed();
   const QString spoken = toolTip().isEmpty() || words.isEmpty()
@@ -98,7 +97,7 @@ QChar Label::accessKey() const {
 }
 
 void Label::access() {
-  const std::vector<Control*>& all = form().controls();
+  const std::vector<Control*>& all = home().controls();
   auto next = std::find(all.begin(), all.end(), this);
   next = std::find_if(next, all.end(), [](const Control* control) {
     return control->widget() != nullptr && control->widget()->focusPolicy() != Qt::NoFocus;

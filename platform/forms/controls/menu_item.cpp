@@ -4,10 +4,9 @@
 #include <QApplication>
 #include <QMenu>
 
-#include "platform/forms/form.h"
-#include "platform/forms/keys/key_guard.h"
+#include "platform/forms/ground.h"
 #include "platform/forms/menu_bar.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/page.h"
 
 namespace platform {
 
@@ -30,7 +29,7 @@ QWidget* MenuItem::create(QWidget* parent) {
   auto* menu = qobject_cast<QMenu*>(parent);
   inMenu_ = menu != nullptr;
   QWidget* owner = menu;
-  if (menu == nullptr) owner = form().page()->menuBar();
+  if (menu == nullptr) owner = home().page()->menuBar();
   action_ = new QAction(owner);
   action_->setObjectName(name());
   owner->addAction(action_);
@@ -44,7 +43,7 @@ QWidget* MenuItem::create(QWidget* parent) {
   QObject::connect(action_, &QAction::triggered, action_, [this] {
     action_->setChecked(checked_);
     // Assistive technology triggers it past all events.
-    if (!runtime().keys().mayAct(*form().page())) return;
+    if (!ground().mayAct(*home().page())) return;
     closeMenus();
     click();
   });
@@ -52,7 +51,7 @@ QWidget* MenuItem::create(QWidget* parent) {
 }
 
 void MenuItem::click() {
-  if (isEnabled() && isVisible() && !runtime().forms().isChanging()) raiseEvent(clicked_);
+  if (isEnabled() && isVisible() && !ground().isChanging()) raiseEvent(clicked_);
 }
 
 void MenuItem::setChecked(bool checked) {
@@ -87,7 +86,7 @@ QWidget* MenuItem::surroundings() const {
 
 QWidget* MenuItem::container() const {
   if (!menu_ && action_) {
-    menu_ = new QMenu(form().page());
+    menu_ = new QMenu(home().page());
     action_->setMenu(menu_);
   }
   return menu_;

@@ -1,7 +1,6 @@
 #include "platform/forms/controls/picture_box.h"
 
 #include "platform/forms/controls/panel_widget.h"
-#include "platform/forms/form.h"
 #include "platform/forms/text_block.h"
 
 namespace platform {
@@ -26,12 +25,12 @@ void PictureBox::clear() {
 }
 
 void PictureBox::cover() {
-  form().cover(*this);
+  home().cover(*this);
 }
 
 void PictureBox::setVisible(bool visible) {
   Control::setVisible(visible);
-  if (!visible) form().uncover(*this);
+  if (!visible) home().uncover(*this);
 }
 
 }  // namespace platform

@@ -1,8 +1,10 @@
 #include "platform/forms/controls/socket.h"
 
+#include "platform/base/network.h"
 #include "platform/base/run_time_error.h"
-#include "platform/forms/form.h"
-#include "platform/forms/runtime.h"
+#include "platform/base/time_source.h"
+#include "platform/forms/gate.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
@@ -21,21 +23,21 @@ QWidget* Socket::create(QWidget* /*parent*/) {
 }
 
 void Socket::connectTo(quint16 port) {
-  if (!connection_ && runtime().network() != nullptr) {
-    connection_ = runtime().network()->makeConnection([this] { raiseEvent(arrival_); });
+  if (!connection_ && ground().network() != nullptr) {
+    connection_ = ground().network()->makeConnection([this] { raiseEvent(arrival_); });
   }
   if (connection_) connection_->open(port);
 }
 
 void Socket::letConnect() {
-  TimeSource& time = runtime().time();
+  TimeSource& time = ground().time();
   const double end = time.secondsSinceMidnight() + kLongestConnect;
-  runtime().gate().wait([&time] { time.letEventsRun(); });
+  ground().gate().wait([&time] { time.letEventsRun(); });
   while (connection_ && connection_->isOpening()) {
     const double left = end - time.secondsSinceMidnight();
     // At midnight the clock begins anew; the wait ends all the same.
     if (!(left > 0) || left > kLongestConnect) return;
-    runtime().gate().wait([&time, left] { time.sleepUntilEvent(left); });
+    ground().gate().wait([&time, left] { time.sleepUntilEvent(left); });
   }
 }
 

@@ -1,7 +1,6 @@
 #include "platform/forms/controls/timer.h"
 
-#include "platform/forms/form.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
@@ -10,7 +9,7 @@ Timer::Timer(ControlHost& host) : Control(host) {}
 Timer::~Timer() = default;
 
 QWidget* Timer::create(QWidget* /*parent*/) {
-  ticker_ = runtime().time().makeTicker([this] { raiseEvent(tick_); });
+  ticker_ = ground().time().makeTicker([this] { raiseEvent(tick_); });
   ticker_->setInterval(interval_);
   update();
   return nullptr;
@@ -29,7 +28,7 @@ void Timer::setEnabled(bool enabled) {
 
 void Timer::update() {
   if (!ticker_) return;
-  if (isEnabled() && interval_ > 0 && !form().isUnloaded()) {
+  if (isEnabled() && interval_ > 0 && !home().isUnloaded()) {
     ticker_->start();
   } else {
     ticker_->stop();

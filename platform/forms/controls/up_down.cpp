@@ -7,7 +7,7 @@
 #include "platform/base/numbers.h"
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/controls/up_down_widget.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
@@ -35,7 +35,7 @@ UpDown::~UpDown() = default;
 
 QWidget* UpDown::create(QWidget* parent) {
   return new UpDownWidget(
-      parent, runtime().time(),
+      parent, ground().time(),
       {.step = [this](int by) { step(by); }, .moveTo = [this](int value) { moveTo(value); }});
 }
 

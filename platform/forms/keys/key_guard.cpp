@@ -9,10 +9,12 @@
 #include <algorithm>
 #include <chrono>
 
-#include "platform/forms/form.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/ground.h"
 #include "platform/forms/keys/keyboard_state.h"
+#include "platform/forms/loaded_form.h"
 #include "platform/forms/press_event.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/window.h"
 
 namespace platform {
 
@@ -80,7 +82,9 @@ QChar characterOf(const QKeyEvent& event) {
 
 }  // namespace
 
-KeyGuard::KeyGuard(Runtime& runtime, RepeatMarks marks) : runtime_(runtime), state_(marks) {
+KeyGuard::KeyGuard(const Ground& ground, const Forms& forms, const Window& window,
+                   RepeatMarks marks)
+    : ground_(ground), forms_(forms), window_(window), state_(marks) {
   qApp->installEventFilter(this);
   focus_ = QGuiApplication::focusWindow();
   connect(qApp, &QGuiApplication::focusWindowChanged, this, &KeyGuard::windowChanged);
@@ -124,12 +128,12 @@ bool KeyGuard::choosesInList(const QKeyEvent& event) const {
 }
 
 bool KeyGuard::isMainWindow(const QWindow& window) const {
-  return &window == runtime_.window().windowHandle();
+  return &window == window_.windowHandle();
 }
 
 // Nothing acts while a device is waited for, nor on a page that is being left.
 bool KeyGuard::isShut(const QWindow& window) const {
-  return runtime_.isDeaf() || (isMainWindow(window) && runtime_.forms().isChanging());
+  return ground_.isDeaf() || (isMainWindow(window) && forms_.isChanging());
 }
 
 bool KeyGuard::mayAct(const QWidget& widget) const {
@@ -142,7 +146,7 @@ bool KeyGuard::mayAct(const QWidget& widget) const {
 
 // What a window holds: the page of the main window, or the window itself.
 int KeyGuard::ownerOf(const QWindow& window) const {
-  if (isMainWindow(window)) return runtime_.forms().pageNumber();
+  if (isMainWindow(window)) return forms_.pageNumber();
   return kElsewhere - 1 - int(window.winId() % 100000);
 }
 
@@ -187,17 +191,17 @@ bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
 }
 
 bool KeyGuard::worked(QWindow& window, const QKeyEvent& event) {
-  Form* form = runtime_.forms().shownIn(window);
+  Form* form = forms_.shownIn(window);
   if (form == nullptr) return false;
   const std::shared_ptr<Form> keep = form->shared_from_this();
   const Qt::KeyboardModifiers modifiers =
       event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
   if (modifiers == Qt::AltModifier) {
     const QChar key = characterOf(event);
-    return key.isLetterOrNumber() && form->accessKey(key.toUpper());
+    return key.isLetterOrNumber() && LoadedForm(*form).accessKey(key.toUpper());
   }
   if ((modifiers & Qt::ControlModifier) == 0) return false;
-  return form->shortcut(QKeySequence(QKeyCombination(modifiers, Qt::Key(event.key()))));
+  return LoadedForm(*form).shortcut(QKeySequence(QKeyCombination(modifiers, Qt::Key(event.key()))));
 }
 
 bool KeyGuard::keyRelease(QWindow& window, QKeyEvent& event) {
@@ -253,7 +257,7 @@ void KeyGuard::deliver(const HeldKey& released) {
 // What is down is let go without effect.
 void KeyGuard::letGo() {
   if (!focus_) return;
-  if (Form* form = runtime_.forms().shownIn(*focus_)) form->keysLetGo();
+  if (Form* form = forms_.shownIn(*focus_)) LoadedForm(*form).keysLetGo();
 }
 
 // The keyboard went to another window of ours, or out of the program. Whatever is down is let go
@@ -280,7 +284,7 @@ bool KeyGuard::mouse(QWindow& window, const QMouseEvent& event) {
     return drop;
   }
   const bool inMain = isMainWindow(window);
-  const int page = runtime_.forms().pageNumber();
+  const int page = forms_.pageNumber();
   const bool stale = inMain && event.type() == QEvent::MouseButtonDblClick && mousePage_ != page;
   if (isShut(window) || stale) {
     dropRelease_ = true;

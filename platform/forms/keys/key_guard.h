@@ -15,7 +15,9 @@ class QWindow;
 
 namespace platform {
 
-class Runtime;
+class Forms;
+class Ground;
+class Window;
 
 // Stands in front of the windows of the program: makes one press and one release of each hold of a
 // key, works access keys and shortcuts once a hold, and drops what belongs to a page that has gone.
@@ -25,7 +27,7 @@ class KeyGuard final : public QObject {
 
  public:
   // marks: how this desktop shows the repeats of a held key.
-  KeyGuard(Runtime& runtime, RepeatMarks marks);
+  KeyGuard(const Ground& ground, const Forms& forms, const Window& window, RepeatMarks marks);
   ~KeyGuard() override;
 
   // Whether a press in this widget acts now: nothing is waited for with deaf ears, its page is not
@@ -54,7 +56,9 @@ class KeyGuard final : public QObject {
   void sendDue();
   void schedule();
 
-  Runtime& runtime_;
+  const Ground& ground_;
+  const Forms& forms_;
+  const Window& window_;
   KeyState state_;
   QPointer<QWindow> focus_;
   std::vector<KeyId> letGo_;  // since a window of ours last had the keyboard

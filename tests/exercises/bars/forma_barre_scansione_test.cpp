@@ -4,6 +4,7 @@
 
 #include "app/shared/nomi_forme.h"
 #include "barre_di_prova.h"
+#include "platform/forms/loaded_form.h"
 #include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 
@@ -266,7 +267,7 @@ class FormaBarreScansioneTest : public QObject {
     FormaBarreScansione& forma = apri(banco, 20, 17, 3);
     banco.ambiente->stato.TipoEsercizio = 2;
     banco.sorte.scrivi({{1, 2}, {14, 20}, {6, 15}});
-    forma.run([&forma] { forma.fireActivate(); });
+    platform::LoadedForm(forma).runActivate();
     QVERIFY(forma.TestoInput.foreColor() == kCiano);
     QVERIFY(forma.Label4[0].foreColor() == kGiallo);
   }

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "barre10_di_prova.h"
+#include "platform/forms/loaded_form.h"
 #include "support/iscrizione.h"
 
 using prova::apriBarre10;
@@ -134,7 +135,7 @@ class PaginaBarre10Test : public QObject {
     FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     forma.n1.setHeight(3277);
     banco.sorte.scrivi({{9, 10}, {4, 10}});
-    forma.run([&forma] { forma.fireActivate(); });
+    platform::LoadedForm(forma).runActivate();
     QCOMPARE(banco.messaggi.mostrati.size(), std::size_t(1));
     QCOMPARE(banco.messaggi.mostrati.front().text,
              QStringLiteral("Errore di run-time '6':\n\nOverflow"));

@@ -4,6 +4,7 @@
 
 #include "app/form_menu_numeri.h"
 #include "app/shared/nomi_forme.h"
+#include "platform/forms/loaded_form.h"
 #include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 
@@ -222,7 +223,7 @@ class FormaNumeriScansioneTest : public QObject {
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 = "));
     // The next activation does.
     banco.sorte.scrivi({{4, 10}, {2, 5}});
-    forma.run([&forma] { forma.fireActivate(); });
+    platform::LoadedForm(forma).runActivate();
     QVERIFY(scegli(banco, forma, {5, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }

@@ -97,7 +97,7 @@ class BoardTest : public QObject {
   static MovieView& view(const Board& board) { return *qobject_cast<MovieView*>(board.widget()); }
   // Whatever is on the screen is painted, now.
   static void paint(BoardForm& form) {
-    form.runtime().time().letEventsRun();
+    form.ground().time().letEventsRun();
     form.page()->grab();
   }
   static void clickClip(Ground& ground, const QString& name) {
@@ -119,7 +119,7 @@ class BoardTest : public QObject {
     Offered(BoardForm& its, const QString& movie) : form(its) {
       form.Table.onFsCommand([this](const QString& word, const QString&) {
         heard += word;
-        gated = form.runtime().gate().isRunning(form);
+        gated = form.ground().gate().isRunning(form);
       });
       form.Table.offerClips({{QStringLiteral("a"), QStringLiteral("put one")}});
       form.Table.setMovie(movie);

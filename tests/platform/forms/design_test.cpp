@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QWidget>
 
-#include "platform/forms/optional_control.h"
+#include "platform/forms/loaded_form.h"
 #include "stage.h"
 #include "support/iscrizione.h"
 
@@ -12,7 +12,6 @@ using platform::ControlArray;
 using platform::FormDesign;
 using platform::Label;
 using platform::nameOf;
-using platform::OptionalControl;
 using platform::PictureBox;
 using platform::Row;
 using platform::row;
@@ -33,7 +32,6 @@ class Patchwork final : public platform::Form {
   PictureBox Box{*this};
   Label Inside{*this};
   Label Forgotten{*this};
-  OptionalControl<Label> Maybe{*this};
 
   platform::ProportionalLayout layout{*this};
 
@@ -59,45 +57,6 @@ constexpr std::array<std::span<const Row>, 2> kTables{kShared, kOwn};
 constexpr FormDesign kPatchwork{
     .name = "Patchwork", .caption = "Patchwork", .width = 12000, .height = 9000, .tables = kTables};
 
-constexpr auto kMore =
-    std::to_array<Row>({row<&Patchwork::Maybe>({0, 6000, 1500, 750}, {.caption = "maybe"})});
-constexpr std::array<std::span<const Row>, 3> kMoreTables{kShared, kOwn, kMore};
-constexpr FormDesign kWithMore{.name = "Patchwork",
-                               .caption = "Patchwork",
-                               .width = 12000,
-                               .height = 9000,
-                               .tables = kMoreTables};
-
-// A part of a form that owns controls, one of them in some designs alone.
-struct Pair {
-  explicit Pair(platform::Form& form) : Left(form), Right(form) {}
-
-  Button Left;
-  platform::OptionalControl<Button> Right;
-};
-
-// A form with a part.
-class Composed final : public platform::Form {
- public:
-  Composed(platform::Runtime& runtime, std::span<const std::span<const Row>> tables)
-      : Form(runtime, {.name = "Composed",
-                       .caption = "Composed",
-                       .width = 12000,
-                       .height = 9000,
-                       .tables = tables}) {}
-
-  Pair pair{*this};
-};
-
-constexpr auto kLeft = std::to_array<Row>({
-    row<&Composed::pair, &Pair::Left>({0, 0, 1500, 750}, {.caption = "left"}),
-});
-constexpr auto kRight = std::to_array<Row>({
-    row<&Composed::pair, &Pair::Right>({1500, 0, 1500, 750}, {.caption = "right"}),
-});
-constexpr std::array<std::span<const Row>, 1> kHalf{kLeft};
-constexpr std::array<std::span<const Row>, 2> kWhole{kLeft, kRight};
-
 // The names are the members' own, known to the compiler.
 static_assert(nameOf<&Patchwork::Alpha> == "Alpha");
 static_assert(nameOf<&Patchwork::Gamma> == "Gamma");
@@ -105,12 +64,12 @@ static_assert(kShared[1].name == "Gamma" && kShared[1].index == 0);
 static_assert(kShared[0].index == -1);
 
 // Builds the form on the page of the stage, without showing it.
-std::shared_ptr<Patchwork> build(Stage& stage, const FormDesign& design = kPatchwork) {
-  auto form = std::make_shared<Patchwork>(*stage.runtime, design);
-  form->build(stage.runtime->window().pages());
+std::shared_ptr<Patchwork> build(Stage& stage) {
+  auto form = std::make_shared<Patchwork>(*stage.runtime, kPatchwork);
+  platform::LoadedForm(*form).build(stage.runtime->window().pages());
   form->page()->resize(800, 600);
   form->page()->arrange();
-  form->fireLoad();
+  platform::LoadedForm(*form).runLoad();
   return form;
 }
 
@@ -143,31 +102,6 @@ class DesignTest : public QObject {
     const auto form = build(stage);
     QCOMPARE(form->withoutRow(), (std::vector<const platform::Control*>{&form->Forgotten}));
     QVERIFY(stage.show(kOne).withoutRow().empty());
-  }
-
-  void anOptionalControlIsThereWhereItHasARow() {
-    Stage stage;
-    const auto without = build(stage);
-    QVERIFY(!without->Maybe);
-    QVERIFY(!namesOf(*without).contains(QStringLiteral("Maybe")));
-    const auto with = build(stage, kWithMore);
-    QVERIFY(bool(with->Maybe));
-    QCOMPARE(namesOf(*with).last(), QStringLiteral("Maybe"));
-    QCOMPARE(with->Maybe->caption(), QStringLiteral("maybe"));
-    QCOMPARE(with->withoutRow(), (std::vector<const platform::Control*>{&with->Forgotten}));
-  }
-
-  void aControlThatAPartOfTheFormOwnsIsMadeFromItsRow() {
-    Stage stage;
-    const auto half = std::make_shared<Composed>(*stage.runtime, kHalf);
-    half->build(stage.runtime->window().pages());
-    QCOMPARE(namesOf(*half), QStringList{QStringLiteral("Left")});
-    QVERIFY(half->withoutRow().empty());
-    const auto whole = std::make_shared<Composed>(*stage.runtime, kWhole);
-    whole->build(stage.runtime->window().pages());
-    QCOMPARE(namesOf(*whole), QStringLiteral("Left Right").split(u' '));
-    QCOMPARE(whole->pair.Left.caption(), QStringLiteral("left"));
-    QCOMPARE(whole->pair.Right->caption(), QStringLiteral("right"));
   }
 
   void aRowWithAContainerIsMadeInIt() {

@@ -65,8 +65,8 @@ constinit const FormDesign kOne = designOf("One", "The first form");
 constinit const FormDesign kTwo = designOf("Two", "The second form");
 constinit const FormDesign kThree = designOf("Three", "The third form");
 
-TrialForm::TrialForm(Runtime& runtime, const FormDesign& design, QStringList& log)
-    : Form(runtime, design), log_(log) {}
+TrialForm::TrialForm(Ground& ground, const FormDesign& design, QStringList& log)
+    : Form(ground, design), log_(log) {}
 
 void TrialForm::happened(const char* event, const std::function<void()>& then) {
   log_.append(QStringLiteral("%1.%2").arg(name(), QLatin1String(event)));
@@ -92,10 +92,10 @@ void TrialForm::onUnload() {
 }
 
 void TrialForm::wait(double seconds) {
-  TimeSource& time = runtime().time();
+  TimeSource& time = ground().time();
   const double end = time.secondsSinceMidnight() + seconds;
   while (time.secondsSinceMidnight() < end) {
-    runtime().gate().wait([&] { time.sleepUntilEvent(end - time.secondsSinceMidnight()); });
+    ground().gate().wait([&] { time.sleepUntilEvent(end - time.secondsSinceMidnight()); });
   }
 }
 

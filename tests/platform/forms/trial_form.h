@@ -20,7 +20,7 @@ namespace trial {
 // Writes the events of its life into a log, as "One.Load", and does what a test hands in.
 class TrialForm final : public platform::Form {
  public:
-  TrialForm(platform::Runtime& runtime, const platform::FormDesign& design, QStringList& log);
+  TrialForm(platform::Ground& ground, const platform::FormDesign& design, QStringList& log);
 
   platform::Label Words{*this};
   platform::Line Stripe{*this};

@@ -57,7 +57,8 @@ class KeyGuardTest : public QObject {
     int clicks = 0;
     form.First.onClick([&clicks] { ++clicks; });
     form.First.setFocus();
-    const KeyGuard guard(*stage.runtime, RepeatMarks::Unreliable);
+    const KeyGuard guard(*stage.runtime, stage.runtime->forms(), stage.runtime->window(),
+                         RepeatMarks::Unreliable);
     send(stage.window(), true, Qt::Key(key), 1000, false, with, text);
     for (quint64 i = 0; i < 90; ++i) {
       const quint64 stamp = 1660 + 25 * i;
@@ -81,7 +82,8 @@ class KeyGuardTest : public QObject {
     int clicks = 0;
     form.First.onClick([&clicks] { ++clicks; });
     form.First.setFocus();
-    const KeyGuard guard(*stage.runtime, RepeatMarks::Unreliable);
+    const KeyGuard guard(*stage.runtime, stage.runtime->forms(), stage.runtime->window(),
+                         RepeatMarks::Unreliable);
     send(stage.window(), true, Qt::Key_Space, 1000);
     send(stage.window(), false, Qt::Key_Space, 1040);
     send(stage.window(), true, Qt::Key_Space, 1070);

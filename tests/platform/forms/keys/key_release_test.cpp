@@ -78,7 +78,8 @@ class KeyReleaseTest : public QObject {
     form.First.onClick([&clicked] { clicked.append(QStringLiteral("first")); });
     form.Second.onClick([&clicked] { clicked.append(QStringLiteral("second")); });
     form.First.setFocus();
-    const KeyGuard guard(*stage.runtime, RepeatMarks::Unreliable);
+    const KeyGuard guard(*stage.runtime, stage.runtime->forms(), stage.runtime->window(),
+                         RepeatMarks::Unreliable);
     send(stage.window(), true, Qt::Key_Space, 1000);
     form.Second.setFocus();
     send(stage.window(), false, Qt::Key_Space, 1100);
@@ -92,7 +93,8 @@ class KeyReleaseTest : public QObject {
     };
     TrialForm& form = stage.show(kOne);
     form.First.setFocus();
-    const KeyGuard guard(*stage.runtime, RepeatMarks::Unreliable);
+    const KeyGuard guard(*stage.runtime, stage.runtime->forms(), stage.runtime->window(),
+                         RepeatMarks::Unreliable);
     send(stage.window(), true, Qt::Key_Space, 1000);
     send(stage.window(), false, Qt::Key_Space, 1100);
     stage.runtime->forms().show("Two");
@@ -104,7 +106,8 @@ class KeyReleaseTest : public QObject {
   void aKeyWhoseReleaseWasLostIsLetGoWhenItIsPressedInAMenu() {
     Stage stage;
     const Pressed first(stage);
-    const KeyGuard guard(*stage.runtime, RepeatMarks::Flagged);
+    const KeyGuard guard(*stage.runtime, stage.runtime->forms(), stage.runtime->window(),
+                         RepeatMarks::Flagged);
     send(stage.window(), true, Qt::Key_Space, 1000);
     QVERIFY(first.isDown());
     QMenu menu;
@@ -190,7 +193,8 @@ class KeyReleaseTest : public QObject {
   void aMenuHasItsKeysAloneAndLetsGoThoseOfThePageAlsoWhereReleasesAreKeptBack() {
     Stage stage;
     const Pressed button(stage);
-    const KeyGuard guard(*stage.runtime, RepeatMarks::Unreliable);
+    const KeyGuard guard(*stage.runtime, stage.runtime->forms(), stage.runtime->window(),
+                         RepeatMarks::Unreliable);
     send(stage.window(), true, Qt::Key_Space, 1000);
     QMenu menu;
     menu.addAction(QStringLiteral("Something"))->setEnabled(false);
@@ -221,7 +225,7 @@ class KeyReleaseTest : public QObject {
     QFETCH(bool, left);
     Stage stage;
     const Pressed button(stage);
-    const KeyGuard guard(*stage.runtime, marks);
+    const KeyGuard guard(*stage.runtime, stage.runtime->forms(), stage.runtime->window(), marks);
     bool downBefore = false;
     bool downAfter = true;
     const auto letGo = [&] {
