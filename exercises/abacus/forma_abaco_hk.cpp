@@ -4,6 +4,7 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/disegno_abaco.h"
 #include "platform/base/numbers.h"
+#include "platform/forms/accessible.h"
 
 namespace somme {
 
@@ -150,7 +151,11 @@ void FormaAbacoHK::RispostaGiusta() {
   PulsanteAvanti.setEnabled(true);
   MostraCifre();
   AggiungiSomma(platform::formatPicture(stato().Totale, u"###.###"));
-  PulsanteConferma.setEnabled(false);
+  {
+    // It is told when the focus comes there: now the verdict is to be heard.
+    const platform::StatesToldLater poi;
+    PulsanteConferma.setEnabled(false);
+  }
   PulsanteAvanti.setFocus();
 }
 

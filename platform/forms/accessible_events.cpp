@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLineEdit>
 #include <QPointer>
 #include <QWidget>
 #include <algorithm>
@@ -80,6 +81,13 @@ void tellUnseen(QWidget& widget) {
   held().pass(event);
 }
 
+// Where only the program writes, the cursor goes along with the text, which is told.
+bool isIdleCursor(const QWidget& widget, const QAccessibleEvent& event) {
+  const auto* box = qobject_cast<const QLineEdit*>(&widget);
+  return event.type() == QAccessible::TextCaretMoved && box != nullptr && box->isReadOnly() &&
+         !box->hasFocus();
+}
+
 // True for an event of something hidden that is not told, or not yet.
 bool keepUnseen(QWidget& widget, QAccessibleEvent& event) {
   if (widget.isVisible()) return false;
@@ -103,7 +111,7 @@ void hearAccessibleEvent(QAccessibleEvent* event) {
       return;
     }
   }
-  if (whole && keepUnseen(*widget, *event)) return;
+  if (whole && (isIdleCursor(*widget, *event) || keepUnseen(*widget, *event))) return;
   held().pass(*event);
   if (whole && event->type() == QAccessible::ObjectShow) tellUnseen(*widget);
 }

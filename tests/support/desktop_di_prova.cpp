@@ -13,9 +13,13 @@ std::vector<Udito> uditi;
 
 int messaggiDi(const QAccessibleEvent& evento) {
   switch (evento.type()) {
-    case QAccessible::Focus:         // lost, and come
-    case QAccessible::StateChanged:  // of being enabled: enabled, and sensitive
-    case QAccessible::TextUpdated:   // deleted, and inserted
+    case QAccessible::StateChanged: {
+      const auto quali = static_cast<const QAccessibleStateChangeEvent&>(evento).changedStates();
+      if (quali.disabled) return 2;  // enabled, and sensitive
+      return quali.checked || quali.active || quali.focused ? 1 : 0;
+    }
+    case QAccessible::Focus:        // lost, and come
+    case QAccessible::TextUpdated:  // deleted, and inserted
       return 2;
     case QAccessible::ObjectCreated:
     case QAccessible::ObjectDestroyed:
@@ -35,6 +39,10 @@ DesktopDiProva::DesktopDiProva() {
 
 DesktopDiProva::~DesktopDiProva() {
   siAscolta = false;
+}
+
+void DesktopDiProva::ascolta(bool ascolta) {
+  siAscolta = ascolta;
 }
 
 std::vector<Udito> DesktopDiProva::nuovi() {

@@ -25,6 +25,8 @@ class DesktopDiProva {
   DesktopDiProva(const DesktopDiProva&) = delete;
   DesktopDiProva& operator=(const DesktopDiProva&) = delete;
 
+  // Whether somebody listens; at the start, yes.
+  void ascolta(bool ascolta);
   // What it has been told since the last call.
   std::vector<Udito> nuovi();
 };

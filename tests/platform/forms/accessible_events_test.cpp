@@ -88,6 +88,22 @@ class AccessibleEventsTest : public QObject {
     QCOMPARE(count(&hidden, QAccessible::NameChanged), 1);
   }
 
+  void ofALockedBoxTheTextIsToldAndTheCursorWhereItHasTheKeyboard() {
+    QWidget window;
+    QLineEdit locked(&window);
+    QLineEdit other(&window);
+    locked.setReadOnly(true);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    other.setFocus();
+    isWrittenInto(locked);
+    QCOMPARE(told_, (Told{{&locked, QAccessible::ValueChanged}}));
+    locked.setFocus();
+    isWrittenInto(locked);
+    QCOMPARE(count(&locked, QAccessible::TextCaretMoved), 1);
+  }
+
   void whatWasDisabledWhileItWasHiddenTellsItWhenItComes() {
     QWidget window;
     QLineEdit box(&window);

@@ -1,0 +1,76 @@
+#include <QApplication>
+
+#include "platform/forms/accessible.h"
+#include "support/desktop_di_prova.h"
+#include "support/iscrizione.h"
+#include "support/risposta_giusta.h"
+
+using prova::Banco;
+using prova::DesktopDiProva;
+
+namespace {
+
+// Events of the accessibility bus at a verdict. Whoever sends more drowns what is to be heard.
+constexpr int kAlPiu = 12;
+// What the desktop's announcer, in whose place the tests have their own, sends for all that it
+// tells at once.
+constexpr int kAnnuncio = 2;
+
+}  // namespace
+
+// What assistive technology is told at a right answer, beside the words.
+class EventiAlVerdettoTest : public QObject {
+  Q_OBJECT
+
+  // The pictures as they are after a wrong answer: a right one then changes both.
+  static void dopoUnoSbaglio(platform::Form& forma) {
+    for (platform::Control* controllo : forma.controls()) {
+      if (controllo->name() == QStringLiteral("ImgSi")) controllo->setVisible(false);
+      if (controllo->name() == QStringLiteral("ImgNo")) controllo->setVisible(true);
+    }
+    QCoreApplication::processEvents();
+  }
+
+ private Q_SLOTS:
+  void init() { platform::installAccessibility(); }
+
+  void aRightAnswerMakesFewEvents_data() {
+    QTest::addColumn<QByteArray>("nome");
+    int forme = 0;
+    for (const somme::SchedaForma& scheda : somme::LeForme()) {
+      if (scheda.genere != somme::Genere::Esercizio) continue;
+      const QByteArray nome(scheda.nome.data(), qsizetype(scheda.nome.size()));
+      QTest::newRow(nome.constData()) << nome;
+      ++forme;
+    }
+    QCOMPARE(forme, 23);
+  }
+  void aRightAnswerMakesFewEvents() {
+    QFETCH(QByteArray, nome);
+    DesktopDiProva desktop;
+    Banco banco;
+    const auto ultimo = prova::FinoAllUltimoGesto(banco, nome.toStdString());
+    dopoUnoSbaglio(*banco.ambiente->fondo.forms().current());
+    (void)desktop.nuovi();
+    (void)banco.annunci.nuovi();
+    // Where boards are joined first, that takes its time, and has been told before the verdict.
+    banco.tempo.after(1, [&desktop] {
+      QCoreApplication::processEvents();
+      (void)desktop.nuovi();
+    });
+    ultimo();
+    QCoreApplication::processEvents();
+    QVERIFY(banco.annunci.nuovi().contains(QStringLiteral("Giusto. Esatti 1")));
+    std::vector<prova::Udito> uditi = desktop.nuovi();
+    // The board that shows both addends together comes with the verdict, and is none.
+    std::erase_if(uditi, [](const prova::Udito& udito) {
+      return qobject_cast<platform::flash::MovieView*>(udito.oggetto) != nullptr;
+    });
+    const int eventi = kAnnuncio + Messaggi(uditi);
+    qInfo("%d events: %s", eventi, qPrintable(InUnaRiga(uditi)));
+    QVERIFY2(eventi > kAnnuncio && eventi <= kAlPiu, qPrintable(InUnaRiga(uditi)));
+  }
+};
+
+const prova::Iscrizione<EventiAlVerdettoTest, QApplication> kIscritta;
+#include "eventi_al_verdetto_test.moc"
