@@ -36,8 +36,9 @@ constexpr auto kControlli = std::to_array<Row>({
     Freccia(row<&FormaAbacoTastiera::PulsanteCambioUDa>({5520, 5760, 1815, 735}), "10 u = 1 da",
             "Cambia 10 unità con 1 decina"),
     // Behind the arrows: a carry disables its arrow and leaves the focus to the box.
-    row<&FormaAbacoTastiera::TestoInput>({4915, 6720, 2407, 735},
-                                         {.toolTip = "Scrivi il numero e premi Invio"}),
+    row<&FormaAbacoTastiera::TestoInput>(
+        {4915, 6720, 2407, 735},
+        {.toolTip = "Scrivi il numero e premi Invio", .label = nameOf<&FormaAbaco::EtOperazione>}),
     row<&FormaAbacoTastiera::PulsanteCestino>({8640, 3000, 1455, 1095},
                                               {.toolTip = "Svuota l'abaco", .picture = "cestino"}),
     Avanti<FormaAbacoTastiera>({8400, 6480, 1935, 975}),

@@ -100,7 +100,8 @@ constexpr Row Casella(TwipsRect posto, std::string_view nome, bool scansione = f
                                      .align = Align::Centre,
                                      .border = true,
                                      .locked = scansione,
-                                     .maxLength = 2});
+                                     .maxLength = 2,
+                                     .label = nameOf<&FormaBarre::Label4>});
 }
 
 // The kinds of exercise in the menu, in every bars form.

@@ -32,12 +32,14 @@ inline constexpr auto kTavoleBlocchi = std::to_array<Row>({
 // The box of the result. F: a form with it; aiuto: how the result comes there.
 template <class F>
 constexpr Row Risultato(double sinistra, int cifre, std::string_view aiuto) {
-  return row<&F::TestoInput>({sinistra, 5520, 1215, 855}, {.toolTip = aiuto,
-                                                           .font = {Face::Tahoma, 24},
-                                                           .align = Align::Centre,
-                                                           .border = true,
-                                                           .hidden = true,
-                                                           .maxLength = cifre});
+  return row<&F::TestoInput>({sinistra, 5520, 1215, 855},
+                             {.toolTip = aiuto,
+                              .font = {Face::Tahoma, 24},
+                              .align = Align::Centre,
+                              .border = true,
+                              .hidden = true,
+                              .maxLength = cifre,
+                              .label = nameOf<&FormaBlocchi::EtOperazione>});
 }
 template <class F>
 constexpr Row RisultatoEntro99(std::string_view aiuto) {

@@ -15,7 +15,8 @@ constexpr auto kCasella = std::to_array<Row>({
                                      .font = {Face::Tahoma, 36},
                                      .align = Align::Centre,
                                      .border = true,
-                                     .locked = true}),
+                                     .locked = true,
+                                     .label = nameOf<&FormaNumeri::EtOperazione>}),
     Avanti<FormaNumeriHK>(kPostoAvantiNumeri),
     Connessione<FormaNumeriHK>(),
 });

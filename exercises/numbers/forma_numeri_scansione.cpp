@@ -16,7 +16,8 @@ constexpr auto kRisposta = std::to_array<Row>({
     row<&FormaNumeriScansione::TestoInputInvisibile>(
         kPostoTestoInput, {.font = {Face::Tahoma, 20.25}, .hidden = true}),
     row<&FormaNumeriScansione::TestoInput>(kPostoTestoInput,
-                                           {.toolTip = "Il numero scelto con la tastiera"}),
+                                           {.toolTip = "Il numero scelto con la tastiera",
+                                            .label = nameOf<&FormaNumeri::EtOperazione>}),
     TastieraNumerica<FormaNumeriScansione>({360, 4440, 9855, 705}, true, kSenzaAiuto),
     row<&FormaNumeriScansione::LabelPerTastieraNumerica>({360, 4320, 9975, 735}, {.hidden = true}),
 });

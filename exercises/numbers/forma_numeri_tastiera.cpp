@@ -13,8 +13,9 @@ constexpr TwipsRect kPostoTestoInput{3360, 2760, 2655, 1095};
 constexpr auto kCasella = std::to_array<Row>({
     row<&FormaNumeriTastiera::TestoInputInvisibile>(kPostoTestoInput,
                                                     {.font = {Face::Tahoma, 36}, .hidden = true}),
-    row<&FormaNumeriTastiera::TestoInput>(kPostoTestoInput,
-                                          {.toolTip = "Scrivi il numero e premi Invio"}),
+    row<&FormaNumeriTastiera::TestoInput>(
+        kPostoTestoInput,
+        {.toolTip = "Scrivi il numero e premi Invio", .label = nameOf<&FormaNumeri::EtOperazione>}),
     Avanti<FormaNumeriTastiera>(kPostoAvantiNumeri),
 });
 

@@ -30,8 +30,8 @@ QWidget* Board::create(QWidget* parent) {
 }
 
 void Board::press(const QString& clip) {
-  const bool live = widget()->isVisible() && widget()->isEnabled() && !home().isCovered(*this);
-  if (live && ground().mayAct(*widget())) viewOf(widget()).clickClip(clip);
+  const bool live = widget()->isVisible() && widget()->isEnabled();
+  if (live && mayAct()) viewOf(widget()).clickClip(clip);
 }
 
 void Board::offerClips(const std::vector<Offered>& clips) {

@@ -7,6 +7,7 @@
 #include <array>
 
 #include "platform/forms/accessible_events.h"
+#include "platform/forms/accessible_labels.h"
 #include "platform/forms/accessible_text_box.h"
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/image_widget.h"
@@ -103,7 +104,7 @@ class AccessibleScrollBar final : public QAccessibleWidget, public QAccessibleVa
 
   [[nodiscard]] QVariant currentValue() const override { return bar().value() * bar().unit(); }
   void setCurrentValue(const QVariant& value) override {
-    bar().setValue(qRound(value.toDouble() / bar().unit()));
+    bar().enter(qRound(value.toDouble() / bar().unit()));
   }
   [[nodiscard]] QVariant maximumValue() const override { return bar().maximum() * bar().unit(); }
   [[nodiscard]] QVariant minimumValue() const override { return bar().minimum() * bar().unit(); }
@@ -113,6 +114,15 @@ class AccessibleScrollBar final : public QAccessibleWidget, public QAccessibleVa
 
  private:
   [[nodiscard]] ScrollBarWidget& bar() const { return *static_cast<ScrollBarWidget*>(widget()); }
+};
+
+class AccessibleLabel final : public QAccessibleWidget {
+ public:
+  explicit AccessibleLabel(QWidget* label) : QAccessibleWidget(label, QAccessible::StaticText) {}
+
+  [[nodiscard]] Relations relations(QAccessible::Relation match) const override {
+    return QAccessibleWidget::relations(match) + labelRelations(*widget(), match);
+  }
 };
 
 // The keys of those who have one or two, as assistive technology calls and taps them.
@@ -178,6 +188,9 @@ QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
   if (className == QLatin1String("platform::ImageWidget") ||
       className == QLatin1String("platform::LineWidget")) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
+  }
+  if (className == QLatin1String("platform::LabelWidget")) {
+    return new AccessibleLabel(static_cast<QWidget*>(object));
   }
   if (className == QLatin1String("platform::KeyPanelWidget")) {
     return new AccessibleKeyPanel(static_cast<QWidget*>(object));

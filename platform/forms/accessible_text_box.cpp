@@ -42,6 +42,10 @@ QAccessible::State AccessibleTextBox::state() const {
   return state;
 }
 
+Relations AccessibleTextBox::relations(QAccessible::Relation match) const {
+  return QAccessibleWidget::relations(match) + labelRelations(box(), match);
+}
+
 QStringList AccessibleTextBox::actionNames() const {
   QStringList names = QAccessibleWidget::actionNames();
   if (box().pressable()) names.append(pressAction());

@@ -2,6 +2,8 @@
 
 #include <QAccessibleWidget>
 
+#include "platform/forms/accessible_labels.h"
+
 namespace platform {
 
 class TextBoxWidget;
@@ -18,6 +20,7 @@ class AccessibleTextBox final : public QAccessibleWidget,
   [[nodiscard]] QString text(QAccessible::Text kind) const override;
   void setText(QAccessible::Text kind, const QString& text) override;
   [[nodiscard]] QAccessible::State state() const override;
+  [[nodiscard]] Relations relations(QAccessible::Relation match) const override;
   [[nodiscard]] QStringList actionNames() const override;
   void doAction(const QString& action) override;
 

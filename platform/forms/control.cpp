@@ -175,6 +175,10 @@ void Control::bringToFront() {
   if (widget_) widget_->raise();
 }
 
+bool Control::mayAct() const {
+  return widget_ && !home().isCovered(*this) && ground().mayAct(*widget_);
+}
+
 void Control::raiseEvent(const std::function<void()>& handler) const {
   if (handler) home().raise(handler);
 }

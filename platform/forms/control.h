@@ -120,6 +120,8 @@ class Control {
   [[nodiscard]] ControlHost& host() const { return host_; }
   [[nodiscard]] const Scale& scale() const { return host_.scale(); }
   [[nodiscard]] Ground& ground() const { return home().ground(); }
+  // Whether what a user does here acts now; for what assistive technology does past all events.
+  [[nodiscard]] bool mayAct() const;
   // Runs a handler of the form through its gate.
   void raiseEvent(const std::function<void()>& handler) const;
 

@@ -65,6 +65,7 @@ struct Look {
   int borderWidth = 1;             // shapes and lines: logical pixels
   std::string_view picture = {};   // a drawing of the program's, by its name
   std::string_view in = {};        // the container's name; the form itself without one
+  std::string_view label = {};     // boxes: the label, or labels, that ask for what goes into it
   std::string_view shortcut = {};  // menu items: "Ctrl+S"
   std::span<const StoredProperty> stored = {};
 };

@@ -5,6 +5,7 @@
 
 #include "platform/base/services.h"
 #include "platform/base/time_source.h"
+#include "platform/forms/accessible_labels.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/menu_bar.h"
@@ -71,6 +72,7 @@ void Form::build(QWidget* parent) {
   page_->setObjectName(name_);
   page_->hide();
   buildRows();
+  bindLabels();
   setTabOrder();
   QObject::connect(qApp, &QApplication::focusChanged, page_, [this](QWidget* before, QWidget* now) {
     if (now == nullptr || keepFromHidden(*page_, before, *now)) return;
@@ -102,6 +104,17 @@ QWidget* Form::parentFor(const Row& row) const {
     if (control->name() == container) return control->container();
   }
   return page_->canvas();
+}
+
+void Form::bindLabels() {
+  for (const Control* control : controls_) {
+    if (control->look().label.empty()) continue;
+    const QString name = toText(control->look().label);
+    for (const Control* label : controls_) {
+      if (label->name() != name && !label->name().startsWith(name + u'(')) continue;
+      for (QWidget* box : control->tabStops()) bindLabel(*label->widget(), *box);
+    }
+  }
 }
 
 void Form::setTabOrder() {

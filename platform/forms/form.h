@@ -119,6 +119,7 @@ class Form : public ControlHost,
   void focusCover();
   void focusMoved(QWidget* now);
   [[nodiscard]] QWidget* parentFor(const Row& row) const;
+  void bindLabels();
   void setTabOrder();
 
   Ground& ground_;

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QEvent>
+#include <utility>
 
 #include "platform/forms/accessible.h"
 
@@ -18,7 +19,7 @@ namespace {
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 
-void tell(QWidget& speaker, const QString& sentence) {
+void tellDesktop(QWidget& speaker, const QString& sentence) {
   QAccessibleAnnouncementEvent event(&speaker, sentence);
   QAccessible::updateAccessibility(&event);
 }
@@ -37,7 +38,7 @@ void tellDescription(const QDBusConnection& bus, const QString& object, const QS
 // "a11y" is the name under which the toolkit keeps its connection, and the path where its objects
 // are on it. Where it has none, because nobody listens or there is no such bus, nothing is sent. A
 // description that stayed would be read again whenever the focus comes back.
-void tell(QWidget& speaker, const QString& sentence) {
+void tellDesktop(QWidget& speaker, const QString& sentence) {
   const QDBusConnection bus(QStringLiteral("a11y"));
   QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&speaker);
   if (!bus.isConnected() || told == nullptr) return;
@@ -57,7 +58,7 @@ constexpr int kRounds = 2;
 
 }  // namespace
 
-QtAnnouncer::QtAnnouncer() {
+QtAnnouncer::QtAnnouncer(Tell tell) : tell_(tell ? std::move(tell) : Tell(tellDesktop)) {
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) {
     if (now != nullptr) lastFocus_ = now;
   });
@@ -84,12 +85,18 @@ void QtAnnouncer::waitRound(int rounds) {
   QCoreApplication::postEvent(this, new QEvent(QEvent::User), kLast);
 }
 
+// Who is not on the screen has nothing to say.
+QWidget* QtAnnouncer::speaker() const {
+  for (QWidget* candidate : {focusSpoken(), lastFocus_.data()}) {
+    if (candidate != nullptr && candidate->isVisible()) return candidate;
+  }
+  return QApplication::activeWindow();
+}
+
 void QtAnnouncer::speak() {
-  QWidget* focus = focusSpoken();
-  QWidget* speaker = focus != nullptr ? focus : lastFocus_.data();
-  if (speaker == nullptr) speaker = QApplication::activeWindow();
-  if (speaker != nullptr) tell(*speaker, untold_.join(QStringLiteral(". ")));
+  const QString words = untold_.join(QStringLiteral(". "));
   untold_.clear();
+  if (QWidget* who = speaker()) tell_(*who, words);
 }
 
 }  // namespace platform

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
+#include <functional>
 
 #include "platform/base/services.h"
 
@@ -18,7 +19,11 @@ namespace platform {
 // accessibility bus, as a description that is taken back at once.
 class QtAnnouncer final : public QObject, public Announcer {
  public:
-  QtAnnouncer();
+  // Tells words on behalf of a widget.
+  using Tell = std::function<void(QWidget& speaker, const QString& words)>;
+
+  // tell: how the desktop is told; as above without it.
+  explicit QtAnnouncer(Tell tell = {});
 
   void announce(const QString& sentence) override;
 
@@ -26,8 +31,10 @@ class QtAnnouncer final : public QObject, public Announcer {
 
  private:
   void waitRound(int rounds);
+  [[nodiscard]] QWidget* speaker() const;
   void speak();
 
+  Tell tell_;
   QStringList untold_;
   int rounds_ = 0;               // of the queue that are waited for after the next
   QPointer<QWidget> lastFocus_;  // where nothing has the focus a screen reader is still there

@@ -2,11 +2,11 @@
 
 #include <QComboBox>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
-#include "platform/forms/ground.h"
 
 namespace platform {
 
@@ -14,7 +14,12 @@ namespace {
 
 class ComboWidget final : public QComboBox {
  public:
-  using QComboBox::QComboBox;
+  ComboWidget(QWidget* parent, std::function<bool()> mayAct)
+      : QComboBox(parent), mayAct_(std::move(mayAct)) {}
+
+  void showPopup() override {
+    if (mayAct_()) QComboBox::showPopup();
+  }
 
  protected:
   void paintEvent(QPaintEvent* event) override {
@@ -23,6 +28,9 @@ class ComboWidget final : public QComboBox {
     QPainter painter(this);
     paintFocusRing(painter, *this, 0);
   }
+
+ private:
+  std::function<bool()> mayAct_;
 };
 
 QComboBox* boxOf(QWidget* widget) {
@@ -32,10 +40,10 @@ QComboBox* boxOf(QWidget* widget) {
 }  // namespace
 
 QWidget* ComboBox::create(QWidget* parent) {
-  auto* box = new ComboWidget(parent);
+  auto* box = new ComboWidget(parent, [this] { return mayAct(); });
   QObject::connect(box, &QComboBox::currentIndexChanged, box, [this](int index) {
     // Assistive technology chooses past all events.
-    if (index != chosen_ && ground().isDeaf()) {
+    if (index != chosen_ && !choosing_ && !mayAct()) {
       const QSignalBlocker quiet(widget());
       boxOf(widget())->setCurrentIndex(chosen_);
       return;
@@ -76,6 +84,7 @@ int ComboBox::listIndex() const {
 }
 
 void ComboBox::setListIndex(int index) {
+  const QScopedValueRollback byProgram(choosing_, true);
   boxOf(widget())->setCurrentIndex(index);
 }
 

@@ -32,6 +32,7 @@ class ComboBox : public Control {
  private:
   std::function<void()> clicked_;
   int chosen_ = -1;
+  bool choosing_ = false;  // the program chooses
 };
 
 }  // namespace platform

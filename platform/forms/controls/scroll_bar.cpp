@@ -21,7 +21,7 @@ int stored(const Look& look, std::string_view name, int otherwise) {
 }  // namespace
 
 QWidget* ScrollBar::create(QWidget* parent) {
-  auto* bar = new ScrollBarWidget(parent, unit_);
+  auto* bar = new ScrollBarWidget(parent, unit_, [this] { return mayAct(); });
   bar->setRange(stored(look(), "Min", 0), stored(look(), "Max", kMax));
   bar->setSingleStep(stored(look(), "SmallChange", 1));
   bar->setPageStep(stored(look(), "LargeChange", kLargeChange));

@@ -22,8 +22,8 @@ constexpr QColor kInk(24, 33, 59);
 
 }  // namespace
 
-ScrollBarWidget::ScrollBarWidget(QWidget* parent, double unit)
-    : QSlider(Qt::Horizontal, parent), unit_(unit) {
+ScrollBarWidget::ScrollBarWidget(QWidget* parent, double unit, std::function<bool()> mayAct)
+    : QSlider(Qt::Horizontal, parent), unit_(unit), mayAct_(std::move(mayAct)) {
   setFocusPolicy(Qt::StrongFocus);
 }
 

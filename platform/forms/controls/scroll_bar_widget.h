@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSlider>
+#include <functional>
 
 namespace platform {
 
@@ -10,10 +11,15 @@ class ScrollBarWidget final : public QSlider {
   Q_OBJECT
 
  public:
-  // unit: what one of the value is to assistive technology.
-  ScrollBarWidget(QWidget* parent, double unit);
+  // unit: what one of the value is to assistive technology. mayAct: whether what that enters acts
+  // now.
+  ScrollBarWidget(QWidget* parent, double unit, std::function<bool()> mayAct);
 
   [[nodiscard]] double unit() const { return unit_; }
+  // A value that assistive technology enters.
+  void enter(int value) {
+    if (mayAct_()) setValue(value);
+  }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -35,6 +41,7 @@ class ScrollBarWidget final : public QSlider {
   void letGo();
 
   double unit_;
+  std::function<bool()> mayAct_;
   static constexpr int kNoGrip = -1;
   int grip_ = kNoGrip;  // where the thumb is held, pixels from its left edge
 };

@@ -38,7 +38,8 @@ QWidget* TextBox::create(QWidget* parent) {
                                                if (isBuilt()) raiseEvent(changed_);
                                              },
                                          .clicked = [this] { raiseEvent(clicked_); },
-                                         .clickable = [this] { return clicked_ != nullptr; }});
+                                         .clickable = [this] { return clicked_ != nullptr; },
+                                         .mayAct = [this] { return mayAct(); }});
   align_ = look().align;
   box->setLimit(look().maxLength);
   box->setReadOnly(look().locked);

@@ -125,7 +125,7 @@ void TextBoxWidget::insertKept(QString kept) {
 }
 
 void TextBoxWidget::enterAnew(const QString& text) {
-  if (isReadOnly()) return;
+  if (isReadOnly() || !hooks_.mayAct()) return;
   if (text.isEmpty()) {
     putText({});
   } else {

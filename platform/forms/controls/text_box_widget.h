@@ -24,6 +24,8 @@ class TextBoxWidget final : public QLineEdit {
     std::function<void()> clicked;
     // Whether a click means something.
     std::function<bool()> clickable;
+    // Whether what comes past all events may be entered now.
+    std::function<bool()> mayAct;
   };
 
   TextBoxWidget(QWidget* parent, Hooks hooks);

@@ -36,7 +36,7 @@ UpDown::~UpDown() = default;
 QWidget* UpDown::create(QWidget* parent) {
   return new UpDownWidget(
       parent, ground().time(),
-      {.step = [this](int by) { step(by); }, .moveTo = [this](int value) { moveTo(value); }});
+      {.step = [this](int by) { step(by); }, .moveTo = [this](int value) { enter(value); }});
 }
 
 void UpDown::bind(TextBox& box, int lowest, int highest) {
@@ -57,6 +57,12 @@ void UpDown::bind(TextBox& box, int lowest, int highest) {
 void UpDown::tell(const QString& text) {
   const double value = std::clamp<double>(leadingNumber(text), lowest_, highest_);
   static_cast<UpDownWidget*>(widget())->show(int(value));
+}
+
+// Whatever comes of it, the spinner says what the box has.
+void UpDown::enter(int value) {
+  if (mayAct()) moveTo(value);
+  if (box_ != nullptr) tell(box_->text());
 }
 
 void UpDown::step(int by) {

@@ -29,6 +29,7 @@ class UpDown : public Control {
  private:
   class BoxKeys;
 
+  void enter(int value);
   void moveTo(double value);
   void tell(const QString& text);
 

@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QApplication>
 
-#include "platform/forms/qt_announcer.h"
 #include "stage.h"
 #include "support/iscrizione.h"
 
@@ -92,18 +91,6 @@ class AccessibleTest : public QObject {
              (QStringList{QStringLiteral("Right. 3"), QStringLiteral("Wrong. 1")}));
     QCOMPARE(spoken(form.First).text(QAccessible::Description), QString());
     QCOMPARE(spoken(form.Second).text(QAccessible::Description), QString());
-  }
-
-  void theDesktopsAnnouncerDoesNoHarmWhereNobodyListens() {
-    Stage stage;
-    TrialForm& form = stage.show(kOne);
-    platform::QtAnnouncer announcer;
-    announcer.announce(QStringLiteral("Before any focus"));
-    form.First.setFocus();
-    announcer.announce(QStringLiteral("Right"));
-    QApplication::focusWidget()->clearFocus();
-    announcer.announce(QStringLiteral("Wrong"));
-    QCOMPARE(spoken(form.First).text(QAccessible::Description), QString());
   }
 };
 

@@ -1,0 +1,48 @@
+#include "platform/forms/accessible_labels.h"
+
+#include <QPointer>
+#include <QVariant>
+
+namespace platform {
+
+namespace {
+
+using Widgets = QList<QPointer<QWidget>>;
+
+// What a widget is bound to, kept by the widget itself; the relation is as the toolkit names it:
+// what the others are to the widget.
+struct Bond {
+  const char* property;
+  QAccessible::RelationFlag relation;
+};
+constexpr Bond kLabels{"accessibleLabels", QAccessible::Label};
+constexpr Bond kBoxes{"accessibleBoxes", QAccessible::Labelled};
+
+Widgets boundTo(const QWidget& widget, const Bond& bond) {
+  return widget.property(bond.property).value<Widgets>();
+}
+
+void add(QWidget& widget, const Bond& bond, QWidget& other) {
+  widget.setProperty(bond.property, QVariant::fromValue(boundTo(widget, bond) << &other));
+}
+
+}  // namespace
+
+void bindLabel(QWidget& label, QWidget& box) {
+  add(box, kLabels, label);
+  add(label, kBoxes, box);
+}
+
+Relations labelRelations(const QWidget& widget, QAccessible::Relation match) {
+  Relations relations;
+  for (const Bond& bond : {kLabels, kBoxes}) {
+    if (!match.testFlag(bond.relation)) continue;
+    for (const QPointer<QWidget>& other : boundTo(widget, bond)) {
+      if (!other || other->isHidden()) continue;
+      relations.append({QAccessible::queryAccessibleInterface(other), bond.relation});
+    }
+  }
+  return relations;
+}
+
+}  // namespace platform
