@@ -23,6 +23,22 @@
 #include "printing/nome_formato_carta.h"
 #include "printing/parole_pagina.h"
 
+namespace {
+
+// What message boxes stand over.
+QWidget* FinestraInUso(somme::Ambiente& ambiente) {
+  QWidget* modale = QApplication::activeModalWidget();
+  return modale != nullptr ? modale : &ambiente.fondo.window();
+}
+
+// Where this user's settings go when the program's folder cannot be written.
+QString CartellaUtente() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+         QStringLiteral("/somme");
+}
+
+}  // namespace
+
 // Only wiring: the real services, the ground, the entry routine.
 int main(int /*argc*/, char* argv[]) {
   // The program takes no arguments. The toolkit's own would change its look.
@@ -47,19 +63,14 @@ int main(int /*argc*/, char* argv[]) {
   // The message boxes speak the language of the whole that they are a part of, and stand over the
   // window in use.
   somme::Ambiente* tutto = nullptr;
-  const auto sopra = [&tutto]() -> QWidget* {
-    QWidget* modale = QApplication::activeModalWidget();
-    return modale != nullptr ? modale : &tutto->fondo.window();
-  };
+  const auto sopra = [&tutto] { return FinestraInUso(*tutto); };
   platform::QtMessageBoxes messaggi([&tutto] { return somme::ParoleMessaggi(*tutto); }, sopra);
   platform::QtPageSetup pagina(
       [&tutto] { return somme::ParolePagina(*tutto); },
       [](const platform::Paper& carta) { return somme::NomeDellaCarta(carta); }, sopra);
   somme::Ambiente ambiente(
       {tempo, sorte, suono, messaggi, annunci, documenti, fine, istanza, stampanti, pagina, rete,
-       QCoreApplication::applicationDirPath(),
-       QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/somme")},
+       QCoreApplication::applicationDirPath(), CartellaUtente()},
       somme::LeForme());
   tutto = &ambiente;
   const platform::SessionEnd fineSessione(ambiente.fondo);

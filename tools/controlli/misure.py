@@ -63,7 +63,9 @@ def profondita_delle_forme():
         sotto = altezza(catena[0], (*visti, nome))
         return None if sotto is None else sotto + 1
 
-    forme = {n for n in sopra if re.match(r"Form[A-Z]\w*$|frm[A-Z]\w*$", n)}
+    # Whatever makes a form is the base of nothing else.
+    forme = {n for n in sopra if re.match(r"Forma?[A-Z]\w*$|frm[A-Z]\w*$", n)}
+    forme -= {n for catena in sopra.values() for n in catena}
     return {n: a for n in sorted(forme) if (a := altezza(n))}
 
 
@@ -87,7 +89,7 @@ def righe():
           f"p90 {_decimo(quanti, 0.9)}, above 40 lines: " \
           f"{', '.join(f'{p} {n}' for n, p in sorted(corpi, reverse=True) if n > 40) or 'none'}"
     if profondita:
-        yield f"exercise forms: {len(profondita)}, classes below Form median " \
+        yield f"classes of exercise forms: {len(profondita)}, classes below Form median " \
               f"{statistics.median(profondita.values()):.0f}, most {max(profondita.values())} " \
               f"({max(profondita, key=profondita.get)})"
     yield f"headers of exercises/ that reach no form: {len(liberi)} of {len(esercizi)}"
