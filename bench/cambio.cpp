@@ -97,7 +97,7 @@ class Cambio {
   void metti() {
     forma().EliminaNumeroSW1();
     for (int i = 0; i < somme::PartitaAbaco::kPalline; ++i) {
-      forma().Inserisci(somme::Posto::Unita, QStringLiteral("ua%1").arg(i));
+      forma().InserisciUnita(QStringLiteral("ua%1").arg(i));
     }
     QTest::qWait(200);
   }

@@ -96,25 +96,25 @@ void FormaAbacoHK::Agisci(Tasto tasto) {
   if (gioco().CambioInCorso()) return;
   switch (tasto) {
     case Tasto::Migliaia:
-      Inserisci(Posto::Migliaia);
+      InserisciMigliaio();
       break;
     case Tasto::Centinaia:
-      Inserisci(Posto::Centinaia);
+      InserisciCentinaio();
       break;
     case Tasto::Decine:
-      Inserisci(Posto::Decine);
+      InserisciDecina();
       break;
     case Tasto::Unita:
-      Inserisci(Posto::Unita);
+      InserisciUnita();
       break;
     case Tasto::CambioHK:
-      Cambio(Posto::Centinaia);
+      CambioHK();
       break;
     case Tasto::CambioDaH:
-      Cambio(Posto::Decine);
+      CambioDaH();
       break;
     case Tasto::CambioUDa:
-      Cambio(Posto::Unita);
+      CambioUDa();
       break;
     case Tasto::Cestino:
       Svuota();

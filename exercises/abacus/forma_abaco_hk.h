@@ -27,6 +27,15 @@ class FormaAbacoHK final : public FormaAbaco {
   [[nodiscard]] bool HelpiKeysConnesso() const { return tocco_.HelpiKeysConnesso(); }
   // Does what the key at a place of the sheet does, 1 to 12.
   void InterpretaSegnale(int tasto) const { tocco_.InterpretaSegnale(tasto); }
+  // A bead for a sum that has such digits; else the sound of what is wrong.
+  void InserisciMigliaio() { Inserisci(Posto::Migliaia); }
+  void InserisciCentinaio() { Inserisci(Posto::Centinaia); }
+  void InserisciDecina() { Inserisci(Posto::Decine); }
+  void InserisciUnita() { Inserisci(Posto::Unita); }
+  // Ten of a place become one of the next.
+  void CambioUDa() { Cambio(Posto::Unita); }
+  void CambioDaH() { Cambio(Posto::Decine); }
+  void CambioHK() { Cambio(Posto::Centinaia); }
 
  protected:
   void onLoad() override;
@@ -35,7 +44,6 @@ class FormaAbacoHK final : public FormaAbaco {
 
  private:
   void Agisci(Tasto tasto);
-  // A bead for a sum that has such digits; else the sound of what is wrong.
   void Inserisci(Posto posto);
   void Cambio(Posto da);
   void ScriviCifre();

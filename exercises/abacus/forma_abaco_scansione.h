@@ -24,7 +24,10 @@ class FormaAbacoScansione final : public FormaAbaco {
   platform::Label LabelDimensioneTastiera{*this};  // hidden: the place of the keyboards
 
   // One more bead, as the key of its place puts it, and the carry that follows by itself.
-  void Inserisci(Posto posto);
+  void InserisciMigliaio() { Inserisci(Posto::Migliaia); }
+  void InserisciCentinaio() { Inserisci(Posto::Centinaia); }
+  void InserisciDecina() { Inserisci(Posto::Decine); }
+  void InserisciUnita() { Inserisci(Posto::Unita); }
   // Shows the keyboard of place values again and puts the light on its first key.
   void RiattivaTastiera();
 
@@ -37,6 +40,7 @@ class FormaAbacoScansione final : public FormaAbaco {
 
  private:
   void PosaTastiere();
+  void Inserisci(Posto posto);
   void Cambio(Posto da);
   void PassaAlleCifre();
   void SvuotaInput();

@@ -19,9 +19,15 @@ class FormaAbacoTastiera final : public FormaAbaco {
   platform::Button PulsanteAvanti{*this};
 
   // clip: the waiting bead that was clicked, by its name in the movie.
-  void Inserisci(Posto posto, const QString& clip);
+  void InserisciMigliaio(const QString& clip) { Inserisci(Posto::Migliaia, clip); }
+  void InserisciCentinaio(const QString& clip) { Inserisci(Posto::Centinaia, clip); }
+  void InserisciDecina(const QString& clip) { Inserisci(Posto::Decine, clip); }
+  void InserisciUnita(const QString& clip) { Inserisci(Posto::Unita, clip); }
   // Whichever bead of the spike was clicked, the topmost one goes.
-  void Rimuovi(Posto posto);
+  void RimuoviMigliaio() { Rimuovi(Posto::Migliaia); }
+  void RimuoviCentinaio() { Rimuovi(Posto::Centinaia); }
+  void RimuoviDecina() { Rimuovi(Posto::Decine); }
+  void RimuoviUnita() { Rimuovi(Posto::Unita); }
 
  protected:
   void onLoad() override;
@@ -37,6 +43,8 @@ class FormaAbacoTastiera final : public FormaAbaco {
   // Lets assistive technology press the beads.
   void OffriPalline();
   void Ascolta(const QString& clip, const QString& parola);
+  void Inserisci(Posto posto, const QString& clip);
+  void Rimuovi(Posto posto);
   // The arrows, by the place that they carry from.
   [[nodiscard]] std::array<platform::Button*, 3> Frecce();
   void AbilitaFrecce();

@@ -188,9 +188,9 @@ class FormaAbacoScansioneTest : public QObject {
     QVERIFY(banco.scegli(Valori::kCentinaia, 10));
     // The tenth hundred finds the thousands full, and the tenth ten the hundreds.
     QVERIFY(banco.scegli(Valori::kCentinaia, 9));
-    banco.forma.Inserisci(somme::Posto::Centinaia);
+    banco.forma.InserisciCentinaio();
     const double prima = banco.adesso();
-    banco.forma.Inserisci(somme::Posto::Decine);
+    banco.forma.InserisciDecina();
     QCOMPARE(banco.adesso(), prima);
     QCOMPARE(banco.forma.partita().Inserite().decine, 10);
     QVERIFY(!banco.valori.isVisible());
