@@ -55,18 +55,17 @@ constexpr FormDesign kDisegno = DisegnoAbaco(forme::kFormAbaco, kTavole);
 // The words of the movie and what they ask for; any other is ignored.
 struct Parola {
   QLatin1String parola;
-  Posto posto;
-  bool inserisce;  // else takes away
+  void (FormaAbacoTastiera::*mossa)(const QString& clip);
 };
 constexpr auto kParole = std::to_array<Parola>({
-    {QLatin1String("migliaioinattesa"), Posto::Migliaia, true},
-    {QLatin1String("centinaioinattesa"), Posto::Centinaia, true},
-    {QLatin1String("decinainattesa"), Posto::Decine, true},
-    {QLatin1String("unitainattesa"), Posto::Unita, true},
-    {QLatin1String("migliaioinserito"), Posto::Migliaia, false},
-    {QLatin1String("centinaioinserito"), Posto::Centinaia, false},
-    {QLatin1String("decinainserita"), Posto::Decine, false},
-    {QLatin1String("unitainserita"), Posto::Unita, false},
+    {QLatin1String("migliaioinattesa"), &FormaAbacoTastiera::InserisciMigliaio},
+    {QLatin1String("centinaioinattesa"), &FormaAbacoTastiera::InserisciCentinaio},
+    {QLatin1String("decinainattesa"), &FormaAbacoTastiera::InserisciDecina},
+    {QLatin1String("unitainattesa"), &FormaAbacoTastiera::InserisciUnita},
+    {QLatin1String("migliaioinserito"), &FormaAbacoTastiera::RimuoviMigliaio},
+    {QLatin1String("centinaioinserito"), &FormaAbacoTastiera::RimuoviCentinaio},
+    {QLatin1String("decinainserita"), &FormaAbacoTastiera::RimuoviDecina},
+    {QLatin1String("unitainserita"), &FormaAbacoTastiera::RimuoviUnita},
 });
 
 }  // namespace
@@ -161,12 +160,7 @@ void FormaAbacoTastiera::AbilitaFrecce() {
 
 void FormaAbacoTastiera::Ascolta(const QString& clip, const QString& parola) {
   const auto* parole = std::ranges::find(kParole, parola, &Parola::parola);
-  if (parole == kParole.end()) return;
-  if (parole->inserisce) {
-    Inserisci(parole->posto, clip);
-  } else {
-    Rimuovi(parole->posto);
-  }
+  if (parole != kParole.end()) (this->*parole->mossa)(clip);
 }
 
 void FormaAbacoTastiera::Inserisci(Posto posto, const QString& clip) {

@@ -18,16 +18,16 @@ class FormaAbacoTastiera final : public FormaAbaco {
   platform::Button PulsanteCestino{*this};
   platform::Button PulsanteAvanti{*this};
 
-  // clip: the waiting bead that was clicked, by its name in the movie.
+  // What a click on a bead does; clip: the bead that was clicked, by its name in the movie.
   void InserisciMigliaio(const QString& clip) { Inserisci(Posto::Migliaia, clip); }
   void InserisciCentinaio(const QString& clip) { Inserisci(Posto::Centinaia, clip); }
   void InserisciDecina(const QString& clip) { Inserisci(Posto::Decine, clip); }
   void InserisciUnita(const QString& clip) { Inserisci(Posto::Unita, clip); }
   // Whichever bead of the spike was clicked, the topmost one goes.
-  void RimuoviMigliaio() { Rimuovi(Posto::Migliaia); }
-  void RimuoviCentinaio() { Rimuovi(Posto::Centinaia); }
-  void RimuoviDecina() { Rimuovi(Posto::Decine); }
-  void RimuoviUnita() { Rimuovi(Posto::Unita); }
+  void RimuoviMigliaio(const QString& /*clip*/) { Rimuovi(Posto::Migliaia); }
+  void RimuoviCentinaio(const QString& /*clip*/) { Rimuovi(Posto::Centinaia); }
+  void RimuoviDecina(const QString& /*clip*/) { Rimuovi(Posto::Decine); }
+  void RimuoviUnita(const QString& /*clip*/) { Rimuovi(Posto::Unita); }
 
  protected:
   void onLoad() override;

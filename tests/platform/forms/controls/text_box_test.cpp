@@ -1,6 +1,5 @@
 #include "platform/forms/controls/text_box.h"
 
-#include <QAbstractEventDispatcher>
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
@@ -8,67 +7,18 @@
 #include <QLineEdit>
 #include <QMimeData>
 
-#include "platform/forms/controls/button.h"
-#include "platform/forms/proportional_layout.h"
-#include "support/fondo_di_prova.h"
 #include "support/iscrizione.h"
+#include "text_box_di_prova.h"
 
-using platform::Form;
-using platform::Row;
-using platform::row;
-using platform::Runtime;
+using casella::Fondo;
+using casella::Prova;
+using casella::rigaDi;
 using platform::TextBox;
 
 namespace {
 
-class Prova;
-extern const platform::FormDesign kDisegno;
-
-class Prova : public Form {
- public:
-  explicit Prova(Runtime& runtime) : Form(runtime, kDisegno) {
-    Casella.onKeyPress([this](int& tasto) {
-      if (filtro) filtro(tasto);
-    });
-    Casella.onKeyUp([this](int tasto) { rilasciati.append(tasto); });
-    Casella.onChange([this] { cambiamenti.append(Casella.text()); });
-  }
-
-  TextBox Casella{*this};
-  TextBox Bloccata{*this};
-  platform::Button Bottone{*this};
-
-  std::function<void(int&)> filtro;
-  QList<int> rilasciati;
-  QStringList cambiamenti;
-
- protected:
-  void onLoad() override { layout_.start(); }
-  void onResize() override { layout_.resize(); }
-
- private:
-  platform::ProportionalLayout layout_{*this};
-};
-
-constexpr auto kRighe = std::to_array<Row>({
-    row<&Prova::Casella>(
-        {1000, 1000, 3000, 900},
-        {.toolTip = "Il numero", .font = {platform::Face::Tahoma, 24}, .maxLength = 4}),
-    row<&Prova::Bloccata>({1000, 3000, 3000, 900}, {.caption = "fermo", .locked = true}),
-    row<&Prova::Bottone>({1000, 5000, 3000, 900}, {.caption = "vai"}),
-});
-constexpr std::array<std::span<const Row>, 1> kTavole{kRighe};
-const platform::FormDesign kDisegno{
-    .name = "Prova", .caption = "Prova", .width = 15000, .height = 10500, .tables = kTavole};
-
-using Fondo = prova::FondoDiProva<Prova>;
-
 void soloCifre(int& tasto) {
   if (tasto != 8 && (tasto < '0' || tasto > '9')) tasto = 0;
-}
-
-QLineEdit& rigaDi(TextBox& casella) {
-  return *qobject_cast<QLineEdit*>(casella.widget());
 }
 
 void componi(TextBox& casella, const QString& testo) {
@@ -84,15 +34,6 @@ void lascia(TextBox& casella, const QString& testo) {
   QCoreApplication::sendEvent(casella.widget(), &entra);
   QDropEvent evento(QPointF(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, {});
   QCoreApplication::sendEvent(casella.widget(), &evento);
-}
-
-// The timers by which the box's cursor blinks.
-qsizetype battiti(TextBox& casella) {
-  qsizetype quanti = 0;
-  for (QObject* parte : rigaDi(casella).findChildren<QObject*>()) {
-    quanti += QAbstractEventDispatcher::instance()->registeredTimers(parte).size();
-  }
-  return quanti;
 }
 
 void metti(const QString& testo) {
@@ -326,105 +267,6 @@ class TextBoxTest : public QObject {
     forma.Bloccata.setFocus();
     fondo.scrivi(QStringLiteral("5"));
     QCOMPARE(forma.Bloccata.text(), QStringLiteral("5"));
-  }
-
-  void aNumberThatDoesNotFitTakesASmallerFont() {
-    Fondo fondo;
-    Prova& forma = fondo.forma();
-    forma.Casella.setText(QStringLiteral("1"));
-    const int larga = rigaDi(forma.Casella).font().pixelSize();
-    QCOMPARE(larga, qRound(24.0 * 20 / 15));
-    forma.Casella.setText(QStringLiteral("123 456 789 012"));
-    const QLineEdit& riga = rigaDi(forma.Casella);
-    QVERIFY(riga.font().pixelSize() < larga);
-    QVERIFY(riga.fontMetrics().horizontalAdvance(riga.text()) < riga.width());
-    forma.Casella.setText(QStringLiteral("1"));
-    QCOMPARE(rigaDi(forma.Casella).font().pixelSize(), larga);
-  }
-
-  void theFontGrowsWithTheForm() {
-    Fondo fondo;
-    Prova& forma = fondo.forma();
-    fondo.ridimensiona({2000, 1400});
-    QCOMPARE(rigaDi(forma.Casella).font().pixelSize(), qRound(24.0 * 20 / 15 * 2));
-    QCOMPARE(forma.Casella.fontSize(), 48.0);
-  }
-
-  void noCursorBlinksWhileAnotherControlHasTheFocus() {
-    Fondo fondo;
-    Prova& forma = fondo.forma();
-    forma.Casella.setFocus();
-    forma.Bottone.setFocus();
-    QCOMPARE(battiti(forma.Casella), 0);
-    forma.Casella.setFocus();
-    QCOMPARE(battiti(forma.Casella), 1);
-    // Nothing can be written there, so that nothing blinks.
-    forma.Casella.setLocked(true);
-    QCOMPARE(battiti(forma.Casella), 0);
-  }
-
-  void theCursorStandsStillOnceNobodyTypesAndBlinksAgainWithTheNextKey() {
-    Fondo fondo;
-    Prova& forma = fondo.forma();
-    forma.Casella.setFocus();
-    QCOMPARE(battiti(forma.Casella), 1);
-    QTest::qWait(2000);
-    fondo.scrivi(QStringLiteral("1"));
-    QTest::qWait(2000);
-    QCOMPARE(battiti(forma.Casella), 1);
-    QTRY_COMPARE_WITH_TIMEOUT(battiti(forma.Casella), 0, 5000);
-    fondo.scrivi(QStringLiteral("2"));
-    QCOMPARE(battiti(forma.Casella), 1);
-    QTRY_COMPARE_WITH_TIMEOUT(battiti(forma.Casella), 0, 5000);
-    forma.Bottone.setFocus();
-    forma.Casella.setFocus();
-    QCOMPARE(battiti(forma.Casella), 1);
-  }
-
-  void theFocusShowsAsARingOfTwoPixelsAtLeast() {
-    Fondo fondo;
-    Prova& forma = fondo.forma();
-    forma.Bottone.setFocus();
-    const QImage senza = forma.Casella.widget()->grab().toImage();
-    forma.Casella.setFocus();
-    const QImage con = forma.Casella.widget()->grab().toImage();
-    for (int i = 0; i < 2; ++i) {
-      for (int x = i; x < con.width() - i; ++x)
-        QVERIFY(con.pixel(x, i) != senza.pixel(x, i) || i > 0);
-      QCOMPARE(con.pixelColor(con.width() / 2, i), con.pixelColor(i, con.height() / 2));
-      QVERIFY(con.pixelColor(con.width() / 2, i).lightness() < 80);
-    }
-  }
-
-  void faintInkIsOutlined() {
-    Fondo fondo;
-    Prova& forma = fondo.forma();
-    forma.Bottone.setFocus();
-    forma.Casella.setForeColor({0, 255, 255});
-    forma.Casella.setText(QStringLiteral("8"));
-    const QImage immagine = forma.Casella.widget()->grab().toImage();
-    int scuri = 0;
-    int ciano = 0;
-    for (int y = 6; y < immagine.height() - 6; ++y) {
-      for (int x = 6; x < immagine.width() - 6; ++x) {
-        const QColor punto = immagine.pixelColor(x, y);
-        scuri += punto.lightness() < 60 ? 1 : 0;
-        ciano += punto == QColor(0, 255, 255) ? 1 : 0;
-      }
-    }
-    QVERIFY(scuri > 10);
-    QVERIFY(ciano > 10);
-  }
-
-  void theToolTipIsTheSpokenNameAndThereIsNoContextMenu() {
-    Fondo fondo;
-    Prova& forma = fondo.forma();
-    QAccessibleInterface* accesso = QAccessible::queryAccessibleInterface(forma.Casella.widget());
-    QCOMPARE(accesso->text(QAccessible::Name), QStringLiteral("Il numero"));
-    QCOMPARE(accesso->role(), QAccessible::EditableText);
-    QCOMPARE(forma.Casella.widget()->objectName(), QStringLiteral("Casella"));
-    fondo.clicca(forma.Casella, Qt::RightButton);
-    QVERIFY(QApplication::activePopupWidget() == nullptr);
   }
 
   void theTextOfTheDesignIsNoChange() {
