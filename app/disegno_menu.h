@@ -44,9 +44,9 @@ constexpr Look VoceLivello(std::string_view testo) {
   return {.caption = testo, .font = {Face::Tahoma, 11.25}};
 }
 
-// A level whose button has room for a picture.
-constexpr Look VoceGrande(std::string_view testo, double punti = 14.25) {
-  return {.caption = testo, .font = {Face::Tahoma, punti}, .picture = "livello"};
+// A level whose button has room for a picture of what it does.
+constexpr Look VoceGrande(std::string_view testo, std::string_view immagine, double punti = 14.25) {
+  return {.caption = testo, .font = {Face::Tahoma, punti}, .picture = immagine};
 }
 
 constexpr Look Indietro() {
@@ -84,6 +84,17 @@ constexpr bool HaPosto(double larghezza, double altezza, std::span<const Row> li
     const auto daA = [&a](const Row& b) { return Discosti(a, b); };
     return a.place.left + a.place.width <= larghezza && a.place.top + a.place.height <= altezza &&
            std::ranges::all_of(livelli, daA) && std::ranges::all_of(altre, daA);
+  });
+}
+
+// Each button has a picture, and none the picture of another: by it a pupil who cannot read finds
+// his level again.
+constexpr bool ConImmaginiProprie(std::span<const Row> pulsanti) {
+  return std::ranges::all_of(pulsanti, [pulsanti](const Row& riga) {
+    const auto uguale = [&riga](const Row& altra) {
+      return altra.look.picture == riga.look.picture;
+    };
+    return !riga.look.picture.empty() && std::ranges::count_if(pulsanti, uguale) == 1;
   });
 }
 

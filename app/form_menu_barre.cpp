@@ -11,14 +11,19 @@ namespace {
 
 constexpr double kLarghezza = 6420;
 
-constexpr auto kControlli = std::to_array<Row>({
-    Intestazione(kLarghezza - 480, "Uso delle barre"),
-    row<&FormMenuBarre::Command2>({1560, 1440, 3300, 915}, VoceGrande("Fino al 10")),
-    row<&FormMenuBarre::Command4>({1560, 2640, 3300, 915}, VoceGrande("Fino al 20")),
+constexpr auto kSopra = std::to_array<Row>({Intestazione(kLarghezza - 480, "Uso delle barre")});
+constexpr auto kPortate = std::to_array<Row>({
+    row<&FormMenuBarre::Command2>({1560, 1440, 3300, 915},
+                                  VoceGrande("Fino al 10", "livello_barre_10")),
+    row<&FormMenuBarre::Command4>({1560, 2640, 3300, 915},
+                                  VoceGrande("Fino al 20", "livello_barre_20")),
+});
+constexpr auto kSotto = std::to_array<Row>({
     row<&FormMenuBarre::Command1>({1560, 4440, 3300, 1155}, Indietro()),
 });
+static_assert(ConImmaginiProprie(kPortate), "a range has no picture of its own");
 
-constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
+constexpr std::array<std::span<const Row>, 3> kTavole{kSopra, kPortate, kSotto};
 constexpr FormDesign kDisegno = Menu(forme::kFormMenuBarre, kLarghezza, 5880, kTavole);
 
 }  // namespace

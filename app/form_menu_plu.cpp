@@ -35,9 +35,9 @@ constexpr std::size_t RigaDi(const Livello& livello) {
 }
 
 constexpr Row Pulsante(const Livello& livello, TwipsRect posto) {
-  const auto& [tipo, pulsante, registro, didascalia] = livello.blocchi;
+  const auto& [tipo, pulsante, immagine, registro, didascalia] = livello.blocchi;
   const std::string_view parole = didascalia.empty() ? livello.didascalia : didascalia;
-  return {pulsante, -1, kPulsanti.at(RigaDi(livello)), posto, VoceGrande(parole, 12)};
+  return {pulsante, -1, kPulsanti.at(RigaDi(livello)), posto, VoceGrande(parole, immagine, 12)};
 }
 
 constexpr MenuDiLivelli kMenu{.famiglie = kFamiglie,
@@ -52,10 +52,17 @@ constexpr MenuDiLivelli kMenu{.famiglie = kFamiglie,
 constexpr auto kSopra =
     std::to_array<Row>({Intestazione(kLarghezza - 480, "Piatti, lunghi e unità")});
 constexpr auto kLivelliDelMenu = DisponiLivelli<kMenu>();
+constexpr auto kPulsantiDelMenu = [] {
+  std::array<Row, kLivelliDelMenu.size() - kFasce.size()> righe{};
+  const auto haPulsante = [](const Row& riga) { return riga.look.back != kFascia; };
+  std::ranges::copy_if(kLivelliDelMenu, righe.begin(), haPulsante);
+  return righe;
+}();
 constexpr auto kSotto = std::to_array<Row>({
     row<&FormMenuPLU::Command1>({6360, 5760, 2580, 1155}, Indietro()),
 });
 static_assert(HaPosto(kLarghezza, kAltezza, kLivelliDelMenu, kSotto), "a level has no place");
+static_assert(ConImmaginiProprie(kPulsantiDelMenu), "a level has no picture of its own");
 
 constexpr std::array<std::span<const Row>, 3> kTavole{kSopra, kLivelliDelMenu, kSotto};
 constexpr FormDesign kDisegno = Menu(forme::kFormMenuPLU, kLarghezza, kAltezza, kTavole);

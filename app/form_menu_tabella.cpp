@@ -27,8 +27,8 @@ constexpr auto kGeneri = [] {
     if (!SiOffre(genere)) continue;
     const TwipsRect posto{240.0 + 3360 * (rango / kPerColonna),
                           1440.0 + 1200 * (rango % kPerColonna), 2580, 915};
-    righe.at(static_cast<std::size_t>(rango)) =
-        row<&FormMenuTabella::Command2>(genere.tipo, posto, VoceGrande(genere.didascalia));
+    righe.at(static_cast<std::size_t>(rango)) = row<&FormMenuTabella::Command2>(
+        genere.tipo, posto, VoceGrande(genere.didascalia, genere.immagine));
     ++rango;
   }
   return righe;
@@ -39,6 +39,7 @@ constexpr auto kSotto = std::to_array<Row>({
     row<&FormMenuTabella::Command1>({3600, 5040, 2580, 1155}, Indietro()),
 });
 static_assert(HaPosto(kLarghezza, kAltezza, kGeneri, kSotto), "a kind of the table has no place");
+static_assert(ConImmaginiProprie(kGeneri), "a kind of the table has no picture of its own");
 
 constexpr std::array<std::span<const Row>, 3> kTavole{kSopra, kGeneri, kSotto};
 constexpr FormDesign kDisegno = Menu(forme::kFormMenuTabella, kLarghezza, kAltezza, kTavole);

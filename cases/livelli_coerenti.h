@@ -84,7 +84,9 @@ constexpr bool AbaciConFrecce(Livelli livelli) {
 constexpr bool BlocchiCompleti(Livelli livelli) {
   return std::ranges::all_of(livelli, [livelli](const Livello& l) {
     const ConIBlocchi& b = l.blocchi;
-    if (b.tipo == 0) return b.pulsante.empty() && b.registro.empty() && b.didascalia.empty();
+    if (b.tipo == 0) {
+      return b.pulsante.empty() && b.immagine.empty() && b.registro.empty() && b.didascalia.empty();
+    }
     const auto suo = [&b](const Livello& altro) { return altro.blocchi.pulsante == b.pulsante; };
     return (l.gruppo == Gruppo::Entro99 || l.gruppo == Gruppo::Entro999) && !b.registro.empty() &&
            b.pulsante.starts_with("Command") && b.pulsante != "Command1" &&

@@ -24,24 +24,31 @@ struct RegolaTabella {
 };
 
 // A kind and all that it is: its `TipoEsercizio`, which is the index of its button on the menu, its
-// rule, and its words there. What has no words is offered by no menu. The menu shows the others in
-// the order of the rows.
+// rule, and its words and its picture there. What has no words is offered by no menu. The menu
+// shows the others in the order of the rows.
 struct GenereTabella {
   qint16 tipo;
   RegolaTabella regola;
   std::string_view didascalia = {};  // UTF-8
+  std::string_view immagine = {};    // a drawing of the program's, by its name
 };
 
 inline constexpr auto kGeneriTabella = std::to_array<GenereTabella>({
-    {0, {.limiteA = 98, .limiteB = kFisso}, "Aggiungi un'unità"},
-    {1, {.limiteA = 90, .limiteB = kFisso, .passoB = 10}, "Aggiungi una decina"},
+    {0, {.limiteA = 98, .limiteB = kFisso}, "Aggiungi un'unità", "livello_tabella_unita"},
+    {1,
+     {.limiteA = 90, .limiteB = kFisso, .passoB = 10},
+     "Aggiungi una decina",
+     "livello_tabella_decina"},
     {2, {.limiteA = 98, .inPiuA = -1, .limiteB = kFisso, .meno = true}},
     {3, {.limiteA = 90, .inPiuA = 10, .limiteB = kFisso, .passoB = 10, .meno = true}},
-    {5, {.limiteA = 90, .limiteB = 10}, "Aggiungi più unità"},
-    {6, {.limiteA = 90, .limiteB = 10, .passoB = 10, .ripete = true}, "Aggiungi più decine"},
+    {5, {.limiteA = 90, .limiteB = 10}, "Aggiungi più unità", "livello_tabella_piu_unita"},
+    {6,
+     {.limiteA = 90, .limiteB = 10, .passoB = 10, .ripete = true},
+     "Aggiungi più decine",
+     "livello_tabella_piu_decine"},
     {7, {.limiteA = 90, .inPiuA = 10, .limiteB = 10, .meno = true}},
     {8, {.limiteA = 90, .inPiuA = 10, .limiteB = 10, .passoB = 10, .meno = true, .ripete = true}},
-    {10, {.limiteA = 99, .limiteB = 99, .ripete = true}, "Somme"},
+    {10, {.limiteA = 99, .limiteB = 99, .ripete = true}, "Somme", "livello_tabella_somme"},
     {11, {.limiteA = 99, .limiteB = kFinoAdA, .meno = true}},
 });
 

@@ -30,6 +30,11 @@ void Pictures::paint(QPainter& painter, const QString& name, const QRectF& area)
   drawing.render(&painter, target);
 }
 
+double Pictures::proportions(const QString& name) {
+  const QSizeF own = renderer(name).viewBoxF().size();
+  return own.isEmpty() ? 1 : own.width() / own.height();
+}
+
 QPixmap Pictures::pixmap(const QString& name, QSize size, qreal devicePixelRatio) {
   QPixmap image(size * devicePixelRatio);
   image.setDevicePixelRatio(devicePixelRatio);

@@ -21,6 +21,8 @@ class Pictures {
 
   // Draws the picture into the area in its own proportions, as large as fits, in the middle.
   void paint(QPainter& painter, const QString& name, const QRectF& area);
+  // Its width over its height; 1 for a missing one.
+  [[nodiscard]] double proportions(const QString& name);
   // The picture in so many logical pixels.
   [[nodiscard]] QPixmap pixmap(const QString& name, QSize size, qreal devicePixelRatio);
   // The picture as the icon of a window, in the sizes that desktops ask for. The same each time:

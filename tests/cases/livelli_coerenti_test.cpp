@@ -58,7 +58,7 @@ const std::vector<Guasto>& guasti() {
       {"arrows without an abacus", AbaciConFrecce, [](Tavola& t) { somma(t, 6).abaco.tipo = 0; }},
       {"blocks up to 9,999", BlocchiCompleti,
        [](Tavola& t) {
-         somma(t, 20).blocchi = {10, "Command16", "0010"};
+         somma(t, 20).blocchi = {10, "Command16", "livello", "0010"};
        }},
       {"blocks without a button", BlocchiCompleti,
        [](Tavola& t) { somma(t, 5).blocchi.pulsante = {}; }},

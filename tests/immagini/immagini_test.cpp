@@ -119,7 +119,7 @@ class ImmaginiTest : public QObject {
   // Every two pictures of which a pupil can meet both in one place.
   static void OgniCoppia() {
     const std::array<QStringList, 3> insiemi = {
-        QStringLiteral("si no aiuto avanti conferma cestino stampante chiudi indietro esci livello")
+        QStringLiteral("si no aiuto avanti conferma cestino stampante chiudi indietro esci")
             .split(u' '),
         QStringLiteral("menu_barre menu_tabella menu_blocchi menu_numeri menu_abaco esci icona")
             .split(u' '),
@@ -151,31 +151,12 @@ class ImmaginiTest : public QObject {
 
   void thePicturesThatTheFormsNameAreThere_data() {
     QTest::addColumn<QString>("nome");
-    for (const char* nome : {"si",
-                             "no",
-                             "aiuto",
-                             "avanti",
-                             "conferma",
-                             "cestino",
-                             "stampante",
-                             "chiudi",
-                             "icona",
-                             "puntatore",
-                             "avvio_sinistra",
-                             "avvio_destra",
-                             "menu_barre",
-                             "menu_tabella",
-                             "menu_blocchi",
-                             "menu_numeri",
-                             "menu_abaco",
-                             "esci",
-                             "indietro",
-                             "livello",
-                             "cambio_u_da",
-                             "cambio_da_h",
-                             "cambio_h_k",
-                             "freccia_cambio",
-                             "stampante_grande"}) {
+    for (const char* nome : {"si",          "no",           "aiuto",          "avanti",
+                             "conferma",    "cestino",      "stampante",      "chiudi",
+                             "icona",       "puntatore",    "avvio_sinistra", "avvio_destra",
+                             "menu_barre",  "menu_tabella", "menu_blocchi",   "menu_numeri",
+                             "menu_abaco",  "esci",         "indietro",       "cambio_u_da",
+                             "cambio_da_h", "cambio_h_k",   "freccia_cambio", "stampante_grande"}) {
       QTest::newRow(nome) << QString::fromLatin1(nome);
     }
   }

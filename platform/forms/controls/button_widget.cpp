@@ -148,9 +148,10 @@ ButtonWidget::Rooms ButtonWidget::rooms() const {
   if (picture_.isEmpty()) return {{}, inner.toRect()};
   if (withoutMnemonic(caption_).trimmed().isEmpty()) return {inner, {}};
   if (width() > height() * 1.5) {
-    const double side = std::min(inner.height(), inner.width() * 0.45);
-    const QRectF picture(inner.left(), inner.center().y() - side / 2, side, side);
-    return {picture, inner.adjusted(side + margin, 0, 0, 0).toRect()};
+    const double wide =
+        std::min(inner.height() * pictures_.proportions(picture_), inner.width() * 0.45);
+    const QRectF picture(inner.left(), inner.top(), wide, inner.height());
+    return {picture, inner.adjusted(wide + margin, 0, 0, 0).toRect()};
   }
   const double side = inner.height() * 0.58;
   return {QRectF(inner.left(), inner.top(), inner.width(), side),
