@@ -3,6 +3,7 @@
 #include "app/shared/modulo_colori_suoni.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/abacus/disegno_abaco.h"
+#include "exercises/core/testo_cifre.h"
 #include "platform/base/numbers.h"
 #include "platform/forms/accessible.h"
 
@@ -83,6 +84,7 @@ void FormaAbacoHK::NuovoCaso() {
 void FormaAbacoHK::ScriviCifre() {
   const QString cifre = platform::formatPicture(stato().Totale, u"0000");
   for (int i = 0; i < Label2.count(); ++i) Label2[i].setCaption(cifre.mid(i, 1));
+  LeggiInsieme(Label2, stato().Totale);
 }
 
 void FormaAbacoHK::MostraCifre() {

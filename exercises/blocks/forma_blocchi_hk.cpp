@@ -1,6 +1,7 @@
 #include "exercises/blocks/forma_blocchi_hk.h"
 
 #include "exercises/blocks/disegno_pulsanti.h"
+#include "exercises/core/testo_cifre.h"
 #include "platform/base/numbers.h"
 
 namespace somme {
@@ -105,6 +106,7 @@ void FormaBlocchiHK::CasoFatto() {
     const std::optional<int> cifra = cifre[static_cast<std::size_t>(posto)];
     EtichettaDi(posto).setCaption(cifra ? platform::plain(*cifra) : QString());
   }
+  LeggiInsieme(Label4, stato().Totale);
 }
 
 void FormaBlocchiHK::ChiediRisultato() {

@@ -1,5 +1,7 @@
 #include "exercises/core/testo_cifre.h"
 
+#include <algorithm>
+
 #include "platform/base/numbers.h"
 #include "platform/forms/keys/key_codes.h"
 
@@ -20,6 +22,12 @@ std::optional<double> NumeroScritto(const platform::TextBox& casella) {
   const QString testo = casella.text();
   if (platform::trimBlanks(testo).isEmpty()) return std::nullopt;
   return platform::leadingNumber(testo);
+}
+
+void LeggiInsieme(platform::ControlArray<platform::Label>& cifre, int numero) {
+  const QString intero = platform::plain(numero);
+  const int prima = std::max(0, cifre.count() - int(intero.size()));
+  for (int i = 0; i < cifre.count(); ++i) cifre[i].setSpokenName(i == prima ? intero : QString());
 }
 
 }  // namespace somme

@@ -12,6 +12,7 @@
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/image_widget.h"
 #include "platform/forms/controls/key_panel_widget.h"
+#include "platform/forms/controls/label_widget.h"
 #include "platform/forms/controls/panel_widget.h"
 #include "platform/forms/controls/scroll_bar_widget.h"
 #include "platform/forms/controls/text_box_widget.h"
@@ -119,6 +120,12 @@ class AccessibleScrollBar final : public QAccessibleWidget, public QAccessibleVa
 class AccessibleLabel final : public QAccessibleWidget {
  public:
   explicit AccessibleLabel(QWidget* label) : QAccessibleWidget(label, QAccessible::StaticText) {}
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    if (static_cast<LabelWidget*>(widget())->isSilent()) state.invisible = true;
+    return state;
+  }
 
   [[nodiscard]] Relations relations(QAccessible::Relation match) const override {
     return QAccessibleWidget::relations(match) + labelRelations(*widget(), match);

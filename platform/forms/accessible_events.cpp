@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/forms/controls/label_widget.h"
+
 namespace platform {
 
 namespace {
@@ -88,6 +90,13 @@ bool isIdleCursor(const QWidget& widget, const QAccessibleEvent& event) {
          !box->hasFocus();
 }
 
+// What is never there for whoever listens neither comes nor goes.
+bool isOfSilent(const QWidget& widget, const QAccessibleEvent& event) {
+  const auto* label = qobject_cast<const LabelWidget*>(&widget);
+  return label != nullptr && label->isSilent() &&
+         (event.type() == QAccessible::ObjectShow || event.type() == QAccessible::ObjectHide);
+}
+
 // True for an event of something hidden that is not told, or not yet.
 bool keepUnseen(QWidget& widget, QAccessibleEvent& event) {
   if (widget.isVisible()) return false;
@@ -111,7 +120,10 @@ void hearAccessibleEvent(QAccessibleEvent* event) {
       return;
     }
   }
-  if (whole && (isIdleCursor(*widget, *event) || keepUnseen(*widget, *event))) return;
+  if (whole && (isIdleCursor(*widget, *event) || isOfSilent(*widget, *event) ||
+                keepUnseen(*widget, *event))) {
+    return;
+  }
   held().pass(*event);
   if (whole && event->type() == QAccessible::ObjectShow) tellUnseen(*widget);
 }

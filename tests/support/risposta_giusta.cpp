@@ -30,7 +30,7 @@ struct CasoDelleTavole {
 constexpr auto kCasi = std::to_array<CasoDelleTavole>({
     {Famiglia::BlocchiDecine, 3, 99, 12, 23},
     {Famiglia::BlocchiCentinaia, 6, 988, 112, 223},
-    {Famiglia::Abaco, 11, 988, 112, 223},
+    {Famiglia::Abaco, 19, 9888, 1112, 2223},
 });
 
 // How a kind of block or bead is put by each way of input, and what it is worth.

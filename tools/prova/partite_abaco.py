@@ -138,9 +138,10 @@ def abaco_tocco(giocatore):
     giocatore.rispondi(a, dai, giusto=False)
     giocatore.fotografa("sbagliato")
     giocatore.rispondi(a + b, dai, giusto=True)
-    cifre = [o.nome for o in giocatore.etichette() if re.fullmatch(r"\d", o.nome)]
-    if "".join(cifre) != str(a + b):
-        raise Errore(f"the digits of the sum are {cifre}")
+    # Shown digit by digit, and read as one number.
+    numeri = [o.nome for o in giocatore.etichette() if re.fullmatch(r"\d+", o.nome)]
+    if numeri != [str(a + b)]:
+        raise Errore(f"the digits of the sum are {numeri}")
     giocatore.fotografa("giusto")
     bottone = albero.aspetta_oggetto(BOTTONE, AVANTI)
     albero.aspetta(f"the focus on {AVANTI!r}", lambda: bottone.ha_il_fuoco)

@@ -121,9 +121,7 @@ def a_tocchi(giocatore, forma, posti, strada):
     giocatore.collega()
     totale = gioco.unisci()
     gioco.risolta(totale)
-    for posto in posti:
-        if totale >= posto:
-            giocatore.albero.aspetta_oggetto(ETICHETTA, str(cifra(totale, posto)))
+    giocatore.albero.aspetta_oggetto(ETICHETTA, str(totale))
     scegli(AVANTI)
     gioco.chiesta()
     giocatore.esci(ENTRO_99)

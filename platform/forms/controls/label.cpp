@@ -19,9 +19,10 @@ void Label::applyLook() {
                     toColor(home().design().back));
   label->setToolTip(toolTip());
   const QString words = (look().mnemonic ? withoutMnemonic(caption()) : caption()).trimmed();
-  const QString spoken = toolTip().isEmpty() || words.isEmpty()
-                             ? toolTip() + words
-                             : QStringLiteral("%1: %2").arg(toolTip(), words);
+  const QString shown = toolTip().isEmpty() || words.isEmpty()
+                            ? toolTip() + words
+                            : QStringLiteral("%1: %2").arg(toolTip(), words);
+  const QString spoken = spokenName_.value_or(shown);
   if (label->accessibleName() != spoken) label->setAccessibleName(spoken);
 }
 
@@ -34,6 +35,14 @@ void Label::setCaption(const QString& caption) {
   auto* label = static_cast<LabelWidget*>(widget());
   if (label == nullptr || label->text() == caption) return;
   label->setText(caption);
+  applyLook();
+}
+
+void Label::setSpokenName(const QString& name) {
+  spokenName_ = name;
+  auto* label = static_cast<LabelWidget*>(widget());
+  if (label == nullptr) return;
+  label->setSilent(name.isEmpty());
   applyLook();
 }
 

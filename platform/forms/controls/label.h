@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/forms/control.h"
 #include "platform/forms/text_block.h"
 
@@ -16,6 +18,9 @@ class Label : public Control {
   [[nodiscard]] bool hasCaption() const override { return true; }
   [[nodiscard]] QString caption() const override;
   void setCaption(const QString& caption) override;
+  // What assistive technology reads in place of the caption, from now on. Empty for a label that is
+  // not there for it, because another speaks for both.
+  void setSpokenName(const QString& name);
   [[nodiscard]] int layer() const override { return 0; }
   // Of a label whose row says that it has one; it leads to the next control of the design.
   [[nodiscard]] QChar accessKey() const override;
@@ -24,6 +29,9 @@ class Label : public Control {
  protected:
   [[nodiscard]] QWidget* create(QWidget* parent) override;
   void applyLook() override;
+
+ private:
+  std::optional<QString> spokenName_;
 };
 
 }  // namespace platform

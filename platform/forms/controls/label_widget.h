@@ -18,6 +18,10 @@ class LabelWidget final : public QLabel {
   // behind: what shows where there is no ground.
   void setColours(QColor ink, std::optional<QColor> ground, QColor behind);
 
+  // A silent one is not there for assistive technology; another speaks for it.
+  void setSilent(bool silent) { silent_ = silent; }
+  [[nodiscard]] bool isSilent() const { return silent_; }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
@@ -25,6 +29,7 @@ class LabelWidget final : public QLabel {
   Align align_;
   bool border_;
   bool mnemonic_;
+  bool silent_ = false;
   QColor ink_ = Qt::black;
   std::optional<QColor> ground_;
   QColor behind_ = Qt::white;

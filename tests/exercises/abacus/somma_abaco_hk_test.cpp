@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "support/iscrizione.h"
+#include "support/letti.h"
 
 using namespace prova;
 using somme::FormaAbacoHK;
@@ -56,6 +57,10 @@ class SommaAbacoHKTest : public QObject {
     }
     banco.tasto(Tasto::Conferma);
     QCOMPARE(banco.cifre(), cifre);
+    // Read as one number.
+    QStringList letture = letti(banco.forma.Label2);
+    letture.removeAll(QString());
+    QCOMPARE(letture, QStringList{QString::number(totale)});
     banco.tasto(Tasto::Avanti);
     QCOMPARE(banco.cifre(), QStringLiteral("...."));
   }

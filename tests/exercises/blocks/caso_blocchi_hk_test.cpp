@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "support/iscrizione.h"
+#include "support/letti.h"
 
 using namespace prova;
 using somme::FormaBlocchiHK;
@@ -34,6 +35,20 @@ class CasoBlocchiHKTest : public QObject {
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 27 +  15 = "));
     QCOMPARE(cifre(forma), QStringLiteral("..."));
     QVERIFY(!forma.PulsanteAvanti.isEnabled());
+  }
+
+  void theDigitsOfTheResultAreReadAsOneNumber() {
+    Banco banco;
+    FormaBlocchiHK& forma = apriHLU(banco, 167, 211);
+    QCOMPARE(letti(forma.Label4), (QStringList{{}, {}, {}}));
+    unisciToccando(banco);
+    QCOMPARE(cifre(forma), QStringLiteral("378"));
+    QCOMPARE(letti(forma.Label4), (QStringList{QStringLiteral("378"), {}, {}}));
+    banco.sorte.scrivi(casoHLU(12, 25));
+    premi(banco, kAvanti);
+    QCOMPARE(letti(forma.Label4), (QStringList{{}, {}, {}}));
+    unisciToccando(banco);
+    QCOMPARE(letti(forma.Label4), (QStringList{{}, QStringLiteral("37"), {}}));
   }
 
   void aCarryByItsKeyComesBeforeTheResult() {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "platform/forms/controls/label_widget.h"
 #include "support/iscrizione.h"
 
 using Told = std::vector<std::pair<QObject*, QAccessible::Event>>;
@@ -102,6 +103,18 @@ class AccessibleEventsTest : public QObject {
     locked.setFocus();
     isWrittenInto(locked);
     QCOMPARE(count(&locked, QAccessible::TextCaretMoved), 1);
+  }
+
+  void ofASilentLabelNothingIsToldAndOfAnotherItsComingAndGoing() {
+    platform::LabelWidget label(nullptr, platform::Align::Left, false, false);
+    for (const auto comesOrGoes : {QAccessible::ObjectShow, QAccessible::ObjectHide}) {
+      label.setSilent(true);
+      happens(label, comesOrGoes);
+      QCOMPARE(count(&label, comesOrGoes), 0);
+      label.setSilent(false);
+      happens(label, comesOrGoes);
+      QCOMPARE(count(&label, comesOrGoes), 1);
+    }
   }
 
   void whatWasDisabledWhileItWasHiddenTellsItWhenItComes() {

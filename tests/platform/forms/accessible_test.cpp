@@ -55,6 +55,22 @@ class AccessibleTest : public QObject {
     QCOMPARE(spoken(form.Square[0]).text(QAccessible::Name), QStringLiteral("Red bar"));
   }
 
+  void ofLabelsThatAreReadTogetherOneSpeaksAndTheOthersAreNotThere() {
+    Stage stage;
+    TrialForm& form = stage.show(kOne);
+    form.Square[0].setCaption(QStringLiteral("7"));
+    QVERIFY(!spoken(form.Words).state().invisible);
+    form.Square[0].setSpokenName(QStringLiteral("73"));
+    form.Words.setSpokenName(QString());
+    QCOMPARE(spoken(form.Square[0]).text(QAccessible::Name), QStringLiteral("73"));
+    QVERIFY(spoken(form.Words).state().invisible);
+    QCOMPARE(spoken(form.Words).text(QAccessible::Name), QString());
+    form.Square[0].setCaption(QStringLiteral("8"));
+    QCOMPARE(spoken(form.Square[0]).text(QAccessible::Name), QStringLiteral("73"));
+    form.Words.setSpokenName(QStringLiteral("4"));
+    QVERIFY(!spoken(form.Words).state().invisible);
+  }
+
   void aNameFollowsTheLanguage() {
     Stage stage;
     TrialForm& form = stage.show(kOne);
