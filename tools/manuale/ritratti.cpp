@@ -2,6 +2,7 @@
 // draws.
 //
 //   ritratti FOLDER LANGUAGE               the manual's scenes, in a window of 800 by 560
+//   ritratti FOLDER LANGUAGE film          ten units that become a long, picture by picture
 //   ritratti FOLDER LANGUAGE WIDTHxHEIGHT  every form at its start, in a window of that size; a
 //                                          keyboard sheet with the print dialog over it
 //
@@ -15,6 +16,7 @@
 #include "app/shared/stringhe_condivise.h"
 #include "app/tabella_forme.h"
 #include "support/come_dal_menu.h"
+#include "tools/manuale/film.h"
 #include "tools/manuale/scene.h"
 #include "tools/manuale/scene_tocco.h"
 
@@ -41,6 +43,17 @@ bool Scene(const QDir& cartella, const QString& lingua) {
     prova::Banco banco(kFinestra);
     ScegliLingua(banco, lingua);
     if (!Salva(scena.ritrai(banco), cartella, QLatin1String(scena.nome))) return false;
+  }
+  return true;
+}
+
+bool Film(const QDir& cartella, const QString& lingua) {
+  prova::Banco banco(kFinestra);
+  ScegliLingua(banco, lingua);
+  int numero = 0;
+  for (const QImage& quadro : manuale::FilmDelCambio(banco)) {
+    const QString nome = QStringLiteral("cambio_%1").arg(numero++, 3, 10, QLatin1Char('0'));
+    if (!Salva(quadro, cartella, nome)) return false;
   }
   return true;
 }
@@ -73,14 +86,16 @@ int main(int argc, char* argv[]) {
   const QStringList argomenti = QCoreApplication::arguments();
   const QStringList misure = argomenti.value(3).split(u'x');
   const bool tutte = argomenti.size() == 4 && misure.size() == 2;
-  if (argomenti.size() != 3 && !tutte) {
-    std::fprintf(stderr, "ritratti FOLDER LANGUAGE [WIDTHxHEIGHT]\n");
+  const bool film = argomenti.size() == 4 && argomenti[3] == QLatin1String("film");
+  if (argomenti.size() != 3 && !tutte && !film) {
+    std::fprintf(stderr, "ritratti FOLDER LANGUAGE [film | WIDTHxHEIGHT]\n");
     return 2;
   }
   const QDir cartella(argomenti[1]);
   cartella.mkpath(QStringLiteral("."));
   const bool fatto =
-      tutte ? Forme(cartella, argomenti[2], QSize(misure[0].toInt(), misure[1].toInt()))
-            : Scene(cartella, argomenti[2]);
+      tutte  ? Forme(cartella, argomenti[2], QSize(misure[0].toInt(), misure[1].toInt()))
+      : film ? Film(cartella, argomenti[2])
+             : Scene(cartella, argomenti[2]);
   return fatto ? 0 : 1;
 }

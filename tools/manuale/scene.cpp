@@ -1,24 +1,17 @@
 #include "tools/manuale/scene.h"
 
 #include <QApplication>
+#include <QFocusEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <array>
 
 #include "app/form_menu.h"
 #include "app/shared/nomi_forme.h"
-#include "exercises/abacus/forma_abaco_scansione.h"
-#include "exercises/abacus/forma_abaco_tastiera.h"
-#include "exercises/bars/forma_barre_pulsanti.h"
-#include "exercises/bars/forma_barre_scansione.h"
-#include "exercises/bars/forma_barre_tastiera.h"
-#include "exercises/blocks/forma_blocchi_scansione.h"
-#include "exercises/blocks/forma_blocchi_tastiera.h"
-#include "exercises/numbers/forma_numeri_scansione.h"
-#include "exercises/numbers/forma_numeri_tastiera.h"
-#include "exercises/table/form_tabella.h"
 #include "platform/forms/menu_bar.h"
-#include "support/scansione_di_prova.h"
+#include "tools/manuale/scene_esercizi.h"
+#include "tools/manuale/scene_scansione.h"
 #include "tools/manuale/scene_tocco.h"
 
 namespace manuale {
@@ -27,12 +20,6 @@ namespace {
 
 using namespace somme;
 using prova::Banco;
-
-// The beginning of the record's heading, as the family menus write it.
-QString Titolo(Banco& banco, const char* inizio, const char* gruppo, const QString& livello) {
-  return TestoLingua(*banco.ambiente, QLatin1String(inizio)) +
-         TestoLingua(*banco.ambiente, QLatin1String(gruppo)) + livello;
-}
 
 void ApriMenu(const platform::MenuItem& titolo) {
   auto* barra = qobject_cast<QMenuBar*>(titolo.action()->parent());
@@ -44,13 +31,6 @@ void ApriMenu(const platform::MenuItem& titolo) {
   const QRect posto = barra->actionGeometry(titolo.action());
   tendina->popup(barra->mapToGlobal(posto.bottomLeft()));
   QCoreApplication::processEvents();
-}
-
-template <class F>
-F& Barre(Banco& banco, std::string_view nome, int limite, int totale, int addendo1) {
-  banco.ambiente->stato.LimiteEsercizio = limite;
-  banco.sorte.scrivi({{totale - 1, limite}, {addendo1, totale}});
-  return banco.apri<F>(nome);
 }
 
 void Avvio(Banco& banco) {
@@ -72,167 +52,27 @@ void MenuImpostazioni(Banco& banco) {
 void MenuLingua(Banco& banco) {
   ApriMenu(banco.apri<FormMenu>(forme::kFormMenu).mnuLanguages);
 }
-void TempoScansione(Banco& banco) {
+void MenuBlocchi(Banco& banco) {
+  banco.mostra(forme::kFormMenuPLU);
+}
+void MenuNumeri(Banco& banco) {
+  banco.mostra(forme::kFormMenuNumeri);
+}
+// The panel covers the window; what stands on it is a band in the middle.
+QImage TempoScansione(Banco& banco) {
   banco.apri<FormMenu>(forme::kFormMenu).mnuTempoScansione.click();
+  const QImage intero = Ritratto(banco);
+  const int altezza = intero.height();
+  return intero.copy(0, altezza / 4, intero.width(), altezza / 2);
 }
 
-void Barre10(Banco& banco) {
-  Barre<FormaBarrePulsanti>(banco, forme::kFormBarre10, 10, 7, 3);
-}
-void Barre10Aiuto(Banco& banco) {
-  auto& forma = Barre<FormaBarrePulsanti>(banco, forme::kFormBarre10, 10, 7, 3);
-  banco.clicca(forma.PulsanteNumero[6]);
-  banco.clicca(forma.PulsanteAiuto);
-}
-void Barre10Giusto(Banco& banco) {
-  auto& forma = Barre<FormaBarrePulsanti>(banco, forme::kFormBarre10, 10, 7, 3);
-  banco.clicca(forma.PulsanteNumero[7]);
-}
-void Barre20(Banco& banco) {
-  Barre<FormaBarreTastiera>(banco, forme::kFormBarre20, 20, 15, 8);
-}
-void BarreScansione(Banco& banco) {
-  banco.ambiente->stato.ModalitaInput = kScansioneAutomatica;
-  Barre<FormaBarreScansione>(banco, forme::kFormBarre10Scansione, 10, 7, 3);
-  banco.tempo.advance(3.2);
-}
-
-void Costruisci(Banco& banco, const platform::Button& pulsante, int quanti) {
-  for (int i = 0; i < quanti; ++i) banco.clicca(pulsante);
-}
-FormaBlocchiTastiera& LU(Banco& banco, int totale, int addendo1) {
-  banco.ambiente->stato.TipoEsercizio = 3;
-  banco.sorte.scrivi({{totale - 1, 99}, {addendo1, totale}});
-  return banco.apri<FormaBlocchiTastiera>(forme::kFormLU);
-}
-void Blocchi99(Banco& banco) {
-  auto& forma = LU(banco, 52, 27);
-  Costruisci(banco, forma.pulsanti.PulsanteDa, 2);
-  Costruisci(banco, forma.pulsanti.PulsanteU, 7);
-  banco.clicca(forma.pulsanti.PulsanteConferma);
-  Costruisci(banco, forma.pulsanti.PulsanteDa, 1);
-}
-FormaBlocchiTastiera& LUUnite(Banco& banco) {
-  auto& forma = LU(banco, 52, 27);
-  Costruisci(banco, forma.pulsanti.PulsanteDa, 2);
-  Costruisci(banco, forma.pulsanti.PulsanteU, 7);
-  banco.clicca(forma.pulsanti.PulsanteConferma);
-  Costruisci(banco, forma.pulsanti.PulsanteDa, 2);
-  Costruisci(banco, forma.pulsanti.PulsanteU, 5);
-  banco.clicca(forma.pulsanti.PulsanteConferma);
-  banco.tempo.advance(3);
-  return forma;
-}
-void BlocchiCambio(Banco& banco) {
-  LUUnite(banco);
-}
-void Blocchi999(Banco& banco) {
-  banco.ambiente->stato.TipoEsercizio = 6;
-  banco.sorte.scrivi({{365 - 1, 988}, {142, 365}});
-  auto& forma = banco.apri<FormaBlocchiTastiera>(forme::kFormHLU);
-  Costruisci(banco, *forma.pulsanti.PulsanteH, 1);
-  Costruisci(banco, forma.pulsanti.PulsanteDa, 4);
-  Costruisci(banco, forma.pulsanti.PulsanteU, 2);
-  banco.clicca(forma.pulsanti.PulsanteConferma);
-  Costruisci(banco, *forma.pulsanti.PulsanteH, 2);
-}
-
-FormaAbacoTastiera& Abaco(Banco& banco, qint16 tipo, int limite, int totale, int addendo1) {
-  banco.ambiente->stato.TipoEsercizio = tipo;
-  banco.sorte.scrivi({{totale - 1, limite}, {addendo1, totale}});
-  return banco.apri<FormaAbacoTastiera>(forme::kFormAbaco);
-}
-// Puts so many of the waiting beads of a kind onto their spike.
-void Infila(Banco& banco, FormaAbacoTastiera& forma, const char* palline, int da, int quante) {
-  for (int i = da; i < da + quante; ++i) {
-    banco.cliccaClip(forma.ShockwaveFlash1, QLatin1String(palline) + QString::number(i));
-  }
-}
-void AbacoDieciUnita(Banco& banco) {
-  auto& forma = Abaco(banco, 3, 99, 43, 28);
-  Infila(banco, forma, "daa", 0, 2);
-  Infila(banco, forma, "ua", 0, 10);
-}
-void AbacoMigliaia(Banco& banco) {
-  auto& forma = Abaco(banco, 19, 9888, 3456, 1234);
-  Infila(banco, forma, "ka", 1, 1);
-  Infila(banco, forma, "ha", 0, 2);
-  Infila(banco, forma, "daa", 0, 3);
-  Infila(banco, forma, "ua", 0, 4);
-}
-
-void Tabella(Banco& banco) {
-  banco.ambiente->stato.TipoEsercizio = 10;
-  banco.sorte.scrivi({{46, 99}, {12, 99}});
-  banco.mostra(forme::kFormTabella);
-}
-
-// Chooses a key of a scanning keyboard so many times, as a pupil with two switches does.
-void Scegli(Banco& banco, const TastieraScansione& tastiera, int tasto, int volte = 1) {
-  for (int i = 0; i < volte; ++i) {
-    if (!prova::scegliAMano(banco, tastiera, tasto)) throw std::logic_error("the key is not lit");
-  }
-}
-FormaBlocchiScansione& LUScansione(Banco& banco) {
-  banco.ambiente->stato.ModalitaInput = kScansioneManuale;
-  banco.ambiente->stato.TipoEsercizio = 3;
-  banco.sorte.scrivi({{37 - 1, 99}, {23, 37}});
-  return banco.apri<FormaBlocchiScansione>(forme::kFormLUScansione);
-}
-
-FormaNumeriTastiera& Numeri(Banco& banco) {
-  banco.ambiente->stato.TipoEsercizio = 7;
-  banco.ambiente->stato.TitoloEsercizio =
-      Titolo(banco, "0031", "0026", TestoLingua(*banco.ambiente, QStringLiteral("0012")));
-  banco.sorte.scrivi({{74, 99}, {47, 75}, {38, 99}, {21, 39}});
-  return banco.apri<FormaNumeriTastiera>(forme::kFormNumeriTotale);
-}
-void NumeriTotale(Banco& banco) {
-  Numeri(banco);
-  banco.scrivi(QStringLiteral("75"));
-}
-void NumeriElenco(Banco& banco) {
-  auto& forma = Numeri(banco);
-  banco.scrivi(QStringLiteral("75"));
-  banco.batti(Qt::Key_Return);
-  banco.clicca(forma.PulsanteAvanti);
-  banco.scrivi(QStringLiteral("39"));
-  banco.batti(Qt::Key_Return);
-  forma.mnuStampa.click();
-}
-void NumeriAddendo(Banco& banco) {
-  banco.ambiente->stato.TipoEsercizio = 1;
-  banco.mostra(forme::kFormNumeriAddendo);
-}
-void BlocchiScansione(Banco& banco) {
-  auto& forma = LUScansione(banco);
-  Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kDecine, 2);
-  Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kUnita, 3);
-}
-void BlocchiScansioneCifre(Banco& banco) {
-  auto& forma = LUScansione(banco);
-  for (const int addendo : {23, 14}) {
-    Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kDecine, addendo / 10);
-    Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kUnita, addendo % 10);
-    Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kConferma);
-  }
-  banco.tempo.advance(3);
-  Scegli(banco, forma.TastieraNumericaScansione1, 3);
-}
-void AbacoScansione(Banco& banco) {
-  banco.ambiente->stato.ModalitaInput = kScansioneManuale;
-  banco.ambiente->stato.TipoEsercizio = 3;
-  banco.sorte.scrivi({{43 - 1, 99}, {28, 43}});
-  auto& forma = banco.apri<FormaAbacoScansione>(forme::kFormAbacoScansione);
-  Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kDecine, 2);
-  Scegli(banco, forma.TastieraHDUScansione1, TastieraHDUScansione::kUnita, 6);
-}
-void NumeriScansione(Banco& banco) {
-  banco.ambiente->stato.ModalitaInput = kScansioneAutomatica;
-  banco.ambiente->stato.TipoEsercizio = 7;
-  banco.sorte.scrivi({{74, 99}, {47, 75}});
-  banco.mostra(forme::kFormNumeriTotaleScansione);
-  banco.tempo.advance(4.2);
+// The caret blinks; in a picture it is taken for a stroke, so the pictures are those of a moment
+// without it. The box keeps the focus, and its ring.
+void SpegniCursore() {
+  QWidget* casella = QApplication::focusWidget();
+  if (qobject_cast<QLineEdit*>(casella) == nullptr) return;
+  QFocusEvent via(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+  QCoreApplication::sendEvent(casella, &via);
 }
 
 // The whole window, once the program has been brought to the moment.
@@ -247,19 +87,24 @@ constexpr auto kScene = std::to_array<Scena>({
     {"menu", Ritrai<Menu>},
     {"menu_impostazioni", Ritrai<MenuImpostazioni>},
     {"menu_lingua", Ritrai<MenuLingua>},
-    {"tempo_scansione", Ritrai<TempoScansione>},
+    {"menu_blocchi", Ritrai<MenuBlocchi>},
+    {"menu_numeri", Ritrai<MenuNumeri>},
+    {"tempo_scansione", TempoScansione},
     {"barre10", Ritrai<Barre10>},
     {"barre10_aiuto", Ritrai<Barre10Aiuto>},
     {"barre10_giusto", Ritrai<Barre10Giusto>},
-    {"barre20", Ritrai<Barre20>},
+    {"barre10_sbagliato", Ritrai<Barre10Sbagliato>},
+    {"barre20_aiuto", Ritrai<Barre20Aiuto>},
     {"barre_scansione", Ritrai<BarreScansione>},
     {"blocchi99", Ritrai<Blocchi99>},
     {"blocchi_cambio", Ritrai<BlocchiCambio>},
+    {"blocchi_cambiato", Ritrai<BlocchiCambiato>},
     {"blocchi999", Ritrai<Blocchi999>},
     {"abaco_dieci", Ritrai<AbacoDieciUnita>},
-    {"abaco_migliaia", Ritrai<AbacoMigliaia>},
-    {"tabella", Ritrai<Tabella>},
+    {"abaco_cambiato", Ritrai<AbacoCambiato>},
+    {"tabella_percorso", Tabella},
     {"numeri", Ritrai<NumeriTotale>},
+    {"numeri_sbagliato", Ritrai<NumeriSbagliato>},
     {"numeri_elenco", Ritrai<NumeriElenco>},
     {"numeri_addendo", Ritrai<NumeriAddendo>},
     {"numeri_scansione", Ritrai<NumeriScansione>},
@@ -288,6 +133,7 @@ std::span<const Scena> Scene() {
 
 QImage Ritratto(Banco& banco) {
   QWidget& finestra = banco.ambiente->fondo.window();
+  SpegniCursore();
   QPixmap insieme = finestra.grab();
   QPainter pennello(&insieme);
   for (QWidget* sopra : QApplication::topLevelWidgets()) {

@@ -78,7 +78,7 @@ class Collaudo:
             manuale = file.read().strip()
         if manuale != os.path.join(self._albero.programma(), "somme.pdf"):
             raise Errore(f"opened in the manual's place: {manuale!r}")
-        for nome in ("somme.pdf", "somme-en.pdf"):
+        for nome in ("somme.pdf", *(f"somme-{lingua}.pdf" for lingua in ("en", "fr", "de", "es"))):
             with open(self._albero.dentro(self._albero.programma(), nome), "rb") as file:
                 if file.read(5) != b"%PDF-":
                     raise Errore(f"{nome} is no PDF file")
