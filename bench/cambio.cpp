@@ -8,7 +8,6 @@
 #include <QTest>
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <functional>
 #include <vector>
 
@@ -37,18 +36,12 @@ struct Durata {
   double processore;
 };
 
-double processore() {
-  timespec tempo{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &tempo);
-  return static_cast<double>(tempo.tv_sec) + static_cast<double>(tempo.tv_nsec) / 1e9;
-}
-
 Durata misura(const std::function<void()>& lavoro) {
-  const double prima = processore();
+  const double prima = bench::processore();
   QElapsedTimer orologio;
   orologio.start();
   lavoro();
-  return {static_cast<double>(orologio.nsecsElapsed()) / 1e9, processore() - prima};
+  return {static_cast<double>(orologio.nsecsElapsed()) / 1e9, bench::processore() - prima};
 }
 
 class Cambio {

@@ -7,6 +7,7 @@ import subprocess
 import sys
 import time
 
+import domande
 import riposo
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tools", "prova"))
@@ -70,6 +71,9 @@ def main():
             tutte = all([esegui(misura) for misura in misure])
             tutte = riposo.tutte(os.path.join(cartella, "bench", "bench_riposo"),
                                  os.path.dirname(programma)) and tutte
+        with Schermo(1366, 768):
+            tutte = domande.misura(os.path.join(cartella, "bench", "bench_domande"),
+                                   os.path.dirname(programma)) and tutte
         with Schermo(1366, 768) as schermo:
             tutte = dopo_i_suoni(schermo, programma, os.path.join("build", "immagini")) and tutte
     except ErroreSchermo as errore:

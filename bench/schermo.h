@@ -39,6 +39,8 @@ class Programma {
 };
 
 [[nodiscard]] double adesso();  // milliseconds
+// Seconds of the processor that all threads of this process have had.
+[[nodiscard]] double processore();
 [[nodiscard]] double mediana(std::vector<double> valori);
 void dormi(double secondi);
 

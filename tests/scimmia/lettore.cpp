@@ -58,28 +58,13 @@ int PercorriAlbero(QAccessibleInterface* nodo) {
   return percorri(nodo, 0);
 }
 
-Lettore* Lettore::acceso_ = nullptr;
-
-Lettore::Lettore() = default;
-
-Lettore::~Lettore() {
-  if (acceso_ != this) return;
-  acceso_ = nullptr;
-  QAccessible::installUpdateHandler(prima_);
-  QAccessible::setActive(false);
-}
-
 void Lettore::accendi() {
-  acceso_ = this;
-  prima_ = QAccessible::installUpdateHandler(ascolta);
-  QAccessible::setActive(true);
-}
-
-void Lettore::ascolta(QAccessibleEvent* evento) {
-  if (acceso_ != nullptr) acceso_->chiedi(*evento);
+  desktop_.emplace();
+  desktop_->chiama([this](const QAccessibleEvent& evento) { chiedi(evento); });
 }
 
 void Lettore::chiedi(const QAccessibleEvent& evento) {
+  ++uditi_;
   // What is going away is not asked any more.
   if (evento.type() == QAccessible::ObjectDestroyed) return;
   if (QAccessibleInterface* nodo = evento.accessibleInterface()) {

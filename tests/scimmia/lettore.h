@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "scimmia/caso_di_scimmia.h"
+#include "support/desktop_di_prova.h"
 
 namespace prova {
 
@@ -16,23 +17,19 @@ int PercorriAlbero(QAccessibleInterface* nodo);
 // toolkit's bridge does at once, and for the whole tree as soon as events run.
 class Lettore {
  public:
-  Lettore();
-  ~Lettore();
-  Lettore(const Lettore&) = delete;
-  Lettore& operator=(const Lettore&) = delete;
-
   void accendi();
   // What it has found that must never be, once.
   [[nodiscard]] std::optional<Guasto> preso() { return std::exchange(preso_, std::nullopt); }
+  // Whether it is on and has heard nothing so far.
+  [[nodiscard]] bool sordo() const { return desktop_.has_value() && uditi_ == 0; }
 
  private:
-  static void ascolta(QAccessibleEvent* evento);
   void chiedi(const QAccessibleEvent& evento);
   void chiediTutto();
 
-  static Lettore* acceso_;
-  QAccessible::UpdateHandler prima_ = nullptr;
+  std::optional<DesktopDiProva> desktop_;
   QObject finoAllaFine_;
+  int uditi_ = 0;
   std::optional<Guasto> preso_;
   bool chiesto_ = false;  // a walk is in the queue
   bool cammina_ = false;

@@ -27,6 +27,8 @@ constexpr int kTroppoProfondo = 5;
 constexpr int kFuoriAlPiu = 25;
 // No case that exists needs as many draws.
 constexpr int kTiriAlPiu = 20000;
+// After as many events something has been told to whoever listens.
+constexpr int kQualcosaSuccede = 50;
 
 std::string_view vista(const QByteArray& nome) {
   return {nome.constData(), static_cast<std::size_t>(nome.size())};
@@ -127,6 +129,9 @@ void Scimmia::vivi(int eventi, const std::function<bool()>& basta) {
   while (restano_ > 0 && !finita() && !basta()) evento();
   restano_ = 0;
   if (guasto_) throw Guasto(*guasto_);
+  if (eventi_ > kQualcosaSuccede && lettore_.sordo()) {
+    throw Guasto(QStringLiteral("a screen reader has heard nothing"));
+  }
 }
 
 // Calls itself wherever the clock moves.

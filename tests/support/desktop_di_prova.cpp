@@ -10,6 +10,7 @@ namespace {
 
 bool siAscolta = false;
 std::vector<Udito> uditi;
+std::function<void(const QAccessibleEvent&)> orecchioDiOra;
 
 int messaggiDi(const QAccessibleEvent& evento) {
   switch (evento.type()) {
@@ -39,6 +40,11 @@ DesktopDiProva::DesktopDiProva() {
 
 DesktopDiProva::~DesktopDiProva() {
   siAscolta = false;
+  orecchioDiOra = nullptr;
+}
+
+void DesktopDiProva::chiama(std::function<void(const QAccessibleEvent&)> orecchio) {
+  orecchioDiOra = std::move(orecchio);
 }
 
 void DesktopDiProva::ascolta(bool ascolta) {
@@ -79,6 +85,10 @@ void QAccessible::updateAccessibility(QAccessibleEvent* event) {
   installUpdateHandler(programma);
   if (programma != nullptr) {
     programma(event);
+    return;
+  }
+  if (prova::orecchioDiOra) {
+    prova::orecchioDiOra(*event);
     return;
   }
   QAccessibleInterface* di = event->accessibleInterface();

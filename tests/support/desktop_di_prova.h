@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QString>
+#include <functional>
 #include <vector>
 
 namespace prova {
@@ -27,6 +28,9 @@ class DesktopDiProva {
 
   // Whether somebody listens; at the start, yes.
   void ascolta(bool ascolta);
+  // From here on who listens is called at each event, and asks in the middle of it, as the
+  // toolkit's bridge does; then nothing is kept for `nuovi`.
+  void chiama(std::function<void(const QAccessibleEvent& evento)> orecchio);
   // What it has been told since the last call.
   std::vector<Udito> nuovi();
 };

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "costly.h"
 #include "platform/flash/limits.h"
 #include "scripts.h"
 #include "support/iscrizione.h"
@@ -96,6 +97,26 @@ class BudgetTest : public QObject {
     const Player many(movie(file(tags + place(1, 5) + showFrame(), 6)), [](auto&&...) {});
     QVERIFY(many.wasCutOff());
     QVERIFY(many.scene().isWhole);
+  }
+
+  void aPictureThatIsFullEndsTheStep_data() {
+    QTest::addColumn<bool>("masked");
+    QTest::newRow("of things") << false;
+    QTest::newRow("of things and the parts of their mask") << true;
+  }
+  void aPictureThatIsFullEndsTheStep() {
+    QFETCH(bool, masked);
+    // Eight parts each: 50,000 are shown, 50,008 are not.
+    constexpr std::size_t most = 50'000;
+    for (const unsigned squares : {6250U, 6251U}) {
+      const Player player(
+          movie(costly::squaresBeside(squares, masked)), [](auto&&...) {},
+          [] { return std::int64_t(0); });
+      QVERIFY(!player.wasCutOff());
+      const platform::flash::Scene scene = player.scene();
+      QCOMPARE(scene.items.size() + (masked ? scene.masks.front().parts.size() : 0), most);
+      QCOMPARE(scene.isWhole, squares == 6250);
+    }
   }
 
   void aMovieThatWasCutOffStandsStillAndOnlyTheHostMovesIt() {

@@ -293,22 +293,34 @@ inline QByteArray curvesUnderTheMouse() {
               tag(26, u8(0x86) + u16(1) + u16(3) + shift(0, 0) + handler) + showFrame());
 }
 
-// Very many small things, the lower ones in front.
-inline QByteArray stairs() {
-  QByteArray tags = square(1, 1, 0xFF0000);
-  QByteArray inner;
-  for (unsigned i = 0; i < 7900; ++i) inner += place(i + 1, 2, 0, 99 - int(i * 100 / 7900));
+// A rectangle in some coats of paint, each a part of its own; coats: at most 15, sides in twips.
+inline QByteArray painted(unsigned id, unsigned coats, int width, int height) {
   Bits records;
-  QByteArray styles = u8(6);
-  records.raw("0011 0000");
-  for (unsigned i = 1; i <= 6; ++i) {
+  QByteArray styles = u8(coats);
+  records.raw("0100 0000");
+  for (unsigned i = 1; i <= coats; ++i) {
     styles += u8(0) + u8(i) + u8(i) + u8(i);
-    records.raw("0 00101 00001 0 0").number(3, i);
-    rectangleEdges(records, 0, 0, 1990, 30);
+    records.raw("0 00101 00001 0 0").number(4, i);
+    rectangleEdges(records, 0, 0, width, height);
   }
   records.raw("000000");
-  tags += tag(2, u16(2) + rect(0, 1, 0, 1) + styles + u8(0) + records.bytes());
-  return file(tags + inner + showFrame());
+  return tag(2, u16(id) + rect(0, 1, 0, 1) + styles + u8(0) + records.bytes());
+}
+
+// Very many small things, the lower ones in front.
+inline QByteArray stairs() {
+  QByteArray inner;
+  for (unsigned i = 0; i < 7900; ++i) inner += place(i + 1, 2, 0, 99 - int(i * 100 / 7900));
+  return file(square(1, 1, 0xFF0000) + painted(2, 6, 1990, 30) + inner + showFrame());
+}
+
+// Squares in eight coats each beside the stage, where they are not painted; the first can be a mask
+// over the others.
+inline QByteArray squaresBeside(unsigned squares, bool masked = false) {
+  QByteArray tags = painted(1, 8, 20, 20);
+  if (masked) tags += mask(1, 1, 60'000);
+  for (unsigned depth = masked ? 2 : 1; depth <= squares; ++depth) tags += place(depth, 1, 200);
+  return file(tags + showFrame());
 }
 
 inline std::vector<Movie> movies() {

@@ -83,6 +83,7 @@ class CostlyViewTest : public QObject {
     QTest::newRow("in its first frame")
         << endlessFrames(doAction(costly::forEver(pushText("x") + action(0x17))));
     QTest::newRow("in a picture") << costly::masksThatTakeTurns();
+    QTest::newRow("in a picture of too many things") << costly::squaresBeside(6251);
     QTest::newRow("in loading") << costly::unreadableTags();
   }
 
