@@ -1,7 +1,7 @@
-# Most of what a file takes to compile are the headers of Qt and of the standard library that it
-# includes. They can be read once and taken from there by whoever names the set. Every file of a room
-# still includes what it uses: the presets dev and release, which build the rooms without, would tell.
-set(SOMME_COMPILED_HEADERS "" CACHE STRING "Who reads the common headers once: TESTS, ALL or nobody")
+# Most of what a file takes to compile are the headers that it includes. They can be read once and taken
+# from there by whoever names the set. Every file of a room still includes what it uses: the preset
+# asan, which builds the rooms without this help, would tell.
+set(SOMME_COMPILED_HEADERS ALL CACHE STRING "Who reads common headers once: ALL, TESTS or nobody (empty)")
 
 # What Qt tells each program alone; nothing asks for it, and it would make one's headers no other's.
 set(SOMME_ALIKE -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR -UQT_NETWORK_LIB)
@@ -16,11 +16,10 @@ function(somme_header_set name)
     return()
   endif()
   cmake_parse_arguments(ARG "" "" "LINKS;OPTIONS;HEADERS" ${ARGN})
-  # Never run: compiled headers need a program that they belong to.
+  # Compiled headers need a target that they belong to; this one has nothing else.
   set(source "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
-  file(CONFIGURE OUTPUT "${source}" CONTENT "int main() {\n  return 0;\n}\n")
-  add_executable(${name} "${source}")
-  set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+  file(CONFIGURE OUTPUT "${source}" CONTENT "")
+  add_library(${name} OBJECT EXCLUDE_FROM_ALL "${source}")
   target_link_libraries(${name} PRIVATE somme_opzioni ${ARG_LINKS})
   target_compile_options(${name} PRIVATE ${SOMME_ALIKE} ${ARG_OPTIONS})
   target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})

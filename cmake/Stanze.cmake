@@ -6,14 +6,19 @@
 # With SOMME_FLOORS each room is also linked whole against the rooms that it names, so that a use of
 # what lies above it does not link.
 #
-# A room without windows says NO_WINDOWS; see Intestazioni.cmake.
+# HEADERS is the set of headers that the room takes (see Intestazioni.cmake): base_intestazioni where it
+# says nothing; "none" for what knows no Qt. MOC: its headers have classes with signals.
 #
-#   somme_room(platform_base NO_WINDOWS FOLDER platform/base SOURCES a.cpp b.cpp LINKS Qt6::Core)
+#   somme_room(platform_base FOLDER platform/base SOURCES a.cpp b.cpp LINKS Qt6::Core)
 function(somme_room name)
-  cmake_parse_arguments(ARG "NO_WINDOWS" "FOLDER" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "MOC" "FOLDER;HEADERS" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  if(NOT ARG_HEADERS)
+    set(ARG_HEADERS base_intestazioni)
+  endif()
   add_library(somme_${name} STATIC ${ARG_SOURCES})
-  if(NOT ARG_NO_WINDOWS AND SOMME_COMPILED_HEADERS STREQUAL "ALL")
-    somme_compiled_headers(somme_${name} finestre_intestazioni)
+  set_target_properties(somme_${name} PROPERTIES AUTOMOC "${ARG_MOC}")
+  if(SOMME_COMPILED_HEADERS STREQUAL "ALL" AND NOT ARG_HEADERS STREQUAL "none")
+    somme_compiled_headers(somme_${name} ${ARG_HEADERS})
   endif()
   add_library(somme::${name} ALIAS somme_${name})
   set(view "${CMAKE_BINARY_DIR}/include/${name}")
@@ -27,7 +32,7 @@ function(somme_room name)
     # A static library may ask for what it does not link; the whole of it in a shared one may not.
     file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/floor_${name}.cpp" "")
     add_library(floor_${name} SHARED "${CMAKE_CURRENT_BINARY_DIR}/floor_${name}.cpp")
-    set_target_properties(floor_${name} PROPERTIES AUTOMOC OFF
+    set_target_properties(floor_${name} PROPERTIES
       LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/floors")
     target_link_libraries(floor_${name} PRIVATE
       -Wl,--no-undefined -Wl,--whole-archive $<TARGET_FILE:somme_${name}> -Wl,--no-whole-archive
@@ -56,7 +61,6 @@ function(somme_tests)
   endif()
   add_executable(${target} ${ARG_SOURCES})
   target_link_libraries(${target} PRIVATE ${ARG_LINKS} somme_classi_di_prova)
-  set_target_properties(${target} PROPERTIES AUTOMOC OFF)
   somme_tests_compilation(${target} "${ARG_LINKS}")
   somme_every_test_is_named("${ARG_NAMES}")
   target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
@@ -74,15 +78,15 @@ function(somme_tests)
   endforeach()
 endfunction()
 
-# How a program of tests is compiled.
+# How a program of tests is compiled: with the headers of the first set whose pattern its links match.
 function(somme_tests_compilation target links)
-  if(links MATCHES "somme::platform_flash")
-    somme_compiled_headers(${target} finestre_intestazioni)
-    return()
-  endif()
   target_compile_options(${target} PRIVATE ${SOMME_TESTS_OPTIONS})
   if(links MATCHES "somme_prova|somme_stage")
     somme_compiled_headers(${target} prova_intestazioni)
+  elseif(links MATCHES "platform_flash")
+    somme_compiled_headers(${target} prova_filmati_intestazioni)
+  elseif(NOT links MATCHES "Qt6::Gui")
+    somme_compiled_headers(${target} prova_base_intestazioni)
   endif()
 endfunction()
 

@@ -11,7 +11,7 @@ namespace {
 
 // A kind, largest first: its keys in the language file with their Italian words, for one and for
 // more.
-struct Genere {
+struct ParoleDiGenere {
   int Quantita::*quanti;
   const char* chiaveUno;
   QStringView uno;
@@ -19,7 +19,7 @@ struct Genere {
   QStringView piu;
 };
 
-constexpr std::array<Genere, 4> kGeneri{{
+constexpr std::array<ParoleDiGenere, 4> kGeneri{{
     {&Quantita::migliaia, "Migliaio", u"migliaio", "Migliaia", u"migliaia"},
     {&Quantita::centinaia, "Centinaio", u"centinaio", "Centinaia", u"centinaia"},
     {&Quantita::decine, "Decina", u"decina", "Decine", u"decine"},
@@ -34,7 +34,7 @@ QString Parola(Ambiente& ambiente, const char* chiave, QStringView italiana) {
 
 QString InParole(Ambiente& ambiente, const Quantita& quantita) {
   QStringList parti;
-  for (const Genere& genere : kGeneri) {
+  for (const ParoleDiGenere& genere : kGeneri) {
     const int quanti = quantita.*genere.quanti;
     if (quanti == 0) continue;
     const QString parola = quanti == 1 ? Parola(ambiente, genere.chiaveUno, genere.uno)

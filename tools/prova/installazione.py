@@ -81,27 +81,31 @@ class Debian(Albero):
 
     diritti = ("--inh-caps=+sys_chroot", "--ambient-caps=+sys_chroot")
 
-    def installa(self, pacchetto):
-        """Raises SenzaDebian where the machine or its archive give none."""
+    def crea(self):
+        """The tree, with its package lists. Raises SenzaDebian where machine or archive give none."""
         if os.geteuid() != 0 or shutil.which("debootstrap") is None:
             raise SenzaDebian("that takes root and debootstrap")
         try:
             self._debootstrap(*self._archivio())
-            shutil.copy(pacchetto, self.dentro("/tmp/somme.deb"))
-            self._apt("update", "-o", "APT::Update::Error-Mode=any", errore=SenzaDebian)
-            # What the package asks for must be there; whether the archive hands it over is another
-            # matter.
-            self._apt("install", "-s", "/tmp/somme.deb")
-            self._apt("install", "-y", "--download-only", "/tmp/somme.deb", errore=SenzaDebian)
+            self.apt("update", "-o", "APT::Update::Error-Mode=any", errore=SenzaDebian)
         except BaseException:
             self._smonta()
             raise
-        self._apt("install", "-y", "/tmp/somme.deb")
+
+    def installa(self, pacchetto):
+        """Raises SenzaDebian where the machine or its archive give none."""
+        self.crea()
+        shutil.copy(pacchetto, self.dentro("/tmp/somme.deb"))
+        # What the package asks for must be there; whether the archive hands it over is another
+        # matter.
+        self.apt("install", "-s", "/tmp/somme.deb")
+        self.apt("install", "-y", "--download-only", "/tmp/somme.deb", errore=SenzaDebian)
+        self.apt("install", "-y", "/tmp/somme.deb")
         # Sockets of the desktop outside have the same path in the tree.
         os.makedirs(self.dentro(os.path.dirname(self.radice)), exist_ok=True)
         os.symlink("/", self.dentro(self.radice))
 
-    def _apt(self, *comando, errore=Errore):
+    def apt(self, *comando, errore=Errore):
         esegui("chroot", self.radice, "apt-get", "--no-install-recommends", *comando,
                pazienza=PAZIENZA, errore=errore,
                env={**os.environ, "DEBIAN_FRONTEND": "noninteractive", "LC_ALL": "C.UTF-8"})
