@@ -16,6 +16,7 @@
 #include "platform/devices/system_printers.h"
 #include "platform/devices/system_process_end.h"
 #include "platform/forms/appearance.h"
+#include "platform/forms/desktop_motion.h"
 #include "platform/forms/qt_announcer.h"
 #include "platform/forms/qt_message_boxes.h"
 #include "platform/forms/qt_page_setup.h"
@@ -59,6 +60,7 @@ int main(int /*argc*/, char* argv[]) {
       tempo, {platform::PdfFolder::usualFolders(), [] { return QDateTime::currentDateTime(); }});
 
   platform::LoopbackNetwork rete;
+  platform::DesktopMotion moto;
 
   // The message boxes speak the language of the whole that they are a part of, and stand over the
   // window in use.
@@ -70,7 +72,7 @@ int main(int /*argc*/, char* argv[]) {
       [](const platform::Paper& carta) { return somme::NomeDellaCarta(carta); }, sopra);
   somme::Ambiente ambiente(
       {tempo, sorte, suono, messaggi, annunci, documenti, fine, istanza, stampanti, pagina, rete,
-       QCoreApplication::applicationDirPath(), CartellaUtente()},
+       QCoreApplication::applicationDirPath(), CartellaUtente(), &moto},
       somme::LeForme());
   tutto = &ambiente;
   const platform::SessionEnd fineSessione(ambiente.fondo);

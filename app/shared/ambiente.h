@@ -30,7 +30,8 @@ struct Servizi {
   QString cartella;  // the program's path: the executable's folder, links resolved
   // Where this user's settings go when that folder cannot be written; it need not exist.
   QString cartellaUtente;
-  quint16 porta = 1050;  // where HelpiKeys listens
+  platform::Motion* moto = nullptr;  // none: nothing moves for show
+  quint16 porta = 1050;              // where HelpiKeys listens
 };
 
 // Everything that a form reaches besides its own controls: the services, the shared state, the

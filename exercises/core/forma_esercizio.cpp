@@ -9,6 +9,8 @@ namespace somme {
 
 FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno)
     : Forma(ambiente, disegno) {
+  EtichettaEsatti.shareCaptionSize(conteggi_);
+  EtichettaErrati.shareCaptionSize(conteggi_);
   MenuAzzera.onClick([this] { AzzeraConteggio(); });
   mnuStampa.onClick([this] { ApriPannelloStampa(); });
   CommandStampa.onClick([this] { StampaElenco(); });
@@ -53,21 +55,28 @@ void FormaEsercizio::ScriviErrati() {
   EtichettaErrati.setCaption(ConteggioErrati());
 }
 
+// A verdict like the last changes a digit of the count alone: the movement says that it is a new
+// one.
+void FormaEsercizio::Mostra(platform::Image& verdetto, platform::Pop come) {
+  ImgSi.setVisible(&verdetto == &ImgSi);
+  ImgNo.setVisible(&verdetto == &ImgNo);
+  verdetto.pop(come);
+}
+
 // The verdict is told first: whatever moves the focus or the light makes a screen reader speak,
 // too.
 void FormaEsercizio::SegnaGiusto(const Passo& primaDellEtichetta) {
-  ImgSi.setVisible(true);
-  ImgNo.setVisible(false);
+  Mostra(ImgSi, platform::Pop::Burst);
   stato().ContaEsatti = platform::toInt16(stato().ContaEsatti + 1);
   DiciVerdetto(ImgSi, ConteggioEsatti());
   RiproduciSuono(ambiente(), QStringLiteral("si"));
   if (primaDellEtichetta) primaDellEtichetta();
   ScriviEsatti();
+  EtichettaEsatti.glow();
 }
 
 void FormaEsercizio::SegnaPassoGiusto() {
-  ImgSi.setVisible(true);
-  ImgNo.setVisible(false);
+  Mostra(ImgSi, platform::Pop::Burst);
   announce(ImgSi.toolTip());
   RiproduciSuono(ambiente(), QStringLiteral("si"));
 }
@@ -75,8 +84,8 @@ void FormaEsercizio::SegnaPassoGiusto() {
 void FormaEsercizio::SegnaSbagliato(const Passo& primaDelSuono) {
   stato().ContaErrati = platform::toInt16(stato().ContaErrati + 1);
   ScriviErrati();
-  ImgSi.setVisible(false);
-  ImgNo.setVisible(true);
+  EtichettaErrati.glow();
+  Mostra(ImgNo, platform::Pop::Shake);
   DiciVerdetto(ImgNo, ConteggioErrati());
   if (primaDelSuono) primaDelSuono();
   RiproduciSuono(ambiente(), QStringLiteral("no"));

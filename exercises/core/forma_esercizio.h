@@ -5,6 +5,7 @@
 #include "app/shared/forma.h"
 #include "exercises/core/modo_input.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/caption_size.h"
 #include "platform/forms/controls/image.h"
 #include "platform/forms/controls/label.h"
 #include "platform/forms/controls/menu_item.h"
@@ -90,9 +91,12 @@ class FormaEsercizio : public Forma {
  private:
   [[nodiscard]] QString ConteggioEsatti() const;
   [[nodiscard]] QString ConteggioErrati() const;
+  // Shows one of the two pictures, in a way that is seen also where it was there before.
+  void Mostra(platform::Image& verdetto, platform::Pop come);
   // Tells assistive technology what the pictures show, with its count.
   void DiciVerdetto(const platform::Image& verdetto, const QString& conteggio);
 
+  platform::CaptionSize conteggi_{platform::CaptionSize::Kind::Pair};
   ModoInput* modo_ = nullptr;  // none: mouse and keyboard alone
 };
 

@@ -20,6 +20,15 @@ class Announcer {
   virtual void announce(const QString& sentence) = 0;
 };
 
+// What the desktop lets move. It is asked anew before each movement, so that a change of mind
+// counts at once.
+class Motion {
+ public:
+  virtual ~Motion() = default;
+  // False where the desktop asks for no animations.
+  [[nodiscard]] virtual bool isWanted() = 0;
+};
+
 // Hands documents to the desktop.
 class Documents {
  public:

@@ -29,6 +29,8 @@ class Ground {
   [[nodiscard]] virtual Network* network() = 0;  // null under forms without sockets
   [[nodiscard]] virtual Gate& gate() = 0;
   [[nodiscard]] virtual Pictures& pictures() = 0;
+  // Whether something may move for show.
+  [[nodiscard]] virtual bool mayMove() = 0;
   // The program's own pointer, 32 by 32 logical pixels.
   [[nodiscard]] virtual const QCursor& pointer() = 0;
 

@@ -5,6 +5,7 @@
 #include <QString>
 #include <map>
 #include <memory>
+#include <vector>
 
 class QSvgRenderer;
 class QPainter;
@@ -23,6 +24,13 @@ class Pictures {
   void paint(QPainter& painter, const QString& name, const QRectF& area);
   // Its width over its height; 1 for a missing one.
   [[nodiscard]] double proportions(const QString& name);
+  // The elements of a drawing that is put together of parts ("parte1", "parte2", ...), in their
+  // order; empty for a drawing in one piece.
+  [[nodiscard]] std::vector<QString> parts(const QString& name);
+  // Draws one part as `paint` draws it within the whole.
+  void paintPart(QPainter& painter, const QString& name, const QString& part, const QRectF& area);
+  // The middle of a part that is drawn so.
+  [[nodiscard]] QPointF middleOf(const QString& name, const QString& part, const QRectF& area);
   // The picture in so many logical pixels.
   [[nodiscard]] QPixmap pixmap(const QString& name, QSize size, qreal devicePixelRatio);
   // The picture as the icon of a window, in the sizes that desktops ask for. The same each time:

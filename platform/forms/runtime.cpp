@@ -49,6 +49,10 @@ const QCursor& Runtime::pointer() {
   return *pointer_;
 }
 
+bool Runtime::mayMove() {
+  return services_.motion != nullptr && services_.motion->isWanted();
+}
+
 bool Runtime::mayAct(const QWidget& widget) const {
   return keys_->mayAct(widget);
 }

@@ -25,6 +25,7 @@ struct RuntimeServices {
   ProcessEnd& end;
   Announcer& announcer;
   Network* network = nullptr;  // none under forms without sockets
+  Motion* motion = nullptr;    // none: nothing moves for show
 };
 
 // The ground under the forms of one program: its window, the forms now loaded, the gate of their
@@ -47,6 +48,7 @@ class Runtime final : public Ground {
   [[nodiscard]] Network* network() override { return services_.network; }
   [[nodiscard]] Gate& gate() override { return gate_; }
   [[nodiscard]] Pictures& pictures() override { return pictures_; }
+  [[nodiscard]] bool mayMove() override;
   [[nodiscard]] const QCursor& pointer() override;
   BoxAnswer showBox(const MessageBox& box) override;
   void waitDeaf(const std::function<void()>& work) override;

@@ -85,6 +85,7 @@ class Banco {
   SuonoDiProva suono;
   MessaggiDiProva messaggi;
   AnnunciDiProva annunci;
+  MotoDiProva moto;
   DocumentiDiProva documenti;
   FineDiProva fine;
   IstanzaDiProva istanza;

@@ -82,6 +82,13 @@ class AnnunciDiProva final : public platform::Announcer {
   std::function<void()> allAnnuncio;
 };
 
+// Pictures stand still, as most tests want them, until a test lets them move.
+class MotoDiProva final : public platform::Motion {
+ public:
+  [[nodiscard]] bool isWanted() override { return voluto; }
+  bool voluto = false;
+};
+
 class DocumentiDiProva final : public platform::Documents {
  public:
   void open(const QString& path) override { aperti.push_back(path); }

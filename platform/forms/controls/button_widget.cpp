@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "platform/forms/accessible.h"
-#include "platform/forms/controls/caption_size.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
 #include "platform/forms/press_event.h"
@@ -33,24 +32,11 @@ ButtonWidget::ButtonWidget(QWidget* parent, Pictures& pictures, std::function<vo
   setFocusPolicy(Qt::StrongFocus);
 }
 
-ButtonWidget::~ButtonWidget() {
-  if (shared_ != nullptr) shared_->remove(*this);
-}
-
 void ButtonWidget::setCaption(const QString& caption) {
   if (caption == caption_) return;
   caption_ = caption;
   captionChanged();
   update();
-}
-
-void ButtonWidget::shareCaptionSize(CaptionSize* shared) {
-  shared_ = shared;
-  update();
-}
-
-void ButtonWidget::captionChanged() {
-  if (shared_ != nullptr) shared_->changed();
 }
 
 int ButtonWidget::fittedCaption() {
@@ -191,7 +177,7 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   if (!picture_.isEmpty()) pictures_.paint(painter, picture_, room.picture);
   if (ground_) painter.setOpacity(1);
   QFont letters = font();
-  if (shared_ != nullptr) letters.setPixelSize(std::min(letters.pixelSize(), shared_->pixelSize()));
+  letters.setPixelSize(sharedSize(letters.pixelSize()));
   block_.set(caption_, letters, room.text.size(), Align::Centre, true);
   block_.paint(painter, room.text, ink_, face);
 }

@@ -5,30 +5,26 @@
 #include <functional>
 #include <optional>
 
+#include "platform/forms/controls/caption_size.h"
 #include "platform/forms/text_block.h"
 
 namespace platform {
 
-class CaptionSize;
 class Pictures;
 
 // The widget of a button: paints it and turns mouse and keys into clicks. Keys come here already
 // freed of repeats.
-class ButtonWidget final : public QAbstractButton {
+class ButtonWidget final : public QAbstractButton, public FittedCaption {
   Q_OBJECT
 
  public:
   ButtonWidget(QWidget* parent, Pictures& pictures, std::function<void()> clicked);
-  ~ButtonWidget() override;
 
   void setCaption(const QString& caption);
   void setPicture(const QString& name) { picture_ = name; }
   // ground: the colour of the face; without one the button is plain.
   void setColours(QColor ink, std::optional<QColor> ground);
-  // Sets the caption in letters no larger than those of other buttons; null for none.
-  void shareCaptionSize(CaptionSize* shared);
-  // The pixel size of letters that the caption has room for, at most that of the font.
-  [[nodiscard]] int fittedCaption();
+  [[nodiscard]] int fittedCaption() override;
   // What the button belongs to, which assistive technology says before its own words; null for
   // nothing.
   void setHeading(const QWidget* heading) { heading_ = heading; }
@@ -47,6 +43,7 @@ class ButtonWidget final : public QAbstractButton {
   void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void captionSizeChanged() override { update(); }
 
  private:
   struct Rooms {
@@ -55,7 +52,6 @@ class ButtonWidget final : public QAbstractButton {
   };
   [[nodiscard]] Rooms rooms() const;
   void paintFace(QPainter& painter, const QColor& face) const;
-  void captionChanged();
 
   Pictures& pictures_;
   std::function<void()> clicked_;
@@ -64,7 +60,6 @@ class ButtonWidget final : public QAbstractButton {
   QColor ink_ = Qt::black;
   std::optional<QColor> ground_;
   TextBlock block_;
-  CaptionSize* shared_ = nullptr;
   QPointer<const QWidget> heading_;
   bool stateUntold_ = false;  // assistive technology takes it for enabled, or disabled, wrongly
 };

@@ -5,6 +5,12 @@
 
 namespace platform {
 
+namespace {
+
+constexpr int kPop = 250;  // milliseconds
+
+}  // namespace
+
 QWidget* Image::create(QWidget* parent) {
   return new ImageWidget(
       parent, ground().pictures(),
@@ -14,6 +20,20 @@ QWidget* Image::create(QWidget* parent) {
 void Image::applyLook() {
   widget()->setToolTip(toolTip());
   widget()->setAccessibleName(toolTip());
+}
+
+void Image::pop(Pop how) {
+  how_ = how;
+  movement_.run(ground(), kPop);
+}
+
+void Image::show(double part) {
+  if (auto* image = static_cast<ImageWidget*>(widget())) image->setPop(how_, part);
+}
+
+void Image::setVisible(bool visible) {
+  if (!visible) movement_.finish();
+  Control::setVisible(visible);
 }
 
 }  // namespace platform

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "platform/forms/controls/image.h"
+
 namespace platform {
 
 class Pictures;
@@ -14,12 +16,20 @@ class ImageWidget final : public QWidget {
   ImageWidget(QWidget* parent, Pictures& pictures, QString name)
       : QWidget(parent), pictures_(pictures), name_(std::move(name)) {}
 
+  // part: of the way, 0 to 1; at 1 the picture stands as ever.
+  void setPop(Pop how, double part);
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void paintBurst(QPainter& painter) const;
+  void paintShake(QPainter& painter) const;
+
   Pictures& pictures_;
   QString name_;
+  Pop how_ = Pop::Burst;
+  double part_ = 1;
 };
 
 }  // namespace platform

@@ -2,13 +2,43 @@
 
 #include <algorithm>
 
+#include "platform/forms/controls/caption_size.h"
 #include "platform/forms/controls/label_widget.h"
 #include "platform/forms/fonts.h"
+#include "platform/forms/ground.h"
 
 namespace platform {
 
+namespace {
+
+constexpr int kGlow = 500;     // milliseconds
+constexpr double kFull = 0.6;  // of them in full light, from where it fades
+
+}  // namespace
+
 QWidget* Label::create(QWidget* parent) {
-  return new LabelWidget(parent, look().align, look().border, look().mnemonic);
+  auto* label = new LabelWidget(parent, look().align, look().border, look().mnemonic);
+  if (captionSize_ != nullptr) captionSize_->add(*label);
+  return label;
+}
+
+void Label::shareCaptionSize(CaptionSize& shared) {
+  captionSize_ = &shared;
+  if (auto* label = static_cast<LabelWidget*>(widget())) shared.add(*label);
+}
+
+void Label::glow() {
+  glowing_.run(ground(), kGlow);
+}
+
+void Label::showGlow(double part) {
+  const double strength = std::min(1.0, (1 - part) / (1 - kFull));
+  if (auto* label = static_cast<LabelWidget*>(widget())) label->setGlow(strength);
+}
+
+void Label::setVisible(bool visible) {
+  if (!visible) glowing_.finish();
+  Control::setVisible(visible);
 }
 
 void Label::applyLook() {
@@ -34,7 +64,7 @@ QString Label::caption() const {
 void Label::setCaption(const QString& caption) {
   auto* label = static_cast<LabelWidget*>(widget());
   if (label == nullptr || label->text() == caption) return;
-  label->setText(caption);
+  label->setWords(caption);
   applyLook();
 }
 

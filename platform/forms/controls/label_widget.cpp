@@ -1,12 +1,38 @@
 #include "platform/forms/controls/label_widget.h"
 
+#include <QEvent>
 #include <QPainter>
+#include <cmath>
+
+#include "platform/forms/focus_ring.h"
 
 namespace platform {
+
+namespace {
+
+// The light is warm, and an edge in the dark of the pictures' outlines says it where colours do
+// not.
+constexpr QColor kLight(255, 212, 59);
+constexpr QColor kEdge(24, 33, 59);
+constexpr double kEdgeWidth = 3;
+
+// part: of the way from one colour to the other, 0 to 1.
+QColor mixed(const QColor& from, const QColor& to, double part) {
+  const auto channel = [part](int a, int b) { return int(std::lround(a + (b - a) * part)); };
+  return {channel(from.red(), to.red()), channel(from.green(), to.green()),
+          channel(from.blue(), to.blue())};
+}
+
+}  // namespace
 
 LabelWidget::LabelWidget(QWidget* parent, Align align, bool border, bool mnemonic)
     : QLabel(parent), align_(align), border_(border), mnemonic_(mnemonic) {
   setTextFormat(Qt::PlainText);
+}
+
+void LabelWidget::setWords(const QString& words) {
+  setText(words);
+  captionChanged();
 }
 
 void LabelWidget::setColours(QColor ink, std::optional<QColor> ground, QColor behind) {
@@ -17,6 +43,58 @@ void LabelWidget::setColours(QColor ink, std::optional<QColor> ground, QColor be
   update();
 }
 
+void LabelWidget::setGlow(double strength) {
+  if (glow_ == strength) return;
+  glow_ = strength;
+  update();
+}
+
+void LabelWidget::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  captionChanged();
+}
+
+void LabelWidget::changeEvent(QEvent* event) {
+  QLabel::changeEvent(event);
+  if (event->type() == QEvent::FontChange) captionChanged();
+}
+
+// Words at the side of a coloured ground keep clear of its edge.
+QRect LabelWidget::room() const {
+  const int margin = border_ ? 2 : 0;
+  const int side = ground_ && align_ != Align::Centre ? margin + font().pixelSize() / 3 : margin;
+  return rect().adjusted(side, margin, -side, -margin);
+}
+
+void LabelWidget::layOut(const QFont& letters, QSize room) {
+  if (laidText_ == text() && laidFont_ == letters && laidRoom_ == room) return;
+  laidText_ = text();
+  laidFont_ = letters;
+  laidRoom_ = room;
+  block_.set(laidText_, letters, room, align_, mnemonic_);
+}
+
+int LabelWidget::fittedCaption() {
+  layOut(font(), room().size());
+  return block_.pixelSize();
+}
+
+// It fades by way of white: straight from the light to a blue ground it would turn green.
+QColor LabelWidget::litGround() const {
+  const QColor ground = ground_.value_or(behind_);
+  return glow_ > 0.5 ? mixed(Qt::white, kLight, glow_ * 2 - 1)
+                     : mixed(ground, Qt::white, glow_ * 2);
+}
+
+void LabelWidget::paintGlow(QPainter& painter) const {
+  const int width = int(std::lround(kEdgeWidth * markScale(*this)));
+  painter.fillRect(rect(), litGround());
+  painter.setOpacity(glow_);
+  const QRect inside = rect().adjusted(width, width, -width, -width);
+  for (const QRect& edge : QRegion(rect()).subtracted(inside)) painter.fillRect(edge, kEdge);
+  painter.setOpacity(1);
+}
+
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   if (ground_) painter.fillRect(rect(), *ground_);
@@ -24,17 +102,11 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(Qt::black);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
   }
-  const int margin = border_ ? 2 : 0;
-  // Words at the side of a coloured ground keep clear of its edge.
-  const int side = ground_ && align_ != Align::Centre ? margin + font().pixelSize() / 3 : margin;
-  const QRect room = rect().adjusted(side, margin, -side, -margin);
-  if (laidText_ != text() || laidFont_ != font() || laidRoom_ != room.size()) {
-    laidText_ = text();
-    laidFont_ = font();
-    laidRoom_ = room.size();
-    block_.set(laidText_, laidFont_, laidRoom_, align_, mnemonic_);
-  }
-  block_.paint(painter, room, ink_, ground_.value_or(behind_));
+  if (glow_ > 0) paintGlow(painter);
+  QFont letters = font();
+  letters.setPixelSize(sharedSize(letters.pixelSize()));
+  layOut(letters, room().size());
+  block_.paint(painter, room(), ink_, litGround());
 }
 
 }  // namespace platform

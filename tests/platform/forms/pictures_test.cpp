@@ -43,6 +43,10 @@ class PicturesTest : public QObject {
         "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 20 10'>"
         "<rect width='20' height='10' fill='#ff0000'/>"
         "<circle id='punta' cx='5' cy='2.5' r='1' fill='#ff0000'/></svg>");
+    put("parts.svg",
+        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='10 0 40 20'>"
+        "<g fill='#ff0000'><rect id='parte1' x='12' y='2' width='10' height='16'/></g>"
+        "<g fill='#0000ff'><rect id='parte2' x='30' y='4' width='8' height='8'/></g></svg>");
     put("broken.svg", "<svg xmlns='http://www.w3.org/2000/svg'><rect");
     put("empty.svg", "");
     put("flat.svg", "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 0 0'/>");
@@ -73,6 +77,24 @@ class PicturesTest : public QObject {
     QVERIFY(isBlank(painted(pictures, name, {40, 40}, QRectF(0, 0, 40, 40))));
     QVERIFY(pictures.pixmap(QLatin1String(name), {32, 32}, 1).size() == QSize(32, 32));
     QCOMPARE(pictures.hotSpot(QLatin1String(name), {32, 32}), QPoint());
+  }
+
+  void partsAreDrawnWhereTheyStandInTheWhole() {
+    Pictures pictures(folder_.path());
+    const QString name = QStringLiteral("parts");
+    const QRectF area(0, 0, 120, 100);
+    const std::vector<QString> parts = pictures.parts(name);
+    QCOMPARE(parts, (std::vector<QString>{QStringLiteral("parte1"), QStringLiteral("parte2")}));
+    QImage image(120, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    for (const QString& part : parts) pictures.paintPart(painter, name, part, area);
+    painter.end();
+    QCOMPARE(image, painted(pictures, "parts", image.size(), area));
+    QCOMPARE(pictures.middleOf(name, parts[1], area), QPointF(72, 44));
+    QVERIFY(pictures.parts(QStringLiteral("red")).empty());
+    QVERIFY(pictures.parts(QStringLiteral("nowhere")).empty());
+    QCOMPARE(pictures.middleOf(name, QStringLiteral("parte3"), area), QPointF());
   }
 
   void aPixmapIsSharpOnADenseScreen() {

@@ -13,10 +13,10 @@ using namespace platform;
 Stage::Stage(QSize size) {
   somme::PreparaImmagini();
   applyAppearance();
-  runtime = std::make_unique<Runtime>(RuntimeServices{time, boxes, end, announcer},
-                                      QStringLiteral("The program"), QStringLiteral(":/immagini"),
-                                      QStringLiteral("puntatore"),
-                                      [this](std::string_view name) { return make(name); });
+  runtime = std::make_unique<Runtime>(
+      RuntimeServices{time, boxes, end, announcer, nullptr, &motion}, QStringLiteral("The program"),
+      QStringLiteral(":/immagini"), QStringLiteral("puntatore"),
+      [this](std::string_view name) { return make(name); });
   runtime->window().setMinimumSize(1, 1);
   if (size.isEmpty()) return;
   runtime->window().resize(size);

@@ -51,6 +51,7 @@ class Stage {
   prova::MessaggiDiProva boxes;
   prova::FineDiProva end;
   prova::AnnunciDiProva announcer;
+  prova::MotoDiProva motion;
   std::unique_ptr<platform::Runtime> runtime;
 
  private:

@@ -1,0 +1,15 @@
+#include "platform/forms/desktop_motion.h"
+
+#include <QApplication>
+#include <QStyle>
+
+#include "platform/forms/desktop_settings.h"
+
+namespace platform {
+
+bool DesktopMotion::isWanted() {
+  if (QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) <= 0) return false;
+  return numberIn(desktopSettings(), QByteArrayLiteral("Gtk/EnableAnimations")).value_or(1) != 0;
+}
+
+}  // namespace platform
