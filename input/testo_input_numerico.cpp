@@ -18,7 +18,8 @@ namespace {
 
 constexpr auto kInterni = std::to_array<platform::InnerRow>({
     inner<&TestoInputNumerico::TestoInput>({.caption = "Text1", .border = true}),
-    inner<&TestoInputNumerico::TestoOutput>({.border = true, .hidden = true, .locked = true}),
+    inner<&TestoInputNumerico::TestoOutput>(
+        {.border = true, .hidden = true, .locked = true, .picture = "matita"}),
 });
 
 constexpr int kMargine = 10;     // twips, left and above
@@ -130,6 +131,7 @@ void TestoInputNumerico::layOut() {
   TestoOutput.setFontSize(TestoInput.fontSize());
   TestoOutput.setFontName(TestoInput.fontName());
   TestoOutput.setAlignment(TestoInput.alignment());
+  TestoOutput.setOpenedByClick(Enabled.get());
   if (disposto_) raiseEvent(disposto_);
 }
 

@@ -8,7 +8,6 @@
 #include <algorithm>
 
 #include "platform/forms/accessible.h"
-#include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
 
 namespace platform {
@@ -22,20 +21,16 @@ constexpr double kMenuPixels = 16;
 constexpr double kBetweenMenus = 1.2;
 constexpr int kRoundMenu = 12;  // pixels
 
-// Fusion, with a text cursor that can be found, and menus that keep apart whatever their size.
+// Fusion, without a text cursor of its own, and with menus that keep apart whatever their size.
 class Style final : public QProxyStyle {
  public:
   Style() : QProxyStyle(QStringLiteral("Fusion")) {}
 
   [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
                                 const QWidget* widget) const override {
-    constexpr int kTextCursor = 3;
+    // Text boxes paint their own.
+    if (metric == PM_TextCursorWidth) return 0;
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    if (metric == PM_TextCursorWidth) {
-      // A line edit asks by its option alone.
-      const auto* asking = qobject_cast<const QWidget*>(option ? option->styleObject : nullptr);
-      return asking == nullptr ? kTextCursor : int(kTextCursor * markScale(*asking));
-    }
     if (metric == PM_MenuBarItemSpacing && widget != nullptr) {
       return std::max(usual, int(widget->font().pixelSize() * kBetweenMenus) - kRoundMenu);
     }

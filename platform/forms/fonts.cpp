@@ -40,6 +40,11 @@ Ink inkOf(const QFont& font) {
   return {-ink.top(), ink.bottom()};
 }
 
+int baseLineIn(const QRect& room, const QFont& font) {
+  const Ink ink = inkOf(font);
+  return qRound(room.top() + (room.height() - ink.height()) / 2 + ink.above);
+}
+
 int largestThatFits(int wanted, int smallest, const std::function<bool(int)>& fits) {
   if (wanted <= smallest || fits(wanted)) return wanted;
   int fitting = smallest;

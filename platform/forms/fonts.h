@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QRect>
 #include <functional>
 
 #include "platform/forms/design.h"
@@ -27,6 +28,10 @@ struct Ink {
   [[nodiscard]] double height() const { return above + below; }
 };
 [[nodiscard]] Ink inkOf(const QFont& font);
+
+// Where a line of text stands in a room, whatever shows it: the ink that its font can show lies in
+// the middle from top to bottom. The height of the base line, in pixels.
+[[nodiscard]] int baseLineIn(const QRect& room, const QFont& font);
 
 // The largest whole pixel size from `smallest` to `wanted` in which a text fits; `smallest` where
 // it fits in none. fits: asked for a size; what fits in one size fits in every smaller one. It is

@@ -193,7 +193,8 @@ void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
     fit();
   }
   const QFontMetricsF metrics(font_);
-  double baseLine = area.top() + (area.height() - height_) / 2 + above_;
+  double baseLine =
+      layout_ ? area.top() + (area.height() - height_) / 2 + above_ : baseLineIn(area, font_);
   const int lines = layout_ ? layout_->lineCount() : 1;
   for (int i = 0; i < lines; ++i, baseLine += lineHeight_) {
     int first = 0;

@@ -156,7 +156,8 @@ class ImmaginiTest : public QObject {
                              "icona",       "puntatore",    "avvio_sinistra", "avvio_destra",
                              "menu_barre",  "menu_tabella", "menu_blocchi",   "menu_numeri",
                              "menu_abaco",  "esci",         "indietro",       "cambio_u_da",
-                             "cambio_da_h", "cambio_h_k",   "freccia_cambio", "stampante_grande"}) {
+                             "cambio_da_h", "cambio_h_k",   "freccia_cambio", "stampante_grande",
+                             "matita"}) {
       QTest::newRow(nome) << QString::fromLatin1(nome);
     }
   }

@@ -42,6 +42,34 @@ class TestoInputScrittoTest : public QObject {
     QVERIFY(!fondo.forma().eventi.isEmpty());
   }
 
+  // A pupil who types on into a closed box must see why nothing comes.
+  void aConfirmedBoxLooksClosedUntilItIsOpenedAndOneThatStaysClosedOffersNothing() {
+    Fondo fondo;
+    const auto ritratto = [&fondo] {
+      fondo.forma().Altro.setFocus();
+      QCoreApplication::processEvents();
+      return fondo.controllo.widget()->grab().toImage();
+    };
+    fondo.scrivi(QStringLiteral("12"));
+    const QImage scritto = ritratto();
+    fondo.controllo.TestoInput.setFocus();
+    fondo.batti(Qt::Key_Return);
+    QVERIFY(fondo.confermato());
+    const QImage chiuso = ritratto();
+    // What tells it apart lies at the edge and at the right end; the number is where it was.
+    const QRect numero = chiuso.rect().adjusted(chiuso.width() / 3, 8, -chiuso.width() / 3, -8);
+    const QRect fine(chiuso.width() * 3 / 4, 8, chiuso.width() / 4 - 8, chiuso.height() - 16);
+    QCOMPARE(chiuso.copy(numero), scritto.copy(numero));
+    QVERIFY(chiuso.copy(fine) != scritto.copy(fine));
+    fondo.clicca(fondo.controllo.TestoOutput);
+    QVERIFY(fondo.inserisce());
+    QCOMPARE(ritratto(), scritto);
+    fondo.controllo.TestoInput.setFocus();
+    fondo.batti(Qt::Key_Return);
+    fondo.controllo.Enabled.set(false);
+    QCOMPARE(ritratto().copy(fine), scritto.copy(fine));
+  }
+
   void separatorsAreTakenWhereTheyAreAccepted() {
     Fondo fondo;
     fondo.controllo.AccettaSeparatori.set(true);

@@ -2,6 +2,7 @@
 
 #include "platform/forms/controls/text_box_widget.h"
 #include "platform/forms/fonts.h"
+#include "platform/forms/ground.h"
 #include "platform/forms/text_block.h"
 
 namespace platform {
@@ -15,31 +16,33 @@ TextBoxWidget& boxOf(QWidget* widget) {
 }  // namespace
 
 QWidget* TextBox::create(QWidget* parent) {
-  auto* box = new TextBoxWidget(parent, {.keyPress =
-                                             [this](int& keyAscii) {
-                                               if (!keyPress_) return;
-                                               // A filter that fails lets nothing in.
-                                               int result = 0;
-                                               raiseEvent([this, keyAscii, &result] {
-                                                 int key = keyAscii;
-                                                 keyPress_(key);
-                                                 result = key;
-                                               });
-                                               keyAscii = result;
-                                             },
-                                         .keyUp =
-                                             [this](int keyCode) {
-                                               if (keyUp_)
-                                                 raiseEvent([this, keyCode] { keyUp_(keyCode); });
-                                             },
-                                         .changed =
-                                             [this] {
-                                               // The text of the design is no change.
-                                               if (isBuilt()) raiseEvent(changed_);
-                                             },
-                                         .clicked = [this] { raiseEvent(clicked_); },
-                                         .clickable = [this] { return clicked_ != nullptr; },
-                                         .mayAct = [this] { return mayAct(); }});
+  const auto filter = [this](int& keyAscii) {
+    if (!keyPress_) return;
+    // A filter that fails lets nothing in.
+    int result = 0;
+    raiseEvent([this, keyAscii, &result] {
+      int key = keyAscii;
+      keyPress_(key);
+      result = key;
+    });
+    keyAscii = result;
+  };
+  TextBoxWidget::Hooks hooks{.keyPress = filter,
+                             .keyUp =
+                                 [this](int keyCode) {
+                                   if (keyUp_) raiseEvent([this, keyCode] { keyUp_(keyCode); });
+                                 },
+                             .changed =
+                                 [this] {
+                                   // The text of the design is no change.
+                                   if (isBuilt()) raiseEvent(changed_);
+                                 },
+                             .clicked = [this] { raiseEvent(clicked_); },
+                             .clickable = [this] { return clicked_ != nullptr; },
+                             .mayAct = [this] { return mayAct(); }};
+  auto* box =
+      new TextBoxWidget(parent, std::move(hooks), ground().pictures(),
+                        QString::fromUtf8(look().picture.data(), qsizetype(look().picture.size())));
   align_ = look().align;
   box->setLimit(look().maxLength);
   box->setReadOnly(look().locked);
@@ -90,6 +93,10 @@ bool TextBox::isLocked() const {
 
 void TextBox::setLocked(bool locked) {
   if (widget() != nullptr) boxOf(widget()).setReadOnly(locked);
+}
+
+void TextBox::setOpenedByClick(bool opened) {
+  if (widget() != nullptr) boxOf(widget()).setClosed(opened);
 }
 
 void TextBox::setAlignment(Align align) {

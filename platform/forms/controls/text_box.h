@@ -34,6 +34,8 @@ class TextBox : public Control {
   void setMaxLength(int characters);
   [[nodiscard]] bool isLocked() const;
   void setLocked(bool locked);
+  // A locked box that a click opens is shown as closed, with the picture of its row at its end.
+  void setOpenedByClick(bool opened);
   [[nodiscard]] Align alignment() const { return align_; }
   void setAlignment(Align align);
   // The family; the one of the design while none was set.

@@ -5,27 +5,18 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QPainter>
 #include <QPointer>
 #include <QValidator>
 #include <algorithm>
 #include <limits>
 #include <utility>
 
-#include "platform/forms/focus_ring.h"
-#include "platform/forms/fonts.h"
 #include "platform/forms/keys/key_codes.h"
 #include "platform/forms/press_event.h"
-#include "platform/forms/text_block.h"
 
 namespace platform {
 
 namespace {
-
-constexpr int kSmallest = 9;        // pixels of a font
-constexpr int kSideMargin = 6;      // pixels, so that text keeps clear of the focus ring
-constexpr int kWidthsOfOthers = 6;  // pixels beside the text that the line edit keeps for itself
-constexpr int kBesideCursor = 5;    // how far the line edit's cursor rectangle reaches to its left
 
 enum class Entry { Text, Command, None };
 
@@ -76,15 +67,15 @@ class TextBoxWidget::Watch final : public QValidator {
   TextBoxWidget& box_;
 };
 
-TextBoxWidget::TextBoxWidget(QWidget* parent, Hooks hooks)
-    : QLineEdit(parent), hooks_(std::move(hooks)) {
+TextBoxWidget::TextBoxWidget(QWidget* parent, Hooks hooks, Pictures& pictures, QString opener)
+    : QLineEdit(parent), hooks_(std::move(hooks)), pictures_(pictures), opener_(std::move(opener)) {
   setFrame(false);
-  setTextMargins(kSideMargin, 0, kSideMargin, 0);
   setContextMenuPolicy(Qt::NoContextMenu);
   // Its own limit would cut what the program sets.
   setMaxLength(std::numeric_limits<int>::max());
   setValidator(new Watch(*this));
   connect(this, &QLineEdit::textChanged, this, &TextBoxWidget::noteChange);
+  connect(this, &QLineEdit::cursorPositionChanged, this, [this] { update(); });
 }
 
 void TextBoxWidget::putText(const QString& text) {
@@ -139,16 +130,6 @@ void TextBoxWidget::noteChange() {
   text_ = text();
   fitFont();
   hooks_.changed();
-}
-
-QRect TextBoxWidget::placeOf(int character) const {
-  const QFontMetricsF metrics(font());
-  const QRect cursor = cursorRect();
-  const double left = cursor.left() + kBesideCursor +
-                      metrics.horizontalAdvance(text().left(character)) -
-                      metrics.horizontalAdvance(text().left(cursorPosition()));
-  const double across = metrics.horizontalAdvance(text().mid(character, 1));
-  return QRectF(left, cursor.top(), across, cursor.height()).toRect();
 }
 
 bool TextBoxWidget::pressable() const {
@@ -241,79 +222,12 @@ void TextBoxWidget::dropEvent(QDropEvent* event) {
   enter(event->mimeData()->text());
 }
 
-void TextBoxWidget::setLook(const QFont& font, Align align, const QColor& ink,
-                            const QColor& ground) {
-  font_ = font;
-  ink_ = ink;
-  ground_ = ground;
-  const Qt::Alignment across = align == Align::Centre  ? Qt::AlignHCenter
-                               : align == Align::Right ? Qt::AlignRight
-                                                       : Qt::AlignLeft;
-  setAlignment(across | Qt::AlignVCenter);
-  QPalette colours = palette();
-  colours.setColor(QPalette::Base, ground);
-  colours.setColor(QPalette::Text, ink);
-  if (colours != palette()) setPalette(colours);
-  fitFont();
-  update();
-}
-
-void TextBoxWidget::setBorder(bool border) {
-  border_ = border;
-  update();
-}
-
-void TextBoxWidget::fitFont() {
-  const int across = width() - 2 * kSideMargin - kWidthsOfOthers;
-  const int down = height() - int(kFocusRingWidth * markScale(*this));
-  QFont fitted = font_;
-  const auto fits = [&](int pixels) {
-    fitted.setPixelSize(pixels);
-    return QFontMetricsF(fitted).horizontalAdvance(text_) <= across &&
-           inkOf(fitted).height() <= down;
-  };
-  fitted.setPixelSize(largestThatFits(font_.pixelSize(), kSmallest, fits));
-  if (fitted != this->font()) setFont(fitted);
-}
-
-void TextBoxWidget::resizeEvent(QResizeEvent* event) {
-  QLineEdit::resizeEvent(event);
-  fitFont();
-}
-
 // Whatever way the focus comes, the text stays as it is: no key press wipes it out unawares.
 void TextBoxWidget::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
     deselect();
     end(false);
-  }
-}
-
-// The colours are settled, and some are too faint on their ground: the letters are set again with
-// an outline, over those that the line edit has painted. While something is selected or composed
-// it stays as the line edit paints it.
-void TextBoxWidget::paintFaintText() {
-  if (!isFaint(ink_, ground_) || text_.isEmpty() || hasSelectedText() || composing_) return;
-  const QFontMetricsF metrics(font());
-  const QRect cursor = cursorRect();
-  const double left =
-      cursor.left() + kBesideCursor - metrics.horizontalAdvance(text_.left(cursorPosition()));
-  QPainter painter(this);
-  painter.setClipRect(rect().adjusted(kSideMargin / 2, 0, -kSideMargin / 2, 0));
-  paintReadable(painter, QPointF(left, cursor.top() + metrics.ascent()), font(), text_, ink_,
-                ground_);
-}
-
-void TextBoxWidget::paintEvent(QPaintEvent* event) {
-  QLineEdit::paintEvent(event);
-  paintFaintText();
-  QPainter painter(this);
-  if (hasFocus()) {
-    paintFocusRing(painter, *this, 0);
-  } else if (border_) {
-    painter.setPen(QColor(70, 70, 70));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
   }
 }
 

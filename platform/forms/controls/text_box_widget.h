@@ -3,11 +3,14 @@
 #include <QFont>
 #include <QLineEdit>
 #include <functional>
+#include <optional>
 
-#include "platform/forms/controls/cursor_rest.h"
+#include "platform/forms/controls/caret.h"
 #include "platform/forms/design.h"
 
 namespace platform {
+
+class Pictures;
 
 // The widget of a text box. Whatever way characters come in by the user's hand (keys, clipboard,
 // drag and drop, input methods, assistive technology), they pass one after the other through the
@@ -28,7 +31,8 @@ class TextBoxWidget final : public QLineEdit {
     std::function<bool()> mayAct;
   };
 
-  TextBoxWidget(QWidget* parent, Hooks hooks);
+  // opener: the picture at the right end of a box that a click opens; "" for none.
+  TextBoxWidget(QWidget* parent, Hooks hooks, Pictures& pictures, QString opener);
 
   // Text set by the program.
   void putText(const QString& text);
@@ -42,6 +46,8 @@ class TextBoxWidget final : public QLineEdit {
   // font: the one of the design; text that is too wide for the box takes a smaller size of it.
   void setLook(const QFont& font, Align align, const QColor& ink, const QColor& ground);
   void setBorder(bool border);
+  // Shows the box as one in which nothing can be written until a click opens it.
+  void setClosed(bool closed);
 
   // Whether a press of assistive technology acts: in an open box it confirms, as Enter does; in a
   // locked one it is the click, where a click means something.
@@ -58,6 +64,7 @@ class TextBoxWidget final : public QLineEdit {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -70,17 +77,27 @@ class TextBoxWidget final : public QLineEdit {
   void noteChange();
   void enterAnew(const QString& text);
   void fitFont();
+  void standOnLine();
+  void takePointer();
+  [[nodiscard]] QRectF openerPlace() const;
   void paintFaintText();
+  void paintCaret();
+  void paintEdge();
 
   Hooks hooks_;
-  CursorRest cursorRest_{*this};
+  Caret caret_{*this};
   QString text_;  // what the box held after the last change that came one of its own ways
   QFont font_;
   QColor ink_ = Qt::black;
   QColor ground_ = Qt::white;
   int limit_ = 0;
   int ownWork_ = 0;  // above 0 while a change comes one of the box's own ways
+  Pictures& pictures_;
+  QString opener_;
   bool border_ = true;
+  bool closed_ = false;
+  bool hand_ = false;                  // the pointer is a hand because the box is closed
+  std::optional<QCursor> ownPointer_;  // that it had before; none: that of what it stands on
   bool composing_ = false;
   bool entering_ = false;  // characters are coming in one by one
 };

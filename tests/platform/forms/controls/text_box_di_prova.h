@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/label.h"
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
@@ -11,12 +12,13 @@
 // Text boxes on a form of the tests' own.
 namespace casella {
 
-// A form with a box for four digits, a locked one, and a button beside them.
+// A form with a box for four digits and a label in its row, a locked box, and a button beside them.
 class Prova : public platform::Form {
  public:
   explicit Prova(platform::Runtime& runtime);
 
   platform::TextBox Casella{*this};
+  platform::Label Scritta{*this};
   platform::TextBox Bloccata{*this};
   platform::Button Bottone{*this};
 
@@ -36,7 +38,11 @@ inline constexpr auto kRighe = std::to_array<platform::Row>({
     platform::row<&Prova::Casella>(
         {1000, 1000, 3000, 900},
         {.toolTip = "Il numero", .font = {platform::Face::Tahoma, 24}, .maxLength = 4}),
-    platform::row<&Prova::Bloccata>({1000, 3000, 3000, 900}, {.caption = "fermo", .locked = true}),
+    platform::row<&Prova::Scritta>({5000, 1000, 3000, 900},
+                                   {.caption = "1082", .font = {platform::Face::Tahoma, 24}}),
+    platform::row<&Prova::Bloccata>(
+        {1000, 3000, 3000, 900},
+        {.caption = "fermo", .border = true, .locked = true, .picture = "matita"}),
     platform::row<&Prova::Bottone>({1000, 5000, 3000, 900}, {.caption = "vai"}),
 });
 inline constexpr std::array<std::span<const platform::Row>, 1> kTavole{kRighe};
