@@ -1,8 +1,6 @@
 #include "tools/manuale/scene.h"
 
 #include <QApplication>
-#include <QFocusEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <array>
@@ -66,15 +64,6 @@ QImage TempoScansione(Banco& banco) {
   return intero.copy(0, altezza / 4, intero.width(), altezza / 2);
 }
 
-// The caret blinks; in a picture it is taken for a stroke, so the pictures are those of a moment
-// without it. The box keeps the focus, and its ring.
-void SpegniCursore() {
-  QWidget* casella = QApplication::focusWidget();
-  if (qobject_cast<QLineEdit*>(casella) == nullptr) return;
-  QFocusEvent via(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-  QCoreApplication::sendEvent(casella, &via);
-}
-
 // The whole window, once the program has been brought to the moment.
 template <auto prepara>
 QImage Ritrai(Banco& banco) {
@@ -133,7 +122,6 @@ std::span<const Scena> Scene() {
 
 QImage Ritratto(Banco& banco) {
   QWidget& finestra = banco.ambiente->fondo.window();
-  SpegniCursore();
   QPixmap insieme = finestra.grab();
   QPainter pennello(&insieme);
   for (QWidget* sopra : QApplication::topLevelWidgets()) {
