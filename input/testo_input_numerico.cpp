@@ -5,6 +5,7 @@
 
 #include "app/shared/stringhe_condivise.h"
 #include "platform/base/numbers.h"
+#include "platform/forms/accessible_events.h"
 #include "platform/forms/keys/key_codes.h"
 #include "platform/forms/rgb_number.h"
 
@@ -78,6 +79,8 @@ void TestoInputNumerico::TerminaInserimento() {
   TestoOutput.setText(
       platform::trimBlanks(platform::formatPicture(ValoreInserito.toDouble(), formato)));
   TestoFormattato = TestoOutput.text();
+  // After a wrong answer the box is back when the host returns.
+  const platform::ComingsToldTogether insieme;
   Mostra(TestoOutput, TestoInput);
   if (confermato_) confermato_();
 }

@@ -22,8 +22,16 @@ void passToDesktop(QAccessibleEvent& event) {
   QAccessible::installUpdateHandler(hearAccessibleEvent);
 }
 
+// What comes or goes, and whether it was there before.
+struct Coming {
+  QPointer<QWidget> widget;
+  bool wasThere;
+};
+
 struct Held {
   std::function<void(QAccessibleEvent&)> pass;
+  int together = 0;  // how many ComingsToldTogether live
+  std::vector<Coming> comings;
   QPointer<QWidget> focus;  // has come to the focus since this event began; null for none
   // Enabled or disabled while they were hidden, and not told.
   std::vector<QPointer<QWidget>> changedUnseen;
@@ -83,11 +91,21 @@ void tellUnseen(QWidget& widget) {
   held().pass(event);
 }
 
-// Where only the program writes, the cursor goes along with the text, which is told.
-bool isIdleCursor(const QWidget& widget, const QAccessibleEvent& event) {
-  const auto* box = qobject_cast<const QLineEdit*>(&widget);
-  return event.type() == QAccessible::TextCaretMoved && box != nullptr && box->isReadOnly() &&
-         !box->hasFocus();
+// Whether a box holds another text than when this was asked last; kept by the box itself.
+bool isWrittenAnew(QLineEdit& box) {
+  constexpr const char* kText = "accessibleText";
+  if (box.property(kText).toString() == box.text()) return false;
+  box.setProperty(kText, box.text());
+  return true;
+}
+
+// Where only the program writes, the cursor goes along with the text, which is told: the toolkit
+// moves it first. One that was moved alone is told where the box has the keyboard.
+bool isIdleCursor(QWidget& widget, const QAccessibleEvent& event) {
+  auto* box = qobject_cast<QLineEdit*>(&widget);
+  if (box == nullptr || !box->isReadOnly() || !isAboutText(event.type())) return false;
+  const bool anew = isWrittenAnew(*box);
+  return event.type() == QAccessible::TextCaretMoved && (anew || !box->hasFocus());
 }
 
 // What is never there for whoever listens neither comes nor goes.
@@ -108,7 +126,35 @@ bool keepUnseen(QWidget& widget, QAccessibleEvent& event) {
   return true;
 }
 
+// True for a coming or going that is told later.
+bool keepComing(QWidget& widget, QAccessible::Event type) {
+  const bool comes = type == QAccessible::ObjectShow;
+  if (held().together == 0 || (!comes && type != QAccessible::ObjectHide)) return false;
+  std::vector<Coming>& comings = held().comings;
+  const auto known = [&widget](const Coming& coming) { return coming.widget == &widget; };
+  if (std::ranges::none_of(comings, known)) comings.push_back({&widget, !comes});
+  return true;
+}
+
+void tellComing(QWidget& widget) {
+  const bool comes = widget.isVisible();
+  QAccessibleEvent event(&widget, comes ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+  held().pass(event);
+  if (comes) tellUnseen(widget);
+}
+
 }  // namespace
+
+ComingsToldTogether::ComingsToldTogether() {
+  ++held().together;
+}
+
+ComingsToldTogether::~ComingsToldTogether() {
+  if (--held().together > 0) return;
+  for (const Coming& coming : std::exchange(held().comings, {})) {
+    if (coming.widget && coming.widget->isVisible() != coming.wasThere) tellComing(*coming.widget);
+  }
+}
 
 void hearAccessibleEvent(QAccessibleEvent* event) {
   auto* widget = qobject_cast<QWidget*>(event->object());
@@ -121,7 +167,7 @@ void hearAccessibleEvent(QAccessibleEvent* event) {
     }
   }
   if (whole && (isIdleCursor(*widget, *event) || isOfSilent(*widget, *event) ||
-                keepUnseen(*widget, *event))) {
+                keepUnseen(*widget, *event) || keepComing(*widget, event->type()))) {
     return;
   }
   held().pass(*event);

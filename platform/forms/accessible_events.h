@@ -16,4 +16,15 @@ void installAccessibleEvents(std::function<void(QAccessibleEvent& event)> pass =
 // What becomes of an event; the toolkit calls it once somebody listens.
 void hearAccessibleEvent(QAccessibleEvent* event);
 
+// While one lives, what comes and goes tells it when the last one ends, and what has come and gone
+// again, or gone and come, does not tell it at all: for boxes that take each other's place while an
+// answer is judged.
+class ComingsToldTogether {
+ public:
+  ComingsToldTogether();
+  ~ComingsToldTogether();
+  ComingsToldTogether(const ComingsToldTogether&) = delete;
+  ComingsToldTogether& operator=(const ComingsToldTogether&) = delete;
+};
+
 }  // namespace platform

@@ -18,15 +18,18 @@ constexpr int kAnnuncio = 2;
 
 }  // namespace
 
-// What assistive technology is told at a right answer, beside the words.
+Q_DECLARE_METATYPE(prova::Risposta)
+
+// What assistive technology is told at an answer, beside the words.
 class EventiAlVerdettoTest : public QObject {
   Q_OBJECT
 
-  // The pictures as they are after a wrong answer: a right one then changes both.
-  static void dopoUnoSbaglio(platform::Form& forma) {
+  // The pictures as they are after the other verdict: this one then changes both.
+  static void dopoUnAltra(platform::Form& forma, prova::Risposta quale) {
+    const bool giusta = quale == prova::Risposta::Giusta;
     for (platform::Control* controllo : forma.controls()) {
-      if (controllo->name() == QStringLiteral("ImgSi")) controllo->setVisible(false);
-      if (controllo->name() == QStringLiteral("ImgNo")) controllo->setVisible(true);
+      if (controllo->name() == QStringLiteral("ImgSi")) controllo->setVisible(!giusta);
+      if (controllo->name() == QStringLiteral("ImgNo")) controllo->setVisible(giusta);
     }
     QCoreApplication::processEvents();
   }
@@ -34,23 +37,26 @@ class EventiAlVerdettoTest : public QObject {
  private Q_SLOTS:
   void init() { platform::installAccessibility(); }
 
-  void aRightAnswerMakesFewEvents_data() {
+  void anAnswerMakesFewEvents_data() {
     QTest::addColumn<QByteArray>("nome");
+    QTest::addColumn<prova::Risposta>("quale");
     int forme = 0;
     for (const somme::SchedaForma& scheda : somme::LeForme()) {
       if (scheda.genere != somme::Genere::Esercizio) continue;
       const QByteArray nome(scheda.nome.data(), qsizetype(scheda.nome.size()));
-      QTest::newRow(nome.constData()) << nome;
+      QTest::newRow(nome.constData()) << nome << prova::Risposta::Giusta;
+      QTest::newRow((nome + ", wrong").constData()) << nome << prova::Risposta::Sbagliata;
       ++forme;
     }
     QCOMPARE(forme, 23);
   }
-  void aRightAnswerMakesFewEvents() {
+  void anAnswerMakesFewEvents() {
     QFETCH(QByteArray, nome);
+    QFETCH(prova::Risposta, quale);
     DesktopDiProva desktop;
     Banco banco;
-    const auto ultimo = prova::FinoAllUltimoGesto(banco, nome.toStdString());
-    dopoUnoSbaglio(*banco.ambiente->fondo.forms().current());
+    const auto ultimo = prova::FinoAllUltimoGesto(banco, nome.toStdString(), quale);
+    dopoUnAltra(*banco.ambiente->fondo.forms().current(), quale);
     (void)desktop.nuovi();
     (void)banco.annunci.nuovi();
     // Where boards are joined first, that takes its time, and has been told before the verdict.
@@ -60,7 +66,9 @@ class EventiAlVerdettoTest : public QObject {
     });
     ultimo();
     QCoreApplication::processEvents();
-    QVERIFY(banco.annunci.nuovi().contains(QStringLiteral("Giusto. Esatti 1")));
+    QVERIFY(banco.annunci.nuovi().contains(
+        quale == prova::Risposta::Giusta ? QStringLiteral("Giusto. Esatti 1")
+                                         : QStringLiteral("Sbagliato: prova ancora. Errati 1")));
     std::vector<prova::Udito> uditi = desktop.nuovi();
     // The board that shows both addends together comes with the verdict, and is none.
     std::erase_if(uditi, [](const prova::Udito& udito) {

@@ -54,8 +54,10 @@ class Mano {
     apri();
   }
 
-  std::function<void()> risponde() {
-    const QString numero = QString::number(risposta());
+  std::function<void()> risponde(Risposta quale) {
+    giusta_ = quale == Risposta::Giusta;
+    const int vera = risposta();
+    const QString numero = QString::number(giusta_ ? vera : vera > 0 ? vera - 1 : vera + 1);
     switch (scheda_.modo) {
       case Modo::Scansione:
         return scandendo(numero);
@@ -167,12 +169,15 @@ class Mano {
 
   std::function<void()> toccando(const QString& numero) {
     const auto tocca = [this](const Genere& genere) { prova::tocca(banco_, genere.sulFoglio); };
+    const int errore = giusta_ ? 0 : 1;
     if (suiBlocchi()) {
-      metti(addendi()[0], tocca);
-      prova::tocca(banco_, Tasto::Conferma);
-      metti(addendi()[1], tocca);
+      metti(addendi()[0] - errore, tocca);
+      if (giusta_) {
+        prova::tocca(banco_, Tasto::Conferma);
+        metti(addendi()[1], tocca);
+      }
     } else if (HaTavole(scheda_)) {
-      metti(addendi()[0] + addendi()[1], tocca);
+      metti(addendi()[0] + addendi()[1] - errore, tocca);
     } else {
       toccaNumero(banco_, numero);
     }
@@ -181,13 +186,14 @@ class Mano {
 
   Banco& banco_;
   SchedaForma scheda_;
+  bool giusta_ = true;
 };
 
 }  // namespace
 
-std::function<void()> FinoAllUltimoGesto(Banco& banco, std::string_view nome) {
+std::function<void()> FinoAllUltimoGesto(Banco& banco, std::string_view nome, Risposta quale) {
   const auto mano = std::make_shared<Mano>(banco, nome);
-  const std::function<void()> ultimo = mano->risponde();
+  const std::function<void()> ultimo = mano->risponde(quale);
   return [mano, ultimo] { ultimo(); };
 }
 

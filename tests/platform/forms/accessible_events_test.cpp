@@ -105,6 +105,29 @@ class AccessibleEventsTest : public QObject {
     QCOMPARE(count(&locked, QAccessible::TextCaretMoved), 1);
   }
 
+  void inALockedBoxWithTheKeyboardTheCursorIsToldThatMovedWithoutTheText() {
+    QWidget window;
+    QLineEdit locked(&window);
+    locked.setReadOnly(true);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    locked.setFocus();
+    for (const auto* text : {"3", "4"}) {
+      told_.clear();
+      locked.setText(QString::fromLatin1(text));
+      isWrittenInto(locked);
+      QCOMPARE(told_, (Told{{&locked, QAccessible::ValueChanged}}));
+      happens(locked, QAccessible::TextCaretMoved);
+      QCOMPARE(count(&locked, QAccessible::TextCaretMoved), 1);
+    }
+    // Also after a text that left the cursor where it was.
+    locked.setText(QStringLiteral("5"));
+    happens(locked, QAccessible::ValueChanged);
+    happens(locked, QAccessible::TextCaretMoved);
+    QCOMPARE(count(&locked, QAccessible::TextCaretMoved), 2);
+  }
+
   void ofASilentLabelNothingIsToldAndOfAnotherItsComingAndGoing() {
     platform::LabelWidget label(nullptr, platform::Align::Left, false, false);
     for (const auto comesOrGoes : {QAccessible::ObjectShow, QAccessible::ObjectHide}) {
@@ -115,6 +138,33 @@ class AccessibleEventsTest : public QObject {
       happens(label, comesOrGoes);
       QCOMPARE(count(&label, comesOrGoes), 1);
     }
+  }
+
+  void whatComesAndGoesTogetherTellsWhatCameOfIt() {
+    QWidget window;
+    QLineEdit comes(&window);
+    QLineEdit goes(&window);
+    QLineEdit returns(&window);
+    comes.hide();
+    window.show();
+    {
+      const platform::ComingsToldTogether outer;
+      {
+        const platform::ComingsToldTogether inner;
+        goes.hide();
+        happens(goes, QAccessible::ObjectHide);
+        returns.hide();
+        happens(returns, QAccessible::ObjectHide);
+        comes.show();
+        happens(comes, QAccessible::ObjectShow);
+      }
+      returns.show();
+      happens(returns, QAccessible::ObjectShow);
+      QVERIFY(told_.empty());
+    }
+    QCOMPARE(told_, (Told{{&goes, QAccessible::ObjectHide}, {&comes, QAccessible::ObjectShow}}));
+    happens(returns, QAccessible::ObjectHide);
+    QCOMPARE(count(&returns, QAccessible::ObjectHide), 1);
   }
 
   void whatWasDisabledWhileItWasHiddenTellsItWhenItComes() {
