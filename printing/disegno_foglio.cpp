@@ -63,11 +63,12 @@ Row RigaTasto(const TastoPosato& tasto, const TwipsRect& cornice) {
       break;
   }
   const auto quale = static_cast<std::size_t>(tasto.controllo - 1);
-  return {kNomiDisegni.at(quale),
-          -1,
-          kAccessi.at(quale),
-          cornice,
-          {.toolTip = segno.nome, .picture = segno.disegno}};
+  return {
+      kNomiDisegni.at(quale),
+      -1,
+      kAccessi.at(quale),
+      cornice,
+      {.toolTip = segno.nome, .picture = tasto.disegno.empty() ? segno.disegno : tasto.disegno}};
 }
 
 std::vector<Row> Righe(const FoglioTasti& foglio, int bordo) {

@@ -41,8 +41,8 @@ constexpr bool SiEscludono(const TastoPosato& uno, const TastoPosato& altro) {
 }
 constexpr bool SiTengono(std::span<const TastoPosato> tasti) {
   for (std::size_t i = 0; i < tasti.size(); ++i) {
-    const auto& [tasto, controllo] = tasti[i];
-    if (ECifra(tasto) && controllo != CifraDi(tasto)) return false;
+    const TastoPosato& uno = tasti[i];
+    if (ECifra(uno.tasto) && uno.controllo != CifraDi(uno.tasto)) return false;
     for (std::size_t k = i + 1; k < tasti.size(); ++k) {
       if (!SiEscludono(tasti[i], tasti[k])) return false;
     }

@@ -44,6 +44,9 @@ struct TastoPosato {
   // The number of what shows it on paper, as language files name it: 4 is "Image4" for a drawing,
   // "Label1(4)" for a digit, "Label3(4)" for another word.
   int controllo = 0;
+  // Its drawing on this keyboard, where that is not the key's own: what is exchanged looks like
+  // what the pupil has before him.
+  std::string_view disegno = {};
 };
 
 // A kind of keyboard. Its places are the crossings of the lines of keys, and count from 1, left to
@@ -126,7 +129,8 @@ inline constexpr TastoPosato kTastiBlocchi[] = {
 };
 inline constexpr TastoPosato kTastiAbaco[] = {
     {Tasto::Migliaia, 0}, {Tasto::Centinaia, 1}, {Tasto::Decine, 2},    {Tasto::Unita, 3},
-    {},                   {Tasto::CambioHK, 6},  {Tasto::CambioDaH, 5}, {Tasto::CambioUDa, 4},
+    {},
+    {Tasto::CambioHK, 6}, {Tasto::CambioDaH, 5, "palline_da_h"}, {Tasto::CambioUDa, 4, "palline_u_da"},
     {},                   {Tasto::Cestino, 1},   {Tasto::Conferma, 2},  {Tasto::Avanti, 3},
 };
 // clang-format on

@@ -68,7 +68,7 @@ inline constexpr SegnoTasto kSegni[] = {
     {Tasto::Centinaia, "h"},
     {Tasto::Decine, "da"},
     {Tasto::Unita, "u"},
-    {Tasto::CambioHK, "h → k", "cambio_h_k", "Cambio: dieci centinaia, un migliaio"},
+    {Tasto::CambioHK, "h → k", "palline_h_k", "Cambio: dieci centinaia, un migliaio"},
     {Tasto::CambioDaH, "da → h", "cambio_da_h", "Cambio: dieci decine, un centinaio"},
     {Tasto::CambioUDa, "u → da", "cambio_u_da", "Cambio: dieci unità, una decina"},
     {Tasto::Cestino, "cestino", "cestino", "Cestino"},

@@ -67,6 +67,7 @@ FormaAbacoHK::FormaAbacoHK(Ambiente& ambiente)
 
 void FormaAbacoHK::onLoad() {
   FormaAbaco::onLoad();
+  ShockwaveFlash1.ignoreMouse();
   PulsanteAvanti.setVisible(true);
 }
 

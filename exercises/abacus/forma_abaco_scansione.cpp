@@ -44,6 +44,7 @@ FormaAbacoScansione::FormaAbacoScansione(Ambiente& ambiente)
 
 void FormaAbacoScansione::onLoad() {
   FormaAbaco::onLoad();
+  ShockwaveFlash1.ignoreMouse();
   TestoInput.setVisible(false);
 }
 

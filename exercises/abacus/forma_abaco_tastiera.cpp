@@ -15,13 +15,13 @@ using namespace disegno;
 
 namespace {
 
-constexpr Row Freccia(Row riga, std::string_view scritta, std::string_view dice) {
-  riga.look = {.caption = scritta,
-               .toolTip = dice,
+// Without words of its own: its picture takes all of it.
+constexpr Row Freccia(Row riga, std::string_view disegno, std::string_view dice) {
+  riga.look = {.toolTip = dice,
                .font = {Face::Tahoma, 9},
                .hidden = true,
                .disabled = true,
-               .picture = "freccia_cambio"};
+               .picture = disegno};
   return riga;
 }
 
@@ -29,11 +29,11 @@ constexpr auto kControlli = std::to_array<Row>({
     Ancora({120, 120, 7815, 5415}),
     Abaco({120, 120, 7815, 5415}),
     Operazione({120, 6720, 4815, 735}),
-    Freccia(row<&FormaAbacoTastiera::PulsanteCambioHK>({960, 5760, 1815, 735}), "10 h = 1 k",
+    Freccia(row<&FormaAbacoTastiera::PulsanteCambioHK>({960, 5760, 1815, 735}), "palline_h_k",
             "Cambia 10 centinaia con 1 migliaio"),
-    Freccia(row<&FormaAbacoTastiera::PulsanteCambioDaH>({3240, 5760, 1815, 735}), "10 da = 1 h",
+    Freccia(row<&FormaAbacoTastiera::PulsanteCambioDaH>({3240, 5760, 1815, 735}), "palline_da_h",
             "Cambia 10 decine con 1 centinaio"),
-    Freccia(row<&FormaAbacoTastiera::PulsanteCambioUDa>({5520, 5760, 1815, 735}), "10 u = 1 da",
+    Freccia(row<&FormaAbacoTastiera::PulsanteCambioUDa>({5520, 5760, 1815, 735}), "palline_u_da",
             "Cambia 10 unità con 1 decina"),
     // Behind the arrows: a carry disables its arrow and leaves the focus to the box.
     row<&FormaAbacoTastiera::TestoInput>(

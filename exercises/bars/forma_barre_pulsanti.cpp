@@ -90,7 +90,10 @@ void FormaBarrePulsanti::Chiedi(const DomandaBarre& domanda) {
 void FormaBarrePulsanti::Rispondi(int numero) {
   switch (partita().Scegli(numero)) {
     case Esito::Sbagliato:
-      SegnaSbagliato([this, numero] { PulsanteNumero[numero].setEnabled(false); });
+      SegnaSbagliato([this, numero] {
+        PulsanteNumero[numero].setEnabled(false);
+        PulsanteNumero[numero].markAnswer(platform::AnswerMark::Wrong);
+      });
       break;
     case Esito::Risolto:
       RispostaGiusta(numero);
@@ -105,6 +108,7 @@ void FormaBarrePulsanti::RispostaGiusta(int numero) {
   for (int i = 0; i <= stato().LimiteEsercizio; ++i) {
     if (i != numero) PulsanteNumero[i].setBackColor(kGrigio);
   }
+  PulsanteNumero[numero].markAnswer(platform::AnswerMark::Right);
   numeri_.setEnabled(stato().LimiteEsercizio + 1, false);
   PulsanteAvanti.setFocus();
 }

@@ -50,22 +50,30 @@ constexpr Row RisultatoEntro999(std::string_view aiuto) {
   return Risultato<F>(5160, 3, aiuto);
 }
 
-constexpr Look Cambio(std::string_view aiuto, std::string_view disegno) {
-  return {.toolTip = aiuto, .hidden = true, .picture = disegno};
+// sfondo: none for a plain button.
+constexpr Look Cambio(std::string_view aiuto, std::string_view disegno, std::optional<Rgb> sfondo) {
+  return {.toolTip = aiuto, .back = sfondo, .hidden = true, .picture = disegno};
 }
 
 // The buttons of the carries, all in one place: no two are shown together.
-inline constexpr auto kCambioEntro99 = std::to_array<Row>({
-    row<&FormaBlocchi::PulsanteCambio>({4560, 5520, 2055, 975},
-                                       Cambio("Cambia dieci unità in una decina", "cambio_u_da")),
-});
-inline constexpr TwipsRect kPostoCambio{4680, 5520, 2055, 975};
-inline constexpr auto kCambiEntro999 = std::to_array<Row>({
-    row<&FormaBlocchi::PulsanteCambioUDa>(
-        kPostoCambio, Cambio("Cambia dieci unità in una decina", "cambio_u_da")),
-    row<&FormaBlocchi::PulsanteCambioDaH>(
-        kPostoCambio, Cambio("Cambia dieci decine in un centinaio", "cambio_da_h")),
-});
+constexpr auto CambioEntro99(std::optional<Rgb> sfondo = {}) {
+  return std::to_array<Row>({
+      row<&FormaBlocchi::PulsanteCambio>(
+          {4560, 5520, 2055, 975},
+          Cambio("Cambia dieci unità in una decina", "cambio_u_da", sfondo)),
+  });
+}
+constexpr auto CambiEntro999(std::optional<Rgb> sfondo = {}) {
+  constexpr TwipsRect kPosto{4680, 5520, 2055, 975};
+  return std::to_array<Row>({
+      row<&FormaBlocchi::PulsanteCambioUDa>(
+          kPosto, Cambio("Cambia dieci unità in una decina", "cambio_u_da", sfondo)),
+      row<&FormaBlocchi::PulsanteCambioDaH>(
+          kPosto, Cambio("Cambia dieci decine in un centinaio", "cambio_da_h", sfondo)),
+  });
+}
+inline constexpr auto kCambioEntro99 = CambioEntro99();
+inline constexpr auto kCambiEntro999 = CambiEntro999();
 
 // Verdict, print panel.
 inline constexpr auto kSottoBlocchi = std::to_array<Row>({

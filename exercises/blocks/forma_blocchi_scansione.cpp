@@ -26,6 +26,10 @@ constexpr auto kRisultato999 = std::to_array<Row>({
     RisultatoEntro999<FormaBlocchiScansione>(kAiuto),
 });
 
+// What the switch presses is lit as a key of the keyboards is.
+constexpr auto kCambio99 = CambioEntro99(kRosso);
+constexpr auto kCambi999 = CambiEntro999(kRosso);
+
 // The counters stand right of the keyboard of digits, where other forms have the way on.
 constexpr auto kCifre = std::to_array<Row>({
     row<&FormaBlocchiScansione::LabelDimensioneTastiera>(kPostoHDU, {.hidden = true}),
@@ -36,9 +40,9 @@ constexpr auto kCifre = std::to_array<Row>({
 });
 
 constexpr std::array<std::span<const Row>, 7> kTavole99{
-    kTavoleBlocchi, kValori99, kCambioEntro99, kRisultato99, kCifre, kSottoBlocchi, kMenuBlocchi};
+    kTavoleBlocchi, kValori99, kCambio99, kRisultato99, kCifre, kSottoBlocchi, kMenuBlocchi};
 constexpr std::array<std::span<const Row>, 7> kTavole999{
-    kTavoleBlocchi, kValori999, kCambiEntro999, kRisultato999, kCifre, kSottoBlocchi, kMenuBlocchi};
+    kTavoleBlocchi, kValori999, kCambi999, kRisultato999, kCifre, kSottoBlocchi, kMenuBlocchi};
 
 }  // namespace
 
@@ -71,6 +75,7 @@ void FormaBlocchiScansione::TogliComandi() {
 }
 
 void FormaBlocchiScansione::MostraCambio(platform::Button& pulsante) {
+  pulsante.ringAsScanned();
   pulsante.setVisible(true);
   pulsante.setFocus();
 }

@@ -65,6 +65,22 @@ constexpr FormDesign kDisegno{.name = forme::kFormTabella,
                               .back = kRosaPallido,
                               .tables = kTavole};
 
+// The corner of the table that a cell is; none for the others.
+std::optional<Qt::Corner> AngoloDi(int cella) {
+  switch (cella) {
+    case 0:
+      return Qt::TopLeftCorner;
+    case kPerRiga - 1:
+      return Qt::TopRightCorner;
+    case kCelle - kPerRiga:
+      return Qt::BottomLeftCorner;
+    case kCelle - 1:
+      return Qt::BottomRightCorner;
+    default:
+      return std::nullopt;
+  }
+}
+
 }  // namespace
 
 FormTabella::FormTabella(Ambiente& ambiente) : FormaEsercizio(ambiente, kDisegno) {
@@ -87,7 +103,10 @@ FormTabella::FormTabella(Ambiente& ambiente) : FormaEsercizio(ambiente, kDisegno
 // The pointer is set whatever `CursoreDiSistema` says. There is one picture of the program's own
 // pointer, so that no cell needs to be handed another control's.
 void FormTabella::onLoad() {
-  Numero.forEach([this](platform::Button& cella) { celle_.add(cella); });
+  Numero.forEach([this](platform::Button& cella) {
+    cella.makeCell(AngoloDi(cella.index()));
+    celle_.add(cella);
+  });
   ApplicaLingua(ambiente(), *this);
   EssResizer1.start();
   ImpostaCursoreSistema();
@@ -156,6 +175,7 @@ void FormTabella::Rispondi(int numero) {
   SegnaSbagliato([this, numero] {
     Numero[numero].setBackColor(kRosso);
     Numero[numero].setEnabled(false);
+    Numero[numero].markAnswer(platform::AnswerMark::Wrong);
   });
 }
 
@@ -166,6 +186,7 @@ void FormTabella::RispostaGiusta(int numero) {
   MostraAvanti();
   AggiungiRiga(EtichettaNumero.caption() + platform::leadingBlank(numero));
   Numero[numero].setBackColor(kVerde);
+  Numero[numero].markAnswer(platform::AnswerMark::Right);
   celle_.setEnabled(kCelle, false);
   PulsanteAvanti.setFocus();
 }

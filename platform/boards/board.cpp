@@ -40,6 +40,10 @@ void Board::offerClips(const std::vector<Offered>& clips) {
   if (widget() != nullptr) viewOf(widget()).offerClips(std::move(offered));
 }
 
+void Board::ignoreMouse() {
+  if (widget() != nullptr) viewOf(widget()).ignoreMouse();
+}
+
 void Board::applyLook() {
   if (widget()->accessibleName() != toolTip()) widget()->setAccessibleName(toolTip());
 }

@@ -24,6 +24,10 @@ class Board : public Control {
     command_ = std::move(handler);
   }
 
+  // From here on the movie does not feel the mouse: a hand, or a bead that sinks, would promise
+  // what the form does not do.
+  void ignoreMouse();
+
   // Loads the movie anew, also the one that is loaded already; a missing or broken file gives an
   // empty board. Until the running handler has ended the board is not painted, so that what the
   // form hides in it is never seen.

@@ -245,6 +245,7 @@ QTransform MovieView::stageToWidget() const {
 
 // Nothing beside the stage.
 std::optional<QPointF> MovieView::stagePixel(QPointF position) const {
+  if (ignoresMouse_) return std::nullopt;
   bool possible = false;
   const QPointF point = stageToWidget().inverted(&possible).map(position);
   const QRectF stage = player_->movie().stage;

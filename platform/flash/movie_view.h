@@ -48,6 +48,9 @@ class MovieView final : public QWidget {
   // Lets the main timeline run on.
   void play();
 
+  // From here on no movie feels the mouse: nothing on it looks as if it could be pressed.
+  void ignoreMouse() { ignoresMouse_ = true; }
+
   // The frame of the main timeline, from 1; 0 without a movie.
   [[nodiscard]] int currentFrame() const;
   // What setClipProperty sets, as it stands now; empty for what does not exist.
@@ -92,6 +95,7 @@ class MovieView final : public QWidget {
  private:
   // From twips of the stage to this widget's own pixels.
   [[nodiscard]] QTransform stageToWidget() const;
+  // What the movie feels the mouse at; none beside the stage.
   [[nodiscard]] std::optional<QPointF> stagePixel(QPointF position) const;
   void startPlayer(const QString& path);
   void post(const QString& command, const QString& args);
@@ -122,6 +126,7 @@ class MovieView final : public QWidget {
   bool refreshPosted_ = false;
   std::vector<OfferedClip> offered_;
   std::optional<QPointF> mouse_;
+  bool ignoresMouse_ = false;
   // The owner's cursor, while the hand is shown; without a value inside: none of its own.
   bool handShown_ = false;
   std::optional<QCursor> ownersCursor_;

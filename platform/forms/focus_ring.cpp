@@ -32,9 +32,9 @@ double markScale(const QWidget& widget) {
   return std::max(1.0, widget.window()->height() / kUsualHeight);
 }
 
-void paintFocusRing(QPainter& painter, const QWidget& control, double corner) {
+void paintFocusRing(QPainter& painter, const QWidget& control, double corner, double inset) {
   if (withoutRings > 0) return;
-  const QRectF area = control.rect();
+  const QRectF area = QRectF(control.rect()).adjusted(inset, inset, -inset, -inset);
   const double dark = kDarkWidth * markScale(control);
   const double light = kLightWidth * markScale(control);
   painter.setBrush(Qt::NoBrush);

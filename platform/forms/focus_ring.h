@@ -14,7 +14,8 @@ inline constexpr double kFocusRingWidth = 5;
 
 // The mark of the control that has the focus: a light ring inside a dark one, which stands out on
 // a ground of any colour. corner: the radius of the outer corners, in pixels; 0 for square ones.
-void paintFocusRing(QPainter& painter, const QWidget& control, double corner);
+// inset: how far inside of the control it lies, in pixels.
+void paintFocusRing(QPainter& painter, const QWidget& control, double corner, double inset = 0);
 
 // While one lives, no control shows a focus ring: for a picture of a form that is to be printed.
 class WithoutFocusRings {

@@ -123,8 +123,7 @@ class ImmaginiTest : public QObject {
             .split(u' '),
         QStringLiteral("menu_barre menu_tabella menu_blocchi menu_numeri menu_abaco esci icona")
             .split(u' '),
-        QStringLiteral("cambio_u_da cambio_da_h cambio_h_k freccia_cambio avanti cestino conferma")
-            .split(u' ')};
+        QStringLiteral("cambio_u_da cambio_da_h palline_h_k avanti cestino conferma").split(u' ')};
     QTest::addColumn<QString>("prima");
     QTest::addColumn<QString>("seconda");
     for (const QStringList& insieme : insiemi) {
@@ -151,12 +150,31 @@ class ImmaginiTest : public QObject {
 
   void thePicturesThatTheFormsNameAreThere_data() {
     QTest::addColumn<QString>("nome");
-    for (const char* nome : {"si",          "no",           "aiuto",          "avanti",
-                             "conferma",    "cestino",      "stampante",      "chiudi",
-                             "icona",       "puntatore",    "avvio_sinistra", "avvio_destra",
-                             "menu_barre",  "menu_tabella", "menu_blocchi",   "menu_numeri",
-                             "menu_abaco",  "esci",         "indietro",       "cambio_u_da",
-                             "cambio_da_h", "cambio_h_k",   "freccia_cambio", "stampante_grande",
+    for (const char* nome : {"si",
+                             "no",
+                             "aiuto",
+                             "avanti",
+                             "conferma",
+                             "cestino",
+                             "stampante",
+                             "chiudi",
+                             "icona",
+                             "puntatore",
+                             "avvio_sinistra",
+                             "avvio_destra",
+                             "menu_barre",
+                             "menu_tabella",
+                             "menu_blocchi",
+                             "menu_numeri",
+                             "menu_abaco",
+                             "esci",
+                             "indietro",
+                             "cambio_u_da",
+                             "cambio_da_h",
+                             "palline_u_da",
+                             "palline_da_h",
+                             "palline_h_k",
+                             "stampante_grande",
                              "matita"}) {
       QTest::newRow(nome) << QString::fromLatin1(nome);
     }

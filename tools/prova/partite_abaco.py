@@ -47,7 +47,7 @@ def abaco(giocatore):
     for i in range(10):
         _tocca_pallina(giocatore, 459 + 32 * (i // 5), 303 - 30 * (i % 5))
         _sull_abaco(giocatore, "1 unità" if i == 0 else f"{i + 1} unità")
-    giocatore.premi("10 u = 1 da")
+    giocatore.premi("Cambia 10 unità con 1 decina")
     _sull_abaco(giocatore, "1 decina")
     giocatore.fotografa("cambio")
     _tocca_pallina(giocatore, 288, 303)  # the lowest bead of the tens
@@ -64,7 +64,7 @@ def abaco_senza_mouse(giocatore):
     risposta = trova(giocatore.chiesta())
     if giocatore.preme_ogni_cosa:
         _premi_palline(giocatore, "1 unità da mettere", 10, lambda n: f"{n} unità")
-        giocatore.premi("10 u = 1 da")
+        giocatore.premi("Cambia 10 unità con 1 decina")
         _sull_abaco(giocatore, "1 decina")
         _premi_palline(giocatore, "1 decina da togliere", 1, lambda _: "vuoto")
     _scrivi(giocatore, risposta)

@@ -2,6 +2,7 @@
 
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/caption_size.h"
+#include "platform/forms/controls/ring_widget.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/ground.h"
 
@@ -43,6 +44,20 @@ void Button::shareCaptionSize(CaptionSize& shared) {
 
 void Button::makeForShow() {
   if (widget() != nullptr) widget()->setFocusPolicy(Qt::NoFocus);
+}
+
+void Button::ringAsScanned() {
+  if (widget() == nullptr || ringed_) return;
+  ringed_ = true;
+  (new RingWidget(widget()->parentWidget()))->follow(*widget());
+}
+
+void Button::markAnswer(AnswerMark mark) {
+  if (widget() != nullptr) static_cast<ButtonWidget*>(widget())->setMark(mark);
+}
+
+void Button::makeCell(std::optional<Qt::Corner> corner) {
+  if (widget() != nullptr) static_cast<ButtonWidget*>(widget())->setCell(corner);
 }
 
 QChar Button::accessKey() const {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "platform/forms/control.h"
+#include "platform/forms/controls/answer_mark.h"
 
 namespace platform {
 
@@ -33,6 +35,15 @@ class Button : public Control {
   void shareCaptionSize(CaptionSize& shared);
   // From here on the button only shows something: it never takes the focus and offers no press.
   void makeForShow();
+  // From here on a ring surrounds the button while it has the focus, as it does the lit key of a
+  // scanning keyboard: what a switch would press.
+  void ringAsScanned();
+  // Shows what became of the button as an answer, until it is enabled again. One that was right
+  // stands as before though it is disabled; what one tried in vain says is pale.
+  void markAnswer(AnswerMark mark);
+  // From here on the button is a cell of a table: square and flush with its neighbours, enabled or
+  // not. corner: the corner of the table that it is, which is round; none for the cells between.
+  void makeCell(std::optional<Qt::Corner> corner);
   [[nodiscard]] QChar accessKey() const override;
   void access() override { click(); }
   void keysLetGo() override;
@@ -46,6 +57,7 @@ class Button : public Control {
   QString spokenName_;
   std::function<void()> clicked_;
   CaptionSize* captionSize_ = nullptr;
+  bool ringed_ = false;
 };
 
 }  // namespace platform

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <cmath>
 #include <utility>
 
 #include "platform/forms/accessible.h"
@@ -18,8 +19,10 @@ namespace {
 
 constexpr QColor kPlainFace(238, 240, 244);
 constexpr double kCorner = 6;
-constexpr double kSunk = 0.09;         // of the shorter side, on each
-constexpr double kDisabledInk = 0.45;  // of plain buttons
+constexpr double kSunk = 0.09;           // of the shorter side, on each
+constexpr double kDisabledInk = 0.45;    // of plain buttons
+constexpr double kTriedInk = 0.55;       // of an answer tried in vain
+constexpr double kOverlap = 15.0 / 615;  // of a cell's side, under its neighbours
 
 bool isEnter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -51,6 +54,7 @@ void ButtonWidget::resizeEvent(QResizeEvent* event) {
 
 void ButtonWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::EnabledChange) {
+    if (isEnabled()) mark_ = AnswerMark::None;
     if (StatesToldLater::holds()) {
       stateUntold_ = !stateUntold_;
       letGo();
@@ -66,6 +70,17 @@ void ButtonWidget::changeEvent(QEvent* event) {
 void ButtonWidget::setColours(QColor ink, std::optional<QColor> ground) {
   ink_ = ink;
   ground_ = ground;
+  update();
+}
+
+void ButtonWidget::setMark(AnswerMark mark) {
+  mark_ = mark;
+  update();
+}
+
+void ButtonWidget::setCell(std::optional<Qt::Corner> corner) {
+  cell_ = true;
+  roundCorner_ = corner;
   update();
 }
 
@@ -145,22 +160,67 @@ ButtonWidget::Rooms ButtonWidget::rooms() const {
 }
 
 // A button that can be pressed stands up; one that cannot lies flat and small in its place, which
-// tells it without colour.
+// tells it without colour. A cell keeps its size: a table stays a table.
+QRectF ButtonWidget::body() const {
+  const double sunk = stands() || cell_ ? 0 : std::min(width(), height()) * kSunk;
+  const double edge = 0.5 + sunk;
+  return QRectF(rect()).adjusted(edge, edge, -edge, -edge);
+}
+
+QPainterPath ButtonWidget::outlineOf(const QRectF& body, double corner) const {
+  QPainterPath path;
+  if (cell_ && !roundCorner_) {
+    path.addRect(body);
+    return path;
+  }
+  path.addRoundedRect(body, corner, corner);
+  if (!cell_) return path;
+  // All corners are filled up but the table's own.
+  QPainterPath square;
+  const double w = body.width() / 2;
+  const double h = body.height() / 2;
+  const auto fill = [&](Qt::Corner which, double x, double y) {
+    if (roundCorner_ != which) square.addRect({body.left() + x, body.top() + y, w, h});
+  };
+  fill(Qt::TopLeftCorner, 0, 0);
+  fill(Qt::TopRightCorner, w, 0);
+  fill(Qt::BottomLeftCorner, 0, h);
+  fill(Qt::BottomRightCorner, w, h);
+  return path.united(square).simplified();
+}
+
 void ButtonWidget::paintFace(QPainter& painter, const QColor& face) const {
-  const double sunk = isEnabled() ? 0.5 : 0.5 + std::min(width(), height()) * kSunk;
-  const QRectF body = QRectF(rect()).adjusted(sunk, sunk, -sunk, -sunk);
-  painter.setPen(QPen(isEnabled() ? QColor(70, 70, 70) : QColor(150, 150, 150), 1));
+  const QRectF body = this->body();
+  painter.setPen(QPen(stands() || cell_ ? QColor(70, 70, 70) : QColor(150, 150, 150), 1));
   painter.setBrush(isDown() ? face.darker(118) : face);
-  painter.drawRoundedRect(body, kCorner, kCorner);
-  if (!isEnabled() || isDown()) return;
+  painter.drawPath(outlineOf(body, kCorner));
+  if (!stands() || isDown()) return;
   // A raised edge: light above, shade below.
-  QPainterPath clip;
-  clip.addRoundedRect(body.adjusted(1, 1, -1, -1), kCorner - 1, kCorner - 1);
   painter.save();
-  painter.setClipPath(clip);
+  painter.setClipPath(outlineOf(body.adjusted(1, 1, -1, -1), kCorner - 1));
   painter.fillRect(QRectF(0, 0, width(), 3), QColor(255, 255, 255, 150));
   painter.fillRect(QRectF(0, height() - 4, width(), 4), QColor(0, 0, 0, 55));
   painter.restore();
+}
+
+// Cells lie over one another by a strip; the ring of one stays inside of what all leave it.
+void ButtonWidget::paintFocus(QPainter& painter) const {
+  const double inset = cell_ ? std::ceil(std::max(width(), height()) * kOverlap) + 1 : 0;
+  paintFocusRing(painter, *this, cell_ ? 0 : kCorner, inset);
+}
+
+// What a coloured button says stays readable when the button is spent; pictures fade, and so does
+// all of a plain one.
+void ButtonWidget::paintContent(QPainter& painter, const QColor& face) {
+  const Rooms room = rooms();
+  if (!isEnabled()) painter.setOpacity(kDisabledInk);
+  if (!picture_.isEmpty()) pictures_.paint(painter, picture_, room.picture);
+  if (ground_) painter.setOpacity(mark_ == AnswerMark::Wrong ? kTriedInk : 1);
+  QFont letters = font();
+  letters.setPixelSize(sharedSize(letters.pixelSize()));
+  block_.set(caption_, letters, room.text.size(), Align::Centre, true);
+  block_.paint(painter, room.text, ink_, face);
+  painter.setOpacity(1);
 }
 
 void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
@@ -168,18 +228,9 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QColor face = ground_.value_or(kPlainFace);
   paintFace(painter, face);
-  if (hasFocus()) paintFocusRing(painter, *this, kCorner);
-
-  // What a coloured button says stays readable when the button is spent; pictures fade, and so does
-  // all of a plain one.
-  const Rooms room = rooms();
-  if (!isEnabled()) painter.setOpacity(kDisabledInk);
-  if (!picture_.isEmpty()) pictures_.paint(painter, picture_, room.picture);
-  if (ground_) painter.setOpacity(1);
-  QFont letters = font();
-  letters.setPixelSize(sharedSize(letters.pixelSize()));
-  block_.set(caption_, letters, room.text.size(), Align::Centre, true);
-  block_.paint(painter, room.text, ink_, face);
+  if (hasFocus()) paintFocus(painter);
+  paintContent(painter, face);
+  paintAnswerMark(painter, body(), mark_);
 }
 
 }  // namespace platform

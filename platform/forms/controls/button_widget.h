@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPainterPath>
 #include <QPointer>
 #include <functional>
 #include <optional>
 
+#include "platform/forms/controls/answer_mark.h"
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/text_block.h"
 
@@ -25,6 +27,10 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
   // ground: the colour of the face; without one the button is plain.
   void setColours(QColor ink, std::optional<QColor> ground);
   [[nodiscard]] int fittedCaption() override;
+  // Holds until the button is enabled again.
+  void setMark(AnswerMark mark);
+  // Makes it a cell of a table; corner: of the table, round.
+  void setCell(std::optional<Qt::Corner> corner);
   // What the button belongs to, which assistive technology says before its own words; null for
   // nothing.
   void setHeading(const QWidget* heading) { heading_ = heading; }
@@ -51,7 +57,13 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
     QRect text;
   };
   [[nodiscard]] Rooms rooms() const;
+  // Whether it looks as if it could be pressed.
+  [[nodiscard]] bool stands() const { return isEnabled() || mark_ == AnswerMark::Right; }
+  [[nodiscard]] QRectF body() const;
+  [[nodiscard]] QPainterPath outlineOf(const QRectF& body, double corner) const;
   void paintFace(QPainter& painter, const QColor& face) const;
+  void paintFocus(QPainter& painter) const;
+  void paintContent(QPainter& painter, const QColor& face);
 
   Pictures& pictures_;
   std::function<void()> clicked_;
@@ -59,6 +71,9 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
   QString picture_;
   QColor ink_ = Qt::black;
   std::optional<QColor> ground_;
+  AnswerMark mark_ = AnswerMark::None;
+  bool cell_ = false;
+  std::optional<Qt::Corner> roundCorner_;
   TextBlock block_;
   QPointer<const QWidget> heading_;
   bool stateUntold_ = false;  // assistive technology takes it for enabled, or disabled, wrongly

@@ -1,5 +1,6 @@
 #include "platform/forms/controls/ring_widget.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -41,6 +42,32 @@ void RingWidget::surround(const QRect& area) {
   const int out = reach(side);
   thickness_ = thickness(side);
   setGeometry(area.adjusted(-out, -out, out, out));
+}
+
+void RingWidget::follow(QWidget& sibling) {
+  sibling.installEventFilter(this);
+  QEvent now(QEvent::FocusIn);
+  eventFilter(&sibling, &now);
+}
+
+bool RingWidget::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::FocusIn:
+    case QEvent::FocusOut: {
+      const auto& sibling = *static_cast<const QWidget*>(watched);
+      surround(sibling.geometry());
+      setVisible(sibling.isVisible() && sibling.hasFocus());
+      if (isVisible()) raise();
+      break;
+    }
+    default:
+      break;
+  }
+  return false;
 }
 
 void RingWidget::paintEvent(QPaintEvent* /*event*/) {

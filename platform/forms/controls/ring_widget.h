@@ -17,9 +17,12 @@ class RingWidget final : public QWidget {
   [[nodiscard]] static int reach(int side);
   // Puts the ring round an area of the parent; it reaches into the area, too.
   void surround(const QRect& area);
+  // Puts the ring round a sibling while that has the focus, wherever it goes.
+  void follow(QWidget& sibling);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   int thickness_ = 0;  // of the dark ring, in pixels
