@@ -23,6 +23,14 @@ inline constexpr Rgb kSfondoMenu{255, 255, 192};
 inline constexpr Rgb kInchiostro{24, 33, 59};
 inline constexpr Rgb kFascia{214, 232, 255};
 
+// The tint of each family, on its button in the main menu and on its levels: a child finds the way
+// by it, and can say "the violet one".
+inline constexpr Rgb kTintaBarre{198, 237, 244};
+inline constexpr Rgb kTintaTabella{204, 236, 208};
+inline constexpr Rgb kTintaBlocchi{244, 212, 214};
+inline constexpr Rgb kTintaNumeri{204, 220, 246};
+inline constexpr Rgb kTintaAbaco{225, 213, 245};
+
 constexpr Row Intestazione(double larghezza, std::string_view testo) {
   return row<&FormaMenu::Label1>({240, 120, larghezza, 720}, {.caption = testo,
                                                               .font = {Face::Tahoma, 24, true},
@@ -40,13 +48,14 @@ constexpr Look Fascia(std::string_view testo) {
           .border = true};
 }
 
-constexpr Look VoceLivello(std::string_view testo) {
-  return {.caption = testo, .font = {Face::Tahoma, 11.25}};
+constexpr Look VoceLivello(std::string_view testo, Rgb tinta) {
+  return {.caption = testo, .font = {Face::Tahoma, 11.25}, .back = tinta};
 }
 
 // A level whose button has room for a picture of what it does.
-constexpr Look VoceGrande(std::string_view testo, std::string_view immagine, double punti = 14.25) {
-  return {.caption = testo, .font = {Face::Tahoma, punti}, .picture = immagine};
+constexpr Look VoceGrande(std::string_view testo, Rgb tinta, std::string_view immagine,
+                          double punti = 14.25) {
+  return {.caption = testo, .font = {Face::Tahoma, punti}, .back = tinta, .picture = immagine};
 }
 
 constexpr Look Indietro() {

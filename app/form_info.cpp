@@ -21,6 +21,11 @@ constexpr auto kControlli = std::to_array<Row>({
     row<&FormInfo::Command1>(
         {2310, 4140, 2580, 1155},
         {.caption = "Chiudi", .font = {Face::Tahoma, 14.25}, .picture = "chiudi"}),
+    // The two friends of the first form, beside the way out.
+    row<&FormInfo::Image1>({660, 3840, 1200, 1500},
+                           {.toolTip = "Un amico fatto di blocchi", .picture = "avvio_sinistra"}),
+    row<&FormInfo::Image2>({5340, 3840, 1200, 1500},
+                           {.toolTip = "Un abaco", .picture = "avvio_destra"}),
 });
 
 constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};

@@ -2,6 +2,7 @@
 
 #include "app/shared/forma.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/image.h"
 #include "platform/forms/controls/label.h"
 
 namespace somme {
@@ -15,6 +16,8 @@ class FormInfo final : public Forma {
   platform::Label Label3{*this};
   platform::Label Label4{*this};
   platform::Button Command1{*this};
+  platform::Image Image1{*this};
+  platform::Image Image2{*this};
 
  protected:
   void onLoad() override;

@@ -25,8 +25,9 @@ constexpr auto kScala = std::to_array<StoredProperty>({
     {"LargeChange", std::int16_t{4}},
 });
 
-constexpr Look Voce(std::string_view testo, std::string_view figura) {
-  return {.caption = testo, .font = {Face::Tahoma, 14.25, true}, .picture = figura};
+constexpr Look Voce(std::string_view testo, std::string_view figura,
+                    std::optional<Rgb> tinta = {}) {
+  return {.caption = testo, .font = {Face::Tahoma, 14.25, true}, .back = tinta, .picture = figura};
 }
 constexpr TwipsRect Posto(double sinistra, double alto) {
   return {sinistra, alto, 2580, 1155};
@@ -36,12 +37,18 @@ constexpr TwipsRect Posto(double sinistra, double alto) {
 constexpr double kSecondiPerScatto = 0.25;
 
 constexpr auto kControlli = std::to_array<Row>({
-    row<&FormMenu::Command2>(Posto(240, 360), Voce("Uso delle barre", "menu_barre")),
-    row<&FormMenu::Command6>(Posto(3480, 360), Voce("Tabella", "menu_tabella")),
-    row<&FormMenu::Command4>(Posto(240, 1680), Voce("Piatti, lunghi, unità", "menu_blocchi")),
-    row<&FormMenu::Command3>(Posto(3480, 1680), Voce("Solo numeri", "menu_numeri")),
-    row<&FormMenu::Command5>(Posto(240, 3000), Voce("Abaco", "menu_abaco")),
+    row<&FormMenu::Command2>(Posto(240, 360), Voce("Uso delle barre", "menu_barre", kTintaBarre)),
+    row<&FormMenu::Command6>(Posto(3480, 360), Voce("Tabella", "menu_tabella", kTintaTabella)),
+    row<&FormMenu::Command4>(Posto(240, 1680),
+                             Voce("Piatti, lunghi, unità", "menu_blocchi", kTintaBlocchi)),
+    row<&FormMenu::Command3>(Posto(3480, 1680), Voce("Solo numeri", "menu_numeri", kTintaNumeri)),
+    row<&FormMenu::Command5>(Posto(240, 3000), Voce("Abaco", "menu_abaco", kTintaAbaco)),
     row<&FormMenu::Command1>(Posto(6600, 4680), Voce("Esci", "esci")),
+    // The two friends of the first form, where no control stands.
+    row<&FormMenu::Image1>({6600, 1500, 1200, 1500},
+                           {.toolTip = "Un amico fatto di blocchi", .picture = "avvio_sinistra"}),
+    row<&FormMenu::Image2>({7980, 1500, 1200, 1500},
+                           {.toolTip = "Un abaco", .picture = "avvio_destra"}),
     row<&FormMenu::PictureTempoScansione>(
         {0, 0, 9780, 6210},
         {.toolTip = "Tempo di scansione", .back = kGrigioPannello, .hidden = true}),

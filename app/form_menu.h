@@ -4,6 +4,7 @@
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/button_group.h"
 #include "platform/forms/controls/caption_size.h"
+#include "platform/forms/controls/image.h"
 #include "platform/forms/controls/label.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/controls/picture_box.h"
@@ -23,6 +24,8 @@ class FormMenu final : public Forma {
   platform::Button Command4{*this};
   platform::Button Command5{*this};
   platform::Button Command6{*this};
+  platform::Image Image1{*this};
+  platform::Image Image2{*this};
   platform::PictureBox PictureTempoScansione{*this};
   platform::ScrollBar HScrollScansione{*this};
   platform::Label LabelTempoScansione{*this};

@@ -22,7 +22,8 @@ constexpr auto kFasce = std::to_array<FasciaMenu>({
 });
 
 constexpr Row Pulsante(const Livello& livello, TwipsRect posto) {
-  return row<&FormMenuAbaco::Command1>(livello.abaco.tipo, posto, VoceLivello(livello.didascalia));
+  return row<&FormMenuAbaco::Command1>(livello.abaco.tipo, posto,
+                                       VoceLivello(livello.didascalia, kTintaAbaco));
 }
 
 constexpr MenuDiLivelli kMenu{

@@ -14,9 +14,9 @@ constexpr double kLarghezza = 6420;
 constexpr auto kSopra = std::to_array<Row>({Intestazione(kLarghezza - 480, "Uso delle barre")});
 constexpr auto kPortate = std::to_array<Row>({
     row<&FormMenuBarre::Command2>({1560, 1440, 3300, 915},
-                                  VoceGrande("Fino al 10", "livello_barre_10")),
+                                  VoceGrande("Fino al 10", kTintaBarre, "livello_barre_10")),
     row<&FormMenuBarre::Command4>({1560, 2640, 3300, 915},
-                                  VoceGrande("Fino al 20", "livello_barre_20")),
+                                  VoceGrande("Fino al 20", kTintaBarre, "livello_barre_20")),
 });
 constexpr auto kSotto = std::to_array<Row>({
     row<&FormMenuBarre::Command1>({1560, 4440, 3300, 1155}, Indietro()),

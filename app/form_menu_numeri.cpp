@@ -25,7 +25,7 @@ constexpr auto kFasce = std::to_array<FasciaMenu>({
 });
 
 constexpr Row Pulsante(const Livello& livello, TwipsRect posto) {
-  const Look aspetto = VoceLivello(livello.didascalia);
+  const Look aspetto = VoceLivello(livello.didascalia, kTintaNumeri);
   const auto [totale, addendo] = livello.numeri;
   return totale != 0 ? row<&FormMenuNumeri::Command1>(totale, posto, aspetto)
                      : row<&FormMenuNumeri::Command2>(addendo, posto, aspetto);

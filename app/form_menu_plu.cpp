@@ -37,7 +37,8 @@ constexpr std::size_t RigaDi(const Livello& livello) {
 constexpr Row Pulsante(const Livello& livello, TwipsRect posto) {
   const auto& [tipo, pulsante, immagine, registro, didascalia] = livello.blocchi;
   const std::string_view parole = didascalia.empty() ? livello.didascalia : didascalia;
-  return {pulsante, -1, kPulsanti.at(RigaDi(livello)), posto, VoceGrande(parole, immagine, 12)};
+  return {pulsante, -1, kPulsanti.at(RigaDi(livello)), posto,
+          VoceGrande(parole, kTintaBlocchi, immagine, 12)};
 }
 
 constexpr MenuDiLivelli kMenu{.famiglie = kFamiglie,

@@ -28,7 +28,7 @@ constexpr auto kGeneri = [] {
     const TwipsRect posto{240.0 + 3360 * (rango / kPerColonna),
                           1440.0 + 1200 * (rango % kPerColonna), 2580, 915};
     righe.at(static_cast<std::size_t>(rango)) = row<&FormMenuTabella::Command2>(
-        genere.tipo, posto, VoceGrande(genere.didascalia, genere.immagine));
+        genere.tipo, posto, VoceGrande(genere.didascalia, kTintaTabella, genere.immagine));
     ++rango;
   }
   return righe;

@@ -1,9 +1,12 @@
 #include "app/disegno_menu.h"
 
 #include <QApplication>
+#include <algorithm>
+#include <vector>
 
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
+#include "platform/forms/text_block.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
@@ -80,6 +83,54 @@ class DisegnoMenuTest : public QObject {
       QVERIFY2(riga != nullptr, quale.c_str());
       QVERIFY2(riga->look.caption == voce.didascalia, quale.c_str());
       QVERIFY2(voce.posto == TwipsRect{} || riga->place == voce.posto, quale.c_str());
+    }
+  }
+
+  void aFamilyKeepsItsTintFromTheMainMenuToItsLevels_data() {
+    QTest::addColumn<QByteArray>("strada");
+    QTest::addColumn<QByteArray>("menu");
+    const auto riga = [](const char* strada, std::string_view menu) {
+      const QByteArray nome(menu.data(), qsizetype(menu.size()));
+      QTest::newRow(nome.constData()) << QByteArray(strada) << nome;
+    };
+    riga("Command2", kFormMenuBarre);
+    riga("Command6", kFormMenuTabella);
+    riga("Command4", kFormMenuPLU);
+    riga("Command3", kFormMenuNumeri);
+    riga("Command5", kFormMenuAbaco);
+  }
+  void aFamilyKeepsItsTintFromTheMainMenuToItsLevels() {
+    QFETCH(QByteArray, strada);
+    QFETCH(QByteArray, menu);
+    const Banco banco({640, 480});
+    const auto principale = somme::CreaForma(*banco.ambiente, kFormMenu);
+    const Row* via = rigaDi(*principale, {kFormMenu, strada.constData(), -1, ""});
+    QVERIFY(via != nullptr && via->look.back.has_value());
+    // Words on it are read with ease.
+    QVERIFY(platform::contrast(platform::toColor(*via->look.back), Qt::black) >= 4.5);
+    const auto forma = somme::CreaForma(*banco.ambiente, menu.toStdString());
+    int livelli = 0;
+    for (const std::span<const Row> tavola : forma->design().tables) {
+      for (const Row& riga : tavola) {
+        const bool eLivello = riga.name.starts_with("Command") && !riga.look.hidden &&
+                              riga.look.picture != "indietro";
+        if (!eLivello) continue;
+        ++livelli;
+        QVERIFY2(riga.look.back == via->look.back, std::string(riga.name).c_str());
+      }
+    }
+    QVERIFY(livelli > 0);
+  }
+
+  void noTwoFamiliesHaveOneTint() {
+    const Banco banco({640, 480});
+    const auto menu = somme::CreaForma(*banco.ambiente, kFormMenu);
+    std::vector<platform::Rgb> tinte;
+    for (const char* nome : {"Command2", "Command3", "Command4", "Command5", "Command6"}) {
+      const Row* riga = rigaDi(*menu, {kFormMenu, nome, -1, ""});
+      QVERIFY(riga != nullptr && riga->look.back.has_value());
+      QVERIFY(std::ranges::find(tinte, *riga->look.back) == tinte.end());
+      tinte.push_back(*riga->look.back);
     }
   }
 
