@@ -1,6 +1,7 @@
 #include <cstdio>
 #include <exception>
 
+#include "figura.h"
 #include "schermo.h"
 
 // Start and rest of the program, against an empty program of Qt's on the same display: time from
@@ -9,14 +10,13 @@
 //   avvio PROGRAM EMPTY
 namespace {
 
-constexpr int kRuns = 15;
 constexpr double kSettled = 2.0;  // seconds after the first picture
-constexpr double kRest = 10.0;    // seconds of rest that are watched
 
 double risvegliAlSecondo(const bench::Programma& programma) {
+  const double rest = bench::quanti(10.0, 3.0);  // seconds that are watched
   const long before = programma.risvegli();
-  bench::dormi(kRest);
-  return static_cast<double>(programma.risvegli() - before) / kRest;
+  bench::dormi(rest);
+  return static_cast<double>(programma.risvegli() - before) / rest;
 }
 
 }  // namespace
@@ -27,9 +27,10 @@ int main(int argc, char* argv[]) {
     return 2;
   }
   try {
+    const int runs = bench::quanti(15, 4);
     std::vector<double> own;
     std::vector<double> empty;
-    for (int i = 0; i <= kRuns; ++i) {
+    for (int i = 0; i <= runs; ++i) {
       bench::Programma a(argv[1]);
       const double first = a.attendiDipinto();
       bench::Programma b(argv[2]);
@@ -42,22 +43,27 @@ int main(int argc, char* argv[]) {
     }
     const double mine = bench::mediana(own);
     const double plain = bench::mediana(empty);
-    std::printf("exec to first picture: %.0f ms, empty program %.0f ms: %.2f times (at most 1.5)\n",
-                mine, plain, mine / plain);
+    std::printf("exec to first picture: %.0f ms, empty program %.0f ms\n", mine, plain);
+    bench::stampa(
+        {"exec to first picture", "", mine / plain, "times an empty program's", bench::alPiu(1.5)});
 
     bench::Programma a(argv[1]);
     (void)a.attendiDipinto();
     bench::dormi(kSettled);
-    std::printf("at rest on the splash form: %.2f wake-ups a second (under 1)\n",
-                risvegliAlSecondo(a));
+    bench::stampa({"at rest on the splash form", "", risvegliAlSecondo(a), "wake-ups a second",
+                   bench::sotto(1)});
     const long alone = a.pss();
     bench::Programma b(argv[2]);
     (void)b.attendiDipinto();
     bench::dormi(kSettled);
     // Both run while each is measured, so that what they share is shared in both figures.
-    std::printf("proportional set size: %ld KB, empty program %ld KB: %.2f times (at most 2)\n",
-                a.pss(), b.pss(), static_cast<double>(a.pss()) / static_cast<double>(b.pss()));
-    std::printf("  (alone %ld KB)\n", alone);
+    const long both = a.pss();
+    const long other = b.pss();
+    std::printf("proportional set size: %ld KB, empty program %ld KB; alone %ld KB\n", both, other,
+                alone);
+    bench::stampa({"proportional set size", "",
+                   static_cast<double>(both) / static_cast<double>(other),
+                   "times an empty program's", bench::alPiu(2)});
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "avvio: %s\n", error.what());

@@ -21,6 +21,7 @@
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "exercises/core/forma_esercizio.h"
+#include "figura.h"
 #include "immagini/immagini.h"
 #include "mano.h"
 #include "platform/devices/qt_time_source.h"
@@ -32,7 +33,7 @@
 
 namespace {
 
-constexpr int kVerdetti = 100;
+const int kVerdetti = bench::quanti(100, 15);
 // Seconds for a form to show; and between two keys, in which the reader asks on.
 constexpr double kApertura = 1;
 constexpr double kPausa = 0.05;

@@ -2,7 +2,9 @@
 // with the same paths, and against the time that a frame of the movie lasts; the loading of a
 // movie; one clip's change against the whole board.
 //
-//   bench_filmati MOVIE...
+//   bench_filmati FOLDER-OF-THE-PROGRAM
+#include <QDir>
+#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
@@ -12,6 +14,7 @@
 #include <functional>
 #include <vector>
 
+#include "figura.h"
 #include "platform/flash/movie_error.h"
 #include "platform/flash/movie_file.h"
 #include "platform/flash/player.h"
@@ -25,15 +28,8 @@ using platform::flash::SceneItem;
 namespace {
 
 constexpr QSize kSchermo(1920, 1080);
-constexpr int kGiri = 21;
 
-// Milliseconds; the median of the rounds, in which what is compared takes turns.
-double mediana(std::vector<double> tempi) {
-  std::sort(tempi.begin(), tempi.end());
-  return tempi[tempi.size() / 2];
-}
-
-// The processor's time, so that what else the machine does is not measured.
+// Milliseconds of the processor's time, so that what else the machine does is not measured.
 double millisecondi(const std::function<void()>& lavoro) {
   const auto adesso = [] {
     timespec tempo{};
@@ -103,9 +99,11 @@ void dipingi(const std::vector<Tratto>& tutti, const QTransform& aPixel, QRgb sf
 }
 
 void misura(const QString& file) {
+  // What is compared takes turns in each.
+  const int giri = bench::quanti(21, 5);
   std::shared_ptr<const platform::flash::Movie> filmato;
   std::vector<double> carichi;
-  for (int i = 0; i < kGiri; ++i) {
+  for (int i = 0; i < giri; ++i) {
     carichi.push_back(millisecondi([&] { filmato = platform::flash::loadMovie(file); }));
   }
   Player lettore(filmato, [](const QString&, const QString&) {});
@@ -121,13 +119,13 @@ void misura(const QString& file) {
   Renderer pittore;
   std::vector<double> nostri;
   std::vector<double> nudi;
-  for (int i = 0; i < kGiri; ++i) {
+  for (int i = 0; i < giri; ++i) {
     nostri.push_back(millisecondi(
         [&] { pittore.paint(lettore.scene(), aPixel, filmato->background, immagine); }));
     nudi.push_back(millisecondi([&] { dipingi(stessi, aPixel, filmato->background, nuda); }));
   }
-  const double nostro = mediana(nostri);
-  const double nudo = mediana(nudi);
+  const double nostro = bench::mediana(nostri);
+  const double nudo = bench::mediana(nudi);
   const double fotogramma = 1000 / filmato->frameRate;
 
   // One clip hidden: what has to be painted anew, against the board.
@@ -143,23 +141,30 @@ void misura(const QString& file) {
     posto |= diverso;
   }
   std::printf("%s: %zu parts, loaded in %.2f ms (first %.2f)\n", qUtf8Printable(file),
-              scena.items.size(), mediana(carichi), carichi.front());
-  std::printf("  picture of %dx%d: %.2f ms, bare QPainter %.2f ms, ratio %.2f (at most 1.50)\n",
-              immagine.width(), immagine.height(), nostro, nudo, nostro / nudo);
-  std::printf("  of the frame's %.1f ms: %.3f (at most 0.250)\n", fotogramma, nostro / fotogramma);
+              scena.items.size(), bench::mediana(carichi), carichi.front());
+  std::printf("  picture of %dx%d: %.2f ms of the frame's %.1f, bare QPainter %.2f ms\n",
+              immagine.width(), immagine.height(), nostro, fotogramma, nudo);
   std::printf("  hiding %s repaints %.4f of the board\n", qUtf8Printable(nome),
               posto.width() * posto.height() / (palco.width() * palco.height()));
+  const std::string quale = QFileInfo(file).fileName().toStdString();
+  bench::stampa(
+      {"picture of a board", quale, nostro / nudo, "times a bare QPainter's", bench::alPiu(1.5)});
+  bench::stampa({"picture of a board, of its frame", quale, nostro / fotogramma, "of its time",
+                 bench::alPiu(0.25)});
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  if (argc < 2) {
-    std::fprintf(stderr, "usage: bench_filmati MOVIE...\n");
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: bench_filmati FOLDER-OF-THE-PROGRAM\n");
     return 2;
   }
   try {
-    for (int i = 1; i < argc; ++i) misura(QString::fromLocal8Bit(argv[i]));
+    const QDir cartella(QString::fromLocal8Bit(argv[1]) + QStringLiteral("/swf"));
+    for (const QFileInfo& file : cartella.entryInfoList({QStringLiteral("*.swf")}, QDir::Files)) {
+      misura(file.filePath());
+    }
   } catch (const platform::flash::MovieError& errore) {
     std::fprintf(stderr, "%s\n", errore.what());
     return 1;

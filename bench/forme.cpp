@@ -1,10 +1,8 @@
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
 #include <vector>
@@ -14,13 +12,14 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
+#include "cartella_in_lingua.h"
 #include "exercises/bars/forma_barre_pulsanti.h"
+#include "figura.h"
 #include "immagini/immagini.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/forms/appearance.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/keys/key_guard.h"
-#include "schermo.h"
 #include "servizi_fermi.h"
 #include "support/come_dal_menu.h"
 
@@ -31,95 +30,47 @@ namespace {
 using platform::Control;
 using platform::Form;
 
-constexpr int kTimes = 20;
+const int kTimes = bench::quanti(20, 3);
+constexpr qsizetype kLunga = 64'000;  // bytes of the longest language file that is read whole
 
 double millisecondi(const QElapsedTimer& orologio) {
   return static_cast<double>(orologio.nsecsElapsed()) / 1e6;
 }
 
-// The program's folder as it is, but for a language file whose length can be changed.
-class Cartella {
- public:
-  explicit Cartella(const QString& vera) {
-    for (const QFileInfo& voce :
-         QDir(vera).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
-      const QString qui = cartella_.filePath(voce.fileName());
-      if (voce.fileName() != kLingua) QFile::link(voce.absoluteFilePath(), qui);
-    }
-    QFile file(vera + u'/' + kLingua);
-    if (!file.open(QIODevice::ReadOnly)) qFatal("no language file");
-    corto_ = file.readAll();
-    scrivi(corto_);
-  }
-
-  [[nodiscard]] QString percorso() const { return cartella_.path(); }
-
-  void scriviCorta() const { scrivi(corto_); }
-  // 64,000 bytes, the program's own sections behind those of others.
-  void scriviLunga() const {
-    QByteArray testo;
-    for (int sezione = 0; testo.size() + corto_.size() < 64'000; ++sezione) {
-      testo += "[Altro" + QByteArray::number(sezione) + "]\r\n";
-      for (int i = 0; i < 20; ++i) {
-        testo += "Label" + QByteArray::number(i) + ".Caption=\"Un testo di un'altra forma\"\r\n";
-      }
-    }
-    scrivi(testo.left(64'000 - corto_.size() - 2) + "\r\n" + corto_);
-  }
-
- private:
-  static inline const QString kLingua = QStringLiteral("Italiano.lng");
-
-  void scrivi(const QByteArray& testo) const {
-    QFile file(cartella_.filePath(kLingua));
-    if (!file.open(QIODevice::WriteOnly) || file.write(testo) != testo.size()) {
-      qFatal("cannot write the language file");
-    }
-    file.close();
-    // What has just changed is read anew each time; on any day it has not.
-    QTest::qWait(200);
-  }
-
-  QTemporaryDir cartella_;
-  QByteArray corto_;
-};
-
 class Misura {
  public:
   explicit Misura(const QString& cartella)
-      : cartella_(cartella),
+      : usuale_(cartella, 0),
+        lunga_(cartella, kLunga),
         ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
-                   stampanti_, pagina_, rete_, cartella_.percorso()},
+                   stampanti_, pagina_, rete_, usuale_.percorso()},
                   somme::LeForme()) {
     somme::Avvia(ambiente_);
     QTest::qWait(500);
   }
 
+  // A form against plain widgets; and with a long language file against the usual one.
   void mostra(std::string_view nome) {
     std::vector<double> forma;
     std::vector<double> nudi;
     std::vector<double> lunga;
-    int controlli = 0;
+    // What is compared takes turns; the first turn warms.
     for (int i = 0; i <= kTimes; ++i) {
-      const double proprio = mostraForma(nome, controlli);
+      const double inLunga = mostraForma(nome, lunga_);
+      const double propria = mostraForma(nome, usuale_);
       const double semplice = mostraNudi();
       if (i == 0) continue;
-      forma.push_back(proprio);
+      forma.push_back(propria);
       nudi.push_back(semplice);
+      lunga.push_back(inLunga);
     }
-    cartella_.scriviLunga();
-    for (int i = 0; i <= kTimes; ++i) {
-      const double proprio = mostraForma(nome, controlli);
-      if (i > 0) lunga.push_back(proprio);
-    }
-    cartella_.scriviCorta();
     const double a = bench::mediana(forma);
     const double b = bench::mediana(nudi);
-    std::printf(
-        "showing %.*s (%d controls): %.2f ms, plain widgets %.2f ms: %.2f times (at most 2); "
-        "with 64,000 bytes of language %.2f times (1.5)\n",
-        static_cast<int>(nome.size()), nome.data(), controlli, a, b, a / b,
-        bench::mediana(lunga) / a);
+    std::printf("showing %.*s (%zu controls): %.2f ms, plain widgets %.2f ms\n", int(nome.size()),
+                nome.data(), modello_.size(), a, b);
+    bench::stampa({"showing a form", nome, a / b, "times plain widgets", bench::alPiu(2)});
+    bench::stampa({"showing a form, 64,000 bytes of language", nome, bench::mediana(lunga) / a,
+                   "times that without", bench::alPiu(1.5)});
   }
 
   void verdetti() {
@@ -142,10 +93,9 @@ class Misura {
       QTest::keyClick(finestra, Qt::Key_Return);
       QTest::qWait(1);
     }
-    std::sort(tempi.begin(), tempi.end());
-    std::printf(
-        "from the key to the painted verdict: median %.2f ms, 95 of 100 within %.2f ms (16)\n",
-        tempi[tempi.size() / 2], tempi[tempi.size() * 95 / 100]);
+    std::printf("from the key to the painted verdict: median %.2f ms\n", bench::mediana(tempi));
+    bench::stampa({"key to painted verdict, 95 of 100", "", bench::quantile(tempi, 0.95), "ms",
+                   bench::alPiu(16)});
   }
 
   // The record of solved cases: what the last of ten thousand lines costs against the first ones,
@@ -168,8 +118,10 @@ class Misura {
     }
     const double prima = bench::mediana(prime);
     const double ultima = bench::mediana(ultime);
-    std::printf("a line of the record: first %.4f ms, of %d the last %.4f ms: %.2f times (2)\n",
-                prima, kRighe, ultima, ultima / prima);
+    std::printf("a line of the record: first %.4f ms, of %d the last %.4f ms\n", prima, kRighe,
+                ultima);
+    bench::stampa(
+        {"late line of a long record", "", ultima / prima, "times an early one", bench::alPiu(2)});
   }
 
   // What the key guard adds to a key that does nothing, told apart: the same taps with it and
@@ -179,7 +131,7 @@ class Misura {
     qApp->removeEventFilter(&ambiente_.fondo.keys());
     const double senza = tastoSenzaEffetto();
     qApp->installEventFilter(&ambiente_.fondo.keys());
-    std::printf("the key-state machine adds %.3f ms to a key (at most 5)\n", con - senza);
+    bench::stampa({"key-state machine, of a key", "", con - senza, "ms", bench::alPiu(5)});
   }
 
  private:
@@ -196,7 +148,9 @@ class Misura {
     return bench::mediana(tempi);
   }
 
-  double mostraForma(std::string_view nome, int& controlli) {
+  // Milliseconds. What it shows is what mostraNudi() shows after it.
+  double mostraForma(std::string_view nome, const bench::CartellaInLingua& cartella) {
+    ambiente_.servizi.cartella = cartella.percorso();
     platform::Forms& forme = ambiente_.fondo.forms();
     prova::ComeDalMenu(ambiente_, nome);
     Form* prima = forme.current();
@@ -210,7 +164,6 @@ class Misura {
     for (const Control* controllo : forma->controls()) {
       if (controllo->widget() != nullptr) modello_.push_back(descrivi(*controllo));
     }
-    controlli = static_cast<int>(modello_.size());
     forme.unload(*prima);
     forme.show(somme::forme::kFormAvvio);
     forme.unload(*forma);
@@ -260,7 +213,8 @@ class Misura {
     return tempo;
   }
 
-  Cartella cartella_;
+  bench::CartellaInLingua usuale_;
+  bench::CartellaInLingua lunga_;
   platform::QtTimeSource tempo_;
   platform::SeededChance sorte_{1};
   bench::Muto suono_;

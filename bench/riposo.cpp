@@ -5,7 +5,7 @@
 //
 // Takes lines of text: the name of a form and the way of input (0 mouse, 1 manual scanning, 2
 // automatic scanning, 3 touch); answers "ready" when the form has been on the screen for a while.
-// With an empty line, or none any more, it ends.
+// With an empty line, or none any more, it ends. With --forms it names the forms, a line each.
 #include <unistd.h>
 
 #include <QApplication>
@@ -142,11 +142,8 @@ class Riposo {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  QApplication programma(argc, argv);
-  platform::applyAppearance();
-  somme::PreparaImmagini();
   if (argc != 2) {
-    std::fprintf(stderr, "usage: bench_riposo FOLDER-OF-THE-PROGRAM\n");
+    std::fprintf(stderr, "usage: bench_riposo FOLDER-OF-THE-PROGRAM|--forms\n");
     return 2;
   }
   if (std::string_view(argv[1]) == "--forms") {
@@ -155,6 +152,9 @@ int main(int argc, char* argv[]) {
     }
     return 0;
   }
+  QApplication programma(argc, argv);
+  platform::applyAppearance();
+  somme::PreparaImmagini();
   const Riposo riposo(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
   return QApplication::exec();
 }

@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <functional>
 #include <numeric>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -23,6 +24,7 @@
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "exercises/numbers/forma_numeri_scansione.h"
+#include "figura.h"
 #include "immagini/immagini.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/forms/appearance.h"
@@ -31,7 +33,6 @@
 
 namespace {
 
-constexpr int kPassi = 100;
 constexpr double kIntervallo = 1000;  // milliseconds
 
 // Processes that keep every core busy while one lives.
@@ -101,25 +102,26 @@ class Scansione {
     QTest::qWait(1500);
   }
 
-  void passo(const char* come, double limite) {
+  void passo(const std::string& come, bench::Limite limite) {
     auto& forma = *dynamic_cast<somme::FormaNumeriScansione*>(ambiente_.fondo.forms().current());
     auto* anello = forma.TastieraNumericaScansione1.widget()->findChild<platform::RingWidget*>();
     Occhio occhio;
     anello->installEventFilter(&occhio);
-    while (int(occhio.passi.size()) <= kPassi) QTest::qWait(200);
+    const int passi = bench::quanti(100, 8);
+    while (int(occhio.passi.size()) <= passi) QTest::qWait(200);
     anello->removeEventFilter(&occhio);
     std::vector<double> intervalli(occhio.passi.size());
     std::adjacent_difference(occhio.passi.begin(), occhio.passi.end(), intervalli.begin());
     intervalli.erase(intervalli.begin());
-    intervalli.resize(kPassi);
+    intervalli.resize(passi);
     double peggiore = 0;
     for (const double i : intervalli) peggiore = std::max(peggiore, std::abs(i - kIntervallo));
-    const double media = (occhio.passi[kPassi] - occhio.passi[0]) / kPassi;
-    std::printf(
-        "automatic scanning at 1.00 s, %s: %d steps, mean %.2f ms (off by %.3f %%, at most 0.5), "
-        "worst off by %.1f ms (at most %.0f)\n",
-        come, kPassi, media, 100 * std::abs(media - kIntervallo) / kIntervallo, peggiore, limite);
-    std::fflush(stdout);
+    const double media = (occhio.passi[passi] - occhio.passi[0]) / passi;
+    std::printf("automatic scanning at 1.00 s, %s: %d steps, mean %.2f ms\n", come.c_str(), passi,
+                media);
+    bench::stampa({"mean step of scanning, " + come, "",
+                   100 * std::abs(media - kIntervallo) / kIntervallo, "% off", bench::alPiu(0.5)});
+    bench::stampa({"worst step of scanning, " + come, "", peggiore, "ms off", limite});
   }
 
  private:
@@ -149,10 +151,10 @@ int main(int argc, char* argv[]) {
   }
   Scansione scansione(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
   scansione.mostra();
-  scansione.passo("idle", 15);
+  scansione.passo("idle", bench::alPiu(15));
   {
     const Carico carico;
-    scansione.passo("every core busy", 60);
+    scansione.passo("every core busy", bench::alPiu(60));
   }
   std::fflush(stdout);
   std::_Exit(0);

@@ -11,12 +11,10 @@
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <stdexcept>
 
 extern char** environ;
@@ -51,17 +49,6 @@ double adesso() {
   timespec now{};
   clock_gettime(CLOCK_MONOTONIC, &now);
   return static_cast<double>(now.tv_sec) * 1000 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
-double processore() {
-  timespec tempo{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &tempo);
-  return static_cast<double>(tempo.tv_sec) + static_cast<double>(tempo.tv_nsec) / 1e9;
-}
-
-double mediana(std::vector<double> valori) {
-  std::sort(valori.begin(), valori.end());
-  return valori[valori.size() / 2];
 }
 
 void dormi(double secondi) {

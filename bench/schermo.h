@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 struct xcb_connection_t;
 
@@ -39,9 +38,6 @@ class Programma {
 };
 
 [[nodiscard]] double adesso();  // milliseconds
-// Seconds of the processor that all threads of this process have had.
-[[nodiscard]] double processore();
-[[nodiscard]] double mediana(std::vector<double> valori);
 void dormi(double secondi);
 
 }  // namespace bench

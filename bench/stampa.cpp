@@ -3,13 +3,13 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTest>
-#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <string>
 
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/forma_barre_pulsanti.h"
+#include "figura.h"
 #include "printing/frm_avvia_stampa.h"
 #include "printing/modulo_stampa.h"
 #include "support/banco.h"
@@ -22,7 +22,6 @@ namespace {
 
 constexpr int kPochi = 1000;
 constexpr int kMolti = 10000;
-constexpr int kVolte = 5;
 constexpr double kFotogramma = 1000.0 / 60;  // milliseconds
 
 double millisecondi(const QElapsedTimer& orologio) {
@@ -67,15 +66,17 @@ class Misura {
     azzeraMassimo();
     stampa();
     const long dopo = memoria("VmHWM:");
-    std::printf("record of %d lines: %.2f KB of memory a line (at most 1)\n", kMolti,
-                double(dopo - prima) / kMolti);
+    bench::stampa({"memory of printing a record", "", double(dopo - prima) / kMolti, "KB a line",
+                   bench::alPiu(1)});
   }
 
   void tempoDiUnElenco() {
     const double pochi = tempo(kPochi);
     const double molti = tempo(kMolti);
-    std::printf("record of %d lines: %.0f ms; of %d lines: %.0f ms: %.1f times (at most 12)\n",
-                kPochi, pochi, kMolti, molti, molti / pochi);
+    std::printf("record of %d lines: %.0f ms; of %d lines: %.0f ms\n", kPochi, pochi, kMolti,
+                molti);
+    bench::stampa(
+        {"printing ten times as many lines", "", molti / pochi, "times as long", bench::alPiu(12)});
   }
 
   void anteprima() {
@@ -99,11 +100,10 @@ class Misura {
         tempi.push_back(millisecondi(orologio));
         QCoreApplication::processEvents();
       }
-      std::sort(tempi.begin(), tempi.end());
-      std::printf(
-          "preview after a change of a field: median %.2f ms, slowest %.2f ms "
-          "(a frame is %.1f ms)\n",
-          tempi[tempi.size() / 2], tempi.back(), kFotogramma);
+      std::printf("preview after a change of a field: median %.2f ms, slowest %.2f ms\n",
+                  bench::mediana(tempi), bench::quantile(tempi, 1));
+      bench::stampa({"preview after a field, 95 of 100", "", bench::quantile(tempi, 0.95), "ms",
+                     bench::alPiu(kFotogramma)});
       dialogo.cmdChiudi.click();
     });
     forma_.run([&] { (void)dialogo.StampaFCPB(richiesta); });
@@ -122,15 +122,14 @@ class Misura {
 
   double tempo(int quante) {
     std::vector<double> tempi;
-    for (int i = 0; i < kVolte; ++i) {
+    for (int i = 0; i < bench::quanti(5, 3); ++i) {
       prepara(quante);
       QElapsedTimer orologio;
       orologio.start();
       stampa();
       tempi.push_back(millisecondi(orologio));
     }
-    std::sort(tempi.begin(), tempi.end());
-    return tempi[tempi.size() / 2];
+    return bench::mediana(tempi);
   }
 
   prova::Banco banco_;

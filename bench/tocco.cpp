@@ -6,7 +6,6 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QTest>
-#include <algorithm>
 #include <cstdio>
 #include <vector>
 
@@ -15,6 +14,7 @@
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "exercises/numbers/forma_numeri_hk.h"
+#include "figura.h"
 #include "immagini/immagini.h"
 #include "platform/devices/loopback_network.h"
 #include "platform/devices/qt_time_source.h"
@@ -60,11 +60,10 @@ class Tocco {
       ambiente_.fondo.window().repaint();
       tempi.push_back(static_cast<double>(orologio.nsecsElapsed()) / 1e6);
     }
-    std::sort(tempi.begin(), tempi.end());
-    std::printf(
-        "from the report of a touch to the painted digit: median %.2f ms, 95 of 100 within %.2f ms"
-        " (16)\n",
-        tempi[tempi.size() / 2], tempi[tempi.size() * 95 / 100]);
+    std::printf("from the report of a touch to the painted digit: median %.2f ms\n",
+                bench::mediana(tempi));
+    bench::stampa({"touch to painted digit, 95 of 100", "", bench::quantile(tempi, 0.95), "ms",
+                   bench::alPiu(16)});
     return true;
   }
 

@@ -1,7 +1,5 @@
 """A program that a signal has ended counts as failed, whoever ran it."""
 
-import contextlib
-import io
 import os
 import sys
 import tempfile
@@ -10,10 +8,8 @@ import unittest
 
 sys.dont_write_bytecode = True
 RADICE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../..")
-for cartella in ("tools/prova", "bench"):
-    sys.path.insert(0, os.path.join(RADICE, cartella))
+sys.path.insert(0, os.path.join(RADICE, "tools/prova"))
 
-import misura  # noqa: E402
 from schermo import ErroreSchermo, Processo, Schermo  # noqa: E402
 from tavoletta import ErroreTavoletta, Tavoletta  # noqa: E402
 
@@ -106,25 +102,6 @@ class Superficie(unittest.TestCase):
                 with Tavoletta(finta) as tavoletta:
                     tavoletta.fai("tasto 1")
                     aspetta_la_fine(tavoletta._processo)
-
-
-class Misure(unittest.TestCase):
-    """What the measurements make of the end of one."""
-
-    def esegui(self, *comando):
-        detto = io.StringIO()
-        with contextlib.redirect_stdout(detto):
-            bene = misura.esegui(comando)
-        return bene, detto.getvalue()
-
-    def test_a_measurement_that_ends_well_counts(self):
-        self.assertEqual(self.esegui("true"), (True, ""))
-
-    def test_one_that_falls_counts_as_failed_and_says_so(self):
-        self.assertEqual(self.esegui(*CADE), (False, "FAILED: sh was ended by SIGSEGV\n"))
-
-    def test_one_that_ends_badly_counts_as_failed_and_says_so(self):
-        self.assertEqual(self.esegui("sh", "-c", "exit 3"), (False, "FAILED: sh ended with 3\n"))
 
 
 if __name__ == "__main__":
