@@ -4,24 +4,18 @@
 //   bench_cambio FOLDER-OF-THE-PROGRAM
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QTest>
 #include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <vector>
 
-#include "app/modulo1.h"
 #include "app/shared/ambiente.h"
 #include "app/shared/modulo_colori_suoni.h"
 #include "app/shared/nomi_forme.h"
-#include "app/tabella_forme.h"
 #include "exercises/abacus/forma_abaco_tastiera.h"
 #include "figura.h"
-#include "immagini/immagini.h"
-#include "platform/devices/qt_time_source.h"
-#include "platform/forms/appearance.h"
-#include "servizi_fermi.h"
+#include "programma_fermo.h"
 
 namespace {
 
@@ -45,11 +39,7 @@ Durata misura(const std::function<void()>& lavoro) {
 
 class Cambio {
  public:
-  explicit Cambio(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
-                   stampanti_, pagina_, rete_, cartella},
-                  somme::LeForme()) {
-    somme::Avvia(ambiente_);
+  explicit Cambio(const QString& cartella) : programma_(cartella) {
     ambiente_.stato.TipoEsercizio = kConESenzaCambio;
     ambiente_.fondo.forms().show(somme::forme::kFormAbaco);
     QTest::qWait(500);
@@ -103,32 +93,13 @@ class Cambio {
     QTest::qWait(200);
   }
 
-  platform::QtTimeSource tempo_;
-  platform::SeededChance sorte_{1};
-  bench::Muto suono_;
-  bench::Zitto messaggi_;
-  bench::Tacito annunci_;
-  bench::Chiuso documenti_;
-  bench::Uscita fine_;
-  bench::Solo istanza_;
-  bench::SenzaStampanti stampanti_;
-  bench::SenzaPagina pagina_;
-  bench::ReteSorda rete_;
-  somme::Ambiente ambiente_;
+  bench::ProgrammaFermo programma_;
+  somme::Ambiente& ambiente_ = programma_.ambiente;
 };
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  QApplication programma(argc, argv);
-  platform::applyAppearance();
-  somme::PreparaImmagini();
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: bench_cambio FOLDER-OF-THE-PROGRAM\n");
-    return 2;
-  }
-  Cambio cambio(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
-  const bool fatti = cambio.confronta();
-  std::fflush(stdout);
-  std::_Exit(fatti ? 0 : 1);
+  return bench::misuraConCartella(
+      argc, argv, [](const QString& cartella) { return Cambio(cartella).confronta(); });
 }

@@ -7,7 +7,6 @@
 // answer that it gave, the milliseconds from the key to the picture of its verdict, and those of
 // the processor that the program had meanwhile. With an empty line, or none any more, it ends.
 #include <QApplication>
-#include <QFileInfo>
 #include <array>
 #include <cstdio>
 #include <iostream>
@@ -16,19 +15,15 @@
 #include <thread>
 #include <vector>
 
-#include "app/modulo1.h"
 #include "app/shared/ambiente.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "exercises/core/forma_esercizio.h"
 #include "figura.h"
-#include "immagini/immagini.h"
 #include "mano.h"
-#include "platform/devices/qt_time_source.h"
-#include "platform/forms/appearance.h"
 #include "platform/forms/qt_announcer.h"
+#include "programma_fermo.h"
 #include "schermo.h"
-#include "servizi_fermi.h"
 #include "support/come_dal_menu.h"
 
 namespace {
@@ -60,11 +55,7 @@ void nelProgramma(Lavoro lavoro) {
 
 class Misura {
  public:
-  explicit Misura(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
-                   stampanti_, pagina_, rete_, cartella},
-                  somme::LeForme()) {
-    somme::Avvia(ambiente_);
+  explicit Misura(const QString& cartella) : programma_(cartella, {.annunci = &annunci_}) {
     finestra_ = std::uint32_t(ambiente_.fondo.window().winId());
   }
 
@@ -140,42 +131,28 @@ class Misura {
     return pronto;
   }
 
-  platform::QtTimeSource tempo_;
-  platform::SeededChance sorte_{1};
-  bench::Muto suono_;
-  bench::Zitto messaggi_;
   platform::QtAnnouncer annunci_;
-  bench::Chiuso documenti_;
-  bench::Uscita fine_;
-  bench::Solo istanza_;
-  bench::SenzaStampanti stampanti_;
-  bench::SenzaPagina pagina_;
-  bench::ReteSorda rete_;
-  somme::Ambiente ambiente_;
+  bench::ProgrammaFermo programma_;
+  somme::Ambiente& ambiente_ = programma_.ambiente;
   std::uint32_t finestra_ = 0;
 };
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  QApplication programma(argc, argv);
-  platform::applyAppearance();
-  somme::PreparaImmagini();
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: bench_domande FOLDER-OF-THE-PROGRAM\n");
-    return 2;
-  }
-  Misura misura(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
-  std::thread fuori([&misura] {
-    int stato = 0;
-    try {
-      misura.ascoltaComandi();
-    } catch (const std::exception& guasto) {
-      std::fprintf(stderr, "bench_domande: %s\n", guasto.what());
-      stato = 1;
-    }
-    std::fflush(stdout);
-    std::_Exit(stato);
+  return bench::misuraConCartella(argc, argv, [](const QString& cartella) {
+    Misura misura(cartella);
+    std::thread fuori([&misura] {
+      int stato = 0;
+      try {
+        misura.ascoltaComandi();
+      } catch (const std::exception& guasto) {
+        std::fprintf(stderr, "bench_domande: %s\n", guasto.what());
+        stato = 1;
+      }
+      std::fflush(stdout);
+      std::_Exit(stato);
+    });
+    return QApplication::exec() == 0;
   });
-  return QApplication::exec();
 }

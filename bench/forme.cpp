@@ -1,13 +1,11 @@
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <cstdio>
 #include <vector>
 
-#include "app/modulo1.h"
 #include "app/shared/ambiente.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
@@ -15,12 +13,9 @@
 #include "cartella_in_lingua.h"
 #include "exercises/bars/forma_barre_pulsanti.h"
 #include "figura.h"
-#include "immagini/immagini.h"
-#include "platform/devices/qt_time_source.h"
-#include "platform/forms/appearance.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/keys/key_guard.h"
-#include "servizi_fermi.h"
+#include "programma_fermo.h"
 #include "support/come_dal_menu.h"
 
 // The forms from inside the program, on a real display: how long a form takes to show, against as
@@ -40,12 +35,7 @@ double millisecondi(const QElapsedTimer& orologio) {
 class Misura {
  public:
   explicit Misura(const QString& cartella)
-      : usuale_(cartella, 0),
-        lunga_(cartella, kLunga),
-        ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
-                   stampanti_, pagina_, rete_, usuale_.percorso()},
-                  somme::LeForme()) {
-    somme::Avvia(ambiente_);
+      : usuale_(cartella, 0), lunga_(cartella, kLunga), programma_(usuale_.percorso()) {
     QTest::qWait(500);
   }
 
@@ -215,39 +205,23 @@ class Misura {
 
   bench::CartellaInLingua usuale_;
   bench::CartellaInLingua lunga_;
-  platform::QtTimeSource tempo_;
-  platform::SeededChance sorte_{1};
-  bench::Muto suono_;
-  bench::Zitto messaggi_;
-  bench::Tacito annunci_;
-  bench::Chiuso documenti_;
-  bench::Uscita fine_;
-  bench::Solo istanza_;
-  bench::SenzaStampanti stampanti_;
-  bench::SenzaPagina pagina_;
-  bench::ReteSorda rete_;
-  somme::Ambiente ambiente_;
+  bench::ProgrammaFermo programma_;
+  somme::Ambiente& ambiente_ = programma_.ambiente;
   std::vector<Descrizione> modello_;
 };
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  QApplication programma(argc, argv);
-  platform::applyAppearance();
-  somme::PreparaImmagini();
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: forme FOLDER-OF-THE-PROGRAM\n");
-    return 2;
-  }
-  Misura misura(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
-  for (const somme::SchedaForma& scheda : somme::LeForme()) {
-    // Without a printer a sheet is gone as soon as it is shown; the splash form has been.
-    if (scheda.nome != somme::forme::kFormAvvio && !EFoglio(scheda)) misura.mostra(scheda.nome);
-  }
-  misura.verdetti();
-  misura.guardia();
-  misura.elenco();
-  std::fflush(stdout);
-  std::_Exit(0);
+  return bench::misuraConCartella(argc, argv, [](const QString& cartella) {
+    Misura misura(cartella);
+    for (const somme::SchedaForma& scheda : somme::LeForme()) {
+      // Without a printer a sheet is gone as soon as it is shown; the splash form has been.
+      if (scheda.nome != somme::forme::kFormAvvio && !EFoglio(scheda)) misura.mostra(scheda.nome);
+    }
+    misura.verdetti();
+    misura.guardia();
+    misura.elenco();
+    return true;
+  });
 }

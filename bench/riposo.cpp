@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QFileInfo>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <cstdio>
@@ -18,19 +17,16 @@
 #include <sstream>
 #include <string>
 
-#include "app/modulo1.h"
 #include "app/shared/ambiente.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
-#include "immagini/immagini.h"
 #include "platform/base/paper_codes.h"
 #include "platform/devices/loopback_network.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/devices/sdl_sound.h"
 #include "platform/devices/system_printers.h"
-#include "platform/forms/appearance.h"
 #include "printing/frm_avvia_stampa.h"
-#include "servizi_fermi.h"
+#include "programma_fermo.h"
 #include "support/come_dal_menu.h"
 #include "tools/tavoletta/tavoletta.h"
 
@@ -67,12 +63,10 @@ class Riposo {
  public:
   explicit Riposo(const QString& cartella)
       : stampanti_(tempo_),
-        ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
-                   stampanti_, pagina_, rete_, cartella},
-                  somme::LeForme()) {
-    if (!tavoletta_.Ascolta(0)) std::exit(1);
-    ambiente_.servizi.porta = tavoletta_.Porta();
-    somme::Avvia(ambiente_);
+        programma_(cartella, {.suono = &suono_,
+                              .stampanti = &stampanti_,
+                              .rete = &rete_,
+                              .porta = bench::siMetteInAscolto(tavoletta_)}) {
     QObject::connect(&comandi_, &QSocketNotifier::activated, &comandi_, [this] { leggi(); });
   }
 
@@ -124,16 +118,10 @@ class Riposo {
   somme::tavoletta::Tavoletta tavoletta_;
   platform::LoopbackNetwork rete_;
   platform::QtTimeSource tempo_;
-  platform::SeededChance sorte_{1};
   platform::SdlSound suono_{QApplication::beep};
-  bench::Zitto messaggi_;
-  bench::Tacito annunci_;
-  bench::Chiuso documenti_;
-  bench::Uscita fine_;
-  bench::Solo istanza_;
   ConCartaGrande stampanti_;
-  bench::SenzaPagina pagina_;
-  somme::Ambiente ambiente_;
+  bench::ProgrammaFermo programma_;
+  somme::Ambiente& ambiente_ = programma_.ambiente;
   QSocketNotifier comandi_{STDIN_FILENO, QSocketNotifier::Read};
   std::string nome_;
   int modo_ = 0;
@@ -142,19 +130,14 @@ class Riposo {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: bench_riposo FOLDER-OF-THE-PROGRAM|--forms\n");
-    return 2;
-  }
-  if (std::string_view(argv[1]) == "--forms") {
+  if (argc == 2 && std::string_view(argv[1]) == "--forms") {
     for (const std::string_view nome : somme::NomiDelleForme()) {
       std::printf("%.*s\n", int(nome.size()), nome.data());
     }
     return 0;
   }
-  QApplication programma(argc, argv);
-  platform::applyAppearance();
-  somme::PreparaImmagini();
-  const Riposo riposo(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
-  return QApplication::exec();
+  return bench::misuraConCartella(argc, argv, [](const QString& cartella) {
+    const Riposo riposo(cartella);
+    return QApplication::exec() == 0;
+  });
 }

@@ -7,29 +7,22 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
-#include <QFileInfo>
 #include <QTest>
 #include <algorithm>
 #include <cmath>
 #include <csignal>
 #include <cstdio>
-#include <functional>
-#include <numeric>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include "app/modulo1.h"
 #include "app/shared/ambiente.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "exercises/numbers/forma_numeri_scansione.h"
 #include "figura.h"
-#include "immagini/immagini.h"
-#include "platform/devices/qt_time_source.h"
-#include "platform/forms/appearance.h"
 #include "platform/forms/controls/ring_widget.h"
-#include "servizi_fermi.h"
+#include "programma_fermo.h"
 
 namespace {
 
@@ -86,11 +79,7 @@ class Occhio final : public QObject {
 
 class Scansione {
  public:
-  explicit Scansione(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
-                   stampanti_, pagina_, rete_, cartella},
-                  somme::LeForme()) {
-    somme::Avvia(ambiente_);
+  explicit Scansione(const QString& cartella) : programma_(cartella) {
     ambiente_.stato.TipoEsercizio = 1;
   }
 
@@ -110,12 +99,11 @@ class Scansione {
     const int passi = bench::quanti(100, 8);
     while (int(occhio.passi.size()) <= passi) QTest::qWait(200);
     anello->removeEventFilter(&occhio);
-    std::vector<double> intervalli(occhio.passi.size());
-    std::adjacent_difference(occhio.passi.begin(), occhio.passi.end(), intervalli.begin());
-    intervalli.erase(intervalli.begin());
-    intervalli.resize(passi);
     double peggiore = 0;
-    for (const double i : intervalli) peggiore = std::max(peggiore, std::abs(i - kIntervallo));
+    for (int i = 0; i < passi; ++i) {
+      const double intervallo = occhio.passi[i + 1] - occhio.passi[i];
+      peggiore = std::max(peggiore, std::abs(intervallo - kIntervallo));
+    }
     const double media = (occhio.passi[passi] - occhio.passi[0]) / passi;
     std::printf("automatic scanning at 1.00 s, %s: %d steps, mean %.2f ms\n", come.c_str(), passi,
                 media);
@@ -125,37 +113,19 @@ class Scansione {
   }
 
  private:
-  platform::QtTimeSource tempo_;
-  platform::SeededChance sorte_{1};
-  bench::Muto suono_;
-  bench::Zitto messaggi_;
-  bench::Tacito annunci_;
-  bench::Chiuso documenti_;
-  bench::Uscita fine_;
-  bench::Solo istanza_;
-  bench::SenzaStampanti stampanti_;
-  bench::SenzaPagina pagina_;
-  bench::ReteSorda rete_;
-  somme::Ambiente ambiente_;
+  bench::ProgrammaFermo programma_;
+  somme::Ambiente& ambiente_ = programma_.ambiente;
 };
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  QApplication programma(argc, argv);
-  platform::applyAppearance();
-  somme::PreparaImmagini();
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: bench_scansione FOLDER-OF-THE-PROGRAM\n");
-    return 2;
-  }
-  Scansione scansione(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
-  scansione.mostra();
-  scansione.passo("idle", bench::alPiu(15));
-  {
+  return bench::misuraConCartella(argc, argv, [](const QString& cartella) {
+    Scansione scansione(cartella);
+    scansione.mostra();
+    scansione.passo("idle", bench::alPiu(15));
     const Carico carico;
     scansione.passo("every core busy", bench::alPiu(60));
-  }
-  std::fflush(stdout);
-  std::_Exit(0);
+    return true;
+  });
 }

@@ -4,22 +4,16 @@
 //   bench_tocco FOLDER-OF-THE-PROGRAM
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QTest>
 #include <cstdio>
 #include <vector>
 
-#include "app/modulo1.h"
 #include "app/shared/ambiente.h"
 #include "app/shared/nomi_forme.h"
-#include "app/tabella_forme.h"
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "figura.h"
-#include "immagini/immagini.h"
 #include "platform/devices/loopback_network.h"
-#include "platform/devices/qt_time_source.h"
-#include "platform/forms/appearance.h"
-#include "servizi_fermi.h"
+#include "programma_fermo.h"
 #include "tools/tavoletta/tavoletta.h"
 
 namespace {
@@ -30,12 +24,7 @@ constexpr int kPerduto = 5000;  // milliseconds
 class Tocco {
  public:
   explicit Tocco(const QString& cartella)
-      : ambiente_({tempo_, sorte_, suono_, messaggi_, annunci_, documenti_, fine_, istanza_,
-                   stampanti_, pagina_, rete_, cartella},
-                  somme::LeForme()) {
-    if (!tavoletta_.Ascolta(0)) std::exit(1);
-    ambiente_.servizi.porta = tavoletta_.Porta();
-    somme::Avvia(ambiente_);
+      : programma_(cartella, {.rete = &rete_, .porta = bench::siMetteInAscolto(tavoletta_)}) {
     ambiente_.stato.TipoEsercizio = 1;
     ambiente_.fondo.forms().show(somme::forme::kFormNumeriTotaleHK);
     QTest::qWait(500);
@@ -70,31 +59,13 @@ class Tocco {
  private:
   somme::tavoletta::Tavoletta tavoletta_;
   platform::LoopbackNetwork rete_;
-  platform::QtTimeSource tempo_;
-  platform::SeededChance sorte_{1};
-  bench::Muto suono_;
-  bench::Zitto messaggi_;
-  bench::Tacito annunci_;
-  bench::Chiuso documenti_;
-  bench::Uscita fine_;
-  bench::Solo istanza_;
-  bench::SenzaStampanti stampanti_;
-  bench::SenzaPagina pagina_;
-  somme::Ambiente ambiente_;
+  bench::ProgrammaFermo programma_;
+  somme::Ambiente& ambiente_ = programma_.ambiente;
 };
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  QApplication programma(argc, argv);
-  platform::applyAppearance();
-  somme::PreparaImmagini();
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: bench_tocco FOLDER-OF-THE-PROGRAM\n");
-    return 2;
-  }
-  Tocco tocco(QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath());
-  const bool tutti = tocco.misura();
-  std::fflush(stdout);
-  std::_Exit(tutti ? 0 : 1);
+  return bench::misuraConCartella(argc, argv,
+                                  [](const QString& cartella) { return Tocco(cartella).misura(); });
 }

@@ -9,16 +9,24 @@
 # HEADERS is the set of headers that the room takes (see Intestazioni.cmake): base_intestazioni where it
 # says nothing; "none" for what knows no Qt. MOC: its headers have classes with signals.
 #
+# Where headers are compiled once, a room's files are too, several at a time: what they include is then
+# read once for all of them. ALONE are those that are not, since a name of theirs that no other file
+# should know means something else in another one.
+#
 #   somme_room(platform_base FOLDER platform/base SOURCES a.cpp b.cpp LINKS Qt6::Core)
 function(somme_room name)
-  cmake_parse_arguments(ARG "MOC" "FOLDER;HEADERS" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "MOC" "FOLDER;HEADERS" "SOURCES;ALONE;LINKS;PRIVATE_LINKS" ${ARGN})
   if(NOT ARG_HEADERS)
     set(ARG_HEADERS base_intestazioni)
   endif()
-  add_library(somme_${name} STATIC ${ARG_SOURCES})
+  add_library(somme_${name} STATIC ${ARG_SOURCES} ${ARG_ALONE})
   set_target_properties(somme_${name} PROPERTIES AUTOMOC "${ARG_MOC}")
-  if(SOMME_COMPILED_HEADERS STREQUAL "ALL" AND NOT ARG_HEADERS STREQUAL "none")
-    somme_compiled_headers(somme_${name} ${ARG_HEADERS})
+  if(SOMME_COMPILED_HEADERS STREQUAL "ALL")
+    if(NOT ARG_HEADERS STREQUAL "none")
+      somme_compiled_headers(somme_${name} ${ARG_HEADERS})
+    endif()
+    set_target_properties(somme_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
+    set_source_files_properties(${ARG_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   endif()
   add_library(somme::${name} ALIAS somme_${name})
   set(view "${CMAKE_BINARY_DIR}/include/${name}")

@@ -181,7 +181,7 @@ void callMethod(ScriptRun& run, ByteReader&) {
   run.push(callIfFunction(run, run.member(object, name), object, std::move(arguments)));
 }
 
-constexpr std::array rows{
+constexpr std::array flowRows{
     ActionRow{Op::Push, pushValues},
     ActionRow{Op::Pop, popValue},
     ActionRow{Op::ConstantPool, setConstantPool},
@@ -201,7 +201,7 @@ constexpr std::array rows{
 }  // namespace
 
 std::span<const ActionRow> flowActions() {
-  return rows;
+  return flowRows;
 }
 
 }  // namespace platform::flash

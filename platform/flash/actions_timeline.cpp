@@ -129,7 +129,7 @@ void setTargetFromStack(ScriptRun& run, ByteReader&) {
   run.setTarget(run.popText());
 }
 
-constexpr std::array rows{
+constexpr std::array timelineRows{
     ActionRow{Op::NextFrame, nextFrame},
     ActionRow{Op::PreviousFrame, previousFrame},
     ActionRow{Op::Play, play},
@@ -170,7 +170,7 @@ bool callTimelineMethod(ScriptRun& run, Clip& clip, const QString& name,
 }
 
 std::span<const ActionRow> timelineActions() {
-  return rows;
+  return timelineRows;
 }
 
 }  // namespace platform::flash

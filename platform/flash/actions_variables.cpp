@@ -73,7 +73,7 @@ void targetPath(ScriptRun& run, ByteReader&) {
   }
 }
 
-constexpr std::array rows{
+constexpr std::array variableRows{
     ActionRow{Op::GetVariable, getVariable}, ActionRow{Op::SetVariable, setVariable},
     ActionRow{Op::DefineLocal, defineLocal}, ActionRow{Op::DefineLocal2, declareLocal},
     ActionRow{Op::GetProperty, getProperty}, ActionRow{Op::SetProperty, setProperty},
@@ -84,7 +84,7 @@ constexpr std::array rows{
 }  // namespace
 
 std::span<const ActionRow> variableActions() {
-  return rows;
+  return variableRows;
 }
 
 }  // namespace platform::flash

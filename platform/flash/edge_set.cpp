@@ -8,14 +8,14 @@ namespace platform::flash {
 
 namespace {
 
-constexpr double flatness = 0.1;  // pixels
+constexpr double edgeFlatness = 0.1;  // pixels
 
 // Nanoseconds for an edge: to gather and cover, and to sort where many lie in disorder.
 constexpr std::int64_t edgeWork = 30;
 constexpr std::int64_t sortWork = 100;
 
-constexpr double farthest = 1e8;  // pixels; nothing beyond is seen
-constexpr int places = 32;        // behind the point of Across
+constexpr double farthestSeen = 1e8;  // pixels; nothing beyond is seen
+constexpr int places = 32;            // behind the point of Across
 constexpr Across onePixel = Across(1) << places;
 
 // Where the sample of each row of samples lies in its pixel, in sixteenths and a half: the numbers
@@ -56,7 +56,7 @@ constexpr std::array<SampleMask, samples + 1> behind = [] {
 }();
 
 Across across(double pixels) {
-  return static_cast<Across>(std::clamp(pixels, -farthest, farthest) * double(onePixel));
+  return static_cast<Across>(std::clamp(pixels, -farthestSeen, farthestSeen) * double(onePixel));
 }
 
 }  // namespace
@@ -124,7 +124,7 @@ std::size_t EdgeSet::add(const Outline& outline, const QTransform& matrix, std::
   };
   const double scale = std::max(std::hypot(m11, m12), std::hypot(m21, m22));
   std::size_t pieces = 0;
-  flatten(outline, scale, flatness, [&](QPointF from, QPointF to) {
+  flatten(outline, scale, edgeFlatness, [&](QPointF from, QPointF to) {
     if (++pieces <= most) {
       addLine(map(from), map(to));
     }

@@ -11,12 +11,12 @@
 #include "platform/flash/accessible_movie.h"
 #include "platform/flash/movie_file.h"
 #include "platform/flash/player.h"
+#include "platform/flash/units.h"
 
 namespace platform::flash {
 
 namespace {
 
-constexpr double twips = 20;
 constexpr double slowest = 0.5;  // frames a second
 constexpr double fastest = 120;
 constexpr QRgb emptyBoard = 0xFFFFFFFF;
@@ -252,7 +252,7 @@ std::optional<QPointF> MovieView::stagePixel(QPointF position) const {
   if (!possible || !stage.contains(point)) {
     return std::nullopt;
   }
-  return (point - stage.topLeft()) / twips;
+  return (point - stage.topLeft()) / twipsPerPixel;
 }
 
 // What a move makes the movie say is posted: Qt makes moves up where a widget is shown or hidden,

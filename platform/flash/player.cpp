@@ -9,14 +9,9 @@
 #include "platform/flash/properties.h"
 #include "platform/flash/targets.h"
 #include "platform/flash/timeline.h"
+#include "platform/flash/units.h"
 
 namespace platform::flash {
-
-namespace {
-
-constexpr double twips = 20;
-
-}  // namespace
 
 Player::Player(std::shared_ptr<const Movie> movie, CommandSink onCommand, Budget::Clock clock)
     : budget_(std::move(clock)),
@@ -139,12 +134,12 @@ std::optional<QPointF> Player::clickPoint(const QString& name) const {
     const Container* hit = interactiveAt(stage_, middle);
     while (hit != nullptr && hit != child) hit = hit->parent;
     if (hit == nullptr) return std::nullopt;
-    return (middle - movie().stage.topLeft()) / twips;
+    return (middle - movie().stage.topLeft()) / twipsPerPixel;
   });
 }
 
 QPointF Player::toStage(QPointF position) const {
-  return position * twips + movie().stage.topLeft();
+  return position * twipsPerPixel + movie().stage.topLeft();
 }
 
 void Player::mouseMove(QPointF position) {

@@ -7,6 +7,7 @@
 #include "platform/flash/bounds.h"
 #include "platform/flash/stage.h"
 #include "platform/flash/targets.h"
+#include "platform/flash/units.h"
 
 namespace platform::flash {
 
@@ -18,9 +19,7 @@ constexpr std::array<QStringView, 19> names{
     u"_rotation",    u"_target",      u"_framesloaded", u"_name",        u"_droptarget",
     u"_url",         u"_highquality", u"_focusrect",    u"_soundbuftime"};
 
-constexpr double twips = 20;
 constexpr double percent = 100;
-constexpr double farthest = 1 << 23;  // twips
 constexpr double degree = std::numbers::pi / 180;
 
 // A matrix taken apart: lengths of the two axes and where they point, in radians.
@@ -63,7 +62,7 @@ void setSize(Container& of, Property property, double pixels, Budget& budget) {
   const double now = isWidth ? bounds.width() : bounds.height();
   if (now > 0 && pixels >= 0) {
     Axes axes(of.matrix);
-    (isWidth ? axes.scaleX : axes.scaleY) *= pixels * twips / now;
+    (isWidth ? axes.scaleX : axes.scaleY) *= pixels * twipsPerPixel / now;
     of.matrix = axes.at(of.matrix.dx(), of.matrix.dy());
   }
 }
@@ -102,17 +101,17 @@ Value placeProperty(const Stage& stage, const Container& of, Property property) 
   const Axes axes(of.matrix);
   switch (property) {
     case Property::X:
-      return of.matrix.dx() / twips;
+      return of.matrix.dx() / twipsPerPixel;
     case Property::Y:
-      return of.matrix.dy() / twips;
+      return of.matrix.dy() / twipsPerPixel;
     case Property::ScaleX:
       return axes.scaleX * percent;
     case Property::ScaleY:
       return axes.scaleY * percent;
     case Property::Width:
-      return boundsInParent(of, stage.budget()).width() / twips;
+      return boundsInParent(of, stage.budget()).width() / twipsPerPixel;
     case Property::Height:
-      return boundsInParent(of, stage.budget()).height() / twips;
+      return boundsInParent(of, stage.budget()).height() / twipsPerPixel;
     default:
       return axes.angleX / degree;
   }
@@ -159,7 +158,7 @@ void setPropertyOf(Stage& stage, Container& of, Property property, const Value& 
     return;
   }
   const double number = toNumber(value, stage.movie().version);
-  if (!std::isfinite(number) || std::abs(number) > farthest) {
+  if (!std::isfinite(number) || std::abs(number) > double(farthestTwip)) {
     return;
   }
   const QTransform& m = of.matrix;
@@ -168,10 +167,10 @@ void setPropertyOf(Stage& stage, Container& of, Property property, const Value& 
       of.visible = number != 0;
       return;
     case Property::X:
-      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), std::round(number * twips), m.dy()};
+      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), std::round(number * twipsPerPixel), m.dy()};
       break;
     case Property::Y:
-      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), std::round(number * twips)};
+      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), std::round(number * twipsPerPixel)};
       break;
     case Property::ScaleX:
     case Property::ScaleY:

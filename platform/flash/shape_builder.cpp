@@ -4,18 +4,12 @@
 #include <utility>
 
 #include "platform/flash/movie_error.h"
+#include "platform/flash/units.h"
 
 namespace platform::flash {
 
-namespace {
-
-// Further out nothing can be drawn, and a float still holds every twip.
-constexpr std::int64_t farthest = 1 << 23;
-
-}  // namespace
-
 ShapeBuilder::Point ShapeBuilder::checked(std::int64_t x, std::int64_t y) {
-  if (x < -farthest || x > farthest || y < -farthest || y > farthest) {
+  if (x < -farthestTwip || x > farthestTwip || y < -farthestTwip || y > farthestTwip) {
     throw MovieError("an edge leads too far away", 0);
   }
   return {static_cast<std::int32_t>(x), static_cast<std::int32_t>(y)};

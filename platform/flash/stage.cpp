@@ -15,7 +15,6 @@ constexpr std::int64_t placeWork = 2000;  // with what removing it will take
 constexpr std::int64_t visitWork = 200;
 constexpr std::int64_t recordWork = 50;
 constexpr std::int64_t queueWork = 50;
-constexpr std::int64_t lookUpWork = 200;
 constexpr std::size_t placeMemory = 600;  // bytes
 constexpr std::uint32_t rootId = 1;
 

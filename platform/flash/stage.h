@@ -91,6 +91,9 @@ class Stage {
   void rename(Container& clip, QString name);
 
  private:
+  // Nanoseconds to look a variable up, whose name may be written in capitals.
+  static constexpr std::int64_t lookUpWork = 200;
+
   std::unique_ptr<Instance> make(const Character& character);
   void enter(Container& parent, std::unique_ptr<Instance> instance);
   void bury(Instance& instance);

@@ -11,7 +11,6 @@ namespace {
 
 // Nanoseconds.
 constexpr std::int64_t handlerWork = 3;
-constexpr std::int64_t lookUpWork = 200;
 
 struct NamedEvent {
   ClipEvent event;

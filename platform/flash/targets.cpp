@@ -31,7 +31,7 @@ QStringView takeStep(QStringView& path) {
 // Nanoseconds.
 constexpr std::int64_t characterWork = 3;
 constexpr std::int64_t stepWork = 60;
-constexpr std::int64_t childWork = 15;
+constexpr std::int64_t compareWork = 15;
 
 QString pathFrom(const Stage& stage, const Instance& instance, QChar separator) {
   std::vector<const Instance*> steps;
@@ -55,7 +55,7 @@ Container* childNamed(const Stage& stage, const Container& parent, QStringView n
       stage.movie().version <= 6 ? Qt::CaseInsensitive : Qt::CaseSensitive;
   for (const auto& [depth, child] : parent.children) {
     const qsizetype compared = std::min(name.size(), child->name.size());
-    if (!stage.budget().spend(childWork + characterWork * compared)) {
+    if (!stage.budget().spend(compareWork + characterWork * compared)) {
       break;
     }
     if (child->kind != Instance::Kind::Graphic && name.compare(child->name, sensitivity) == 0) {

@@ -13,7 +13,7 @@ namespace {
 // Nanoseconds.
 constexpr std::int64_t frameWork = 20;
 constexpr std::int64_t commandWork = 300;
-constexpr std::int64_t childWork = 50;
+constexpr std::int64_t keepWork = 50;
 
 // What a command puts on a depth that holds nothing it could take over.
 Placement placementOf(const PlaceCommand& command, int frame, int index) {
@@ -113,7 +113,7 @@ bool isSame(const Instance& instance, const Placement& placement) {
 
 // Takes away what the plan does not know and brings what stays into its place.
 void keepCommon(Stage& stage, Clip& clip, const Plan& plan) {
-  stage.budget().spend(childWork * std::int64_t(clip.children.size()));
+  stage.budget().spend(keepWork * std::int64_t(clip.children.size()));
   std::vector<int> leaving;
   for (const auto& [depth, child] : clip.children) {
     const auto planned = plan.find(depth);
