@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QStandardPaths>
 #include <array>
+#include <optional>
 
 #include "app/modulo1.h"
 #include "app/shared/ambiente.h"
@@ -17,10 +18,12 @@
 #include "platform/devices/system_process_end.h"
 #include "platform/forms/appearance.h"
 #include "platform/forms/desktop_motion.h"
+#include "platform/forms/fonts.h"
 #include "platform/forms/qt_announcer.h"
 #include "platform/forms/qt_message_boxes.h"
 #include "platform/forms/qt_page_setup.h"
 #include "platform/forms/session_end.h"
+#include "platform/forms/window_system.h"
 #include "printing/nome_formato_carta.h"
 #include "printing/parole_pagina.h"
 
@@ -45,7 +48,10 @@ int main(int /*argc*/, char* argv[]) {
   // The program takes no arguments. The toolkit's own would change its look.
   int quanti = 1;
   std::array<char*, 2> soloIlNome{argv[0], nullptr};
-  QApplication programma(quanti, soloIlNome.data());
+  std::optional<QApplication> programma;
+  platform::onBestWindowSystem([&] { programma.emplace(quanti, soloIlNome.data()); });
+  // A program that is carried about brings its own.
+  platform::addFontsIn(QCoreApplication::applicationDirPath() + QStringLiteral("/caratteri"));
   platform::applyAppearance();
   somme::PreparaImmagini();
 

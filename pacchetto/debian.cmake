@@ -24,11 +24,15 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 # Linked libraries are found by looking; the others are named here. Without its fonts the program
 # would not look as it was drawn; without the libraries that it loads at the first sound and the
-# first print it beeps and prints into files.
+# first print it beeps and prints into files; without qt6-wayland it needs an X server.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-sil-andika, fonts-liberation2 | fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-  "libcups2 | libcups2t64, libsdl2-2.0-0, xdg-utils, evince | pdf-viewer, at-spi2-core")
+  "libcups2 | libcups2t64, libsdl2-2.0-0, qt6-wayland, xdg-utils, evince | pdf-viewer, at-spi2-core")
 file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/epoca.cmake" "set(ENV{SOURCE_DATE_EPOCH} ${SOMME_EPOCA})\n")
+if(SOMME_ARCH)
+  set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${SOMME_ARCH})
+  file(APPEND "${CMAKE_CURRENT_BINARY_DIR}/epoca.cmake" "set(ENV{DEB_HOST_ARCH} ${SOMME_ARCH})\n")
+endif()
 set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_BINARY_DIR}/epoca.cmake")
 include(CPack)

@@ -1,5 +1,7 @@
 #include "platform/forms/fonts.h"
 
+#include <QDir>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QStringList>
 #include <algorithm>
@@ -13,6 +15,13 @@ const QString kTahoma = QStringLiteral("Tahoma");
 const QString kArial = QStringLiteral("Arial");
 
 }  // namespace
+
+void addFontsIn(const QString& folder) {
+  const QDir fonts(folder, QStringLiteral("*.ttf"), QDir::Name, QDir::Files);
+  for (const QString& file : fonts.entryList()) {
+    QFontDatabase::addApplicationFont(fonts.filePath(file));
+  }
+}
 
 QFont fontNamed(const QString& name, double pixels, bool bold) {
   static const QStringList kLikeTahoma{kTahoma, QStringLiteral("Andika"),

@@ -8,6 +8,10 @@
 
 namespace platform {
 
+// Takes the fonts that lie in a folder (.ttf files) beside those that are installed; none where
+// there is no such folder.
+void addFontsIn(const QString& folder);
+
 // The font of a design row at so many logical pixels. Tahoma and Arial where they are installed;
 // else Andika, a face made for young readers, and Liberation Sans, which has Arial's widths.
 [[nodiscard]] QFont fontOf(const FontSpec& spec, double pixels);

@@ -1,11 +1,11 @@
 #!/usr/bin/python3
 """Sends keys to a window with a menu, a message box and a dialog, and looks which of them arrive.
 
-    primo_tasto.py <program>
+    primo_tasto.py <program> [<desktop>]
 
 The first key in what Alt and a letter have opened acts, also while Alt is still held; a key that is
-held over the opening does not act there; Esc closes the dialog after it has closed a list. Ends with
-0 when all of this holds.
+held over the opening does not act there; Esc closes the dialog after it has closed a list. The desktop
+is one of schermo_wayland.py, "x11" where none is named. Ends with 0 when all of this holds.
 """
 
 import os
@@ -16,7 +16,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "tools", "prova"))
 
-from schermo import Schermo  # noqa: E402
+from schermo_wayland import schermo as schermo_di  # noqa: E402
 
 # What is done, by xdotool, and the lines that it must have brought by its end, in order.
 PROVE = [
@@ -49,17 +49,19 @@ PAUSA = 0.5  # seconds after each key; a busy machine shows its windows late
 class Tasti:
     """The program and the lines that it writes, as they come."""
 
-    def __init__(self, schermo, programma):
+    def __init__(self, schermo, programma, a_fuoco):
+        """a_fuoco: the window is one of the display's own, and has to be given the keyboard."""
         self._processo = schermo.avvia(programma, stdout=subprocess.PIPE, text=True)
         self.righe = []
         self._pronta = threading.Event()
         threading.Thread(target=self._leggi, daemon=True).start()
         if not self._pronta.wait(30):
             raise SystemExit("the window does not come up")
-        subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Tasti",
-                        "windowfocus", "--sync"], check=True, timeout=30,
-                       stdout=subprocess.DEVNULL)
-        time.sleep(PAUSA)
+        if a_fuoco:
+            subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Tasti",
+                            "windowfocus", "--sync"], check=True, timeout=30,
+                           stdout=subprocess.DEVNULL)
+        time.sleep(PAUSA if a_fuoco else 4 * PAUSA)
 
     def _leggi(self):
         for riga in self._processo.stdout:
@@ -92,8 +94,9 @@ def fai(tasti, gesti, attese):
 
 def main():
     sbagliate = 0
-    with Schermo(800, 600) as schermo:
-        tasti = Tasti(schermo, sys.argv[1])
+    programma, nome_schermo = (*sys.argv[1:], "x11")[:2]
+    with schermo_di(nome_schermo, 800, 600) as schermo:
+        tasti = Tasti(schermo, programma, nome_schermo == "x11")
         for nome, gesti, attese in PROVE:
             venute = fai(tasti, gesti, attese)
             giusto = venute == attese

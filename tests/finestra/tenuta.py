@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Holds Space, Enter and an access key down on a real display and counts what comes of it.
 
-    tenuta.py <program> [--desktop NAME] [--volte N] [--secondi S]
+    tenuta.py <program> [--schermo NAME] [--desktop NAME] [--volte N] [--secondi S] [--a-riposo]
 
 Each hold must be exactly one click, at a fast repeat rate, idle and with both processors busy: Enter
 and the access key at the press, Space at the release. Ends with 0 when all were.
@@ -16,7 +16,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "tools", "prova"))
 
-from schermo import Schermo  # noqa: E402
+from schermo_wayland import schermo as schermo_di  # noqa: E402
 
 # Key by key: what is pressed together, and whether the click comes at the press.
 TASTI = [("space", ["space"], False), ("Return", ["Return"], True), ("Alt+C", ["alt", "c"], True)]
@@ -31,17 +31,19 @@ def carichi(quanti):
 class Conta:
     """The program that counts, and its clicks as they come."""
 
-    def __init__(self, schermo, programma):
+    def __init__(self, schermo, programma, a_fuoco):
+        """a_fuoco: the window is one of the display's own, and has to be given the keyboard."""
         self._processo = schermo.avvia(programma, stdout=subprocess.PIPE, text=True)
         self.clic = 0
         self._pronta = threading.Event()
         threading.Thread(target=self._leggi, daemon=True).start()
         if not self._pronta.wait(30):
             raise SystemExit("the window does not come up")
-        subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Conta",
-                        "windowfocus", "--sync"], check=True, timeout=30,
-                       stdout=subprocess.DEVNULL)
-        time.sleep(0.3)
+        if a_fuoco:
+            subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Conta",
+                            "windowfocus", "--sync"], check=True, timeout=30,
+                           stdout=subprocess.DEVNULL)
+        time.sleep(0.3 if a_fuoco else 2)
 
     def _leggi(self):
         for riga in self._processo.stdout:
@@ -70,17 +72,19 @@ def tieni(conta, tasti, secondi):
 def main():
     opzioni = argparse.ArgumentParser()
     opzioni.add_argument("programma")
+    opzioni.add_argument("--schermo", default="x11", help="x11, or as in schermo_wayland.py")
     opzioni.add_argument("--desktop", default="")
+    opzioni.add_argument("--a-riposo", action="store_true", help="not with both processors busy")
     opzioni.add_argument("--volte", type=int, default=2)
     opzioni.add_argument("--secondi", type=float, default=3)
     scelte = opzioni.parse_args()
 
     sbagliate = 0
-    with Schermo(800, 600) as schermo:
+    with schermo_di(scelte.schermo, 800, 600) as schermo:
         os.environ["XDG_CURRENT_DESKTOP"] = scelte.desktop
         subprocess.run(["xset", "r", "rate", *RIPETIZIONE], check=True, timeout=30)
-        conta = Conta(schermo, scelte.programma)
-        for occupati in (0, os.cpu_count() or 2):
+        conta = Conta(schermo, scelte.programma, scelte.schermo == "x11")
+        for occupati in (0,) if scelte.a_riposo else (0, os.cpu_count() or 2):
             pesi = carichi(occupati)
             try:
                 for nome, tasti, alla_pressione in TASTI:
@@ -88,7 +92,7 @@ def main():
                         prima, tutti = tieni(conta, tasti, scelte.secondi)
                         giusto = tutti == 1 and prima == (1 if alla_pressione else 0)
                         sbagliate += not giusto
-                        print(f"{scelte.desktop or 'no desktop'}, {occupati} busy, {nome}: {prima}"
+                        print(f"{scelte.schermo}, {scelte.desktop or 'no desktop'}, {occupati} busy, {nome}: {prima}"
                               f" before the release, {tutti} in all {'' if giusto else 'WRONG'}",
                               flush=True)
             finally:

@@ -88,12 +88,16 @@ class Schermo:
 
         Gives a Processo.
         """
+        opzioni.setdefault("env", self._per_i_programmi())
         try:
             processo = Processo(comando, stdin=subprocess.DEVNULL, **opzioni)
         except OSError as errore:
             raise ErroreSchermo(f"{comando[0]}: {errore.strerror}") from errore
         self._processi.append(processo)
         return processo
+
+    def _per_i_programmi(self):
+        """The environment of what is started here; None for that of this process."""
 
     def copia(self, programma):
         """A copy of the program with its folder, which goes with the desktop.

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QTimerEvent>
 #include <QWindow>
@@ -11,6 +10,7 @@
 
 #include "platform/forms/forms.h"
 #include "platform/forms/ground.h"
+#include "platform/forms/keys/key_codes.h"
 #include "platform/forms/keys/keyboard_state.h"
 #include "platform/forms/loaded_form.h"
 #include "platform/forms/press_event.h"
@@ -19,6 +19,10 @@
 namespace platform {
 
 namespace {
+
+// Where the desktop cannot be asked what is down, a release on the way from window to window may be
+// told to none of them: a key then counts as held over for this long after the last sign of it.
+constexpr std::chrono::milliseconds kUntold{400};
 
 // What takes a press that no release belongs to.
 constexpr int kNobody = -1;
@@ -40,44 +44,12 @@ KeyInput inputOf(const QKeyEvent& event) {
           .arrival = now()};
 }
 
-// A held key may go on writing and moving in a text box, as everywhere.
-bool mayRepeat(const QKeyEvent& event) {
-  if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) == nullptr) return false;
-  switch (event.key()) {
-    case Qt::Key_Backspace:
-    case Qt::Key_Delete:
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-      return true;
-    default:
-      return event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
-  }
-}
-
-bool isEnter(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
-bool isModifier(int key) {
-  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
-         key == Qt::Key_AltGr || key == Qt::Key_Meta;
-}
-
 // Where a key is brought: an open menu has the keyboard to itself, though the focus stays with what
 // lies below it. Null where nothing takes it.
 QWidget* hearer() {
   QWidget* menu = QApplication::activePopupWidget();
   if (menu == nullptr) return QApplication::focusWidget();
   return menu->focusWidget() != nullptr ? menu->focusWidget() : menu;
-}
-
-// The character that a key stands for, also where Alt keeps it from being written; null for a key
-// that writes none, whose code lies beyond all characters.
-QChar characterOf(const QKeyEvent& event) {
-  constexpr int kLastCharacter = 0xFFFF;
-  const QString text = event.text();
-  if (!text.isEmpty() && text[0].isPrint()) return text[0];
-  return event.key() <= kLastCharacter ? QChar(event.key()) : QChar();
 }
 
 }  // namespace
@@ -169,12 +141,17 @@ bool KeyGuard::mayGoOn(const QWindow& window, int destination) {
 bool KeyGuard::isBlocked(const QWindow& window) {
   if (isShut(window)) return true;
   if (isMainWindow(window) || !state_.anyHeldOver()) return false;
-  if (const auto down = keysDownNow()) state_.stillHeldOver(*down);
+  if (const auto down = keysDownNow()) {
+    state_.stillHeldOver(*down);
+  } else if (now() - lastSign_ > kUntold) {
+    state_.stillHeldOver({});
+  }
   return state_.anyHeldOver();
 }
 
 bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
   if (isModifier(event.key())) return false;
+  if (event.isAutoRepeat()) lastSign_ = now();
   const bool blocked = isBlocked(window);
   // With Alt or Ctrl it is the press that acts; no release belongs to it. Enter alone means the
   // same with and without them.
@@ -271,7 +248,8 @@ void KeyGuard::windowChanged(QWindow* window) {
   focus_ = window;
   for (const HeldKey& key : held) letGo_.push_back(key.id);
   if (window == nullptr) return;
-  state_.heldOver(keysDownNow().value_or(letGo_), now());
+  lastSign_ = now();
+  state_.heldOver(keysDownNow().value_or(letGo_), lastSign_);
   letGo_.clear();
 }
 

@@ -61,6 +61,8 @@ class KeyGuard final : public QObject {
   const Window& window_;
   KeyState state_;
   QPointer<QWindow> focus_;
+  // When a window of ours got the keyboard, or a repeat last showed a key to be down.
+  std::chrono::milliseconds lastSign_{0};
   std::vector<KeyId> letGo_;  // since a window of ours last had the keyboard
   std::vector<std::pair<KeyId, std::unique_ptr<QKeyEvent>>> heldBack_;  // releases
   int timer_ = 0;

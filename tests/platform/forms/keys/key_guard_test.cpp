@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 #include <QWindow>
@@ -185,6 +186,30 @@ class KeyGuardTest : public QObject {
     // The release of the Enter that closed the box is not the form's.
     stage.release(Qt::Key_Return);
     QCOMPARE(stage.boxes.mostrati.size(), std::size_t(1));
+  }
+
+  void aKeyLetGoInAnotherProgramKeepsNoBoxDeaf() {
+    Stage stage;
+    TrialForm& form = stage.show(kOne);
+    platform::QtMessageBoxes real([] { return platform::ButtonWords{}; },
+                                  [&] { return &stage.runtime->window(); });
+    stage.boxes.mentreAperto = [&] { real.show(stage.boxes.mostrati.back()); };
+    form.First.onClick([&] { stage.runtime->showBox({.text = QStringLiteral("Look")}); });
+    form.First.setFocus();
+    bool closed = false;
+    QTimer::singleShot(0, this, [&] {
+      const QPointer<QMessageBox> box = openBox();
+      QWindow* window = box->windowHandle();
+      // The keyboard goes to another program, which gets the release, and comes back.
+      Q_EMIT qApp->focusWindowChanged(nullptr);
+      Q_EMIT qApp->focusWindowChanged(window);
+      QTest::qWait(500);
+      QTest::simulateEvent(window, true, Qt::Key_Return, {}, {}, false);
+      closed = !box->isVisible();
+      if (!closed) box->close();
+    });
+    stage.press(Qt::Key_Return);
+    QVERIFY(closed);
   }
 
   void digitsAndBackspaceMayRepeatInATextBoxAndNothingElse() {

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <functional>
+
+namespace platform {
+
+// Makes the application, by `make`, on the window system on which the program is at its best, where
+// the desktop has more than one and nobody has chosen (QT_QPA_PLATFORM). What it starts later takes
+// its own choice.
+void onBestWindowSystem(const std::function<void()>& make);
+
+}  // namespace platform

@@ -1,0 +1,10 @@
+#include "platform/forms/window_system.h"
+
+namespace platform {
+
+// There is one.
+void onBestWindowSystem(const std::function<void()>& make) {
+  make();
+}
+
+}  // namespace platform

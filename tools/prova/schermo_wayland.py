@@ -1,0 +1,132 @@
+"""A Wayland desktop of its own for a program, in a window that fills the virtual display.
+
+Mouse and keys reach the display as on any other, and the compositor hands them on; pictures of the
+display are pictures of the desktop.
+"""
+
+import os
+import re
+import subprocess
+import time
+
+from schermo import ErroreSchermo, Schermo
+
+# How keys repeat when they are held: so often a second, after so many milliseconds.
+RIPETIZIONE = 60, 150
+WESTON = """[core]
+xwayland={xwayland}
+idle-time=0
+[shell]
+panel-position=none
+locking=false
+animation=none
+startup-animation=none
+[keyboard]
+repeat-rate={volte}
+repeat-delay={dopo}
+[output]
+name=X1
+mode={misura}
+scale={scala}
+"""
+SWAY = """xwayland {xwayland}
+output X11-1 mode {misura} position 0 0 scale {scala}
+input * repeat_rate {volte}
+input * repeat_delay {dopo}
+default_border none
+default_floating_border none
+focus_follows_mouse no
+"""
+PAZIENZA = 30
+
+
+class SchermoWayland(Schermo):
+    """As Schermo; programs are started as clients of the compositor.
+
+    compositore: "weston", "sway" or "mutter". x: they are clients of its X server instead. scala: pixels
+    of the display for one of a program's; weston takes whole numbers alone.
+    """
+
+    def __init__(self, larghezza=1366, altezza=768, compositore="weston", x=False, scala=1):
+        super().__init__(larghezza, altezza)
+        self._mode = f"{larghezza}x{altezza}"
+        self._compositore, self._x, self._scala = compositore, x, scala
+        self._diversi = {}
+
+    def __str__(self):
+        return f"{self._compositore}{', XWayland' if self._x else ''}, {round(100 * self._scala)} %"
+
+    def _per_i_programmi(self):
+        return {**os.environ, **self._diversi} if self._diversi else None
+
+    def _avvia_finestre(self):
+        comando, ambiente = getattr(self, "_" + self._compositore)()
+        registro = os.path.join(self._cartella, "compositore")
+        with open(registro, "w", encoding="utf-8") as file:
+            self.avvia(*comando, stdout=file, stderr=subprocess.STDOUT, env={**os.environ, **ambiente})
+        self._diversi = {"WAYLAND_DISPLAY": self._attendi(self._presa, registro),
+                         "XDG_SESSION_TYPE": "wayland",
+                         "DISPLAY": self._attendi(self._x_di_dentro, registro) if self._x else "",
+                         "QT_QPA_PLATFORM": "xcb" if self._x else "wayland"}
+        finestra = self._attendi(self._finestra, registro)
+        subprocess.run(["xdotool", "windowmove", finestra, "0", "0", "windowfocus", finestra], check=True,
+                       timeout=PAZIENZA)
+
+    def _configurazione(self, testo, si, no):
+        percorso = os.path.join(self._cartella, "configurazione")
+        volte, dopo = RIPETIZIONE
+        with open(percorso, "w", encoding="utf-8") as file:
+            file.write(testo.format(xwayland=si if self._x else no, misura=self._mode,
+                                    scala=self._scala, volte=volte, dopo=dopo))
+        return percorso
+
+    def _weston(self):
+        return ["weston", "--backend=x11-backend.so", "--use-pixman", "--config="
+                + self._configurazione(WESTON, "true", "false")], {}
+
+    def _sway(self):
+        return ["sway", "--config", self._configurazione(SWAY, "force", "disable")], {
+            "WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1"}
+
+    def _mutter(self):
+        return ["mutter", "--nested", "--wayland", *([] if self._x else ["--no-x11"])], {
+            "MUTTER_DEBUG_DUMMY_MODE_SPECS": self._mode,
+            "MUTTER_DEBUG_DUMMY_MONITOR_SCALES": str(self._scala)}
+
+    def _presa(self, _):
+        return next((n for n in os.listdir(self._cartella) if re.fullmatch(r"wayland-\d+", n)), None)
+
+    @staticmethod
+    def _x_di_dentro(detto):
+        """The compositor says the number, or has its server listen at the next free one."""
+        trovato = re.search(r"(?:listening on display|xwayland.*on|public X11 display) (:\d+)", detto)
+        return trovato and trovato[1]
+
+    @staticmethod
+    def _finestra(_):
+        """What lies under the pointer, which begins in the middle of the display; None while nothing does."""
+        detto = subprocess.run(["xdotool", "getmouselocation", "--shell"], capture_output=True, text=True,
+                               check=False, timeout=PAZIENZA).stdout
+        trovata = re.search(r"^WINDOW=(\d+)$", detto, re.M)
+        radice = subprocess.run(["xdotool", "search", "--maxdepth", "0", ".*"], capture_output=True, text=True,
+                                check=False, timeout=PAZIENZA).stdout.split()
+        return trovata and trovata[1] not in radice and trovata[1]
+
+    def _attendi(self, domanda, registro):
+        fine = time.monotonic() + PAZIENZA
+        while time.monotonic() < fine:
+            with open(registro, encoding="utf-8", errors="replace") as file:
+                detto = file.read()
+            risposta = domanda(detto)
+            if risposta:
+                return risposta
+            time.sleep(0.05)
+        raise ErroreSchermo(f"the compositor ({self._compositore}) does not come up:\n{detto}")
+
+
+def schermo(nome, larghezza=1366, altezza=768, scala=1):
+    """A desktop by its name: "x11", a compositor, or one with "+x", of whose X server programs are clients."""
+    if nome == "x11":
+        return Schermo(larghezza, altezza)
+    compositore, _, x = nome.partition("+")
+    return SchermoWayland(larghezza, altezza, compositore, x == "x", scala)
