@@ -215,7 +215,8 @@ void GeneraEntro99ConESenzaCambio(Caso& caso, Chance& chance) {
   DividiSomma(caso, chance, Casuale(chance, 99) + 1);
 }
 
-// What is drawn again adds tens: settled, and unlike its namesakes of three and four digits.
+// What is drawn again adds tens, unlike in its namesakes of three and four digits: kept
+// (docs/oddities.md).
 void GeneraEntro99SoloUnita(Caso& caso, Chance& chance) {
   AggiungiInUnPosto(caso, chance, {.quanti = 98, .posto = 1, .limite = 99, .postoDiNuovo = 10});
 }

@@ -10,8 +10,8 @@ namespace somme {
 // of earlier cases, and none can fail. How a case is drawn, and in which order, stands with the
 // rules in the implementation.
 //
-// The three "SenzaCambio" routines do not return for a sum whose digits are all 0 or 1: that is
-// settled and stays (see the rule).
+// The three "SenzaCambio" routines do not return for a sum whose digits are all 0 or 1: kept
+// (docs/oddities.md).
 using Generatore = void (*)(Caso& caso, platform::Chance& chance);
 
 void GeneraEntro10(Caso& caso, platform::Chance& chance);

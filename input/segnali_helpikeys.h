@@ -17,7 +17,8 @@ struct CellaToccata {
 class SegnaliHelpiKeys {
  public:
   // Not a state of the connection but a flip: every "OK" inverts it. The "OK" that answers a form's
-  // second activation clears it, and reports are dropped until one more comes. Settled.
+  // second activation clears it, and reports are dropped until one more comes: kept
+  // (docs/oddities.md).
   bool HelpiKeysConnesso = false;
 
   enum class Tipo {

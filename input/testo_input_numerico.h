@@ -51,7 +51,8 @@ class TestoInputNumerico final : public platform::UserControl {
   void Reimposta();
   // Back to editing: the input box is shown and takes the focus.
   void TestoPerInput();
-  // Shows the input box, as settled, whatever its name says; the focus stays where it is.
+  // Shows the input box, whatever its name says: kept (docs/oddities.md). The focus stays where it
+  // is.
   void TestoPerOutput();
   // As if Enter had been released in the input box. Throws RunTimeError(Overflow) for a number that
   // a currency cannot hold.

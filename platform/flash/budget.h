@@ -48,7 +48,6 @@ class Budget {
     nextLook_ = 0;
   }
   [[nodiscard]] bool isSpent() const { return left_ <= 0; }
-  [[nodiscard]] std::int64_t workLeft() const { return left_; }
 
  private:
   void look();

@@ -9,7 +9,7 @@
 namespace prova {
 
 // What has been done to the world around the program, so that a run-time error can be told from a
-// defect: these are its settled answers.
+// defect: these are the answers that it owes.
 struct Disturbi {
   bool rete = false;       // HelpiKeys refused, kept silent or went away
   bool stampante = false;  // a printer was missing or failed

@@ -5,6 +5,7 @@
 
 The commands are those of a newcomer, "./run" where none is given. What a command needs and does not
 install by itself is missing there, and makes it fail. The tree goes at the end; its pictures stay.
+Ends with 77 where no fresh Debian can be made.
 """
 
 import os
@@ -24,6 +25,7 @@ for cosa in sys dev dev/pts dev/shm; do mount --bind "/$cosa" "$1/$cosa" || exit
 mount -t proc proc "$1/proc" || exit 1
 exec chroot "$1" sh -c "cd /opt/clone && $2"
 """
+NON_QUI = 77  # the exit status that says so
 AMBIENTE = {"PATH": "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin", "HOME": "/tmp",
             "LC_ALL": "C.UTF-8"}
 
@@ -59,7 +61,7 @@ def main():
                 chiama(albero, comando)
         except SenzaDebian as perche:
             print(f"There is no fresh Debian to be had here: {perche}", file=sys.stderr)
-            return 0
+            return NON_QUI
         except Errore as errore:
             print(f"Failed: {errore}", file=sys.stderr)
             return 1
