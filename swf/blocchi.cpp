@@ -5,14 +5,22 @@
 namespace somme::filmati {
 namespace {
 
+using swf::Colore;
 using swf::Filmato;
 using swf::Forma;
 using swf::LineaTempo;
 using swf::Percorso;
 using swf::Riempimento;
 
-/// The lines between the units: fine, that a flat does not turn dark, with a stronger one after the
-/// fifth, that a child need not count to ten.
+constexpr Colore kCiglio{214, 255, 206};
+
+/// The same colour, seen through.
+constexpr Colore velo(Colore colore, double quanto) {
+  return {colore.rosso, colore.verde, colore.blu, static_cast<std::uint8_t>(255 * quanto)};
+}
+
+/// The lines between the units: fine and half seen through, that a flat does not turn dark, with a
+/// stronger one after the fifth, that a child need not count to ten.
 Percorso griglia(const Specie& specie, double lato, bool meta) {
   const double larghezza = specie.colonne * lato;
   const double altezza = specie.righe * lato;
@@ -24,30 +32,43 @@ Percorso griglia(const Specie& specie, double lato, bool meta) {
   return linee;
 }
 
+/// A light edge inside the outline: by it a flat is told from the one that it lies over.
+Percorso ciglio(const Specie& specie, double lato, double orlo) {
+  return Percorso().rettangoloTondo(
+      {orlo, orlo, specie.colonne * lato - 2 * orlo, specie.righe * lato - 2 * orlo}, lato * 0.1);
+}
+
+/// A short white line near the upper left corner, longer on what is wider.
+Percorso luce(const Specie& specie, double lato) {
+  const double x = lato * (specie.colonne > 1 ? 0.9 : 0.34);
+  const double lunga = lato * (specie.colonne > 1 ? 2.2 : 0.26);
+  const double y = lato * (specie.colonne > 1 ? 0.6 : 0.36);
+  return Percorso().vai({x, y}).linea({x + lunga, y});
+}
+
 }  // namespace
 
 Forma blocco(const Specie& specie, double lato) {
-  const double altezza = specie.righe * lato;
-  const swf::Rettangolo tutto{0, 0, specie.colonne * lato, altezza};
+  const Percorso bordo =
+      Percorso().rettangoloTondo({0, 0, specie.colonne * lato, specie.righe * lato}, lato * 0.2);
   // On boards with small blocks the lines stay wide enough to be seen in a small window.
-  const double fine = std::max(lato / 18, 0.6);
-  const double forte = std::max(lato / 10, 1.0);
-  Percorso luci;
-  for (int i = 0; i < specie.colonne; ++i)
-    luci.rettangolo({i * lato + lato * 0.14, 0, lato * 0.18, altezza});
+  const double orlo = std::max(lato * 0.1, 1.4);
+  const double fine = std::max(lato / 18, 0.8);
 
   Forma forma;
-  forma.dipingi(Percorso().rettangolo(tutto), Riempimento::tinta(specie.tinta.piena));
-  forma.dipingi(luci, Riempimento::tinta(specie.tinta.luce));
+  forma.dipingi(bordo, Riempimento::tinta(specie.tinta));
   if (specie.righe > 1) {
-    forma.traccia(griglia(specie, lato, false), {fine, specie.tinta.segno});
-    forma.traccia(griglia(specie, lato, true), {forte, specie.tinta.segno});
+    const double traspare = specie.colonne > 1 ? 0.4 : 0.75;
+    forma.traccia(griglia(specie, lato, false), {fine, velo(kContorno, traspare)});
+    forma.traccia(griglia(specie, lato, true), {fine * 1.3, velo(kContorno, 0.85)});
   }
-  forma.traccia(Percorso().rettangolo(tutto), {forte, specie.tinta.segno});
+  if (specie.colonne > 1) forma.traccia(ciglio(specie, lato, orlo), {orlo, kCiglio});
+  forma.traccia(luce(specie, lato), {lato * 0.18, velo({255, 255, 255}, 0.75)});
+  forma.traccia(bordo, {orlo, kContorno});
   return forma;
 }
 
-LineaTempo bloccoCheCambia(Filmato& filmato, const Specie& specie, const Tinta& nuova, double lato,
+LineaTempo bloccoCheCambia(Filmato& filmato, const Specie& specie, Colore nuova, double lato,
                            int fotogrammi) {
   const auto prima = filmato.definisci(blocco(specie, lato));
   const auto dopo = filmato.definisci(blocco({specie.colonne, specie.righe, nuova}, lato));

@@ -4,36 +4,33 @@
 
 namespace somme::filmati {
 
-/// The colours of one kind of block or bead. `piena` is that of the button that puts such a block.
-struct Tinta {
-  swf::Colore piena;
-  swf::Colore luce;   ///< the side turned to the light
-  swf::Colore segno;  ///< edges and grid
-};
-
-inline constexpr Tinta kVerde{{0, 255, 0}, {140, 255, 130}, {0, 100, 0}};
-inline constexpr Tinta kRosso{{255, 0, 0}, {255, 150, 135}, {115, 0, 0}};
-inline constexpr Tinta kBlu{{0, 0, 255}, {130, 160, 255}, {0, 0, 95}};
+/// Blocks are of one hand with the pictures on buttons and sheets (immagini/README.md): the same
+/// colour for each kind, one outline for all, round corners, a white light at the upper left.
+inline constexpr swf::Colore kVerde{93, 220, 90};
+inline constexpr swf::Colore kRosso{255, 90, 82};
+inline constexpr swf::Colore kBlu{74, 151, 245};
+inline constexpr swf::Colore kContorno{24, 33, 59};
 
 /// The three kinds of block by how many units stand side by side and one upon the other.
 struct Specie {
   int colonne;
   int righe;
-  Tinta tinta;
+  swf::Colore tinta;
 };
 
 inline constexpr Specie kUnita{1, 1, kBlu};
 inline constexpr Specie kLungo{1, 10, kRosso};
 inline constexpr Specie kPiatto{10, 10, kVerde};
 
-/// A block with its corner at the origin, its units `lato` pixels wide. Its look is made so that
-/// ten units standing on each other look like a long, and ten longs side by side like a flat.
+/// A block with its corner at the origin, its units `lato` pixels wide; half the width of its
+/// outline, which is the same for all kinds, stands outside. Ten units standing on each other look
+/// nearly like a long, and ten longs side by side like a flat.
 [[nodiscard]] swf::Forma blocco(const Specie& specie, double lato);
 
 /// A clip that shows a block and can turn into the colour of the next kind: at rest on frame 1,
 /// played from frame 2 it takes that colour in as many frames as asked for and stays so. Ten such
 /// blocks close together are the picture of one of the next kind.
 [[nodiscard]] swf::LineaTempo bloccoCheCambia(swf::Filmato& filmato, const Specie& specie,
-                                              const Tinta& nuova, double lato, int fotogrammi);
+                                              swf::Colore nuova, double lato, int fotogrammi);
 
 }  // namespace somme::filmati

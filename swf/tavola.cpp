@@ -27,10 +27,9 @@ std::vector<swf::Punto> aCinque(int quanti, swf::Punto primo, swf::Punto passo, 
   return posti;
 }
 
-void riquadro(swf::Forma& fondo, const swf::Rettangolo& dove, const Tinta& tinta) {
+void riquadro(swf::Forma& fondo, const swf::Rettangolo& dove, swf::Colore tinta) {
   fondo.dipingi(swf::Percorso().rettangoloTondo(dove, 6),
-                swf::Riempimento::tinta(diluito(tinta.segno, 0.06)),
-                swf::Penna{1, diluito(tinta.segno, 0.30)});
+                swf::Riempimento::tinta(diluito(tinta, 0.08)), swf::Penna{1, diluito(tinta, 0.6)});
 }
 
 void schiera(swf::LineaTempo& scena, const Fila& fila, swf::Carattere aspetto, int profondita) {

@@ -24,8 +24,11 @@ struct Fila {
 [[nodiscard]] std::vector<swf::Punto> aCinque(int quanti, swf::Punto primo, swf::Punto passo,
                                               swf::Punto gruppo);
 
-/// A pale ground behind the blocks of one kind, with a rim of the same hue.
-void riquadro(swf::Forma& fondo, const swf::Rettangolo& dove, const Tinta& tinta);
+/// What the board's trays stand on, and what lies beside the board where its place is wider.
+inline constexpr swf::Colore kFondoTavola{222, 229, 240};
+
+/// A tray for the blocks of one kind: a pale ground with a rim of the same hue.
+void riquadro(swf::Forma& fondo, const swf::Rettangolo& dove, swf::Colore tinta);
 
 /// Puts a clip for every place of a row on the scene, from depth `profondita` up; each shows
 /// `aspetto`.

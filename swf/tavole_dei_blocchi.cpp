@@ -22,8 +22,8 @@ constexpr int kCustodi = 400;
 constexpr double kCadenza = 25;
 
 /// Boards have the size of the labels that hold their place on the form, in pixels.
-constexpr Filmato::Palco kTavolaPiccola{305, 265, kCadenza, {255, 255, 255}};
-constexpr Filmato::Palco kTavolaGrande{697, 281, kCadenza, {255, 255, 255}};
+constexpr Filmato::Palco kTavolaPiccola{305, 265, kCadenza, kFondoTavola};
+constexpr Filmato::Palco kTavolaGrande{697, 281, kCadenza, kFondoTavola};
 
 /// Frame 51 is where the form looks for the second change.
 constexpr int kFotogrammaCambioDaH = 51;
@@ -57,14 +57,14 @@ void riposa(Filmato& filmato) {
 }  // namespace
 
 Filmato dau() {
-  constexpr double kLato = 18;
-  const Fila lunghi{kLungo, "da", aCinque(9, {12, 42}, {24, 0}, {128, 0})};
-  const Fila unita{kUnita, "u", aCinque(9, {250, 204}, {0, -24}, {27, 0})};
+  constexpr double kLato = 20;
+  const Fila lunghi{kLungo, "da", aCinque(9, {10, 32.5}, {24, 0}, {128, 0})};
+  const Fila unita{kUnita, "u", aCinque(9, {247, 212.5}, {0, -27}, {28, 0})};
 
   Filmato filmato(kTavolaPiccola);
   Forma fondo;
-  riquadro(fondo, {3, 4, 236, 257}, kRosso);
-  riquadro(fondo, {243, 4, 59, 257}, kBlu);
+  riquadro(fondo, {3, 3, 234, 259}, kRosso);
+  riquadro(fondo, {240, 3, 62, 259}, kBlu);
   filmato.scena().poni(kSottoTutto, filmato.definisci(fondo));
   schiera(filmato.scena(), lunghi, filmato.definisci(fermo(filmato, kLungo, kLato)), kLunghi);
   schiera(filmato.scena(), unita, filmato.definisci(fermo(filmato, kUnita, kLato)), kLeUnita);
@@ -73,16 +73,18 @@ Filmato dau() {
 }
 
 Filmato hdau() {
-  constexpr double kLato = 5.5;
-  const Fila piatti{kPiatto, "h", aCinque(9, {7, 12}, {59, 0}, {0, 63})};
-  const Fila lunghi{kLungo, "da", aCinque(9, {18, 176}, {19, 0}, {105, 0})};
-  const Fila unita{kUnita, "u", aCinque(9, {233, 225.5}, {0, -12}, {30, 0})};
+  // Flats lie over one another like cards, more than half of each to be seen across and down: so
+  // the units are as large as they are, and easy to tell in a small window, too.
+  constexpr double kLato = 9;
+  const Fila piatti{kPiatto, "h", aCinque(9, {8.5, 7.5}, {49.5, 0}, {0, 54})};
+  const Fila lunghi{kLungo, "da", aCinque(9, {25.5, 165.5}, {17.5, 0}, {96.5, 0})};
+  const Fila unita{kUnita, "u", aCinque(9, {237.5, 246.5}, {0, -18}, {27, 0})};
 
   Filmato filmato(kTavolaPiccola);
   Forma fondo;
-  riquadro(fondo, {3, 4, 299, 136}, kVerde);
-  riquadro(fondo, {3, 144, 199, 117}, kRosso);
-  riquadro(fondo, {206, 144, 96, 117}, kBlu);
+  riquadro(fondo, {3, 3, 299, 153}, kVerde);
+  riquadro(fondo, {3, 159, 203, 103}, kRosso);
+  riquadro(fondo, {209, 159, 93, 103}, kBlu);
   filmato.scena().poni(kSottoTutto, filmato.definisci(fondo));
   schiera(filmato.scena(), piatti, filmato.definisci(fermo(filmato, kPiatto, kLato)), kPiatti);
   schiera(filmato.scena(), lunghi, filmato.definisci(fermo(filmato, kLungo, kLato)), kLunghi);
@@ -92,12 +94,12 @@ Filmato hdau() {
 }
 
 Filmato unione() {
-  constexpr double kLato = 24;
+  constexpr double kLato = 26;
   constexpr Cambio::Tempi kTempi{.volo = 22, .intervallo = 4, .colore = 12, .sosta = 4};
-  const Fila lunghi{kLungo, "da", aCinque(9, {22, 20}, {33, 0}, {177, 0})};
+  const Fila lunghi{kLungo, "da", aCinque(9, {21.5, 10.5}, {35, 0}, {191, 0})};
   const Fila unita{kUnita, "u",
-                   insieme(aCinque(10, {402, 236}, {0, -37}, {36, 0}),
-                           aCinque(9, {564, 236}, {0, -37}, {36, 0}))};
+                   insieme(aCinque(10, {418, 244.5}, {0, -46}, {40, 0}),
+                           aCinque(9, {574, 244.5}, {0, -46}, {40, 0}))};
   const Cambio cambio({.pezzi = unita,
                        .nuovi = lunghi,
                        .primo = {0, 9 * kLato},
@@ -108,8 +110,8 @@ Filmato unione() {
 
   Filmato filmato(kTavolaGrande);
   Forma fondo;
-  riquadro(fondo, {4, 4, 336, 273}, kRosso);
-  riquadro(fondo, {344, 4, 349, 273}, kBlu);
+  riquadro(fondo, {4, 4, 357, 273}, kRosso);
+  riquadro(fondo, {365, 4, 328, 273}, kBlu);
   LineaTempo& scena = filmato.scena();
   scena.poni(kSottoTutto, filmato.definisci(fondo));
   schiera(scena, lunghi, filmato.definisci(fermo(filmato, kLungo, kLato)), kLunghi);
@@ -130,17 +132,17 @@ Filmato unionehdau() {
   // hundred more than the addends' own, which then make 8 at most: the flat that the change adds is
   // again the ninth or an earlier one.
   constexpr int kCentinaia = 9;
-  constexpr double kLato = 9;
+  constexpr double kLato = 12;
   // The first change must be over before frame 51, so it is brisker than the second.
   constexpr Cambio::Tempi kTempiUDa{.volo = 16, .intervallo = 2, .colore = 8, .sosta = 3};
   constexpr Cambio::Tempi kTempiDaH{.volo = 22, .intervallo = 3, .colore = 12, .sosta = 4};
-  const Fila piatti{kPiatto, "h", aCinque(kCentinaia, {11, 36}, {95, 0}, {0, 119})};
+  const Fila piatti{kPiatto, "h", aCinque(kCentinaia, {12.5, 17}, {80, 0}, {0, 127})};
   const Fila lunghi{kLungo, "da",
-                    insieme(aCinque(10, {500, 36}, {12.5, 0}, {67.5, 0}),
-                            aCinque(9, {500, 155}, {12.5, 0}, {67.5, 0}))};
+                    insieme(aCinque(10, {472.2, 17}, {15.5, 0}, {83.5, 0}),
+                            aCinque(9, {472.2, 144}, {15.5, 0}, {83.5, 0}))};
   const Fila unita{kUnita, "u",
-                   insieme(aCinque(10, {651, 117}, {0, -18}, {21, 0}),
-                           aCinque(9, {651, 236}, {0, -18}, {21, 0}))};
+                   insieme(aCinque(10, {650, 125}, {0, -27}, {22, 0}),
+                           aCinque(9, {650, 252}, {0, -27}, {22, 0}))};
   const Cambio cambioUDa({.pezzi = unita,
                           .nuovi = lunghi,
                           .primo = {0, 9 * kLato},
@@ -160,9 +162,9 @@ Filmato unionehdau() {
 
   Filmato filmato(kTavolaGrande);
   Forma fondo;
-  riquadro(fondo, {4, 4, 484, 273}, kVerde);
-  riquadro(fondo, {492, 4, 143, 273}, kRosso);
-  riquadro(fondo, {639, 4, 54, 273}, kBlu);
+  riquadro(fondo, {4, 4, 457, 273}, kVerde);
+  riquadro(fondo, {465, 4, 172, 273}, kRosso);
+  riquadro(fondo, {641, 4, 52, 273}, kBlu);
   LineaTempo& scena = filmato.scena();
   scena.poni(kSottoTutto, filmato.definisci(fondo));
   // The form hides no flats on this board, neither at its start nor between two cases.

@@ -49,6 +49,18 @@ prove::Rettangolo figura(const FilmatoLetto& letto, const std::string& nome) {
   return letto.forme.at(clip.posti.at(0).carattere);
 }
 
+/// Where a clip's first picture stands on the stage, in twips.
+prove::Rettangolo doveSta(const FilmatoLetto& letto, const prove::Posto& posto) {
+  auto r = figura(letto, posto.nome);
+  return {r.xMinimo + static_cast<int>(posto.x), r.xMassimo + static_cast<int>(posto.x),
+          r.yMinimo + static_cast<int>(posto.y), r.yMassimo + static_cast<int>(posto.y)};
+}
+
+bool discosti(const prove::Rettangolo& r, const prove::Rettangolo& altro) {
+  return r.xMassimo < altro.xMinimo || altro.xMassimo < r.xMinimo || r.yMassimo < altro.yMinimo ||
+         altro.yMassimo < r.yMinimo;
+}
+
 int quanti(const FilmatoLetto& letto, const std::string& prefisso) {
   int n = 0;
   while (letto.posto(prefisso + std::to_string(n + 1))) ++n;
@@ -185,22 +197,43 @@ class TavoleDeiBlocchiTest : public QObject {
     }
   }
 
-  void noTwoBlocksTouchAndAllStandOnTheBoard() {
+  void noTwoBlocksTouchButFlatsAndAllStandOnTheBoard() {
     for (const auto& [nome, letto] : letti_) {
       std::vector<prove::Rettangolo> blocchi;
       for (const auto& posto : letto.scena.posti) {
         if (posto.nome.empty() || posto.nome.starts_with("custode")) continue;
-        auto r = figura(letto, posto.nome);
-        r = {r.xMinimo + static_cast<int>(posto.x), r.xMassimo + static_cast<int>(posto.x),
-             r.yMinimo + static_cast<int>(posto.y), r.yMassimo + static_cast<int>(posto.y)};
+        const auto r = doveSta(letto, posto);
         QVERIFY2(r.xMinimo > 0 && r.yMinimo > 0, posto.nome.c_str());
         QVERIFY2(r.xMassimo < letto.palco.xMassimo && r.yMassimo < letto.palco.yMassimo,
                  posto.nome.c_str());
+        if (posto.nome.starts_with("h")) continue;
         for (const auto& altro : blocchi)
-          QVERIFY2(r.xMassimo < altro.xMinimo || altro.xMassimo < r.xMinimo ||
-                       r.yMassimo < altro.yMinimo || altro.yMassimo < r.yMinimo,
-                   (nome + ": " + posto.nome).c_str());
+          QVERIFY2(discosti(r, altro), (nome + ": " + posto.nome).c_str());
         blocchi.push_back(r);
+      }
+      for (const auto& posto : letto.scena.posti) {
+        if (!posto.nome.starts_with("h")) continue;
+        for (const auto& altro : blocchi)
+          QVERIFY2(discosti(doveSta(letto, posto), altro), (nome + ": " + posto.nome).c_str());
+      }
+    }
+  }
+
+  // Like cards: the later one in front, of each the upper left corner and half of both sides.
+  void flatsLieOverOneAnotherSoThatEachIsSeen() {
+    for (const char* nome : {"hdau", "unionehdau"}) {
+      const auto& letto = letti_.at(nome);
+      for (int i = 1; i <= 9; ++i) {
+        const auto uno = letto.posto("h" + std::to_string(i));
+        const auto sotto = doveSta(letto, *uno);
+        for (int j = i + 1; j <= 9; ++j) {
+          const auto altro = letto.posto("h" + std::to_string(j));
+          const auto sopra = doveSta(letto, *altro);
+          QVERIFY(altro->profondita > uno->profondita);
+          const bool aDestra = sopra.xMinimo >= (sotto.xMinimo + sotto.xMassimo) / 2;
+          const bool inBasso = sopra.yMinimo >= (sotto.yMinimo + sotto.yMassimo) / 2;
+          QVERIFY2(aDestra || inBasso, nome);
+        }
       }
     }
   }
