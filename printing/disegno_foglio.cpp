@@ -22,6 +22,22 @@ constexpr FontSpec kCaratteriCifra{Face::Arial, 36, true};
 constexpr FontSpec kCaratteriParola{Face::Arial, 44, true};
 constexpr double kLatoCifra = 1160;
 
+// The place values have the colours of their blocks and beads, which the drawings have, too.
+constexpr platform::Rgb ColoreDi(Tasto tasto) {
+  switch (tasto) {
+    case Tasto::Migliaia:
+      return {181, 123, 238};
+    case Tasto::Centinaia:
+      return {93, 220, 90};
+    case Tasto::Decine:
+      return {255, 90, 82};
+    case Tasto::Unita:
+      return {74, 151, 245};
+    default:
+      return platform::kBlack;
+  }
+}
+
 // The drawings are controls outside of an array, each under a name of its own.
 constexpr std::array<std::string_view, F::kDisegni> kNomiDisegni{"Image1", "Image2", "Image3",
                                                                  "Image4", "Image5", "Image6"};
@@ -56,9 +72,11 @@ Row RigaTasto(const TastoPosato& tasto, const TwipsRect& cornice) {
       return row<&F::Label1>(tasto.controllo, InMezzo(cornice, kLatoCifra),
                              {.font = kCaratteriCifra, .align = Align::Centre});
     case Mostra::Parola:
-      return row<&F::Label3>(
-          tasto.controllo, cornice,
-          {.caption = segno.parola, .font = kCaratteriParola, .align = Align::Centre});
+      return row<&F::Label3>(tasto.controllo, cornice,
+                             {.caption = segno.parola,
+                              .font = kCaratteriParola,
+                              .fore = ColoreDi(tasto.tasto),
+                              .align = Align::Centre});
     case Mostra::Disegno:
       break;
   }

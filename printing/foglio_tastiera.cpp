@@ -9,6 +9,7 @@ namespace somme {
 namespace {
 
 constexpr int kBordo = 2;
+constexpr double kMargine = 0.1;  // between a frame and its drawing, of the frame's shorter side
 
 }  // namespace
 
@@ -21,9 +22,13 @@ FoglioTastiera::FoglioTastiera(Ambiente& ambiente, std::string_view nome, int bo
 
 void FoglioTastiera::onLoad() {
   Forma::onLoad();
-  for (const TastoPosato& tasto : Foglio().tastiera.tasti) {
+  for (int posto = 1; posto <= Foglio().tastiera.Posti(); ++posto) {
+    const TastoPosato tasto = Foglio().TastoDi(posto);
+    if (tasto.tasto == Tasto::Nessuno) continue;
     if (ECifra(tasto.tasto)) {
       Label1[tasto.controllo].setCaption(platform::plain(CifraDi(tasto.tasto)));
+    } else if (ComeSiMostra(tasto.tasto) == Mostra::Disegno) {
+      Image[tasto.controllo].keepClear(kMargine);
     }
   }
   foglioStampato_ = false;

@@ -1,6 +1,8 @@
 #include "fogli_di_prova.h"
 
 #include <QApplication>
+#include <map>
+
 #include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
@@ -21,12 +23,52 @@ using somme::frmAvviaStampa;
 class FogliStampatiTest : public QObject {
   Q_OBJECT
 
+  static constexpr int kPunti = 200;  // to the inch
+
+  static void ogniFoglio() {
+    QTest::addColumn<int>("quale");
+    for (int i = 0; i < int(fogli().size()); ++i) {
+      QTest::newRow(std::string(fogli()[size_t(i)]->nome).c_str()) << i;
+    }
+  }
+  // The printed page; each sheet is printed once.
+  static QImage stampata(const FoglioTasti& foglio) {
+    static std::map<std::string_view, QImage> pagine;
+    QImage& pagina = pagine[foglio.nome];
+    if (pagina.isNull()) pagina = stampa(foglio);
+    return pagina;
+  }
+  static QImage stampa(const FoglioTasti& foglio) {
+    DialogoDiProva prova({1366, 768});
+    prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
+    mostra(prova, foglio.nome, [](FoglioTastiera&, frmAvviaStampa& d) { d.cmdStampa.click(); });
+    if (prova.banco.stampanti.lavori.empty()) return {};
+    return PdfLetto(prova.banco.stampanti.lavori[0].pages).immagine(1, kPunti);
+  }
+  // Of a frame on the 400 by 280 mm of the print, in millimetres.
+  static QRectF suCarta(const FoglioTasti& foglio, int cornice) {
+    const QSizeF cella(400.0 / 24, 280.0 / 23);
+    const platform::TwipsRect celle =
+        somme::PostoDi(foglio.tastiera.CorniceDi(cornice + 1), {1, 1});
+    return {celle.left * cella.width(), celle.top * cella.height(), celle.width * cella.width(),
+            celle.height * cella.height()};
+  }
+  static QRect pixelDi(const QRectF& stanza) {
+    constexpr double kMillimetro = kPunti / 25.4;
+    return {qRound(stanza.x() * kMillimetro), qRound(stanza.y() * kMillimetro),
+            qRound(stanza.width() * kMillimetro), qRound(stanza.height() * kMillimetro)};
+  }
+  static QRectF inchiostroIn(const QImage& pagina, const QRectF& stanza) {
+    return prova::inchiostro(pagina.copy(pixelDi(stanza)), kPunti)
+        .translated(stanza.x(), stanza.y());
+  }
+
  private Q_SLOTS:
   void everyPrintedFrameStandsInItsPlaceOnEveryScreen_data() {
     QTest::addColumn<int>("quale");
     QTest::addColumn<QSize>("finestra");
     for (int i = 0; i < int(fogli().size()); ++i) {
-      for (const QSize lato : {QSize(640, 480), QSize(3840, 2160)}) {
+      for (const QSize lato : {QSize(640, 480), QSize(1280, 1024), QSize(3840, 2160)}) {
         QTest::addRow("%s %dx%d", std::string(fogli()[size_t(i)]->nome).c_str(), lato.width(),
                       lato.height())
             << i << lato;
@@ -42,25 +84,20 @@ class FogliStampatiTest : public QObject {
     mostra(prova, foglio.nome, [](FoglioTastiera&, frmAvviaStampa& d) { d.cmdStampa.click(); });
     QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
     const PdfLetto letto(prova.banco.stampanti.lavori[0].pages);
-    constexpr int kPunti = 300;
-    const QImage pagina = letto.immagine(1, kPunti);
-    const double mm = 25.4 / kPunti;
-    // The cells of the surface on the 400 by 280 mm of the print.
-    const QSizeF cella(400.0 / 24, 280.0 / 23);
-    const somme::Griglia unita{1, 1};
+    constexpr int kFini = 300;
+    const QImage pagina = letto.immagine(1, kFini);
+    const double mm = 25.4 / kFini;
     double lontano = 0;
     for (int i = 0; i < foglio.tastiera.Posti(); ++i) {
       if (vuota(foglio, i)) continue;
-      const platform::TwipsRect celle = somme::PostoDi(foglio.tastiera.CorniceDi(i + 1), unita);
-      const QRectF posto(celle.left * cella.width(), celle.top * cella.height(),
-                         celle.width * cella.width(), celle.height * cella.height());
+      const QRectF posto = suCarta(foglio, i);
       // The frame and half a cell around it, which is less than the gaps.
       const QRectF stanza = posto.adjusted(-8, -6, 8, 6);
       const QRect ritaglio(qRound(stanza.x() / mm), qRound(stanza.y() / mm),
                            qRound(stanza.width() / mm), qRound(stanza.height() / mm));
       // The line of the edge, two of the design's 640 pixels wide, stands half outside.
       constexpr double kMezzo = 400.0 / 640;
-      const QRectF linea = prova::inchiostro(pagina.copy(ritaglio), kPunti)
+      const QRectF linea = prova::inchiostro(pagina.copy(ritaglio), kFini)
                                .translated(ritaglio.x() * mm, ritaglio.y() * mm)
                                .adjusted(kMezzo, kMezzo, -kMezzo, -kMezzo);
       for (const double scarto : {linea.left() - posto.left(), linea.top() - posto.top(),
@@ -71,12 +108,57 @@ class FogliStampatiTest : public QObject {
     QVERIFY2(lontano < 0.3, qPrintable(QStringLiteral("%1 mm").arg(lontano)));
   }
 
-  void everyPrintedFrameFallsOnItsKey_data() {
-    QTest::addColumn<int>("quale");
-    for (int i = 0; i < int(fogli().size()); ++i) {
-      QTest::newRow(std::string(fogli()[size_t(i)]->nome).c_str()) << i;
+  void drawingsKeepClearOfTheirFrames_data() { ogniFoglio(); }
+  void drawingsKeepClearOfTheirFrames() {
+    QFETCH(int, quale);
+    const FoglioTasti& foglio = *fogli()[size_t(quale)];
+    const QImage pagina = stampata(foglio);
+    int disegni = 0;
+    for (int i = 0; i < foglio.tastiera.Posti(); ++i) {
+      const somme::TastoPosato tasto = foglio.TastoDi(i + 1);
+      if (vuota(foglio, i) || somme::ComeSiMostra(tasto.tasto) != somme::Mostra::Disegno) continue;
+      ++disegni;
+      // Inside of the line.
+      const QRectF stanza = suCarta(foglio, i).adjusted(1, 1, -1, -1);
+      const QRectF ink = inchiostroIn(pagina, stanza);
+      constexpr double kLargo = 2.5;  // millimetres
+      QVERIFY2(ink.left() >= stanza.left() + kLargo && ink.top() >= stanza.top() + kLargo &&
+                   ink.right() <= stanza.right() - kLargo &&
+                   ink.bottom() <= stanza.bottom() - kLargo,
+               qPrintable(QString::number(i)));
+      QVERIFY(ink.width() > stanza.width() / 3);
+    }
+    QVERIFY(disegni >= 3);
+  }
+
+  void thePlaceValuesHaveTheColoursOfTheirBlocksAndBeads_data() { ogniFoglio(); }
+  void thePlaceValuesHaveTheColoursOfTheirBlocksAndBeads() {
+    QFETCH(int, quale);
+    const FoglioTasti& foglio = *fogli()[size_t(quale)];
+    const std::map<somme::Tasto, QColor> tinte{{somme::Tasto::Migliaia, QColor(181, 123, 238)},
+                                               {somme::Tasto::Centinaia, QColor(93, 220, 90)},
+                                               {somme::Tasto::Decine, QColor(255, 90, 82)},
+                                               {somme::Tasto::Unita, QColor(74, 151, 245)}};
+    const QImage pagina = stampata(foglio);
+    for (int i = 0; i < foglio.tastiera.Posti(); ++i) {
+      const auto tinta = tinte.find(foglio.TastoDi(i + 1).tasto);
+      if (vuota(foglio, i) || tinta == tinte.end()) continue;
+      const QRect dove = pixelDi(suCarta(foglio, i).adjusted(1, 1, -1, -1));
+      int quanti = 0;
+      int neri = 0;
+      for (int y = dove.top(); y < dove.bottom(); ++y) {
+        for (int x = dove.left(); x < dove.right(); ++x) {
+          quanti += int(pagina.pixelColor(x, y) == tinta->second);
+          neri += int(pagina.pixelColor(x, y) == QColor(Qt::black));
+        }
+      }
+      // The letter, and the line round it by which it is read on white.
+      QVERIFY2(quanti > 500, qPrintable(QString::number(quanti)));
+      QVERIFY2(neri > 200, qPrintable(QString::number(neri)));
     }
   }
+
+  void everyPrintedFrameFallsOnItsKey_data() { ogniFoglio(); }
   void everyPrintedFrameFallsOnItsKey() {
     QFETCH(int, quale);
     const FoglioTasti& foglio = *fogli()[size_t(quale)];
@@ -94,7 +176,6 @@ class FogliStampatiTest : public QObject {
     QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
     const PdfLetto letto(prova.banco.stampanti.lavori[0].pages);
     QCOMPARE(letto.pagine(), 1);
-    constexpr int kPunti = 200;
     const QImage pagina = letto.immagine(1, kPunti);
     const double mm = 25.4 / kPunti;
     for (size_t i = 0; i < attesi.size(); ++i) {

@@ -27,6 +27,10 @@ void Image::pop(Pop how) {
   movement_.run(ground(), kPop);
 }
 
+void Image::keepClear(double share) {
+  if (auto* image = static_cast<ImageWidget*>(widget())) image->setMargin(share);
+}
+
 void Image::show(double part) {
   if (auto* image = static_cast<ImageWidget*>(widget())) image->setPop(how_, part);
 }

@@ -19,6 +19,9 @@ class Image : public Control {
   // before; afterwards it stands as ever. Hiding it ends this.
   void pop(Pop how);
 
+  // Leaves a margin inside of its place; share: of the place's shorter side.
+  void keepClear(double share);
+
   void setVisible(bool visible) override;
   void formGone() override { movement_.finish(); }
   [[nodiscard]] int layer() const override { return 0; }

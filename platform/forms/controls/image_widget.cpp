@@ -1,6 +1,7 @@
 #include "platform/forms/controls/image_widget.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -41,11 +42,21 @@ void ImageWidget::setPop(Pop how, double part) {
   update();
 }
 
+void ImageWidget::setMargin(double share) {
+  margin_ = share;
+  update();
+}
+
+QRectF ImageWidget::area() const {
+  const double margin = margin_ * std::min(width(), height());
+  return QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+}
+
 void ImageWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   if (part_ >= 1) {
-    pictures_.paint(painter, name_, rect());
+    pictures_.paint(painter, name_, area());
   } else if (how_ == Pop::Burst) {
     paintBurst(painter);
   } else {
@@ -56,7 +67,7 @@ void ImageWidget::paintEvent(QPaintEvent* /*event*/) {
 // The first part grows in its place, the others fly from behind it to theirs, and sparks like the
 // second fly on all sides and are spent on the way.
 void ImageWidget::paintBurst(QPainter& painter) const {
-  const QRectF area = rect();
+  const QRectF area = this->area();
   const QPointF middle = area.center();
   const std::vector<QString> parts = pictures_.parts(name_);
   const auto fly = [&](const QString& part, QPointF to, double size) {
@@ -85,7 +96,7 @@ void ImageWidget::paintBurst(QPainter& painter) const {
 
 // It swings in the room that the growing picture leaves at its sides, so that nothing is cut off.
 void ImageWidget::paintShake(QPainter& painter) const {
-  const QRectF area = rect();
+  const QRectF area = this->area();
   const double size = kSmall + (1 - kSmall) * part_;
   const double room = area.width() * (1 - size) / 2;
   const QPointF aside(room * std::sin(kTurn * kSwings * part_), 0);

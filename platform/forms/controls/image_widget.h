@@ -18,11 +18,14 @@ class ImageWidget final : public QWidget {
 
   // part: of the way, 0 to 1; at 1 the picture stands as ever.
   void setPop(Pop how, double part);
+  // share: of the shorter side, free on each side.
+  void setMargin(double share);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] QRectF area() const;
   void paintBurst(QPainter& painter) const;
   void paintShake(QPainter& painter) const;
 
@@ -30,6 +33,7 @@ class ImageWidget final : public QWidget {
   QString name_;
   Pop how_ = Pop::Burst;
   double part_ = 1;
+  double margin_ = 0;
 };
 
 }  // namespace platform
