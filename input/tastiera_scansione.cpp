@@ -109,15 +109,18 @@ void TastieraScansione::Passo() {
 void TastieraScansione::TastoPremuto(int tasto) {
   if (!Timer1.isEnabled() || comunicando_) return;
   if (tasto == platform::kKeyEnter) invioPremuto_ = true;
-  if (tasto != platform::kKeySpace) return;
-  spazioPremuto_ = true;
-  if (comuni_.ScansioneAutomatica.get()) DisattivaAutomatica();
+  if (tasto == platform::kKeySpace) {
+    spazioPremuto_ = true;
+    if (comuni_.ScansioneAutomatica.get()) DisattivaAutomatica();
+  }
+  Affonda();
 }
 
 void TastieraScansione::TastoLasciato(int tasto) {
   const bool automatica = comuni_.ScansioneAutomatica.get();
   if (tasto == platform::kKeySpace && spazioPremuto_) {
     spazioPremuto_ = false;
+    Affonda();
     if (automatica) {
       Comunica();
       AttivaAutomatica();
@@ -126,6 +129,7 @@ void TastieraScansione::TastoLasciato(int tasto) {
     }
   } else if (tasto == platform::kKeyEnter && invioPremuto_) {
     invioPremuto_ = false;
+    Affonda();
     if (!automatica) Comunica();
   }
 }
@@ -143,7 +147,20 @@ void TastieraScansione::keysLetGo() {
   const bool fermata = spazioPremuto_ && comuni_.ScansioneAutomatica.get();
   spazioPremuto_ = false;
   invioPremuto_ = false;
+  Affonda();
   if (fermata) AttivaAutomatica();
+}
+
+// Whether a key is down whose release chooses the lit button.
+bool TastieraScansione::StaScegliendo() const {
+  return comuni_.ScansioneAutomatica.get() ? spazioPremuto_ : invioPremuto_;
+}
+
+void TastieraScansione::Affonda() {
+  if (anello_ == nullptr) return;
+  for (int i = 0; i < numero_; ++i) {
+    pulsanti_[i].showHeld(StaScegliendo() && i == PulsanteCorrente.get());
+  }
 }
 
 void TastieraScansione::Segna() {
@@ -152,6 +169,7 @@ void TastieraScansione::Segna() {
   anello_->surround(acceso.widget()->geometry().translated(dentro_->pos()));
   anello_->setVisible(acceso.isVisible());
   anello_->raise();
+  Affonda();
   PictureScansione.pointAt(acceso);
 }
 

@@ -24,7 +24,8 @@ namespace somme {
 // does nothing here.
 //
 // Colours are painted when a step says so, and what a resize leaves painted stays until `Attiva`;
-// the ring round the lit button always follows `PulsanteCorrente`.
+// the ring round the lit button always follows `PulsanteCorrente`, and so does the look of a button
+// held down while a key is down whose release chooses it.
 //
 // A keyboard derives from this with its table of buttons and its properties, whose order in the
 // store is its own.
@@ -110,6 +111,8 @@ class TastieraScansione : public platform::UserControl {
   void TastoPremuto(int tasto);
   void TastoLasciato(int tasto);
   void Comunica();
+  [[nodiscard]] bool StaScegliendo() const;
+  void Affonda();
   void Segna();
   void Posa();
   [[nodiscard]] QSize Misura() const;

@@ -52,6 +52,10 @@ void Button::ringAsScanned() {
   (new RingWidget(widget()->parentWidget()))->follow(*widget());
 }
 
+void Button::showHeld(bool held) {
+  if (widget() != nullptr) static_cast<ButtonWidget*>(widget())->setHeld(held);
+}
+
 void Button::markAnswer(AnswerMark mark) {
   if (widget() != nullptr) static_cast<ButtonWidget*>(widget())->setMark(mark);
 }

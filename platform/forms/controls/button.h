@@ -38,6 +38,8 @@ class Button : public Control {
   // From here on a ring surrounds the button while it has the focus, as it does the lit key of a
   // scanning keyboard: what a switch would press.
   void ringAsScanned();
+  // Shows the button sunk, as while it is held down, for one that something else presses.
+  void showHeld(bool held);
   // Shows what became of the button as an answer, until it is enabled again. One that was right
   // stands as before though it is disabled; what one tried in vain says is pale.
   void markAnswer(AnswerMark mark);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/forms/accessible.h"
+#include "platform/forms/controls/color_mix.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
 #include "platform/forms/press_event.h"
@@ -23,6 +24,15 @@ constexpr double kSunk = 0.09;           // of the shorter side, on each
 constexpr double kDisabledInk = 0.45;    // of plain buttons
 constexpr double kTriedInk = 0.55;       // of an answer tried in vain
 constexpr double kOverlap = 15.0 / 615;  // of a cell's side, under its neighbours
+constexpr QColor kPointedEdge(24, 33, 59);
+constexpr double kPointedEdgeWidth = 2;
+// Below the mouse a face is so much nearer to white: a pale one more, that it is seen, a strong one
+// less, that it keeps its colour.
+constexpr double kLitPale = 0.5;
+constexpr double kLitStrong = 0.22;
+constexpr int kPale = 200;       // the lightness from which a face is pale
+constexpr double kHeld = 0.06;   // of the way to black: words on it stay as readable
+constexpr double kHeldDeep = 2;  // pixels that it sinks where the window is not large
 
 bool isEnter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -33,6 +43,7 @@ bool isEnter(const QKeyEvent& event) {
 ButtonWidget::ButtonWidget(QWidget* parent, Pictures& pictures, std::function<void()> clicked)
     : QAbstractButton(parent), pictures_(pictures), clicked_(std::move(clicked)) {
   setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
 }
 
 void ButtonWidget::setCaption(const QString& caption) {
@@ -55,6 +66,7 @@ void ButtonWidget::resizeEvent(QResizeEvent* event) {
 void ButtonWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::EnabledChange) {
     if (isEnabled()) mark_ = AnswerMark::None;
+    held_ = false;
     if (StatesToldLater::holds()) {
       stateUntold_ = !stateUntold_;
       letGo();
@@ -90,14 +102,23 @@ bool ButtonWidget::event(QEvent* event) {
   return true;
 }
 
+void ButtonWidget::setHeld(bool held) {
+  if (held == held_) return;
+  held_ = held;
+  update();
+}
+
 void ButtonWidget::letGo() {
   if (isDown()) setDown(false);
+  setHeld(false);
 }
 
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
   // A command has no release.
   const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
   if (isEnter(*event)) {
+    // Until the release; the click may be the end of this button.
+    setHeld(true);
     clicked_();
   } else if (event->key() == Qt::Key_Space && !command) {
     setDown(true);
@@ -109,6 +130,7 @@ void ButtonWidget::keyPressEvent(QKeyEvent* event) {
 
 // Space acts where its release arrives, also when the focus came here after the press.
 void ButtonWidget::keyReleaseEvent(QKeyEvent* event) {
+  if (isEnter(*event)) setHeld(false);
   if (event->key() != Qt::Key_Space) {
     QWidget::keyReleaseEvent(event);
     return;
@@ -159,12 +181,23 @@ ButtonWidget::Rooms ButtonWidget::rooms() const {
           inner.adjusted(0, side + margin / 2, 0, 0).toRect()};
 }
 
+double ButtonWidget::sinking() const {
+  return isHeld() ? std::round(kHeldDeep * markScale(*this)) : 0;
+}
+
+QColor ButtonWidget::face() const {
+  const QColor face = ground_.value_or(kPlainFace);
+  if (isHeld()) return mixed(face, Qt::black, kHeld);
+  if (!isPointed()) return face;
+  return mixed(face, Qt::white, face.lightness() >= kPale ? kLitPale : kLitStrong);
+}
+
 // A button that can be pressed stands up; one that cannot lies flat and small in its place, which
 // tells it without colour. A cell keeps its size: a table stays a table.
 QRectF ButtonWidget::body() const {
   const double sunk = stands() || cell_ ? 0 : std::min(width(), height()) * kSunk;
   const double edge = 0.5 + sunk;
-  return QRectF(rect()).adjusted(edge, edge, -edge, -edge);
+  return QRectF(rect()).adjusted(edge, edge + (cell_ ? 0 : sinking()), -edge, -edge);
 }
 
 QPainterPath ButtonWidget::outlineOf(const QRectF& body, double corner) const {
@@ -189,17 +222,26 @@ QPainterPath ButtonWidget::outlineOf(const QRectF& body, double corner) const {
   return path.united(square).simplified();
 }
 
-void ButtonWidget::paintFace(QPainter& painter, const QColor& face) const {
+QPen ButtonWidget::edge() const {
+  if (isPointed() && !cell_) return {kPointedEdge, kPointedEdgeWidth * markScale(*this)};
+  return {stands() || cell_ ? QColor(70, 70, 70) : QColor(150, 150, 150), 1};
+}
+
+void ButtonWidget::paintFace(QPainter& painter) const {
   const QRectF body = this->body();
-  painter.setPen(QPen(stands() || cell_ ? QColor(70, 70, 70) : QColor(150, 150, 150), 1));
-  painter.setBrush(isDown() ? face.darker(118) : face);
+  painter.setPen(edge());
+  painter.setBrush(face());
   painter.drawPath(outlineOf(body, kCorner));
-  if (!stands() || isDown()) return;
-  // A raised edge: light above, shade below.
+  if (!stands()) return;
+  // A raised edge: light above, shade below. What is held has sunk below its edge.
   painter.save();
   painter.setClipPath(outlineOf(body.adjusted(1, 1, -1, -1), kCorner - 1));
-  painter.fillRect(QRectF(0, 0, width(), 3), QColor(255, 255, 255, 150));
-  painter.fillRect(QRectF(0, height() - 4, width(), 4), QColor(0, 0, 0, 55));
+  if (isHeld()) {
+    painter.fillRect(QRectF(0, body.top(), width(), 3), QColor(0, 0, 0, 70));
+  } else {
+    painter.fillRect(QRectF(0, 0, width(), 3), QColor(255, 255, 255, 150));
+    painter.fillRect(QRectF(0, height() - 4, width(), 4), QColor(0, 0, 0, 55));
+  }
   painter.restore();
 }
 
@@ -211,25 +253,26 @@ void ButtonWidget::paintFocus(QPainter& painter) const {
 
 // What a coloured button says stays readable when the button is spent; pictures fade, and so does
 // all of a plain one.
-void ButtonWidget::paintContent(QPainter& painter, const QColor& face) {
+void ButtonWidget::paintContent(QPainter& painter) {
   const Rooms room = rooms();
+  painter.save();
+  painter.translate(0, sinking());
   if (!isEnabled()) painter.setOpacity(kDisabledInk);
   if (!picture_.isEmpty()) pictures_.paint(painter, picture_, room.picture);
   if (ground_) painter.setOpacity(mark_ == AnswerMark::Wrong ? kTriedInk : 1);
   QFont letters = font();
   letters.setPixelSize(sharedSize(letters.pixelSize()));
   block_.set(caption_, letters, room.text.size(), Align::Centre, true);
-  block_.paint(painter, room.text, ink_, face);
-  painter.setOpacity(1);
+  block_.paint(painter, room.text, ink_, face());
+  painter.restore();
 }
 
 void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor face = ground_.value_or(kPlainFace);
-  paintFace(painter, face);
+  paintFace(painter);
   if (hasFocus()) paintFocus(painter);
-  paintContent(painter, face);
+  paintContent(painter);
   paintAnswerMark(painter, body(), mark_);
 }
 

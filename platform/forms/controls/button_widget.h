@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QPainterPath>
+#include <QPen>
 #include <QPointer>
 #include <functional>
 #include <optional>
@@ -14,8 +15,8 @@ namespace platform {
 
 class Pictures;
 
-// The widget of a button: paints it and turns mouse and keys into clicks. Keys come here already
-// freed of repeats.
+// The widget of a button: paints it and turns mouse and keys into clicks. It is lit below the mouse
+// and sinks while it is held, by mouse or keys. Keys come here already freed of repeats.
 class ButtonWidget final : public QAbstractButton, public FittedCaption {
   Q_OBJECT
 
@@ -35,6 +36,8 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
   // nothing.
   void setHeading(const QWidget* heading) { heading_ = heading; }
   [[nodiscard]] const QWidget* heading() const { return heading_; }
+  // Lets it look held down, by whatever means, until it is let go.
+  void setHeld(bool held);
   // Takes a held key or mouse button as let go without effect.
   void letGo();
 
@@ -59,11 +62,19 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
   [[nodiscard]] Rooms rooms() const;
   // Whether it looks as if it could be pressed.
   [[nodiscard]] bool stands() const { return isEnabled() || mark_ == AnswerMark::Right; }
+  [[nodiscard]] bool isHeld() const { return isDown() || held_; }
+  // Whether the mouse could press it where it is now. What became of an answer stays to be seen.
+  [[nodiscard]] bool isPointed() const {
+    return underMouse() && isEnabled() && mark_ == AnswerMark::None;
+  }
+  [[nodiscard]] double sinking() const;
+  [[nodiscard]] QColor face() const;
   [[nodiscard]] QRectF body() const;
   [[nodiscard]] QPainterPath outlineOf(const QRectF& body, double corner) const;
-  void paintFace(QPainter& painter, const QColor& face) const;
+  [[nodiscard]] QPen edge() const;
+  void paintFace(QPainter& painter) const;
   void paintFocus(QPainter& painter) const;
-  void paintContent(QPainter& painter, const QColor& face);
+  void paintContent(QPainter& painter);
 
   Pictures& pictures_;
   std::function<void()> clicked_;
@@ -72,6 +83,7 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
   QColor ink_ = Qt::black;
   std::optional<QColor> ground_;
   AnswerMark mark_ = AnswerMark::None;
+  bool held_ = false;
   bool cell_ = false;
   std::optional<Qt::Corner> roundCorner_;
   TextBlock block_;

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "platform/forms/controls/color_mix.h"
 #include "platform/forms/focus_ring.h"
 
 namespace platform {
@@ -15,13 +16,6 @@ namespace {
 constexpr QColor kLight(255, 212, 59);
 constexpr QColor kEdge(24, 33, 59);
 constexpr double kEdgeWidth = 3;
-
-// part: of the way from one colour to the other, 0 to 1.
-QColor mixed(const QColor& from, const QColor& to, double part) {
-  const auto channel = [part](int a, int b) { return int(std::lround(a + (b - a) * part)); };
-  return {channel(from.red(), to.red()), channel(from.green(), to.green()),
-          channel(from.blue(), to.blue())};
-}
 
 }  // namespace
 
