@@ -63,6 +63,18 @@ constexpr Look Indietro() {
       .caption = "Torna al menù principale", .font = {Face::Tahoma, 14.25}, .picture = "indietro"};
 }
 
+// The two friends, who greet on the first form and come back where there is room for them.
+// F: a form with `Image1` and `Image2`.
+template <class F>
+constexpr Row AmicoDiBlocchi(TwipsRect posto) {
+  return row<&F::Image1>(posto,
+                         {.toolTip = "Un amico fatto di blocchi", .picture = "avvio_sinistra"});
+}
+template <class F>
+constexpr Row AmicoAbaco(TwipsRect posto) {
+  return row<&F::Image2>(posto, {.toolTip = "Un abaco", .picture = "avvio_destra"});
+}
+
 constexpr FormDesign Menu(std::string_view nome, double larghezza, double altezza,
                           std::span<const std::span<const Row>> tavole) {
   return {.name = nome,

@@ -1,11 +1,12 @@
 #include "app/form_avvio.h"
 
+#include "app/disegno_menu.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
 namespace somme {
 
-using namespace platform;
+using namespace disegno;
 
 namespace {
 
@@ -20,10 +21,8 @@ constexpr auto kControlli = std::to_array<Row>({
         {.caption = "Somme", .font = {Face::Tahoma, 54, true}, .align = Align::Centre}),
     row<&FormAvvio::Label1>({240, 5640, 3000, 360},
                             {.caption = "13 ottobre 2007", .font = {Face::Tahoma, 9.75}}),
-    row<&FormAvvio::Image1>({300, 1800, 3000, 3300},
-                            {.toolTip = "Un amico fatto di blocchi", .picture = "avvio_sinistra"}),
-    row<&FormAvvio::Image2>({6480, 1800, 3000, 3300},
-                            {.toolTip = "Un abaco", .picture = "avvio_destra"}),
+    AmicoDiBlocchi<FormAvvio>({300, 1800, 3000, 3300}),
+    AmicoAbaco<FormAvvio>({6480, 1800, 3000, 3300}),
 });
 
 constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};

@@ -1,15 +1,14 @@
 #include "app/form_info.h"
 
+#include "app/disegno_menu.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
 namespace somme {
 
-using namespace platform;
+using namespace disegno;
 
 namespace {
-
-constexpr Rgb kGialloPallido{255, 255, 192};
 
 constexpr auto kControlli = std::to_array<Row>({
     row<&FormInfo::Label1>({480, 480, 6240, 1440},
@@ -21,11 +20,8 @@ constexpr auto kControlli = std::to_array<Row>({
     row<&FormInfo::Command1>(
         {2310, 4140, 2580, 1155},
         {.caption = "Chiudi", .font = {Face::Tahoma, 14.25}, .picture = "chiudi"}),
-    // The two friends of the first form, beside the way out.
-    row<&FormInfo::Image1>({660, 3840, 1200, 1500},
-                           {.toolTip = "Un amico fatto di blocchi", .picture = "avvio_sinistra"}),
-    row<&FormInfo::Image2>({5340, 3840, 1200, 1500},
-                           {.toolTip = "Un abaco", .picture = "avvio_destra"}),
+    AmicoDiBlocchi<FormInfo>({660, 3840, 1200, 1500}),
+    AmicoAbaco<FormInfo>({5340, 3840, 1200, 1500}),
 });
 
 constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
@@ -34,7 +30,7 @@ constexpr FormDesign kDisegno{.name = forme::kFormInfo,
                               .caption = "Esercitazioni sulle somme",
                               .width = 7200,
                               .height = 5520,
-                              .back = kGialloPallido,
+                              .back = kSfondoMenu,
                               .tables = kTavole};
 
 }  // namespace

@@ -44,11 +44,8 @@ constexpr auto kControlli = std::to_array<Row>({
     row<&FormMenu::Command3>(Posto(3480, 1680), Voce("Solo numeri", "menu_numeri", kTintaNumeri)),
     row<&FormMenu::Command5>(Posto(240, 3000), Voce("Abaco", "menu_abaco", kTintaAbaco)),
     row<&FormMenu::Command1>(Posto(6600, 4680), Voce("Esci", "esci")),
-    // The two friends of the first form, where no control stands.
-    row<&FormMenu::Image1>({6600, 1500, 1200, 1500},
-                           {.toolTip = "Un amico fatto di blocchi", .picture = "avvio_sinistra"}),
-    row<&FormMenu::Image2>({7980, 1500, 1200, 1500},
-                           {.toolTip = "Un abaco", .picture = "avvio_destra"}),
+    AmicoDiBlocchi<FormMenu>({6600, 1500, 1200, 1500}),
+    AmicoAbaco<FormMenu>({7980, 1500, 1200, 1500}),
     row<&FormMenu::PictureTempoScansione>(
         {0, 0, 9780, 6210},
         {.toolTip = "Tempo di scansione", .back = kGrigioPannello, .hidden = true}),

@@ -120,8 +120,14 @@ std::span<const Scena> Scene() {
   return kScene;
 }
 
+// The mouse lies aside: nothing is lit that a reader would take for chosen. Over an open menu it
+// stays, which would follow it.
 QImage Ritratto(Banco& banco) {
   QWidget& finestra = banco.ambiente->fondo.window();
+  if (QApplication::activePopupWidget() == nullptr) {
+    QTest::mouseMove(banco.finestra(), QPoint(0, finestra.height() - 1));
+    QCoreApplication::processEvents();
+  }
   QPixmap insieme = finestra.grab();
   QPainter pennello(&insieme);
   for (QWidget* sopra : QApplication::topLevelWidgets()) {
