@@ -17,6 +17,7 @@
 #include "platform/devices/system_printers.h"
 #include "platform/devices/system_process_end.h"
 #include "platform/forms/appearance.h"
+#include "platform/forms/bridge_messages.h"
 #include "platform/forms/desktop_motion.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/qt_announcer.h"
@@ -48,6 +49,7 @@ int main(int /*argc*/, char* argv[]) {
   // The program takes no arguments. The toolkit's own would change its look.
   int quanti = 1;
   std::array<char*, 2> soloIlNome{argv[0], nullptr};
+  platform::silenceLostReaders();
   std::optional<QApplication> programma;
   platform::onBestWindowSystem([&] { programma.emplace(quanti, soloIlNome.data()); });
   // A program that is carried about brings its own.

@@ -12,6 +12,8 @@ struct Muto final : platform::Sound {
 };
 struct Tacito final : platform::Announcer {
   void announce(const QString& /*sentence*/) override {}
+  void boxOpens() override {}
+  void boxCloses() override {}
 };
 struct Chiuso final : platform::Documents {
   void open(const QString& /*path*/) override {}

@@ -1,6 +1,7 @@
 #include "exercises/core/tasti_cifre.h"
 
 #include "exercises/core/forma_esercizio.h"
+#include "platform/forms/accessible_events.h"
 #include "platform/forms/controls/text_box.h"
 
 namespace somme {
@@ -16,12 +17,19 @@ TastiCifre::TastiCifre(FormaEsercizio& forma, AzioniCifre azioni)
     : forma_(forma), azioni_(std::move(azioni)) {}
 
 void TastiCifre::Cifra(int cifra) const {
-  azioni_.cifra(cifra);
-  forma_.DiciScritto(azioni_.scritto());
+  Scrivi([&] { azioni_.cifra(cifra); });
 }
 
 void TastiCifre::Cestino() const {
-  azioni_.cestino();
+  Scrivi(azioni_.cestino);
+}
+
+// The box that has the focus would tell it, too; where something else has it, nobody would.
+void TastiCifre::Scrivi(const std::function<void()>& azione) const {
+  {
+    const platform::WritingNotTold unaVolta;
+    azione();
+  }
   forma_.DiciScritto(azioni_.scritto());
 }
 

@@ -38,6 +38,8 @@ class TastiCifre {
   void Aiuto() const { azioni_.aiuto(); }
 
  private:
+  void Scrivi(const std::function<void()>& azione) const;
+
   FormaEsercizio& forma_;
   AzioniCifre azioni_;
 };

@@ -18,6 +18,11 @@ class Announcer {
  public:
   virtual ~Announcer() = default;
   virtual void announce(const QString& sentence) = 0;
+  // A box comes to stand in front of everything, and has gone; boxes may stand one over another. A
+  // screen reader breaks off whatever it says and tells the box, so that what is told meanwhile,
+  // and what has only just been told, is spoken when the last box has gone.
+  virtual void boxOpens() = 0;
+  virtual void boxCloses() = 0;
 };
 
 // What the desktop lets move. It is asked anew before each movement, so that a change of mind

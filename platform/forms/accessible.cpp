@@ -196,6 +196,10 @@ QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
       className == QLatin1String("platform::LineWidget")) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
   }
+  if (className == QLatin1String("QStackedWidget")) {
+    // The toolkit's own is a pane of layers, which a reader would name whenever a page comes up.
+    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Client);
+  }
   if (className == QLatin1String("platform::LabelWidget")) {
     return new AccessibleLabel(static_cast<QWidget*>(object));
   }

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/forms/accessible_labels.h"
 #include "platform/forms/controls/label_widget.h"
 
 namespace platform {
@@ -30,7 +31,8 @@ struct Coming {
 
 struct Held {
   std::function<void(QAccessibleEvent&)> pass;
-  int together = 0;  // how many ComingsToldTogether live
+  int together = 0;   // how many ComingsToldTogether live
+  int unwritten = 0;  // how many WritingNotTold live
   std::vector<Coming> comings;
   QPointer<QWidget> focus;  // has come to the focus since this event began; null for none
   // Enabled or disabled while they were hidden, and not told.
@@ -40,6 +42,13 @@ struct Held {
 Held& held() {
   static Held all;
   return all;
+}
+
+// What a box asks for changes with its labels, and whoever listens remembers what it was.
+void tellName(QWidget& box) {
+  if (labelsTogether(box).isEmpty()) return;
+  QAccessibleEvent event(&box, QAccessible::NameChanged);
+  held().pass(event);
 }
 
 // Only the last place of the focus is told.
@@ -52,6 +61,7 @@ void holdFocus(QWidget& widget) {
       [] {
         QWidget* last = std::exchange(held().focus, nullptr);
         if (last == nullptr) return;
+        tellName(*last);
         QAccessibleEvent event(last, QAccessible::Focus);
         held().pass(event);
       },
@@ -115,10 +125,11 @@ bool isOfSilent(const QWidget& widget, const QAccessibleEvent& event) {
          (event.type() == QAccessible::ObjectShow || event.type() == QAccessible::ObjectHide);
 }
 
-// True for an event of something hidden that is not told, or not yet.
+// True for an event that is not told, or not yet: of something hidden, or of writing that a
+// sentence tells.
 bool keepUnseen(QWidget& widget, QAccessibleEvent& event) {
+  if (isAboutText(event.type()) && (!widget.isVisible() || held().unwritten > 0)) return true;
   if (widget.isVisible()) return false;
-  if (isAboutText(event.type())) return true;
   if (event.type() != QAccessible::StateChanged) return false;
   const auto& change = static_cast<const QAccessibleStateChangeEvent&>(event);
   if (!change.changedStates().disabled) return false;
@@ -144,6 +155,14 @@ void tellComing(QWidget& widget) {
 }
 
 }  // namespace
+
+WritingNotTold::WritingNotTold() {
+  ++held().unwritten;
+}
+
+WritingNotTold::~WritingNotTold() {
+  --held().unwritten;
+}
 
 ComingsToldTogether::ComingsToldTogether() {
   ++held().together;

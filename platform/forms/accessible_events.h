@@ -16,6 +16,16 @@ void installAccessibleEvents(std::function<void(QAccessibleEvent& event)> pass =
 // What becomes of an event; the toolkit calls it once somebody listens.
 void hearAccessibleEvent(QAccessibleEvent* event);
 
+// While one lives, what is written into boxes is not told: for what a sentence tells
+// (Form::announce), which would be heard twice.
+class WritingNotTold {
+ public:
+  WritingNotTold();
+  ~WritingNotTold();
+  WritingNotTold(const WritingNotTold&) = delete;
+  WritingNotTold& operator=(const WritingNotTold&) = delete;
+};
+
 // While one lives, what comes and goes tells it when the last one ends, and what has come and gone
 // again, or gone and come, does not tell it at all: for boxes that take each other's place while an
 // answer is judged.

@@ -22,11 +22,30 @@ Widgets boundTo(const QWidget& widget, const Bond& bond) {
   return widget.property(bond.property).value<Widgets>();
 }
 
+QList<QAccessibleInterface*> shownBoundTo(const QWidget& widget, const Bond& bond) {
+  QList<QAccessibleInterface*> shown;
+  for (const QPointer<QWidget>& other : boundTo(widget, bond)) {
+    if (other && !other->isHidden()) shown += QAccessible::queryAccessibleInterface(other);
+  }
+  return shown;
+}
+
 void add(QWidget& widget, const Bond& bond, QWidget& other) {
   widget.setProperty(bond.property, QVariant::fromValue(boundTo(widget, bond) << &other));
 }
 
 }  // namespace
+
+QString labelsTogether(const QWidget& box) {
+  const QList<QAccessibleInterface*> labels = shownBoundTo(box, kLabels);
+  if (labels.size() < 2) return {};
+  QStringList words;
+  for (const QAccessibleInterface* label : labels) {
+    const QString name = label->text(QAccessible::Name).simplified();
+    words += name.isEmpty() ? QStringLiteral("?") : name;
+  }
+  return words.join(u' ');
+}
 
 void bindLabel(QWidget& label, QWidget& box) {
   add(box, kLabels, label);
@@ -35,12 +54,11 @@ void bindLabel(QWidget& label, QWidget& box) {
 
 Relations labelRelations(const QWidget& widget, QAccessible::Relation match) {
   Relations relations;
-  for (const Bond& bond : {kLabels, kBoxes}) {
-    if (!match.testFlag(bond.relation)) continue;
-    for (const QPointer<QWidget>& other : boundTo(widget, bond)) {
-      if (!other || other->isHidden()) continue;
-      relations.append({QAccessible::queryAccessibleInterface(other), bond.relation});
-    }
+  for (const Bond* bond : {&kLabels, &kBoxes}) {
+    if (!match.testFlag(bond->relation)) continue;
+    const QList<QAccessibleInterface*> others = shownBoundTo(widget, *bond);
+    if (bond == &kLabels && others.size() > 1) continue;
+    for (QAccessibleInterface* other : others) relations.append({other, bond->relation});
   }
   return relations;
 }

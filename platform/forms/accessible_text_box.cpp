@@ -23,7 +23,9 @@ void* AccessibleTextBox::interface_cast(QAccessible::InterfaceType type) {
 }
 
 QString AccessibleTextBox::text(QAccessible::Text kind) const {
-  return kind == QAccessible::Value ? box().text() : QAccessibleWidget::text(kind);
+  if (kind == QAccessible::Value) return box().text();
+  const QString asked = kind == QAccessible::Name ? labelsTogether(box()) : QString();
+  return asked.isEmpty() ? QAccessibleWidget::text(kind) : asked;
 }
 
 void AccessibleTextBox::setText(QAccessible::Text kind, const QString& text) {

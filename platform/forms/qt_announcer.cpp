@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QEvent>
+#include <QWindow>
 #include <utility>
 
 #include "platform/forms/accessible.h"
@@ -58,30 +59,52 @@ constexpr int kRounds = 2;
 
 }  // namespace
 
-QtAnnouncer::QtAnnouncer(Tell tell) : tell_(tell ? std::move(tell) : Tell(tellDesktop)) {
+QtAnnouncer::QtAnnouncer(Tell tell, int breath)
+    : tell_(tell ? std::move(tell) : Tell(tellDesktop)), breath_(breath) {
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) {
     if (now != nullptr) lastFocus_ = now;
+  });
+  connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
+    if (now == nullptr || boxes_ > 0) return;
+    behindBox_ = false;
+    speakSoon();
   });
 }
 
 void QtAnnouncer::announce(const QString& sentence) {
   if (!QAccessible::isActive()) return;
-  if (untold_.isEmpty()) waitRound(kRounds);
   untold_.append(sentence);
+  speakSoon();
+}
+
+void QtAnnouncer::boxOpens() {
+  if (boxes_++ > 0 || told_.isEmpty() || sinceTold_.hasExpired(breath_)) return;
+  untold_ = std::exchange(told_, {}) + untold_;
+}
+
+void QtAnnouncer::boxCloses() {
+  if (--boxes_ > 0) return;
+  behindBox_ = true;
+  speakSoon();
 }
 
 bool QtAnnouncer::event(QEvent* event) {
   if (event->type() != QEvent::User) return QObject::event(event);
-  if (rounds_ > 0) {
-    waitRound(rounds_);
-  } else {
+  if (--rounds_ > 0) {
+    waitRound();
+  } else if (boxes_ == 0) {
     speak();
   }
   return true;
 }
 
-void QtAnnouncer::waitRound(int rounds) {
-  rounds_ = rounds - 1;
+void QtAnnouncer::speakSoon() {
+  if (untold_.isEmpty() || rounds_ > 0 || boxes_ > 0) return;
+  rounds_ = kRounds;
+  waitRound();
+}
+
+void QtAnnouncer::waitRound() {
   QCoreApplication::postEvent(this, new QEvent(QEvent::User), kLast);
 }
 
@@ -93,10 +116,14 @@ QWidget* QtAnnouncer::speaker() const {
   return QApplication::activeWindow();
 }
 
+// The desktop gives the keyboard back some time after a box has gone, and before that a screen
+// reader hears nobody.
 void QtAnnouncer::speak() {
-  const QString words = untold_.join(QStringLiteral(". "));
-  untold_.clear();
-  if (QWidget* who = speaker()) tell_(*who, words);
+  if (behindBox_ && QGuiApplication::focusWindow() == nullptr) return;
+  behindBox_ = false;
+  told_ = std::exchange(untold_, {});
+  sinceTold_.start();
+  if (QWidget* who = speaker()) tell_(*who, told_.join(QStringLiteral(". ")));
 }
 
 }  // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -17,26 +18,40 @@ namespace platform {
 // From Qt 6.8 on it is an announcement of the toolkit's. Before, the toolkit has none, and tells of
 // a changed description without its words; so the words go over the toolkit's own connection to the
 // accessibility bus, as a description that is taken back at once.
+//
+// Behind a box nothing is spoken; when it has gone and a window has the keyboard again, what waited
+// is, and before it what the box had broken off.
 class QtAnnouncer final : public QObject, public Announcer {
  public:
   // Tells words on behalf of a widget.
   using Tell = std::function<void(QWidget& speaker, const QString& words)>;
 
+  // For so long, in milliseconds, a voice may still be at what it was told last.
+  static constexpr int kBreath = 3000;
+
   // tell: how the desktop is told; as above without it.
-  explicit QtAnnouncer(Tell tell = {});
+  explicit QtAnnouncer(Tell tell = {}, int breath = kBreath);
 
   void announce(const QString& sentence) override;
+  void boxOpens() override;
+  void boxCloses() override;
 
   bool event(QEvent* event) override;
 
  private:
-  void waitRound(int rounds);
+  void speakSoon();
+  void waitRound();
   [[nodiscard]] QWidget* speaker() const;
   void speak();
 
   Tell tell_;
+  int breath_;
   QStringList untold_;
-  int rounds_ = 0;               // of the queue that are waited for after the next
+  QStringList told_;  // together, the last time
+  QElapsedTimer sinceTold_;
+  int rounds_ = 0;               // of the queue that are still waited for
+  int boxes_ = 0;                // that stand in front
+  bool behindBox_ = false;       // one has gone, and no window has had the keyboard since
   QPointer<QWidget> lastFocus_;  // where nothing has the focus a screen reader is still there
 };
 

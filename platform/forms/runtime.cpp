@@ -62,6 +62,8 @@ bool Runtime::mayAct(const QWidget& widget) const {
 BoxAnswer Runtime::ask(const MessageBox& box) {
   const int deaf = std::exchange(deaf_, 0);
   const auto deafAgain = qScopeGuard([this, deaf] { deaf_ = deaf; });
+  services_.announcer.boxOpens();
+  const auto closed = qScopeGuard([this] { services_.announcer.boxCloses(); });
   return services_.boxes.show(box);
 }
 

@@ -75,10 +75,13 @@ class AnnunciDiProva final : public platform::Announcer {
     detti.push_back(sentence);
     if (allAnnuncio) allAnnuncio();
   }
+  void boxOpens() override { ++davanti; }
+  void boxCloses() override { --davanti; }
   // What was told since the last question for it.
   [[nodiscard]] QStringList nuovi() { return std::exchange(detti, {}); }
 
   QStringList detti;
+  int davanti = 0;  // boxes that stand in front now
   std::function<void()> allAnnuncio;
 };
 

@@ -5,9 +5,10 @@ against what it should.
     ascoltata.py <program> <folder> <stand-in for the touch surface> [<exercise> ...]
 
 Without an exercise all of them are played. On every form the question of each case must be spoken,
-and each verdict with its count: within 300 ms of the key, click or touch, and not cut off by
-anything but the next of these. The folder gets what was said, a file an exercise. Ends with 0 when
-all was heard.
+help, what comes to stand on a board, a carry, and each verdict with its count: that within 300 ms of
+the key, click or touch. Nothing of it may be cut off by anything but the next of these, nor a
+question by the box of the touch link, which it waits behind. The folder gets what was said, a file
+an exercise. Ends with 0 when all was heard.
 """
 
 import contextlib
@@ -54,7 +55,7 @@ class GiocatoreAscoltato(Giocatore):
         self._gesti = Gesti()
         self.misure = []  # (what, milliseconds from the hand to the voice, events)
         self.mancati = []
-        self._udite = 0
+        self._udito = 0, 0  # how far all has been found: which one of what was said, how much of it
         self._domanda = None
         for oggetto, nome in ((self.mani, "_xdotool"), (self.tavoletta, "fai")):
             if oggetto is not None:
@@ -69,35 +70,47 @@ class GiocatoreAscoltato(Giocatore):
         self._domanda = self.forme[-1], parole
 
         def domanda(detto):
-            return "=" in detto and re.findall(r"\d+", detto.partition(". Trova")[0]) == parole
+            chiesti = re.findall(r"\d+", detto.partition(". Trova")[0])
+            return len(detto) if "=" in detto and chiesti == parole else 0
         self._deve_udire("question", domanda)
         return termini
 
     def collega(self):
-        # Whoever hears the box and the question behind it answers when both have been said.
-        time.sleep(3)
+        # The question waits behind the box.
+        self._deve_dire("box", "HelpiKeys è pronta")
         super().collega()
+
+    def si_dice(self, che_cosa, parole):
+        self._deve_dire(che_cosa, parole)
 
     def contano(self, esatti, errati):
         super().contano(esatti, errati)
         frase = f"{GIUSTO}. {ESATTI} {esatti}"
         if not any(frase in parole for _, _, parole in self._lettore.detto()):
             # After boards and carries, which take seconds of their own.
-            self._deve_udire("verdict at the end", lambda d: frase in d)
+            self._deve_dire("verdict at the end", frase)
 
     def rispondi(self, risposta, dai, giusto):
         super().rispondi(risposta, dai, giusto)
         parola, conto = (GIUSTO, ESATTI) if giusto else (SBAGLIATO, ERRATI)
-        self._deve_udire("verdict", lambda d: f"{parola}. {conto} {self.conta(conto)}" in d)
+        self._deve_dire("verdict", f"{parola}. {conto} {self.conta(conto)}")
 
-    def _deve_udire(self, che_cosa, vero):
-        """Looks for it among what has been said since the last thing that was found."""
+    def _deve_dire(self, che_cosa, parole):
+        self._deve_udire(che_cosa, lambda d: d.find(parole) + len(parole) if parole in d else 0)
+
+    def _deve_udire(self, che_cosa, quanto):
+        """Looks for it in what has been said since the last thing that was found.
+
+        quanto: how much of a text it takes, from the beginning to its end; 0 where it is not there.
+        """
         fine = time.monotonic() + ASPETTA
         while True:
             detto = self._lettore.detto()
-            for i in range(self._udite, len(detto)):
-                if detto[i][1] == "say" and vero(detto[i][2]):
-                    self._udite = i + 1
+            for i in range(self._udito[0], len(detto)):
+                da = self._udito[1] if i == self._udito[0] else 0
+                fino = quanto(detto[i][2][da:]) if detto[i][1] == "say" else 0
+                if fino:
+                    self._udito = i, da + fino
                     self._misura(che_cosa, detto, i)
                     return
             if time.monotonic() > fine:
@@ -108,6 +121,7 @@ class GiocatoreAscoltato(Giocatore):
     def _misura(self, che_cosa, detto, i):
         quando, _, parole = detto[i]
         gesto = max((g for g in self._gesti if g < quando), default=quando)
+        # What comes behind it.
         time.sleep(0.5)
         eventi = [cosa for t, cosa in self._lettore.eventi(self.albero.processo)
                   if gesto <= t <= quando + 0.5 and not cosa.startswith(VECCHIO)]
@@ -124,6 +138,15 @@ class GiocatoreAscoltato(Giocatore):
         if len(eventi) > AL_PIU:
             conti = ", ".join(f"{eventi.count(e)} {e}" for e in sorted(set(eventi)))
             self.mancati.append(f"{parole!r}: {len(eventi)} events: {conti}")
+
+
+def riassumi(misure):
+    """Each kind of what was heard: how often, and the milliseconds from hand to voice."""
+    for che_cosa in dict.fromkeys(c for c, _, _ in misure):
+        tempi = sorted(1000 * t for c, t, _ in misure if c == che_cosa)
+        eventi = max(len(e) for c, _, e in misure if c == che_cosa)
+        print(f"Times:    {che_cosa}: {len(tempi)}, median {tempi[len(tempi) // 2]:.0f} ms, longest"
+              f" {tempi[-1]:.0f} ms, at most {eventi} events")
 
 
 def scrivi(percorso, lettore):
@@ -151,6 +174,7 @@ def ascolta(programma, cartella, tavoletta, nome):
         except (TempoScaduto, Errore, ErroreTavoletta) as errore:
             giocatore.mancati.append(f"on {giocatore.forme[-1:] or AVVIO}: {errore}")
             giocatore.fotografa("errore")
+        riassumi(giocatore.misure)
         scrivi(os.path.join(cartella, nome + ".txt"), lettore)
     return giocatore.mancati
 

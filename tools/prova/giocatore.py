@@ -172,6 +172,15 @@ class Giocatore:
         self.mani.clicca(casella.posto)
         self.batti_numero(numero)
 
+    def premi_con_la_lettera(self, nome, lettera):
+        """Works a button by its letter, which leaves the focus where it is."""
+        oggetto = self.albero.aspetta_oggetto(BOTTONE, nome)
+        self.albero.aspetta(f"{nome!r} to be enabled", lambda: oggetto.abilitato)
+        self.mani.batti(f"alt+{lettera}")
+
+    def si_dice(self, che_cosa, parole):
+        """The program tells these words now; who listens (see ascoltata.py) must hear them."""
+
     def contano(self, esatti, errati):
         """The counters stand so and not otherwise."""
         contati = self.conta(ESATTI), self.conta(ERRATI)

@@ -1,6 +1,7 @@
 """The screen reader Orca on a desktop of our own: what it says, and what the program tells it."""
 
 import os
+import signal
 import subprocess
 import time
 
@@ -40,10 +41,13 @@ class Lettore:
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self._aspetta("Orca", lambda: len(self.detto()) > prima)
 
+    def incanta(self):
+        """Lets the reader answer nothing any more, as one that hangs."""
+        self._orca.send_signal(signal.SIGSTOP)
+
     def termina(self):
         """Ends the reader in the middle of whatever it does."""
-        self._orca.kill()
-        self._orca.wait()
+        self._orca.uccidi()
 
     def _aspetta(self, che_cosa, vero):
         fine = time.monotonic() + self.SECONDI

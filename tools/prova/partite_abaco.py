@@ -11,12 +11,17 @@ LIVELLO = "cambio alle unità"  # up to 999; no other level bears this name
 FAMIGLIA = "Abaco"
 
 
-def _sull_abaco(giocatore, che_cosa):
-    """Waits until the abacus tells assistive technology what it should."""
+def _sull_abaco(giocatore, che_cosa, detta=True):
+    """Waits until the abacus tells assistive technology what it should.
+
+    detta: whether it is spoken, too; the empty abacus of a new case is not.
+    """
     def detto():
         return [o.descrizione for o in giocatore.albero.visibili() if o.nome == FAMIGLIA]
     giocatore.albero.aspetta(f"{che_cosa!r} on the abacus", lambda: che_cosa in detto(), 30)
     print("Abacus:   " + che_cosa)
+    if detta:
+        giocatore.si_dice("board", che_cosa)
 
 
 def _premi_palline(giocatore, nome, quante, detto):
@@ -110,7 +115,7 @@ def abaco_scansione(giocatore):
     luce.usa()
     giocatore.chiesta()
     albero.aspetta("the light on 'h'", lambda: acceso() == "h")
-    _sull_abaco(giocatore, "vuoto")
+    _sull_abaco(giocatore, "vuoto", detta=False)
     giocatore.esci(FAMIGLIA)
 
 
@@ -147,5 +152,5 @@ def abaco_tocco(giocatore):
     albero.aspetta(f"the focus on {AVANTI!r}", lambda: bottone.ha_il_fuoco)
     tocca(dita.AVANTI)
     giocatore.chiesta()
-    _sull_abaco(giocatore, "vuoto")
+    _sull_abaco(giocatore, "vuoto", detta=False)
     giocatore.esci(FAMIGLIA)

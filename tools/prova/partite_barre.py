@@ -7,6 +7,7 @@ from luce import Luce
 MENU = "Uso delle barre"
 ENTRO_10, ENTRO_20 = "Fino al 10", "Fino al 20"
 PIU, UGUALE = "+", "="
+AIUTO = "aiuto"
 CANCELLA, CONFERMA, AVANTI = "Cancella", "Conferma", "Avanti"
 
 
@@ -47,10 +48,12 @@ class Barre:
             return termini if termini and termini.count("") == 1 else None
         return self._giocatore.chiesta(aperta)
 
-    def gioca(self, dai):
-        """A whole sum; dai gives an answer as the form takes it."""
+    def gioca(self, dai, chiedi_aiuto):
+        """A whole sum, with help; dai gives an answer as the form takes it."""
         termini = self.chiesta()
         risposta = trova(termini)
+        chiedi_aiuto()
+        self._giocatore.si_dice("help", ": " + ", ".join(["1"] * risposta or ["0"]))
         self._giocatore.prova(risposta, dai)
         termini[termini.index("")] = str(risposta)
         self._giocatore.albero.aspetta("the whole sum", lambda: self.scritti() == termini)
@@ -65,7 +68,7 @@ def barre(giocatore):
         giocatore.premi(str(numero))
 
     giocatore.apri("FormBarre10", MENU, ENTRO_10)
-    gioco.gioca(dai)
+    gioco.gioca(dai, lambda: giocatore.premi(AIUTO))
     giocatore.avanti("space")
     giocatore.rispondi(trova(gioco.chiesta()), dai, giusto=True)
     giocatore.fotografa("secondo")
@@ -80,7 +83,7 @@ def barre_scritte(giocatore):
     def scritta():
         giocatore.albero.aspetta("the box with the keyboard", lambda: any(
             o.ruolo == TESTO and o.ha_il_fuoco for o in giocatore.albero.visibili()))
-        gioco.gioca(giocatore.batti_numero)
+        gioco.gioca(giocatore.batti_numero, lambda: giocatore.premi_con_la_lettera(AIUTO, "a"))
         # The same Enter is released in the empty box of the next case, where it is no answer.
         giocatore.avanti("Return")
         gioco.chiesta()
@@ -113,7 +116,7 @@ def barre_scansione(giocatore):
 
     def illuminata():
         giocatore.albero.aspetta("the light on '0'", lambda: luce.acceso() == "0")
-        gioco.gioca(dai)
+        gioco.gioca(dai, lambda: luce.scegli_a_mano("Aiuto"))
         giocatore.albero.aspetta("the light on the way on", lambda: luce.acceso() == AVANTI)
         luce.usa()
         gioco.chiesta()
@@ -132,7 +135,7 @@ def barre_tocco(giocatore):
 
     def toccata():
         giocatore.collega()
-        gioco.gioca(dita.componi)
+        gioco.gioca(dita.componi, lambda: dita.tocca(AIUTO))
         dita.avanti()
         gioco.chiesta()
         giocatore.esci(ENTRO_20)

@@ -18,8 +18,17 @@ SEGNI = {CONFERMA: dita.CONFERMA, CAMBI[10]: dita.DA_IN_H, CAMBI[1]: dita.U_IN_D
          AVANTI: dita.AVANTI}
 
 
+# The kinds in words: one, and more of them.
+PAROLE = {100: ("centinaio", "centinaia"), 10: ("decina", "decine"), 1: ("unità", "unità")}
+
+
 def cifra(numero, posto):
     return numero // posto % 10
+
+
+def in_parole(blocchi):
+    """blocchi: how many of each kind, by the place of its digit."""
+    return ", ".join(f"{blocchi[p]} {PAROLE[p][blocchi[p] > 1]}" for p in PAROLE if blocchi.get(p))
 
 
 class Gioco:
@@ -38,9 +47,12 @@ class Gioco:
         return int(a), int(b)
 
     def costruisci(self, numero):
+        su = {}
         for posto in self.posti:
             for _ in range(cifra(numero, posto)):
                 self.scegli(SPECIE[posto])
+                su[posto] = su.get(posto, 0) + 1
+                self.giocatore.si_dice("board", in_parole(su))
         self.scegli(CONFERMA)
 
     def unisci(self):
@@ -51,11 +63,17 @@ class Gioco:
         self.costruisci(a)
         self.giocatore.fotografa("secondo-addendo")
         self.costruisci(b)
+        uniti = {p: cifra(a, p) + cifra(b, p) for p in self.posti}
+        self.giocatore.si_dice("board", in_parole(uniti))
         for posto in sorted(set(self.posti) & set(CAMBI)):
             if posto * 10 in self.posti and cifra(a, posto) + cifra(b, posto) >= 10:
                 self.albero.aspetta_oggetto(BOTTONE, CAMBI[posto])
                 self.giocatore.fotografa("cambio")
+                self.giocatore.si_dice("carry", CAMBI[posto])
                 self.cambia(CAMBI[posto])
+                uniti[posto] -= 10
+                uniti[posto * 10] += 1
+                self.giocatore.si_dice("carry", in_parole(uniti))
                 self.albero.aspetta("the carry's button to go",
                                     lambda p=posto: not self.albero.cerca(BOTTONE, CAMBI[p]))
                 print(f"Carried:  {CAMBI[posto]}")

@@ -30,6 +30,12 @@ class Processo(subprocess.Popen):
             self.kill()
             self.wait()
 
+    def uccidi(self):
+        """Ends it in the middle of whatever it does."""
+        self._voluta = True
+        self.kill()
+        self.wait()
+
     def caduto(self):
         """The name of the signal that ended it unasked; None where none did."""
         stato = self.poll() or 0

@@ -125,6 +125,9 @@ class SoloAusili(_SenzaMouse):
     def premi_col_fuoco(self, nome, tasto):
         self.premi(nome)
 
+    def premi_con_la_lettera(self, nome, lettera):
+        self.premi(nome)
+
     def scegli_modo(self, modo):
         _, parole = modo
         for nome in STRADA_DEI_MODI:

@@ -2,9 +2,11 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 
+#include "platform/forms/accessible_labels.h"
 #include "platform/forms/controls/label_widget.h"
 #include "support/iscrizione.h"
 
@@ -93,6 +95,37 @@ class AccessibleEventsTest : public QObject {
     // Names and descriptions are remembered by whoever listens.
     happens(hidden, QAccessible::NameChanged);
     QCOMPARE(count(&hidden, QAccessible::NameChanged), 1);
+  }
+
+  void whatASentenceTellsIsNotToldByItsBoxAsWell() {
+    QWidget window;
+    QLineEdit box(&window);
+    window.show();
+    {
+      const platform::WritingNotTold once;
+      isWrittenInto(box);
+      happens(box, QAccessible::NameChanged);
+    }
+    QCOMPARE(told_, (Told{{&box, QAccessible::NameChanged}}));
+    isWrittenInto(box);
+    QCOMPARE(count(&box, QAccessible::ValueChanged), 1);
+  }
+
+  void aBoxThatSeveralLabelsAskForTellsWhatTheySayBeforeItsFocus() {
+    QWidget window;
+    QLineEdit box(&window);
+    QLabel one(&window);
+    QLabel two(&window);
+    window.show();
+    platform::bindLabel(one, box);
+    happens(box, QAccessible::Focus);
+    QCoreApplication::processEvents();
+    QCOMPARE(told_, (Told{{&box, QAccessible::Focus}}));
+    told_.clear();
+    platform::bindLabel(two, box);
+    happens(box, QAccessible::Focus);
+    QCoreApplication::processEvents();
+    QCOMPARE(told_, (Told{{&box, QAccessible::NameChanged}, {&box, QAccessible::Focus}}));
   }
 
   void ofALockedBoxTheTextIsToldAndTheCursorWhereItHasTheKeyboard() {

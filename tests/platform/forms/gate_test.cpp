@@ -132,6 +132,16 @@ class GateTest : public QObject {
     QVERIFY(!wentOn);
   }
 
+  void whoSpeaksKnowsOfEachBoxThatStandsInFront() {
+    Stage stage;
+    TrialForm& form = stage.show(kOne);
+    int during = 0;
+    stage.boxes.mentreAperto = [&] { during = stage.announcer.davanti; };
+    form.run([&] { stage.runtime->showBox({.text = QStringLiteral("Look")}); });
+    QCOMPARE(during, 1);
+    QCOMPARE(stage.announcer.davanti, 0);
+  }
+
   void aMessageBoxReturnsThoughTheCaseWasReplacedBehindIt() {
     Stage stage;
     TrialForm& form = stage.show(kOne);

@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include "platform/forms/accessible_events.h"
 #include "platform/forms/controls/key_panel_widget.h"
@@ -18,7 +20,13 @@ namespace {
 // box" for a focus that is told.
 class Ground {
  public:
-  Ground() {
+  // breath: as for the announcer.
+  explicit Ground(int breath = QtAnnouncer::kBreath)
+      : announcer(
+            [this](QWidget& speaker, const QString& words) {
+              heard += nameOf(&speaker) + QStringLiteral(": ") + words;
+            },
+            breath) {
     for (QLineEdit* box : {&one, &two})
       box->setAccessibleName(box == &one ? QStringLiteral("one") : QStringLiteral("two"));
     window.setAccessibleName(QStringLiteral("window"));
@@ -47,9 +55,7 @@ class Ground {
   QLineEdit one{&window};
   QLineEdit two{&window};
   QStringList heard;
-  QtAnnouncer announcer{[this](QWidget& speaker, const QString& words) {
-    heard += nameOf(&speaker) + QStringLiteral(": ") + words;
-  }};
+  QtAnnouncer announcer;
 
  private:
   static QString nameOf(QObject* object) {
@@ -152,6 +158,65 @@ class QtAnnouncerTest : public QObject {
     QVERIFY(ground->listen().isEmpty());
     ground->announcer.announce(QStringLiteral("Wrong. 1"));
     QCOMPARE(ground->listen(), QStringList{QStringLiteral("one: Wrong. 1")});
+  }
+
+  void behindABoxNothingIsSpokenAndAllOfItInItsOrderOnceTheLastBoxHasGone() {
+    Ground ground;
+    ground.announcer.announce(QStringLiteral("3 + 4 ="));
+    ground.announcer.boxOpens();
+    QVERIFY(ground.listen().isEmpty());
+    ground.announcer.announce(QStringLiteral("1"));
+    ground.announcer.boxOpens();
+    ground.announcer.boxCloses();
+    QVERIFY(ground.listen().isEmpty());
+    ground.announcer.announce(QStringLiteral("12"));
+    ground.announcer.boxCloses();
+    QCOMPARE(ground.listen(), QStringList{QStringLiteral("one: 3 + 4 =. 1. 12")});
+    QVERIFY(ground.listen().isEmpty());
+  }
+
+  void whatABoxBreaksOffIsSpokenOnceMoreBeforeWhatWasToldBehindIt() {
+    Ground ground;
+    ground.announcer.announce(QStringLiteral("3 + 4 ="));
+    QCOMPARE(ground.listen(), QStringList{QStringLiteral("one: 3 + 4 =")});
+    ground.announcer.boxOpens();
+    ground.announcer.announce(QStringLiteral("1"));
+    ground.announcer.boxCloses();
+    QCOMPARE(ground.listen(), QStringList{QStringLiteral("one: 3 + 4 =. 1")});
+    QVERIFY(ground.listen().isEmpty());
+  }
+
+  void whatWasSpokenToItsEndBeforeABoxIsNotSpokenAgain() {
+    Ground ground(20);
+    ground.announcer.announce(QStringLiteral("3 + 4 ="));
+    QCOMPARE(ground.listen(), QStringList{QStringLiteral("one: 3 + 4 =")});
+    QTest::qWait(40);
+    ground.announcer.boxOpens();
+    ground.announcer.boxCloses();
+    QVERIFY(ground.listen().isEmpty());
+  }
+
+  void afterABoxItIsSpokenAsSoonAsAWindowHasTheKeyboardAgain() {
+    Ground ground;
+    {
+      ground.announcer.boxOpens();
+      QMessageBox box(&ground.window);
+      QTimer::singleShot(0, &box, [&] {
+        ground.announcer.announce(QStringLiteral("3 + 4 ="));
+        (void)ground.listen();
+        box.accept();
+      });
+      box.exec();
+    }
+    ground.announcer.boxCloses();
+    QVERIFY(!ground.listen().join(u' ').contains(QStringLiteral("3 + 4")));
+    ground.announcer.announce(QStringLiteral("1"));
+    QVERIFY(!ground.listen().join(u' ').contains(QStringLiteral("3 + 4")));
+    ground.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&ground.window));
+    QCOMPARE(ground.listen().count(QStringLiteral("one: 3 + 4 =. 1")), 1);
+    ground.announcer.announce(QStringLiteral("12"));
+    QCOMPARE(ground.listen(), QStringList{QStringLiteral("one: 12")});
   }
 
   void withoutABusTheDesktopsWordsGoNowhereAndLeaveNothingOnTheControls() {

@@ -81,6 +81,19 @@ class SessionEndTest : public QObject {
     QCOMPARE(status, std::optional(0));
   }
 
+  void anOpenMenuDoesNotRefuseIt() {
+    Stage stage;
+    stage.show(kOne);
+    const SessionEnd end(*stage.runtime);
+    stage.tap(Qt::Key_M, Qt::AltModifier, QStringLiteral("m"));
+    QVERIFY(QApplication::activePopupWidget() != nullptr);
+    stage.log.clear();
+    sessionEnds();
+    QCOMPARE(stage.end.stato, std::optional(0));
+    QVERIFY(stage.log.contains(QStringLiteral("One.Unload")));
+    QCOMPARE(QApplication::activePopupWidget(), nullptr);
+  }
+
   void aWaitForAPrinterDoesNotRefuseIt() {
     Stage stage;
     stage.show(kOne);

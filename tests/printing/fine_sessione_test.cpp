@@ -1,0 +1,75 @@
+#include <QApplication>
+#include <QComboBox>
+
+#include "dialogo_di_prova.h"
+#include "platform/forms/session_end.h"
+#include "support/iscrizione.h"
+
+using prova::DialogoDiProva;
+using somme::frmAvviaStampa;
+
+namespace {
+
+// What the toolkit makes of the word of the session's manager.
+void finisceLaSessione() {
+  QEvent quit(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &quit);
+}
+
+}  // namespace
+
+// The desktop's session ends while the print dialog stands open.
+class FineSessioneTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void theDialogDoesNotRefuseIt() {
+    DialogoDiProva prova;
+    const platform::SessionEnd fine(prova.banco.ambiente->fondo);
+    std::optional<int> stato;
+    prova.apri(prova.richiesta(), [&](const frmAvviaStampa&) {
+      finisceLaSessione();
+      stato = prova.banco.fine.stato;
+    });
+    QVERIFY(prova.visto);
+    QCOMPARE(stato, std::optional(0));
+    QVERIFY(prova.forma.isUnloaded());
+    QVERIFY(prova.banco.stampanti.lavori.empty());
+    QVERIFY(prova.messaggi().empty());
+  }
+
+  void anOpenListOfItDoesNotRefuseItEither() {
+    DialogoDiProva prova;
+    const platform::SessionEnd fine(prova.banco.ambiente->fondo);
+    std::optional<int> stato;
+    bool aperta = false;
+    prova.apri(prova.richiesta(), [&](const frmAvviaStampa& d) {
+      prova.clicca(d.cboPrinterNames);
+      aperta = QApplication::activePopupWidget() != nullptr;
+      finisceLaSessione();
+      stato = prova.banco.fine.stato;
+    });
+    QVERIFY(aperta);
+    QCOMPARE(stato, std::optional(0));
+    QVERIFY(prova.forma.isUnloaded());
+  }
+
+  void whileItPrintsItDoesNotRefuseItEither() {
+    DialogoDiProva prova;
+    const platform::SessionEnd fine(prova.banco.ambiente->fondo);
+    std::optional<int> stato;
+    prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
+    prova.apri(prova.richiesta(), [&](const frmAvviaStampa& d) {
+      prova.banco.stampanti.mentreRisponde = [&] {
+        finisceLaSessione();
+        stato = prova.banco.fine.stato;
+      };
+      prova.clicca(d.cmdStampa);
+    });
+    QCOMPARE(stato, std::optional(0));
+    QVERIFY(prova.messaggi().empty());
+  }
+};
+
+const prova::Iscrizione<FineSessioneTest, QApplication> kIscritta;
+#include "fine_sessione_test.moc"
