@@ -9,11 +9,9 @@
 #include "app/tabella_forme.h"
 #include "immagini/immagini.h"
 #include "platform/base/chance.h"
-#include "platform/devices/desktop_documents.h"
-#include "platform/devices/file_instance_lock.h"
 #include "platform/devices/loopback_network.h"
 #include "platform/devices/qt_time_source.h"
-#include "platform/devices/sdl_sound.h"
+#include "platform/devices/system_devices.h"
 #include "platform/devices/system_printers.h"
 #include "platform/devices/system_process_end.h"
 #include "platform/forms/appearance.h"
@@ -59,11 +57,11 @@ int main(int /*argc*/, char* argv[]) {
 
   platform::QtTimeSource tempo;
   platform::SeededChance sorte(0);
-  platform::SdlSound suono(QApplication::beep);
+  const auto suono = platform::systemSound(QApplication::beep);
   platform::QtAnnouncer annunci;
-  platform::DesktopDocuments documenti;
+  const auto documenti = platform::systemDocuments();
   platform::SystemProcessEnd fine;
-  platform::FileInstanceLock istanza(QCoreApplication::applicationFilePath());
+  const auto istanza = platform::systemInstanceLock(QCoreApplication::applicationFilePath());
   platform::SystemPrinters stampanti(
       tempo, {platform::PdfFolder::usualFolders(), [] { return QDateTime::currentDateTime(); }});
 
@@ -79,7 +77,7 @@ int main(int /*argc*/, char* argv[]) {
       [&tutto] { return somme::ParolePagina(*tutto); },
       [](const platform::Paper& carta) { return somme::NomeDellaCarta(carta); }, sopra);
   somme::Ambiente ambiente(
-      {tempo, sorte, suono, messaggi, annunci, documenti, fine, istanza, stampanti, pagina, rete,
+      {tempo, sorte, *suono, messaggi, annunci, *documenti, fine, *istanza, stampanti, pagina, rete,
        QCoreApplication::applicationDirPath(), CartellaUtente(), &moto},
       somme::LeForme());
   tutto = &ambiente;

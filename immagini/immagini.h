@@ -2,7 +2,7 @@
 
 namespace somme {
 
-// Makes the pictures readable as ":/immagini/<name>.svg". The pictures lie in a static library,
+// Makes the pictures readable as ":/immagini/<name>.drawing". The pictures lie in a static library,
 // from which a program gets them only by this call. To be called before the first form is made; a
 // further call does nothing.
 void PreparaImmagini();

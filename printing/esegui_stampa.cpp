@@ -3,7 +3,7 @@
 #include "app/shared/ambiente.h"
 #include "platform/base/numbers.h"
 #include "platform/forms/wait_pointer.h"
-#include "printing/documento_pdf.h"
+#include "printing/documento.h"
 #include "printing/errore_di_stampa.h"
 #include "printing/immagine_di_stampa.h"
 #include "printing/stampante_in_uso.h"
@@ -35,7 +35,7 @@ struct EsitoPagina {
 
 QByteArray FaiPagina(const StampanteInUso& stampante, const ImmagineDiStampa& immagine,
                      const PostoSulFoglio& posto, const QString& titolo, EsitoPagina& esito) {
-  DocumentoPdf documento(stampante.caratteristiche(), stampante.impostazioni(), titolo);
+  Documento documento(stampante.caratteristiche(), stampante.impostazioni(), titolo);
   if (!documento.Inizia()) return {};
   esito.inizioPagina = 1;
   const MisuraDelFoglio foglio = stampante.MisuraFoglio();

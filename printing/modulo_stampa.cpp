@@ -4,7 +4,7 @@
 #include "platform/base/run_time_error.h"
 #include "platform/forms/controls/rich_text_box.h"
 #include "printing/attendi_stampanti.h"
-#include "printing/documento_pdf.h"
+#include "printing/documento.h"
 
 namespace somme {
 
@@ -31,13 +31,13 @@ MisurePagina Misura(const platform::PrinterSettings& impostazioni) {
 // Page by page: each begins where the control says that the one before ended.
 QByteArray Impagina(const platform::RichTextBox& testo, const Margini& margini,
                     const platform::PrinterTraits& stampante, const QString& titolo) {
-  DocumentoPdf documento(stampante, stampante.standard, titolo);
+  Documento documento(stampante, stampante.standard, titolo);
   Esigi(documento.Inizia());
   const MisurePagina pagina = Misura(stampante.standard);
   const QRectF rettangolo = RettangoloDiDisegno(margini, pagina);
   QPainter& pittore = documento.Pittore();
-  pittore.scale(DocumentoPdf::kPuntiPerPollice / kTwipsPerPollice,
-                DocumentoPdf::kPuntiPerPollice / kTwipsPerPollice);
+  pittore.scale(Documento::kPuntiPerPollice / kTwipsPerPollice,
+                Documento::kPuntiPerPollice / kTwipsPerPollice);
   pittore.translate(pagina.scartoSinistro, pagina.scartoSuperiore);
   const qsizetype lunghezza = testo.text().size();
   qsizetype inizio = testo.formatRange(&pittore, rettangolo, 0);

@@ -39,11 +39,21 @@ struct PrinterSettings {
   friend bool operator==(const PrinterSettings&, const PrinterSettings&) = default;
 };
 
+// What the pages of a job are made as, true to size either way.
+enum class PageFormat {
+  Pdf,      // one document
+  Drawing,  // how many pages there are, as a qint32, and the QPictures of the pages, in a
+            // QDataStream
+};
+// The dots of a drawing.
+inline constexpr int kDrawingDotsPerInch = 1200;
+
 // What a printer can do, and how it prints when nobody asks for anything else.
 struct PrinterTraits {
   std::vector<Paper> papers;
   bool printsColour = true;
   bool takesPages = true;  // false: it cannot be sent pages made by a program
+  PageFormat pages = PageFormat::Pdf;
   // A queue feeds its sheets upright: a sheet held across goes there turned on an upright page, so
   // that nothing on its way turns it once more.
   bool feedsUpright = false;
@@ -53,7 +63,7 @@ struct PrinterTraits {
 struct PrintJob {
   QString printer;
   QString title;
-  QByteArray pages;  // a PDF document, true to size
+  QByteArray pages;  // in the printer's format
   PrinterSettings settings;
 };
 

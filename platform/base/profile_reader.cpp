@@ -1,10 +1,8 @@
 #include "platform/base/profile_reader.h"
 
-#include <sys/stat.h>
-
-#include <QFile>
 #include <algorithm>
 #include <chrono>
+#include <optional>
 
 #include "platform/base/run_time_error.h"
 
@@ -15,10 +13,6 @@ namespace {
 // Longer than the clock of any usual file system takes for a step.
 constexpr std::chrono::nanoseconds freshness = std::chrono::milliseconds(100);
 
-std::int64_t nanoseconds(const timespec& time) {
-  return time.tv_sec * std::int64_t{1'000'000'000} + time.tv_nsec;
-}
-
 // A time in the future, left by a clock that was set back, is not fresh: it would stay so.
 bool hasJustChanged(std::int64_t changed) {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
@@ -28,25 +22,13 @@ bool hasJustChanged(std::int64_t changed) {
 
 }  // namespace
 
-ProfileReader::Stamp ProfileReader::stampOf(const QString& path) {
-  struct stat status {};
-  const bool isFile =
-      ::stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISREG(status.st_mode);
-  if (!isFile) throw RunTimeError(RunTimeError::FileNotFound);
-  return {.device = status.st_dev,
-          .inode = status.st_ino,
-          .size = status.st_size,
-          .modified = nanoseconds(status.st_mtim),
-          .changed = nanoseconds(status.st_ctim)};
-}
-
-ProfileReader::Remembered ProfileReader::load(const QString& path, const Stamp& stamp) {
+ProfileReader::Remembered ProfileReader::load(const QString& path, const FileStamp& stamp) {
   Remembered loaded{.path = path,
                     .stamp = stamp,
                     .isFresh = hasJustChanged(stamp.changed),
                     .content = ProfileText()};
-  auto file = std::make_unique<QFile>(path);
-  if (!file->open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return loaded;
+  std::unique_ptr<QFile> file = openWatched(path);
+  if (!file) return loaded;
   if (stamp.size > smallFile) {
     loaded.content = std::make_unique<ProfileLines>(std::move(file));
   } else {
@@ -58,19 +40,14 @@ ProfileReader::Remembered ProfileReader::load(const QString& path, const Stamp& 
 void ProfileReader::bringToFront(const QString& path) {
   const auto found = std::find_if(remembered_.begin(), remembered_.end(),
                                   [&](const Remembered& file) { return file.path == path; });
-  Stamp stamp;
-  try {
-    stamp = stampOf(path);
-  } catch (const RunTimeError&) {
-    if (found != remembered_.end()) remembered_.erase(found);
-    throw;
-  }
-  if (found != remembered_.end() && found->stamp == stamp && !found->isFresh) {
+  const std::optional<FileStamp> stamp = stampOf(path);
+  if (found != remembered_.end() && stamp && found->stamp == *stamp && !found->isFresh) {
     std::rotate(remembered_.begin(), found, found + 1);
     return;
   }
   if (found != remembered_.end()) remembered_.erase(found);
-  remembered_.push_front(load(path, stamp));
+  if (!stamp) throw RunTimeError(RunTimeError::FileNotFound);
+  remembered_.push_front(load(path, *stamp));
   if (remembered_.size() > mostRemembered) remembered_.pop_back();
 }
 

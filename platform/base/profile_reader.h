@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QString>
-#include <cstdint>
 #include <deque>
 #include <memory>
 #include <variant>
 
 #include "platform/base/profile_lines.h"
 #include "platform/base/profile_text.h"
+#include "platform/base/system_files.h"
 
 namespace platform {
 
@@ -30,28 +30,15 @@ class ProfileReader final {
   // Enough for the language file and the file that names it.
   static constexpr std::size_t mostRemembered = 2;
 
-  // What tells one state of a file from another.
-  struct Stamp {
-    std::uint64_t device = 0;
-    std::uint64_t inode = 0;
-    std::int64_t size = 0;
-    // Nanoseconds since 1970. The second moves with every change, also one that sets the first.
-    std::int64_t modified = 0;
-    std::int64_t changed = 0;
-
-    friend bool operator==(const Stamp&, const Stamp&) = default;
-  };
-
   struct Remembered {
     QString path;
-    Stamp stamp;
+    FileStamp stamp;
     // The file had just changed when it was read: its next change could bear the same time.
     bool isFresh = false;
     std::variant<ProfileText, std::unique_ptr<ProfileLines>> content;
   };
 
-  [[nodiscard]] static Stamp stampOf(const QString& path);
-  [[nodiscard]] static Remembered load(const QString& path, const Stamp& stamp);
+  [[nodiscard]] static Remembered load(const QString& path, const FileStamp& stamp);
   // Its first element is what was asked for.
   void bringToFront(const QString& path);
 

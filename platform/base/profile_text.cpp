@@ -1,5 +1,6 @@
 #include "platform/base/profile_text.h"
 
+#include "platform/base/system_files.h"
 #include "platform/base/text_encoding.h"
 
 namespace platform {
@@ -112,13 +113,13 @@ QString quotedIfNeeded(const QString& value) {
   return needed ? QLatin1Char('"') + value + QLatin1Char('"') : value;
 }
 
-// The line end that the text uses first.
+// The line end that the text uses first, the system's where it has none.
 QByteArray lineEndOf(const QByteArray& text) {
   for (qsizetype i = 0; i < text.size(); ++i) {
     if (text[i] == '\n') return "\n";
     if (text[i] == '\r') return text.mid(i, 2) == "\r\n" ? "\r\n" : "\r";
   }
-  return "\n";
+  return lineEnd();
 }
 
 // Where a value belongs in a text.

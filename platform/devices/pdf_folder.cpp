@@ -1,17 +1,13 @@
 #include "platform/devices/pdf_folder.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 #include <QUuid>
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 
 #include "platform/base/paper_codes.h"
+#include "platform/devices/whole_file.h"
 
 namespace platform {
 
@@ -32,29 +28,10 @@ QString asFileName(QString title) {
   return title.isEmpty() ? QStringLiteral("PDF") : title;
 }
 
-enum class Naming { Done, Taken, Failed };
-
-// One call of the system that neither replaces what has the name already nor follows a link: what
-// was looked at before may be another by now.
-Naming giveName(const QString& part, const QString& whole) {
-  const QByteArray from = QFile::encodeName(part);
-  const QByteArray to = QFile::encodeName(whole);
-  if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0) {
-    return Naming::Done;
-  }
-  // A file system that knows no such renaming may give a file a second name.
-  if (errno != EEXIST && ::link(from.constData(), to.constData()) == 0) {
-    ::unlink(from.constData());
-    return Naming::Done;
-  }
-  return errno == EEXIST ? Naming::Taken : Naming::Failed;
-}
-
 // Creates the file, which must not be there, and brings its bytes to the disk.
 bool writeWhole(QFile& file, const QByteArray& bytes) {
   if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return false;
-  const bool written =
-      file.write(bytes) == bytes.size() && file.flush() && ::fsync(file.handle()) == 0;
+  const bool written = file.write(bytes) == bytes.size() && file.flush() && bringToDisk(file);
   file.close();
   if (written && file.error() == QFileDevice::NoError) return true;
   file.remove();

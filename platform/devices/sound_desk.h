@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -11,8 +12,14 @@
 namespace platform {
 
 struct SoundRequest {
-  std::string path;  // as the file system takes it
+  QString path;
   std::chrono::steady_clock::time_point asked;
+
+  // A sound that could not start within this comes no more: it would belong to another answer.
+  static constexpr std::chrono::milliseconds kLatestStart{1000};
+  [[nodiscard]] bool isTooLate() const {
+    return std::chrono::steady_clock::now() - asked > kLatestStart;
+  }
 };
 
 // Where the program and its sound thread meet: the last request that nobody has taken yet, and

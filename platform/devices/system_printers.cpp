@@ -2,7 +2,7 @@
 
 #include <mutex>
 
-#include "platform/devices/cups_queues.h"
+#include "platform/devices/system_devices.h"
 
 namespace platform {
 
@@ -27,9 +27,9 @@ Printers::List SystemPrinters::list() {
   const bool whole = work_
                          .run<bool>(
                              [findings](Waiting&) {
-                               const std::optional<CupsLibrary> cups = CupsLibrary::load();
-                               if (!cups) return false;
-                               CupsQueues(*cups).list([&](const QString& name, bool isStandard) {
+                               const auto queues = systemQueues();
+                               if (!queues) return false;
+                               queues->list([&](const QString& name, bool isStandard) {
                                  const std::lock_guard lock(findings->mutex);
                                  if (!findings->list.names.contains(name))
                                    findings->list.names.append(name);
@@ -56,8 +56,8 @@ Printers::Opened SystemPrinters::open(const QString& name) {
   return work_
       .run<Opened>(
           [name](Waiting&) {
-            const std::optional<CupsLibrary> cups = CupsLibrary::load();
-            return cups ? CupsQueues(*cups).open(name) : Opened{};
+            const auto queues = systemQueues();
+            return queues ? queues->open(name) : Opened{};
           },
           patience_.open)
       .value_or(Opened{});
@@ -68,9 +68,9 @@ PrintResult SystemPrinters::print(const PrintJob& job) {
   return work_
       .run<PrintResult>(
           [job](Waiting& waiting) {
-            const std::optional<CupsLibrary> cups = CupsLibrary::load();
-            if (!cups) return PrintResult{};
-            return CupsQueues(*cups).print(job, [&waiting] { return waiting.goesOn(); });
+            const auto queues = systemQueues();
+            if (!queues) return PrintResult{};
+            return queues->print(job, [&waiting] { return waiting.goesOn(); });
           },
           patience_.print)
       .value_or(PrintResult{});

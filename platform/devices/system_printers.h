@@ -10,9 +10,9 @@
 
 namespace platform {
 
-// The printers of the machine: the queues of CUPS, and after them the built-in one that makes
-// files. CUPS is asked on threads of their own, which a server that does not answer may hold as
-// long as it likes; its library is loaded by the first call.
+// The printers of the machine: the queues of the system, and after them the built-in one that makes
+// files. The system is asked on threads of their own, which a server that does not answer may hold
+// as long as it likes; what it takes for that is loaded by the first call.
 class SystemPrinters final : public Printers {
  public:
   // How long the print server is waited for at most, whatever is asked of it.
@@ -26,9 +26,9 @@ class SystemPrinters final : public Printers {
       : SystemPrinters(time, std::move(folder), Patience{}) {}
   SystemPrinters(TimeSource& time, PdfFolder folder, Patience patience);
 
-  // The built-in printer is the default where CUPS has none. Where CUPS has not answered in time
-  // nobody knows, and there is no default: no other printer takes the place of the one that is
-  // meant.
+  // The built-in printer is the default where the system has none. Where it has not answered in
+  // time nobody knows, and there is no default: no other printer takes the place of the one that
+  // is meant.
   [[nodiscard]] List list() override;
   [[nodiscard]] Opened open(const QString& name) override;
   [[nodiscard]] PrintResult print(const PrintJob& job) override;

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QPainter>
-#include <QSvgRenderer>
 
 namespace platform {
 
@@ -10,21 +9,20 @@ namespace {
 
 // Where a drawing stands in an area: in its own proportions, as large as fits, in the middle. Empty
 // for a drawing or an area that shows nothing.
-QRectF placeIn(const QSvgRenderer& drawing, const QRectF& area) {
-  if (!drawing.isValid() || area.isEmpty()) return {};
-  const QSizeF own = drawing.viewBoxF().size();
-  if (own.isEmpty()) return {};
+QRectF placeIn(const Drawing& drawing, const QRectF& area) {
+  if (drawing.isEmpty() || area.isEmpty()) return {};
+  const QSizeF own = drawing.box().size();
   QRectF place(QPointF(), own.scaled(area.size(), Qt::KeepAspectRatio));
   place.moveCenter(area.center());
   return place;
 }
 
-// The same for one of its elements, which is in no group that is moved or turned.
-QRectF placeOf(const QSvgRenderer& drawing, const QString& element, const QRectF& area) {
+// The same for one of its parts.
+QRectF placeOf(const Drawing& drawing, const QString& part, const QRectF& area) {
   const QRectF whole = placeIn(drawing, area);
-  if (whole.isEmpty() || !drawing.elementExists(element)) return {};
-  const QRectF box = drawing.viewBoxF();
-  const QRectF own = drawing.boundsOnElement(element);
+  if (whole.isEmpty() || !drawing.hasPart(part)) return {};
+  const QRectF box = drawing.box();
+  const QRectF own = drawing.boundsOf(part);
   const double scale = whole.width() / box.width();
   return {whole.topLeft() + (own.topLeft() - box.topLeft()) * scale, own.size() * scale};
 }
@@ -35,45 +33,42 @@ Pictures::Pictures(QString folder) : folder_(std::move(folder)) {}
 
 Pictures::~Pictures() = default;
 
-QSvgRenderer& Pictures::renderer(const QString& name) {
-  std::unique_ptr<QSvgRenderer>& known = renderers_[name];
-  if (!known) {
-    known = std::make_unique<QSvgRenderer>();
-    const QString path = QStringLiteral("%1/%2.svg").arg(folder_, name);
-    if (QFile::exists(path)) known->load(path);
+const Drawing& Pictures::drawing(const QString& name) {
+  const auto [known, isNew] = drawings_.try_emplace(name);
+  if (isNew) {
+    QFile file(QStringLiteral("%1/%2.drawing").arg(folder_, name));
+    if (file.open(QIODevice::ReadOnly)) known->second = Drawing::fromBytes(file.readAll());
   }
-  return *known;
+  return known->second;
 }
 
 void Pictures::paint(QPainter& painter, const QString& name, const QRectF& area) {
-  QSvgRenderer& drawing = renderer(name);
-  const QRectF target = placeIn(drawing, area);
-  if (!target.isEmpty()) drawing.render(&painter, target);
+  const Drawing& drawn = drawing(name);
+  drawn.paint(painter, placeIn(drawn, area));
 }
 
 std::vector<QString> Pictures::parts(const QString& name) {
-  const QSvgRenderer& drawing = renderer(name);
+  const Drawing& drawn = drawing(name);
   std::vector<QString> found;
   while (true) {
     const QString next = QStringLiteral("parte%1").arg(found.size() + 1);
-    if (!drawing.isValid() || !drawing.elementExists(next)) return found;
+    if (!drawn.hasPart(next)) return found;
     found.push_back(next);
   }
 }
 
 void Pictures::paintPart(QPainter& painter, const QString& name, const QString& part,
                          const QRectF& area) {
-  QSvgRenderer& drawing = renderer(name);
-  const QRectF target = placeOf(drawing, part, area);
-  if (!target.isEmpty()) drawing.render(&painter, part, target);
+  const Drawing& drawn = drawing(name);
+  drawn.paintPart(painter, part, placeOf(drawn, part, area));
 }
 
 QPointF Pictures::middleOf(const QString& name, const QString& part, const QRectF& area) {
-  return placeOf(renderer(name), part, area).center();
+  return placeOf(drawing(name), part, area).center();
 }
 
 double Pictures::proportions(const QString& name) {
-  const QSizeF own = renderer(name).viewBoxF().size();
+  const QSizeF own = drawing(name).box().size();
   return own.isEmpty() ? 1 : own.width() / own.height();
 }
 
@@ -96,11 +91,11 @@ QIcon Pictures::icon(const QString& name) {
 }
 
 QPoint Pictures::hotSpot(const QString& name, QSize size) {
-  QSvgRenderer& drawing = renderer(name);
+  const Drawing& drawn = drawing(name);
   const QString tip = QStringLiteral("punta");
-  if (!drawing.isValid() || !drawing.elementExists(tip)) return {};
-  const QPointF spot = drawing.boundsOnElement(tip).center();
-  const QSizeF own = drawing.viewBoxF().size();
+  if (drawn.isEmpty() || !drawn.hasPart(tip)) return {};
+  const QPointF spot = drawn.boundsOf(tip).center();
+  const QSizeF own = drawn.box().size();
   return {qRound(spot.x() * size.width() / own.width()),
           qRound(spot.y() * size.height() / own.height())};
 }

@@ -4,19 +4,19 @@
 #include <QPixmap>
 #include <QString>
 #include <map>
-#include <memory>
 #include <vector>
 
-class QSvgRenderer;
+#include "platform/forms/drawing.h"
+
 class QPainter;
 
 namespace platform {
 
-// The program's drawings, by name: vector files in one folder, read at their first use and drawn
-// sharp at any size. A missing one draws nothing.
+// The program's drawings, by name: the files of one folder, read at their first use and drawn sharp
+// at any size. A missing one draws nothing.
 class Pictures {
  public:
-  // folder: where the files "name.svg" lie; a folder of the disk or of Qt's resources.
+  // folder: where the files "name.drawing" lie; a folder of the disk or of Qt's resources.
   explicit Pictures(QString folder);
   ~Pictures();
 
@@ -24,7 +24,7 @@ class Pictures {
   void paint(QPainter& painter, const QString& name, const QRectF& area);
   // Its width over its height; 1 for a missing one.
   [[nodiscard]] double proportions(const QString& name);
-  // The elements of a drawing that is put together of parts ("parte1", "parte2", ...), in their
+  // The parts of a drawing that is put together of some ("parte1", "parte2", ...), in their
   // order; empty for a drawing in one piece.
   [[nodiscard]] std::vector<QString> parts(const QString& name);
   // Draws one part as `paint` draws it within the whole.
@@ -36,14 +36,14 @@ class Pictures {
   // The picture as the icon of a window, in the sizes that desktops ask for. The same each time:
   // the desktop's own copies of it would else pile up with every form.
   [[nodiscard]] QIcon icon(const QString& name);
-  // For pointers: the drawing's element "punta" marks the hot spot; (0, 0) without one.
+  // For pointers: the drawing's part "punta" marks the hot spot; (0, 0) without one.
   [[nodiscard]] QPoint hotSpot(const QString& name, QSize size);
 
  private:
-  [[nodiscard]] QSvgRenderer& renderer(const QString& name);
+  [[nodiscard]] const Drawing& drawing(const QString& name);
 
   QString folder_;
-  std::map<QString, std::unique_ptr<QSvgRenderer>> renderers_;
+  std::map<QString, Drawing> drawings_;
   std::map<QString, QIcon> icons_;
 };
 

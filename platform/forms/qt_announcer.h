@@ -15,12 +15,13 @@ namespace platform {
 // together, once that is over, on behalf of what has the focus then: a screen reader hears nothing
 // else, and the handler that tells a sentence may move the focus afterwards.
 //
-// From Qt 6.8 on it is an announcement of the toolkit's. Before, the toolkit has none, and tells of
-// a changed description without its words; so the words go over the toolkit's own connection to the
-// accessibility bus, as a description that is taken back at once.
-//
 // Behind a box nothing is spoken; when it has gone and a window has the keyboard again, what waited
 // is, and before it what the box had broken off.
+//
+// How the system at hand is told is settled in desktop_voice: from Qt 6.8 on as an announcement of
+// the toolkit's. Before, the toolkit has none: under Linux, where it tells of a changed description
+// without its words, they go over its own connection to the accessibility bus, as a description
+// that is taken back at once.
 class QtAnnouncer final : public QObject, public Announcer {
  public:
   // Tells words on behalf of a widget.

@@ -1,12 +1,13 @@
 #include <QApplication>
+#include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QSvgRenderer>
 #include <algorithm>
 #include <map>
 
 #include "blocchi_di_prova.h"
 #include "exercises/blocks/forma_blocchi_tastiera.h"
+#include "platform/forms/drawing.h"
 #include "support/iscrizione.h"
 
 using namespace prova;
@@ -43,11 +44,13 @@ QColor PiuScuro(const QImage& immagine) {
 
 // A program's picture, large.
 QImage Figura(const char* nome) {
-  QSvgRenderer disegno(QStringLiteral(":/immagini/%1.svg").arg(QLatin1String(nome)));
-  QImage immagine(disegno.defaultSize() * 8, QImage::Format_ARGB32);
+  QFile file(QStringLiteral(":/immagini/%1.drawing").arg(QLatin1String(nome)));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const auto disegno = platform::Drawing::fromBytes(file.readAll());
+  QImage immagine((disegno.box().size() * 8).toSize(), QImage::Format_ARGB32);
   immagine.fill(Qt::transparent);
   QPainter pittore(&immagine);
-  disegno.render(&pittore);
+  disegno.paint(pittore, immagine.rect());
   return immagine;
 }
 

@@ -1,4 +1,4 @@
-#include "platform/devices/file_instance_lock.h"
+#include "platform/devices/linux/file_instance_lock.h"
 
 #include <sys/file.h>
 #include <sys/stat.h>

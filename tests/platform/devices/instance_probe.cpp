@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <cstdio>
 
-#include "platform/devices/file_instance_lock.h"
+#include "platform/devices/linux/file_instance_lock.h"
 
 int main(int argc, char** argv) {
   const QCoreApplication app(argc, argv);

@@ -1,4 +1,4 @@
-#include "platform/devices/own_files.h"
+#include "platform/devices/linux/own_files.h"
 
 #include <fcntl.h>
 #include <unistd.h>

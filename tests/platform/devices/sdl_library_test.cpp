@@ -1,4 +1,4 @@
-#include "platform/devices/sdl_library.h"
+#include "platform/devices/linux/sdl_library.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "platform/devices/sdl_sound.h"
+#include "platform/devices/linux/sdl_sound.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

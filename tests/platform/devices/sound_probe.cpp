@@ -13,8 +13,8 @@
 #include <csignal>
 #include <cstdio>
 
+#include "platform/devices/linux/sdl_sound.h"
 #include "platform/devices/qt_time_source.h"
-#include "platform/devices/sdl_sound.h"
 #include "platform/devices/system_process_end.h"
 
 namespace {

@@ -10,7 +10,7 @@
 #include <QTimer>
 
 #include "platform/base/paper_codes.h"
-#include "platform/devices/cups_library.h"
+#include "platform/devices/linux/cups_library.h"
 #include "platform/devices/qt_time_source.h"
 #include "print_server.h"
 #include "support/iscrizione.h"

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "support/iscrizione.h"
+#include "tools/immagini/registratore.h"
 
 using platform::Pictures;
 
@@ -21,6 +22,12 @@ class PicturesTest : public QObject {
     QFile file(folder_.filePath(QLatin1String(name)));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(content);
+  }
+  // Drawn from an SVG file, as the build does it.
+  void draw(const char* name, const QByteArray& svg) const {
+    const auto drawing = somme::Registra(svg);
+    QVERIFY(drawing.has_value());
+    put(name, drawing->toBytes());
   }
 
   static QImage painted(Pictures& pictures, const char* name, QSize paper, const QRectF& area) {
@@ -39,17 +46,21 @@ class PicturesTest : public QObject {
 
  private Q_SLOTS:
   void initTestCase() {
-    put("red.svg",
-        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 20 10'>"
-        "<rect width='20' height='10' fill='#ff0000'/>"
-        "<circle id='punta' cx='5' cy='2.5' r='1' fill='#ff0000'/></svg>");
-    put("parts.svg",
-        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='10 0 40 20'>"
-        "<g fill='#ff0000'><rect id='parte1' x='12' y='2' width='10' height='16'/></g>"
-        "<g fill='#0000ff'><rect id='parte2' x='30' y='4' width='8' height='8'/></g></svg>");
-    put("broken.svg", "<svg xmlns='http://www.w3.org/2000/svg'><rect");
-    put("empty.svg", "");
-    put("flat.svg", "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 0 0'/>");
+    draw("red.drawing",
+         "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 20 10'>"
+         "<rect width='20' height='10' fill='#ff0000'/>"
+         "<circle id='punta' cx='5' cy='2.5' r='1' fill='#ff0000'/></svg>");
+    draw("parts.drawing",
+         "<svg xmlns='http://www.w3.org/2000/svg' viewBox='10 0 40 20'>"
+         "<g fill='#ff0000'><rect id='parte1' x='12' y='2' width='10' height='16'/></g>"
+         "<g fill='#0000ff'><rect id='parte2' x='30' y='4' width='8' height='8'/></g></svg>");
+    QVERIFY(!somme::Registra("<svg xmlns='http://www.w3.org/2000/svg'><rect"));
+    QFile whole(folder_.filePath(QStringLiteral("red.drawing")));
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    put("broken.drawing", whole.readAll().chopped(40));
+    put("other.drawing", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    put("empty.drawing", "");
+    draw("flat.drawing", "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 0 0'/>");
   }
 
   void aPictureFillsItsAreaInItsOwnProportionsInTheMiddle() {
@@ -65,7 +76,7 @@ class PicturesTest : public QObject {
 
   void whatIsMissingOrBrokenDrawsNothing_data() {
     QTest::addColumn<QByteArray>("name");
-    for (const char* name : {"nowhere", "broken", "empty", "flat", ""}) {
+    for (const char* name : {"nowhere", "broken", "other", "empty", "flat", ""}) {
       QTest::newRow(name) << QByteArray(name);
     }
   }

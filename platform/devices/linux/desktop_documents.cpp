@@ -1,4 +1,4 @@
-#include "platform/devices/desktop_documents.h"
+#include "platform/devices/linux/desktop_documents.h"
 
 #include <QFileInfo>
 #include <QProcess>

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/devices/sdl_library.h"
+#include "platform/devices/linux/sdl_library.h"
 
 namespace platform {
 

@@ -1,4 +1,4 @@
-#include "platform/forms/desktop_settings.h"
+#include "platform/forms/linux/desktop_settings.h"
 
 #include <xcb/xcb.h>
 

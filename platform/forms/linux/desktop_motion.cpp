@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QStyle>
 
-#include "platform/forms/desktop_settings.h"
+#include "platform/forms/linux/desktop_settings.h"
 
 namespace platform {
 

@@ -1,14 +1,12 @@
-#include "platform/devices/sdl_sound.h"
+#include "platform/devices/linux/sdl_sound.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <chrono>
 #include <optional>
 #include <utility>
 
-#include "platform/devices/own_files.h"
-#include "platform/devices/quiet_thread.h"
-#include "platform/devices/sdl_player.h"
+#include "platform/devices/linux/own_files.h"
+#include "platform/devices/linux/sdl_player.h"
 #include "platform/devices/sound_desk.h"
 
 namespace platform {
@@ -18,8 +16,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-// A sound that could not start within this comes no more: it would belong to another answer.
-constexpr milliseconds kLatestStart{1000};
 // How long the sound system may take beyond the length of a sound until the device is closed.
 constexpr milliseconds kPatience{2000};
 constexpr milliseconds kLook{20};
@@ -41,7 +37,7 @@ void hearOut(SoundDesk& desk, const SdlPlayer& player, milliseconds length) {
 }
 
 void playRequest(SoundDesk& desk, SdlPlayer& player, const SoundRequest& request) {
-  const std::optional<SdlWave> wave = player.read(request.path);
+  const std::optional<SdlWave> wave = player.read(QFile::encodeName(request.path).toStdString());
   if (!wave) {
     desk.sendBeep();
     return;
@@ -50,7 +46,7 @@ void playRequest(SoundDesk& desk, SdlPlayer& player, const SoundRequest& request
     desk.sendComplaint(player.error());
     return;
   }
-  if (Clock::now() - request.asked > kLatestStart) {
+  if (request.isTooLate()) {
     desk.sendComplaint("the sound system took too long");
     return;
   }
@@ -93,25 +89,6 @@ void serve(SoundDesk& desk) {
 
 }  // namespace
 
-SdlSound::SdlSound(std::function<void()> beep)
-    : desk_(std::make_shared<SoundDesk>(std::move(beep))) {}
-
-SdlSound::~SdlSound() {
-  desk_->close();
-}
-
-void SdlSound::play(const QString& path) {
-  // Seen here, so that it beeps at once also while the thread is held up.
-  if (!QFileInfo(path).isFile()) {
-    desk_->beep();
-    return;
-  }
-  desk_->leave({QFile::encodeName(path).toStdString(), Clock::now()});
-  if (threadStarted_) {
-    return;
-  }
-  // Where no thread is to be had there is silence, and another try with the next sound.
-  threadStarted_ = startQuietThread([desk = desk_] { serve(*desk); });
-}
+SdlSound::SdlSound(std::function<void()> beep) : DeskSound(std::move(beep), serve) {}
 
 }  // namespace platform

@@ -1,7 +1,8 @@
-#include "platform/devices/cups_queues.h"
+#include "platform/devices/linux/cups_queues.h"
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "platform/base/paper_codes.h"
 

@@ -1,4 +1,4 @@
-#include "platform/devices/cups_library.h"
+#include "platform/devices/linux/cups_library.h"
 
 #include <dlfcn.h>
 

@@ -1,4 +1,4 @@
-#include "platform/devices/sdl_player.h"
+#include "platform/devices/linux/sdl_player.h"
 
 #include <array>
 #include <cstdlib>
