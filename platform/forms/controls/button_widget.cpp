@@ -66,7 +66,6 @@ void ButtonWidget::resizeEvent(QResizeEvent* event) {
 void ButtonWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::EnabledChange) {
     if (isEnabled()) mark_ = AnswerMark::None;
-    held_ = false;
     if (StatesToldLater::holds()) {
       stateUntold_ = !stateUntold_;
       letGo();
