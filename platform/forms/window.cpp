@@ -48,14 +48,19 @@ void Window::showPage(Form& form) {
 }
 
 // Maximised from the first picture on; a desktop without a window manager leaves the window as it
-// is. Nothing is painted before the desktop has given it its size, which the form then takes.
+// is. Nothing is painted before the desktop has given it its size, which the form then takes. Some
+// desktops show a window first and give it its size a little later.
 void Window::appear() {
   constexpr int kMostWaits = 50;
+  constexpr int kMostWaitsForSize = 20;
   constexpr double kWait = 0.01;  // seconds
   setUpdatesEnabled(false);
   setWindowState(windowState() | Qt::WindowMaximized);
   show();
   for (int i = 0; i < kMostWaits && !windowHandle()->isExposed(); ++i) {
+    time_.sleepUntilEvent(kWait);
+  }
+  for (int i = 0; i < kMostWaitsForSize && size() == kNormalSize; ++i) {
     time_.sleepUntilEvent(kWait);
   }
   setUpdatesEnabled(true);

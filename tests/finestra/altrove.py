@@ -12,7 +12,7 @@ import subprocess
 import sys
 import time
 
-from primo_tasto import PAUSA, Tasti, fai
+from primo_tasto import PAUSA_COMPOSITORE, Tasti, fai
 from schermo_wayland import schermo as schermo_di
 
 # What is done before the key is held; the key; what is done when it has been let go elsewhere; the lines
@@ -36,13 +36,13 @@ def altrove(schermo, tasti, programma, prova):
     _, prima, tasto, poi, attese = prova
     venute = fai(tasti, prima, [])
     subprocess.run(["xdotool", "keydown", tasto], check=True, timeout=30)
-    time.sleep(PAUSA)
+    time.sleep(tasti.pausa)
     # Every desktop here gives the keyboard to the window that has come last.
     altro = Tasti(schermo, programma, False)
     subprocess.run(["xdotool", "keyup", tasto], check=True, timeout=30)
-    time.sleep(PAUSA)
+    time.sleep(tasti.pausa)
     altro.chiudi()
-    time.sleep(4 * PAUSA)
+    time.sleep(PAUSA_COMPOSITORE)
     return venute + fai(tasti, poi, attese[len(venute):])
 
 

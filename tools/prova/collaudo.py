@@ -1,11 +1,11 @@
 #!/usr/bin/python3
 """Installs the package in a clean tree and uses the program there, as somebody who may not write it.
 
-    collaudo.py <package> <folder for the pictures>
+    collaudo.py <package or archive> <folder for the pictures>
 
 Where a fresh Debian can be made (root, debootstrap, an archive that answers) the package is
 installed in one, with what it depends on and nothing else, and removed at the end; elsewhere it is
-laid out in a plain folder. Its program must be hardened. A case is solved, the language changed, the
+laid out in a plain folder. An archive is unpacked in one without Qt. Its program must be hardened. A case is solved, the language changed, the
 program started again in it, the manual opened.
 """
 
@@ -18,7 +18,7 @@ import tempfile
 
 import difese
 from giocatore import AVVIO, BOTTONE, VOCE, Errore, Giocatore
-from installazione import NESSUNO, Cartella, Debian, SenzaDebian
+from installazione import NESSUNO, Cartella, Debian, Portatile, SenzaDebian
 from partite import PARTITE
 from schermo import ErroreSchermo, Schermo
 
@@ -82,6 +82,10 @@ class Collaudo:
             with open(self._albero.dentro(self._albero.programma(), nome), "rb") as file:
                 if file.read(5) != b"%PDF-":
                     raise Errore(f"{nome} is no PDF file")
+        imposto = self._albero.dentro(self._albero.casa, "imposto")
+        with open(imposto, encoding="utf-8") as file:
+            if detto := file.read():
+                raise Errore(f"what opens documents was told more than it should be: {detto}")
         print(f"The manual was opened: {manuale}")
 
     def controlla_file(self, prima):
@@ -134,7 +138,7 @@ def usa_come_nessuno(albero, cartella):
                *albero.diritti, sys.executable, os.path.join(qui, os.path.basename(__file__)),
                "--usa", type(albero).__name__, albero.radice, albero.casa, foto]
     ambiente = {**os.environ, "TMPDIR": albero.dentro("/tmp"), "HOME": albero.dentro(albero.casa)}
-    esito = subprocess.run(comando, env=ambiente, cwd=albero.radice, check=False)
+    esito = subprocess.run(albero.con_cio_che_serve(*comando), env=ambiente, cwd=albero.radice, check=False)
     shutil.copytree(foto, cartella, dirs_exist_ok=True)
     if esito.returncode != 0:
         raise Errore("the installed program did not do what it should")
@@ -160,14 +164,16 @@ def usa_installato(albero, cartella):
 
 def collauda(pacchetto, cartella):
     pacchetto = os.path.abspath(pacchetto)
-    for tipo in (Debian, Cartella):
+    for tipo in (Portatile,) if pacchetto.endswith(".tar.xz") else (Debian, Cartella):
         with tempfile.TemporaryDirectory(prefix="collaudo-") as radice:
             os.chmod(radice, 0o755)
             albero = tipo(os.path.realpath(radice))
             try:
-                print(f"Installing in {'a fresh Debian' if tipo is Debian else 'a plain folder'}")
+                print(f"Installing in {'a plain folder' if tipo is Cartella else 'a fresh Debian'}")
                 albero.installa(pacchetto)
             except SenzaDebian as perche:
+                if tipo is Portatile:
+                    raise Errore(f"no fresh Debian can be made here: {perche}") from None
                 print("No fresh Debian can be made here; the package goes into a plain folder, on the"
                       f" libraries of this machine: {perche}")
                 continue
@@ -181,7 +187,7 @@ def main():
     try:
         if sys.argv[1:2] == ["--usa"]:
             tipo, radice, casa, cartella = sys.argv[2:]
-            albero = {"Debian": Debian, "Cartella": Cartella}[tipo](radice)
+            albero = {t.__name__: t for t in (Debian, Portatile, Cartella)}[tipo](radice)
             albero.casa = casa
             usa(albero, cartella)
         elif len(sys.argv) == 3:

@@ -2,11 +2,13 @@
 """Plays exercises of the program on a virtual display, as a pupil would.
 
     gioca.py <program> <folder for the pictures> [<exercise> ...] [--mani MANI] [--tavoletta FILE]
+             [--schermo DESKTOP] [--scala N]
 
 The exercises are those of partite.py, played one after the other; without one it is "barre". MANI
 are the hands: "mouse" and keys together, "tasti", keys alone, or "ausili", what assistive technology
 can do alone; the last two play one case of each form. FILE is the stand-in for the touch surface,
-which some exercises want. What is asked is read from outside, through the accessibility tree; the
+which some exercises want. DESKTOP is one of schermo_wayland.py, "x11" where none is named; N are the
+pixels of the display for one of the program. What is asked is read from outside, through the accessibility tree; the
 answers are worked out from it. Ends with 0 when the program took and judged every answer as it
 should.
 """
@@ -19,7 +21,8 @@ import sys
 
 from giocatore import AVVIO, Errore, Giocatore
 from partite import PARTITE
-from schermo import ErroreSchermo, Schermo
+from schermo import ErroreSchermo
+from schermo_wayland import schermo as schermo_di
 from senza_mouse import SoloAusili, SoloTasti
 from tavoletta import ErroreTavoletta, Tavoletta
 
@@ -29,7 +32,7 @@ MANI = {"mouse": Giocatore, "tasti": SoloTasti, "ausili": SoloAusili}
 def gioca(scelte, partite):
     """The exercises, from the start of the program to its end. Returns whether all was well."""
     superficie = Tavoletta(scelte.tavoletta) if scelte.tavoletta else contextlib.nullcontext()
-    with Schermo() as schermo, superficie as tocchi:
+    with schermo_di(scelte.schermo, scala=scelte.scala) as schermo, superficie as tocchi:
         from albero import Albero, TempoScaduto
         processo = schermo.avvia(schermo.copia(scelte.programma))
         giocatore = MANI[scelte.mani](schermo, Albero(processo), scelte.cartella, tocchi)
@@ -59,6 +62,8 @@ def main():
     opzioni.add_argument("partite", nargs="*", metavar="esercizio")
     opzioni.add_argument("--mani", choices=MANI, default="mouse")
     opzioni.add_argument("--tavoletta", default="")
+    opzioni.add_argument("--schermo", default="x11")
+    opzioni.add_argument("--scala", type=float, default=1)
     scelte = opzioni.parse_args()
     ignote = sorted({*scelte.partite} - {*PARTITE})
     if ignote:

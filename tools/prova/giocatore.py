@@ -56,7 +56,7 @@ class Giocatore:
         """cartella: where the pictures go. tavoletta: the touch surface, for who plays by touch."""
         self.albero = albero
         self.tavoletta = tavoletta
-        self.mani = Mani()
+        self.mani = Mani(lambda: schermo.scarto(albero))
         self.forme = []
         self._schermo = schermo
         self._cartella = cartella
@@ -223,7 +223,11 @@ class Giocatore:
 
     def chiudi(self, processo):
         """Closes the window as the window manager does; the program ends by itself."""
-        self.mani.batti("alt+F4")
+        if self._schermo.chiude_finestre:
+            self.mani.batti("alt+F4")
+        else:
+            self.al_menu()
+            self.premi(ESCI)
         self._finito(processo)
         print("The window was closed and the program ended.")
 

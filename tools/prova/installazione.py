@@ -52,6 +52,10 @@ class Albero:
     # What the right to enter the tree takes beside those of NESSUNO, as setpriv calls it.
     diritti = ()
 
+    def con_cio_che_serve(self, *comando):
+        """A command that uses the tree, with what the tree needs as long as it runs."""
+        return comando
+
     def __init__(self, radice):
         self.radice = radice
         self.casa = "/home/alunno"
@@ -68,7 +72,8 @@ class Albero:
         os.makedirs(bin_)
         apri = os.path.join(bin_, "xdg-open")
         with open(apri, "w", encoding="ascii") as file:
-            file.write('#!/bin/sh\necho "$1" >> "$HOME/aperti"\n')
+            file.write('#!/bin/sh\necho "$1" >> "$HOME/aperti"\n'
+                       'env | grep -E "^(LD_|QT_QPA|QT_PLUGIN|FONTCONFIG)" >> "$HOME/imposto"\n')
         os.chmod(apri, 0o755)
         if os.geteuid() == 0:
             for cartella, _, file in os.walk(self.dentro(self.casa)):
@@ -101,7 +106,10 @@ class Debian(Albero):
         self.apt("install", "-s", "/tmp/somme.deb")
         self.apt("install", "-y", "--download-only", "/tmp/somme.deb", errore=SenzaDebian)
         self.apt("install", "-y", "/tmp/somme.deb")
-        # Sockets of the desktop outside have the same path in the tree.
+        self._raggiungi_il_desktop()
+
+    def _raggiungi_il_desktop(self):
+        """Sockets of the desktop outside have the same path in the tree."""
         os.makedirs(self.dentro(os.path.dirname(self.radice)), exist_ok=True)
         os.symlink("/", self.dentro(self.radice))
 
@@ -154,6 +162,48 @@ class Debian(Albero):
                  if os.path.lexists(self.dentro(r))]
         if resti:
             raise Errore(f"removed, the package leaves {' '.join(resti)}")
+
+
+class Portatile(Debian):
+    """A fresh Debian without Qt, in which the archive is unpacked."""
+
+    def con_cio_che_serve(self, *comando):
+        """A program asks the kernel where it lies."""
+        return ("unshare", "--mount", "sh", "-c", 'mount --bind /proc "$0/proc" && exec "$@"', self.radice,
+                *comando)
+
+    def installa(self, pacchetto):
+        """Raises SenzaDebian where the machine or its archive give none."""
+        self.crea()
+        os.makedirs(self.dentro("/opt"), exist_ok=True)
+        esegui("tar", "-C", self.dentro("/opt"), "--no-same-owner", "-xf", pacchetto)
+        self._raggiungi_il_desktop()
+
+    def comando(self):
+        # The right to enter the tree stays outside: a program with rights of its own may not name its
+        # libraries by the place where it lies.
+        return ["chroot", self.radice, "setpriv", "--inh-caps=-all", "--ambient-caps=-all",
+                f"/opt/{self._cartella()}/somme"]
+
+    def programma(self):
+        return f"/opt/{self._cartella()}/programma"
+
+    def _cartella(self):
+        nome, = os.listdir(self.dentro("/opt"))
+        return nome
+
+    def togli(self):
+        """Each part that goes is missed by its name."""
+        for parte in ("lib/libQt6Gui.so.6", "plugins/platforms/libqxcb.so", "somme"):
+            percorso = self.dentro(self.programma(), parte)
+            os.rename(percorso, percorso + ".via")
+            esito = subprocess.run(self.comando(), capture_output=True, text=True, check=False,
+                                   env={"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "LANG": "it_IT.UTF-8"})
+            os.rename(percorso + ".via", percorso)
+            if esito.returncode != 1 or f"programma/{parte}" not in esito.stderr:
+                raise Errore(f"without {parte} it ends with {esito.returncode} and says {esito.stderr!r}")
+        print("A part that is missing is named.")
+        shutil.rmtree(self.dentro("/opt"))
 
 
 class Cartella(Albero):

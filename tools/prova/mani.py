@@ -29,10 +29,14 @@ class Tastiera:
 
 
 class Mani(Tastiera):
-    """A keyboard and a mouse."""
+    """A keyboard and a mouse.
 
-    def __init__(self):
+    scarto: asked at each click, how far the display's places lie from those that programs tell, (x, y).
+    """
+
+    def __init__(self, scarto=lambda: (0, 0)):
         self._dove = None
+        self._scarto = scarto
 
     def muovi(self, x, y):
         # Waiting for a pointer that is there already would take until the tool gives up.
@@ -43,7 +47,8 @@ class Mani(Tastiera):
     def clicca(self, posto):
         """One click of the left button in the middle of a place (x, y, width, height)."""
         x, y, larghezza, altezza = posto
-        self.muovi(x + larghezza // 2, y + altezza // 2)
+        oltre_x, oltre_y = self._scarto()
+        self.muovi(x + larghezza // 2 + oltre_x, y + altezza // 2 + oltre_y)
         self._xdotool("mousedown", 1)
         time.sleep(self.PAUSA)
         self._xdotool("mouseup", 1)

@@ -53,6 +53,9 @@ class Schermo:
     is read from it; therefore make the Schermo before anything that reads the tree is imported.
     """
 
+    # Whether alt+F4 closes a window.
+    chiude_finestre = True
+
     def __init__(self, larghezza=1366, altezza=768):
         self._misure = f"{larghezza}x{altezza}x24"
         self._processi = []
@@ -101,6 +104,10 @@ class Schermo:
             raise ErroreSchermo(f"{comando[0]}: {errore.strerror}") from errore
         self._processi.append(processo)
         return processo
+
+    def scarto(self, albero):
+        """How far the places of the display lie from those that a program tells of itself."""
+        return 0, 0
 
     def _per_i_programmi(self):
         """The environment of what is started here; None for that of this process."""

@@ -4,6 +4,7 @@ Mouse and keys reach the display as on any other, and the compositor hands them 
 display are pictures of the desktop.
 """
 
+import glob
 import os
 import re
 import subprocess
@@ -29,32 +30,37 @@ name=X1
 mode={misura}
 scale={scala}
 """
-SWAY = """xwayland {xwayland}
-output X11-1 mode {misura} position 0 0 scale {scala}
-input * repeat_rate {volte}
-input * repeat_delay {dopo}
-default_border none
-default_floating_border none
-focus_follows_mouse no
-"""
 PAZIENZA = 30
 
 
 class SchermoWayland(Schermo):
     """As Schermo; programs are started as clients of the compositor.
 
-    compositore: "weston", "sway" or "mutter". x: they are clients of its X server instead. scala: pixels
-    of the display for one of a program's; weston takes whole numbers alone.
+    compositore: "weston" or "mutter". x: they are clients of its X server instead. scala: pixels
+    of the display for one of a program's. The compositor is told a whole number of them; one that lies
+    between, and any of an X server's, is told to the program, as desktops do.
     """
 
     def __init__(self, larghezza=1366, altezza=768, compositore="weston", x=False, scala=1):
         super().__init__(larghezza, altezza)
-        self._mode = f"{larghezza}x{altezza}"
         self._compositore, self._x, self._scala = compositore, x, scala
+        self._larghezza, self._altezza = larghezza, altezza
+        self._intera = int(scala) if scala == int(scala) and not x else 1
+        # Weston's window is so many times as large as what it is told.
+        parti = self._intera if compositore == "weston" else 1
+        self._mode = f"{larghezza // parti}x{altezza // parti}"
+        self.chiude_finestre = compositore != "weston"
         self._diversi = {}
 
     def __str__(self):
         return f"{self._compositore}{', XWayland' if self._x else ''}, {round(100 * self._scala)} %"
+
+    def scarto(self, albero):
+        """A client of Wayland does not know where its window lies: it fills the desktop, in its frame."""
+        x, y, larga, alta = max((o.posto for o in albero.visibili() if o.ruolo == "frame"),
+                                key=lambda posto: posto[2:])
+        lato = (self._larghezza - larga) // 2
+        return lato - x, self._altezza - alta - lato - y
 
     def _per_i_programmi(self):
         return {**os.environ, **self._diversi} if self._diversi else None
@@ -68,30 +74,29 @@ class SchermoWayland(Schermo):
                          "XDG_SESSION_TYPE": "wayland",
                          "DISPLAY": self._attendi(self._x_di_dentro, registro) if self._x else "",
                          "QT_QPA_PLATFORM": "xcb" if self._x else "wayland"}
+        chiave = glob.glob(os.path.join(self._cartella, ".mutter-Xwaylandauth.*"))
+        if chiave:
+            self._diversi["XAUTHORITY"] = chiave[0]
+        if self._intera != self._scala:
+            self._diversi["QT_SCALE_FACTOR"] = str(self._scala)
         finestra = self._attendi(self._finestra, registro)
-        subprocess.run(["xdotool", "windowmove", finestra, "0", "0", "windowfocus", finestra], check=True,
-                       timeout=PAZIENZA)
-
-    def _configurazione(self, testo, si, no):
-        percorso = os.path.join(self._cartella, "configurazione")
-        volte, dopo = RIPETIZIONE
-        with open(percorso, "w", encoding="utf-8") as file:
-            file.write(testo.format(xwayland=si if self._x else no, misura=self._mode,
-                                    scala=self._scala, volte=volte, dopo=dopo))
-        return percorso
+        # The compositor learns where the pointer is when it moves.
+        subprocess.run(["xdotool", "windowmove", finestra, "0", "0", "windowfocus", finestra, "sleep", "0.5",
+                        "mousemove", "9", "9", "sleep", "0.2", "mousemove", "99", "99", "sleep", "0.2"],
+                       check=True, timeout=PAZIENZA)
 
     def _weston(self):
-        return ["weston", "--backend=x11-backend.so", "--use-pixman", "--config="
-                + self._configurazione(WESTON, "true", "false")], {}
-
-    def _sway(self):
-        return ["sway", "--config", self._configurazione(SWAY, "force", "disable")], {
-            "WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1"}
+        configurazione = os.path.join(self._cartella, "configurazione")
+        volte, dopo = RIPETIZIONE
+        with open(configurazione, "w", encoding="utf-8") as file:
+            file.write(WESTON.format(xwayland=str(self._x).lower(), misura=self._mode, scala=self._intera,
+                                     volte=volte, dopo=dopo))
+        return ["weston", "--backend=x11-backend.so", "--use-pixman", "--config=" + configurazione], {}
 
     def _mutter(self):
         return ["mutter", "--nested", "--wayland", *([] if self._x else ["--no-x11"])], {
             "MUTTER_DEBUG_DUMMY_MODE_SPECS": self._mode,
-            "MUTTER_DEBUG_DUMMY_MONITOR_SCALES": str(self._scala)}
+            "MUTTER_DEBUG_DUMMY_MONITOR_SCALES": str(self._intera)}
 
     def _presa(self, _):
         return next((n for n in os.listdir(self._cartella) if re.fullmatch(r"wayland-\d+", n)), None)

@@ -22,7 +22,7 @@ namespace {
 
 // Where the desktop cannot be asked what is down, a release on the way from window to window may be
 // told to none of them: a key then counts as held over for this long after the last sign of it.
-constexpr std::chrono::milliseconds kUntold{400};
+constexpr std::chrono::milliseconds kUntold{200};
 
 // What takes a press that no release belongs to.
 constexpr int kNobody = -1;
