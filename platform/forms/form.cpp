@@ -37,17 +37,13 @@ std::vector<Row> mergedRows(const FormDesign& design) {
 }
 
 // The mouse gives the focus to a widget that has gone, when it is pressed while another of its
-// buttons has been held there since. The focus stays where it was, if it still can.
-// now: has the focus; before: had it, may be null. True when it had come to something hidden.
-bool keepFromHidden(Page& page, QWidget* before, QWidget& now) {
-  if (now.isVisible() || !page.isVisible()) return false;
-  Canvas* canvas = page.canvas();
-  if (!canvas->isAncestorOf(&now)) return false;
-  const bool back = before != nullptr && canvas->isAncestorOf(before) && before->isVisible() &&
-                    before->isEnabled();
-  if (back) {
+// buttons has been held there since. The focus stays where it was: what had it until now can have
+// it. now: has the focus; before: had it, may be null. True when it had come to something hidden.
+bool keepFromHidden(Canvas& canvas, QWidget* before, QWidget& now) {
+  if (now.isVisible() || !canvas.isAncestorOf(&now)) return false;
+  if (before != nullptr) {
     before->setFocus(Qt::OtherFocusReason);
-  } else if (!canvas->passFocus(before, true)) {
+  } else if (!canvas.passFocus(nullptr, true)) {
     now.clearFocus();
   }
   return true;
@@ -75,7 +71,7 @@ void Form::build(QWidget* parent) {
   bindLabels();
   setTabOrder();
   QObject::connect(qApp, &QApplication::focusChanged, page_, [this](QWidget* before, QWidget* now) {
-    if (now == nullptr || keepFromHidden(*page_, before, *now)) return;
+    if (now == nullptr || keepFromHidden(*page_->canvas(), before, *now)) return;
     focusMoved(now);
   });
   built_ = true;
@@ -231,7 +227,7 @@ void Form::focusCover() {
 // Assistive technology gives the focus to a widget without asking its form.
 void Form::focusMoved(QWidget* now) {
   if (cover_ == nullptr || now == nullptr || !page_->canvas()->isAncestorOf(now)) return;
-  if (now == cover_->widget() || cover_->container()->isAncestorOf(now)) return;
+  if (cover_->container()->isAncestorOf(now)) return;
   focusBelow_ = now;
   focusCover();
 }
@@ -258,7 +254,7 @@ const QWidget* Form::focusRoom() const {
 
 bool Form::isCovered(const Control& control) const {
   if (cover_ == nullptr || control.widget() == nullptr) return false;
-  return cover_ != &control && !cover_->container()->isAncestorOf(control.widget());
+  return !cover_->container()->isAncestorOf(control.widget());
 }
 
 bool Form::accessKey(QChar key) {

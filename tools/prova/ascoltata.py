@@ -71,7 +71,9 @@ class GiocatoreAscoltato(Giocatore):
 
         def domanda(detto):
             chiesti = re.findall(r"\d+", detto.partition(". Trova")[0])
-            return len(detto) if "=" in detto and chiesti == parole else 0
+            # A box is called by what it asks for, which is not yet the question of the case.
+            casella = detto.endswith(" text.")
+            return len(detto) if "=" in detto and chiesti == parole and not casella else 0
         self._deve_udire("question", domanda)
         return termini
 

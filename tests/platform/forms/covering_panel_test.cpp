@@ -231,6 +231,59 @@ class CoveringPanelTest : public QObject {
     QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(below.form.First));
   }
 
+  void aButtonHeldOnAListWhoseFormHasGoneBehindAnotherBringsTheFocusNotBackToTheList() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    QWindow* window = stage.runtime->window().windowHandle();
+    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
+    TrialForm& two = stage.show(trial::kTwo);
+    two.Second.setFocus();
+    QVERIFY(two.Second.hasFocus());
+    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(two.First));
+    QVERIFY(two.Second.hasFocus());
+    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(two.First));
+  }
+
+  void theMenuBarKeepsTheFocusOverAnOpenPanelAndIsNotWhereItComesBackTo() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    stage.tap(Qt::Key_Alt);
+    QVERIFY(!below.form.PanelSecond.hasFocus());
+    stage.tap(Qt::Key_Escape);
+    QVERIFY(below.form.PanelSecond.hasFocus());
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Second.hasFocus());
+  }
+
+  void hidingAPanelThatCoversNothingLeavesTheFocusAlone() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Second.hasFocus());
+  }
+
+  void whereTheOldFocusIsHiddenAnotherControlTakesIt() {
+    Stage stage;
+    Below below(stage);
+    below.form.Panel.cover();
+    below.form.Second.setVisible(false);
+    below.form.Panel.setVisible(false);
+    QVERIFY(below.form.Third.hasFocus());
+  }
+
+  void whatIsHiddenWhileItsFormStandsBehindAnotherCostsTheFormNoFocus() {
+    Stage stage;
+    Below below(stage);
+    TrialForm& two = stage.show(trial::kTwo);
+    below.form.Third.setVisible(false);
+    two.run([&] { stage.runtime->forms().unload(two); });
+    QCoreApplication::processEvents();
+    QCOMPARE(stage.currentName(), QStringLiteral("One"));
+    QVERIFY(below.form.Second.hasFocus());
+  }
+
   void openingAnOpenPanelAgainForgetsNothing() {
     Stage stage;
     Below below(stage);
