@@ -20,15 +20,12 @@ using swf::Riempimento;
 
 /// One place of the number: its spike, its beads and the words that their clicks say.
 struct Ordine {
-  const char* segno;     ///< on spike and beads; also the name of the beads on the spike
+  const char* segno;     ///< at the foot of the spike; also the name of the beads on it
   const char* inAttesa;  ///< the name of the waiting beads
   const char* parolaInserita;
   const char* parolaInAttesa;
   Colore luce, piena, ombra;
-  Colore scritta;
 };
-
-constexpr Colore kBianco{255, 255, 255};
 
 constexpr std::array<Ordine, 4> kOrdini{{
     {"k",
@@ -37,32 +34,16 @@ constexpr std::array<Ordine, 4> kOrdini{{
      "migliaioinattesa",
      {240, 222, 255},
      {150, 70, 225},
-     {76, 10, 140},
-     kBianco},
+     {76, 10, 140}},
     {"h",
      "ha",
      "centinaioinserito",
      "centinaioinattesa",
      {215, 255, 205},
      {40, 225, 40},
-     {0, 130, 10},
-     {0, 64, 0}},
-    {"da",
-     "daa",
-     "decinainserita",
-     "decinainattesa",
-     {255, 205, 195},
-     {245, 30, 30},
-     {140, 0, 0},
-     kBianco},
-    {"u",
-     "ua",
-     "unitainserita",
-     "unitainattesa",
-     {200, 215, 255},
-     {45, 75, 250},
-     {0, 5, 130},
-     kBianco},
+     {0, 130, 10}},
+    {"da", "daa", "decinainserita", "decinainattesa", {255, 205, 195}, {245, 30, 30}, {140, 0, 0}},
+    {"u", "ua", "unitainserita", "unitainattesa", {200, 215, 255}, {45, 75, 250}, {0, 5, 130}},
 }};
 
 // Pixels of the stage. In the smallest window the abacus is shown at 0.8 of its size; the place
@@ -99,7 +80,7 @@ Punto postoSulFerro(std::size_t ordine, int i) {
   return {ferro(ordine), altezza(i)};
 }
 
-/// A shiny ball with its sign, round the origin.
+/// A shiny ball round the origin. It bears no sign: its place and its colour say what it counts.
 Forma pallina(const Ordine& ordine) {
   Forma forma;
   forma.dipingi(
@@ -107,7 +88,6 @@ Forma pallina(const Ordine& ordine) {
       Riempimento::radiale({-kRaggioX * 0.35, -kRaggioY * 0.45}, kRaggioX * 1.5, kRaggioY * 1.5,
                            {{0, ordine.luce}, {0.42, ordine.piena}, {1, ordine.ombra}}),
       swf::Penna{1, ordine.ombra});
-  forma.traccia(scritta(ordine.segno, 9.5, {0, 2}), {2, ordine.scritta});
   return forma;
 }
 

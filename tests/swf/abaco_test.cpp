@@ -95,6 +95,21 @@ class AbacoTest : public QObject {
     }
   }
 
+  /// A sign would be drawn in lines of its own for each place.
+  void theBeadsDifferByNothingButTheirColours() {
+    std::set<std::size_t> misure;
+    for (const std::string nome : {"k0", "h0", "da0", "u0", "ka1", "ha1", "daa1", "ua1"}) {
+      const int figura = pulsante(nome).aspetti.at(0).carattere;
+      for (const auto& etichetta : letto_.etichette) {
+        const bool forma = etichetta.codice == 2 || etichetta.codice == 22 ||
+                           etichetta.codice == 32 || etichetta.codice == 83;
+        if (!forma || (etichetta.corpo.at(0) | etichetta.corpo.at(1) << 8) != figura) continue;
+        misure.insert(etichetta.corpo.size());
+      }
+    }
+    QCOMPARE(misure.size(), std::size_t(1));
+  }
+
   void noNameIsTakenTwice() {
     std::set<std::string> nomi;
     for (const auto& posto : letto_.scena.posti)
