@@ -52,7 +52,8 @@ int main(int /*argc*/, char* argv[]) {
   platform::onBestWindowSystem([&] { programma.emplace(quanti, soloIlNome.data()); });
   // A program that is carried about brings its own.
   platform::addFontsIn(QCoreApplication::applicationDirPath() + QStringLiteral("/caratteri"));
-  platform::applyAppearance();
+  platform::applyAppearance(
+      {QStringLiteral(":/immagini"), QStringLiteral("informazione"), QStringLiteral("attenzione")});
   somme::PreparaImmagini();
 
   platform::QtTimeSource tempo;

@@ -3,7 +3,9 @@
 #include "platform/forms/design.h"
 #include "printing/frm_avvia_stampa.h"
 
-// The design of the print dialog. What belongs to its settings mode lies above 4192 twips.
+// The design of the print dialog: the sheet at the left, what is chosen and pressed at its right,
+// and below both what only "Avanzate" shows. What belongs to its settings mode lies above 4192
+// twips.
 namespace somme::disegno_stampa {
 
 using platform::Align;
@@ -24,6 +26,13 @@ inline constexpr Rgb kGiallo{255, 255, 0};
 inline constexpr Rgb kOmbra{160, 160, 160};
 inline constexpr FontSpec kPiccolo{Face::Tahoma, 9.75};
 inline constexpr FontSpec kGrande{Face::Tahoma, 12};
+
+// Twips. Without the frames of margins and sizes the dialog ends above them.
+inline constexpr double kAltezzaSemplice = 4890;
+inline constexpr double kAltezzaIntera = 7020;
+// The longest side of the sheet on the preview. What is printed beyond it, up to A3 on A4, still
+// has room in the frame.
+inline constexpr double kLatoAnteprima = 3300;
 
 using F = frmAvviaStampa;
 
@@ -54,12 +63,14 @@ inline constexpr auto kControlli = std::to_array<Row>({
                         {.toolTip = "Una stampante", .picture = "stampante_grande"}),
 
     // Its caption tells the sheet and is made anew with it.
-    row<&F::fraFoglio>({120, 930, 3840, 3210}, {.font = kPiccolo}),
-    row<&F::shpBordo>({510, 330, 2820, 2820}, {.fore = kOmbra, .back = kOmbra, .in = kFoglio}),
-    row<&F::shpFoglio>({555, 375, 2730, 2730}, {.fore = kBlack, .back = kWhite, .in = kFoglio}),
-    row<&F::PictureAnteprima>({570, 390, 2700, 2700},
+    row<&F::fraFoglio>({120, 930, 5070, 3840}, {.font = kPiccolo}),
+    row<&F::shpBordo>({120, 360, kLatoAnteprima + 120, kLatoAnteprima + 120},
+                      {.fore = kOmbra, .back = kOmbra, .in = kFoglio}),
+    row<&F::shpFoglio>({165, 405, kLatoAnteprima + 30, kLatoAnteprima + 30},
+                       {.fore = kBlack, .back = kWhite, .in = kFoglio}),
+    row<&F::PictureAnteprima>({180, 420, kLatoAnteprima, kLatoAnteprima},
                               {.toolTip = "Anteprima", .back = kWhite, .in = kFoglio}),
-    row<&F::Label1>({570, 390, 2700, 240}, {.hidden = true, .in = kFoglio}),
+    row<&F::Label1>({180, 420, kLatoAnteprima, 240}, {.hidden = true, .in = kFoglio}),
     row<&F::lblStampaInCorso>({600, 1500, 2520, 480}, {.caption = "Stampa in corso...",
                                                        .font = kGrande,
                                                        .back = kGiallo,
@@ -68,23 +79,23 @@ inline constexpr auto kControlli = std::to_array<Row>({
                                                        .hidden = true,
                                                        .in = kFoglio}),
 
-    row<&F::A3>(0, {4140, 1080, 1980, 510}, {.caption = "A3", .font = kGrande, .checked = true}),
-    row<&F::A3>(1, {6300, 1080, 1980, 510}, {.caption = "A4", .font = kGrande}),
-    row<&F::Label2>({4140, 1620, 4140, 840},
+    row<&F::A3>(0, {5340, 1020, 1410, 510}, {.caption = "A3", .font = kGrande, .checked = true}),
+    row<&F::A3>(1, {6870, 1020, 1410, 510}, {.caption = "A4", .font = kGrande}),
+    row<&F::Label2>({5340, 1560, 2940, 810},
                     {.caption = "Sarà necessario poi fotocopiare il foglio stampato con "
                                 "ingrandimento da A4 ad A3",
                      .font = kPiccolo,
                      .hidden = true}),
-    row<&F::lblFuoriFoglio>({4140, 2520, 4140, 540}, {.caption = "Impostare la stampante su A3",
+    row<&F::lblFuoriFoglio>({5340, 2400, 2940, 600}, {.caption = "Impostare la stampante su A3",
                                                       .font = kGrande,
                                                       .back = kWhite,
                                                       .align = Align::Centre,
                                                       .border = true,
                                                       .hidden = true}),
     item<&F::Timer1>({.disabled = true}),
-    row<&F::Command1>({120, 4260, 1890, 600}, {.caption = "&Avanzate", .font = kPiccolo}),
+    row<&F::Command1>({5340, 4230, 2940, 540}, {.caption = "&Avanzate", .font = kPiccolo}),
 
-    row<&F::zFrame2>({120, 4950, 4020, 2070},
+    row<&F::zFrame2>({120, 4830, 4020, 2070},
                      {.caption = "Margini Stampa [mm]", .font = kPiccolo, .hidden = true}),
     Nome<&F::zLabel7>({150, 330, 1080, 480}, "S&inistro:", kMargini),
     Campo<&F::txtPrX>({1290, 330, 960, 480}, "Margine sinistro, millimetri", kMargini),
@@ -95,7 +106,7 @@ inline constexpr auto kControlli = std::to_array<Row>({
     row<&F::cmdOrigine>({1290, 1470, 1980, 510},
                         {.caption = "&Reimposta", .font = kPiccolo, .in = kMargini}),
 
-    row<&F::zFrame3>({4260, 4950, 4020, 2070},
+    row<&F::zFrame3>({4260, 4830, 4020, 2070},
                      {.caption = "Dimensioni Stampa [mm]", .font = kPiccolo, .hidden = true}),
     Nome<&F::zLabel8>({150, 330, 1080, 480}, "Largh&ezza:", kDimensioni),
     Campo<&F::txtPrW>({1290, 330, 960, 480}, "Larghezza della stampa, millimetri", kDimensioni),
@@ -107,10 +118,10 @@ inline constexpr auto kControlli = std::to_array<Row>({
         {150, 1470, 3720, 510},
         {.caption = "&Mantieni proporzioni", .font = kPiccolo, .checked = true, .in = kDimensioni}),
 
-    row<&F::cmdStampa>({5520, 3180, 1320, 930},
+    row<&F::cmdStampa>({5340, 3120, 1410, 990},
                        {.caption = "&Stampa", .font = kGrande, .picture = "stampante"}),
-    row<&F::cmdOK>({5520, 3180, 1320, 930}, {.caption = "&OK", .font = kGrande}),
-    row<&F::cmdChiudi>({6960, 3180, 1320, 930},
+    row<&F::cmdOK>({5340, 3120, 1410, 990}, {.caption = "&OK", .font = kGrande}),
+    row<&F::cmdChiudi>({6870, 3120, 1410, 990},
                        {.caption = "&Chiudi", .font = kGrande, .picture = "chiudi"}),
     row<&F::picCopia>({0, 0, 240, 240}, {.hidden = true}),
     row<&F::picCopiaTemp>({0, 0, 240, 240}, {.hidden = true}),
@@ -121,7 +132,7 @@ inline constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
 inline constexpr FormDesign kDisegno{.name = "frmAvviaStampa",
                                      .caption = "Stampa",
                                      .width = 8400,
-                                     .height = 7140,
+                                     .height = kAltezzaIntera,
                                      .back = kFondo,
                                      .tables = kTavole};
 

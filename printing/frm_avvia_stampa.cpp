@@ -30,7 +30,9 @@ constexpr Rgb kRosso{255, 0, 0};
 constexpr Rgb kBianco{255, 255, 255};
 // The longer side of the captured image: 150 dots an inch on the 420 mm of an A3 sheet.
 constexpr int kPuntiCattura = 2500;
-constexpr double kAltezzaImpostazioni = 4192;  // twips
+constexpr double kAltezzaImpostazioni = 4192;  // twips, as the two next
+constexpr double kMenoLarga = 1230;            // there, of the frame round the sheet
+constexpr double kMenoAlta = 630;              // of the frame, and of the sheet either way
 
 bool EOrientamento(int valore) {
   return valore == int(Orientation::Portrait) || valore == int(Orientation::Landscape);
@@ -58,6 +60,7 @@ frmAvviaStampa::frmAvviaStampa(Ambiente& ambiente)
     AggiornaSeGrande();
   });
   Command1.onClick([this] {
+    setDesignHeight(disegno_stampa::kAltezzaIntera);
     zFrame2.setVisible(true);
     zFrame3.setVisible(true);
   });
@@ -137,6 +140,7 @@ void frmAvviaStampa::Prepara(const Richiesta& richiesta) {
   orientamento_ = richiesta.orientamento;
   titolo_ = richiesta.titolo;
   if (!conOggetto_) return;
+  setDesignHeight(disegno_stampa::kAltezzaSemplice);
   const FinestraDaStampare finestra = FinestraDi(richiesta.oggetto);
   if (finestra.widget == nullptr) {
     throw ErroreDiStampa{ErroreDiStampa::kStampante,
@@ -177,6 +181,8 @@ QImage frmAvviaStampa::PassaDaFile(const QImage& figura) const {
 }
 
 void frmAvviaStampa::CatturaOggetto(QWidget& finestra, const QString& nome) {
+  // A sheet is photographed in its activation, before it is painted by itself.
+  ambiente().fondo.window().releasePicture();
   Copia_Oggetto(finestra, nome, picCopia, true);
   LeggiFigura(picCopia.picture());
   picCopia.clear();
@@ -213,6 +219,8 @@ void frmAvviaStampa::onActivate() {
   if (conOggetto_) {
     cmdOK.setVisible(false);
     imgPrinter.setVisible(false);
+  } else {
+    StringiFoglio();
   }
   const double pixel = PixelInTwips();
   shpFoglio.setLeft(shpBordo.left() + 3 * pixel);
@@ -229,6 +237,17 @@ void frmAvviaStampa::onActivate() {
     cmdStampa.setFocus();
   } else {
     ApriPerImpostazioni();
+  }
+}
+
+// The printer stands beside the sheet.
+void frmAvviaStampa::StringiFoglio() {
+  fraFoglio.setWidth(fraFoglio.width() - kMenoLarga * scale().x);
+  fraFoglio.setHeight(fraFoglio.height() - kMenoAlta * scale().y);
+  for (Control* foglio : {static_cast<Control*>(&Label1), static_cast<Control*>(&PictureAnteprima),
+                          static_cast<Control*>(&shpFoglio), static_cast<Control*>(&shpBordo)}) {
+    foglio->setWidth(foglio->width() - kMenoAlta * scale().x);
+    if (foglio != &Label1) foglio->setHeight(foglio->height() - kMenoAlta * scale().y);
   }
 }
 
@@ -311,6 +330,9 @@ void frmAvviaStampa::DisegnaAnteprima(const QRect& dove) {
       minore ? ridotta.scaled(dove.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
              : ridotta,
       dove);
+  // What would be lost beyond the paper is seen, faint, beside it.
+  const QPoint angolo = PictureAnteprima.widget()->pos();
+  fraFoglio.setPicture(lblFuoriFoglio.isVisible() ? ridotta : QImage(), dove.translated(angolo));
 }
 
 void frmAvviaStampa::Lampeggia() {

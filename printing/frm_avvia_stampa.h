@@ -113,6 +113,7 @@ class frmAvviaStampa final : public Forma {
   void LeggiFigura(const QImage& figura);
   [[nodiscard]] QImage PassaDaFile(const QImage& figura) const;
 
+  void StringiFoglio();
   void ApriPerImpostazioni();
   void ScegliStampante();
   void MostraProprieta();

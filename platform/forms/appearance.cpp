@@ -2,41 +2,16 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QProxyStyle>
-#include <QStyleOption>
-#include <QWidget>
-#include <algorithm>
 
 #include "platform/forms/accessible.h"
 #include "platform/forms/fonts.h"
+#include "platform/forms/house_style.h"
 
 namespace platform {
 
 namespace {
 
 constexpr double kMenuPixels = 16;
-
-// Between the words of two menus, of the size of their letters; Fusion itself leaves a fixed part
-// of it round each.
-constexpr double kBetweenMenus = 1.2;
-constexpr int kRoundMenu = 12;  // pixels
-
-// Fusion, without a text cursor of its own, and with menus that keep apart whatever their size.
-class Style final : public QProxyStyle {
- public:
-  Style() : QProxyStyle(QStringLiteral("Fusion")) {}
-
-  [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
-                                const QWidget* widget) const override {
-    // Text boxes paint their own.
-    if (metric == PM_TextCursorWidth) return 0;
-    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    if (metric == PM_MenuBarItemSpacing && widget != nullptr) {
-      return std::max(usual, int(widget->font().pixelSize() * kBetweenMenus) - kRoundMenu);
-    }
-    return usual;
-  }
-};
 
 QPalette lightPalette() {
   QPalette palette(QColor(240, 240, 240));
@@ -56,8 +31,8 @@ QPalette lightPalette() {
 
 }  // namespace
 
-void applyAppearance() {
-  QApplication::setStyle(new Style);
+void applyAppearance(const BoxDrawings& drawings) {
+  QApplication::setStyle(new HouseStyle(drawings));
   QApplication::setPalette(lightPalette());
   QApplication::setFont(fontOf({}, kMenuPixels));
   installAccessibility();

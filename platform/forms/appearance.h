@@ -1,10 +1,18 @@
 #pragma once
 
+#include <QString>
+
 namespace platform {
 
-// The program's own look on every desktop: one style, fixed colours, so that a dark or
-// high-contrast desktop theme does not change what the forms fix. To be called once, before the
-// first window.
-void applyAppearance();
+// The drawings of message boxes, by their names in a folder of pictures; without a folder boxes
+// have those of the toolkit.
+struct BoxDrawings {
+  QString folder;
+  QString information;
+  QString critical;
+};
+
+// The look of the program, the same on every desktop: light, in its own style and letters.
+void applyAppearance(const BoxDrawings& drawings = {});
 
 }  // namespace platform

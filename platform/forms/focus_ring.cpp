@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QWidget>
 #include <algorithm>
+#include <cmath>
 
 namespace platform {
 
@@ -29,7 +30,18 @@ void ring(QPainter& painter, const QRectF& area, double width, double distance, 
 }  // namespace
 
 double markScale(const QWidget& widget) {
-  return std::max(1.0, widget.window()->height() / kUsualHeight);
+  const QWidget* lowest = widget.window();
+  while (lowest->parentWidget() != nullptr) lowest = lowest->parentWidget()->window();
+  return std::max(1.0, lowest->height() / kUsualHeight);
+}
+
+int markPixels(const QWidget& widget, double pixels) {
+  return std::max(1, int(std::lround(pixels * markScale(widget))));
+}
+
+void paintBorder(QPainter& painter, const QRect& area, int width, const QColor& color) {
+  const QRect inside = area.adjusted(width, width, -width, -width);
+  for (const QRect& edge : QRegion(area).subtracted(inside)) painter.fillRect(edge, color);
 }
 
 void paintFocusRing(QPainter& painter, const QWidget& control, double corner, double inset) {
@@ -41,7 +53,7 @@ void paintFocusRing(QPainter& painter, const QWidget& control, double corner, do
   painter.setPen(QPen(kDark, dark, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   ring(painter, area, dark, 0, corner);
   painter.setPen(QPen(Qt::white, light, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-  ring(painter, area, light, dark, std::max(0.0, corner - 2));
+  ring(painter, area, light, dark, std::max(0.0, corner - 2 * markScale(control)));
 }
 
 WithoutFocusRings::WithoutFocusRings() {

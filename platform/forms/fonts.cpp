@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QStringList>
+#include <QWidget>
 #include <algorithm>
 #include <numeric>
 
@@ -42,6 +43,12 @@ double pixelsBeside(int height, double smallest) {
   constexpr double kShare = 0.021;
   constexpr double kLargest = 48;
   return std::clamp(height * kShare, smallest, kLargest);
+}
+
+double pixelsOver(const QWidget* window, double smallest) {
+  if (window == nullptr) return smallest;
+  while (window->parentWidget() != nullptr) window = window->parentWidget()->window();
+  return pixelsBeside(window->height(), smallest);
 }
 
 Ink inkOf(const QFont& font) {

@@ -6,6 +6,8 @@
 
 #include "platform/forms/design.h"
 
+class QWidget;
+
 namespace platform {
 
 // Takes the fonts that lie in a folder (.ttf files) beside those that are installed; none where
@@ -22,6 +24,8 @@ void addFontsIn(const QString& folder);
 // The size of what is written beside the forms, in menus and boxes, in pixels: it grows with the
 // window as the forms do. height: of the window or page, in pixels. smallest: never less than this.
 [[nodiscard]] double pixelsBeside(int height, double smallest);
+// The same for a window over this one, which may stand over others itself; null: over none.
+[[nodiscard]] double pixelsOver(const QWidget* window, double smallest);
 
 // How far the ink of any word that the program can show reaches above and below the base line, in
 // pixels: accents on capitals and descenders. It is less than the font's own line height, which in

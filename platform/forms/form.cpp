@@ -9,6 +9,7 @@
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/menu_bar.h"
+#include "platform/forms/text_block.h"
 
 namespace platform {
 
@@ -54,6 +55,7 @@ bool keepFromHidden(Canvas& canvas, QWidget* before, QWidget& now) {
 Form::Form(Ground& ground, const FormDesign& design)
     : ground_(ground),
       design_(design),
+      tallest_(design.height),
       name_(toText(design.name)),
       caption_(toText(design.caption)) {}
 
@@ -160,6 +162,7 @@ void Form::setCaption(const QString& caption) {
 
 void Form::setDesignHeight(double twips) {
   design_.height = twips;
+  tallest_ = std::max(tallest_, twips);
   laidOut_ = false;
   ground_.formChanged(*this);
 }
@@ -210,6 +213,7 @@ void Form::cover(Control& panel) {
   panel.setPlace(0, 0, width(), height());
   panel.bringToFront();
   panel.setVisible(true);
+  page_->update();
   focusCover();
 }
 
@@ -235,6 +239,7 @@ void Form::focusMoved(QWidget* now) {
 void Form::uncover(Control& panel) {
   if (cover_ != &panel) return;
   cover_ = nullptr;
+  page_->update();
   if (focusBelow_ && focusBelow_->isVisible() && focusBelow_->isEnabled()) {
     focusBelow_->setFocus(Qt::OtherFocusReason);
     return;
@@ -250,6 +255,10 @@ void Form::dropHiddenFocus() {
 
 const QWidget* Form::focusRoom() const {
   return cover_ == nullptr ? nullptr : cover_->container();
+}
+
+std::optional<QColor> Form::coverColor() const {
+  return cover_ == nullptr ? std::nullopt : std::optional(toColor(cover_->backColor()));
 }
 
 bool Form::isCovered(const Control& control) const {

@@ -47,6 +47,8 @@ class Form : public ControlHost,
   // Cuts the design off at so many of its own twips, or lengthens it; the window of a form shown
   // over the main one follows.
   void setDesignHeight(double twips);
+  // The greatest height that the design has had, in its own twips.
+  [[nodiscard]] double tallestDesign() const { return tallest_; }
   // Paints the background from white at the top to full yellow at the bottom, once, at the present
   // size; what a later resize uncovers shows the last colour.
   void paintGradient();
@@ -106,6 +108,7 @@ class Form : public ControlHost,
   void release(const Control& control) override;
   // PageOwner
   [[nodiscard]] const QWidget* focusRoom() const override;
+  [[nodiscard]] std::optional<QColor> coverColor() const override;
   void takeSize() override;
 
   void build(QWidget* parent);
@@ -124,6 +127,7 @@ class Form : public ControlHost,
 
   Ground& ground_;
   FormDesign design_;
+  double tallest_ = 0;
   QString name_;
   QString caption_;
   QString tag_;

@@ -1,5 +1,6 @@
 #include "platform/forms/forms.h"
 
+#include <QScopeGuard>
 #include <QTimer>
 #include <algorithm>
 
@@ -38,6 +39,8 @@ std::shared_ptr<Form> Forms::load(std::string_view name) {
 
 void Forms::show(std::string_view name) {
   ++changing_;
+  // Nobody sees a form before its activation has put everything in its place; see `holdPicture`.
+  const auto release = qScopeGuard([this] { window_.releasePicture(); });
   std::shared_ptr<Form> form;
   try {
     form = load(name);
@@ -48,6 +51,7 @@ void Forms::show(std::string_view name) {
   std::erase(shown_, form);
   shown_.push_back(form);
   ++pageNumber_;
+  window_.holdPicture();
   window_.showPage(*form);
   --changing_;
   LoadedForm(*form).runActivate();
@@ -93,11 +97,15 @@ void Forms::showModal(Form& form) {
   const std::shared_ptr<Form> keep = form.shared_from_this();
   gate_.wait([&] {
     ModalWindow window(window_, form);
+    window_.releasePicture();
     modal_.push_back(keep);
     window.fit();
+    // Painted when all is in its place.
+    window.setUpdatesEnabled(false);
     window.show();
     LoadedForm(form).takeSize();
     LoadedForm(form).runActivate();
+    window.setUpdatesEnabled(true);
     while (!form.isUnloaded() && !gate_.isClosed()) {
       time_.sleepUntilEvent(kLong);
     }

@@ -27,16 +27,24 @@ void ModalWindow::takeTitle() {
   setAccessibleName(form_.caption());
 }
 
-// The growth goes by the design's own width, so that a form that changes its height keeps its
-// scale.
+// The growth goes by the tallest that the form has been, so that one that changes its height keeps
+// its scale.
 void ModalWindow::fit() {
   const FormDesign& design = form_.design();
   const QSizeF plain(design.width / kTwipsPerPixel, design.height / kTwipsPerPixel);
   const QSizeF room = QSizeF(over_.size()) * kShare;
   if (growth_ <= 0) {
-    growth_ = std::max(1.0, std::min(room.width() / plain.width(), room.height() / plain.height()));
+    const double tallest = form_.tallestDesign() / kTwipsPerPixel;
+    growth_ = std::max(1.0, std::min(room.width() / plain.width(), room.height() / tallest));
   }
   setFixedSize((plain * growth_).toSize());
+  if (isVisible()) stayOver();
+}
+
+// One that has become taller goes up rather than beyond the lower edge of the main window.
+void ModalWindow::stayOver() {
+  const int lowest = over_.frameGeometry().bottom() + 1 - frameGeometry().height();
+  if (y() > lowest) move(x(), std::max(over_.frameGeometry().top(), lowest));
 }
 
 void ModalWindow::reject() {

@@ -26,6 +26,8 @@ class ModalWindow final : public QDialog {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void stayOver();
+
   QWidget& over_;
   Form& form_;
   double growth_ = 0;  // of the design's logical pixels; settled when the window comes up

@@ -127,8 +127,9 @@ void Page::hideEvent(QHideEvent* /*event*/) {
 void Page::paintEvent(QPaintEvent* event) {
   // Only the letterbox shows of the page itself. A gradient goes on in its colours at the ends.
   QPainter painter(this);
-  if (!canvas_->hasGradient()) {
-    painter.fillRect(event->rect(), toColor(owner_.design().back));
+  const std::optional<QColor> cover = owner_.coverColor();
+  if (cover || !canvas_->hasGradient()) {
+    painter.fillRect(event->rect(), cover.value_or(toColor(owner_.design().back)));
     return;
   }
   painter.fillRect(event->rect(), kGradientLast);

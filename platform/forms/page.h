@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QWidget>
+#include <optional>
 
 namespace platform {
 
@@ -15,6 +16,8 @@ class PageOwner {
   [[nodiscard]] virtual const FormDesign& design() const = 0;
   // What the focus must stay in: the widget of a covering panel, or null.
   [[nodiscard]] virtual const QWidget* focusRoom() const = 0;
+  // The colour of a covering panel, or nothing.
+  [[nodiscard]] virtual std::optional<QColor> coverColor() const = 0;
   // The client area has another size.
   virtual void takeSize() = 0;
 };
@@ -47,7 +50,8 @@ class Canvas final : public QWidget {
 };
 
 // A form as the window shows it: its menu bar above its client area, which is letterboxed where the
-// window is narrower in shape than the form's design.
+// window is narrower in shape than the form's design. The letterbox goes on in the colours of what
+// stands beside it: the form's, or those of a panel that covers it.
 class Page final : public QWidget {
   Q_OBJECT
 

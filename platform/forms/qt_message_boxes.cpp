@@ -67,8 +67,9 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& message) {
   box.setWindowTitle(message.title);
   box.setTextFormat(Qt::PlainText);
   box.setText(message.text);
+  // The drawing goes by the letters.
+  box.setFont(fontOf({}, pixelsOver(window, kTextPixels)));
   box.setIcon(iconOf(message.icon));
-  box.setFont(fontOf({}, pixelsBeside(window == nullptr ? 0 : window->height(), kTextPixels)));
   const ButtonWords words = words_();
   if (message.buttons == BoxButtons::Ok) {
     QPushButton* ok = addButton(box, words.ok, QMessageBox::AcceptRole);

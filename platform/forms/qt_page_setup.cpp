@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "platform/forms/fonts.h"
 
@@ -17,8 +18,15 @@ namespace platform {
 namespace {
 
 constexpr double kTextPixels = 17;
-constexpr int kRowHeight = 32;
+// Where the writing has that size, in pixels.
+constexpr int kRowHeight = 36;
+constexpr int kBetweenRows = 12;
 constexpr QSize kButtonSize{110, 60};
+
+// What is `pixels` long where the writing has its usual size.
+int grown(const QWidget& dialog, int pixels) {
+  return int(std::lround(pixels * dialog.font().pixelSize() / kTextPixels));
+}
 
 // Two choices of which one holds, in a row of their own.
 class Choice {
@@ -28,7 +36,7 @@ class Choice {
     auto* row = new QHBoxLayout;
     for (int i = 0; i < 2; ++i) {
       auto* button = new QRadioButton(words.at(size_t(i)));
-      button->setMinimumHeight(kRowHeight);
+      button->setMinimumHeight(grown(*form.parentWidget(), kRowHeight));
       button->setAccessibleName(QStringLiteral("%1 %2").arg(label, words.at(size_t(i))));
       group_->addButton(button, i);
       row->addWidget(button);
@@ -51,7 +59,7 @@ QComboBox* addPapers(QFormLayout& form, const QString& label, const PrinterTrait
   const auto at = std::find(traits.papers.begin(), traits.papers.end(), chosen);
   // A paper that the list does not have stays as long as no other is chosen.
   papers->setCurrentIndex(at == traits.papers.end() ? -1 : int(at - traits.papers.begin()));
-  papers->setMinimumHeight(kRowHeight);
+  papers->setMinimumHeight(grown(*form.parentWidget(), kRowHeight));
   papers->setAccessibleName(label);
   form.addRow(label, papers);
   return papers;
@@ -62,7 +70,7 @@ void addButtons(QDialog& dialog, QFormLayout& form, const PageSetupWords& words)
   auto* ok = new QPushButton(words.ok);
   auto* cancel = new QPushButton(words.cancel);
   for (QPushButton* button : {ok, cancel}) {
-    button->setMinimumSize(kButtonSize);
+    button->setMinimumSize(kButtonSize * (dialog.font().pixelSize() / kTextPixels));
     button->setAutoDefault(true);
     row->addWidget(button);
   }
@@ -81,9 +89,9 @@ bool QtPageSetup::choose(const QString& printer, const PrinterTraits& traits,
   QDialog dialog(window);
   dialog.setObjectName(QStringLiteral("PageSetup"));
   dialog.setWindowTitle(QStringLiteral("%1 - %2").arg(words.title, printer));
-  dialog.setFont(fontOf({}, pixelsBeside(window == nullptr ? 0 : window->height(), kTextPixels)));
+  dialog.setFont(fontOf({}, pixelsOver(window, kTextPixels)));
   auto* form = new QFormLayout(&dialog);
-  form->setVerticalSpacing(12);
+  form->setVerticalSpacing(grown(dialog, kBetweenRows));
   QComboBox* papers = addPapers(*form, words.paper, traits, settings.paper, paperName_);
   const Choice direction(*form, words.orientation, {words.portrait, words.landscape},
                          settings.orientation == Orientation::Landscape);

@@ -57,6 +57,9 @@ void waitVisibly(Runtime& runtime, const QString& words, const std::function<voi
   QWidget& inUse = modal != nullptr ? *modal : runtime.window();
   const WaitPointer hourglass;
   const WaitSign sign(inUse, words, [&, window = QPointer(inUse.windowHandle())] {
+    // What the words stand over is seen, even where it was to be painted only when it is ready.
+    runtime.window().releasePicture();
+    if (modal != nullptr) modal->setUpdatesEnabled(true);
     Form* form = window ? runtime.forms().shownIn(*window) : nullptr;
     if (form != nullptr) form->announce(words);
   });

@@ -66,6 +66,14 @@ void Window::appear() {
   setUpdatesEnabled(true);
 }
 
+void Window::holdPicture() {
+  stack_->setUpdatesEnabled(false);
+}
+
+void Window::releasePicture() {
+  stack_->setUpdatesEnabled(true);
+}
+
 void Window::takeTitle(const Form& form) {
   setWindowTitle(form.caption());
   setWindowIcon(form.icon());

@@ -23,6 +23,11 @@ class Window final : public QMainWindow {
   [[nodiscard]] QWidget* pages();
   // Resizes the form to the window, runs its Resize, and puts it on the screen.
   void showPage(Form& form);
+  // From here on forms are not painted: what stands on the screen stays to be seen. Only a change
+  // of the window's size paints them all the same.
+  void holdPicture();
+  // Paints the form on the screen again; nothing where it is not held.
+  void releasePicture();
   // Takes caption and icon of the form on the screen.
   void takeTitle(const Form& form);
 

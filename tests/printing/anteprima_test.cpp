@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "dialogo_di_prova.h"
+#include "platform/forms/text_block.h"
 #include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
@@ -120,6 +121,35 @@ class AnteprimaTest : public QObject {
       QCOMPARE(vista.pixel(vista.width() * 3 / 4 + 3, y), qRgb(255, 255, 255));
     });
     QVERIFY(prova.visto);
+  }
+
+  void whatWouldBeLostBeyondThePaperIsSeenFaintBesideIt() {
+    const auto oltre = [](bool grande, bool spostata) {
+      DialogoDiProva prova;
+      if (grande) prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
+      QImage accanto;
+      prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
+        if (spostata) d.Command1.click();
+        if (spostata) prova.scrivi(d.txtPrX, QStringLiteral("60"));
+        const QRect foglio = d.shpBordo.widget()->geometry();
+        const QWidget& cornice = *d.fraFoglio.widget();
+        accanto = d.fraFoglio.widget()->grab().toImage().copy(foglio.right() + 4, foglio.top() + 4,
+                                                              cornice.width() - foglio.right() - 12,
+                                                              foglio.height() - 8);
+      });
+      QSet<QRgb> colori;
+      for (int y = 0; y < accanto.height(); ++y) {
+        for (int x = 0; x < accanto.width(); ++x) colori.insert(accanto.pixel(x, y));
+      }
+      return colori;
+    };
+    QCOMPARE(oltre(true, false), QSet<QRgb>{qRgb(245, 245, 245)});
+    double contrasto = 1;
+    for (const QRgb colore : oltre(false, false)) {
+      contrasto = std::max(contrasto, platform::contrast(colore, qRgb(245, 245, 245)));
+    }
+    QVERIFY2(contrasto >= 3 && contrasto <= 7, qPrintable(QString::number(contrasto)));
+    QVERIFY(oltre(true, true).size() > 10);
   }
 
   void onAMonochromePrinterThePreviewTurnsGreyAndThePrintStaysInColour() {

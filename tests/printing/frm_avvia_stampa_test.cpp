@@ -69,6 +69,41 @@ class FrmAvviaStampaTest : public QObject {
     QVERIFY(prova.visto);
   }
 
+  void theDialogIsAsLargeAsWhatItShows_data() {
+    QTest::addColumn<QSize>("finestra");
+    QTest::newRow("800x600") << QSize(800, 600);
+    QTest::newRow("1366x768") << QSize(1366, 768);
+    QTest::newRow("1280x1024") << QSize(1280, 1024);
+    QTest::newRow("1920x1080") << QSize(1920, 1080);
+  }
+  void theDialogIsAsLargeAsWhatItShows() {
+    QFETCH(QSize, finestra);
+    DialogoDiProva prova(finestra);
+    prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
+      // How far below the lowest of what is shown the window ends, in twips of the design.
+      const auto resto = [&d] {
+        int basso = 0;
+        const QWidget& tela = *d.page()->canvas();
+        for (const QObject* figlio : tela.children()) {
+          const auto* widget = qobject_cast<const QWidget*>(figlio);
+          if (widget == nullptr || !widget->isVisible()) continue;
+          basso = std::max(basso, widget->geometry().bottom() + 1);
+        }
+        return (tela.height() - basso) * d.scale().twipsPerPixel / d.scale().y;
+      };
+      const QRect principale = prova.banco.ambiente->fondo.window().frameGeometry();
+      QVERIFY2(resto() >= 90 && resto() <= 150, qPrintable(QString::number(resto())));
+      const int larga = d.page()->window()->width();
+      const double scala = d.scale().x;
+      prova.clicca(d.Command1);
+      QVERIFY2(resto() >= 90 && resto() <= 150, qPrintable(QString::number(resto())));
+      QCOMPARE(d.page()->window()->width(), larga);
+      QCOMPARE(d.scale().x, scala);
+      QVERIFY(d.page()->window()->frameGeometry().bottom() <= principale.bottom());
+    });
+    QVERIFY(prova.visto);
+  }
+
   void theListHoldsEveryPrinterAndTheOneInUseIsChosen() {
     DialogoDiProva prova;
     prova.banco.stampanti.metti(QStringLiteral("Altra"), prova::StampanteDiProva());

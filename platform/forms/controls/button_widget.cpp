@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "platform/forms/accessible.h"
-#include "platform/forms/controls/color_mix.h"
+#include "platform/forms/controls/button_face.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
 #include "platform/forms/press_event.h"
@@ -18,21 +18,10 @@ namespace platform {
 
 namespace {
 
-constexpr QColor kPlainFace(238, 240, 244);
-constexpr double kCorner = 6;
 constexpr double kSunk = 0.09;           // of the shorter side, on each
 constexpr double kDisabledInk = 0.45;    // of plain buttons
 constexpr double kTriedInk = 0.55;       // of an answer tried in vain
 constexpr double kOverlap = 15.0 / 615;  // of a cell's side, under its neighbours
-constexpr QColor kPointedEdge(24, 33, 59);
-constexpr double kPointedEdgeWidth = 2;
-// Below the mouse a face is so much nearer to white: a pale one more, that it is seen, a strong one
-// less, that it keeps its colour.
-constexpr double kLitPale = 0.5;
-constexpr double kLitStrong = 0.22;
-constexpr int kPale = 200;       // the lightness from which a face is pale
-constexpr double kHeld = 0.06;   // of the way to black: words on it stay as readable
-constexpr double kHeldDeep = 2;  // pixels that it sinks where the window is not large
 
 bool isEnter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -180,32 +169,23 @@ ButtonWidget::Rooms ButtonWidget::rooms() const {
           inner.adjusted(0, side + margin / 2, 0, 0).toRect()};
 }
 
-double ButtonWidget::sinking() const {
-  return isHeld() ? std::round(kHeldDeep * markScale(*this)) : 0;
-}
-
-QColor ButtonWidget::face() const {
-  const QColor face = ground_.value_or(kPlainFace);
-  if (isHeld()) return mixed(face, Qt::black, kHeld);
-  if (!isPointed()) return face;
-  return mixed(face, Qt::white, face.lightness() >= kPale ? kLitPale : kLitStrong);
-}
-
 // A button that can be pressed stands up; one that cannot lies flat and small in its place, which
 // tells it without colour. A cell keeps its size: a table stays a table.
 QRectF ButtonWidget::body() const {
   const double sunk = stands() || cell_ ? 0 : std::min(width(), height()) * kSunk;
-  const double edge = 0.5 + sunk;
-  return QRectF(rect()).adjusted(edge, edge + (cell_ ? 0 : sinking()), -edge, -edge);
+  const double edge = buttonEdge(*this) / 2 + sunk;
+  const double down = cell_ ? 0 : buttonSinking(*this, isHeld());
+  return QRectF(rect()).adjusted(edge, edge + down, -edge, -edge);
 }
 
-QPainterPath ButtonWidget::outlineOf(const QRectF& body, double corner) const {
+QPainterPath ButtonWidget::outline(double inset) const {
+  const QRectF body = this->body().adjusted(inset, inset, -inset, -inset);
   QPainterPath path;
   if (cell_ && !roundCorner_) {
     path.addRect(body);
     return path;
   }
-  path.addRoundedRect(body, corner, corner);
+  path = buttonOutline(*this, this->body(), inset);
   if (!cell_) return path;
   // All corners are filled up but the table's own.
   QPainterPath square;
@@ -221,33 +201,23 @@ QPainterPath ButtonWidget::outlineOf(const QRectF& body, double corner) const {
   return path.united(square).simplified();
 }
 
-QPen ButtonWidget::edge() const {
-  if (isPointed() && !cell_) return {kPointedEdge, kPointedEdgeWidth * markScale(*this)};
-  return {stands() || cell_ ? QColor(70, 70, 70) : QColor(150, 150, 150), 1};
+ButtonFace ButtonWidget::face() const {
+  return {.color = ground_.value_or(kPlainFace),
+          .stands = stands(),
+          .strong = stands() || cell_,
+          .pointed = isPointed(),
+          .litEdge = !cell_,
+          .held = isHeld()};
 }
 
 void ButtonWidget::paintFace(QPainter& painter) const {
-  const QRectF body = this->body();
-  painter.setPen(edge());
-  painter.setBrush(face());
-  painter.drawPath(outlineOf(body, kCorner));
-  if (!stands()) return;
-  // A raised edge: light above, shade below. What is held has sunk below its edge.
-  painter.save();
-  painter.setClipPath(outlineOf(body.adjusted(1, 1, -1, -1), kCorner - 1));
-  if (isHeld()) {
-    painter.fillRect(QRectF(0, body.top(), width(), 3), QColor(0, 0, 0, 70));
-  } else {
-    painter.fillRect(QRectF(0, 0, width(), 3), QColor(255, 255, 255, 150));
-    painter.fillRect(QRectF(0, height() - 4, width(), 4), QColor(0, 0, 0, 55));
-  }
-  painter.restore();
+  paintButtonFace(painter, *this, face(), outline(), outline(buttonEdge(*this)));
 }
 
 // Cells lie over one another by a strip; the ring of one stays inside of what all leave it.
 void ButtonWidget::paintFocus(QPainter& painter) const {
   const double inset = cell_ ? std::ceil(std::max(width(), height()) * kOverlap) + 1 : 0;
-  paintFocusRing(painter, *this, cell_ ? 0 : kCorner, inset);
+  paintFocusRing(painter, *this, cell_ ? 0 : buttonCorner(*this), inset);
 }
 
 // What a coloured button says stays readable when the button is spent; pictures fade, and so does
@@ -255,14 +225,14 @@ void ButtonWidget::paintFocus(QPainter& painter) const {
 void ButtonWidget::paintContent(QPainter& painter) {
   const Rooms room = rooms();
   painter.save();
-  painter.translate(0, sinking());
+  painter.translate(0, buttonSinking(*this, isHeld()));
   if (!isEnabled()) painter.setOpacity(kDisabledInk);
   if (!picture_.isEmpty()) pictures_.paint(painter, picture_, room.picture);
   if (ground_) painter.setOpacity(mark_ == AnswerMark::Wrong ? kTriedInk : 1);
   QFont letters = font();
   letters.setPixelSize(sharedSize(letters.pixelSize()));
   block_.set(caption_, letters, room.text.size(), Align::Centre, true);
-  block_.paint(painter, room.text, ink_, face());
+  block_.paint(painter, room.text, ink_, buttonColor(face()));
   painter.restore();
 }
 

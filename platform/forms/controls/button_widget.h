@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "platform/forms/controls/answer_mark.h"
+#include "platform/forms/controls/button_face.h"
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/text_block.h"
 
@@ -67,11 +68,10 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
   [[nodiscard]] bool isPointed() const {
     return underMouse() && isEnabled() && mark_ == AnswerMark::None;
   }
-  [[nodiscard]] double sinking() const;
-  [[nodiscard]] QColor face() const;
+  [[nodiscard]] ButtonFace face() const;
   [[nodiscard]] QRectF body() const;
-  [[nodiscard]] QPainterPath outlineOf(const QRectF& body, double corner) const;
-  [[nodiscard]] QPen edge() const;
+  // Of the body; inset: how far inside of it, in pixels.
+  [[nodiscard]] QPainterPath outline(double inset = 0) const;
   void paintFace(QPainter& painter) const;
   void paintFocus(QPainter& painter) const;
   void paintContent(QPainter& painter);

@@ -1,11 +1,9 @@
 #include "platform/forms/controls/combo_box.h"
 
 #include <QComboBox>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
-#include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
 
 namespace platform {
@@ -19,14 +17,6 @@ class ComboWidget final : public QComboBox {
 
   void showPopup() override {
     if (mayAct_()) QComboBox::showPopup();
-  }
-
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    QComboBox::paintEvent(event);
-    if (!hasFocus()) return;
-    QPainter painter(this);
-    paintFocusRing(painter, *this, 0);
   }
 
  private:

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QPainter>
 
+#include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
 
@@ -10,7 +11,8 @@ namespace platform {
 
 namespace {
 
-constexpr int kIndent = 9;  // of the caption, pixels
+constexpr int kIndent = 9;      // of the caption, pixels
+constexpr double kFaint = 0.5;  // its outlines are still seen, 3:1
 
 // A QGroupBox for what assistive technology knows of it; the line and the caption are our own, so
 // that the controls inside keep their places.
@@ -23,6 +25,11 @@ class FrameWidget final : public QGroupBox {
     setAccessibleName(caption.trimmed());
     update();
   }
+  void setPicture(const QImage& picture, const QRect& where) {
+    picture_ = picture;
+    where_ = where;
+    update();
+  }
   void setGround(const QColor& ground) {
     ground_ = ground;
     update();
@@ -32,10 +39,11 @@ class FrameWidget final : public QGroupBox {
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     painter.fillRect(rect(), ground_);
+    paintPicture(painter);
     const Ink ink = inkOf(font());
     const int down = int(ink.height() / 2) + 1;
-    painter.setPen(QColor(110, 110, 110));
-    painter.drawRect(rect().adjusted(0, down, -1, -1));
+    paintBorder(painter, rect().adjusted(0, down, 0, 0), markPixels(*this, 1),
+                QColor(110, 110, 110));
     if (caption_.isEmpty()) return;
     const int most = width() - 2 * kIndent;
     block_.set(caption_, font(), {most, int(ink.height()) + 3}, Align::Left, false);
@@ -46,8 +54,19 @@ class FrameWidget final : public QGroupBox {
   }
 
  private:
+  void paintPicture(QPainter& painter) const {
+    if (picture_.isNull()) return;
+    painter.setOpacity(kFaint);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(where_), picture_);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.setOpacity(1);
+  }
+
   QString caption_;
   QColor ground_ = Qt::white;
+  QImage picture_;
+  QRect where_;
   TextBlock block_;
 };
 
@@ -64,6 +83,10 @@ QWidget* Frame::create(QWidget* parent) {
 void Frame::applyLook() {
   widget()->setFont(fontOf(fontSpec(), fontPixels()));
   frameOf(widget())->setGround(toColor(look().back ? backColor() : home().design().back));
+}
+
+void Frame::setPicture(const QImage& picture, const QRect& pixels) {
+  if (widget() != nullptr) frameOf(widget())->setPicture(picture, pixels);
 }
 
 void Frame::setCaption(const QString& caption) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QImage>
+
 #include "platform/forms/control.h"
 
 namespace platform {
@@ -12,6 +14,9 @@ class Frame : public Control {
   [[nodiscard]] bool hasCaption() const override { return true; }
   [[nodiscard]] QString caption() const override { return caption_; }
   void setCaption(const QString& caption) override;
+  // Shows a picture behind what stands in the frame, faint and stretched to `pixels` of the frame;
+  // a null one shows nothing.
+  void setPicture(const QImage& picture, const QRect& pixels);
 
  protected:
   [[nodiscard]] QWidget* create(QWidget* parent) override;

@@ -16,6 +16,7 @@ namespace {
 constexpr QColor kLight(255, 212, 59);
 constexpr QColor kEdge(24, 33, 59);
 constexpr double kEdgeWidth = 3;
+constexpr double kBorder = 1;
 
 }  // namespace
 
@@ -55,7 +56,7 @@ void LabelWidget::changeEvent(QEvent* event) {
 
 // Words at the side of a coloured ground keep clear of its edge.
 QRect LabelWidget::room() const {
-  const int margin = border_ ? 2 : 0;
+  const int margin = border_ ? markPixels(*this, kBorder) + 1 : 0;
   const int side = ground_ && align_ != Align::Centre ? margin + font().pixelSize() / 3 : margin;
   return rect().adjusted(side, margin, -side, -margin);
 }
@@ -81,21 +82,16 @@ QColor LabelWidget::litGround() const {
 }
 
 void LabelWidget::paintGlow(QPainter& painter) const {
-  const int width = int(std::lround(kEdgeWidth * markScale(*this)));
   painter.fillRect(rect(), litGround());
   painter.setOpacity(glow_);
-  const QRect inside = rect().adjusted(width, width, -width, -width);
-  for (const QRect& edge : QRegion(rect()).subtracted(inside)) painter.fillRect(edge, kEdge);
+  paintBorder(painter, rect(), markPixels(*this, kEdgeWidth), kEdge);
   painter.setOpacity(1);
 }
 
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   if (ground_) painter.fillRect(rect(), *ground_);
-  if (border_ && width() > 1) {
-    painter.setPen(Qt::black);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  }
+  if (border_ && width() > 1) paintBorder(painter, rect(), markPixels(*this, kBorder), Qt::black);
   if (glow_ > 0) paintGlow(painter);
   QFont letters = font();
   letters.setPixelSize(sharedSize(letters.pixelSize()));

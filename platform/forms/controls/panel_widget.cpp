@@ -3,6 +3,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "platform/forms/focus_ring.h"
+
 namespace platform {
 
 PanelWidget::PanelWidget(QWidget* parent, bool border) : QWidget(parent), border_(border) {
@@ -28,9 +30,7 @@ void PanelWidget::paintEvent(QPaintEvent* event) {
     painter.drawImage(QRectF(where_), picture_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
   }
-  if (!border_) return;
-  painter.setPen(QColor(110, 110, 110));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  if (border_) paintBorder(painter, rect(), markPixels(*this, 1), QColor(110, 110, 110));
 }
 
 }  // namespace platform

@@ -3,14 +3,22 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
+#include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
 #include "platform/forms/text_pages.h"
 
 namespace platform {
 
+namespace {
+
+constexpr QColor kEdge(110, 110, 110);
+
+}  // namespace
+
 QWidget* RichTextBox::create(QWidget* parent) {
   auto* box = new QPlainTextEdit(parent);
+  box->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
   box->setReadOnly(true);
   box->setUndoRedoEnabled(false);
   box->setTabChangesFocus(true);
@@ -24,11 +32,13 @@ QWidget* RichTextBox::create(QWidget* parent) {
 void RichTextBox::applyLook() {
   auto* box = static_cast<QPlainTextEdit*>(widget());
   box->setFont(fontOf(fontSpec(), fontPixels()));
+  box->setLineWidth(markPixels(*box, 1));
   box->setToolTip(toolTip());
   box->setAccessibleName(toolTip());
   QPalette palette = box->palette();
   palette.setColor(QPalette::Base, toColor(backColor()));
   palette.setColor(QPalette::Text, toColor(foreColor()));
+  palette.setColor(QPalette::WindowText, kEdge);
   box->setPalette(palette);
 }
 

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "platform/forms/focus_ring.h"
+
 namespace platform {
 
 namespace {
@@ -19,6 +21,10 @@ constexpr QColor kFace(238, 240, 244);
 constexpr QColor kGroove(250, 250, 250);
 constexpr QColor kThumb(74, 151, 245);
 constexpr QColor kInk(24, 33, 59);
+
+QRectF inside(const QRectF& area, double inset) {
+  return area.adjusted(inset, inset, -inset, -inset);
+}
 
 }  // namespace
 
@@ -114,10 +120,15 @@ void ScrollBarWidget::letGo() {
   grip_ = kNoGrip;
 }
 
+double ScrollBarWidget::corner() const {
+  return kCorner * markScale(*this);
+}
+
 void ScrollBarWidget::paintArrow(QPainter& painter, const QRect& place, bool towardsMore) const {
-  painter.setPen(QPen(kEdge, 1));
+  const double edge = markPixels(*this, 1);
+  painter.setPen(QPen(kEdge, edge));
   painter.setBrush(kFace);
-  painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+  painter.drawRoundedRect(inside(place, edge / 2), corner(), corner());
   const QPointF centre = QRectF(place).center();
   const double half = std::min(place.width(), place.height()) * 0.24;
   const double tip = towardsMore ? half : -half;
@@ -129,10 +140,10 @@ void ScrollBarWidget::paintArrow(QPainter& painter, const QRect& place, bool tow
 }
 
 void ScrollBarWidget::paintThumb(QPainter& painter) const {
-  const QRectF place = QRectF(thumb()).adjusted(1.5, 1.5, -1.5, -1.5);
-  painter.setPen(QPen(kInk, 2));
+  const QRectF place = inside(thumb(), 1.5 * markScale(*this));
+  painter.setPen(QPen(kInk, markPixels(*this, 2)));
   painter.setBrush(kThumb);
-  painter.drawRoundedRect(place, kCorner, kCorner);
+  painter.drawRoundedRect(place, corner(), corner());
   for (const int line : {-1, 0, 1}) {
     const double x = place.center().x() + line * place.width() * 0.14;
     painter.drawLine(QPointF(x, place.top() + place.height() * 0.3),
@@ -143,19 +154,14 @@ void ScrollBarWidget::paintThumb(QPainter& painter) const {
 void ScrollBarWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(kEdge, 1));
+  const double edge = markPixels(*this, 1);
+  painter.setPen(QPen(kEdge, edge));
   painter.setBrush(kGroove);
-  painter.drawRect(QRectF(way()).adjusted(0.5, 0.5, -0.5, -0.5));
+  painter.drawRect(inside(way(), edge / 2));
   paintArrow(painter, lessArrow(), false);
   paintArrow(painter, moreArrow(), true);
   paintThumb(painter);
-  if (!hasFocus()) return;
-  // A light ring inside a dark one stands out on any ground.
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(QColor(10, 20, 90), 3));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), kCorner, kCorner);
-  painter.setPen(QPen(Qt::white, 2));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(4, 4, -4, -4), kCorner - 2, kCorner - 2);
+  if (hasFocus()) paintFocusRing(painter, *this, corner());
 }
 
 }  // namespace platform

@@ -36,6 +36,7 @@ class ScrollBarWidget final : public QSlider {
   [[nodiscard]] QRect thumb() const;
   // The value whose thumb begins at x.
   [[nodiscard]] int valueAt(int x) const;
+  [[nodiscard]] double corner() const;
   void paintArrow(QPainter& painter, const QRect& place, bool towardsMore) const;
   void paintThumb(QPainter& painter) const;
   void letGo();

@@ -151,8 +151,7 @@ void TextBoxWidget::paintEdge() {
   if (hasFocus()) {
     paintFocusRing(painter, *this, 0);
   } else if (border_ && !closed_) {
-    painter.setPen(kEdge);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    paintBorder(painter, rect(), markPixels(*this, 1), kEdge);
   }
   if (!closed_) return;
   const double inset = (hasFocus() ? kEdgeInset : 1) * scale;

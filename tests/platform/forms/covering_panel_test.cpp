@@ -1,10 +1,16 @@
 #include <QApplication>
 #include <QPlainTextEdit>
 
+#include <set>
+#include <utility>
+
+#include "painted.h"
+#include "platform/forms/menu_bar.h"
 #include "stage.h"
 #include "support/iscrizione.h"
 
 using trial::kOne;
+using trial::Painted;
 using trial::Stage;
 using trial::TrialForm;
 
@@ -22,6 +28,10 @@ struct Below {
   TrialForm& form;
   int clicks = 0;
 };
+
+int menuHeight(const TrialForm& form) {
+  return form.page()->menuBar()->height();
+}
 
 }  // namespace
 
@@ -52,6 +62,51 @@ class CoveringPanelTest : public QObject {
     QCOMPARE(below.form.Panel.widget()->geometry(), canvas->rect());
     stage.resize({3001, 2003});
     QCOMPARE(below.form.Panel.widget()->geometry(), canvas->rect());
+  }
+
+  void theStripsBesideItTakeItsColourAndGiveItBack_data() {
+    QTest::addColumn<QSize>("window");
+    QTest::newRow("as high as wide") << QSize(900, 900);
+    QTest::newRow("5:4") << QSize(1280, 1024);
+    QTest::newRow("an odd size") << QSize(701, 811);
+    QTest::newRow("16:9") << QSize(1366, 768);
+  }
+  void theStripsBesideItTakeItsColourAndGiveItBack() {
+    QFETCH(QSize, window);
+    for (const bool gradient : {false, true}) {
+      Stage stage(window);
+      Below below(stage);
+      if (gradient) below.form.paintGradient();
+      below.form.Panel.setBackColor({0, 120, 40});
+      const auto colours = [&below] {
+        const platform::Page& page = *below.form.page();
+        const QImage seen = below.form.page()->grab().toImage();
+        std::set<QRgb> found;
+        for (int y = page.canvas()->parentWidget()->height() - 1; y >= 0; --y) {
+          if (y < menuHeight(below.form)) break;
+          found.insert(seen.pixel(0, y));
+          found.insert(seen.pixel(seen.width() - 1, y));
+        }
+        return found;
+      };
+      const std::set<QRgb> before = colours();
+      below.form.Panel.cover();
+      QCOMPARE(colours(), std::set<QRgb>{qRgb(0, 120, 40)});
+      below.form.Panel.setVisible(false);
+      QCOMPARE(colours(), before);
+    }
+  }
+
+  void theStripsAreOnTheScreenAtOnce() {
+    Stage stage({900, 900});
+    Below below(stage);
+    Painted painted(*below.form.page());
+    below.form.Panel.cover();
+    QCoreApplication::processEvents();
+    QVERIFY(std::exchange(painted.times, 0) > 0);
+    below.form.Panel.setVisible(false);
+    QCoreApplication::processEvents();
+    QVERIFY(painted.times > 0);
   }
 
   void theMouseReachesNothingThatIsCovered() {

@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+#include <array>
 #include <functional>
 
 #include "platform/base/paper_codes.h"
@@ -100,6 +102,32 @@ class QtPageSetupTest : public QObject {
       open.tap(Qt::Key_Return);
     }));
     QCOMPARE(settings, before);
+  }
+
+  void lettersRowsAndButtonsGrowWithTheWindowBelow() {
+    QWidget window;
+    // It stands over a dialog of that window, however small.
+    QDialog over(&window);
+    over.resize(300, 200);
+    QtPageSetup setup([] { return PageSetupWords{.ok = QStringLiteral("Fine")}; },
+                      [](const Paper& paper) { return paper.media; }, [&over] { return &over; });
+    const auto sizes = [&](int height) {
+      window.resize(800, height);
+      std::array<int, 4> found{};
+      QTimer::singleShot(0, this, [&found] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        found = {dialog->font().pixelSize(), dialog->findChild<QComboBox*>()->height(),
+                 dialog->findChild<QRadioButton*>()->height(),
+                 dialog->findChild<QPushButton*>()->height()};
+        dialog->reject();
+      });
+      PrinterSettings settings = onA4();
+      (void)setup.choose(QStringLiteral("Printer"), printer(), settings);
+      return found;
+    };
+    const std::array<int, 4> small = sizes(600);
+    const std::array<int, 4> large = sizes(2160);
+    for (size_t i = 0; i < small.size(); ++i) QVERIFY(large.at(i) > 2.4 * small.at(i));
   }
 
   void whatIsChosenIsTaken() {
