@@ -1,7 +1,9 @@
 #include "platform/forms/drawing.h"
 
 #include <QDataStream>
+#include <QImage>
 #include <QPainter>
+#include <QTransform>
 
 namespace platform {
 
@@ -14,14 +16,42 @@ void settle(QDataStream& stream) {
 }
 
 // A picture is played by calls that do not change it, but are not marked so.
-void play(QPainter& painter, const QPicture& picture, const QRectF& from, const QRectF& to) {
-  if (from.isEmpty() || to.isEmpty()) return;
+void playSolid(QPainter& painter, const QPicture& picture, const QRectF& from, const QRectF& to) {
   painter.save();
   painter.translate(to.topLeft());
   painter.scale(to.width() / from.width(), to.height() / from.height());
   painter.translate(-from.topLeft());
   QPicture(picture).play(&painter);
   painter.restore();
+}
+
+// What was recorded sets opacities of its own, in the place of the painter's: a drawing that fades
+// is made solid first, in the device's own pixels, and fades as one.
+void playFaded(QPainter& painter, const QPicture& picture, const QRectF& from, const QRectF& to) {
+  constexpr int kBeyond = 2;  // pixels: lines reach over their box
+  const QTransform onDevice = painter.deviceTransform();
+  const QRect covered =
+      onDevice.mapRect(to).toAlignedRect().adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
+  QImage solid(covered.size(), QImage::Format_ARGB32_Premultiplied);
+  if (solid.isNull()) return;
+  solid.fill(Qt::transparent);
+  {
+    QPainter layer(&solid);
+    layer.setRenderHints(painter.renderHints());
+    layer.translate(-covered.topLeft());
+    layer.setTransform(onDevice, true);
+    playSolid(layer, picture, from, to);
+  }
+  painter.save();
+  painter.resetTransform();
+  painter.drawImage(painter.deviceTransform().inverted().mapRect(QRectF(covered)), solid);
+  painter.restore();
+}
+
+void play(QPainter& painter, const QPicture& picture, const QRectF& from, const QRectF& to) {
+  if (from.isEmpty() || to.isEmpty()) return;
+  const auto how = painter.opacity() < 1 ? playFaded : playSolid;
+  how(painter, picture, from, to);
 }
 
 }  // namespace

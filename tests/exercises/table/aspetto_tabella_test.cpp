@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QImage>
+#include <algorithm>
 #include <cmath>
 
 #include "app/shared/nomi_forme.h"
@@ -70,6 +71,11 @@ class AspettoTabellaTest : public QObject {
     const int mezza = intera.width() / 2;
     return intera.copy(mezza, 3, mezza - 3, intera.height() / 2 - 3);
   }
+  // Edges and corners grow with the window: so many pixels where it is not large.
+  static int cresciuti(QSize lato, int pixel) {
+    constexpr double kUsuale = 768;
+    return int(std::ceil(pixel * std::max(1.0, lato.height() / kUsuale)));
+  }
   // The pixels of the focus ring, from a side of a cell inwards.
   static int anello(const QImage& cella, QPoint da, QPoint passo) {
     int spesso = 0;
@@ -95,15 +101,15 @@ class AspettoTabellaTest : public QObject {
     FormTabella& forma = apri(banco, 46);
     banco.clicca(forma.Numero[47]);
     QVERIFY(!forma.Numero[0].isEnabled());
-    constexpr int kOrlo = 3;  // pixels from the side of a cell to its face
+    const int orlo = cresciuti(lato, 3);  // pixels from the side of a cell to its face
     const QImage immagine = dipinta(banco);
     for (int i = 0; i < kCelle; ++i) {
-      const QRect dove = posto(banco, forma, i).adjusted(kOrlo, kOrlo, -kOrlo, -kOrlo);
+      const QRect dove = posto(banco, forma, i).adjusted(orlo, orlo, -orlo, -orlo);
       const QPoint mezzo = dove.center();
       const QColor faccia = i == 47 ? kVerde : kAperta;
       QVERIFY(Simili(immagine.pixelColor(dove.left(), mezzo.y()), faccia));
       QVERIFY(Simili(immagine.pixelColor(mezzo.x(), dove.top()), faccia));
-      QVERIFY(Simili(immagine.pixelColor(mezzo.x(), dove.bottom() - kOrlo), faccia));
+      QVERIFY(Simili(immagine.pixelColor(mezzo.x(), dove.bottom() - orlo), faccia));
     }
   }
 
@@ -114,14 +120,14 @@ class AspettoTabellaTest : public QObject {
     FormTabella& forma = apri(banco, 46);
     const auto gialli = [&] {
       // The table's own corners are round.
-      constexpr int kTonda = 8;
+      const int tonda = cresciuti(lato, 8);
       const QRect tutta = tabella(banco, forma);
       const QImage immagine = dipinta(banco);
       int quanti = 0;
       for (int y = tutta.top(); y <= tutta.bottom(); ++y) {
         for (int x = tutta.left(); x <= tutta.right(); ++x) {
-          const bool aiLati = x < tutta.left() + kTonda || x > tutta.right() - kTonda;
-          const bool inCima = y < tutta.top() + kTonda || y > tutta.bottom() - kTonda;
+          const bool aiLati = x < tutta.left() + tonda || x > tutta.right() - tonda;
+          const bool inCima = y < tutta.top() + tonda || y > tutta.bottom() - tonda;
           const QColor colore = immagine.pixelColor(x, y);
           quanti += int(!(aiLati && inCima) && colore.red() > 160 && colore.green() > 160 &&
                         colore.blue() < colore.green() - 40);

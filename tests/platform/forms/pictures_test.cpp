@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cstdlib>
 
 #include "support/iscrizione.h"
 #include "tools/immagini/registratore.h"
@@ -54,6 +55,10 @@ class PicturesTest : public QObject {
          "<svg xmlns='http://www.w3.org/2000/svg' viewBox='10 0 40 20'>"
          "<g fill='#ff0000'><rect id='parte1' x='12' y='2' width='10' height='16'/></g>"
          "<g fill='#0000ff'><rect id='parte2' x='30' y='4' width='8' height='8'/></g></svg>");
+    draw("glass.drawing",
+         "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 40 20'>"
+         "<rect x='2' y='2' width='10' height='16' fill='#ff0000' opacity='0.5'/>"
+         "<rect x='20' y='2' width='10' height='16' fill='#0000ff'/></svg>");
     QVERIFY(!somme::Registra("<svg xmlns='http://www.w3.org/2000/svg'><rect"));
     QFile whole(folder_.filePath(QStringLiteral("red.drawing")));
     QVERIFY(whole.open(QIODevice::ReadOnly));
@@ -88,6 +93,39 @@ class PicturesTest : public QObject {
     QVERIFY(isBlank(painted(pictures, name, {40, 40}, QRectF(0, 0, 40, 40))));
     QVERIFY(pictures.pixmap(QLatin1String(name), {32, 32}, 1).size() == QSize(32, 32));
     QCOMPARE(pictures.hotSpot(QLatin1String(name), {32, 32}), QPoint());
+  }
+
+  void aDrawingWithGlassInItFadesAsAWhole_data() {
+    QTest::addColumn<double>("ratio");
+    QTest::newRow("screen") << 1.0;
+    QTest::newRow("fine screen") << 2.0;
+  }
+  void aDrawingWithGlassInItFadesAsAWhole() {
+    QFETCH(double, ratio);
+    Pictures pictures(folder_.path());
+    const auto withOpacity = [&](double opacity) {
+      QImage image(QSize(100, 60) * ratio, QImage::Format_RGB32);
+      image.setDevicePixelRatio(ratio);
+      image.fill(Qt::white);
+      QPainter painter(&image);
+      painter.translate(10, 5);
+      painter.setOpacity(opacity);
+      pictures.paint(painter, QStringLiteral("glass"), QRectF(0, 0, 80, 40));
+      painter.fillRect(QRectF(0, 45, 80, 5), Qt::black);  // what comes after fades likewise
+      return image;
+    };
+    const QImage solid = withOpacity(1);
+    const QImage faded = withOpacity(0.5);
+    QVERIFY(solid != faded);
+    for (int y = 0; y < solid.height(); ++y) {
+      for (int x = 0; x < solid.width(); ++x) {
+        const QColor from = solid.pixelColor(x, y);
+        const QColor to = faded.pixelColor(x, y);
+        QVERIFY(std::abs((255 + from.red()) / 2 - to.red()) <= 2);
+        QVERIFY(std::abs((255 + from.green()) / 2 - to.green()) <= 2);
+        QVERIFY(std::abs((255 + from.blue()) / 2 - to.blue()) <= 2);
+      }
+    }
   }
 
   void partsAreDrawnWhereTheyStandInTheWhole() {
