@@ -1,5 +1,6 @@
 #include "platform/forms/window_system.h"
 
+#include <QByteArray>
 #include <QtGlobal>
 
 namespace platform {
