@@ -25,6 +25,7 @@ class FineSessioneTest : public QObject {
  private Q_SLOTS:
   void theDialogDoesNotRefuseIt() {
     DialogoDiProva prova;
+    const auto viva = prova.forma.shared_from_this();  // asked about after its end
     const platform::SessionEnd fine(prova.banco.ambiente->fondo);
     std::optional<int> stato;
     prova.apri(prova.richiesta(), [&](const frmAvviaStampa&) {
@@ -40,6 +41,7 @@ class FineSessioneTest : public QObject {
 
   void anOpenListOfItDoesNotRefuseItEither() {
     DialogoDiProva prova;
+    const auto viva = prova.forma.shared_from_this();
     const platform::SessionEnd fine(prova.banco.ambiente->fondo);
     std::optional<int> stato;
     bool aperta = false;
