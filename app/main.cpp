@@ -40,6 +40,15 @@ QString CartellaUtente() {
          QStringLiteral("/somme");
 }
 
+// Fonts, colours and pictures.
+void PreparaAspetto() {
+  // A program that is carried about brings its own fonts.
+  platform::addFontsIn(QCoreApplication::applicationDirPath() + QStringLiteral("/caratteri"));
+  platform::applyAppearance(
+      {QStringLiteral(":/immagini"), QStringLiteral("informazione"), QStringLiteral("attenzione")});
+  somme::PreparaImmagini();
+}
+
 }  // namespace
 
 // Only wiring: the real services, the ground, the entry routine.
@@ -50,11 +59,7 @@ int main(int /*argc*/, char* argv[]) {
   platform::silenceLostReaders();
   std::optional<QApplication> programma;
   platform::onBestWindowSystem([&] { programma.emplace(quanti, soloIlNome.data()); });
-  // A program that is carried about brings its own.
-  platform::addFontsIn(QCoreApplication::applicationDirPath() + QStringLiteral("/caratteri"));
-  platform::applyAppearance(
-      {QStringLiteral(":/immagini"), QStringLiteral("informazione"), QStringLiteral("attenzione")});
-  somme::PreparaImmagini();
+  PreparaAspetto();
 
   platform::QtTimeSource tempo;
   platform::SeededChance sorte(0);
