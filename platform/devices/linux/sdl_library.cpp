@@ -1,36 +1,25 @@
 #include "platform/devices/linux/sdl_library.h"
 
-#include <dlfcn.h>
+#include "platform/devices/linux/shared_library.h"
 
 namespace platform {
 
-namespace {
-
-template <typename Function>
-bool find(void* library, const char* name, Function& function) {
-  function = reinterpret_cast<Function>(::dlsym(library, name));
-  return function != nullptr;
-}
-
-}  // namespace
-
 std::optional<SdlLibrary> SdlLibrary::load(const char* file) {
-  void* library = ::dlopen(file, RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+  const SharedLibrary library(file);
   SdlLibrary sdl;
-  const bool complete = library != nullptr && find(library, "SDL_SetHint", sdl.setHint) &&
-                        find(library, "SDL_GetError", sdl.getError) &&
-                        find(library, "SDL_TLSCleanup", sdl.tlsCleanup) &&
-                        find(library, "SDL_AudioInit", sdl.audioInit) &&
-                        find(library, "SDL_AudioQuit", sdl.audioQuit) &&
-                        find(library, "SDL_RWFromFile", sdl.rwFromFile) &&
-                        find(library, "SDL_LoadWAV_RW", sdl.loadWav) &&
-                        find(library, "SDL_FreeWAV", sdl.freeWav) &&
-                        find(library, "SDL_OpenAudioDevice", sdl.openAudioDevice) &&
-                        find(library, "SDL_CloseAudioDevice", sdl.closeAudioDevice) &&
-                        find(library, "SDL_PauseAudioDevice", sdl.pauseAudioDevice) &&
-                        find(library, "SDL_QueueAudio", sdl.queueAudio) &&
-                        find(library, "SDL_ClearQueuedAudio", sdl.clearQueuedAudio) &&
-                        find(library, "SDL_GetQueuedAudioSize", sdl.getQueuedAudioSize);
+  const bool complete =
+      library.find("SDL_SetHint", sdl.setHint) && library.find("SDL_GetError", sdl.getError) &&
+      library.find("SDL_TLSCleanup", sdl.tlsCleanup) &&
+      library.find("SDL_AudioInit", sdl.audioInit) &&
+      library.find("SDL_AudioQuit", sdl.audioQuit) &&
+      library.find("SDL_RWFromFile", sdl.rwFromFile) &&
+      library.find("SDL_LoadWAV_RW", sdl.loadWav) && library.find("SDL_FreeWAV", sdl.freeWav) &&
+      library.find("SDL_OpenAudioDevice", sdl.openAudioDevice) &&
+      library.find("SDL_CloseAudioDevice", sdl.closeAudioDevice) &&
+      library.find("SDL_PauseAudioDevice", sdl.pauseAudioDevice) &&
+      library.find("SDL_QueueAudio", sdl.queueAudio) &&
+      library.find("SDL_ClearQueuedAudio", sdl.clearQueuedAudio) &&
+      library.find("SDL_GetQueuedAudioSize", sdl.getQueuedAudioSize);
   if (!complete) {
     return std::nullopt;
   }
