@@ -6,7 +6,7 @@
 #include "platform/forms/design.h"
 
 // What the designs of the menus have in common.
-namespace somme::disegno {
+namespace somme::inline programma::disegno {
 
 using platform::Align;
 using platform::Face;
@@ -119,4 +119,4 @@ constexpr bool ConImmaginiProprie(std::span<const Row> pulsanti) {
   });
 }
 
-}  // namespace somme::disegno
+}  // namespace somme::inline programma::disegno

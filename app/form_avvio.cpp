@@ -4,7 +4,7 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 using namespace disegno;
 
@@ -51,4 +51,4 @@ void FormAvvio::onActivate() {
   paintGradient();
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -5,7 +5,7 @@
 #include "platform/forms/controls/image.h"
 #include "platform/forms/controls/label.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // The splash form. Every other form takes its icon from it, for which it may be loaded again
 // without being shown.
@@ -24,4 +24,4 @@ class FormAvvio final : public Forma {
   void onActivate() override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -4,7 +4,7 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 using namespace disegno;
 
@@ -54,4 +54,4 @@ void FormInfo::onActivate() {
   Label4.setCaption({});
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -5,7 +5,7 @@
 #include "platform/forms/controls/image.h"
 #include "platform/forms/controls/label.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // The credits.
 class FormInfo final : public Forma {
@@ -24,4 +24,4 @@ class FormInfo final : public Forma {
   void onActivate() override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -8,7 +8,7 @@
 #include "app/shared/nomi_forme.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 using namespace disegno;
 using platform::StoredProperty;
@@ -237,4 +237,4 @@ void FormMenu::ScegliLingua(int indice) {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

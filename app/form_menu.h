@@ -10,7 +10,7 @@
 #include "platform/forms/controls/picture_box.h"
 #include "platform/forms/controls/scroll_bar.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // The hub of the program: the ways to the five families, and the settings in its menus. It keeps
 // nothing of its own; what it shows comes from the shared state at each load.
@@ -67,4 +67,4 @@ class FormMenu final : public Forma {
   void ScegliLingua(int indice);
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

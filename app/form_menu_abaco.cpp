@@ -4,7 +4,7 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 using namespace disegno;
 
@@ -60,4 +60,4 @@ void FormMenuAbaco::onActivate() {
   stato().TitoloEsercizio = TestoLingua(ambiente(), QStringLiteral("0039"));
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

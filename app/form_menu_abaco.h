@@ -2,7 +2,7 @@
 
 #include "app/forma_menu.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // The levels of the abacus. Element 0 of `Command1` is the way back.
 class FormMenuAbaco final : public FormaMenu {
@@ -19,4 +19,4 @@ class FormMenuAbaco final : public FormaMenu {
   void onActivate() override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

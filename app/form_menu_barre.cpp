@@ -3,7 +3,7 @@
 #include "app/disegno_menu.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 using namespace disegno;
 
@@ -42,4 +42,4 @@ void FormMenuBarre::onLoad() {
   fino(Command4, Famiglia::Barre20);
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

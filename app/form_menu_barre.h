@@ -2,7 +2,7 @@
 
 #include "app/forma_menu.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // The two ranges of the bars exercises. `Command1` is the way back.
 class FormMenuBarre final : public FormaMenu {
@@ -17,4 +17,4 @@ class FormMenuBarre final : public FormaMenu {
   void onLoad() override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

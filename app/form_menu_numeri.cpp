@@ -4,7 +4,7 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 using namespace disegno;
 
@@ -76,4 +76,4 @@ void FormMenuNumeri::onActivate() {
   stato().TitoloEsercizio = TestoLingua(ambiente(), QStringLiteral("0031"));
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -2,7 +2,7 @@
 
 #include "app/forma_menu.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // The levels of the number exercises: the sum to find (`Command1`) and the addend to find
 // (`Command2`). Element 0 of `Command1` is the way back; element 0 of `Command2` stays hidden.
@@ -23,4 +23,4 @@ class FormMenuNumeri final : public FormaMenu {
   void onActivate() override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -5,7 +5,7 @@
 #include "app/menu_di_livelli.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 using namespace disegno;
 
@@ -86,4 +86,4 @@ void FormMenuPLU::onLoad() {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -3,7 +3,7 @@
 #include "app/forma_menu.h"
 #include "platform/forms/control_array.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // The levels of the blocks: with tens and units, and with hundreds. No title is built here: these
 // exercises compose their headings themselves. `Command1` is the way back; the button of a level
@@ -26,4 +26,4 @@ class FormMenuPLU final : public FormaMenu {
   platform::ControlArray<platform::Button> livelli_{*this};
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

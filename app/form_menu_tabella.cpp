@@ -6,7 +6,7 @@
 #include "app/shared/nomi_forme.h"
 #include "games/generi_tabella.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 using namespace disegno;
 
@@ -58,4 +58,4 @@ void FormMenuTabella::onLoad() {
   });
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

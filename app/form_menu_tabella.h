@@ -2,7 +2,7 @@
 
 #include "app/forma_menu.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // The kinds of case on the addition table that are offered: the indices of `Command2` are the
 // values of `TipoEsercizio`, with gaps. `Command1` is the way back.
@@ -17,4 +17,4 @@ class FormMenuTabella final : public FormaMenu {
   void onLoad() override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

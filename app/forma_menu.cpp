@@ -4,7 +4,7 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 FormaMenu::FormaMenu(Ambiente& ambiente, const platform::FormDesign& disegno)
     : Forma(ambiente, disegno) {}
@@ -54,4 +54,4 @@ void FormaMenu::TornaAlMenu() {
   VaiA(forme::kFormMenu);
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -8,7 +8,7 @@
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/controls/label.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // What the five family menus share: a heading, the gradient, counters that start again, the way
 // back to the main menu, and buttons that each open the exercise of a level. Which levels there
@@ -40,4 +40,4 @@ class FormaMenu : public Forma {
   platform::ButtonGroup livelli_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -6,7 +6,7 @@
 #include "cases/livelli.h"
 
 // Menus that are laid out from the rows of levels.
-namespace somme::disegno {
+namespace somme::inline programma::disegno {
 
 // A band of a menu: the group that it heads, and the columns below it.
 struct FasciaMenu {
@@ -111,4 +111,4 @@ constexpr auto DisponiLivelli() {
   return righe;
 }
 
-}  // namespace somme::disegno
+}  // namespace somme::inline programma::disegno

@@ -7,7 +7,7 @@
 #include "app/shared/modulo_ini.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 void Avvia(Ambiente& ambiente) {
   if (!ambiente.servizi.istanza.take()) {
@@ -27,4 +27,4 @@ void Avvia(Ambiente& ambiente) {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

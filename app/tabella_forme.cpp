@@ -31,7 +31,7 @@
 #include "printing/foglio_calibrazione.h"
 #include "printing/frm_avvia_stampa.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 namespace {
 
@@ -172,4 +172,4 @@ std::vector<std::string_view> NomiDelleForme() {
   return nomi;
 }
 
-}  // namespace somme
+}  // namespace somme::inline programma

@@ -5,7 +5,7 @@
 
 #include "app/shared/scheda_forma.h"
 
-namespace somme {
+namespace somme::inline programma {
 
 // Every form that the program has, and all that it is: the one place in which that stands.
 [[nodiscard]] TabellaForme LeForme();
@@ -13,4 +13,4 @@ namespace somme {
 // The names of all forms, in the order of the table.
 [[nodiscard]] std::vector<std::string_view> NomiDelleForme();
 
-}  // namespace somme
+}  // namespace somme::inline programma

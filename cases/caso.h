@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-namespace somme {
+namespace somme::inline casi {
 
 // One addition. Whenever a generator has returned, Totale is Addendo1 plus Addendo2.
 struct Caso {
@@ -13,4 +13,4 @@ struct Caso {
   friend bool operator==(const Caso&, const Caso&) = default;
 };
 
-}  // namespace somme
+}  // namespace somme::inline casi

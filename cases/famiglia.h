@@ -1,6 +1,6 @@
 #pragma once
 
-namespace somme {
+namespace somme::inline casi {
 
 // What the menus lead to: a family of exercises in one range.
 enum class Famiglia {
@@ -15,4 +15,4 @@ enum class Famiglia {
   Tabella,
 };
 
-}  // namespace somme
+}  // namespace somme::inline casi

@@ -2,7 +2,7 @@
 
 #include "cases/livelli_coerenti.h"
 
-namespace somme::coerenti {
+namespace somme::inline casi::coerenti {
 
 // Rows that contradict one another do not compile.
 static_assert(InOrdine(kLivelli), "a level stands among those of another group");
@@ -14,4 +14,4 @@ static_assert(AddendiConTitolo(kLivelli), "an addend has a number that no sum ha
 static_assert(AbaciConFrecce(kLivelli), "a level of the abacus has an arrow that its group lacks");
 static_assert(BlocchiCompleti(kLivelli), "a level of the blocks lacks board, button or record");
 
-}  // namespace somme::coerenti
+}  // namespace somme::inline casi::coerenti

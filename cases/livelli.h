@@ -8,7 +8,7 @@
 #include "cases/famiglia.h"
 #include "cases/modulo_somme.h"
 
-namespace somme {
+namespace somme::inline casi {
 
 // The groups in which the menus show the levels, by their greatest sum.
 enum class Gruppo { Entro10, Entro20, Entro99, Entro999, Entro9999 };
@@ -263,4 +263,4 @@ inline constexpr auto kLivelli = std::to_array<Livello>({
                                [famiglia](const Livello& l) { return TipoIn(l, famiglia) != 0; });
 }
 
-}  // namespace somme
+}  // namespace somme::inline casi

@@ -4,7 +4,7 @@
 
 // What must hold between the rows of levels. livelli.cpp holds the table to it as it is compiled;
 // the tests try each rule on rows that break it.
-namespace somme::coerenti {
+namespace somme::inline casi::coerenti {
 
 inline constexpr auto kFamiglie =
     std::to_array<Famiglia>({Famiglia::NumeriTotale, Famiglia::NumeriAddendo, Famiglia::Abaco,
@@ -94,4 +94,4 @@ constexpr bool BlocchiCompleti(Livelli livelli) {
   });
 }
 
-}  // namespace somme::coerenti
+}  // namespace somme::inline casi::coerenti

@@ -6,7 +6,7 @@
 #include "cases/casuale.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline casi {
 
 using platform::Chance;
 
@@ -302,4 +302,4 @@ void GeneraEntro9999SoloMigliaia(Caso& caso, Chance& chance) {
   AggiungiInUnPosto(caso, chance, {.quanti = 8999, .posto = 1000, .limite = 9999});
 }
 
-}  // namespace somme
+}  // namespace somme::inline casi

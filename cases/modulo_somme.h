@@ -3,7 +3,7 @@
 #include "cases/caso.h"
 #include "platform/base/chance.h"
 
-namespace somme {
+namespace somme::inline casi {
 
 // The kinds of addition that the exercises on numbers, blocks and abacus ask for. Each routine
 // draws one case from the source of chance and writes all three of its values; none keeps a memory
@@ -48,4 +48,4 @@ void GeneraEntro9999SoloDecine(Caso& caso, platform::Chance& chance);
 void GeneraEntro9999SoloCentinaia(Caso& caso, platform::Chance& chance);
 void GeneraEntro9999SoloMigliaia(Caso& caso, platform::Chance& chance);
 
-}  // namespace somme
+}  // namespace somme::inline casi

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace somme {
+namespace somme::inline giochi {
 
 void BlocchiUniti::Ricomincia() {
   fino_ = {};
@@ -48,4 +48,4 @@ Quantita BlocchiUniti::Quanti() const {
   return quanti;
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

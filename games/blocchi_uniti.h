@@ -4,7 +4,7 @@
 
 #include "games/regole_blocchi.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // What stands on the board on which the addends are joined, and the carries on it. Blocks of a kind
 // are numbered from 1 in the order in which they stand: those from `Tolti` + 1 to `FinoA` are seen.
@@ -55,4 +55,4 @@ class BlocchiUniti {
   std::optional<Corso> corso_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline giochi

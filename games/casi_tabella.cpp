@@ -6,7 +6,7 @@
 #include "cases/casuale.h"
 #include "games/generi_tabella.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 namespace {
 
@@ -61,4 +61,4 @@ std::optional<CasoTabella> EstraiCasoTabella(platform::Chance& sorte, int tipo) 
   return std::nullopt;
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -5,7 +5,7 @@
 
 #include "platform/base/chance.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // A sum or difference on the table of the numbers from 0 to 99.
 struct CasoTabella {
@@ -20,4 +20,4 @@ struct CasoTabella {
 // Draws a case of a kind from 0 to 12; nothing for any other.
 [[nodiscard]] std::optional<CasoTabella> EstraiCasoTabella(platform::Chance& sorte, int tipo);
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace somme {
+namespace somme::inline giochi {
 
 // What came of an answer. The forms show, count, sound and record it.
 enum class Esito : std::uint8_t {
@@ -12,4 +12,4 @@ enum class Esito : std::uint8_t {
   Risolto,      // the case is solved
 };
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-namespace somme {
+namespace somme::inline giochi {
 
 // How b is drawn, besides a plain `Casuale(limite)` times a step.
 inline constexpr int kFisso = 0;     // b is the step
@@ -52,4 +52,4 @@ inline constexpr auto kGeneriTabella = std::to_array<GenereTabella>({
     {11, {.limiteA = 99, .limiteB = kFinoAdA, .meno = true}},
 });
 
-}  // namespace somme
+}  // namespace somme::inline giochi

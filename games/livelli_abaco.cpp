@@ -1,6 +1,6 @@
 #include "games/livelli_abaco.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 std::optional<bool> HaPalline(int tipo, Posto posto) {
   if (posto == Posto::Unita || posto == Posto::Decine) return true;
@@ -23,4 +23,4 @@ std::optional<PerFreccia> FrecceDelLivello(int tipo) {
   return PerFreccia{UDa, DaH, HK};
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -6,7 +6,7 @@
 #include "cases/livelli.h"
 #include "games/quantita.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // Whether beads of a place wait beside their spike at a level of the abacus. None where the level
 // does not exist and leaves thousands and hundreds as they are.
@@ -21,4 +21,4 @@ using PerFreccia = std::array<bool, 3>;
 // spike. None where the level does not exist and leaves the arrows as they are.
 [[nodiscard]] std::optional<PerFreccia> FrecceDelLivello(int tipo);
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace somme {
+namespace somme::inline giochi {
 
 PartitaAbaco::PartitaAbaco(Caso& caso, Cambi cambi) : caso_(caso), cambi_(cambi) {}
 
@@ -125,4 +125,4 @@ Esito PartitaAbaco::Conferma() {
   return Rispondi(inserite_.Valore());
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

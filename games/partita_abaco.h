@@ -10,7 +10,7 @@
 #include "games/quantita.h"
 #include "platform/base/chance.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // The game of the abacus: a sum, and four spikes with beads. A spike fills upward, and the bead
 // that its counter names, from 0, is the next free one; of each place ten beads wait beside it. A
@@ -130,4 +130,4 @@ class PartitaAbaco {
   bool cambioInCorso_ = false;
 };
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -5,7 +5,7 @@
 #include "cases/casuale.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 bool PartitaBarre::NuovoCaso(int tipo, int limite, platform::Chance& sorte) {
   switch (tipo) {
@@ -81,4 +81,4 @@ Esito PartitaBarre::Scegli(int numero) {
   return Rispondi(numero);
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -8,7 +8,7 @@
 #include "games/esito.h"
 #include "platform/base/chance.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // The kinds of exercise on the bars, by `TipoEsercizio`.
 enum TipoBarre : qint16 { kTrovaRossa = 1, kTrovaGiallaVerde = 2, kTrovaUna = 3 };
@@ -76,4 +76,4 @@ class PartitaBarre {
   std::vector<int> scelti_;  // in this case
 };
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -5,7 +5,7 @@
 #include "cases/livelli.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 PartitaBlocchi::PartitaBlocchi(Caso& caso, const RegoleBlocchi& regole)
     : caso_(caso), regole_(regole), uniti_(regole) {}
@@ -97,4 +97,4 @@ Esito PartitaBlocchi::Risolvi() {
   return Esito::Risolto;
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -10,7 +10,7 @@
 #include "games/esito.h"
 #include "platform/base/chance.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // The game of the blocks: the pupil builds each addend on a board of its own and has it judged,
 // sees the boards joined on a third, carries wherever there are ten of a kind, and only then gives
@@ -112,4 +112,4 @@ class PartitaBlocchi {
   std::size_t cambio_ = 0;  // the carry that is asked for, or that is looked at next
 };
 
-}  // namespace somme
+}  // namespace somme::inline giochi

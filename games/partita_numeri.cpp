@@ -1,6 +1,6 @@
 #include "games/partita_numeri.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 PartitaNumeri::PartitaNumeri(Caso& caso, const RegoleNumeri& regole, Zero zero)
     : caso_(caso), regole_(regole), zero_(zero) {}
@@ -20,4 +20,4 @@ Esito PartitaNumeri::Rispondi(double numero) {
   return Esito::Risolto;
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

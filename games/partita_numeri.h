@@ -8,7 +8,7 @@
 #include "games/esito.h"
 #include "platform/base/chance.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // In what the rules of the number exercises differ: which number of the sum is to be found.
 struct RegoleNumeri {
@@ -59,4 +59,4 @@ class PartitaNumeri {
   Fase fase_ = Fase::NessunCaso;
 };
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -1,6 +1,6 @@
 #include "games/partita_tabella.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 std::optional<CasoTabella> PartitaTabella::NuovoCaso(int tipo, platform::Chance& sorte) {
   celle_.fill(Cella::Aperta);
@@ -38,4 +38,4 @@ bool PartitaTabella::HaNumero(int cella) const {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

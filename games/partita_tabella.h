@@ -8,7 +8,7 @@
 #include "games/esito.h"
 #include "platform/base/chance.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // The game of the table of the numbers from 0 to 99: the pupil chooses the cell of a result. How
 // much of the grid is numbered is the difficulty. A form drives it so:
@@ -67,4 +67,4 @@ class PartitaTabella {
   Difficolta difficolta_ = Difficolta::Media;
 };
 
-}  // namespace somme
+}  // namespace somme::inline giochi

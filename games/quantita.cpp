@@ -1,6 +1,6 @@
 #include "games/quantita.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 Cifre CifreDi(int numero, Posto prima) {
   Cifre cifre;
@@ -13,4 +13,4 @@ Cifre CifreDi(int numero, Posto prima) {
   return cifre;
 }
 
-}  // namespace somme
+}  // namespace somme::inline giochi

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace somme {
+namespace somme::inline giochi {
 
 // The places of a number, from the right.
 enum class Posto : std::uint8_t { Unita, Decine, Centinaia, Migliaia };
@@ -56,4 +56,4 @@ struct Quantita {
 using Cifre = std::array<std::optional<int>, kPosti>;
 [[nodiscard]] Cifre CifreDi(int numero, Posto prima);
 
-}  // namespace somme
+}  // namespace somme::inline giochi

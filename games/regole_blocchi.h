@@ -6,7 +6,7 @@
 #include "cases/famiglia.h"
 #include "games/quantita.h"
 
-namespace somme {
+namespace somme::inline giochi {
 
 // In what the rules of the blocks up to 99 and of those up to 999 differ: longs and units, or
 // flats, too.
@@ -38,4 +38,4 @@ inline constexpr RegoleBlocchi kRegoleBlocchiEntro999{
     .sgombero = {.decine = 19, .unita = 19},
 };
 
-}  // namespace somme
+}  // namespace somme::inline giochi

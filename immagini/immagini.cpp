@@ -7,10 +7,10 @@ static void PreparaRisorsa() {
   Q_INIT_RESOURCE(immagini);
 }
 
-namespace somme {
+namespace somme::inline immagini {
 
 void PreparaImmagini() {
   PreparaRisorsa();
 }
 
-}  // namespace somme
+}  // namespace somme::inline immagini

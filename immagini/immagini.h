@@ -1,6 +1,6 @@
 #pragma once
 
-namespace somme {
+namespace somme::inline immagini {
 
 // Makes the pictures readable as ":/immagini/<name>.drawing". The pictures lie in a static library,
 // from which a program gets them only by this call. To be called before the first form is made; a
@@ -12,4 +12,4 @@ void PreparaImmagini();
 inline constexpr int PuntaX = 10;
 inline constexpr int PuntaY = 1;
 
-}  // namespace somme
+}  // namespace somme::inline immagini

@@ -5,7 +5,7 @@
 
 #include "app/shared/ambiente.h"
 
-namespace somme {
+namespace somme::inline ingresso {
 
 namespace {
 
@@ -71,4 +71,4 @@ void CollegamentoHelpiKeys::DiciPronta() {
                            platform::BoxIcon::Information, platform::BoxButtons::Ok});
 }
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

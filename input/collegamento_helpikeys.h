@@ -8,9 +8,11 @@
 #include "platform/forms/control_array.h"
 #include "platform/forms/controls/socket.h"
 
-namespace somme {
-
+namespace somme::inline condiviso {
 class Ambiente;
+}
+
+namespace somme::inline ingresso {
 
 // A form's link with HelpiKeys, the outside program that turns a touch surface into a keyboard: the
 // connection, what is asked of the other side, what it answers, and which key of the sheet a touch
@@ -56,4 +58,4 @@ class CollegamentoHelpiKeys {
   bool detta_ = false;  // while the box of an "OK" stands
 };
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

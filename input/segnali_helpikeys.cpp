@@ -2,7 +2,7 @@
 
 #include "platform/base/run_time_error.h"
 
-namespace somme {
+namespace somme::inline ingresso {
 
 namespace {
 
@@ -31,4 +31,4 @@ SegnaliHelpiKeys::Segnale SegnaliHelpiKeys::Leggi(QByteArrayView messaggio) {
           {Codice(messaggio, 0) - kPrimaDellaGriglia, Codice(messaggio, 1) - kPrimaDellaGriglia}};
 }
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

@@ -2,7 +2,7 @@
 
 #include <QByteArrayView>
 
-namespace somme {
+namespace somme::inline ingresso {
 
 // A cell of the touch surface, as a report names it.
 struct CellaToccata {
@@ -34,4 +34,4 @@ class SegnaliHelpiKeys {
   [[nodiscard]] Segnale Leggi(QByteArrayView messaggio);
 };
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace somme {
+namespace somme::inline ingresso {
 
 using platform::inner;
 
@@ -40,4 +40,4 @@ void TastieraHDUScansione::MostraPulsanti() {
   Pulsante[kCentinaia].setEnabled(HVisibile.get());
 }
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

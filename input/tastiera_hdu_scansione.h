@@ -2,7 +2,7 @@
 
 #include "input/tastiera_scansione.h"
 
-namespace somme {
+namespace somme::inline ingresso {
 
 // The scanning keyboard of place values: in which column to act, the bin, confirm. The keys at its
 // left end can be hidden; the scan then begins further to the right.
@@ -41,4 +41,4 @@ class TastieraHDUScansione final : public TastieraScansione {
   void MostraPulsanti() override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

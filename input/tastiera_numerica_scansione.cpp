@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace somme {
+namespace somme::inline ingresso {
 
 using platform::inner;
 
@@ -61,4 +61,4 @@ void TastieraNumericaScansione::MostraPulsanti() {
   PulsanteNumero[kAiuto].setEnabled(AiutoVisibile.get());
 }
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

@@ -2,7 +2,7 @@
 
 #include "input/tastiera_scansione.h"
 
-namespace somme {
+namespace somme::inline ingresso {
 
 // The scanning keyboard of digits: ten of them, the bin, help where the form has it, confirm, and
 // the way on, which is open only after a right answer and is then the only choice.
@@ -37,4 +37,4 @@ class TastieraNumericaScansione final : public TastieraScansione {
   void MostraPulsanti() override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

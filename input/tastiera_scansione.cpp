@@ -7,7 +7,7 @@
 #include "platform/forms/keys/key_codes.h"
 #include "platform/forms/rgb_number.h"
 
-namespace somme {
+namespace somme::inline ingresso {
 
 using platform::toInt16;
 
@@ -231,4 +231,4 @@ void TastieraScansione::layOut() {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

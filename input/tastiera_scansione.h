@@ -11,11 +11,11 @@
 #include "platform/forms/controls/timer.h"
 #include "platform/forms/user_control.h"
 
-namespace platform {
+namespace platform::inline forms {
 class RingWidget;
 }
 
-namespace somme {
+namespace somme::inline ingresso {
 
 // The engine of the scanning keyboards: a row of square buttons, of which exactly one is lit, and
 // one or two keys for those who cannot use more. In manual scanning Space moves the light and Enter
@@ -145,4 +145,4 @@ constexpr platform::Look TastoDisegnato(std::string_view immagine, bool chiuso =
   return tasto;
 }
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

@@ -9,7 +9,7 @@
 #include "platform/forms/keys/key_codes.h"
 #include "platform/forms/rgb_number.h"
 
-namespace somme {
+namespace somme::inline ingresso {
 
 using platform::Align;
 using platform::inner;
@@ -144,4 +144,4 @@ void TestoInputNumerico::applyLook() {
   TestoOutput.setToolTip(toolTip());
 }
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

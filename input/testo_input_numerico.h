@@ -6,7 +6,7 @@
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/user_control.h"
 
-namespace somme {
+namespace somme::inline ingresso {
 
 // The box into which a pupil types a number: `TestoInput`, where the digits are edited, and in its
 // place, once Enter has been released, `TestoOutput` with the number as it was understood. It takes
@@ -92,4 +92,4 @@ class TestoInputNumerico final : public platform::UserControl {
   double scalaDellaDimensione_ = 1;  // of the page's fonts when `DimensioneTesto` was set
 };
 
-}  // namespace somme
+}  // namespace somme::inline ingresso

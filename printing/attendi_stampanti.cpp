@@ -4,7 +4,7 @@
 #include "app/shared/mod_language_support.h"
 #include "platform/forms/wait_sign.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 void AttendiStampanti(Ambiente& ambiente, const std::function<void()>& lavoro) {
   platform::waitVisibly(ambiente.fondo,
@@ -13,4 +13,4 @@ void AttendiStampanti(Ambiente& ambiente, const std::function<void()>& lavoro) {
                         lavoro);
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

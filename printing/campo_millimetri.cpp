@@ -7,7 +7,7 @@
 #include "platform/forms/controls/up_down.h"
 #include "platform/forms/keys/key_codes.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -42,4 +42,4 @@ void PreparaCampo(const CampoMillimetri& campo) {
   campo.freccia.bind(campo.testo, campo.minimo, kMassimoCampo);
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -2,12 +2,12 @@
 
 #include <QtGlobal>
 
-namespace platform {
+namespace platform::inline forms {
 class TextBox;
 class UpDown;
-}  // namespace platform
+}
 
-namespace somme {
+namespace somme::inline stampa {
 
 inline constexpr int kMassimoCampo = 2000;  // millimetres
 
@@ -25,4 +25,4 @@ struct CampoMillimetri {
 // number follows. Text that is no number is 0.
 void PreparaCampo(const CampoMillimetri& campo);
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -6,7 +6,7 @@
 // The design of the print dialog: the sheet at the left, what is chosen and pressed at its right,
 // and below both what only "Avanzate" shows. What belongs to its settings mode lies above 4192
 // twips.
-namespace somme::disegno_stampa {
+namespace somme::inline stampa::disegno_stampa {
 
 using platform::Align;
 using platform::Face;
@@ -136,4 +136,4 @@ inline constexpr FormDesign kDisegno{.name = "frmAvviaStampa",
                                      .back = kFondo,
                                      .tables = kTavole};
 
-}  // namespace somme::disegno_stampa
+}  // namespace somme::inline stampa::disegno_stampa

@@ -6,7 +6,7 @@
 
 #include "printing/foglio_tastiera.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -119,4 +119,4 @@ DisegnoFoglio::DisegnoFoglio(const FoglioTasti& foglio, int bordo,
                .tables = tavole_,
                .keepsShape = true} {}
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -8,7 +8,7 @@
 #include "platform/forms/design.h"
 #include "printing/griglia_foglio.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 // The design's grid: it divides the design evenly, and its shape is that of the 400 by 280 mm that
 // the print dialog begins with.
@@ -40,4 +40,4 @@ class DisegnoFoglio {
   platform::FormDesign disegno_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline stampa

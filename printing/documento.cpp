@@ -2,7 +2,7 @@
 
 #include "printing/supporto.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -51,4 +51,4 @@ QByteArray Documento::Chiudi() {
   return finito ? supporto_->Chiudi() : QByteArray();
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

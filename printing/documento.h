@@ -7,7 +7,7 @@
 
 #include "platform/base/printers.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 class Supporto;
 
@@ -45,4 +45,4 @@ class Documento {
   QPainter pittore_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace somme {
+namespace somme::inline stampa {
 
 // What goes wrong on the way of an image to the paper. It is raised inside of the print dialog and
 // told by the routine that was called from outside.
@@ -15,4 +15,4 @@ struct ErroreDiStampa {
   QString descrizione;  // for a message box, line by line
 };
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -8,7 +8,7 @@
 #include "printing/immagine_di_stampa.h"
 #include "printing/stampante_in_uso.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -121,4 +121,4 @@ void EseguiStampa(Ambiente& ambiente, const StampanteInUso& stampante,
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -2,9 +2,12 @@
 
 #include <QString>
 
-namespace somme {
-
+namespace somme::inline condiviso {
 class Ambiente;
+}
+
+namespace somme::inline stampa {
+
 class ImmagineDiStampa;
 class StampanteInUso;
 
@@ -25,4 +28,4 @@ void EseguiStampa(Ambiente& ambiente, const StampanteInUso& stampante,
                   const ImmagineDiStampa& immagine, const PostoSulFoglio& posto,
                   const QString& titolo);
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -2,7 +2,7 @@
 
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -52,4 +52,4 @@ void FoglioCalibrazione::Disponi(const Griglia& griglia) {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

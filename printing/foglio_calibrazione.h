@@ -3,7 +3,7 @@
 #include "platform/forms/controls/line.h"
 #include "printing/foglio_tastiera.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 // A sheet for adjusting the touch surface: frames, and the lines of the grid with their numbers;
 // those of `Line1`, at the top, are `Label1`.
@@ -20,4 +20,4 @@ class FoglioCalibrazione final : public FoglioTastiera {
   void Disponi(const Griglia& griglia) override;
 };
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -4,7 +4,7 @@
 #include "platform/base/numbers.h"
 #include "printing/frm_avvia_stampa.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -92,4 +92,4 @@ void FoglioTastiera::PosaTasto(int posto) {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -7,7 +7,7 @@
 #include "platform/forms/controls/shape.h"
 #include "printing/disegno_foglio.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 // A keyboard sheet: a page with the keys of one family of exercises, to be laid on the touch
 // surface. It is a form that is never used on the screen: shown, it arranges itself on the grid,
@@ -50,4 +50,4 @@ class FoglioTastiera : private DisegnoFoglio, public Forma {
   bool foglioStampato_ = false;
 };
 
-}  // namespace somme
+}  // namespace somme::inline stampa

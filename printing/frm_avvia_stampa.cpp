@@ -10,7 +10,7 @@
 #include "printing/errore_di_stampa.h"
 #include "printing/nome_formato_carta.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 using platform::BoxButtons;
 using platform::BoxIcon;
@@ -394,4 +394,4 @@ void frmAvviaStampa::onUnload() {
   PictureAnteprima.clear();
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

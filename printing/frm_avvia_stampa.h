@@ -20,7 +20,7 @@
 #include "printing/oggetto_da_stampare.h"
 #include "printing/stampante_in_uso.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 // The print dialog: the printer in use, its sheet with the image on it at scale, the place and the
 // size of the print. Whoever wants a form printed loads it, asks `FoglioStampa` for the sheet and
@@ -142,4 +142,4 @@ class frmAvviaStampa final : public Forma {
   QString titolo_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline stampa

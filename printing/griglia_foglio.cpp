@@ -2,7 +2,7 @@
 
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 Griglia GrigliaDi(double larghezza, double altezza) {
   const auto unita = [](double twips, int quante) {
@@ -11,4 +11,4 @@ Griglia GrigliaDi(double larghezza, double altezza) {
   return {unita(larghezza, kColonneGriglia), unita(altezza, kRigheGriglia)};
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -3,7 +3,7 @@
 #include "app/shared/foglio_tasti.h"
 #include "platform/forms/geometry.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 // The units of the grid on a sheet of some size, in its twips: whole numbers, so that the grid may
 // end up to 23 twips short of the sheet.
@@ -21,4 +21,4 @@ struct Griglia {
           double(zona.colonne.lunga() * griglia.X), double(zona.righe.lunga() * griglia.Y)};
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

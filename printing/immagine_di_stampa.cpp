@@ -4,7 +4,7 @@
 
 #include "printing/errore_di_stampa.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -68,4 +68,4 @@ QImage InGrigio(const QImage& immagine) {
   return grigia;
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -3,7 +3,7 @@
 #include <QImage>
 #include <functional>
 
-namespace somme {
+namespace somme::inline stampa {
 
 // The header of an image in memory: 24 bits a pixel, one plane, no compression.
 struct IntestazioneImmagine {
@@ -52,4 +52,4 @@ class ImmagineDiStampa {
 // A copy in which each pixel has the average of its three colours, cut off to a whole number.
 [[nodiscard]] QImage InGrigio(const QImage& immagine);
 
-}  // namespace somme
+}  // namespace somme::inline stampa

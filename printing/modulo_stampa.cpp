@@ -6,7 +6,7 @@
 #include "printing/attendi_stampanti.h"
 #include "printing/documento.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -91,4 +91,4 @@ void StampaTestoRicco(Ambiente& ambiente, const platform::RichTextBox& TestoRicc
   Esigi(esito.finished);
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

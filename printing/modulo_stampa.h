@@ -3,13 +3,14 @@
 #include <QRectF>
 #include <QtGlobal>
 
-namespace platform {
+namespace platform::inline forms {
 class RichTextBox;
 }
-
-namespace somme {
-
+namespace somme::inline condiviso {
 class Ambiente;
+}
+
+namespace somme::inline stampa {
 
 // Margins from the edges of the sheet, in twips.
 struct Margini {
@@ -39,4 +40,4 @@ void StampaTestoRicco(Ambiente& ambiente, const platform::RichTextBox& TestoRicc
                       qint32 MargineSinistro, double MargineSuperiore, double MargineDestro,
                       double MargineInferiore);
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -99,4 +99,4 @@ QString NomeDellaCarta(const platform::Paper& carta) {
       .arg(qRound(carta.height));
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -4,7 +4,7 @@
 
 #include "platform/base/printers.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 // What a kind of paper is called, from its code; "Unknown" for a code without a name.
 [[nodiscard]] QString NomeFormatoCarta(int codice);
@@ -13,4 +13,4 @@ namespace somme {
 // it.
 [[nodiscard]] QString NomeDellaCarta(const platform::Paper& carta);
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -3,7 +3,7 @@
 #include "platform/forms/form.h"
 #include "printing/errore_di_stampa.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 FinestraDaStampare FinestraDi(const OggettoDaStampare& oggetto) {
   if (auto* const* forma = std::get_if<platform::Form*>(&oggetto); forma != nullptr && *forma) {
@@ -18,4 +18,4 @@ FinestraDaStampare FinestraDi(const OggettoDaStampare& oggetto) {
                        QStringLiteral("L' oggetto da stampare\ne' di tipo errato.")};
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

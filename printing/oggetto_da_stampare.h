@@ -6,12 +6,12 @@
 class QObject;
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 class Control;
 class Form;
-}  // namespace platform
+}
 
-namespace somme {
+namespace somme::inline stampa {
 
 // What is handed over for printing: a form, a control, or nothing at all; an object of any other
 // kind is refused.
@@ -27,4 +27,4 @@ struct FinestraDaStampare {
 // Throws ErroreDiStampa for an object of the wrong kind.
 [[nodiscard]] FinestraDaStampare FinestraDi(const OggettoDaStampare& oggetto);
 
-}  // namespace somme
+}  // namespace somme::inline stampa

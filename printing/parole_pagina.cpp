@@ -4,7 +4,7 @@
 #include "platform/forms/qt_message_boxes.h"
 #include "platform/forms/qt_page_setup.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 platform::PageSetupWords ParolePagina(Ambiente& ambiente) {
   const auto parola = [&ambiente](const char* chiave, const QString& italiana) {
@@ -22,4 +22,4 @@ platform::PageSetupWords ParolePagina(Ambiente& ambiente) {
           .cancel = parola("Annulla", QStringLiteral("Annulla"))};
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

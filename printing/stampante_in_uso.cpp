@@ -5,7 +5,7 @@
 #include "printing/attendi_stampanti.h"
 #include "printing/errore_di_stampa.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 using platform::Printers;
 
@@ -75,4 +75,4 @@ void StampanteInUso::ScriviOrientamento(int orientamento) {
   ScriviImpostazioni(nuove);
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -5,9 +5,11 @@
 
 #include "platform/base/printers.h"
 
-namespace somme {
-
+namespace somme::inline condiviso {
 class Ambiente;
+}
+
+namespace somme::inline stampa {
 
 // A sheet in whole millimetres, as it is held; all three are -1 where no printer is open.
 struct MisuraDelFoglio {
@@ -57,4 +59,4 @@ class StampanteInUso {
   std::map<QString, platform::PrinterSettings> scritte_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline stampa

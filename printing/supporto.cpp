@@ -10,7 +10,7 @@
 
 #include "app/shared/ambiente.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 namespace {
 
@@ -80,4 +80,4 @@ std::unique_ptr<Supporto> FaiSupporto(platform::PageFormat formato,
   return std::make_unique<SupportoPdf>(impostazioni, diritto, titolo);
 }
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -7,7 +7,7 @@
 
 #include "platform/base/printers.h"
 
-namespace somme {
+namespace somme::inline stampa {
 
 // What the pages of a document are put on, in one of the formats that printers take.
 class Supporto {
@@ -27,4 +27,4 @@ class Supporto {
                                                     const platform::PrinterSettings& impostazioni,
                                                     bool diritto, const QString& titolo);
 
-}  // namespace somme
+}  // namespace somme::inline stampa

@@ -1,6 +1,6 @@
 #include "app/shared/ambiente.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 QString TitoloProgramma() {
   return QStringLiteral("Esercitazioni sulle somme");
@@ -21,4 +21,4 @@ std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view n
   return scheda.crea == nullptr ? nullptr : scheda.crea(ambiente, nome);
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

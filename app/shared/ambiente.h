@@ -12,7 +12,7 @@
 #include "platform/base/services.h"
 #include "platform/forms/runtime.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 // What the program needs from the world; a test hands in its own.
 struct Servizi {
@@ -58,4 +58,4 @@ class Ambiente {
 // The window's title, and that of message boxes without one of their own.
 [[nodiscard]] QString TitoloProgramma();
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace somme {
+namespace somme::inline condiviso {
 
 namespace {
 
@@ -78,4 +78,4 @@ const FoglioTasti& FoglioDi(std::string_view nome) {
   return *trovato;
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

@@ -11,7 +11,7 @@
 // exercises. What a sheet is stands here and nowhere else: printing draws it, the touch link finds
 // in it the key under a touch, forms do what a key's name says. foglio_tasti.cpp holds the rows
 // against one another when it is compiled.
-namespace somme {
+namespace somme::inline condiviso {
 
 // The grid of the touch surface, which a sheet is drawn on.
 inline constexpr int kColonneGriglia = 24;
@@ -188,4 +188,4 @@ inline constexpr FoglioTasti kFogliTasti[] = {
 // The sheet of a name. Throws std::out_of_range for a name that no sheet has.
 [[nodiscard]] const FoglioTasti& FoglioDi(std::string_view nome);
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

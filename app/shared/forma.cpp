@@ -3,7 +3,7 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 namespace {
 
@@ -38,4 +38,4 @@ void Forma::VaiA(std::string_view nome) {
   ambiente_.fondo.forms().pass(*this, nome);
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

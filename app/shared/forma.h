@@ -4,7 +4,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/proportional_layout.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 // What every form of the program has: the language at its Load, the layout that keeps it in
 // proportion, the icon of the splash form, the choice between the two pointers.
@@ -39,4 +39,4 @@ class Forma : public platform::Form {
   Ambiente& ambiente_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

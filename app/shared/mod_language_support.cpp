@@ -11,7 +11,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/qt_message_boxes.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 namespace {
 
@@ -161,4 +161,4 @@ platform::ButtonWords ParoleMessaggi(Ambiente& ambiente) {
           parola("No", QStringLiteral("No"))};
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

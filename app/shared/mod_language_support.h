@@ -3,12 +3,12 @@
 #include <QString>
 #include <QStringList>
 
-namespace platform {
+namespace platform::inline forms {
 class Form;
 struct ButtonWords;
-}  // namespace platform
+}
 
-namespace somme {
+namespace somme::inline condiviso {
 
 class Ambiente;
 
@@ -51,4 +51,4 @@ void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua);
 // The words on the buttons of message boxes: from section "MessageBox", or the Italian ones.
 [[nodiscard]] platform::ButtonWords ParoleMessaggi(Ambiente& ambiente);
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

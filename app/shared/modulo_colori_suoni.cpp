@@ -2,7 +2,7 @@
 
 #include "app/shared/ambiente.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 void Attendi(Ambiente& ambiente, double secondi) {
   platform::TimeSource& tempo = ambiente.servizi.tempo;
@@ -21,4 +21,4 @@ void RiproduciSuono(Ambiente& ambiente, const QString& nome) {
       QStringLiteral("%1/suoni/%2.wav").arg(ambiente.servizi.cartella, nome));
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace somme {
+namespace somme::inline condiviso {
 
 class Ambiente;
 
@@ -15,4 +15,4 @@ void Attendi(Ambiente& ambiente, double secondi);
 // Plays "si" or "no", if sounds are on. A new sound cuts off one still playing.
 void RiproduciSuono(Ambiente& ambiente, const QString& nome);
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

@@ -1,6 +1,6 @@
 #include "app/shared/modulo_ini.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 void ImpostaDefault(StatoCondiviso& stato) {
   stato.SuoniAttivi = true;
@@ -9,4 +9,4 @@ void ImpostaDefault(StatoCondiviso& stato) {
   stato.TempoScansione = 4;
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

@@ -2,9 +2,9 @@
 
 #include "app/shared/stato_condiviso.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 // Puts the settings at their values of the start.
 void ImpostaDefault(StatoCondiviso& stato);
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

@@ -2,10 +2,10 @@
 
 #include "app/shared/ambiente.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 void ApriDocumento(Ambiente& ambiente, const QString& percorso) {
   ambiente.servizi.documenti.open(percorso);
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

@@ -3,7 +3,7 @@
 #include <string_view>
 
 // The names of the program's forms, so that a form can say which one to show without knowing it.
-namespace somme::forme {
+namespace somme::inline condiviso::forme {
 
 inline constexpr std::string_view kFormAvvio = "FormAvvio";
 inline constexpr std::string_view kFormInfo = "FormInfo";
@@ -56,4 +56,4 @@ inline constexpr std::string_view kFormStampaFoglio1 = "FormStampaFoglio1";
 
 inline constexpr std::string_view kFrmAvviaStampa = "frmAvviaStampa";
 
-}  // namespace somme::forme
+}  // namespace somme::inline condiviso::forme

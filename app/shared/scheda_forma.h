@@ -7,11 +7,11 @@
 #include "app/shared/stato_condiviso.h"
 #include "cases/famiglia.h"
 
-namespace platform {
+namespace platform::inline forms {
 class Form;
 }
 
-namespace somme {
+namespace somme::inline condiviso {
 
 class Ambiente;
 
@@ -99,4 +99,4 @@ using TabellaForme = std::span<const SchedaForma>;
   return {};
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

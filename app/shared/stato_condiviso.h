@@ -4,7 +4,7 @@
 
 #include "cases/caso.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 // How the pupil answers.
 enum ModalitaDiInput : qint16 {
@@ -32,4 +32,4 @@ struct StatoCondiviso : Caso {
   QString LinguaCorrente;     // a language file's name without its extension
 };
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

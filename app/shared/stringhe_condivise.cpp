@@ -7,7 +7,7 @@
 #include "app/shared/mod_language_support.h"
 #include "cases/livelli.h"
 
-namespace somme {
+namespace somme::inline condiviso {
 
 namespace {
 
@@ -74,4 +74,4 @@ void CaricaStringhe(Ambiente& ambiente) {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

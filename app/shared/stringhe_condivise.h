@@ -4,7 +4,7 @@
 #include <map>
 #include <string_view>
 
-namespace somme {
+namespace somme::inline condiviso {
 
 class Ambiente;
 
@@ -51,4 +51,4 @@ struct StringheCondivise {
 // Reads them all, in their order; the first key read also loads `LinguaCorrente`.
 void CaricaStringhe(Ambiente& ambiente);
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

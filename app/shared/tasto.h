@@ -4,7 +4,7 @@
 
 // The keys of the keyboard sheets by name, and what stands on them. Which sheet has them, and
 // where: foglio_tasti.h.
-namespace somme {
+namespace somme::inline condiviso {
 
 // What a key is, on whatever sheet and at whatever place.
 enum class Tasto {
@@ -92,4 +92,4 @@ enum class Mostra { Cifra, Parola, Disegno };
   return SegnoDi(tasto).disegno.empty() ? Mostra::Parola : Mostra::Disegno;
 }
 
-}  // namespace somme
+}  // namespace somme::inline condiviso

@@ -2,7 +2,7 @@
 
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 void PosaDietro(TestoInputNumerico& casella, const platform::Label& operazione) {
   constexpr int kSovrapposti = 20;  // twips by which the box reaches under the operation
@@ -13,4 +13,4 @@ void PosaDietro(TestoInputNumerico& casella, const platform::Label& operazione) 
   casella.DimensioneTesto.set(platform::toInt16(operazione.fontSize()));
 }
 
-}  // namespace somme
+}  // namespace somme::inline abaco

@@ -4,7 +4,9 @@
 #include "exercises/core/disegno_comune.h"
 
 // Rows that the abacus forms share.
-namespace somme::disegno {
+namespace somme::inline abaco::disegno {
+
+using namespace nucleo::disegno;
 
 constexpr Row Ancora(TwipsRect posto) {
   return row<&FormaAbaco::Label1>(posto, {.hidden = true});
@@ -41,4 +43,4 @@ constexpr FormDesign DisegnoAbaco(std::string_view nome,
           .tables = tavole};
 }
 
-}  // namespace somme::disegno
+}  // namespace somme::inline abaco::disegno

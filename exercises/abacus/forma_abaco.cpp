@@ -4,7 +4,7 @@
 #include "exercises/core/quantita.h"
 #include "platform/forms/gate.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 namespace {
 
@@ -159,4 +159,4 @@ void FormaAbaco::Racconta() {
   announce(SulFerro());
 }
 
-}  // namespace somme
+}  // namespace somme::inline abaco

@@ -4,7 +4,7 @@
 #include "games/partita_abaco.h"
 #include "platform/boards/board.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 // The clips of the movie: bead `numero` of a place, 0 to 9, on its spike or waiting beside it.
 [[nodiscard]] QString ClipSulFerro(Posto posto, int numero);
@@ -81,4 +81,4 @@ class FormaAbaco : public FormaEsercizio {
   PartitaAbaco partita_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline abaco

@@ -7,7 +7,7 @@
 #include "platform/base/numbers.h"
 #include "platform/forms/accessible.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 using namespace disegno;
 
@@ -162,4 +162,4 @@ void FormaAbacoHK::RispostaGiusta() {
   PulsanteAvanti.setFocus();
 }
 
-}  // namespace somme
+}  // namespace somme::inline abaco

@@ -3,7 +3,7 @@
 #include "exercises/abacus/forma_abaco.h"
 #include "exercises/core/input_tocco.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 // The abacus by touch: the keys of the sheet put the beads and carry, and the abacus itself is the
 // answer. Only its value counts, which may stand with ten beads on a spike; no carry is demanded.
@@ -53,4 +53,4 @@ class FormaAbacoHK final : public FormaAbaco {
   InputTocco tocco_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline abaco

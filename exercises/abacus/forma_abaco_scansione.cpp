@@ -5,7 +5,7 @@
 #include "exercises/abacus/disegno_abaco.h"
 #include "exercises/core/disegno_scansione.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 using namespace disegno;
 
@@ -121,4 +121,4 @@ void FormaAbacoScansione::RispostaGiusta() {
   AggiungiSomma(TestoInput.TestoFormattato);
 }
 
-}  // namespace somme
+}  // namespace somme::inline abaco

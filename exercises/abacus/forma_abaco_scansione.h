@@ -4,7 +4,7 @@
 #include "exercises/core/input_scansione.h"
 #include "exercises/core/scansione.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 // The abacus by scanning: the keyboard of place values puts the beads, and ten of a kind are
 // carried by themselves, at every level; its last key passes on to the keyboard of digits, which
@@ -60,4 +60,4 @@ class FormaAbacoScansione final : public FormaAbaco {
        .conferma = [this] { PassaAlleCifre(); }}};
 };
 
-}  // namespace somme
+}  // namespace somme::inline abaco

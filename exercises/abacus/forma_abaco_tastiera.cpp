@@ -9,7 +9,7 @@
 #include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 using namespace disegno;
 
@@ -194,4 +194,4 @@ void FormaAbacoTastiera::PremiFreccia(Posto da) {
   AbilitaFrecce();
 }
 
-}  // namespace somme
+}  // namespace somme::inline abaco

@@ -3,7 +3,7 @@
 #include "exercises/abacus/forma_abaco.h"
 #include "input/testo_input_numerico.h"
 
-namespace somme {
+namespace somme::inline abaco {
 
 // The abacus for mouse and keyboard: the pupil moves bead by bead and carries by an arrow, where
 // the level has one. The abacus is an aid and never judged; the sum is typed into `TestoInput`.
@@ -51,4 +51,4 @@ class FormaAbacoTastiera final : public FormaAbaco {
   void PremiFreccia(Posto da);
 };
 
-}  // namespace somme
+}  // namespace somme::inline abaco

@@ -2,7 +2,7 @@
 
 #include "exercises/bars/forma_barre.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 ComandiBarre::ComandiBarre(FormaBarre& forma, platform::Button& aiuto, platform::Button& avanti)
     : forma_(forma), avanti_(avanti) {
@@ -23,4 +23,4 @@ void ComandiBarre::SegnaRisolto() {
   forma_.ScriviSomma();
 }
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -2,7 +2,7 @@
 
 #include "platform/forms/controls/button.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 class FormaBarre;
 
@@ -23,4 +23,4 @@ class ComandiBarre {
   platform::Button& avanti_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline barre

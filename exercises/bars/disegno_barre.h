@@ -3,7 +3,9 @@
 #include "exercises/bars/forma_barre.h"
 
 // Rows that the bars forms share.
-namespace somme::disegno {
+namespace somme::inline barre::disegno {
+
+using namespace nucleo::disegno;
 
 inline constexpr FontSpec kNumeroBarra{Face::Arial, 15.75, true};
 inline constexpr FontSpec kNumeroGrande{Face::Tahoma, 20.25, true};
@@ -122,4 +124,4 @@ inline constexpr auto kEsciBarre = std::to_array<Row>({
     item<&FormaBarre::mnuEsci>({.caption = "&Esci"}),
 });
 
-}  // namespace somme::disegno
+}  // namespace somme::inline barre::disegno

@@ -3,7 +3,9 @@
 #include "exercises/bars/disegno_barre.h"
 
 // Rows of the bars forms on which the answer is typed.
-namespace somme::disegno {
+namespace somme::inline barre::disegno {
+
+using namespace nucleo::disegno;
 
 inline constexpr double kLarghezzaBarreScritte = 10980;
 inline constexpr auto kBarreScritte10 = BarreInAlto(705);
@@ -28,4 +30,4 @@ inline constexpr auto kVerdettoScritte = std::to_array<Row>({
     Chiudi({7440, 6240, 2580, 1155}),
 });
 
-}  // namespace somme::disegno
+}  // namespace somme::inline barre::disegno

@@ -5,7 +5,7 @@
 
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 using namespace disegno;
 using platform::leadingBlank;
@@ -233,4 +233,4 @@ qint16 FormaBarre::FineDi(int unita) const {
   return toInt16(Lungo(unita) + OrigineX);
 }
 
-}  // namespace somme
+}  // namespace somme::inline barre

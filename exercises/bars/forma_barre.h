@@ -9,7 +9,7 @@
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/optional_control.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 // What two forms of one class differ in.
 struct VarianteBarre {
@@ -113,4 +113,4 @@ class FormaBarre : public FormaEsercizio {
   qint16 Unita = 0;     // length of one unit, height of a bar, side of a square
 };
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -2,7 +2,7 @@
 
 #include "exercises/bars/disegno_barre_scritte.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 using namespace disegno;
 
@@ -70,4 +70,4 @@ void FormaBarreHK::NuovoCaso() {
   risposta_.NuovoCaso();
 }
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -4,7 +4,7 @@
 #include "exercises/bars/risposta_scritta.h"
 #include "exercises/core/input_tocco.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 // The bars forms for the touch keyboard: the keys of its sheet write into the box, confirm, help
 // and go on. The box takes typing, too.
@@ -46,4 +46,4 @@ class FormaBarreHK final : public FormaBarre {
 extern const VarianteBarre kBarreHK10;
 extern const VarianteBarre kBarreHK20;
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -3,7 +3,7 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/disegno_barre.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 using namespace disegno;
 
@@ -113,4 +113,4 @@ void FormaBarrePulsanti::RispostaGiusta(int numero) {
   PulsanteAvanti.setFocus();
 }
 
-}  // namespace somme
+}  // namespace somme::inline barre

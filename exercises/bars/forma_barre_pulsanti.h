@@ -4,7 +4,7 @@
 #include "exercises/bars/forma_barre.h"
 #include "platform/forms/controls/button_group.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 // The bars forms on which the pupil answers with one of the numbered buttons, which take the colour
 // of the bar that is asked for. From here alone, and without a way back, one comes to the form on
@@ -33,4 +33,4 @@ class FormaBarrePulsanti final : public FormaBarre {
 
 extern const VarianteBarre kBarrePulsanti10;
 
-}  // namespace somme
+}  // namespace somme::inline barre

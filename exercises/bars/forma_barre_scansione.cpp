@@ -4,7 +4,7 @@
 #include "exercises/core/disegno_scansione.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 using namespace disegno;
 
@@ -127,4 +127,4 @@ void FormaBarreScansione::ChiudiPannelloStampa() {
   NuovoCaso();
 }
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -4,7 +4,7 @@
 #include "exercises/core/input_scansione.h"
 #include "exercises/core/scansione.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 // What two bars forms that are worked by scanning differ in.
 struct VarianteBarreScansione {
@@ -57,4 +57,4 @@ class FormaBarreScansione final : public FormaBarre {
 extern const VarianteBarreScansione kBarreScansione10;
 extern const VarianteBarreScansione kBarreScansione20;
 
-}  // namespace somme
+}  // namespace somme::inline barre

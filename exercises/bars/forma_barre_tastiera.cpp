@@ -2,7 +2,7 @@
 
 #include "exercises/bars/disegno_barre_scritte.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 using namespace disegno;
 
@@ -38,4 +38,4 @@ void FormaBarreTastiera::onLoad() {
   risposta_.AlCaricamento();
 }
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -3,7 +3,7 @@
 #include "exercises/bars/forma_barre.h"
 #include "exercises/bars/risposta_scritta.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 // The bars forms on which the answer is typed.
 class FormaBarreTastiera final : public FormaBarre {
@@ -26,4 +26,4 @@ class FormaBarreTastiera final : public FormaBarre {
 extern const VarianteBarre kBarreTastiera10;
 extern const VarianteBarre kBarreTastiera20;
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -3,7 +3,7 @@
 #include "exercises/bars/forma_barre.h"
 #include "exercises/core/testo_cifre.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 RispostaScritta::RispostaScritta(FormaBarre& forma, platform::TextBox& casella,
                                  platform::Button& aiuto, platform::Button& avanti)
@@ -42,4 +42,4 @@ void RispostaScritta::Controlla() {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -3,7 +3,7 @@
 #include "exercises/bars/comandi_barre.h"
 #include "platform/forms/controls/text_box.h"
 
-namespace somme {
+namespace somme::inline barre {
 
 // The answer as it is typed on a bars form: into a box that lies over the empty term of the written
 // sum, in its colour. Enter, at its release, checks it.
@@ -27,4 +27,4 @@ class RispostaScritta {
   ComandiBarre comandi_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline barre

@@ -4,7 +4,9 @@
 #include "exercises/core/disegno_comune.h"
 
 // Rows that the blocks forms share.
-namespace somme::disegno {
+namespace somme::inline blocchi::disegno {
+
+using namespace nucleo::disegno;
 
 // A rectangle that tells a board its place.
 constexpr Look Ancora() {
@@ -91,4 +93,4 @@ inline constexpr auto kMenuBlocchi = std::to_array<Row>({
     item<&FormaBlocchi::mnuEsci>({.caption = "&Esci"}),
 });
 
-}  // namespace somme::disegno
+}  // namespace somme::inline blocchi::disegno

@@ -4,7 +4,9 @@
 #include "exercises/blocks/pulsanti_blocchi.h"
 
 // Rows that the blocks forms with buttons for the blocks share.
-namespace somme::disegno {
+namespace somme::inline blocchi::disegno {
+
+using namespace nucleo::disegno;
 
 inline constexpr Rgb kBlu{0, 0, 255};
 inline constexpr FontSpec kNomeBlocco{Face::Tahoma, 15.75, true};
@@ -60,4 +62,4 @@ inline constexpr auto kContiBlocchi = std::to_array<Row>({
     Errati({1560, 7125, 2415, 375}),
 });
 
-}  // namespace somme::disegno
+}  // namespace somme::inline blocchi::disegno

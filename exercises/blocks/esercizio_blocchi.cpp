@@ -4,7 +4,7 @@
 
 #include "exercises/blocks/forma_blocchi.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 namespace {
 
@@ -35,4 +35,4 @@ constinit const EsercizioBlocchi kBlocchiEntro999{
     .cambi = kCambiEntro999,
 };
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -7,13 +7,13 @@
 #include "exercises/blocks/tavola_unita.h"
 #include "games/regole_blocchi.h"
 
-namespace platform {
+namespace platform::inline forms {
 class Button;
 template <class T>
 class OptionalControl;
-}  // namespace platform
+}
 
-namespace somme {
+namespace somme::inline blocchi {
 
 class FormaBlocchi;
 
@@ -36,4 +36,4 @@ struct EsercizioBlocchi {
 extern const EsercizioBlocchi kBlocchiEntro99;
 extern const EsercizioBlocchi kBlocchiEntro999;
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -6,7 +6,7 @@
 #include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 using platform::leadingBlank;
 
@@ -263,4 +263,4 @@ void FormaBlocchi::Racconta() {
   ShockwaveFlash3.setDescription(InParole(ambiente(), partita_.Uniti().Quanti()));
 }
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

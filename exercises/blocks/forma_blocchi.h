@@ -7,7 +7,7 @@
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/optional_control.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 // What a class of blocks forms needs to make one of them.
 struct VarianteBlocchi {
@@ -110,4 +110,4 @@ class FormaBlocchi : public FormaEsercizio {
   TavolaUnita unita_{ShockwaveFlash3, esercizio().regole, partita_.Uniti()};
 };
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

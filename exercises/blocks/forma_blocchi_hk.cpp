@@ -4,7 +4,7 @@
 #include "exercises/core/testo_cifre.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 using namespace disegno;
 
@@ -114,4 +114,4 @@ void FormaBlocchiHK::ChiediRisultato() {
   Risolvi();
 }
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -4,7 +4,7 @@
 #include "exercises/core/input_tocco.h"
 #include "platform/forms/control_array.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 // The blocks by touch: the keys of the sheet stand for the buttons, which the mouse works too.
 // Nothing is written: once boards and carries are done the result shows and the case is solved.
@@ -48,4 +48,4 @@ class FormaBlocchiHK final : public FormaBlocchi {
 extern const VarianteBlocchi kBlocchiHK99;
 extern const VarianteBlocchi kBlocchiHK999;
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -3,7 +3,7 @@
 #include "exercises/blocks/disegno_blocchi.h"
 #include "exercises/core/disegno_scansione.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 using namespace disegno;
 
@@ -93,4 +93,4 @@ void FormaBlocchiScansione::ChiudiPannelloStampa() {
   NuovoCaso();
 }
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -5,7 +5,7 @@
 #include "exercises/core/scansione.h"
 #include "exercises/core/testo_cifre.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 // The blocks by scanning: the keyboard of place values puts the blocks and has the boards judged;
 // then that of digits fills the box, which takes no typing, has the result judged and leads on. A
@@ -59,4 +59,4 @@ class FormaBlocchiScansione final : public FormaBlocchi {
 extern const VarianteBlocchi kBlocchiScansione99;
 extern const VarianteBlocchi kBlocchiScansione999;
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -3,7 +3,7 @@
 #include "exercises/blocks/disegno_pulsanti.h"
 #include "exercises/core/testo_cifre.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 using namespace disegno;
 
@@ -67,4 +67,4 @@ void FormaBlocchiTastiera::RisultatoGiusto() {
   PulsanteAvanti.setFocus();
 }
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -2,7 +2,7 @@
 
 #include "exercises/blocks/pulsanti_blocchi.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 // The blocks by mouse and keyboard: buttons put them, and the result is typed. Enter, at its
 // release, has it judged; once it is right the box is locked.
@@ -29,4 +29,4 @@ class FormaBlocchiTastiera final : public FormaBlocchi {
 extern const VarianteBlocchi kBlocchiTastiera99;
 extern const VarianteBlocchi kBlocchiTastiera999;
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

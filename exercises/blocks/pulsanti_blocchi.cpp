@@ -2,7 +2,7 @@
 
 #include <ranges>
 
-namespace somme {
+namespace somme::inline blocchi {
 
 PulsantiBlocchi::PulsantiBlocchi(FormaBlocchi& forma)
     : PicturePulsanti(forma),
@@ -52,4 +52,4 @@ void PulsantiBlocchi::ClicConferma() {
   if (PulsanteConferma.isVisible()) forma_.GiudicaTavola();
 }
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -4,7 +4,7 @@
 #include "platform/forms/controls/button_group.h"
 #include "platform/forms/controls/picture_box.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 // The buttons that put blocks, in a panel that moves along under the board in use. A form's design
 // places them (see disegno_blocchi.h).
@@ -39,4 +39,4 @@ class PulsantiBlocchi {
   platform::ButtonGroup comandi_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

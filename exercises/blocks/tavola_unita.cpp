@@ -3,7 +3,7 @@
 #include <array>
 #include <ranges>
 
-namespace somme {
+namespace somme::inline blocchi {
 
 void MostraBlocchi(platform::Board& filmato, Posto specie, int da, int a, bool visibili) {
   // How the movies call the clips of a kind: "da1", "da2", ...
@@ -56,4 +56,4 @@ void TavolaUnita::NascondiGliAltri() {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

@@ -5,7 +5,7 @@
 #include "games/blocchi_uniti.h"
 #include "platform/boards/board.h"
 
-namespace somme {
+namespace somme::inline blocchi {
 
 // Shows or hides blocks of a kind on a board, from number `da` to number `a`, which may be none.
 void MostraBlocchi(platform::Board& filmato, Posto specie, int da, int a, bool visibili);
@@ -47,4 +47,4 @@ class TavolaUnita {
   const BlocchiUniti& blocchi_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline blocchi

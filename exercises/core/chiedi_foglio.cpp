@@ -2,7 +2,7 @@
 
 #include "app/shared/ambiente.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 void ChiediFoglio(Ambiente& ambiente, std::string_view foglio) {
   const platform::BoxAnswer risposta =
@@ -11,4 +11,4 @@ void ChiediFoglio(Ambiente& ambiente, std::string_view foglio) {
   if (risposta == platform::BoxAnswer::Yes) ambiente.fondo.forms().show(foglio);
 }
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

@@ -5,7 +5,7 @@
 
 // What the designs of the exercise forms have in common: colours, and rows that differ between
 // forms in their place alone.
-namespace somme::disegno {
+namespace somme::inline nucleo::disegno {
 
 using platform::Align;
 using platform::Face;
@@ -76,4 +76,4 @@ constexpr Row Chiudi(TwipsRect posto) {
                                                      .in = nameOf<&FormaEsercizio::PictureStampa>});
 }
 
-}  // namespace somme::disegno
+}  // namespace somme::inline nucleo::disegno

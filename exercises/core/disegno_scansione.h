@@ -4,7 +4,7 @@
 #include "exercises/core/input_scansione.h"
 
 // Rows of the scanning forms' keyboards, with what each form stores of them.
-namespace somme::disegno {
+namespace somme::inline nucleo::disegno {
 
 inline constexpr std::array<platform::StoredProperty, 1> kSenzaAiuto{{{"AiutoVisibile", false}}};
 inline constexpr std::array<platform::StoredProperty, 1> kSenzaK{{{"KVisibile", false}}};
@@ -25,4 +25,4 @@ constexpr Row TastieraHDU(TwipsRect posto, bool nascosta,
       posto, {.toolTip = "Tastiera a scansione dei valori", .hidden = nascosta, .stored = stored});
 }
 
-}  // namespace somme::disegno
+}  // namespace somme::inline nucleo::disegno

@@ -5,7 +5,7 @@
 #include "platform/base/numbers.h"
 #include "printing/modulo_stampa.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno)
     : Forma(ambiente, disegno) {
@@ -142,4 +142,4 @@ void FormaEsercizio::ChiudiPannelloStampa() {
   PictureStampa.setVisible(false);
 }
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

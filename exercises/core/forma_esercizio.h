@@ -12,7 +12,7 @@
 #include "platform/forms/controls/picture_box.h"
 #include "platform/forms/controls/rich_text_box.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 // The cycle that all exercise forms share: the two counters and their labels, the verdict in
 // picture and sound, the record of solved cases with its print panel, the numbers in a question,
@@ -100,4 +100,4 @@ class FormaEsercizio : public Forma {
   ModoInput* modo_ = nullptr;  // none: mouse and keyboard alone
 };
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

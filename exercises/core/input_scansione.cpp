@@ -3,7 +3,7 @@
 #include "exercises/core/forma_esercizio.h"
 #include "exercises/core/scansione.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 InputScansione::InputScansione(FormaEsercizio& forma, TastieraNumericaScansione& cifre,
                                AzioniCifre azioni)
@@ -72,4 +72,4 @@ void InputScansione::TastoHDU(qint16 tasto) const {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

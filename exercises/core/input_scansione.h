@@ -8,7 +8,7 @@
 #include "input/tastiera_hdu_scansione.h"
 #include "input/tastiera_numerica_scansione.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 class FormaEsercizio;
 
@@ -52,4 +52,4 @@ class InputScansione final : public ModoInput {
   AzioniValori valori_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

@@ -3,7 +3,7 @@
 #include "exercises/core/chiedi_foglio.h"
 #include "exercises/core/forma_esercizio.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 InputTocco::InputTocco(FormaEsercizio& forma, CollegamentoHelpiKeys::Prese& prese,
                        platform::MenuItem& foglio, std::function<void(Tasto tasto)> agisci,
@@ -52,4 +52,4 @@ void AgisciSulleCifre(const TastiCifre& tasti, Tasto tasto, bool siScrive, bool 
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

@@ -8,7 +8,7 @@
 #include "platform/forms/controls/menu_item.h"
 #include "platform/forms/design.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 class FormaEsercizio;
 
@@ -64,4 +64,4 @@ constexpr platform::Row Connessione() {
 
 }  // namespace disegno
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace somme {
+namespace somme::inline nucleo {
 
 // What a way of input does at the steps of an exercise form's life. A form holds the one that it is
 // worked by, if it is worked by more than mouse and keyboard, and hands it to
@@ -24,4 +24,4 @@ class ModoInput {
   virtual void AllUscita() {}
 };
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

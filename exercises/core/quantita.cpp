@@ -5,7 +5,7 @@
 
 #include "app/shared/mod_language_support.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 namespace {
 
@@ -45,4 +45,4 @@ QString InParole(Ambiente& ambiente, const Quantita& quantita) {
   return parti.join(QStringLiteral(", "));
 }
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

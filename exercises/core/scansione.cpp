@@ -4,7 +4,7 @@
 
 #include "app/shared/mod_language_support.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 namespace {
 
@@ -64,4 +64,4 @@ void NominaTasti(Ambiente& ambiente, TastieraHDUScansione& tastiera) {
   Nomina(ambiente, QStringLiteral("TastieraHDUScansione"), kNomiHDU, tastiera);
 }
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

@@ -7,7 +7,7 @@
 #include "platform/forms/controls/text_box.h"
 
 // What the scanning forms of all families do with their keyboards; see input_scansione.h.
-namespace somme {
+namespace somme::inline nucleo {
 
 // Gives a keyboard the place that a hidden label carries: width, top and left, in this order; its
 // height follows from the width.
@@ -32,4 +32,4 @@ void AccodaCifra(TestoInputNumerico& casella, int cifra);
 void NominaTasti(Ambiente& ambiente, TastieraNumericaScansione& tastiera);
 void NominaTasti(Ambiente& ambiente, TastieraHDUScansione& tastiera);
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

@@ -4,7 +4,7 @@
 #include "platform/forms/accessible_events.h"
 #include "platform/forms/controls/text_box.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 AzioniCifre CifreIn(platform::TextBox& casella, AzioniCifre resto) {
   resto.cifra = [&casella](int cifra) { casella.setText(casella.text() + QString::number(cifra)); };
@@ -33,4 +33,4 @@ void TastiCifre::Scrivi(const std::function<void()>& azione) const {
   forma_.DiciScritto(azioni_.scritto());
 }
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

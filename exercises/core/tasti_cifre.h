@@ -3,11 +3,11 @@
 #include <QString>
 #include <functional>
 
-namespace platform {
+namespace platform::inline forms {
 class TextBox;
 }
 
-namespace somme {
+namespace somme::inline nucleo {
 
 class FormaEsercizio;
 
@@ -44,4 +44,4 @@ class TastiCifre {
   AzioniCifre azioni_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

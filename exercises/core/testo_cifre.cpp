@@ -5,7 +5,7 @@
 #include "platform/base/numbers.h"
 #include "platform/forms/keys/key_codes.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 void RaccogliCifre(platform::TextBox& casella, std::function<void()> conferma) {
   casella.onKeyPress([](int& tasto) {
@@ -30,4 +30,4 @@ void LeggiInsieme(platform::ControlArray<platform::Label>& cifre, int numero) {
   for (int i = 0; i < cifre.count(); ++i) cifre[i].setSpokenName(i == prima ? intero : QString());
 }
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

@@ -7,7 +7,7 @@
 #include "platform/forms/controls/label.h"
 #include "platform/forms/controls/text_box.h"
 
-namespace somme {
+namespace somme::inline nucleo {
 
 // Lets a plain text box take digits and Backspace alone, and calls `conferma` at each release of
 // Enter in it, locked or not.
@@ -21,4 +21,4 @@ void RaccogliCifre(platform::TextBox& casella, std::function<void()> conferma);
 // shown. numero: not negative.
 void LeggiInsieme(platform::ControlArray<platform::Label>& cifre, int numero);
 
-}  // namespace somme
+}  // namespace somme::inline nucleo

@@ -2,7 +2,7 @@
 
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 void CasellaPosata::Mostra() {
   casella_.DimensioneTesto.set(platform::toInt16(posto_.fontSize()));
@@ -13,4 +13,4 @@ void CasellaPosata::Mostra() {
   casella_.setVisible(true);
 }
 
-}  // namespace somme
+}  // namespace somme::inline numeri

@@ -3,7 +3,7 @@
 #include "input/testo_input_numerico.h"
 #include "platform/forms/controls/text_box.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 // The box that takes the answer, typed or scanned. A text box that is never shown carries its place
 // and the size of its letters through the resizing of the form.
@@ -21,4 +21,4 @@ class CasellaPosata {
   const platform::TextBox& posto_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline numeri

@@ -5,7 +5,9 @@
 
 // Rows that all number forms share. Between the operation and the verdict each way of input has its
 // own: the box for the answer, and what leads to the next case.
-namespace somme::disegno {
+namespace somme::inline numeri::disegno {
+
+using namespace nucleo::disegno;
 
 inline constexpr auto kDomandaNumeri = std::to_array<Row>({
     row<&FormaNumeri::EtOperazione>({960, 600, 7935, 975}, {.toolTip = "Operazione",
@@ -43,4 +45,4 @@ constexpr FormDesign DisegnoNumeri(std::string_view nome,
           .tables = tavole};
 }
 
-}  // namespace somme::disegno
+}  // namespace somme::inline numeri::disegno

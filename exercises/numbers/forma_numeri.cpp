@@ -2,7 +2,7 @@
 
 #include "exercises/numbers/disegno_numeri.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 FormaNumeri::FormaNumeri(Ambiente& ambiente, std::string_view nome,
                          const EsercizioNumeri& esercizio,
@@ -67,4 +67,4 @@ QString FormaNumeri::RicomponiSomma(const QString& /*risposta*/) const {
   return SommaFatta();
 }
 
-}  // namespace somme
+}  // namespace somme::inline numeri

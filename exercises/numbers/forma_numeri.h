@@ -3,7 +3,7 @@
 #include "exercises/core/forma_esercizio.h"
 #include "games/partita_numeri.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 class FormaNumeri;
 
@@ -79,4 +79,4 @@ inline constexpr EsercizioNumeri kTrovaAddendo{
     .inizioHK = EsercizioNumeri::InizioHK::AbilitaCasella,
 };
 
-}  // namespace somme
+}  // namespace somme::inline numeri

@@ -3,7 +3,7 @@
 #include "exercises/numbers/disegno_numeri.h"
 #include "platform/base/numbers.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 using namespace disegno;
 
@@ -73,4 +73,4 @@ void FormaNumeriHK::RispostaGiusta() {
   PulsanteAvanti.setFocus();
 }
 
-}  // namespace somme
+}  // namespace somme::inline numeri

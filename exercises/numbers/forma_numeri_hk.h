@@ -4,7 +4,7 @@
 #include "exercises/numbers/forma_numeri.h"
 #include "platform/forms/controls/text_box.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 // The number exercises for the touch keyboard: digits, bin, confirmation and the way on are keys of
 // its sheet, and the box only shows what they write. After a right answer the operation is made of
@@ -38,4 +38,4 @@ class FormaNumeriHK final : public FormaNumeri {
   InputTocco tocco_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline numeri

@@ -3,7 +3,7 @@
 #include "exercises/core/disegno_scansione.h"
 #include "exercises/numbers/disegno_numeri.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 using namespace disegno;
 
@@ -66,4 +66,4 @@ void FormaNumeriScansione::RispostaGiusta() {
   TastieraNumericaScansione1.AttivaAvanti();
 }
 
-}  // namespace somme
+}  // namespace somme::inline numeri

@@ -5,7 +5,7 @@
 #include "exercises/numbers/casella_posata.h"
 #include "exercises/numbers/forma_numeri.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 // The number exercises by scanning: the keyboard of digits fills `TestoInput`, confirms, and leads
 // on after a right answer. Closing the print panel does not wake the keyboard: that comes with the
@@ -40,4 +40,4 @@ class FormaNumeriScansione final : public FormaNumeri {
        .avanti = [this] { NuovoCaso(); }}};
 };
 
-}  // namespace somme
+}  // namespace somme::inline numeri

@@ -2,7 +2,7 @@
 
 #include "exercises/numbers/disegno_numeri.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 using namespace disegno;
 
@@ -61,4 +61,4 @@ void FormaNumeriTastiera::RispostaGiusta() {
   }
 }
 
-}  // namespace somme
+}  // namespace somme::inline numeri

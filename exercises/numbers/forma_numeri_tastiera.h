@@ -3,7 +3,7 @@
 #include "exercises/numbers/casella_posata.h"
 #include "exercises/numbers/forma_numeri.h"
 
-namespace somme {
+namespace somme::inline numeri {
 
 // The number exercises for mouse and keyboard: the pupil types the number into `TestoInput`.
 class FormaNumeriTastiera final : public FormaNumeri {
@@ -24,4 +24,4 @@ class FormaNumeriTastiera final : public FormaNumeri {
   CasellaPosata casella_{TestoInput, TestoInputInvisibile};
 };
 
-}  // namespace somme
+}  // namespace somme::inline numeri

@@ -7,7 +7,7 @@
 #include "platform/base/numbers.h"
 #include "platform/forms/page.h"
 
-namespace somme {
+namespace somme::inline tabella {
 
 using namespace disegno;
 using Difficolta = PartitaTabella::Difficolta;
@@ -197,4 +197,4 @@ void FormTabella::ChiudiPannelloStampa() {
   NuovoCaso();
 }
 
-}  // namespace somme
+}  // namespace somme::inline tabella

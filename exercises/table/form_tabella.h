@@ -4,7 +4,7 @@
 #include "games/partita_tabella.h"
 #include "platform/forms/controls/button_group.h"
 
-namespace somme {
+namespace somme::inline tabella {
 
 // Sums on the table of the numbers from 0 to 99: the pupil clicks the cell of the result. The
 // operands of a case live only in the words of the question; `RisultatoTabella` is the cell to
@@ -63,4 +63,4 @@ class FormTabella final : public FormaEsercizio {
   platform::ButtonGroup celle_;
 };
 
-}  // namespace somme
+}  // namespace somme::inline tabella

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <random>
 
-namespace platform {
+namespace platform::inline base {
 
 // The one source of chance of a program. Who draws gets it handed in, so that a test can script it.
 class Chance {
@@ -32,4 +32,4 @@ class SeededChance final : public Chance {
   std::mt19937_64 engine_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -2,7 +2,7 @@
 
 #include "platform/base/numbers.h"
 
-namespace platform {
+namespace platform::inline base {
 
 Currency Currency::fromDouble(double value) {
   Currency result;
@@ -10,4 +10,4 @@ Currency Currency::fromDouble(double value) {
   return result;
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -4,7 +4,7 @@
 #include <compare>
 #include <concepts>
 
-namespace platform {
+namespace platform::inline base {
 
 // A fixed-point number with four decimals in 64 bits: what a pupil's answer is kept in, so that
 // comparing it with a sum is exact.
@@ -42,4 +42,4 @@ class Currency final {
   qint64 tenThousandths_ = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <algorithm>
 
-namespace platform {
+namespace platform::inline base {
 
 QStringList filesInFolder(const QString& folder, const QString& suffix) {
   QStringList names = QDir(folder).entryList(QDir::Files, QDir::Unsorted);
@@ -15,4 +15,4 @@ QStringList filesInFolder(const QString& folder, const QString& suffix) {
   return names;
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

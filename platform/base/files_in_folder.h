@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace platform {
+namespace platform::inline base {
 
 // The names of the files in a folder that end with the suffix (".lng", matched without case),
 // without hidden ones and folders, and without those whose bytes are no text to this system.
@@ -11,4 +11,4 @@ namespace platform {
 // there is no such folder.
 [[nodiscard]] QStringList filesInFolder(const QString& folder, const QString& suffix);
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace platform {
+namespace platform::inline base {
 
 enum class BoxIcon { None, Information, Critical };
 enum class BoxButtons { Ok, YesNo };
@@ -23,4 +23,4 @@ class MessageBoxes {
   virtual BoxAnswer show(const MessageBox& box) = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 
-namespace platform {
+namespace platform::inline base {
 
 // One end of a conversation with another program of this computer.
 class Connection {
@@ -37,4 +37,4 @@ class Network {
       std::function<void()> arrived) = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

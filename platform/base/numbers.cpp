@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace platform {
+namespace platform::inline base {
 
 namespace {
 
@@ -192,4 +192,4 @@ qint64 roundHalfEven(double value) {
   return static_cast<qint64>(rounded);
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -7,7 +7,7 @@
 
 #include "platform/base/run_time_error.h"
 
-namespace platform {
+namespace platform::inline base {
 
 // Numbers as text. Nothing here looks at the locale: the point is always ".", digits are 0 to 9.
 
@@ -67,4 +67,4 @@ template <std::integral T>
   return toInt32(roundHalfEven(value));
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

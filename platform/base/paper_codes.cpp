@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-namespace platform {
+namespace platform::inline base {
 
 namespace {
 
@@ -78,4 +78,4 @@ int paperCodeOf(double width, double height) {
   return found == kSizes.end() ? 0 : found->code;
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace platform {
+namespace platform::inline base {
 
 // The codes by which programs know kinds of paper, 1 to 68, and 256 for a size of the user's own.
 inline constexpr int kPaperA3 = 8;
@@ -11,4 +11,4 @@ inline constexpr int kPaperUser = 256;
 // a millimetre and a half. Where several have it, the plainest one is meant.
 [[nodiscard]] int paperCodeOf(double width, double height);
 
-}  // namespace platform
+}  // namespace platform::inline base

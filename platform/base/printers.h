@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <vector>
 
-namespace platform {
+namespace platform::inline base {
 
 // A kind of sheet that a printer takes. Lengths are millimetres, of the sheet held upright.
 struct Paper {
@@ -110,4 +110,4 @@ class PageSetup {
                                     PrinterSettings& settings) = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -8,7 +8,7 @@
 #include "platform/base/profile_text.h"
 #include "platform/base/system_files.h"
 
-namespace platform {
+namespace platform::inline base {
 
 namespace {
 
@@ -47,4 +47,4 @@ void writeProfileValue(const QString& path, const QString& section, const QStrin
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

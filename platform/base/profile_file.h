@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace platform {
+namespace platform::inline base {
 
 // Whether writeProfileValue can do its work there: the file, or one that does not exist yet, can be
 // written, and so can its folder, in which the new file is made.
@@ -14,4 +14,4 @@ namespace platform {
 void writeProfileValue(const QString& path, const QString& section, const QString& key,
                        const QString& value);
 
-}  // namespace platform
+}  // namespace platform::inline base

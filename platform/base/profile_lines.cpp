@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-namespace platform {
+namespace platform::inline base {
 
 namespace {
 
@@ -139,4 +139,4 @@ QString ProfileLines::valueAt(qint64 offset) {
   return value.back().isHighSurrogate() ? value.chopped(1) : value;
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

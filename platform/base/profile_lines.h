@@ -9,7 +9,7 @@
 
 #include "platform/base/text_encoding.h"
 
-namespace platform {
+namespace platform::inline base {
 
 // The line reader for large profile files: the first line that begins with a key wins, whatever
 // section it stands in. Keys are compared with case, from the first column, and a key that is the
@@ -63,4 +63,4 @@ class ProfileLines final {
   TextEncoding encoding_ = TextEncoding::Utf8;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -6,7 +6,7 @@
 
 #include "platform/base/run_time_error.h"
 
-namespace platform {
+namespace platform::inline base {
 
 namespace {
 
@@ -58,4 +58,4 @@ QString ProfileReader::read(const QString& path, const QString& section, const Q
   return std::get<std::unique_ptr<ProfileLines>>(content)->value(key);
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -9,7 +9,7 @@
 #include "platform/base/profile_text.h"
 #include "platform/base/system_files.h"
 
-namespace platform {
+namespace platform::inline base {
 
 // Reads values of profile files and remembers the files read last, so that a form's hundred lookups
 // cost one reading. Each read looks at the file's size, time and identity first; a file that
@@ -45,4 +45,4 @@ class ProfileReader final {
   std::deque<Remembered> remembered_;  // the one used last comes first
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

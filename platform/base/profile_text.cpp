@@ -3,7 +3,7 @@
 #include "platform/base/system_files.h"
 #include "platform/base/text_encoding.h"
 
-namespace platform {
+namespace platform::inline base {
 
 namespace {
 
@@ -190,4 +190,4 @@ std::optional<QByteArray> ProfileText::withValue(const QByteArray& text, const Q
   return result;
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

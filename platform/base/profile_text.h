@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-namespace platform {
+namespace platform::inline base {
 
 // The text of a profile file of ordinary size, read whole: `[section]` lines, `key=value` lines,
 // `;` comments; every other line is ignored. A line ends with LF, CR LF or CR. Blanks and tabs
@@ -41,4 +41,4 @@ class ProfileText final {
   QHash<std::pair<QString, QString>, QString> values_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -1,6 +1,6 @@
 #include "platform/base/run_time_error.h"
 
-namespace platform {
+namespace platform::inline base {
 
 QString RunTimeError::description() const {
   switch (number_) {
@@ -23,4 +23,4 @@ QString RunTimeError::boxText() const {
   return QStringLiteral("Errore di run-time '%1':\n\n%2").arg(number_).arg(description());
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -3,7 +3,7 @@
 #include <QString>
 #include <exception>
 
-namespace platform {
+namespace platform::inline base {
 
 // A failure of the run-time that a handler may ignore on purpose (by catching exactly this type);
 // one that nobody takes ends the program with the run-time's own box.
@@ -31,4 +31,4 @@ class RunTimeError final : public std::exception {
   Number number_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

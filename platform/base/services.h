@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace platform {
+namespace platform::inline base {
 
 // Plays short sounds. A call returns at once and cuts off a sound that is still playing.
 class Sound {
@@ -58,4 +58,4 @@ class InstanceLock {
   [[nodiscard]] virtual bool take() = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -7,7 +7,7 @@
 #include <memory>
 #include <optional>
 
-namespace platform {
+namespace platform::inline base {
 
 // What the system at hand does in its own way with files.
 
@@ -42,4 +42,4 @@ struct FileStamp {
 // What ends the lines of a text that is new.
 [[nodiscard]] QByteArray lineEnd();
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace platform {
+namespace platform::inline base {
 
 namespace {
 
@@ -77,4 +77,4 @@ qsizetype byteOrderMarkSize(QByteArrayView text) {
   return text.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

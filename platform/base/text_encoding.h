@@ -6,7 +6,7 @@
 #include <QStringConverter>
 #include <QStringView>
 
-namespace platform {
+namespace platform::inline base {
 
 // How the text of a file is held. A file is UTF-8 when all of it is; any other is read as
 // Windows-1252, in which every byte means something.
@@ -36,4 +36,4 @@ class Utf8Check final {
 // How many bytes the UTF-8 byte-order mark at the beginning of the text takes: 3 or 0.
 [[nodiscard]] qsizetype byteOrderMarkSize(QByteArrayView text);
 
-}  // namespace platform
+}  // namespace platform::inline base

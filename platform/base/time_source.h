@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-namespace platform {
+namespace platform::inline base {
 
 // A timer that ticks until it is stopped. A tick is never queued twice: one that is due while its
 // tick is still being handled comes once, afterwards. Changing the interval restarts the count.
@@ -33,4 +33,4 @@ class TimeSource {
   [[nodiscard]] virtual std::unique_ptr<Ticker> makeTicker(std::function<void()> tick) = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline base

@@ -4,7 +4,7 @@
 #include "platform/forms/gate.h"
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline boards {
 
 using flash::MovieView;
 
@@ -86,4 +86,4 @@ void Board::formGone() {
   if (widget() != nullptr) viewOf(widget()).setMovie({});
 }
 
-}  // namespace platform
+}  // namespace platform::inline boards

@@ -5,7 +5,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline boards {
 
 // A movie on a form. The form drives it by the operations below and hears of it by one event, which
 // runs through the form's gate like any other; what the movie shows is the movie's own business.
@@ -66,4 +66,4 @@ class Board : public Control {
   int loading_ = 0;  // how many loads the handlers that did them have not ended after yet
 };
 
-}  // namespace platform
+}  // namespace platform::inline boards

@@ -4,7 +4,7 @@
 
 #include "platform/devices/quiet_thread.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -58,4 +58,4 @@ bool BoundedWork::start(const std::shared_ptr<Waiting>& waiting, std::function<v
   return started && waiting->waitFor(time_, limit);
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

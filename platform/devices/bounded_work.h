@@ -10,7 +10,7 @@
 
 #include "platform/base/time_source.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // Whether whoever asked for a piece of work still waits for it. Shared by both.
 class Waiting {
@@ -55,4 +55,4 @@ class BoundedWork {
   std::shared_ptr<std::atomic<int>> threads_ = std::make_shared<std::atomic<int>>(0);
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -7,7 +7,7 @@
 #include "platform/devices/quiet_thread.h"
 #include "platform/devices/sound_desk.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 DeskSound::DeskSound(std::function<void()> beep, Serve serve)
     : desk_(std::make_shared<SoundDesk>(std::move(beep))), serve_(serve) {}
@@ -30,4 +30,4 @@ void DeskSound::play(const QString& path) {
   threadStarted_ = startQuietThread([desk = desk_, serve = serve_] { serve(*desk); });
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

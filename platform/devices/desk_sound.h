@@ -5,7 +5,7 @@
 
 #include "platform/base/services.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 class SoundDesk;
 
@@ -35,4 +35,4 @@ class DeskSound : public Sound {
   bool threadStarted_ = false;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <utility>
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -93,4 +93,4 @@ std::unique_ptr<Connection> LoopbackNetwork::makeConnection(std::function<void()
   return std::make_unique<TcpConnection>(std::move(arrived));
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

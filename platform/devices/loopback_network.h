@@ -2,7 +2,7 @@
 
 #include "platform/base/network.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // Real TCP to 127.0.0.1, without any proxy. Needs a QCoreApplication for as long as connections
 // live, and belongs to its thread.
@@ -15,4 +15,4 @@ class LoopbackNetwork final : public Network {
   [[nodiscard]] std::unique_ptr<Connection> makeConnection(std::function<void()> arrived) override;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -9,7 +9,7 @@
 #include "platform/base/paper_codes.h"
 #include "platform/devices/whole_file.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -84,4 +84,4 @@ bool PdfFolder::writeInto(const QString& folder, const QString& name,
   return naming == Naming::Done;
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

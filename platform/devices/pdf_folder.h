@@ -6,7 +6,7 @@
 
 #include "platform/base/printers.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // The printer that every machine has: it takes A4 and A3 and puts each job as one PDF file into a
 // folder of the user's.
@@ -32,4 +32,4 @@ class PdfFolder {
   int jobs_ = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -4,7 +4,7 @@
 
 #include "platform/base/printers.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // The print queues of the system. Every call may take as long as the system likes: it belongs on a
 // thread of its own, as does the object.
@@ -25,4 +25,4 @@ class PrintQueues {
                                           const std::function<bool()>& wanted) const = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <utility>
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -120,4 +120,4 @@ std::unique_ptr<Ticker> QtTimeSource::makeTicker(std::function<void()> tick) {
   return std::make_unique<QtTicker>(std::move(tick));
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

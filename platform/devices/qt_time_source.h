@@ -2,7 +2,7 @@
 
 #include "platform/base/time_source.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // The clock, the timers and the waits of a running program, on Qt's event loop. Needs a
 // QCoreApplication for as long as timers are made or waits run, and belongs to its thread.
@@ -27,4 +27,4 @@ class QtTimeSource final : public TimeSource {
   [[nodiscard]] std::unique_ptr<Ticker> makeTicker(std::function<void()> tick) override;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

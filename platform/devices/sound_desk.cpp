@@ -4,7 +4,7 @@
 #include <QtGlobal>
 #include <utility>
 
-namespace platform {
+namespace platform::inline devices {
 
 void SoundDesk::leave(SoundRequest request) {
   const std::lock_guard lock(mutex_);
@@ -62,4 +62,4 @@ bool SoundDesk::isClosed() {
   return closed_;
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

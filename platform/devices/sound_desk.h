@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-namespace platform {
+namespace platform::inline devices {
 
 struct SoundRequest {
   QString path;
@@ -59,4 +59,4 @@ class SoundDesk : public std::enable_shared_from_this<SoundDesk> {
   bool complained_ = false;  // the thread's own
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

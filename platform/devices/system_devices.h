@@ -7,7 +7,7 @@
 #include "platform/base/services.h"
 #include "platform/devices/print_queues.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // What the system at hand has for these services. Each system has its own file of this name, in the
 // folder that bears the system's, and the build takes the one.
@@ -20,4 +20,4 @@ namespace platform {
 // Null where the system has no way to printers at all. May load a library, and take its time.
 [[nodiscard]] std::unique_ptr<PrintQueues> systemQueues();
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -4,7 +4,7 @@
 
 #include "platform/devices/system_devices.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -76,4 +76,4 @@ PrintResult SystemPrinters::print(const PrintJob& job) {
       .value_or(PrintResult{});
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

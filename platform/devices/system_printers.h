@@ -8,7 +8,7 @@
 #include "platform/devices/bounded_work.h"
 #include "platform/devices/pdf_folder.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // The printers of the machine: the queues of the system, and after them the built-in one that makes
 // files. The system is asked on threads of their own, which a server that does not answer may hold
@@ -41,4 +41,4 @@ class SystemPrinters final : public Printers {
   QString builtIn_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

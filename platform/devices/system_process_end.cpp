@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-namespace platform {
+namespace platform::inline devices {
 
 void SystemProcessEnd::end(int status) {
   // Not all streams: another thread may be holding one of its own.
@@ -13,4 +13,4 @@ void SystemProcessEnd::end(int status) {
   ::_exit(status);
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -2,7 +2,7 @@
 
 #include "platform/base/services.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // Ends the process on the spot. What was written to the standard streams reaches them; nothing
 // else is tidied up and no thread is waited for, so that a sound server that hangs cannot hold the
@@ -13,4 +13,4 @@ class SystemProcessEnd final : public ProcessEnd {
   [[noreturn]] void end(int status) override;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QString>
 
-namespace platform {
+namespace platform::inline devices {
 
 // What a file needs to appear whole or not at all, in the way of the system at hand.
 
@@ -16,4 +16,4 @@ enum class Naming { Done, Taken, Failed };
 // by now.
 [[nodiscard]] Naming giveName(const QString& part, const QString& whole);
 
-}  // namespace platform
+}  // namespace platform::inline devices

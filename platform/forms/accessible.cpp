@@ -20,7 +20,7 @@
 #include "platform/forms/keys/key_codes.h"
 #include "platform/forms/press_event.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -237,4 +237,4 @@ void installAccessibility() {
   installAccessibleEvents();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -2,7 +2,7 @@
 
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 // Tells Qt how buttons and pictures of this ground stand in the accessibility tree. Called once.
 void installAccessibility();
@@ -24,4 +24,4 @@ class StatesToldLater {
   [[nodiscard]] static bool holds();
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -12,7 +12,7 @@
 #include "platform/forms/accessible_labels.h"
 #include "platform/forms/controls/label_widget.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -198,4 +198,4 @@ void installAccessibleEvents(std::function<void(QAccessibleEvent& event)> pass) 
   QAccessible::installUpdateHandler(hearAccessibleEvent);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

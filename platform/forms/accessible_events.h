@@ -4,7 +4,7 @@
 
 class QAccessibleEvent;
 
-namespace platform {
+namespace platform::inline forms {
 
 // From here on assistive technology gets fewer events than the toolkit makes, so that no sea of
 // them drowns what is to be heard: where the focus is once an event has been handled, not the
@@ -37,4 +37,4 @@ class ComingsToldTogether {
   ComingsToldTogether& operator=(const ComingsToldTogether&) = delete;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QVariant>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -63,4 +63,4 @@ Relations labelRelations(const QWidget& widget, QAccessible::Relation match) {
   return relations;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <QWidget>
 
-namespace platform {
+namespace platform::inline forms {
 
 // The label asks for what goes into the box: assistive technology reads the two together. A box may
 // have several labels, and a label several boxes.
@@ -19,4 +19,4 @@ using Relations = QList<std::pair<QAccessibleInterface*, QAccessible::Relation>>
 // box that has several.
 [[nodiscard]] Relations labelRelations(const QWidget& widget, QAccessible::Relation match);
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -5,7 +5,7 @@
 #include "platform/forms/controls/text_box_widget.h"
 #include "platform/forms/press_event.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 AccessibleTextBox::AccessibleTextBox(TextBoxWidget& box)
     : QAccessibleWidget(&box, QAccessible::EditableText) {}
@@ -134,4 +134,4 @@ void AccessibleTextBox::replaceText(int start, int end, const QString& text) {
   setText(QAccessible::Value, all.replace(start, std::max(0, end - start), text));
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 
 #include "platform/forms/accessible_labels.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class TextBoxWidget;
 
@@ -48,4 +48,4 @@ class AccessibleTextBox final : public QAccessibleWidget,
   [[nodiscard]] TextBoxWidget& box() const;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -7,7 +7,7 @@
 #include "platform/forms/fonts.h"
 #include "platform/forms/house_style.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -38,4 +38,4 @@ void applyAppearance(const BoxDrawings& drawings) {
   installAccessibility();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

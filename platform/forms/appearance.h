@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace platform {
+namespace platform::inline forms {
 
 // The drawings of message boxes, by their names in a folder of pictures; without a folder boxes
 // have those of the toolkit.
@@ -15,4 +15,4 @@ struct BoxDrawings {
 // The look of the program, the same on every desktop: light, in its own style and letters.
 void applyAppearance(const BoxDrawings& drawings = {});
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QtGlobal>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -31,4 +31,4 @@ void silenceLostReaders() {
   if (before != hear) others = before;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 
 #include "platform/forms/focus_ring.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 QImage capture(QWidget& widget, int longest, bool withChildren) {
   const int side = std::max(widget.width(), widget.height());
@@ -27,4 +27,4 @@ QImage capture(QWidget& widget, int longest, bool withChildren) {
   return picture;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

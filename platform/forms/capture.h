@@ -4,7 +4,7 @@
 
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 // A picture of a widget as it is shown, without focus rings, in more pixels than the screen has.
 // Layout and proportions stay those of the screen.
@@ -13,4 +13,4 @@ namespace platform {
 // widget. Null for a widget without an area, and where there is no memory for the picture.
 [[nodiscard]] QImage capture(QWidget& widget, int longest, bool withChildren);
 
-}  // namespace platform
+}  // namespace platform::inline forms

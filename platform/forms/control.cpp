@@ -4,7 +4,7 @@
 
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -183,4 +183,4 @@ void Control::raiseEvent(const std::function<void()>& handler) const {
   if (handler) home().raise(handler);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -9,7 +9,7 @@
 #include "platform/forms/control_home.h"
 #include "platform/forms/design.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // What controls live in: a form, or a reusable control that is made of controls itself.
 class ControlHost {
@@ -152,4 +152,4 @@ class Control {
   bool built_ = false;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

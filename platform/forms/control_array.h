@@ -6,7 +6,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // Makes a hidden control at run time as a copy of another as that stands now: place, look, words.
 // Called by control arrays only.
@@ -59,4 +59,4 @@ class ControlArray {
   std::map<int, std::unique_ptr<T>> elements_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

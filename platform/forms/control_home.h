@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-namespace platform {
+namespace platform::inline forms {
 
 class Control;
 class Ground;
@@ -46,4 +46,4 @@ class ControlHome {
   virtual void release(const Control& control) = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -12,7 +12,7 @@
 // The vocabulary of a form's design: rows of data, one for each control, from which the ground
 // makes the controls. A row is bound to the form's member that stands for the control by a pointer
 // to member, which gives the control's kind, the way to it, and its name.
-namespace platform {
+namespace platform::inline forms {
 
 class Control;
 class Form;
@@ -181,4 +181,4 @@ constexpr Row item(int index, Look look) {
   return row<Member>(index, TwipsRect{}, look);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -2,7 +2,7 @@
 
 #include "platform/base/services.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // Whether the desktop in use wants animations, as it tells its programs: by the settings that it
 // hands out under X, or by the look that the toolkit takes from it. Needs a QApplication.
@@ -11,4 +11,4 @@ class DesktopMotion final : public Motion {
   [[nodiscard]] bool isWanted() override;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

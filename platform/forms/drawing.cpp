@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QTransform>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -106,4 +106,4 @@ void Drawing::paintPart(QPainter& painter, const QString& name, const QRectF& ta
   if (found != parts_.end()) play(painter, found->second.picture, found->second.bounds, target);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

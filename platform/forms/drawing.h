@@ -7,7 +7,7 @@
 
 class QPainter;
 
-namespace platform {
+namespace platform::inline forms {
 
 // A vector drawing as it was once drawn: strokes and fills, to be repeated at any size, and those
 // of its parts that have names. What it was drawn from need not be there any more.
@@ -44,4 +44,4 @@ class Drawing {
   std::map<QString, Part> parts_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -64,4 +64,4 @@ WithoutFocusRings::~WithoutFocusRings() {
   --withoutRings;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

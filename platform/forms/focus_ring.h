@@ -5,7 +5,7 @@ class QPainter;
 class QRect;
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 // How far the ring reaches into what it surrounds, in pixels, where the window is not large.
 inline constexpr double kFocusRingWidth = 5;
@@ -34,4 +34,4 @@ class WithoutFocusRings {
   WithoutFocusRings& operator=(const WithoutFocusRings&) = delete;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

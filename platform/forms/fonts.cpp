@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -72,4 +72,4 @@ int largestThatFits(int wanted, int smallest, const std::function<bool(int)>& fi
   return fitting;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -8,7 +8,7 @@
 
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 // Takes the fonts that lie in a folder (.ttf files) beside those that are installed; none where
 // there is no such folder.
@@ -47,4 +47,4 @@ struct Ink {
 // out in a window of a few pixels may want letters of thousands.
 [[nodiscard]] int largestThatFits(int wanted, int smallest, const std::function<bool(int)>& fits);
 
-}  // namespace platform
+}  // namespace platform::inline forms

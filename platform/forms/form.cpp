@@ -11,7 +11,7 @@
 #include "platform/forms/menu_bar.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -295,4 +295,4 @@ void Form::announce(const QString& sentence) {
   ground_.announcer().announce(sentence);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -14,7 +14,7 @@
 #include "platform/forms/ground.h"
 #include "platform/forms/page.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A form of the program: a page of the one window, made of named controls that its design rows
 // describe. Derived forms hold their controls as members, wire their handlers in the constructor
@@ -145,4 +145,4 @@ class Form : public ControlHost,
   bool unloaded_ = false;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -10,7 +10,7 @@
 #include "platform/forms/modal_window.h"
 #include "platform/forms/window.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 Forms::Forms(Gate& gate, TimeSource& time, Window& window, Factory factory)
     : gate_(gate), time_(time), window_(window), factory_(std::move(factory)) {}
@@ -177,4 +177,4 @@ void Forms::clear() {
   loaded_.clear();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -8,11 +8,14 @@
 
 class QWindow;
 
-namespace platform {
+namespace platform::inline base {
+class TimeSource;
+}
+
+namespace platform::inline forms {
 
 class Form;
 class Gate;
-class TimeSource;
 class Window;
 
 // The forms now loaded, and the moves between them. A form is named by its name, so that who asks
@@ -83,4 +86,4 @@ class Forms {
   bool burying_ = false;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

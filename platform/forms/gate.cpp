@@ -4,7 +4,7 @@
 
 #include "platform/base/run_time_error.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 bool Gate::run(const std::shared_ptr<HandlerOwner>& form, const std::function<void()>& handler,
                Cases cases) {
@@ -65,4 +65,4 @@ Gate::AcrossCases::~AcrossCases() {
   if (!gate_.frames_.empty()) gate_.frames_.back().cases = before_;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,9 +4,11 @@
 #include <memory>
 #include <vector>
 
-namespace platform {
-
+namespace platform::inline base {
 class RunTimeError;
+}
+
+namespace platform::inline forms {
 
 // Who handlers belong to: a form.
 class HandlerOwner {
@@ -83,4 +85,4 @@ class Gate {
   bool closed_ = false;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -40,4 +40,4 @@ Scale scaleFor(QSize clientPixels, QSizeF designTwips) {
   return {width * twips / designTwips.width(), height * twips / designTwips.height(), twips};
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 #include <QSize>
 #include <QSizeF>
 
-namespace platform {
+namespace platform::inline forms {
 
 // Lengths on forms are twips, 1440 to the inch, 15 to a logical pixel.
 inline constexpr double kTwipsPerPixel = 15;
@@ -49,4 +49,4 @@ struct Scale {
 // leaves the 16-bit range on a large screen.
 [[nodiscard]] Scale scaleFor(QSize clientPixels, QSizeF designTwips);
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -7,14 +7,17 @@
 class QCursor;
 class QWidget;
 
-namespace platform {
-
+namespace platform::inline base {
 class Announcer;
+class Network;
+class TimeSource;
+}
+
+namespace platform::inline forms {
+
 class Form;
 class Gate;
-class Network;
 class Pictures;
-class TimeSource;
 
 // What forms and their controls have of the ground that they stand on, whoever holds it together.
 class Ground {
@@ -55,4 +58,4 @@ class Ground {
   virtual void unload(Form& form) = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

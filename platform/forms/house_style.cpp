@@ -11,7 +11,7 @@
 #include "platform/forms/pictures.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -244,4 +244,4 @@ QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
   return {pictures_->pixmap(*name, {side, side}, ratio)};
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

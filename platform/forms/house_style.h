@@ -8,7 +8,7 @@
 class QStyleOptionButton;
 class QStyleOptionComboBox;
 
-namespace platform {
+namespace platform::inline forms {
 
 class Pictures;
 
@@ -40,4 +40,4 @@ class HouseStyle final : public QProxyStyle {
   std::unique_ptr<Pictures> pictures_;  // null where there are no drawings
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

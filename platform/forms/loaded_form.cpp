@@ -1,6 +1,6 @@
 #include "platform/forms/loaded_form.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 bool LoadedForm::runLoad() {
   return form_.run([this] { form_.onLoad(); }, Gate::Cases::DoNotMatter);
@@ -18,4 +18,4 @@ bool LoadedForm::runClose() {
   return form_.run([this] { form_.onClose(); });
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -2,7 +2,7 @@
 
 #include "platform/forms/form.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A form as the engine has it, which builds, shows, activates and unloads it and brings it keys.
 // Authors of forms do not include this.
@@ -39,4 +39,4 @@ class LoadedForm {
   Form& form_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -40,4 +40,4 @@ bool MenuBar::accessKey(QChar key) {
   return false;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

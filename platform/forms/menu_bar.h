@@ -2,7 +2,7 @@
 
 #include <QMenuBar>
 
-namespace platform {
+namespace platform::inline forms {
 
 // A menu bar inside the page, on every desktop. Its access keys are worked by the form, since the
 // toolkit's own fire again and again while a key is held.
@@ -18,4 +18,4 @@ class MenuBar final : public QMenuBar {
   void scaleTo(int pageHeight);
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -5,7 +5,7 @@
 
 #include "platform/forms/loaded_form.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -60,4 +60,4 @@ void ModalWindow::resizeEvent(QResizeEvent* event) {
   form_.page()->setGeometry(rect());
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

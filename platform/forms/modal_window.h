@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-namespace platform {
+namespace platform::inline forms {
 
 class Form;
 
@@ -33,4 +33,4 @@ class ModalWindow final : public QDialog {
   double growth_ = 0;  // of the design's logical pixels; settled when the window comes up
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

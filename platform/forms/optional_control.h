@@ -4,7 +4,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A control that only some of the designs of a form's class have: the design's row makes it, and
 // without a row there is none.
@@ -28,4 +28,4 @@ class OptionalControl {
   std::optional<T> control_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

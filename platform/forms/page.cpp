@@ -11,7 +11,7 @@
 #include "platform/forms/menu_bar.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -136,4 +136,4 @@ void Page::paintEvent(QPaintEvent* event) {
   painter.fillRect(event->rect() & QRect(0, 0, width(), canvas_->y()), kGradientFirst);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <optional>
 
-namespace platform {
+namespace platform::inline forms {
 
 class MenuBar;
 struct FormDesign;
@@ -78,4 +78,4 @@ class Page final : public QWidget {
   QSize arranged_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

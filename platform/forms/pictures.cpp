@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QPainter>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -100,4 +100,4 @@ QPoint Pictures::hotSpot(const QString& name, QSize size) {
           qRound(spot.y() * size.height() / own.height())};
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -10,7 +10,7 @@
 
 class QPainter;
 
-namespace platform {
+namespace platform::inline forms {
 
 // The program's drawings, by name: the files of one folder, read at their first use and drawn sharp
 // at any size. A missing one draws nothing.
@@ -47,4 +47,4 @@ class Pictures {
   std::map<QString, QIcon> icons_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

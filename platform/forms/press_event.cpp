@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QWidget>
 
-namespace platform {
+namespace platform::inline forms {
 
 QEvent::Type pressEvent() {
   static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
@@ -14,4 +14,4 @@ void postPress(QWidget& widget, int keyCode) {
   QCoreApplication::postEvent(&widget, new PressEvent(keyCode));
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 // A press by assistive technology. It is posted to the widget that it is meant for, as an event, so
 // that it passes the guard in front of the windows as a click does, and finds the widget as it is
@@ -24,4 +24,4 @@ class PressEvent final : public QEvent {
 
 void postPress(QWidget& widget, int keyCode = 0);
 
-}  // namespace platform
+}  // namespace platform::inline forms

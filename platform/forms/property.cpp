@@ -2,7 +2,7 @@
 
 #include "platform/forms/user_control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 PropertyBase::PropertyBase(UserControl& owner, QString name)
     : owner_(owner), name_(std::move(name)) {
@@ -13,4 +13,4 @@ void PropertyBase::changed(bool laysOut) {
   owner_.propertyChanged(*this, laysOut);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 
 #include "platform/forms/property_bag.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class UserControl;
 
@@ -93,4 +93,4 @@ class InnerProperty : public PropertyBase {
   std::function<void(const T&)> put_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

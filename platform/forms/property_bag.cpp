@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -46,4 +46,4 @@ PropertyValue PropertyBag::read(QStringView name, const PropertyValue& fallback)
   return found == entries_.end() ? fallback : found->value;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -13,7 +13,7 @@
 #include "platform/base/run_time_error.h"
 #include "platform/forms/design.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // What a property can hold in a store.
 using PropertyValue = std::variant<bool, qint16, qint32, double, QString>;
@@ -71,4 +71,4 @@ class PropertyBag {
   std::vector<Entry> entries_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -2,7 +2,7 @@
 
 #include "platform/forms/loaded_form.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 void ProportionalLayout::start() {
   LoadedForm(form_).layOut();
@@ -12,4 +12,4 @@ void ProportionalLayout::resize() {
   LoadedForm(form_).layOut();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

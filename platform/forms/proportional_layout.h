@@ -1,6 +1,6 @@
 #pragma once
 
-namespace platform {
+namespace platform::inline forms {
 
 class Form;
 
@@ -19,4 +19,4 @@ class ProportionalLayout {
   Form& form_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -9,7 +9,7 @@
 #include "platform/forms/accessible.h"
 #include "platform/forms/desktop_voice.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -88,4 +88,4 @@ void QtAnnouncer::speak() {
   if (QWidget* who = speaker()) tell_(*who, told_.join(QStringLiteral(". ")));
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -9,7 +9,7 @@
 
 #include "platform/base/services.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // Speaks through the desktop's screen reader. What is told while one event is handled is spoken
 // together, once that is over, on behalf of what has the focus then: a screen reader hears nothing
@@ -56,4 +56,4 @@ class QtAnnouncer final : public QObject, public Announcer {
   QPointer<QWidget> lastFocus_;  // where nothing has the focus a screen reader is still there
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

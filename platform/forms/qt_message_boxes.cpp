@@ -6,7 +6,7 @@
 
 #include "platform/forms/fonts.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -85,4 +85,4 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& message) {
   return box.clickedButton() == yes ? BoxAnswer::Yes : BoxAnswer::No;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 // The words on the buttons, in the language of the moment.
 struct ButtonWords {
@@ -29,4 +29,4 @@ class QtMessageBoxes final : public MessageBoxes {
   std::function<QWidget*()> parent_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

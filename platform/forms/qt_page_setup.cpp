@@ -13,7 +13,7 @@
 
 #include "platform/forms/fonts.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -107,4 +107,4 @@ bool QtPageSetup::choose(const QString& printer, const PrinterTraits& traits,
   return true;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 // The words of the page set-up, in the language of the moment.
 struct PageSetupWords {
@@ -42,4 +42,4 @@ class QtPageSetup final : public PageSetup {
   std::function<QWidget*()> parent_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include "platform/base/numbers.h"
 #include "platform/forms/design.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A colour that is held as one number: red in the lowest eight bits, then green, then blue. What
 // lies above them is left out. Throws RunTimeError(Overflow) for a number that 32 bits do not hold.
@@ -13,4 +13,4 @@ namespace platform {
           static_cast<std::uint8_t>(bits >> 16U)};
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -10,7 +10,7 @@
 #include "platform/forms/keys/key_guard.h"
 #include "platform/forms/keys/keyboard_state.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -97,4 +97,4 @@ void Runtime::failed(const RunTimeError& error) {
   services_.end.end(kFailedStatus);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

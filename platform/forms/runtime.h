@@ -14,7 +14,7 @@
 #include "platform/forms/pictures.h"
 #include "platform/forms/window.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class KeyGuard;
 
@@ -77,4 +77,4 @@ class Runtime final : public Ground {
   int deaf_ = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

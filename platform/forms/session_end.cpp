@@ -5,7 +5,7 @@
 
 #include "platform/forms/runtime.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 SessionEnd::SessionEnd(Runtime& runtime) : runtime_(runtime) {
   QCoreApplication::instance()->installEventFilter(this);
@@ -20,4 +20,4 @@ bool SessionEnd::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

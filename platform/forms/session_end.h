@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-namespace platform {
+namespace platform::inline forms {
 
 class Runtime;
 
@@ -23,4 +23,4 @@ class SessionEnd final : public QObject {
   Runtime& runtime_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

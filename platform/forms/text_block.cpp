@@ -8,7 +8,7 @@
 
 #include "platform/forms/fonts.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -220,4 +220,4 @@ void TextBlock::paint(QPainter& painter, const QRect& area, const QColor& ink,
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -9,7 +9,7 @@
 
 class QPainter;
 
-namespace platform {
+namespace platform::inline forms {
 
 // A caption set into a rectangle: in the design's size where it fits, wrapped where that helps,
 // smaller where it must be, never cut. Painted with an outline where the colours alone would be
@@ -63,4 +63,4 @@ void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const
 // The access key of a caption, upper case; null where it has none.
 [[nodiscard]] QChar accessKeyOf(const QString& caption);
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <optional>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -95,4 +95,4 @@ qsizetype setTextInto(QPainter* painter, const QString& text, const QFont& font,
   return text.size();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

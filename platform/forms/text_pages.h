@@ -6,7 +6,7 @@
 
 class QPainter;
 
-namespace platform {
+namespace platform::inline forms {
 
 // Sets as much of a text into an area as goes there: line by line, wrapped between words and inside
 // of one only where it is longer than a line. Line ends are CR LF, LF or CR. The time that it takes
@@ -20,4 +20,4 @@ namespace platform {
 [[nodiscard]] qsizetype setTextInto(QPainter* painter, const QString& text, const QFont& font,
                                     const QColor& ink, const QRectF& area, qsizetype from);
 
-}  // namespace platform
+}  // namespace platform::inline forms

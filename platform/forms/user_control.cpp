@@ -5,7 +5,7 @@
 
 #include "platform/base/run_time_error.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 UserControl::UserControl(ControlHost& host, std::span<const InnerRow> rows)
     : Control(host), rows_(rows) {}
@@ -90,4 +90,4 @@ void UserControl::keysLetGo() {
   for (Control* control : inner_) control->keysLetGo();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -8,7 +8,7 @@
 #include "platform/forms/property.h"
 #include "platform/forms/property_bag.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // One inner control of a reusable control, as a design row is one control of a form.
 struct InnerRow {
@@ -89,4 +89,4 @@ class UserControl : public Control, public ControlHost {
   QStringList changed_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

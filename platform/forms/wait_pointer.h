@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QCursor>
 
-namespace platform {
+namespace platform::inline forms {
 
 // The hourglass over the whole program while one lives.
 class WaitPointer {
@@ -14,4 +14,4 @@ class WaitPointer {
   WaitPointer& operator=(const WaitPointer&) = delete;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

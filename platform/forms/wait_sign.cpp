@@ -10,7 +10,7 @@
 #include "platform/forms/runtime.h"
 #include "platform/forms/wait_pointer.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -66,4 +66,4 @@ void waitVisibly(Runtime& runtime, const QString& words, const std::function<voi
   runtime.waitDeaf(work);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -8,7 +8,7 @@
 class QLabel;
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 class Runtime;
 
@@ -34,4 +34,4 @@ class WaitSign {
 // the window in use, which are announced as well.
 void waitVisibly(Runtime& runtime, const QString& words, const std::function<void()>& work);
 
-}  // namespace platform
+}  // namespace platform::inline forms

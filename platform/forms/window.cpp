@@ -8,7 +8,7 @@
 #include "platform/base/time_source.h"
 #include "platform/forms/loaded_form.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -84,4 +84,4 @@ void Window::closeEvent(QCloseEvent* event) {
   closed_();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

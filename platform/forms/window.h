@@ -5,10 +5,13 @@
 
 class QStackedWidget;
 
-namespace platform {
+namespace platform::inline base {
+class TimeSource;
+}
+
+namespace platform::inline forms {
 
 class Form;
-class TimeSource;
 
 // The one main window: it shows one form at a time, from which it takes its caption and icon, and
 // keeps its own size, place and maximised state from form to form.
@@ -42,4 +45,4 @@ class Window final : public QMainWindow {
   QStackedWidget* stack_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -15,7 +15,7 @@
 using platform::Row;
 using prova::Banco;
 using namespace somme;
-using namespace somme::disegno;
+using namespace somme::programma::disegno;
 
 namespace {
 

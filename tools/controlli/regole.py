@@ -15,6 +15,7 @@ _REGOLE = (
     ("no ring of headers", struttura.cicli_di_intestazioni),
     ("no knot", struttura.nodi_troppo_grandi),
     ("one name, one class", struttura.nomi_doppi),
+    ("a namespace a room", struttura.spazi_altrui),
     ("no near-copy", testo.copie),
     ("short files", testo.file_lunghi),
     ("titles of commits", lambda: testo.titoli(_TITOLI_DA)),

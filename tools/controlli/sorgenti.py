@@ -19,6 +19,28 @@ PIANI = (
     ("app",),
 )
 STANZE = tuple(stanza for piano in PIANI for stanza in piano)
+# The namespace of each room. Inline where the rooms above need not say in which room a name is at home:
+# two rooms may then mean two things by one name, and whoever sees both has to say which.
+SPAZI = {
+    "platform/base": "platform::inline base",
+    "platform/flash": "platform::flash",
+    "platform/forms": "platform::inline forms",
+    "platform/devices": "platform::inline devices",
+    "platform/boards": "platform::inline boards",
+    "cases": "somme::inline casi",
+    "games": "somme::inline giochi",
+    "immagini": "somme::inline immagini",
+    "app/shared": "somme::inline condiviso",
+    "printing": "somme::inline stampa",
+    "input": "somme::inline ingresso",
+    "exercises/core": "somme::inline nucleo",
+    "exercises/numbers": "somme::inline numeri",
+    "exercises/bars": "somme::inline barre",
+    "exercises/blocks": "somme::inline blocchi",
+    "exercises/abacus": "somme::inline abaco",
+    "exercises/table": "somme::inline tabella",
+    "app": "somme::inline programma",
+}
 
 
 def piano(stanza):

@@ -111,6 +111,27 @@ def tipi_definiti(percorso):
         dentro.append(nome)
 
 
+_SPAZIO_ESTERNO = re.compile(r"^namespace\s+(?P<nomi>(?:somme|platform)\b[\w:]*(?:\s*inline\s+\w+)?[\w:]*)\s*\{"
+                            r"(?P<primo>[^{}]*)", re.M)
+_SOLO_ANNUNCI = re.compile(r"(?:\s*(?:template\s*<[^<>]*>\s*)?(?:class|struct|enum\s+class)\s+\w+"
+                           r"(?:\s*:\s*\w+)?;)*\s*")
+
+
+def spazi_altrui():
+    """Places of a room in which something is defined in another namespace than the room's own. What is
+    announced there and defined in its own room is none."""
+    for percorso in sorgenti.prodotto():
+        proprio = sorgenti.SPAZI[sorgenti.stanza(percorso)]
+        codice = sorgenti.codice(percorso)
+        for trovato in _SPAZIO_ESTERNO.finditer(codice):
+            nomi = " ".join(trovato["nomi"].split())
+            annunci = (_SOLO_ANNUNCI.fullmatch(trovato["primo"])
+                       and codice[trovato.end():trovato.end() + 1] == "}")
+            if nomi != proprio and not nomi.startswith(proprio + "::") and not annunci:
+                riga = codice.count("\n", 0, trovato.start()) + 1
+                yield f"{percorso}:{riga}: namespace {nomi}, where the room has {proprio}"
+
+
 def nomi_doppi():
     """Types, or inline functions and variables, of one full name that two files of one program define:
     of the product, or of the tests of a folder, which stand in one program with the product and what

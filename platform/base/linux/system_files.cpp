@@ -5,7 +5,7 @@
 #include <QFileInfo>
 #include <utility>
 
-namespace platform {
+namespace platform::inline base {
 
 namespace {
 
@@ -45,4 +45,4 @@ QByteArray lineEnd() {
   return QByteArrayLiteral("\n");
 }
 
-}  // namespace platform
+}  // namespace platform::inline base

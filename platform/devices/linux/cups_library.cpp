@@ -2,7 +2,7 @@
 
 #include "platform/devices/linux/shared_library.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 std::optional<CupsLibrary> CupsLibrary::load(const char* file) {
   const SharedLibrary library(file);
@@ -34,4 +34,4 @@ std::optional<CupsLibrary> CupsLibrary::load(const char* file) {
   return complete ? std::optional(cups) : std::nullopt;
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-namespace platform {
+namespace platform::inline devices {
 
 // What the program uses of CUPS' client library, found when a printer is first asked for, so that
 // no start loads it. Once loaded it stays, since threads of ours may be waiting in it.
@@ -39,4 +39,4 @@ struct CupsLibrary {
   decltype(&cupsCancelDestJob) cancelDestJob = nullptr;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

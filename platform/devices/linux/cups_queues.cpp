@@ -6,7 +6,7 @@
 
 #include "platform/base/paper_codes.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -235,4 +235,4 @@ PrintResult CupsQueues::print(const PrintJob& job, const std::function<bool()>& 
   return result;
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -3,7 +3,7 @@
 #include "platform/devices/linux/cups_library.h"
 #include "platform/devices/print_queues.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // The print queues that CUPS has. Each thread that calls makes its own connection.
 class CupsQueues final : public PrintQueues {
@@ -26,4 +26,4 @@ class CupsQueues final : public PrintQueues {
   CupsLibrary cups_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

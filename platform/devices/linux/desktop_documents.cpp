@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
-namespace platform {
+namespace platform::inline devices {
 
 void DesktopDocuments::open(const QString& path) {
   const QFileInfo document(path);
@@ -20,4 +20,4 @@ void DesktopDocuments::open(const QString& path) {
   opener.startDetached();
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

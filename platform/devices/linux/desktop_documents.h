@@ -2,7 +2,7 @@
 
 #include "platform/base/services.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // Opens a document by the desktop's own means, xdg-open, as a process of its own: it outlives this
 // program, says nothing on the program's streams, and leaves no dead child behind. Where the
@@ -12,4 +12,4 @@ class DesktopDocuments final : public Documents {
   void open(const QString& path) override;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

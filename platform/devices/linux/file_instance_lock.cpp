@@ -13,7 +13,7 @@
 #include <cerrno>
 #include <utility>
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -99,4 +99,4 @@ void FileInstanceLock::letGo() {
   descriptors_.clear();
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -5,7 +5,7 @@
 
 #include "platform/base/services.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // One instance for each user and executable, held by a lock of the kernel on an empty file. The
 // kernel lets go of it when the process ends, however it ends, so that one that died never blocks
@@ -38,4 +38,4 @@ class FileInstanceLock final : public InstanceLock {
   std::vector<int> descriptors_;  // one for each folder that had the file
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

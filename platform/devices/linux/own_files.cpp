@@ -7,7 +7,7 @@
 #include <climits>
 #include <initializer_list>
 
-namespace platform {
+namespace platform::inline devices {
 
 bool takeOwnFiles() {
   if (::close_range(STDERR_FILENO + 1, UINT_MAX, CLOSE_RANGE_UNSHARE) != 0) {
@@ -26,4 +26,4 @@ bool takeOwnFiles() {
   return true;
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

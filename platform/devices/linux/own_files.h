@@ -1,6 +1,6 @@
 #pragma once
 
-namespace platform {
+namespace platform::inline devices {
 
 // Gives the calling thread, and the threads that it starts from then on, a table of open files of
 // their own: nothing stands in it but /dev/null in the place of input, output and the error stream.
@@ -12,4 +12,4 @@ namespace platform {
 // program's, as before.
 bool takeOwnFiles();
 
-}  // namespace platform
+}  // namespace platform::inline devices

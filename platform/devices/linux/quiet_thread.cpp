@@ -6,7 +6,7 @@
 #include <system_error>
 #include <thread>
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -38,4 +38,4 @@ bool startQuietThread(std::function<void()> work) {
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -2,7 +2,7 @@
 
 #include "platform/devices/linux/shared_library.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 std::optional<SdlLibrary> SdlLibrary::load(const char* file) {
   const SharedLibrary library(file);
@@ -27,4 +27,4 @@ std::optional<SdlLibrary> SdlLibrary::load(const char* file) {
   return sdl;
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace platform {
+namespace platform::inline devices {
 
 // What the program uses of SDL2, found when it is first needed: linking it would load some thirty
 // libraries at every start, also for a pupil who works without sound. Once loaded it stays until
@@ -37,4 +37,4 @@ struct SdlLibrary {
   decltype(&SDL_GetQueuedAudioSize) getQueuedAudioSize = nullptr;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

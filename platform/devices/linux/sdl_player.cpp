@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdlib>
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -96,4 +96,4 @@ void SdlPlayer::close() {
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

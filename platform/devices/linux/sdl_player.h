@@ -8,7 +8,7 @@
 
 #include "platform/devices/linux/sdl_library.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // A sound as it lies in memory, in the format of its file.
 struct SdlWave {
@@ -53,4 +53,4 @@ class SdlPlayer {
   std::size_t firstDriver_ = 0;  // the one that gave a device last
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -9,7 +9,7 @@
 #include "platform/devices/linux/sdl_player.h"
 #include "platform/devices/sound_desk.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 namespace {
 
@@ -91,4 +91,4 @@ void serve(SoundDesk& desk) {
 
 SdlSound::SdlSound(std::function<void()> beep) : DeskSound(std::move(beep), serve) {}
 
-}  // namespace platform
+}  // namespace platform::inline devices

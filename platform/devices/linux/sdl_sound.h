@@ -2,7 +2,7 @@
 
 #include "platform/devices/desk_sound.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 // Sound on SDL2: library, sound system and device are the sound thread's alone, the device is
 // closed again after each sound, and the thread then sleeps.
@@ -17,4 +17,4 @@ class SdlSound final : public DeskSound {
   explicit SdlSound(std::function<void()> beep);
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

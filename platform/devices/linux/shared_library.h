@@ -2,7 +2,7 @@
 
 #include <dlfcn.h>
 
-namespace platform {
+namespace platform::inline devices {
 
 // A library that is loaded when it is first needed, and stays to the end of the process.
 class SharedLibrary {
@@ -23,4 +23,4 @@ class SharedLibrary {
   void* handle_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -8,7 +8,7 @@
 #include "platform/devices/linux/file_instance_lock.h"
 #include "platform/devices/linux/sdl_sound.h"
 
-namespace platform {
+namespace platform::inline devices {
 
 std::unique_ptr<Sound> systemSound(std::function<void()> beep) {
   return std::make_unique<SdlSound>(std::move(beep));
@@ -27,4 +27,4 @@ std::unique_ptr<PrintQueues> systemQueues() {
   return cups ? std::make_unique<CupsQueues>(*cups) : nullptr;
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <cstdio>
 
-namespace platform {
+namespace platform::inline devices {
 
 bool bringToDisk(QFile& file) {
   return ::fsync(file.handle()) == 0;
@@ -26,4 +26,4 @@ Naming giveName(const QString& part, const QString& whole) {
   return errno == EEXIST ? Naming::Taken : Naming::Failed;
 }
 
-}  // namespace platform
+}  // namespace platform::inline devices

@@ -5,7 +5,7 @@
 #include <array>
 #include <initializer_list>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -48,4 +48,4 @@ void paintAnswerMark(QPainter& painter, const QRectF& face, AnswerMark mark) {
   painter.restore();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

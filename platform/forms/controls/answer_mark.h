@@ -4,7 +4,7 @@
 
 class QPainter;
 
-namespace platform {
+namespace platform::inline forms {
 
 // What became of a button that was an answer.
 enum class AnswerMark { None, Right, Wrong };
@@ -13,4 +13,4 @@ enum class AnswerMark { None, Right, Wrong };
 // what a colour says is said without it, too. Nothing for None.
 void paintAnswerMark(QPainter& painter, const QRectF& face, AnswerMark mark);
 
-}  // namespace platform
+}  // namespace platform::inline forms

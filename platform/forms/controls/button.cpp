@@ -6,7 +6,7 @@
 #include "platform/forms/fonts.h"
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 QWidget* Button::create(QWidget* parent) {
   auto* button = new ButtonWidget(parent, ground().pictures(), [this] { click(); });
@@ -84,4 +84,4 @@ void Button::applyLook() {
   if (button->accessibleName() != spoken) button->setAccessibleName(spoken);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

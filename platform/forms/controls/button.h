@@ -6,7 +6,7 @@
 #include "platform/forms/control.h"
 #include "platform/forms/controls/answer_mark.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class ButtonWidget;
 class CaptionSize;
@@ -62,4 +62,4 @@ class Button : public Control {
   bool ringed_ = false;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -8,7 +8,7 @@
 #include "platform/forms/controls/color_mix.h"
 #include "platform/forms/focus_ring.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -82,4 +82,4 @@ void paintButtonFace(QPainter& painter, const QWidget& button, const ButtonFace&
   painter.restore();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 class QPainter;
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 // How the face of a button looks, on forms and in boxes alike.
 struct ButtonFace {
@@ -38,4 +38,4 @@ inline constexpr QColor kPlainFace(238, 240, 244);
 void paintButtonFace(QPainter& painter, const QWidget& button, const ButtonFace& face,
                      const QPainterPath& outline, const QPainterPath& inside);
 
-}  // namespace platform
+}  // namespace platform::inline forms

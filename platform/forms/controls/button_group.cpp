@@ -12,7 +12,7 @@
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/label.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -160,4 +160,4 @@ bool ButtonGroup::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

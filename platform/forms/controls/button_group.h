@@ -5,7 +5,7 @@
 
 class QWidget;
 
-namespace platform {
+namespace platform::inline forms {
 
 class Button;
 class Label;
@@ -48,4 +48,4 @@ class ButtonGroup final : public QObject {
   Button* reached_ = nullptr;  // by keys; null when by mouse
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

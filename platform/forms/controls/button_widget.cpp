@@ -14,7 +14,7 @@
 #include "platform/forms/pictures.h"
 #include "platform/forms/press_event.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -245,4 +245,4 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   paintAnswerMark(painter, body(), mark_);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -12,7 +12,7 @@
 #include "platform/forms/controls/caption_size.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class Pictures;
 
@@ -91,4 +91,4 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
   bool stateUntold_ = false;  // assistive technology takes it for enabled, or disabled, wrongly
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

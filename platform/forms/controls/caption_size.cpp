@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -61,4 +61,4 @@ int CaptionSize::pixelSize() {
   return *pixelSize_;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

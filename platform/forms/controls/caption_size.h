@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-namespace platform {
+namespace platform::inline forms {
 
 class CaptionSize;
 
@@ -58,4 +58,4 @@ class CaptionSize {
   std::optional<int> pixelSize_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

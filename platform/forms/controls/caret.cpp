@@ -4,7 +4,7 @@
 #include <QEvent>
 #include <QLineEdit>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -74,4 +74,4 @@ bool Caret::eventFilter(QObject* /*watched*/, QEvent* event) {
   return false;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

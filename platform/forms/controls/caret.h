@@ -5,7 +5,7 @@
 
 class QLineEdit;
 
-namespace platform {
+namespace platform::inline forms {
 
 // When the text cursor of a line edit is seen. It blinks as the desktop has it, and stands still,
 // and seen, once nobody has worked there for three seconds: blinking wakes the program. The line
@@ -30,4 +30,4 @@ class Caret final : public QObject {
   bool lit_ = true;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -48,4 +48,4 @@ void CheckBox::access() {
   setChecked(!isChecked());
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

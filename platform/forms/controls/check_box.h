@@ -4,7 +4,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A box that is ticked or not. Space, the mouse and its access key change it.
 class CheckBox : public Control {
@@ -31,4 +31,4 @@ class CheckBox : public Control {
   std::function<void()> clicked_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <cmath>
 
-namespace platform {
+namespace platform::inline forms {
 
 // part: of the way from one colour to the other, 0 to 1.
 [[nodiscard]] inline QColor mixed(const QColor& from, const QColor& to, double part) {
@@ -12,4 +12,4 @@ namespace platform {
           channel(from.blue(), to.blue())};
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 
 #include "platform/forms/fonts.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -83,4 +83,4 @@ void ComboBox::choose(const QString& text) {
   if (index >= 0) setListIndex(index);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

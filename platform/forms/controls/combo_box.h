@@ -5,7 +5,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A drop-down list: one of its lines is chosen, nothing can be typed. Arrows choose, Space and
 // Alt+Down open the list.
@@ -35,4 +35,4 @@ class ComboBox : public Control {
   bool choosing_ = false;  // the program chooses
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -7,7 +7,7 @@
 
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // Hears of everything after which the panel can have the focus where it could not before.
 class FocusKeeper::Watch final : public QObject {
@@ -88,4 +88,4 @@ void FocusKeeper::look() {
   if (QWidget* menu = QApplication::activePopupWidget()) watch_->follow(*menu);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -5,7 +5,7 @@
 #include "platform/base/time_source.h"
 #include "platform/forms/controls/key_panel.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // Holds the keyboard focus for a key panel while it is enabled: wherever the focus goes inside the
 // panel's window, it is back within the interval. It is never taken from a menu, a box or another
@@ -42,4 +42,4 @@ class FocusKeeper : public Control {
   int interval_ = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

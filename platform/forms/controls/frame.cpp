@@ -7,7 +7,7 @@
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -94,4 +94,4 @@ void Frame::setCaption(const QString& caption) {
   if (widget() != nullptr) frameOf(widget())->setCaption(caption);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A line round controls that belong together, with a caption in it. It takes no focus itself.
 class Frame : public Control {
@@ -26,4 +26,4 @@ class Frame : public Control {
   QString caption_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include "platform/forms/controls/image_widget.h"
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -40,4 +40,4 @@ void Image::setVisible(bool visible) {
   Control::setVisible(visible);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

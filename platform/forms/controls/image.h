@@ -3,7 +3,7 @@
 #include "platform/forms/control.h"
 #include "platform/forms/controls/movement.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // How a picture comes up: small and growing, with the parts beside its first flying out of its
 // middle, or shaken once.
@@ -37,4 +37,4 @@ class Image : public Control {
   Movement movement_{[this](double part) { show(part); }};
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

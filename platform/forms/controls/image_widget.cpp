@@ -7,7 +7,7 @@
 
 #include "platform/forms/pictures.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -104,4 +104,4 @@ void ImageWidget::paintShake(QPainter& painter) const {
   pictures_.paint(painter, name_, area);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

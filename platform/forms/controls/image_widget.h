@@ -4,7 +4,7 @@
 
 #include "platform/forms/controls/image.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class Pictures;
 
@@ -36,4 +36,4 @@ class ImageWidget final : public QWidget {
   double margin_ = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

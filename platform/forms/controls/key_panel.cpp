@@ -5,7 +5,7 @@
 
 #include "platform/forms/controls/key_panel_widget.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 QWidget* KeyPanel::create(QWidget* parent) {
   const auto handed = [this](std::function<void(int)> KeyPanel::*handler) {
@@ -31,4 +31,4 @@ void KeyPanel::pointAt(const Control& control) {
   if (widget() != nullptr) static_cast<KeyPanelWidget*>(widget())->pointAt(control.widget());
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

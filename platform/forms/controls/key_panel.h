@@ -4,7 +4,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // Holds the keyboard for a control that is worked by keys alone and shows what they act on by marks
 // of its own. It is not seen itself; assistive technology is told of what it points at as of what
@@ -32,4 +32,4 @@ class KeyPanel : public Control {
   std::function<void(int)> keyUp_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

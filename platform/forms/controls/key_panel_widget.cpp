@@ -7,7 +7,7 @@
 #include "platform/forms/keys/key_codes.h"
 #include "platform/forms/press_event.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 KeyPanelWidget::KeyPanelWidget(QWidget* parent, Handler down, Handler up)
     : QWidget(parent), down_(std::move(down)), up_(std::move(up)) {
@@ -73,4 +73,4 @@ void KeyPanelWidget::focusInEvent(QFocusEvent* event) {
       Qt::QueuedConnection);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

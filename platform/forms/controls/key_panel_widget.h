@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <functional>
 
-namespace platform {
+namespace platform::inline forms {
 
 // The widget of a key panel: shows nothing, holds the focus and hands on its keys.
 class KeyPanelWidget final : public QWidget {
@@ -33,4 +33,4 @@ class KeyPanelWidget final : public QWidget {
   QPointer<QWidget> pointed_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

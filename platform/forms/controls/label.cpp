@@ -7,7 +7,7 @@
 #include "platform/forms/fonts.h"
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -89,4 +89,4 @@ void Label::access() {
   if (next != all.end()) (*next)->setFocus();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 #include "platform/forms/controls/movement.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class CaptionSize;
 
@@ -45,4 +45,4 @@ class Label : public Control {
   CaptionSize* captionSize_ = nullptr;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -7,7 +7,7 @@
 #include "platform/forms/controls/color_mix.h"
 #include "platform/forms/focus_ring.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -99,4 +99,4 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   block_.paint(painter, room(), ink_, litGround());
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -7,7 +7,7 @@
 #include "platform/forms/design.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // The widget of a label. A QLabel for what the toolkit knows of it, painted by our own rules.
 class LabelWidget final : public QLabel, public FittedCaption {
@@ -54,4 +54,4 @@ class LabelWidget final : public QLabel, public FittedCaption {
   QSize laidRoom_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

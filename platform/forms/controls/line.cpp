@@ -5,7 +5,7 @@
 #include "platform/forms/controls/line_widget.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 QWidget* Line::create(QWidget* parent) {
   return new LineWidget(parent);
@@ -34,4 +34,4 @@ void Line::applyLook() {
   if (line->accessibleName() != toolTip()) line->setAccessibleName(toolTip());
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -2,7 +2,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A straight line over what is painted on the form. In its design row left and top are its first
 // end, width and height how far from there its second end lies. It takes no mouse.
@@ -27,4 +27,4 @@ class Line : public Control {
   void applyLook() override;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

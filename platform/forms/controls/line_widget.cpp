@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-namespace platform {
+namespace platform::inline forms {
 
 LineWidget::LineWidget(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -39,4 +39,4 @@ void LineWidget::paintEvent(QPaintEvent* /*event*/) {
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

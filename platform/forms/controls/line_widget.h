@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QWidget>
 
-namespace platform {
+namespace platform::inline forms {
 
 // The widget of a line: just large enough for it.
 class LineWidget final : public QWidget {
@@ -26,4 +26,4 @@ class LineWidget final : public QWidget {
   QColor ink_ = Qt::black;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

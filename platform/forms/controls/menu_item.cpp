@@ -8,7 +8,7 @@
 #include "platform/forms/menu_bar.h"
 #include "platform/forms/page.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -92,4 +92,4 @@ QWidget* MenuItem::container() const {
   return menu_;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

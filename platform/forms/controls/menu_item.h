@@ -9,7 +9,7 @@
 class QAction;
 class QMenu;
 
-namespace platform {
+namespace platform::inline forms {
 
 // An item of a form's menu: on the menu bar, or in the menu of the item that its row names as its
 // container. Its check mark is set by the form alone, never by the click itself.
@@ -47,4 +47,4 @@ class MenuItem : public Control {
   std::function<void()> clicked_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

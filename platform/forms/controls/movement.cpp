@@ -2,7 +2,7 @@
 
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -45,4 +45,4 @@ void Movement::step() {
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

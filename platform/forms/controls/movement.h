@@ -5,7 +5,7 @@
 
 #include "platform/base/time_source.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class Ground;
 
@@ -33,4 +33,4 @@ class Movement {
   bool moves_ = false;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -74,4 +74,4 @@ void OptionButton::access() {
   select();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

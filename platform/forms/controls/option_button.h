@@ -4,7 +4,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // One of several choices: of the options in one container exactly one is selected. Space, arrows,
 // the mouse and its access key select it.
@@ -32,4 +32,4 @@ class OptionButton : public Control {
   std::function<void()> clicked_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -5,7 +5,7 @@
 
 #include "platform/forms/focus_ring.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 PanelWidget::PanelWidget(QWidget* parent, bool border) : QWidget(parent), border_(border) {
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -33,4 +33,4 @@ void PanelWidget::paintEvent(QPaintEvent* event) {
   if (border_) paintBorder(painter, rect(), markPixels(*this, 1), QColor(110, 110, 110));
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QWidget>
 
-namespace platform {
+namespace platform::inline forms {
 
 // The widget of a picture box: a group in the accessibility tree.
 class PanelWidget final : public QWidget {
@@ -27,4 +27,4 @@ class PanelWidget final : public QWidget {
   QRect where_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include "platform/forms/controls/panel_widget.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 QWidget* PictureBox::create(QWidget* parent) {
   return new PanelWidget(parent, look().border);
@@ -33,4 +33,4 @@ void PictureBox::setVisible(bool visible) {
   if (!visible) home().uncover(*this);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -5,7 +5,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A panel on the form that holds other controls.
 class PictureBox : public Control {
@@ -31,4 +31,4 @@ class PictureBox : public Control {
   QImage picture_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -8,7 +8,7 @@
 #include "platform/forms/text_block.h"
 #include "platform/forms/text_pages.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -71,4 +71,4 @@ qsizetype RichTextBox::formatRange(QPainter* painter, const QRectF& area, qsizet
   return setTextInto(painter, text_, font, toColor(foreColor()), area, from);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 
 class QPainter;
 
-namespace platform {
+namespace platform::inline forms {
 
 // A box that shows a growing text: read-only, its text can be selected. A line is added at the end;
 // the text is never rebuilt for it.
@@ -32,4 +32,4 @@ class RichTextBox : public Control {
   QString text_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -5,7 +5,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -81,4 +81,4 @@ void RingWidget::paintEvent(QPaintEvent* /*event*/) {
   painter.fillPath(rounded(dark, kCorner - kEdge).subtracted(rounded(inside, 2)), kDark);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-namespace platform {
+namespace platform::inline forms {
 
 // A thick ring round one thing among several, which tells it from the others without colour: dark,
 // with a light edge on either side, so that it stands out on a ground of any colour. It lies over
@@ -28,4 +28,4 @@ class RingWidget final : public QWidget {
   int thickness_ = 0;  // of the dark ring, in pixels
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include "platform/forms/controls/scroll_bar_widget.h"
 #include "platform/forms/form.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -50,4 +50,4 @@ int ScrollBar::maximum() const {
   return static_cast<ScrollBarWidget*>(widget())->maximum();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A horizontal scroll bar from which a number is chosen: an arrow at each end, a thumb that can be
 // dragged, and the way between them, on which a press brings the thumb to the pointer. Arrow keys
@@ -40,4 +40,4 @@ class ScrollBar : public Control {
   double unit_ = 1;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -7,7 +7,7 @@
 
 #include "platform/forms/focus_ring.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -164,4 +164,4 @@ void ScrollBarWidget::paintEvent(QPaintEvent* /*event*/) {
   if (hasFocus()) paintFocusRing(painter, *this, corner());
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include <QSlider>
 #include <functional>
 
-namespace platform {
+namespace platform::inline forms {
 
 // The widget of a scroll bar. A QSlider for its keys, its wheel and what assistive technology knows
 // of it; painted and worked by mouse in its own way, with parts as large as its place allows.
@@ -47,4 +47,4 @@ class ScrollBarWidget final : public QSlider {
   int grip_ = kNoGrip;  // where the thumb is held, pixels from its left edge
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -7,7 +7,7 @@
 
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -71,4 +71,4 @@ void Shape::applyLook() {
       toColor(foreColor()), look().back ? std::optional(toColor(backColor())) : std::nullopt);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

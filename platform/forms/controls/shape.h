@@ -2,7 +2,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A rectangle painted on the form: an edge in the fore colour, and a ground where the row gives
 // one. The edge is as wide as its row says, wider on a page that has grown; half of it stands
@@ -24,4 +24,4 @@ class Shape : public Control {
   [[nodiscard]] int edge() const;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -6,7 +6,7 @@
 #include "platform/forms/gate.h"
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -58,4 +58,4 @@ void Socket::close() {
   if (connection_) connection_->close();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

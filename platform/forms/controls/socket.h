@@ -7,7 +7,7 @@
 #include "platform/base/network.h"
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A form's connection to another program of this computer. The form is the client. Arrivals come
 // through the form's gate, also inside its waits, and stop for ever when the form is unloaded.
@@ -42,4 +42,4 @@ class Socket : public Control {
   std::unique_ptr<Connection> connection_;  // made at the first connect
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

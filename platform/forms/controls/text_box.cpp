@@ -5,7 +5,7 @@
 #include "platform/forms/ground.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -118,4 +118,4 @@ void TextBox::askForDigits() {
   if (widget() != nullptr) widget()->setInputMethodHints(Qt::ImhDigitsOnly);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

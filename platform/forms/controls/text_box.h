@@ -4,7 +4,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A box for one line of text. Its length limit and its key filter hold for everything that the user
 // enters, whatever the way: typing, pasting, dropping, an input method; not for what the program
@@ -58,4 +58,4 @@ class TextBox : public Control {
   QString fontName_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -10,7 +10,7 @@
 #include "platform/forms/text_block.h"
 
 // How a text box looks: its letters and where they stand, its cursor, its edge.
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -178,4 +178,4 @@ void TextBoxWidget::paintEvent(QPaintEvent* event) {
   paintEdge();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

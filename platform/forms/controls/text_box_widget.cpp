@@ -14,7 +14,7 @@
 #include "platform/forms/keys/key_codes.h"
 #include "platform/forms/press_event.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -231,4 +231,4 @@ void TextBoxWidget::focusInEvent(QFocusEvent* event) {
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -8,7 +8,7 @@
 #include "platform/forms/controls/caret.h"
 #include "platform/forms/design.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class Pictures;
 
@@ -102,4 +102,4 @@ class TextBoxWidget final : public QLineEdit {
   bool entering_ = false;  // characters are coming in one by one
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

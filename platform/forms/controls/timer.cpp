@@ -2,7 +2,7 @@
 
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 Timer::Timer(ControlHost& host) : Control(host) {}
 
@@ -35,4 +35,4 @@ void Timer::update() {
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

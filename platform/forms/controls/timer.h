@@ -6,7 +6,7 @@
 #include "platform/base/time_source.h"
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A timer of a form: its ticks run through the form's gate, and stop for ever when the form is
 // unloaded.
@@ -33,4 +33,4 @@ class Timer : public Control {
   int interval_ = 0;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

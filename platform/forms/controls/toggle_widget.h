@@ -10,7 +10,7 @@
 #include "platform/forms/press_event.h"
 #include "platform/forms/text_block.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // A check box or an option button of Qt's, with the access keys and presses of our own.
 template <class Base, QStyle::ControlElement Element>
@@ -60,4 +60,4 @@ class OptionButtonWidget final : public ToggleWidget<QRadioButton, QStyle::CE_Ra
   void keyPressEvent(QKeyEvent* event) override;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

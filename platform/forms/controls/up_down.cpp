@@ -9,7 +9,7 @@
 #include "platform/forms/controls/up_down_widget.h"
 #include "platform/forms/ground.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // Takes the Up and Down keys from the box, which has no use for them.
 class UpDown::BoxKeys final : public QObject {
@@ -83,4 +83,4 @@ void UpDown::applyLook() {
   widget()->setToolTip(toolTip());
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 
 #include "platform/forms/control.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 class TextBox;
 
@@ -39,4 +39,4 @@ class UpDown : public Control {
   std::function<void()> changed_;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -5,7 +5,7 @@
 
 #include "platform/forms/focus_ring.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -94,4 +94,4 @@ void UpDownWidget::paintEvent(QPaintEvent* /*event*/) {
   paintArrow(painter, QRect(half, 0, width() - half, height()), true);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

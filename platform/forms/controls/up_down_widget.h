@@ -6,7 +6,7 @@
 
 #include "platform/base/time_source.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // The widget of a spinner: two arrows side by side, each as high as the box that they work on. To
 // assistive technology it is something with a value.
@@ -44,4 +44,4 @@ class UpDownWidget final : public QAbstractSlider {
   bool telling_ = false;
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

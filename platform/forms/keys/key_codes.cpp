@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-namespace platform {
+namespace platform::inline forms {
 
 int keyCodeOf(const QKeyEvent& event) {
   switch (event.key()) {
@@ -49,4 +49,4 @@ bool mayRepeat(const QKeyEvent& event) {
   }
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -4,7 +4,7 @@
 
 class QKeyEvent;
 
-namespace platform {
+namespace platform::inline forms {
 
 // The codes by which forms know the keys that they ask for.
 inline constexpr int kKeyBackspace = 8;
@@ -27,4 +27,4 @@ inline constexpr int kKeySpace = 32;
 // Whether a held key may go on writing and moving in a text box, as everywhere.
 [[nodiscard]] bool mayRepeat(const QKeyEvent& event);
 
-}  // namespace platform
+}  // namespace platform::inline forms

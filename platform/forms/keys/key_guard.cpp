@@ -16,7 +16,7 @@
 #include "platform/forms/press_event.h"
 #include "platform/forms/window.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -275,4 +275,4 @@ bool KeyGuard::mouse(QWindow& window, const QMouseEvent& event) {
   return false;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -13,7 +13,7 @@ class QMouseEvent;
 class QWidget;
 class QWindow;
 
-namespace platform {
+namespace platform::inline forms {
 
 class Forms;
 class Ground;
@@ -70,4 +70,4 @@ class KeyGuard final : public QObject {
   bool dropRelease_ = false;  // of a mouse press that was dropped
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -178,4 +178,4 @@ bool KeyState::anyHeldOver() const {
                              [](const Entry& entry) { return entry.muted && !entry.gone; });
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

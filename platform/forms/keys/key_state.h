@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-namespace platform {
+namespace platform::inline forms {
 
 // What a key is known by: its scan code, or the key code of the toolkit where the desktop gives no
 // scan code (on-screen keyboards, some remote desktops).
@@ -138,4 +138,4 @@ class KeyState {
   std::vector<Entry> entries_;  // in the order of the presses
 };
 
-}  // namespace platform
+}  // namespace platform::inline forms

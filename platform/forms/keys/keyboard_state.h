@@ -5,7 +5,7 @@
 
 #include "platform/forms/keys/key_state.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // What the display server knows of the keyboard; today only X11's does.
 
@@ -17,4 +17,4 @@ namespace platform {
 // do nothing by themselves; nothing where the server cannot be asked.
 [[nodiscard]] std::optional<std::vector<KeyId>> keysDownNow();
 
-}  // namespace platform
+}  // namespace platform::inline forms

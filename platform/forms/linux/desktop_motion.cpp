@@ -5,11 +5,11 @@
 
 #include "platform/forms/linux/desktop_settings.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 bool DesktopMotion::isWanted() {
   if (QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) <= 0) return false;
   return numberIn(desktopSettings(), QByteArrayLiteral("Gtk/EnableAnimations")).value_or(1) != 0;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

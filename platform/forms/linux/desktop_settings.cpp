@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -104,4 +104,4 @@ QByteArray desktopSettings() {
           xcb_get_property_value_length(reply.get())};
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

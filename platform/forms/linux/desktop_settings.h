@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <optional>
 
-namespace platform {
+namespace platform::inline forms {
 
 // The settings that a desktop hands to programs under X, as a block of bytes in its settings
 // manager's property: a byte for the order of bytes, three of none, a serial number, a count, and
@@ -16,4 +16,4 @@ namespace platform {
 // The block that stands on the desktop now; empty without an X server or a settings manager.
 [[nodiscard]] QByteArray desktopSettings();
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -8,7 +8,7 @@
 #include <QDBusVariant>
 #endif
 
-namespace platform {
+namespace platform::inline forms {
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 
@@ -47,4 +47,4 @@ void tellDesktop(QWidget& speaker, const QString& sentence) {
 
 #endif
 
-}  // namespace platform
+}  // namespace platform::inline forms

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -23,4 +23,4 @@ void onBestWindowSystem(const std::function<void()>& make) {
   if (choose) qunsetenv(kChoice);
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

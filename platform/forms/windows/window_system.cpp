@@ -1,10 +1,10 @@
 #include "platform/forms/window_system.h"
 
-namespace platform {
+namespace platform::inline forms {
 
 // There is one.
 void onBestWindowSystem(const std::function<void()>& make) {
   make();
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms

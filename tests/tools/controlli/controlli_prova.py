@@ -77,6 +77,19 @@ class Casa(unittest.TestCase):
         self.assertEqual(["x::y::A is defined more than once: cases/a.h:2, cases/b.h:4"],
                          list(struttura.nomi_doppi()))
 
+    def test_what_a_room_defines_in_another_namespace_is_found(self):
+        self.file(cases__a_h="namespace somme::inline casi {\nclass A {};\n}\n",
+                  games__b_h="namespace somme::inline casi {\nclass A;\nstruct B;\n}\n\n"
+                             "namespace somme::inline giochi {\nclass G {};\n}\n",
+                  games__c_h="namespace somme::inline casi {\nclass C {};\n}\n",
+                  games__d_h="namespace somme {\nvoid d();\n}\n",
+                  games__e_h="namespace somme::inline giochi::forme {\nclass E {};\n}\n",
+                  tests__f_cpp="namespace prova {\nclass F {};\n}\n")
+        self.assertEqual(
+            list(struttura.spazi_altrui()),
+            ["games/c.h:1: namespace somme::inline casi, where the room has somme::inline giochi",
+             "games/d.h:1: namespace somme, where the room has somme::inline giochi"])
+
     def test_tests_of_one_folder_stand_in_one_program_and_those_of_two_do_not(self):
         self.file(tests__cases__a_cpp="struct A {};\n", tests__cases__b_cpp="struct A {};\n",
                   tests__input__a_cpp="struct A {};\n")

@@ -11,7 +11,7 @@
 #undef explicit
 #include <xcb/xcb.h>
 
-namespace platform {
+namespace platform::inline forms {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::optional<std::vector<KeyId>> keysDownNow() {
   return keys;
 }
 
-}  // namespace platform
+}  // namespace platform::inline forms
