@@ -13,6 +13,7 @@
 #include "platform/forms/controls/image_widget.h"
 #include "platform/forms/controls/key_panel_widget.h"
 #include "platform/forms/controls/label_widget.h"
+#include "platform/forms/controls/line_widget.h"
 #include "platform/forms/controls/panel_widget.h"
 #include "platform/forms/controls/scroll_bar_widget.h"
 #include "platform/forms/controls/text_box_widget.h"
@@ -176,14 +177,20 @@ class AccessibleKeyPanel final : public QAccessibleWidget {
   }
 };
 
+// Whether the class of this name, one of the object's own or of its bases, is Widget.
+template <typename Widget>
+bool named(const QString& className) {
+  return className == QLatin1String(Widget::staticMetaObject.className());
+}
+
 QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
-  if (className == QLatin1String("platform::ButtonWidget")) {
+  if (named<ButtonWidget>(className)) {
     return new AccessibleButton(static_cast<QWidget*>(object));
   }
-  if (className == QLatin1String("platform::ScrollBarWidget")) {
+  if (named<ScrollBarWidget>(className)) {
     return new AccessibleScrollBar(static_cast<ScrollBarWidget&>(*object));
   }
-  if (className == QLatin1String("platform::TextBoxWidget")) {
+  if (named<TextBoxWidget>(className)) {
     return new AccessibleTextBox(static_cast<TextBoxWidget&>(*object));
   }
   if (auto* box = dynamic_cast<CheckBoxWidget*>(object)) {
@@ -192,21 +199,20 @@ QAccessibleInterface* interfaceFor(const QString& className, QObject* object) {
   if (auto* option = dynamic_cast<OptionButtonWidget*>(object)) {
     return new AccessibleToggle(option, QAccessible::RadioButton);
   }
-  if (className == QLatin1String("platform::ImageWidget") ||
-      className == QLatin1String("platform::LineWidget")) {
+  if (named<ImageWidget>(className) || named<LineWidget>(className)) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
   }
   if (className == QLatin1String("QStackedWidget")) {
     // The toolkit's own is a pane of layers, which a reader would name whenever a page comes up.
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Client);
   }
-  if (className == QLatin1String("platform::LabelWidget")) {
+  if (named<LabelWidget>(className)) {
     return new AccessibleLabel(static_cast<QWidget*>(object));
   }
-  if (className == QLatin1String("platform::KeyPanelWidget")) {
+  if (named<KeyPanelWidget>(className)) {
     return new AccessibleKeyPanel(static_cast<QWidget*>(object));
   }
-  if (className == QLatin1String("platform::PanelWidget")) {
+  if (named<PanelWidget>(className)) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
   }
   return nullptr;
