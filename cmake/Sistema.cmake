@@ -11,7 +11,7 @@ pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xkb)
 set(SOMME_LIBRERIE_FINESTRE Qt6::DBus PkgConfig::XCB)
 set(SOMME_LIBRERIE_DISPOSITIVI ${CMAKE_DL_LIBS})
 find_package(ZLIB REQUIRED)
-# The build's own tools read SVG; the program does not.
-if(NOT SOMME_HOST_BUILD)
+# The build's own tools and the tests read SVG; the program does not.
+if(NOT SOMME_HOST_BUILD OR BUILD_TESTING)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Svg)
 endif()

@@ -30,5 +30,9 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-sil-andika, fonts-liberation2 | fonts-li
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "libcups2 | libcups2t64, libsdl2-2.0-0, qt6-wayland, xdg-utils, evince | pdf-viewer, at-spi2-core")
 file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/epoca.cmake" "set(ENV{SOURCE_DATE_EPOCH} ${SOMME_EPOCA})\n")
+if(SOMME_ARCH)
+  set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${SOMME_ARCH})
+  file(APPEND "${CMAKE_CURRENT_BINARY_DIR}/epoca.cmake" "set(ENV{DEB_HOST_ARCH} ${SOMME_ARCH})\n")
+endif()
 set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_BINARY_DIR}/epoca.cmake")
 include(CPack)

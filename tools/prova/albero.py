@@ -3,6 +3,7 @@
 Import it after the Schermo has been entered: the tree belongs to the desktop of the environment.
 """
 
+import os
 import time
 
 import gi
@@ -13,6 +14,8 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 # Without an event loop of our own the library would go on answering with what it heard first.
 NIENTE = Atspi.Cache.NONE
+# Seconds to wait for an answer.
+PAZIENZA = 20 * float(os.environ.get("LENTEZZA", 1))
 
 
 class TempoScaduto(Exception):
@@ -159,7 +162,7 @@ class Albero:
                 return oggetto
         return None
 
-    def aspetta(self, che_cosa, domanda, secondi=20):
+    def aspetta(self, che_cosa, domanda, secondi=PAZIENZA):
         """Asks again and again until the answer is true, and returns it.
 
         che_cosa: in words, for the complaint when the time is over or the program has ended.
@@ -176,7 +179,7 @@ class Albero:
                 raise TempoScaduto(f"waiting for {che_cosa}; on the screen:\n{self.racconta()}")
             time.sleep(0.05)
 
-    def aspetta_oggetto(self, ruolo, nome, secondi=20):
+    def aspetta_oggetto(self, ruolo, nome, secondi=PAZIENZA):
         return self.aspetta(f"{ruolo} {nome!r}", lambda: self.cerca(ruolo, nome), secondi)
 
     def racconta(self):

@@ -5,10 +5,13 @@
 
 Where a fresh Debian can be made (root, debootstrap, an archive that answers) the package is
 installed in one, with what it depends on and nothing else, and removed at the end; elsewhere it is
-laid out in a plain folder. An archive is unpacked in one without Qt. Its program must be hardened. A case is solved, the language changed, the
-program started again in it, the manual opened.
+laid out in a plain folder. A package for another of Debian's architectures goes into a Debian of that,
+whose programs must run here (see emulazione.py); an archive is unpacked in one without Qt. Its program
+must be hardened. A case is solved, the language changed, the program started again in it, the manual
+opened.
 """
 
+import functools
 import os
 import shutil
 import signal
@@ -18,7 +21,7 @@ import tempfile
 
 import difese
 from giocatore import AVVIO, BOTTONE, VOCE, Errore, Giocatore
-from installazione import NESSUNO, Cartella, Debian, Portatile, SenzaDebian
+from installazione import NESSUNO, Cartella, Debian, Portatile, SenzaDebian, esegui
 from partite import PARTITE
 from schermo import ErroreSchermo, Schermo
 
@@ -162,9 +165,20 @@ def usa_installato(albero, cartella):
     albero.togli()
 
 
+def alberi(pacchetto):
+    """What the trees are made by that the package may go into, the best first."""
+    if pacchetto.endswith(".tar.xz"):
+        return [Portatile]
+    sua = esegui("dpkg-deb", "--field", pacchetto, "Architecture").strip()
+    if sua != esegui("dpkg", "--print-architecture").strip():
+        return [functools.partial(Debian, architettura=sua)]
+    return [Debian, Cartella]
+
+
 def collauda(pacchetto, cartella):
     pacchetto = os.path.abspath(pacchetto)
-    for tipo in (Portatile,) if pacchetto.endswith(".tar.xz") else (Debian, Cartella):
+    tipi = alberi(pacchetto)
+    for tipo in tipi:
         with tempfile.TemporaryDirectory(prefix="collaudo-") as radice:
             os.chmod(radice, 0o755)
             albero = tipo(os.path.realpath(radice))
@@ -172,7 +186,7 @@ def collauda(pacchetto, cartella):
                 print(f"Installing in {'a plain folder' if tipo is Cartella else 'a fresh Debian'}")
                 albero.installa(pacchetto)
             except SenzaDebian as perche:
-                if tipo is Portatile:
+                if tipo is tipi[-1]:
                     raise Errore(f"no fresh Debian can be made here: {perche}") from None
                 print("No fresh Debian can be made here; the package goes into a plain folder, on the"
                       f" libraries of this machine: {perche}")

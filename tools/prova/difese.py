@@ -10,8 +10,13 @@ import re
 import subprocess
 import sys
 
-# What a function begins with that may be reached by a jump to its address: endbr64.
-APPRODO = b"\xf3\x0f\x1e\xfa"
+# What a function begins with that may be reached by a jump to its address, by the processor's name:
+# endbr64; paciasp or bti c; endbr32.
+APPRODI = {
+    "Advanced Micro Devices X86-64": (b"\xf3\x0f\x1e\xfa",),
+    "AArch64": (b"\x3f\x23\x03\xd5", b"\x5f\x24\x03\xd5"),
+    "Intel 80386": (b"\xf3\x0f\x1e\xfb",),
+}
 # So many stand in what the compiler itself adds to each program, whatever that is made with.
 APPRODI_DI_TUTTI = 16
 
@@ -43,9 +48,11 @@ def mancano(percorso):
         "the stack cannot be run": re.search(r"GNU_STACK .* RW +0x", parti),
         "frames are guarded (stack protector)": "__stack_chk_fail" in simboli,
     }
-    if "Advanced Micro Devices X86-64" in testa:
+    processore = re.search(r"Machine: +(.*)", testa)[1]
+    if processore in APPRODI:
+        istruzioni = _istruzioni(percorso)
         prove["jumps land where they may (control-flow protection)"] = (
-            _istruzioni(percorso).count(APPRODO) > APPRODI_DI_TUTTI)
+            sum(istruzioni.count(a) for a in APPRODI[processore]) > APPRODI_DI_TUTTI)
     return [parole for parole, vero in prove.items() if not vero]
 
 

@@ -10,7 +10,7 @@ from giocatore import Errore
 # Somebody without any right of their own.
 NESSUNO = 65534
 # Seconds after which an archive that does not answer counts as none.
-PAZIENZA = 900
+PAZIENZA = 900 * float(os.environ.get("LENTEZZA", 1))
 PAZIENZA_ARCHIVIO = 60
 
 
@@ -86,6 +86,11 @@ class Debian(Albero):
 
     diritti = ("--inh-caps=+sys_chroot", "--ambient-caps=+sys_chroot")
 
+    def __init__(self, radice, architettura=None):
+        """architettura: one of Debian's, where it is not this machine's own; its programs run here."""
+        super().__init__(radice)
+        self._architettura = architettura
+
     def crea(self):
         """The tree, with its package lists. Raises SenzaDebian where machine or archive give none."""
         if os.geteuid() != 0 or shutil.which("debootstrap") is None:
@@ -135,7 +140,8 @@ class Debian(Albero):
         return nome, sito
 
     def _debootstrap(self, nome, sito):
-        esegui("debootstrap", "--variant=minbase", nome, self.radice, sito,
+        altra = (f"--arch={self._architettura}",) if self._architettura else ()
+        esegui("debootstrap", "--variant=minbase", *altra, nome, self.radice, sito,
                pazienza=PAZIENZA, errore=SenzaDebian)
         for cosa in ("sources.list", "sources.list.d", "apt.conf.d", "trusted.gpg.d"):
             da, a = os.path.join("/etc/apt", cosa), self.dentro("/etc/apt", cosa)

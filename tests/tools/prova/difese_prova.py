@@ -31,9 +31,14 @@ int large(const char* word) {
 """ + "".join(f"int many{i}(int a) {{ return a + {i}; }}\n" for i in range(40)) + """
 int main(int n, char** words) { return large(words[0]) + many1(n); }
 """
-TUTTE = {"stack": "-fstack-protector-strong", "jumps": "-fcf-protection", "pie": "-fPIE -pie",
+# The options for control flow with all of it, and without.
+SALTI = (("-mbranch-protection=standard", "-mbranch-protection=none")
+         if "aarch64" in subprocess.run([COMPILATORE, "-dumpmachine"], check=True, capture_output=True,
+                                        text=True).stdout
+         else ("-fcf-protection", "-fcf-protection=none"))
+TUTTE = {"stack": "-fstack-protector-strong", "jumps": SALTI[0], "pie": "-fPIE -pie",
          "relro": "-Wl,-z,relro", "now": "-Wl,-z,now", "noexec": "-Wl,-z,noexecstack"}
-SENZA = {"stack": "-fno-stack-protector", "jumps": "-fcf-protection=none",
+SENZA = {"stack": "-fno-stack-protector", "jumps": SALTI[1],
          "pie": "-fno-pie -no-pie", "relro": "-Wl,-z,norelro", "now": "-Wl,-z,lazy",
          "noexec": "-Wl,-z,execstack"}
 
@@ -47,8 +52,7 @@ class Difese(unittest.TestCase):
             sorgente, programma = (os.path.join(cartella, n) for n in ("a.cpp", "a"))
             with open(sorgente, "w", encoding="ascii") as file:
                 file.write(PROGRAMMA)
-            subprocess.run([COMPILATORE, "-O2", *opzioni, sorgente, "-o", programma], check=True)
-            subprocess.run(["strip", programma], check=True)
+            subprocess.run([COMPILATORE, "-O2", "-s", *opzioni, sorgente, "-o", programma], check=True)
             return difese.mancano(programma)
 
     def test_a_program_with_all_of_them_misses_none(self):
