@@ -2,13 +2,17 @@
 """Plays exercises as gioca.py does, with the screen reader Orca listening, and holds what it says
 against what it should.
 
-    ascoltata.py <program> <folder> <stand-in for the touch surface> [<exercise> ...]
+    ascoltata.py <program> <folder> <stand-in for the touch surface> [<exercise>[/mouse] ...]
 
-Without an exercise all of them are played. On every form the question of each case must be spoken,
-help, what comes to stand on a board, a carry, and each verdict with its count: that within 300 ms of
-the key, click or touch. Nothing of it may be cut off by anything but the next of these, nor a
-question by the box of the touch link, which it waits behind. The folder gets what was said, a file
-an exercise. Ends with 0 when all was heard.
+Without an exercise all of them are played, as who hears them does: by keys, on their own or those of
+a scanning keyboard, or by touch; the abacus, whose beads no key reaches, with the mouse, too. On
+every form the question of each case must be spoken, help, what comes to stand on a board, a carry,
+the keys that a light has come to, and each verdict with its count: that within 300 ms of the key or
+touch. A mouse has the reader itself look for what was clicked, among all that is on the screen: there
+no time is held. Nothing may be cut off by anything but the next of these, nor a question by the box
+of the touch link, which it waits behind; and nothing that is spoken is without a name. The folder
+gets what was said, a file an exercise, with the hand and the events of the bus between. Ends with 0
+when all was heard.
 """
 
 import contextlib
@@ -24,6 +28,7 @@ from giocatore import AVVIO, ERRATI, ESATTI, Errore, Giocatore
 from lettore import ErroreLettore, Lettore
 from partite import PARTITE
 from schermo import ErroreSchermo, Schermo
+from senza_mouse import SoloTasti
 from tavoletta import ErroreTavoletta, Tavoletta
 
 GIUSTO, SBAGLIATO = "Giusto", "Sbagliato: prova ancora"
@@ -31,37 +36,63 @@ ENTRO = float(os.environ.get("ASCOLTATA_ENTRO", "0.3"))  # seconds; more on a ma
 AL_PIU = 12  # events of the accessibility bus at a verdict
 VECCHIO = "Focus:"  # tells a change of the focus again, in older words
 ASPETTA = 15  # seconds
+SILENZIO, PAZIENZA = 0.25, 3  # seconds: the reader's silence that a hand waits for, and how long
+BOTTONE_DETTO = " push button."
+COL_MOUSE = "/mouse"
+SENZA_NOME = re.compile(r"(push button|button|text|label|panel|image|menu|menu item|layered pane)?\.?")
 
 
 class Gesti(list):
     """The moments at which the pupil's hands did something, seconds."""
 
-    def segna(self, oggetto, nome):
-        """Has every call of a method mark its moment."""
+    def segna(self, oggetto, nome, prima):
+        """Has every call of a method mark its moment, after what comes before it."""
         metodo = getattr(oggetto, nome)
 
         def segnato(*argomenti):
+            prima()
             self.append(time.monotonic())
             return metodo(*argomenti)
         setattr(oggetto, nome, segnato)
 
 
-class GiocatoreAscoltato(Giocatore):
-    """Plays, and hears at each step what must be heard."""
+class _Ascoltato:
+    """Beside one of the players: hears at each step what must be heard."""
+
+    entro = ENTRO
 
     def __init__(self, *argomenti):
         super().__init__(*argomenti[:-1])
         self._lettore = argomenti[-1]
-        self._gesti = Gesti()
+        self.gesti = Gesti()
         self.misure = []  # (what, milliseconds from the hand to the voice, events)
         self.mancati = []
         self._udito = 0, 0  # how far all has been found: which one of what was said, how much of it
         self._domanda = None
         for oggetto, nome in ((self.mani, "_xdotool"), (self.tavoletta, "fai")):
             if oggetto is not None:
-                self._gesti.segna(oggetto, nome)
+                self.gesti.segna(oggetto, nome, self._lascia_finire)
+
+    def _lascia_finire(self):
+        """Waits until the reader has said where one is, as who hears it does."""
+        def finito(detto):
+            # The name of a key is said at once, before what the key has brought.
+            parlato = any(parole.endswith(".") for quando, _, parole in detto
+                          if quando > max(self.gesti, default=0))
+            attesa = SILENZIO if parlato else 3 * SILENZIO
+            return time.monotonic() > attesa + max((detto[-1][0], *self.gesti[-1:]))
+        self._aspetta_detto(finito, PAZIENZA)
+
+    def _aspetta_detto(self, vero, secondi):
+        """Waits until that is true of what has been said, or so long."""
+        fine = time.monotonic() + secondi
+        while time.monotonic() < fine and not vero(self._lettore.detto()):
+            time.sleep(0.05)
 
     def chiesta(self, leggi=None):
+        # Who looks at the tree takes the program's time from the reader: first it speaks.
+        self._aspetta_detto(lambda detto: any("=" in parole for quando, _, parole in detto
+                                              if quando > self.gesti[-1]), PAZIENZA)
         termini = super().chiesta(leggi)
         parole = [t for t in termini if t]
         # Read again in the middle of a case, a sum has been spoken at its beginning.
@@ -93,12 +124,21 @@ class GiocatoreAscoltato(Giocatore):
             self._deve_dire("verdict at the end", frase)
 
     def rispondi(self, risposta, dai, giusto):
-        super().rispondi(risposta, dai, giusto)
         parola, conto = (GIUSTO, ESATTI) if giusto else (SBAGLIATO, ERRATI)
-        self._deve_dire("verdict", f"{parola}. {conto} {self.conta(conto)}")
+        verdetto = f"{parola}. {conto} {(self.conta(conto) or 0) + 1}"
+
+        def dai_e_ascolta(data):
+            dai(data)
+            self._deve_dire("verdict", verdetto)
+        super().rispondi(risposta, dai_e_ascolta, giusto)
 
     def _deve_dire(self, che_cosa, parole):
-        self._deve_udire(che_cosa, lambda d: d.find(parole) + len(parole) if parole in d else 0)
+        def quanto(detto):
+            # A button that bears such words says what it would do, not what is.
+            if che_cosa == "board" and detto.endswith(BOTTONE_DETTO):
+                return 0
+            return detto.find(parole) + len(parole) if parole in detto else 0
+        self._deve_udire(che_cosa, quanto)
 
     def _deve_udire(self, che_cosa, quanto):
         """Looks for it in what has been said since the last thing that was found.
@@ -122,7 +162,7 @@ class GiocatoreAscoltato(Giocatore):
 
     def _misura(self, che_cosa, detto, i):
         quando, _, parole = detto[i]
-        gesto = max((g for g in self._gesti if g < quando), default=quando)
+        gesto = max((g for g in self.gesti if g < quando), default=quando)
         # What comes behind it.
         time.sleep(0.5)
         eventi = [cosa for t, cosa in self._lettore.eventi(self.albero.processo)
@@ -131,15 +171,25 @@ class GiocatoreAscoltato(Giocatore):
               f" {len(eventi)} events")
         self.misure.append((che_cosa, quando - gesto, eventi))
         fermata = next((t for t, verbo, _ in self._lettore.detto()[i + 1:] if verbo == "stop"), None)
-        if fermata and not any(quando < g <= fermata for g in self._gesti):
+        if fermata and not any(quando < g <= fermata for g in self.gesti):
             self.mancati.append(f"{parole!r} was cut off by the reader itself")
         if che_cosa != "verdict":
             return
-        if quando - gesto > ENTRO:
+        if quando - gesto > self.entro:
             self.mancati.append(f"{parole!r} came after {quando - gesto:.3f} s")
         if len(eventi) > AL_PIU:
             conti = ", ".join(f"{eventi.count(e)} {e}" for e in sorted(set(eventi)))
             self.mancati.append(f"{parole!r}: {len(eventi)} events: {conti}")
+
+
+class Ascoltato(_Ascoltato, SoloTasti):
+    """Plays by keys or touch."""
+
+
+class AscoltatoColMouse(_Ascoltato, Giocatore):
+    """Plays with the mouse, with which the reader takes its time."""
+
+    entro = ASPETTA
 
 
 def riassumi(misure):
@@ -151,38 +201,52 @@ def riassumi(misure):
               f" {tempi[-1]:.0f} ms, at most {eventi} events")
 
 
-def scrivi(percorso, lettore):
-    """What was said, from the first word on."""
+def senza_nome(lettore):
+    """What was said of something that has no name."""
+    detto = [parole for _, verbo, parole in lettore.detto() if verbo == "say"]
+    return [f"{dopo!r} after {prima!r} is without a name" for prima, dopo in zip(detto, detto[1:])
+            if SENZA_NOME.fullmatch(dopo)]
+
+
+def scrivi(percorso, lettore, gesti, processo):
+    """What was said, from the first word on, what the hands did and what the program told."""
     detto = lettore.detto()
+    righe = [(quando, "" if verbo == "say" else "--", parole) for quando, verbo, parole in detto]
+    righe += [(quando, "hand", "") for quando in gesti]
+    righe += [(quando, "event", cosa) for quando, cosa in lettore.eventi(processo)]
     with open(percorso, "w", encoding="utf-8") as foglio:
-        for quando, verbo, parole in detto:
-            foglio.write(f"{quando - detto[0][0]:9.3f}  {'' if verbo == 'say' else '--'}{parole}\n")
+        for quando, verbo, parole in sorted(righe):
+            foglio.write(f"{quando - detto[0][0]:9.3f}  {verbo:5}  {parole}".rstrip() + "\n")
 
 
 def ascolta(programma, cartella, tavoletta, nome):
     """One exercise, from the start of the program to its end. Returns what was not as it should."""
-    partita = PARTITE[nome]
+    partita = PARTITE[nome.removesuffix(COL_MOUSE)]
+    col_mouse = nome.endswith(COL_MOUSE)
     superficie = Tavoletta(tavoletta) if partita.a_tocchi else contextlib.nullcontext()
     with tempfile.TemporaryDirectory() as sua, Schermo() as schermo, superficie as tocchi:
         from albero import Albero, TempoScaduto
         lettore = Lettore(schermo, sua)
         processo = schermo.avvia(schermo.copia(programma))
-        giocatore = GiocatoreAscoltato(schermo, Albero(processo), os.path.join(cartella, nome),
-                                       tocchi, lettore)
+        chi = AscoltatoColMouse if col_mouse else Ascoltato
+        giocatore = chi(schermo, Albero(processo), cartella, tocchi, lettore)
         try:
             giocatore.vai(AVVIO)
-            partita.gioca(giocatore)
+            (partita.caso if partita.col_mouse and not col_mouse else partita.gioca)(giocatore)
             giocatore.chiudi(processo)
         except (TempoScaduto, Errore, ErroreTavoletta) as errore:
             giocatore.mancati.append(f"on {giocatore.forme[-1:] or AVVIO}: {errore}")
             giocatore.fotografa("errore")
         riassumi(giocatore.misure)
-        scrivi(os.path.join(cartella, nome + ".txt"), lettore)
+        giocatore.mancati += senza_nome(lettore)
+        scrivi(os.path.join(cartella, nome.replace("/", "_") + ".txt"), lettore, giocatore.gesti,
+               processo)
     return giocatore.mancati
 
 
 def main():
-    if len(sys.argv) < 4 or not {*sys.argv[4:]} <= {*PARTITE}:
+    prove = [*PARTITE, "abaco" + COL_MOUSE]
+    if len(sys.argv) < 4 or not {n.removesuffix(COL_MOUSE) for n in sys.argv[4:]} <= {*PARTITE}:
         print(__doc__, file=sys.stderr)
         print("Exercises: " + ", ".join(PARTITE), file=sys.stderr)
         return 2
@@ -191,7 +255,7 @@ def main():
     sys.stdout.reconfigure(line_buffering=True)
     # Ended from outside, it still leaves through the end of the Schermo.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
-    nomi = sys.argv[4:] or list(PARTITE)
+    nomi = sys.argv[4:] or prove
     if len(nomi) > 1:
         # Whoever reads the accessibility tree stays with the desktop that it has seen first.
         comando = [sys.executable, *sys.argv[:4]]

@@ -44,9 +44,16 @@ class Luce:
         self._albero.aspetta("a step of the light", lambda: self.acceso() not in (None, prima))
 
     def scegli_a_mano(self, nome):
+        mossa = False
         while self.acceso() != nome:
             self.passo("space")
+            mossa = True
+        if mossa:
+            self._si_dice(nome)
         self.usa()
+
+    def _si_dice(self, nome):
+        self._giocatore.si_dice("key", f"{nome} {BOTTONE}")
 
     def usa(self):
         """Chooses what is lit, in manual scanning."""
@@ -54,6 +61,7 @@ class Luce:
 
     def scegli_aspettando(self, nome):
         self._albero.aspetta(f"the light on {nome!r}", lambda: self.acceso() == nome, 60)
+        self._si_dice(nome)
         self._mani.giu("space")
         time.sleep(4)
         if self.acceso() != nome:

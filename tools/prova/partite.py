@@ -13,18 +13,19 @@ class Partita(NamedTuple):
     """gioca: plays from the main menu on, given a Giocatore. forme: every form that it plays.
 
     caso: one whole case on each of them, which all hands can play (see senza_mouse.py).
-    a_tocchi: it wants a stand-in for the touch surface.
+    a_tocchi: it wants a stand-in for the touch surface. col_mouse: gioca wants a mouse.
     """
 
     gioca: Callable
     caso: Callable
     forme: frozenset
     a_tocchi: bool
+    col_mouse: bool
 
 
-def _partita(gioca, *forme, caso=None):
+def _partita(gioca, *forme, caso=None, col_mouse=False):
     return gioca.__name__, Partita(gioca, caso or gioca, frozenset(forme),
-                                   any(f.endswith("HK") for f in forme))
+                                   any(f.endswith("HK") for f in forme), col_mouse)
 
 
 PARTITE = dict((
@@ -42,7 +43,7 @@ PARTITE = dict((
     _partita(blocchi.centinaia_scansione, "FormHLUScansione"),
     _partita(blocchi.blocchi_tocco, "FormLUHK"),
     _partita(blocchi.centinaia_tocco, "FormHLUHK"),
-    _partita(abaco.abaco, "FormAbaco", caso=abaco.abaco_senza_mouse),
+    _partita(abaco.abaco, "FormAbaco", caso=abaco.abaco_senza_mouse, col_mouse=True),
     _partita(abaco.abaco_scansione, "FormAbacoScansione"),
     _partita(abaco.abaco_tocco, "FormAbacoHK"),
     _partita(tabella.tabella, "FormTabella"),
