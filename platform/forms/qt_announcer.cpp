@@ -40,12 +40,18 @@ void QtAnnouncer::announce(const QString& sentence) {
 }
 
 void QtAnnouncer::boxOpens() {
-  if (boxes_++ > 0 || told_.isEmpty() || sinceTold_.hasExpired(breath_)) return;
+  if (boxes_++ > 0 || !isBrokenOff()) return;
   untold_ = std::exchange(told_, {}) + untold_;
 }
 
+// Whether a voice may still be at what was told last, and that is about what is on the screen.
+bool QtAnnouncer::isBrokenOff() const {
+  return !told_.isEmpty() && !sinceTold_.hasExpired(breath_) && toldAround_ != nullptr &&
+         toldAround_->isVisible();
+}
+
 void QtAnnouncer::boxCloses() {
-  if (--boxes_ > 0) return;
+  --boxes_;
   behindBox_ = true;
   speakSoon();
 }
@@ -85,7 +91,10 @@ void QtAnnouncer::speak() {
   behindBox_ = false;
   told_ = std::exchange(untold_, {});
   sinceTold_.start();
-  if (QWidget* who = speaker()) tell_(*who, told_.join(QStringLiteral(". ")));
+  QWidget* who = speaker();
+  if (who == nullptr) return;
+  toldAround_ = who->isWindow() ? who : who->parentWidget();
+  tell_(*who, told_.join(QStringLiteral(". ")));
 }
 
 }  // namespace platform::inline forms

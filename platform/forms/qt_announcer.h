@@ -16,7 +16,7 @@ namespace platform::inline forms {
 // else, and the handler that tells a sentence may move the focus afterwards.
 //
 // Behind a box nothing is spoken; when it has gone and a window has the keyboard again, what waited
-// is, and before it what the box had broken off.
+// is, and before it what the box had broken off, unless the page that it was about has gone.
 //
 // How the system at hand is told is settled in desktop_voice: from Qt 6.8 on as an announcement of
 // the toolkit's. Before, the toolkit has none: under Linux, where it tells of a changed description
@@ -43,12 +43,14 @@ class QtAnnouncer final : public QObject, public Announcer {
   void speakSoon();
   void waitRound();
   [[nodiscard]] QWidget* speaker() const;
+  [[nodiscard]] bool isBrokenOff() const;
   void speak();
 
   Tell tell_;
   int breath_;
   QStringList untold_;
-  QStringList told_;  // together, the last time
+  QStringList told_;              // together, the last time
+  QPointer<QWidget> toldAround_;  // what held the speaker then
   QElapsedTimer sinceTold_;
   int rounds_ = 0;               // of the queue that are still waited for
   int boxes_ = 0;                // that stand in front

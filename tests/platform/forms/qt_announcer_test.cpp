@@ -196,6 +196,44 @@ class QtAnnouncerTest : public QObject {
     QVERIFY(ground.listen().isEmpty());
   }
 
+  void whatABoxBreaksOffIsNotSpokenAgainOnceThePageThatItWasAboutHasGone() {
+    Ground ground;
+    auto page = std::make_unique<QWidget>(&ground.window);
+    QLineEdit there(page.get());
+    there.setAccessibleName(QStringLiteral("there"));
+    for (const bool deleted : {false, true}) {
+      page->show();
+      there.setFocus();
+      (void)ground.listen();
+      ground.announcer.announce(QStringLiteral("0 + 2 ="));
+      QCOMPARE(ground.listen(), QStringList{QStringLiteral("there: 0 + 2 =")});
+      page->hide();
+      if (deleted) {
+        there.setParent(nullptr);
+        page.reset();
+      }
+      ground.one.setFocus();
+      (void)ground.listen();
+      ground.announcer.announce(QStringLiteral("3 + 4 ="));
+      ground.announcer.boxOpens();
+      ground.announcer.boxCloses();
+      QCOMPARE(ground.listen(), QStringList{QStringLiteral("one: 3 + 4 =")});
+    }
+  }
+
+  void whatTheWindowToldIsSpokenAgainAfterABox() {
+    Ground ground;
+    ground.one.clearFocus();
+    ground.one.hide();
+    ground.two.hide();
+    (void)ground.listen();
+    ground.announcer.announce(QStringLiteral("3 + 4 ="));
+    QCOMPARE(ground.listen(), QStringList{QStringLiteral("window: 3 + 4 =")});
+    ground.announcer.boxOpens();
+    ground.announcer.boxCloses();
+    QCOMPARE(ground.listen(), QStringList{QStringLiteral("window: 3 + 4 =")});
+  }
+
   void afterABoxItIsSpokenAsSoonAsAWindowHasTheKeyboardAgain() {
     Ground ground;
     {
