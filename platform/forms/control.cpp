@@ -164,7 +164,7 @@ void Control::setFocus() {
     home().setFocusBelow(*this);
     return;
   }
-  if (widget_->isVisible() && widget_->isEnabled()) widget_->setFocus(Qt::OtherFocusReason);
+  if (widget_->isVisible()) widget_->setFocus(Qt::OtherFocusReason);
 }
 
 bool Control::hasFocus() const {

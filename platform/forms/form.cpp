@@ -39,15 +39,15 @@ std::vector<Row> mergedRows(const FormDesign& design) {
 
 // The mouse gives the focus to a widget that has gone, when it is pressed while another of its
 // buttons has been held there since. The focus stays where it was: what had it until now can have
-// it. now: has the focus; before: had it, may be null. True when it had come to something hidden.
-bool keepFromHidden(Canvas& canvas, QWidget* before, QWidget& now) {
-  if (now.isVisible() || !canvas.isAncestorOf(&now)) return false;
+// it. Whichever form the widget is on, the one in front takes what nothing had. now: has the focus;
+// before: had it, may be null.
+void keepFromHidden(Canvas& canvas, QWidget* before, QWidget& now) {
+  if (now.isVisible()) return;
   if (before != nullptr) {
     before->setFocus(Qt::OtherFocusReason);
   } else if (!canvas.passFocus(nullptr, true)) {
     now.clearFocus();
   }
-  return true;
 }
 
 }  // namespace
@@ -60,8 +60,6 @@ Form::Form(Ground& ground, const FormDesign& design)
       caption_(toText(design.caption)) {}
 
 Form::~Form() {
-  // Nothing follows the focus into a page that is being taken apart.
-  if (page_ != nullptr) QObject::disconnect(qApp, nullptr, page_, nullptr);
   delete page_.data();
 }
 
@@ -73,8 +71,9 @@ void Form::build(QWidget* parent) {
   bindLabels();
   setTabOrder();
   QObject::connect(qApp, &QApplication::focusChanged, page_, [this](QWidget* before, QWidget* now) {
-    if (now == nullptr || keepFromHidden(*page_->canvas(), before, *now)) return;
-    focusMoved(now);
+    if (now == nullptr) return;
+    keepFromHidden(*page_->canvas(), before, *now);
+    focusMoved(*now);
   });
   built_ = true;
 }
@@ -229,10 +228,10 @@ void Form::focusCover() {
 }
 
 // Assistive technology gives the focus to a widget without asking its form.
-void Form::focusMoved(QWidget* now) {
-  if (cover_ == nullptr || now == nullptr || !page_->canvas()->isAncestorOf(now)) return;
-  if (cover_->container()->isAncestorOf(now)) return;
-  focusBelow_ = now;
+void Form::focusMoved(QWidget& now) {
+  if (cover_ == nullptr || !page_->canvas()->isAncestorOf(&now)) return;
+  if (cover_->container()->isAncestorOf(&now)) return;
+  focusBelow_ = &now;
   focusCover();
 }
 

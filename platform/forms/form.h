@@ -120,7 +120,7 @@ class Form : public ControlHost,
 
   void buildRows();
   void focusCover();
-  void focusMoved(QWidget* now);
+  void focusMoved(QWidget& now);
   [[nodiscard]] QWidget* parentFor(const Row& row) const;
   void bindLabels();
   void setTabOrder();

@@ -255,51 +255,6 @@ class CoveringPanelTest : public QObject {
     QVERIFY(focus == nullptr || focus->isVisible());
   }
 
-  void aButtonHeldOnItsListWhileItClosesBringsTheFocusNotBackToTheList() {
-    Stage stage;
-    Below below(stage);
-    below.form.Panel.cover();
-    QWindow* window = stage.runtime->window().windowHandle();
-    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
-    below.form.Panel.setVisible(false);
-    QVERIFY(below.form.Second.hasFocus());
-    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
-    QVERIFY(below.form.Second.hasFocus());
-    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(below.form.First));
-    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
-    QVERIFY(below.form.First.hasFocus());
-    QCOMPARE(below.clicks, 1);
-  }
-
-  void whereNothingElseCanTakeItAButtonHeldOnTheListLeavesNoFocus() {
-    Stage stage;
-    Below below(stage);
-    below.form.Panel.cover();
-    QWindow* window = stage.runtime->window().windowHandle();
-    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
-    for (platform::Control* control : below.form.controls()) {
-      if (below.form.isCovered(*control)) control->setEnabled(false);
-    }
-    below.form.Panel.setVisible(false);
-    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
-    QCOMPARE(QApplication::focusWidget(), nullptr);
-    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(below.form.First));
-  }
-
-  void aButtonHeldOnAListWhoseFormHasGoneBehindAnotherBringsTheFocusNotBackToTheList() {
-    Stage stage;
-    Below below(stage);
-    below.form.Panel.cover();
-    QWindow* window = stage.runtime->window().windowHandle();
-    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
-    TrialForm& two = stage.show(trial::kTwo);
-    two.Second.setFocus();
-    QVERIFY(two.Second.hasFocus());
-    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(two.First));
-    QVERIFY(two.Second.hasFocus());
-    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(two.First));
-  }
-
   void theMenuBarKeepsTheFocusOverAnOpenPanelAndIsNotWhereItComesBackTo() {
     Stage stage;
     Below below(stage);
@@ -326,17 +281,6 @@ class CoveringPanelTest : public QObject {
     below.form.Second.setVisible(false);
     below.form.Panel.setVisible(false);
     QVERIFY(below.form.Third.hasFocus());
-  }
-
-  void whatIsHiddenWhileItsFormStandsBehindAnotherCostsTheFormNoFocus() {
-    Stage stage;
-    Below below(stage);
-    TrialForm& two = stage.show(trial::kTwo);
-    below.form.Third.setVisible(false);
-    two.run([&] { stage.runtime->forms().unload(two); });
-    QCoreApplication::processEvents();
-    QCOMPARE(stage.currentName(), QStringLiteral("One"));
-    QVERIFY(below.form.Second.hasFocus());
   }
 
   void openingAnOpenPanelAgainForgetsNothing() {
