@@ -124,8 +124,9 @@ void FormTabella::onActivate() {
 
 void FormTabella::RiempiTabella() {
   for (int i = 0; i < kCelle; ++i) {
-    Numero[i].setCaption(partita_.HaNumero(i) ? platform::leadingBlank(i) : QString());
+    // The name first: a cell then changes it once.
     if (!partita_.HaNumero(i)) Numero[i].setSpokenName(NomeDiVuota(i));
+    Numero[i].setCaption(partita_.HaNumero(i) ? platform::leadingBlank(i) : QString());
   }
 }
 
