@@ -1,7 +1,6 @@
 #include "platform/forms/drawing.h"
 
 #include <QDataStream>
-#include <QImage>
 #include <QPainter>
 #include <QTransform>
 
@@ -15,44 +14,7 @@ void settle(QDataStream& stream) {
   stream.setVersion(QDataStream::Qt_6_4);
 }
 
-// A picture is played by calls that do not change it, but are not marked so.
-void playSolid(QPainter& painter, const QPicture& picture, const QRectF& from, const QRectF& to) {
-  painter.save();
-  painter.translate(to.topLeft());
-  painter.scale(to.width() / from.width(), to.height() / from.height());
-  painter.translate(-from.topLeft());
-  QPicture(picture).play(&painter);
-  painter.restore();
-}
-
-// What was recorded sets opacities of its own, in the place of the painter's: a drawing that fades
-// is made solid first, in the device's own pixels, and fades as one.
-void playFaded(QPainter& painter, const QPicture& picture, const QRectF& from, const QRectF& to) {
-  constexpr int kBeyond = 2;  // pixels: lines reach over their box
-  const QTransform onDevice = painter.deviceTransform();
-  const QRect covered =
-      onDevice.mapRect(to).toAlignedRect().adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
-  QImage solid(covered.size(), QImage::Format_ARGB32_Premultiplied);
-  if (solid.isNull()) return;
-  solid.fill(Qt::transparent);
-  {
-    QPainter layer(&solid);
-    layer.setRenderHints(painter.renderHints());
-    layer.translate(-covered.topLeft());
-    layer.setTransform(onDevice, true);
-    playSolid(layer, picture, from, to);
-  }
-  painter.save();
-  painter.resetTransform();
-  painter.drawImage(painter.deviceTransform().inverted().mapRect(QRectF(covered)), solid);
-  painter.restore();
-}
-
-void play(QPainter& painter, const QPicture& picture, const QRectF& from, const QRectF& to) {
-  if (from.isEmpty() || to.isEmpty()) return;
-  const auto how = painter.opacity() < 1 ? playFaded : playSolid;
-  how(painter, picture, from, to);
-}
+constexpr int kBeyond = 2;  // pixels: lines reach over their box
 
 }  // namespace
 
@@ -97,13 +59,34 @@ QRectF Drawing::boundsOf(const QString& name) const {
   return found == parts_.end() ? QRectF() : found->second.bounds;
 }
 
-void Drawing::paint(QPainter& painter, const QRectF& target) const {
-  play(painter, whole_, box_, target);
+// A picture is played by calls that do not change it, but are not marked so.
+void Drawing::paint(QPainter& painter, const QRectF& target, const QString& part) const {
+  const auto found = parts_.find(part);
+  const bool isWhole = part.isEmpty();
+  if (!isWhole && found == parts_.end()) return;
+  const QRectF from = isWhole ? box_ : found->second.bounds;
+  if (from.isEmpty() || target.isEmpty()) return;
+  painter.save();
+  painter.translate(target.topLeft());
+  painter.scale(target.width() / from.width(), target.height() / from.height());
+  painter.translate(-from.topLeft());
+  QPicture(isWhole ? whole_ : found->second.picture).play(&painter);
+  painter.restore();
 }
 
-void Drawing::paintPart(QPainter& painter, const QString& name, const QRectF& target) const {
-  const auto found = parts_.find(name);
-  if (found != parts_.end()) play(painter, found->second.picture, found->second.bounds, target);
+DrawnPixels Drawing::inPixels(const QTransform& onDevice, const QRectF& target,
+                              const QString& part) const {
+  const QRect covered =
+      onDevice.mapRect(target).toAlignedRect().adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
+  QImage image(covered.size(), QImage::Format_ARGB32_Premultiplied);
+  if (image.isNull()) return {};
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(-covered.topLeft());
+  painter.setTransform(onDevice, true);
+  paint(painter, target, part);
+  return {image, covered.topLeft()};
 }
 
 }  // namespace platform::inline forms

@@ -1,13 +1,22 @@
 #pragma once
 
+#include <QImage>
 #include <QPicture>
+#include <QPoint>
 #include <QRectF>
 #include <QString>
 #include <map>
 
 class QPainter;
+class QTransform;
 
 namespace platform::inline forms {
+
+// What a drawing is on a device, and where: its upper left pixel.
+struct DrawnPixels {
+  QImage image;
+  QPoint at;
+};
 
 // A vector drawing as it was once drawn: strokes and fills, to be repeated at any size, and those
 // of its parts that have names. What it was drawn from need not be there any more.
@@ -29,9 +38,13 @@ class Drawing {
   // An empty rectangle for a part that it does not have.
   [[nodiscard]] QRectF boundsOf(const QString& name) const;
 
-  // Draws the box, or what a part covers, so that it fills the target.
-  void paint(QPainter& painter, const QRectF& target) const;
-  void paintPart(QPainter& painter, const QString& name, const QRectF& target) const;
+  // Draws the box, or what a part covers, so that it fills the target; nothing for a part that it
+  // does not have. Strokes set opacities of their own, in the place of the painter's: what fades
+  // is drawn from its pixels.
+  void paint(QPainter& painter, const QRectF& target, const QString& part = {}) const;
+  // The same with smooth edges, as it stands on a device that the target comes to by `onDevice`.
+  [[nodiscard]] DrawnPixels inPixels(const QTransform& onDevice, const QRectF& target,
+                                     const QString& part = {}) const;
 
  private:
   struct Part {

@@ -1,7 +1,9 @@
 #include "platform/forms/pictures.h"
 
 #include <QFile>
+#include <QPaintDevice>
 #include <QPainter>
+#include <QTransform>
 
 namespace platform::inline forms {
 
@@ -27,9 +29,17 @@ QRectF placeOf(const Drawing& drawing, const QString& part, const QRectF& area) 
   return {whole.topLeft() + (own.topLeft() - box.topLeft()) * scale, own.size() * scale};
 }
 
+// Whether a painter only moves what it paints: what grows or shrinks is another picture each time,
+// and soon gone.
+bool isAtRest(const QPainter& painter, const QTransform& onDevice) {
+  const qreal ratio = painter.device()->devicePixelRatioF();
+  return onDevice.type() <= QTransform::TxScale && qFuzzyCompare(onDevice.m11(), ratio) &&
+         qFuzzyCompare(onDevice.m22(), ratio);
+}
+
 }  // namespace
 
-Pictures::Pictures(QString folder) : folder_(std::move(folder)) {}
+Pictures::Pictures(QString folder) : folder_(std::move(folder)), held_(kHeldBytes) {}
 
 Pictures::~Pictures() = default;
 
@@ -43,8 +53,32 @@ const Drawing& Pictures::drawing(const QString& name) {
 }
 
 void Pictures::paint(QPainter& painter, const QString& name, const QRectF& area) {
-  const Drawing& drawn = drawing(name);
-  drawn.paint(painter, placeIn(drawn, area));
+  show(painter, name, {}, placeIn(drawing(name), area));
+}
+
+// From its pixels, which are held for the next time that it stands so.
+void Pictures::show(QPainter& painter, const QString& name, const QString& part,
+                    const QRectF& place) {
+  if (place.isEmpty()) return;
+  const QTransform onDevice = painter.deviceTransform();
+  if (!isAtRest(painter, onDevice)) {
+    drawing(name).paint(painter, place, part);
+    return;
+  }
+  const QRectF there = onDevice.mapRect(place);
+  const QPoint pixel(qFloor(there.left()), qFloor(there.top()));
+  const QRectF within = there.translated(-pixel);
+  const Stand stand{name, part, within.left(), within.top(), within.width(), within.height()};
+  const DrawnPixels* known = held_[stand];
+  const DrawnPixels drawn =
+      known != nullptr ? *known : drawing(name).inPixels(QTransform(), within, part);
+  painter.save();
+  painter.resetTransform();
+  const QTransform back = painter.deviceTransform().inverted();
+  const QRectF onto(QPointF(drawn.at + pixel), QSizeF(drawn.image.size()));
+  painter.drawImage(back.mapRect(onto), drawn.image);
+  painter.restore();
+  if (known == nullptr) held_.insert(stand, new DrawnPixels(drawn), drawn.image.sizeInBytes());
 }
 
 std::vector<QString> Pictures::parts(const QString& name) {
@@ -60,7 +94,7 @@ std::vector<QString> Pictures::parts(const QString& name) {
 void Pictures::paintPart(QPainter& painter, const QString& name, const QString& part,
                          const QRectF& area) {
   const Drawing& drawn = drawing(name);
-  drawn.paintPart(painter, part, placeOf(drawn, part, area));
+  show(painter, name, part, placeOf(drawn, part, area));
 }
 
 QPointF Pictures::middleOf(const QString& name, const QString& part, const QRectF& area) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCache>
+#include <QHash>
 #include <QIcon>
 #include <QPixmap>
 #include <QString>
@@ -13,7 +15,8 @@ class QPainter;
 namespace platform::inline forms {
 
 // The program's drawings, by name: the files of one folder, read at their first use and drawn sharp
-// at any size. A missing one draws nothing.
+// at any size. A missing one draws nothing. The pixels of what stands on a form are held: a form
+// that is shown again shows the same.
 class Pictures {
  public:
   // folder: where the files "name.drawing" lie; a folder of the disk or of Qt's resources.
@@ -40,11 +43,30 @@ class Pictures {
   [[nodiscard]] QPoint hotSpot(const QString& name, QSize size);
 
  private:
+  static constexpr qsizetype kHeldBytes = 16'000'000;
+
+  // How a drawing stands on its pixels: its part, or all of it, and its place from the pixel in
+  // which its upper left corner lies.
+  struct Stand {
+    QString name;
+    QString part;
+    double left;
+    double top;
+    double width;
+    double height;
+    bool operator==(const Stand&) const = default;
+    friend std::size_t qHash(const Stand& s, std::size_t seed) {
+      return qHashMulti(seed, s.name, s.part, s.left, s.top, s.width, s.height);
+    }
+  };
+
   [[nodiscard]] const Drawing& drawing(const QString& name);
+  void show(QPainter& painter, const QString& name, const QString& part, const QRectF& place);
 
   QString folder_;
   std::map<QString, Drawing> drawings_;
   std::map<QString, QIcon> icons_;
+  QCache<Stand, DrawnPixels> held_;  // the latest ones, by their bytes
 };
 
 }  // namespace platform::inline forms

@@ -6,7 +6,9 @@
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 #include "support/iscrizione.h"
 #include "tools/immagini/registratore.h"
@@ -144,6 +146,63 @@ class PicturesTest : public QObject {
     QVERIFY(pictures.parts(QStringLiteral("red")).empty());
     QVERIFY(pictures.parts(QStringLiteral("nowhere")).empty());
     QCOMPARE(pictures.middleOf(name, QStringLiteral("parte3"), area), QPointF());
+  }
+
+  // Each of these has pixels of its own, whatever was painted before it.
+  void whatIsPaintedAgainLooksAsItDidAndNothingElseLooksLikeIt() {
+    Pictures pictures(folder_.path());
+    struct Stand {
+      const char* name;
+      const char* part;
+      QRectF area;
+      double opacity;
+    };
+    const Stand stands[]{
+        {"parts", "", {10, 10, 60, 30}, 1},       {"glass", "", {10, 10, 60, 30}, 1},
+        {"parts", "parte1", {10, 10, 60, 30}, 1}, {"parts", "parte2", {10, 10, 60, 30}, 1},
+        {"parts", "", {10.5, 10, 60, 30}, 1},     {"parts", "", {10, 10.5, 60, 30}, 1},
+        {"parts", "", {10, 10, 60.5, 30.25}, 1},  {"parts", "", {40, 21, 60, 30}, 1},
+        {"glass", "", {10, 10, 60, 30}, 0.5},     {"parts", "", {10, 10, 90, 45}, 1},
+    };
+    const auto paintedWith = [](Pictures& by, const Stand& stand) {
+      QImage image(120, 80, QImage::Format_RGB32);
+      image.fill(Qt::white);
+      QPainter painter(&image);
+      painter.setOpacity(stand.opacity);
+      const QLatin1String name(stand.name);
+      const QLatin1String part(stand.part);
+      if (part.isEmpty()) {
+        by.paint(painter, name, stand.area);
+      } else {
+        by.paintPart(painter, name, part, stand.area);
+      }
+      return image;
+    };
+    std::vector<QImage> first;
+    for (const Stand& stand : stands) {
+      Pictures fresh(folder_.path());
+      first.push_back(paintedWith(fresh, stand));
+      QVERIFY(!isBlank(first.back()));
+      QCOMPARE(std::ranges::count(first, first.back()), 1);
+    }
+    for (int turn = 0; turn < 2; ++turn) {
+      for (std::size_t i = 0; i < first.size(); ++i) {
+        QCOMPARE(paintedWith(pictures, stands[i]), first[i]);
+      }
+    }
+  }
+
+  void whatGrowsIsAsSharpAsWhatStands() {
+    Pictures pictures(folder_.path());
+    QImage grown(120, 80, QImage::Format_RGB32);
+    grown.fill(Qt::white);
+    QPainter painter(&grown);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(3, 3);
+    pictures.paint(painter, QStringLiteral("parts"), QRectF(0, 0, 40, 20));
+    painter.end();
+    const QImage standing = painted(pictures, "parts", grown.size(), QRectF(0, 0, 120, 60));
+    QCOMPARE(grown, standing);
   }
 
   void aPixmapIsSharpOnADenseScreen() {
