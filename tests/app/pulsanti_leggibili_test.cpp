@@ -29,6 +29,24 @@ QColor FondoDi(const Button& pulsante) {
   return Fondo(pulsante.widget()->grab().toImage());
 }
 
+// Pixels of the button's face between its right edge and what is written on it, in the rows of
+// the words.
+int LiberiADestra(const Button& pulsante) {
+  const QImage immagine = pulsante.widget()->grab().toImage();
+  const QColor faccia = Fondo(immagine);
+  const auto piena = [&](int x) {
+    for (int y = immagine.height() * 2 / 5; y < immagine.height() * 3 / 5; ++y) {
+      if (immagine.pixelColor(x, y) != faccia) return false;
+    }
+    return true;
+  };
+  int bordo = immagine.width() - 1;
+  while (bordo > 0 && !piena(bordo)) --bordo;
+  int scritto = bordo;
+  while (scritto > 0 && piena(scritto)) --scritto;
+  return bordo - scritto;
+}
+
 }  // namespace
 
 // Every button of every form with words on it: they stand out of its ground at rest, below the
@@ -85,6 +103,40 @@ class PulsantiLeggibiliTest : public QObject {
         QVERIFY2(platform::contrast(inchiostro, fondo) >= kLeggibile, quale);
       }
     }
+  }
+
+  // It lies flat, and smaller than its place.
+  void whatIsWrittenOnAButtonThatCannotBeUsedKeepsClearOfItsEdge_data() {
+    QTest::addColumn<QString>("lingua");
+    for (const char* lingua : {"Italiano", "English", "Français", "Deutsch", "Español"}) {
+      QTest::newRow(lingua) << QString::fromUtf8(lingua);
+    }
+  }
+  void whatIsWrittenOnAButtonThatCannotBeUsedKeepsClearOfItsEdge() {
+    QFETCH(QString, lingua);
+    constexpr int kLiberi = 3;
+    int provati = 0;
+    for (const somme::SchedaForma& scheda : somme::LeForme()) {
+      if (scheda.genere != somme::Genere::Esercizio) continue;
+      Banco banco({800, 600});
+      banco.ambiente->stato.LinguaCorrente = lingua;
+      prova::ComeDalMenu(*banco.ambiente, scheda.nome);
+      banco.mostra(scheda.nome);
+      for (const platform::Control* controllo :
+           banco.ambiente->fondo.forms().current()->controls()) {
+        const auto* pulsante = dynamic_cast<const Button*>(controllo);
+        if (pulsante == nullptr || !pulsante->widget()->isVisible()) continue;
+        if (pulsante->isEnabled() || pulsante->caption().trimmed().isEmpty()) continue;
+        const int liberi = LiberiADestra(*pulsante);
+        QVERIFY2(liberi >= kLiberi,
+                 qPrintable(
+                     QStringLiteral("%1, %2: %3")
+                         .arg(QString::fromUtf8(scheda.nome.data(), qsizetype(scheda.nome.size())),
+                              pulsante->name(), QString::number(liberi))));
+        ++provati;
+      }
+    }
+    QVERIFY(provati > 10);
   }
 };
 

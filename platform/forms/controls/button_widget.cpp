@@ -43,7 +43,7 @@ void ButtonWidget::setCaption(const QString& caption) {
 }
 
 int ButtonWidget::fittedCaption() {
-  block_.set(caption_, font(), rooms().text.size(), Align::Centre, true);
+  block_.set(caption_, font(), rooms(0).text.size(), Align::Centre, true);
   return block_.pixelSize();
 }
 
@@ -152,17 +152,25 @@ void ButtonWidget::focusOutEvent(QFocusEvent* event) {
   QAbstractButton::focusOutEvent(event);
 }
 
-// The picture stands beside the words on a wide button and above them on a square one.
-ButtonWidget::Rooms ButtonWidget::rooms() const {
+// How far a button that lies flat is smaller than its place, on each side.
+double ButtonWidget::flatBy() const {
+  return stands() || cell_ ? 0 : std::min(width(), height()) * kSunk;
+}
+
+// The picture stands beside the words on a wide button and above them on a square one. On one that
+// lies flat, too, both keep clear of the edge.
+ButtonWidget::Rooms ButtonWidget::rooms(double flat) const {
   const double margin = std::max(3.0, std::min(width(), height()) * 0.08);
-  const QRectF inner = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+  const double inset = flat > 0 ? flat + margin * 0.75 : margin;
+  const double between = flat > 0 ? margin / 2 : margin;
+  const QRectF inner = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
   if (picture_.isEmpty()) return {{}, inner.toRect()};
   if (withoutMnemonic(caption_).trimmed().isEmpty()) return {inner, {}};
   if (width() > height() * 1.5) {
     const double wide =
         std::min(inner.height() * pictures_.proportions(picture_), inner.width() * 0.45);
     const QRectF picture(inner.left(), inner.top(), wide, inner.height());
-    return {picture, inner.adjusted(wide + margin, 0, 0, 0).toRect()};
+    return {picture, inner.adjusted(wide + between, 0, 0, 0).toRect()};
   }
   const double side = inner.height() * 0.58;
   return {QRectF(inner.left(), inner.top(), inner.width(), side),
@@ -172,8 +180,7 @@ ButtonWidget::Rooms ButtonWidget::rooms() const {
 // A button that can be pressed stands up; one that cannot lies flat and small in its place, which
 // tells it without colour. A cell keeps its size: a table stays a table.
 QRectF ButtonWidget::body() const {
-  const double sunk = stands() || cell_ ? 0 : std::min(width(), height()) * kSunk;
-  const double edge = buttonEdge(*this) / 2 + sunk;
+  const double edge = buttonEdge(*this) / 2 + flatBy();
   const double down = cell_ ? 0 : buttonSinking(*this, isHeld());
   return QRectF(rect()).adjusted(edge, edge + down, -edge, -edge);
 }
@@ -223,7 +230,7 @@ void ButtonWidget::paintFocus(QPainter& painter) const {
 // What a coloured button says stays readable when the button is spent; pictures fade, and so does
 // all of a plain one.
 void ButtonWidget::paintContent(QPainter& painter) {
-  const Rooms room = rooms();
+  const Rooms room = rooms(flatBy());
   painter.save();
   painter.translate(0, buttonSinking(*this, isHeld()));
   if (!isEnabled()) painter.setOpacity(kDisabledInk);

@@ -60,7 +60,8 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
     QRectF picture;
     QRect text;
   };
-  [[nodiscard]] Rooms rooms() const;
+  [[nodiscard]] double flatBy() const;
+  [[nodiscard]] Rooms rooms(double flat) const;
   // Whether it looks as if it could be pressed.
   [[nodiscard]] bool stands() const { return isEnabled() || mark_ == AnswerMark::Right; }
   [[nodiscard]] bool isHeld() const { return isDown() || held_; }
