@@ -24,6 +24,11 @@ constexpr double kSpentInk = 0.45;  // of what cannot be used
 constexpr double kBetweenMenus = 1.2;
 constexpr int kRoundMenu = 12;  // pixels
 
+// The column of the ticks before a menu's words: Fusion keeps this part of the height free for it,
+// and reckons with these pixels where it says how wide the menu is.
+constexpr double kTickColumn = 0.79;
+constexpr int kReckonedColumn = 20;
+
 constexpr double kIconSize = 2.5;  // of a box's drawing, of the size of its letters
 
 constexpr int kPlainMark = 22;     // of an option, in pixels
@@ -187,6 +192,17 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     default:
       return usual;
   }
+}
+
+// Large words have a wider column before them, which must not shorten them.
+QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                   const QWidget* widget) const {
+  QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+  if (type == CT_MenuItem) {
+    const int column = int(std::ceil(whole.height() * kTickColumn));
+    whole.rwidth() += std::max(0, column - kReckonedColumn);
+  }
+  return whole;
 }
 
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

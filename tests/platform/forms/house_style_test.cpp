@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
@@ -114,6 +115,33 @@ class HouseStyleTest : public QObject {
       return rim(pictureOf(button), 16);
     };
     QCOMPARE(picture(theirs), picture(ours));
+  }
+
+  // A menu that is wider than it need be shows all words.
+  void noWordOfAMenuIsShortenedWhateverItsSize_data() {
+    QTest::addColumn<int>("letters");
+    for (const int letters : {12, 16, 21, 32, 64}) {
+      QTest::addRow("%d pixels", letters) << letters;
+    }
+  }
+  void noWordOfAMenuIsShortenedWhateverItsSize() {
+    QFETCH(int, letters);
+    const auto pictureOf = [letters](int wider) {
+      QMenu menu;
+      QFont font = menu.font();
+      font.setPixelSize(letters);
+      menu.setFont(font);
+      for (const char* name : {"Deutsch", "English", "Français"}) {
+        QAction* entry = menu.addAction(QString::fromUtf8(name));
+        entry->setCheckable(true);
+      }
+      menu.setFixedSize(menu.sizeHint() + QSize(wider, 0));
+      return menu.grab().toImage();
+    };
+    constexpr int kFrame = 2;
+    const QImage menu = pictureOf(0);
+    const QRect words = menu.rect().adjusted(kFrame, kFrame, -kFrame, -kFrame);
+    QCOMPARE(menu.copy(words), pictureOf(4 * letters).copy(words));
   }
 
   void theDrawingOfABoxIsTheProgramsOwnAndGrowsWithItsLetters() {
