@@ -13,6 +13,7 @@ namespace {
 
 constexpr double kMenuPixels = 16;
 
+// A role that is left out takes the desktop's colour, dark or in high contrast as that may be.
 QPalette lightPalette() {
   QPalette palette(QColor(240, 240, 240));
   palette.setColor(QPalette::Window, QColor(245, 245, 245));
@@ -26,6 +27,8 @@ QPalette lightPalette() {
   palette.setColor(QPalette::ToolTipText, Qt::black);
   palette.setColor(QPalette::Highlight, QColor(10, 60, 150));
   palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Link, QColor(10, 60, 150));
+  palette.setColor(QPalette::LinkVisited, QColor(10, 60, 150));
   return palette;
 }
 
