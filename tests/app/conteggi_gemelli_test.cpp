@@ -13,7 +13,8 @@ using somme::FormaEsercizio;
 
 namespace {
 
-constexpr QSize kFinestre[] = {{800, 600}, {1024, 768}, {1366, 768}, {1920, 1080}, {3840, 2160}};
+constexpr QSize kFinestre[] = {{800, 600},  {1024, 768},  {1280, 1024},
+                               {1366, 768}, {1920, 1080}, {3840, 2160}};
 constexpr const char* kLingue[] = {"Italiano", "English", "Français", "Deutsch", "Español"};
 
 // The place of a label's last letter, a nought, in its picture: the letters are dark, the ground is

@@ -3,8 +3,10 @@
 //
 //   ritratti FOLDER LANGUAGE               the manual's scenes, in a window of 800 by 560
 //   ritratti FOLDER LANGUAGE film          ten units that become a long, picture by picture
-//   ritratti FOLDER LANGUAGE WIDTHxHEIGHT  every form at its start, in a window of that size; a
-//                                          keyboard sheet with the print dialog over it
+//   ritratti FOLDER LANGUAGE WIDTHxHEIGHT  in a window of that size: every form at its start, a
+//                                          keyboard sheet with the print dialog over it; every
+//                                          exercise after a right and after a wrong answer; and
+//                                          the manual's scenes
 //
 // Without a display: QT_QPA_PLATFORM=offscreen. QT_SCALE_FACTOR gives more pixels for each point.
 
@@ -16,6 +18,7 @@
 #include "app/shared/stringhe_condivise.h"
 #include "app/tabella_forme.h"
 #include "support/come_dal_menu.h"
+#include "support/risposta_giusta.h"
 #include "tools/manuale/film.h"
 #include "tools/manuale/scene.h"
 #include "tools/manuale/scene_tocco.h"
@@ -38,9 +41,9 @@ bool Salva(const QImage& ritratto, const QDir& cartella, const QString& nome) {
   return false;
 }
 
-bool Scene(const QDir& cartella, const QString& lingua) {
+bool Scene(const QDir& cartella, const QString& lingua, QSize lato) {
   for (const manuale::Scena& scena : manuale::Scene()) {
-    prova::Banco banco(kFinestra);
+    prova::Banco banco(lato);
     ScegliLingua(banco, lingua);
     if (!Salva(scena.ritrai(banco), cartella, QLatin1String(scena.nome))) return false;
   }
@@ -79,6 +82,25 @@ bool Forme(const QDir& cartella, const QString& lingua, QSize lato) {
   return true;
 }
 
+bool Risposte(const QDir& cartella, const QString& lingua, QSize lato) {
+  constexpr double kVerdettoPassato = 1;  // seconds
+  using prova::Risposta;
+  for (const somme::SchedaForma& scheda : somme::LeForme()) {
+    if (scheda.genere != somme::Genere::Esercizio) continue;
+    for (const Risposta risposta : {Risposta::Giusta, Risposta::Sbagliata}) {
+      prova::Banco banco(lato);
+      ScegliLingua(banco, lingua);
+      prova::FinoAllUltimoGesto(banco, scheda.nome, risposta)();
+      banco.tempo.advance(kVerdettoPassato);
+      const QString nome =
+          QLatin1String(scheda.nome.data(), qsizetype(scheda.nome.size())) +
+          (risposta == Risposta::Giusta ? QStringLiteral("_giusto") : QStringLiteral("_sbagliato"));
+      if (!Salva(manuale::Ritratto(banco), cartella, nome)) return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -93,9 +115,9 @@ int main(int argc, char* argv[]) {
   }
   const QDir cartella(argomenti[1]);
   cartella.mkpath(QStringLiteral("."));
-  const bool fatto =
-      tutte  ? Forme(cartella, argomenti[2], QSize(misure[0].toInt(), misure[1].toInt()))
-      : film ? Film(cartella, argomenti[2])
-             : Scene(cartella, argomenti[2]);
+  const auto in = [&](auto serie, QSize lato) { return serie(cartella, argomenti[2], lato); };
+  const QSize lato = tutte ? QSize(misure[0].toInt(), misure[1].toInt()) : kFinestra;
+  const bool fatto = film ? Film(cartella, argomenti[2])
+                          : (!tutte || (in(Forme, lato) && in(Risposte, lato))) && in(Scene, lato);
   return fatto ? 0 : 1;
 }
