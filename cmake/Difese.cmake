@@ -4,7 +4,13 @@
 option(SOMME_HARDENED "Harden the program as Debian's own packages are" OFF)
 
 add_library(somme_difese INTERFACE)
-if(SOMME_HARDENED)
+# Windows' own, which its linker sets for everything: addresses that differ from start to start, over the
+# whole of 64 bits, and no running of data.
+if(SOMME_HARDENED AND WIN32)
+  target_compile_options(somme_difese INTERFACE -Wformat -Werror=format-security)
+  target_link_options(somme_difese INTERFACE
+    LINKER:--dynamicbase,--high-entropy-va,--nxcompat)
+elseif(SOMME_HARDENED)
   include(CheckCXXCompilerFlag)
   include(CheckPIESupported)
   check_pie_supported(LANGUAGES CXX)

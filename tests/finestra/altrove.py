@@ -50,7 +50,7 @@ def main():
     programma, nome_schermo = (*sys.argv[1:], "x11")[:2]
     sbagliate = 0
     with schermo_di(nome_schermo, 800, 600) as schermo:
-        a_fuoco = nome_schermo == "x11"
+        a_fuoco = nome_schermo in ("x11", "wine")
         for prova in PROVE:
             tasti = Tasti(schermo, programma, a_fuoco)
             venute = altrove(schermo, tasti, programma, prova)

@@ -98,7 +98,7 @@ def main():
     sbagliate = 0
     programma, nome_schermo = (*sys.argv[1:], "x11")[:2]
     with schermo_di(nome_schermo, 800, 600) as schermo:
-        tasti = Tasti(schermo, programma, nome_schermo == "x11")
+        tasti = Tasti(schermo, programma, nome_schermo in ("x11", "wine"))
         for nome, gesti, attese in PROVE:
             venute = fai(tasti, gesti, attese)
             giusto = venute == attese

@@ -72,7 +72,7 @@ def tieni(conta, tasti, secondi):
 def main():
     opzioni = argparse.ArgumentParser()
     opzioni.add_argument("programma")
-    opzioni.add_argument("--schermo", default="x11", help="x11, or as in schermo_wayland.py")
+    opzioni.add_argument("--schermo", default="x11", help="x11, wine, or as in schermo_wayland.py")
     opzioni.add_argument("--desktop", default="")
     opzioni.add_argument("--a-riposo", action="store_true", help="not with both processors busy")
     opzioni.add_argument("--volte", type=int, default=2)
@@ -83,7 +83,7 @@ def main():
     with schermo_di(scelte.schermo, 800, 600) as schermo:
         os.environ["XDG_CURRENT_DESKTOP"] = scelte.desktop
         subprocess.run(["xset", "r", "rate", *RIPETIZIONE], check=True, timeout=30)
-        conta = Conta(schermo, scelte.programma, scelte.schermo == "x11")
+        conta = Conta(schermo, scelte.programma, scelte.schermo in ("x11", "wine"))
         for occupati in (0,) if scelte.a_riposo else (0, os.cpu_count() or 2):
             pesi = carichi(occupati)
             try:

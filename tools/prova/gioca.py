@@ -33,9 +33,9 @@ def gioca(scelte, partite):
     """The exercises, from the start of the program to its end. Returns whether all was well."""
     superficie = Tavoletta(scelte.tavoletta) if scelte.tavoletta else contextlib.nullcontext()
     with schermo_di(scelte.schermo, scala=scelte.scala) as schermo, superficie as tocchi:
-        from albero import Albero, TempoScaduto
+        from albero import TempoScaduto
         processo = schermo.avvia(schermo.copia(scelte.programma))
-        giocatore = MANI[scelte.mani](schermo, Albero(processo), scelte.cartella, tocchi)
+        giocatore = MANI[scelte.mani](schermo, schermo.albero(processo), scelte.cartella, tocchi)
         try:
             giocatore.vai(AVVIO)
             for i, partita in enumerate(partite):

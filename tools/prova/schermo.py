@@ -105,6 +105,12 @@ class Schermo:
         self._processi.append(processo)
         return processo
 
+    def albero(self, processo):
+        """What a program that was started here shows."""
+        # It asks for the desktop's tree when it is imported.
+        from albero import Albero
+        return Albero(processo)
+
     def scarto(self, albero):
         """How far the places of the display lie from those that a program tells of itself."""
         return 0, 0

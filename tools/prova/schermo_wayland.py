@@ -11,6 +11,7 @@ import subprocess
 import time
 
 from schermo import ErroreSchermo, Schermo
+from schermo_wine import SchermoWine
 
 # How keys repeat when they are held: so often a second, after so many milliseconds.
 RIPETIZIONE = 60, 150
@@ -130,8 +131,10 @@ class SchermoWayland(Schermo):
 
 
 def schermo(nome, larghezza=1366, altezza=768, scala=1):
-    """A desktop by its name: "x11", a compositor, or one with "+x", of whose X server programs are clients."""
+    """A desktop by its name: "x11", "wine", a compositor, or one with "+x", of whose X server programs are clients."""
     if nome == "x11":
         return Schermo(larghezza, altezza)
+    if nome == "wine":
+        return SchermoWine(larghezza, altezza)
     compositore, _, x = nome.partition("+")
     return SchermoWayland(larghezza, altezza, compositore, x == "x", scala)

@@ -7,7 +7,7 @@
 
 namespace platform::inline forms {
 
-// What the display server knows of the keyboard; today only X11's does.
+// What the system knows of the keyboard: an X server, or Windows.
 
 // How the repeats of a held key will show. Asks the server to send a release only when a key really
 // goes up, where it can be asked.
