@@ -60,10 +60,10 @@ struct Colonna {
   int minima = 0;
 };
 
-constexpr Colonna qualsiasi{10};
-constexpr Colonna nonZero{9, 1};
-constexpr Colonna primaDelCambio{9};  // 0 to 8: the carry that comes in makes no other
-constexpr Colonna conCambio{9, 10};
+constexpr Colonna kQualsiasi{10};
+constexpr Colonna kNonZero{9, 1};
+constexpr Colonna kPrimaDelCambio{9};  // 0 to 8: the carry that comes in makes no other
+constexpr Colonna kConCambio{9, 10};
 
 template <std::size_t N>
 std::array<int, N> EstraiColonne(Chance& chance, const std::array<Colonna, N>& colonne) {
@@ -120,9 +120,9 @@ struct SommaDellaCoppia {
   int massima;
 };
 
-constexpr SommaDellaCoppia cambio{10, 18};
-constexpr SommaDellaCoppia senza{0, 9};
-constexpr SommaDellaCoppia dopoCambio{0, 8};  // a carry comes in and must not make another
+constexpr SommaDellaCoppia kCambio{10, 18};
+constexpr SommaDellaCoppia kSenza{0, 9};
+constexpr SommaDellaCoppia kDopoCambio{0, 8};  // a carry comes in and must not make another
 
 // From the units to the thousands.
 using Coppie = std::array<SommaDellaCoppia, 4>;
@@ -145,13 +145,13 @@ void CoppieDiCifre(Caso& caso, Chance& chance, const Coppie& coppie) {
   ScriviAddendi(caso, addendo1, addendo2);
 }
 
-constexpr std::array<Coppie, 3> unCambio = {{{cambio, dopoCambio, senza, senza},
-                                             {senza, cambio, dopoCambio, senza},
-                                             {senza, senza, cambio, dopoCambio}}};
-constexpr std::array<Coppie, 3> dueCambi = {{{cambio, cambio, dopoCambio, senza},
-                                             {senza, cambio, cambio, dopoCambio},
-                                             {cambio, dopoCambio, cambio, dopoCambio}}};
-constexpr Coppie treCambi = {cambio, cambio, cambio, dopoCambio};
+constexpr std::array<Coppie, 3> kUnCambio = {{{kCambio, kDopoCambio, kSenza, kSenza},
+                                              {kSenza, kCambio, kDopoCambio, kSenza},
+                                              {kSenza, kSenza, kCambio, kDopoCambio}}};
+constexpr std::array<Coppie, 3> kDueCambi = {{{kCambio, kCambio, kDopoCambio, kSenza},
+                                              {kSenza, kCambio, kCambio, kDopoCambio},
+                                              {kCambio, kDopoCambio, kCambio, kDopoCambio}}};
+constexpr Coppie kTreCambi = {kCambio, kCambio, kCambio, kDopoCambio};
 
 void CoppieAScelta(Caso& caso, Chance& chance, const std::array<Coppie, 3>& scelte) {
   const int k = Casuale(chance, 3);
@@ -204,7 +204,7 @@ void GeneraTotale20(Caso& caso, Chance& chance) {
 }
 
 void GeneraEntro99SenzaCambio(Caso& caso, Chance& chance) {
-  SenzaCambio(caso, chance, std::array{qualsiasi, qualsiasi});
+  SenzaCambio(caso, chance, std::array{kQualsiasi, kQualsiasi});
 }
 
 void GeneraEntro99ConCambio(Caso& caso, Chance& chance) {
@@ -226,15 +226,15 @@ void GeneraEntro99SoloDecine(Caso& caso, Chance& chance) {
 }
 
 void GeneraEntro999SenzaCambio(Caso& caso, Chance& chance) {
-  SenzaCambio(caso, chance, std::array{nonZero, qualsiasi, qualsiasi});
+  SenzaCambio(caso, chance, std::array{kNonZero, kQualsiasi, kQualsiasi});
 }
 
 void GeneraEntro999CambioUnita(Caso& caso, Chance& chance) {
-  ColonneDellaSomma(caso, chance, {qualsiasi, primaDelCambio, conCambio});
+  ColonneDellaSomma(caso, chance, {kQualsiasi, kPrimaDelCambio, kConCambio});
 }
 
 void GeneraEntro999CambioDecine(Caso& caso, Chance& chance) {
-  ColonneDellaSomma(caso, chance, {primaDelCambio, conCambio, qualsiasi});
+  ColonneDellaSomma(caso, chance, {kPrimaDelCambio, kConCambio, kQualsiasi});
 }
 
 void GeneraEntro999UnCambio(Caso& caso, Chance& chance) {
@@ -247,7 +247,7 @@ void GeneraEntro999UnCambio(Caso& caso, Chance& chance) {
 }
 
 void GeneraEntro999DueCambi(Caso& caso, Chance& chance) {
-  ColonneDellaSomma(caso, chance, {primaDelCambio, conCambio, conCambio});
+  ColonneDellaSomma(caso, chance, {kPrimaDelCambio, kConCambio, kConCambio});
 }
 
 void GeneraEntro999ConESenzaCambi(Caso& caso, Chance& chance) {
@@ -267,19 +267,19 @@ void GeneraEntro999SoloCentinaia(Caso& caso, Chance& chance) {
 }
 
 void GeneraEntro9999SenzaCambio(Caso& caso, Chance& chance) {
-  SenzaCambio(caso, chance, std::array{qualsiasi, qualsiasi, qualsiasi, qualsiasi});
+  SenzaCambio(caso, chance, std::array{kQualsiasi, kQualsiasi, kQualsiasi, kQualsiasi});
 }
 
 void GeneraEntro9999UnCambio(Caso& caso, Chance& chance) {
-  CoppieAScelta(caso, chance, unCambio);
+  CoppieAScelta(caso, chance, kUnCambio);
 }
 
 void GeneraEntro9999DueCambi(Caso& caso, Chance& chance) {
-  CoppieAScelta(caso, chance, dueCambi);
+  CoppieAScelta(caso, chance, kDueCambi);
 }
 
 void GeneraEntro9999TreCambi(Caso& caso, Chance& chance) {
-  CoppieDiCifre(caso, chance, treCambi);
+  CoppieDiCifre(caso, chance, kTreCambi);
 }
 
 void GeneraEntro9999ConESenzaCambi(Caso& caso, Chance& chance) {

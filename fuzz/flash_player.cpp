@@ -50,8 +50,8 @@ void onRelease(const volatile void* place) {
 // Does a step and sees to it that it keeps to what it may take.
 template <typename Do>
 void step(const char* what, Do make) {
-  constexpr std::int64_t mostTime = 3 * 1000;   // milliseconds
-  constexpr std::size_t mostMemory = 64 << 20;  // bytes
+  constexpr std::int64_t kMostTime = 3 * 1000;   // milliseconds
+  constexpr std::size_t kMostMemory = 64 << 20;  // bytes
   static std::int64_t slowest = 100;
   static std::size_t largest = 16 << 20;
   const auto now = [] { return platform::flash::Budget::processorTime() / 1'000'000; };
@@ -65,7 +65,7 @@ void step(const char* what, Do make) {
     largest = std::max(largest, held);
     std::fprintf(stderr, "%s: %lld ms, %zu MB\n", what, static_cast<long long>(took), held >> 20U);
   }
-  require(took <= mostTime && held <= mostMemory);
+  require(took <= kMostTime && held <= kMostMemory);
 }
 
 constexpr std::uint8_t kFixedScript[] = {0, 0, 9, 10, 11, 2, 1, 0, 7, 5, 1, 50, 6, 0, 8};
@@ -158,7 +158,7 @@ class Host {
 
   // A call from outside may raise so many commands and no more.
   void checkCommands() {
-    require(commands_ <= platform::flash::limits::commandsPerTick);
+    require(commands_ <= platform::flash::limits::kCommandsPerTick);
     commands_ = 0;
   }
 

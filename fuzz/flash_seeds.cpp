@@ -100,17 +100,17 @@ int main(int argc, char* argv[]) {
   save(folder, QStringLiteral("gradient"),
        file(gradient() + showFrame() + remove(8) + showFrame(), 6, 50, 50, 2));
   for (const costly::Movie& movie : costly::movies()) {
-    constexpr qsizetype longest = 16'384;  // that the fuzzer takes
+    constexpr qsizetype kLongest = 16'384;  // that the fuzzer takes
     const QString name = QString::fromLatin1(movie.name).replace(u' ', u'_');
     save(costlyFolder, name, movie.bytes);
-    if (movie.bytes.size() <= longest) save(folder, name, movie.bytes);
+    if (movie.bytes.size() <= kLongest) save(folder, name, movie.bytes);
   }
   for (int i = 3; i < argc; ++i) {
     QFile in(QString::fromLocal8Bit(argv[i]));
     if (!in.open(QIODevice::ReadOnly)) return 1;
     const QByteArray packed = in.readAll();
     platform::flash::Budget budget(platform::flash::Budget::processorTime);
-    budget.begin(platform::flash::limits::loading);
+    budget.begin(platform::flash::limits::kLoading);
     platform::flash::Allowance allowance(budget);
     const auto opened = platform::flash::unpackFile(bytesOf(packed), allowance);
     QByteArray bytes(reinterpret_cast<const char*>(opened.bytes.data()),

@@ -88,7 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const ProfileText text(file);
   const QString value =
       text.value(QString(), platform::decodeText(key, platform::encodingOf(file)));
-  require(value.size() <= ProfileText::longestValue);
+  require(value.size() <= ProfileText::kLongestValue);
   readByLines(file, key);
   // A piece of the file is a key that its lines are likely to have.
   readByLines(file, file.mid(keySize, 1 + (input[0] >> 5 & 0x7)));

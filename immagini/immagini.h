@@ -9,7 +9,7 @@ void PreparaImmagini();
 
 // The hot spot of puntatore.svg, the tip of the forefinger: in pixels from the top left corner,
 // where the picture is 32 by 32.
-inline constexpr int PuntaX = 10;
-inline constexpr int PuntaY = 1;
+inline constexpr int kPuntaX = 10;
+inline constexpr int kPuntaY = 1;
 
 }  // namespace somme::inline immagini

@@ -6,7 +6,7 @@ namespace platform::inline base {
 
 Currency Currency::fromDouble(double value) {
   Currency result;
-  result.tenThousandths_ = roundHalfEven(value * scale);
+  result.tenThousandths_ = roundHalfEven(value * kScale);
   return result;
 }
 

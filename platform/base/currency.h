@@ -17,11 +17,11 @@ class Currency final {
   [[nodiscard]] static Currency fromDouble(double value);
 
   [[nodiscard]] constexpr double toDouble() const {
-    return static_cast<double>(tenThousandths_) / scale;
+    return static_cast<double>(tenThousandths_) / kScale;
   }
   // The number without its decimals, cut towards zero.
-  [[nodiscard]] constexpr qint64 wholePart() const { return tenThousandths_ / scale; }
-  [[nodiscard]] constexpr bool isWhole() const { return tenThousandths_ % scale == 0; }
+  [[nodiscard]] constexpr qint64 wholePart() const { return tenThousandths_ / kScale; }
+  [[nodiscard]] constexpr bool isWhole() const { return tenThousandths_ % kScale == 0; }
 
   friend constexpr auto operator<=>(const Currency&, const Currency&) = default;
   friend constexpr bool operator==(const Currency&, const Currency&) = default;
@@ -30,14 +30,14 @@ class Currency final {
   friend constexpr std::strong_ordering operator<=>(const Currency& left,
                                                     std::signed_integral auto right) {
     const std::strong_ordering whole = left.wholePart() <=> qint64{right};
-    return whole != 0 ? whole : left.tenThousandths_ % scale <=> 0;
+    return whole != 0 ? whole : left.tenThousandths_ % kScale <=> 0;
   }
   friend constexpr bool operator==(const Currency& left, std::signed_integral auto right) {
     return (left <=> right) == 0;
   }
 
  private:
-  static constexpr qint64 scale = 10000;
+  static constexpr qint64 kScale = 10000;
 
   qint64 tenThousandths_ = 0;
 };

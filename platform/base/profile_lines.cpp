@@ -51,17 +51,17 @@ QString withoutLastCharacter(QString text) {
 
 ProfileLines::ProfileLines(std::unique_ptr<QIODevice> file)
     : file_(std::move(file)), size_(file_->size()) {
-  const qint64 parts = (size_ + partSize - 1) / partSize;
-  partsPerFilter_ = std::max<qint64>(1, (parts + mostFilters - 1) / mostFilters);
+  const qint64 parts = (size_ + kPartSize - 1) / kPartSize;
+  partsPerFilter_ = std::max<qint64>(1, (parts + kMostFilters - 1) / kMostFilters);
   filters_.resize(static_cast<std::size_t>((parts + partsPerFilter_ - 1) / partsPerFilter_));
   Utf8Check check;
   for (qint64 index = 0; index < parts; ++index) {
-    const Part part = readPart(index, longestBeginning);
+    const Part part = readPart(index, kLongestBeginning);
     check.add(QByteArrayView(part.bytes).sliced(1, part.ownEnd - 1));
     Filter& filter = filters_[static_cast<std::size_t>(index / partsPerFilter_)];
     forEachLineBegin(part.bytes, part.ownEnd, [&](qsizetype begin) {
       BeginningHash hash;
-      const qsizetype end = std::min(begin + longestBeginning, part.bytes.size());
+      const qsizetype end = std::min(begin + kLongestBeginning, part.bytes.size());
       for (qsizetype i = begin; i < end; ++i) {
         const char byte = part.bytes[i];
         if (byte == '=' || isLineEnd(byte)) break;
@@ -79,24 +79,24 @@ QByteArray ProfileLines::readAt(qint64 offset, qint64 size) {
 }
 
 ProfileLines::Part ProfileLines::readPart(qint64 index, qsizetype more) {
-  const qint64 offset = index * partSize;
+  const qint64 offset = index * kPartSize;
   Part part;
   if (index > 0) {
-    part.bytes = readAt(offset - 1, 1 + partSize + more);
+    part.bytes = readAt(offset - 1, 1 + kPartSize + more);
     if (part.bytes.isEmpty()) part.bytes = QByteArray(1, '\0');
   } else {
-    part.bytes = '\n' + readAt(0, partSize + more);
+    part.bytes = '\n' + readAt(0, kPartSize + more);
     // Empty lines in the place of the byte-order mark: the first line begins after it.
     const qsizetype mark = byteOrderMarkSize(QByteArrayView(part.bytes).sliced(1));
     std::fill_n(part.bytes.begin() + 1, mark, '\n');
   }
-  part.ownEnd = std::min<qsizetype>(part.bytes.size(), 1 + partSize);
+  part.ownEnd = std::min<qsizetype>(part.bytes.size(), 1 + kPartSize);
   return part;
 }
 
 bool ProfileLines::mayHold(const Filter& filter, const QByteArray& key) const {
   BeginningHash hash;
-  for (const char byte : QByteArrayView(key).first(std::min(key.size(), longestBeginning))) {
+  for (const char byte : QByteArrayView(key).first(std::min(key.size(), kLongestBeginning))) {
     if (byte == '=') break;
     if (!filter.test(hash.add(byte))) return false;
   }
@@ -106,11 +106,11 @@ bool ProfileLines::mayHold(const Filter& filter, const QByteArray& key) const {
 QString ProfileLines::value(const QString& key) {
   const QByteArray bytes = encodeText(key, encoding_);
   // What the encoding lacks, what spans lines, or what is longer than any sensible line, is no key.
-  const bool isKey = !bytes.isEmpty() && bytes.size() <= partSize &&
+  const bool isKey = !bytes.isEmpty() && bytes.size() <= kPartSize &&
                      std::none_of(bytes.begin(), bytes.end(), isLineEnd) &&
                      decodeText(bytes, encoding_) == key;
   if (!isKey) return {};
-  for (qint64 index = 0; index * partSize < size_; ++index) {
+  for (qint64 index = 0; index * kPartSize < size_; ++index) {
     if (!mayHold(filters_[static_cast<std::size_t>(index / partsPerFilter_)], bytes)) continue;
     const Part part = readPart(index, bytes.size());
     qsizetype found = -1;
@@ -118,7 +118,7 @@ QString ProfileLines::value(const QString& key) {
       if (QByteArrayView(part.bytes).sliced(begin).startsWith(bytes)) found = begin;
       return found >= 0;
     });
-    if (found >= 0) return valueAt(index * partSize + found - 1 + bytes.size());
+    if (found >= 0) return valueAt(index * kPartSize + found - 1 + bytes.size());
   }
   return {};
 }
@@ -126,7 +126,7 @@ QString ProfileLines::value(const QString& key) {
 QString ProfileLines::valueAt(qint64 offset) {
   // No character takes more than three bytes for each of its units; three more make up for the
   // characters that are dropped.
-  const QByteArray rest = readAt(offset, 3 * (longestValue + 3));
+  const QByteArray rest = readAt(offset, 3 * (kLongestValue + 3));
   const auto end = std::find_if(rest.begin(), rest.end(), isLineEnd);
   const bool isWhole = end != rest.end() || offset + rest.size() >= size_;
   QString value = decodeText(QByteArrayView(rest).first(end - rest.begin()), encoding_);
@@ -134,8 +134,8 @@ QString ProfileLines::valueAt(qint64 offset) {
   if (isWhole) value = withoutLastCharacter(value);
   const qsizetype nul = value.indexOf(QChar(u'\0'));
   if (nul >= 0) value.truncate(nul);
-  if (value.size() <= longestValue) return value;
-  value.truncate(longestValue);
+  if (value.size() <= kLongestValue) return value;
+  value.truncate(kLongestValue);
   return value.back().isHighSurrogate() ? value.chopped(1) : value;
 }
 

@@ -25,10 +25,10 @@ namespace platform::inline base {
 // caller's.
 class ProfileLines final {
  public:
-  static constexpr qint64 partSize = 65536;
-  static constexpr qint64 mostFilters = 2048;
+  static constexpr qint64 kPartSize = 65536;
+  static constexpr qint64 kMostFilters = 2048;
   // What is kept of a value, in characters: far beyond any text on a form.
-  static constexpr qsizetype longestValue = 32767;
+  static constexpr qsizetype kLongestValue = 32767;
 
   // file: open for reading, with random access. Reads it once through.
   explicit ProfileLines(std::unique_ptr<QIODevice> file);
@@ -41,7 +41,7 @@ class ProfileLines final {
 
  private:
   // A bit for each beginning of up to this many bytes of the text before a line's first "=".
-  static constexpr qsizetype longestBeginning = 32;
+  static constexpr qsizetype kLongestBeginning = 32;
   using Filter = std::bitset<65536>;
 
   // A part with its surroundings: own bytes begin at index 1, after the byte that tells whether the

@@ -11,13 +11,13 @@ namespace platform::inline base {
 namespace {
 
 // Longer than the clock of any usual file system takes for a step.
-constexpr std::chrono::nanoseconds freshness = std::chrono::milliseconds(100);
+constexpr std::chrono::nanoseconds kFreshness = std::chrono::milliseconds(100);
 
 // A time in the future, left by a clock that was set back, is not fresh: it would stay so.
 bool hasJustChanged(std::int64_t changed) {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
   const auto age = std::chrono::duration_cast<std::chrono::nanoseconds>(now).count() - changed;
-  return age >= 0 && age < freshness.count();
+  return age >= 0 && age < kFreshness.count();
 }
 
 }  // namespace
@@ -29,10 +29,10 @@ ProfileReader::Remembered ProfileReader::load(const QString& path, const FileSta
                     .content = ProfileText()};
   std::unique_ptr<QFile> file = openWatched(path);
   if (!file) return loaded;
-  if (stamp.size > smallFile) {
+  if (stamp.size > kSmallFile) {
     loaded.content = std::make_unique<ProfileLines>(std::move(file));
   } else {
-    loaded.content = ProfileText(file->read(smallFile));
+    loaded.content = ProfileText(file->read(kSmallFile));
   }
   return loaded;
 }
@@ -48,7 +48,7 @@ void ProfileReader::bringToFront(const QString& path) {
   if (found != remembered_.end()) remembered_.erase(found);
   if (!stamp) throw RunTimeError(RunTimeError::FileNotFound);
   remembered_.push_front(load(path, *stamp));
-  if (remembered_.size() > mostRemembered) remembered_.pop_back();
+  if (remembered_.size() > kMostRemembered) remembered_.pop_back();
 }
 
 QString ProfileReader::read(const QString& path, const QString& section, const QString& key) {

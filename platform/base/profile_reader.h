@@ -20,7 +20,7 @@ namespace platform::inline base {
 class ProfileReader final {
  public:
   // The largest file, in bytes, that is read as sections and keys.
-  static constexpr qint64 smallFile = 64000;
+  static constexpr qint64 kSmallFile = 64000;
 
   // The value; empty where the file has no such key or cannot be opened. Throws
   // RunTimeError(FileNotFound) where there is no file of that name.
@@ -28,7 +28,7 @@ class ProfileReader final {
 
  private:
   // Enough for the language file and the file that names it.
-  static constexpr std::size_t mostRemembered = 2;
+  static constexpr std::size_t kMostRemembered = 2;
 
   struct Remembered {
     QString path;

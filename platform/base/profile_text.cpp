@@ -79,9 +79,9 @@ void forEachLine(QByteArrayView text, Visit visit) {
 QString shortened(QString value) {
   const qsizetype nul = value.indexOf(QChar(u'\0'));
   if (nul >= 0) value.truncate(nul);
-  if (value.size() <= ProfileText::longestValue) return value;
-  const bool splits = value[ProfileText::longestValue].isLowSurrogate();
-  value.truncate(splits ? ProfileText::longestValue - 1 : ProfileText::longestValue);
+  if (value.size() <= ProfileText::kLongestValue) return value;
+  const bool splits = value[ProfileText::kLongestValue].isLowSurrogate();
+  value.truncate(splits ? ProfileText::kLongestValue - 1 : ProfileText::kLongestValue);
   return value;
 }
 

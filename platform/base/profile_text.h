@@ -17,7 +17,7 @@ namespace platform::inline base {
 class ProfileText final {
  public:
   // A longer value is cut; no character outside of the basic plane is cut in two.
-  static constexpr qsizetype longestValue = 511;
+  static constexpr qsizetype kLongestValue = 511;
 
   ProfileText() = default;
   // bytes: any bytes at all. They are not kept.

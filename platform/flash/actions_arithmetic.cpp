@@ -178,7 +178,7 @@ void stringExtract(ScriptRun& run, ByteReader&) {
   run.pushText(run.popText().mid(first - 1, count));
 }
 
-constexpr std::array arithmeticRows{
+constexpr std::array kArithmeticRows{
     ActionRow{Op::Add, add},
     ActionRow{Op::Add2, addTyped},
     ActionRow{Op::Subtract, subtract},
@@ -209,7 +209,7 @@ constexpr std::array arithmeticRows{
 }  // namespace
 
 std::span<const ActionRow> arithmeticActions() {
-  return arithmeticRows;
+  return kArithmeticRows;
 }
 
 }  // namespace platform::flash

@@ -104,9 +104,9 @@ void returnValue(ScriptRun& run, ByteReader&) {
 
 // The body of a function follows its definition and is not run here. One without a name is a value.
 void define(ScriptRun& run, ByteReader& operand, bool second) {
-  constexpr std::size_t functionMemory = 200;
+  constexpr std::size_t kFunctionMemory = 200;
   auto function = std::make_shared<ScriptFunction>();
-  run.stage().budget().hold(functionMemory);
+  run.stage().budget().hold(kFunctionMemory);
   const QString name = run.decoded(operand);
   int parameters = operand.u16();
   if (second) {
@@ -181,7 +181,7 @@ void callMethod(ScriptRun& run, ByteReader&) {
   run.push(callIfFunction(run, run.member(object, name), object, std::move(arguments)));
 }
 
-constexpr std::array flowRows{
+constexpr std::array kFlowRows{
     ActionRow{Op::Push, pushValues},
     ActionRow{Op::Pop, popValue},
     ActionRow{Op::ConstantPool, setConstantPool},
@@ -201,7 +201,7 @@ constexpr std::array flowRows{
 }  // namespace
 
 std::span<const ActionRow> flowActions() {
-  return flowRows;
+  return kFlowRows;
 }
 
 }  // namespace platform::flash

@@ -11,7 +11,7 @@ namespace platform::flash {
 
 namespace {
 
-constexpr int farthestFrame = 1 << 20;  // beyond any timeline
+constexpr int kFarthestFrame = 1 << 20;  // beyond any timeline
 
 // The frame, from 0, that a value means for a clip: a number from 1, or a label. None for what is
 // neither.
@@ -27,7 +27,7 @@ std::optional<int> frameOf(ScriptRun& run, const Clip& clip, const Value& value)
   if (std::isnan(number) || number < 1) {
     return std::nullopt;
   }
-  return static_cast<int>(std::min<double>(number, farthestFrame)) - 1;
+  return static_cast<int>(std::min<double>(number, kFarthestFrame)) - 1;
 }
 
 // value may name another clip in front of the frame: "a/b:label".
@@ -93,19 +93,19 @@ void gotoLabel(ScriptRun& run, ByteReader& operand) {
 }
 
 void gotoValue(ScriptRun& run, ByteReader& operand) {
-  constexpr unsigned playBit = 1;
-  constexpr unsigned biasBit = 2;
+  constexpr unsigned kPlayBit = 1;
+  constexpr unsigned kBiasBit = 2;
   const unsigned flags = operand.u8();
-  const int bias = (flags & biasBit) != 0 ? operand.u16() : 0;
+  const int bias = (flags & kBiasBit) != 0 ? operand.u16() : 0;
   const Value value = run.pop();
-  goTo(run, run.target(), value, bias, (flags & playBit) != 0);
+  goTo(run, run.target(), value, bias, (flags & kPlayBit) != 0);
 }
 
 // Of all addresses only those that speak to the host mean anything here.
 void openAddress(ScriptRun& run, const QString& url, const QString& target) {
-  constexpr QStringView prefix = u"FSCommand:";
-  if (url.startsWith(prefix, Qt::CaseInsensitive)) {
-    run.machine().raiseCommand(url.mid(prefix.size()), target);
+  constexpr QStringView kPrefix = u"FSCommand:";
+  if (url.startsWith(kPrefix, Qt::CaseInsensitive)) {
+    run.machine().raiseCommand(url.mid(kPrefix.size()), target);
   }
 }
 
@@ -129,7 +129,7 @@ void setTargetFromStack(ScriptRun& run, ByteReader&) {
   run.setTarget(run.popText());
 }
 
-constexpr std::array timelineRows{
+constexpr std::array kTimelineRows{
     ActionRow{Op::NextFrame, nextFrame},
     ActionRow{Op::PreviousFrame, previousFrame},
     ActionRow{Op::Play, play},
@@ -170,7 +170,7 @@ bool callTimelineMethod(ScriptRun& run, Clip& clip, const QString& name,
 }
 
 std::span<const ActionRow> timelineActions() {
-  return timelineRows;
+  return kTimelineRows;
 }
 
 }  // namespace platform::flash

@@ -59,9 +59,9 @@ void setMember(ScriptRun& run, ByteReader&) {
 }
 
 void typeOf(ScriptRun& run, ByteReader&) {
-  constexpr std::array<QStringView, std::variant_size_v<Value>> words{
+  constexpr std::array<QStringView, std::variant_size_v<Value>> kWords{
       u"undefined", u"null", u"boolean", u"number", u"string", u"movieclip", u"function"};
-  run.pushText(words[run.pop().index()].toString());
+  run.pushText(kWords[run.pop().index()].toString());
 }
 
 void targetPath(ScriptRun& run, ByteReader&) {
@@ -73,7 +73,7 @@ void targetPath(ScriptRun& run, ByteReader&) {
   }
 }
 
-constexpr std::array variableRows{
+constexpr std::array kVariableRows{
     ActionRow{Op::GetVariable, getVariable}, ActionRow{Op::SetVariable, setVariable},
     ActionRow{Op::DefineLocal, defineLocal}, ActionRow{Op::DefineLocal2, declareLocal},
     ActionRow{Op::GetProperty, getProperty}, ActionRow{Op::SetProperty, setProperty},
@@ -84,7 +84,7 @@ constexpr std::array variableRows{
 }  // namespace
 
 std::span<const ActionRow> variableActions() {
-  return variableRows;
+  return kVariableRows;
 }
 
 }  // namespace platform::flash

@@ -17,8 +17,8 @@ class Allowance {
   // few bytes of a file can multiply, roughly, not every byte. Throws MovieError when no more is
   // left.
   void spend(std::size_t bytes) {
-    constexpr std::int64_t workPerByte = 3;
-    check(budget_.hold(bytes) && budget_.spend(static_cast<std::int64_t>(bytes) * workPerByte));
+    constexpr std::int64_t kWorkPerByte = 3;
+    check(budget_.hold(bytes) && budget_.spend(static_cast<std::int64_t>(bytes) * kWorkPerByte));
   }
   // Takes work that leaves nothing behind, count times. Throws MovieError, too.
   void work(std::int64_t nanoseconds, std::size_t count = 1) {

@@ -7,22 +7,22 @@ namespace platform::flash {
 namespace {
 
 QRectF ownBounds(const Instance& instance, Budget& budget) {
-  constexpr std::int64_t thingWork = 50;
+  constexpr std::int64_t kThingWork = 50;
   QRectF all;
   if (const Container* container = asContainer(&instance)) {
     for (const auto& [depth, child] : container->children) {
-      if (!budget.spend(thingWork)) {
+      if (!budget.spend(kThingWork)) {
         break;
       }
       all = all.united(boundsInParent(*child, budget));
     }
   } else if (const auto* shape = instance.character->as<Shape>()) {
-    budget.spend(thingWork * std::int64_t(shape->parts.size()));
+    budget.spend(kThingWork * std::int64_t(shape->parts.size()));
     for (const ShapePart& part : shape->parts) {
       all = all.united(part.bounds);
     }
   } else if (const auto* text = instance.character->as<Text>()) {
-    budget.spend(2 * thingWork * std::int64_t(text->glyphs.size()));
+    budget.spend(2 * kThingWork * std::int64_t(text->glyphs.size()));
     for (const Text::Glyph& glyph : text->glyphs) {
       all = all.united((glyph.matrix * text->matrix).mapRect(glyph.bounds));
     }

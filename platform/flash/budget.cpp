@@ -8,7 +8,7 @@ namespace platform::flash {
 namespace {
 
 // Counted work between two looks at the clock.
-constexpr std::int64_t betweenLooks = 1'000'000;
+constexpr std::int64_t kBetweenLooks = 1'000'000;
 
 }  // namespace
 
@@ -22,14 +22,14 @@ void Budget::begin(const Amount& amount) {
   left_ = amount.work;
   memoryLeft_ = amount.memory;
   end_ = clock_() + amount.time;
-  nextLook_ = std::max<std::int64_t>(0, left_ - betweenLooks);
+  nextLook_ = std::max<std::int64_t>(0, left_ - kBetweenLooks);
 }
 
 void Budget::look() {
   if (left_ <= 0 || clock_() >= end_) {
     exhaust();
   } else {
-    nextLook_ = std::max<std::int64_t>(0, left_ - betweenLooks);
+    nextLook_ = std::max<std::int64_t>(0, left_ - kBetweenLooks);
   }
 }
 

@@ -8,13 +8,13 @@ namespace platform::flash {
 
 namespace {
 
-constexpr unsigned stateBits = 0x0F;
-constexpr unsigned filterBit = 0x10;
-constexpr unsigned blendBit = 0x20;
+constexpr unsigned kStateBits = 0x0F;
+constexpr unsigned kFilterBit = 0x10;
+constexpr unsigned kBlendBit = 0x20;
 
 void keep(Button& button, const ButtonRecord& record, const ReadContext& context) {
   const Character* character = context.movie.character(record.character);
-  if (character != nullptr && character->nesting < limits::nesting) {
+  if (character != nullptr && character->nesting < limits::kNesting) {
     context.allowance.spend(sizeof record);
     button.records.push_back(record);
   }
@@ -24,7 +24,7 @@ void keep(Button& button, const ButtonRecord& record, const ReadContext& context
 void readRecords(ByteReader& body, bool second, Button& button, const ReadContext& context) {
   for (unsigned flags = body.u8(); flags != 0; flags = body.u8()) {
     ButtonRecord record;
-    record.states = static_cast<std::uint8_t>(flags & stateBits);
+    record.states = static_cast<std::uint8_t>(flags & kStateBits);
     record.character = body.u16();
     record.depth = body.u16();
     record.matrix = readMatrix(body);
@@ -32,11 +32,11 @@ void readRecords(ByteReader& body, bool second, Button& button, const ReadContex
       record.color = readColorTransform(body, true);
     }
     keep(button, record, context);
-    if (second && (flags & filterBit) != 0) {
+    if (second && (flags & kFilterBit) != 0) {
       // Filters are not drawn, and their lengths are many; the records after them are given up.
       return;
     }
-    if (second && (flags & blendBit) != 0) {
+    if (second && (flags & kBlendBit) != 0) {
       body.skip(1);
     }
   }

@@ -8,77 +8,77 @@ namespace platform::flash {
 
 namespace {
 
-constexpr double edgeFlatness = 0.1;  // pixels
+constexpr double kEdgeFlatness = 0.1;  // pixels
 
 // Nanoseconds for an edge: to gather and cover, and to sort where many lie in disorder.
-constexpr std::int64_t edgeWork = 30;
-constexpr std::int64_t sortWork = 100;
+constexpr std::int64_t kEdgeWork = 30;
+constexpr std::int64_t kSortWork = 100;
 
-constexpr double farthestSeen = 1e8;  // pixels; nothing beyond is seen
-constexpr int places = 32;            // behind the point of Across
-constexpr Across onePixel = Across(1) << places;
+constexpr double kFarthestSeen = 1e8;  // pixels; nothing beyond is seen
+constexpr int kPlaces = 32;            // behind the point of Across
+constexpr Across kOnePixel = Across(1) << kPlaces;
 
 // Where the sample of each row of samples lies in its pixel, in sixteenths and a half: the numbers
 // 0 to 15 with their bits turned round, so that neighbouring rows lie far apart.
-constexpr std::array<unsigned, samples> columns = [] {
-  std::array<unsigned, samples> all{};
-  for (unsigned i = 0; i < samples; ++i) {
+constexpr std::array<unsigned, kSamples> kColumns = [] {
+  std::array<unsigned, kSamples> all{};
+  for (unsigned i = 0; i < kSamples; ++i) {
     all[i] = ((i & 1U) << 3U) | ((i & 2U) << 1U) | ((i & 4U) >> 1U) | (i >> 3U);
   }
   return all;
 }();
 
-constexpr std::array<Across, samples> offsets = [] {
-  std::array<Across, samples> all{};
-  for (std::size_t i = 0; i < samples; ++i) {
-    all[i] = (2 * Across(columns[i]) + 1) * onePixel / (2 * samples);
+constexpr std::array<Across, kSamples> kOffsets = [] {
+  std::array<Across, kSamples> all{};
+  for (std::size_t i = 0; i < kSamples; ++i) {
+    all[i] = (2 * Across(kColumns[i]) + 1) * kOnePixel / (2 * kSamples);
   }
   return all;
 }();
 
-constexpr std::array<std::uint32_t, samples> offsetsInPixel = [] {
-  std::array<std::uint32_t, samples> all{};
-  for (std::size_t i = 0; i < samples; ++i) {
-    all[i] = static_cast<std::uint32_t>(offsets[i]);
+constexpr std::array<std::uint32_t, kSamples> kOffsetsInPixel = [] {
+  std::array<std::uint32_t, kSamples> all{};
+  for (std::size_t i = 0; i < kSamples; ++i) {
+    all[i] = static_cast<std::uint32_t>(kOffsets[i]);
   }
   return all;
 }();
 
 // For each number of columns, the samples that do not lie in the first so many of them.
-constexpr std::array<SampleMask, samples + 1> behind = [] {
-  std::array<SampleMask, samples + 1> all{};
-  for (unsigned first = 0; first <= samples; ++first) {
-    for (unsigned i = 0; i < samples; ++i) {
-      all[first] |= static_cast<SampleMask>(columns[i] >= first ? 1U << i : 0U);
+constexpr std::array<SampleMask, kSamples + 1> behind = [] {
+  std::array<SampleMask, kSamples + 1> all{};
+  for (unsigned first = 0; first <= kSamples; ++first) {
+    for (unsigned i = 0; i < kSamples; ++i) {
+      all[first] |= static_cast<SampleMask>(kColumns[i] >= first ? 1U << i : 0U);
     }
   }
   return all;
 }();
 
 Across across(double pixels) {
-  return static_cast<Across>(std::clamp(pixels, -farthestSeen, farthestSeen) * double(onePixel));
+  return static_cast<Across>(std::clamp(pixels, -kFarthestSeen, kFarthestSeen) * double(kOnePixel));
 }
 
 }  // namespace
 
 void RowCoverage::cross(int first, int end, Across x, Across slope) {
-  const std::int64_t pixel = x >> places;
+  const std::int64_t pixel = x >> kPlaces;
   const unsigned rows = (1U << unsigned(end)) - (1U << unsigned(first));
   if (slope == 0) {
     // How many columns lie to the left of x.
-    const Across rest = x & (onePixel - 1);
-    const auto left = static_cast<std::size_t>((rest * samples + onePixel / 2 - 1) >> places);
+    const Across rest = x & (kOnePixel - 1);
+    const auto left = static_cast<std::size_t>((rest * kSamples + kOnePixel / 2 - 1) >> kPlaces);
     toggle(pixel, behind[left] & rows);
     toggle(pixel + 1, ~unsigned(behind[left]) & rows);
     return;
   }
-  if ((x + slope * (end - first - 1)) >> places == pixel) {
+  if ((x + slope * (end - first - 1)) >> kPlaces == pixel) {
     // Within one pixel, 32 bits do, and all sixteen rows at once take no longer than a few.
     const auto step = static_cast<std::uint32_t>(slope);
     const std::uint32_t begin = static_cast<std::uint32_t>(x) - step * std::uint32_t(first);
     unsigned mask = 0;
-    for (std::uint32_t row = 0; row < samples; ++row) {
-      mask |= begin + step * row <= offsetsInPixel[row] ? 1U << row : 0U;
+    for (std::uint32_t row = 0; row < kSamples; ++row) {
+      mask |= begin + step * row <= kOffsetsInPixel[row] ? 1U << row : 0U;
     }
     toggle(pixel, mask & rows);
     toggle(pixel + 1, ~mask & rows);
@@ -86,7 +86,7 @@ void RowCoverage::cross(int first, int end, Across x, Across slope) {
   }
   for (int row = first; row < end; ++row, x += slope) {
     // The first pixel whose sample in this row lies at x or to the right of it.
-    toggle((x - offsets[std::size_t(row)] + onePixel - 1) >> places, 1U << unsigned(row));
+    toggle((x - kOffsets[std::size_t(row)] + kOnePixel - 1) >> kPlaces, 1U << unsigned(row));
   }
 }
 
@@ -97,7 +97,7 @@ void EdgeSet::addLine(QPointF from, QPointF to) {
   }
   // Rows of samples run through the middle of their stripes.
   const auto subrow = [&](double y) {
-    return static_cast<int>(std::ceil(std::clamp(y * samples - 0.5, -1.0, double(lastSubrow_))));
+    return static_cast<int>(std::ceil(std::clamp(y * kSamples - 0.5, -1.0, double(lastSubrow_))));
   };
   const int top = std::max(0, subrow(from.y()));
   const int bottom = subrow(to.y());
@@ -105,8 +105,8 @@ void EdgeSet::addLine(QPointF from, QPointF to) {
     return;
   }
   const double slope = (to.x() - from.x()) / (to.y() - from.y());
-  const double x = from.x() + slope * ((top + 0.5) / samples - from.y());
-  edges_.push_back({across(x), across(slope / samples), top, bottom, direction});
+  const double x = from.x() + slope * ((top + 0.5) / kSamples - from.y());
+  edges_.push_back({across(x), across(slope / kSamples), top, bottom, direction});
   firstSubrow_ = std::min(firstSubrow_, top);
   endSubrow_ = std::max(endSubrow_, bottom);
 }
@@ -124,7 +124,7 @@ std::size_t EdgeSet::add(const Outline& outline, const QTransform& matrix, std::
   };
   const double scale = std::max(std::hypot(m11, m12), std::hypot(m21, m22));
   std::size_t pieces = 0;
-  flatten(outline, scale, edgeFlatness, [&](QPointF from, QPointF to) {
+  flatten(outline, scale, kEdgeFlatness, [&](QPointF from, QPointF to) {
     if (++pieces <= most) {
       addLine(map(from), map(to));
     }
@@ -140,9 +140,9 @@ void EdgeSet::prepare() {
 
 void EdgeSet::goTo(int row) {
   row_ = row;
-  const int first = row * samples;
+  const int first = row * kSamples;
   std::erase_if(active_, [first](const Edge* edge) { return edge->bottom <= first; });
-  for (; next_ < edges_.size() && edges_[next_].top < first + samples; ++next_) {
+  for (; next_ < edges_.size() && edges_[next_].top < first + kSamples; ++next_) {
     if (edges_[next_].bottom > first) {
       active_.push_back(&edges_[next_]);
     }
@@ -150,7 +150,7 @@ void EdgeSet::goTo(int row) {
 }
 
 int EdgeSet::gatherLive(int subrow, Budget& budget) {
-  int end = (row_ + 1) * samples;
+  int end = (row_ + 1) * kSamples;
   live_.clear();
   for (const Edge* edge : active_) {
     if (edge->top > subrow) {
@@ -181,7 +181,7 @@ void EdgeSet::sortLive(Budget& budget) {
     }
     live_[at] = crossing;
     if (i - at > moves) {
-      budget.spend(sortWork * static_cast<std::int64_t>(live_.size()));
+      budget.spend(kSortWork * static_cast<std::int64_t>(live_.size()));
       std::stable_sort(live_.begin(), live_.end(), [](const Crossing& left, const Crossing& right) {
         return left.x < right.x;
       });
@@ -199,7 +199,7 @@ bool EdgeSet::keepOrder(int subrow) const {
 }
 
 void EdgeSet::coverLive(RowCoverage& coverage, int subrow, int end) const {
-  const int first = row_ * samples;
+  const int first = row_ * kSamples;
   int winding = 0;
   for (const auto& [x, edge] : live_) {
     const int after = windingAfter(winding, edge->direction);
@@ -211,9 +211,9 @@ void EdgeSet::coverLive(RowCoverage& coverage, int subrow, int end) const {
 }
 
 void EdgeSet::cover(RowCoverage& coverage, Budget& budget) {
-  const int end = (row_ + 1) * samples;
-  for (int subrow = row_ * samples; subrow < end;) {
-    if (!budget.spend(edgeWork * static_cast<std::int64_t>(active_.size()))) {
+  const int end = (row_ + 1) * kSamples;
+  for (int subrow = row_ * kSamples; subrow < end;) {
+    if (!budget.spend(kEdgeWork * static_cast<std::int64_t>(active_.size()))) {
       return;
     }
     const int next = gatherLive(subrow, budget);

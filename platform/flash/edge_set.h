@@ -15,8 +15,8 @@ namespace platform::flash {
 // A pixel is looked at in sixteen places, its samples: one in each of sixteen rows of samples, at
 // sixteen different distances from its left edge. A mask tells which of them something covers.
 using SampleMask = std::uint16_t;
-inline constexpr int samples = 16;
-inline constexpr SampleMask allSamples = 0xFFFF;
+inline constexpr int kSamples = 16;
+inline constexpr SampleMask kAllSamples = 0xFFFF;
 
 // A position across a row, in pixels with 32 binary places behind the point: exact enough to follow
 // an edge over any picture by adding.
@@ -66,7 +66,7 @@ class EdgeSet {
  public:
   enum class Rule { EvenOdd, Winding };
 
-  EdgeSet(Rule rule, int rows) : rule_(rule), lastSubrow_(rows * samples) {}
+  EdgeSet(Rule rule, int rows) : rule_(rule), lastSubrow_(rows * kSamples) {}
 
   // Adds an outline that the matrix takes to pixels. Returns how many straight pieces it takes;
   // where they are more than most, those beyond are missing, and the set is good for nothing.
@@ -75,8 +75,8 @@ class EdgeSet {
   void prepare();
 
   // The rows of pixels that it touches: from the first up to, not including, the other.
-  [[nodiscard]] int firstRow() const { return firstSubrow_ / samples; }
-  [[nodiscard]] int endRow() const { return (endSubrow_ + samples - 1) / samples; }
+  [[nodiscard]] int firstRow() const { return firstSubrow_ / kSamples; }
+  [[nodiscard]] int endRow() const { return (endSubrow_ + kSamples - 1) / kSamples; }
 
   // Goes on to a row, which must not lie above the last one.
   void goTo(int row);

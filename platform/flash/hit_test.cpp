@@ -10,13 +10,13 @@ namespace platform::flash {
 namespace {
 
 // The events that make a clip a kind of button.
-constexpr std::uint32_t buttonEvents = static_cast<std::uint32_t>(ClipEvent::Press) |
-                                       static_cast<std::uint32_t>(ClipEvent::Release) |
-                                       static_cast<std::uint32_t>(ClipEvent::ReleaseOutside) |
-                                       static_cast<std::uint32_t>(ClipEvent::RollOver) |
-                                       static_cast<std::uint32_t>(ClipEvent::RollOut) |
-                                       static_cast<std::uint32_t>(ClipEvent::DragOver) |
-                                       static_cast<std::uint32_t>(ClipEvent::DragOut);
+constexpr std::uint32_t kButtonEvents = static_cast<std::uint32_t>(ClipEvent::Press) |
+                                        static_cast<std::uint32_t>(ClipEvent::Release) |
+                                        static_cast<std::uint32_t>(ClipEvent::ReleaseOutside) |
+                                        static_cast<std::uint32_t>(ClipEvent::RollOver) |
+                                        static_cast<std::uint32_t>(ClipEvent::RollOut) |
+                                        static_cast<std::uint32_t>(ClipEvent::DragOver) |
+                                        static_cast<std::uint32_t>(ClipEvent::DragOut);
 
 // One search for one point; it finds nothing where the budget does not do.
 class Search {
@@ -50,16 +50,16 @@ class Search {
   }
   // To look at so many things.
   [[nodiscard]] bool spend(std::size_t things = 1) const {
-    constexpr std::int64_t thingWork = 60;
-    return stage_.budget().spend(thingWork * static_cast<std::int64_t>(things));
+    constexpr std::int64_t kThingWork = 60;
+    return stage_.budget().spend(kThingWork * static_cast<std::int64_t>(things));
   }
   // To follow the whole of an outline.
   [[nodiscard]] bool spend(const Outline& outline) const {
-    constexpr std::int64_t segmentWork = 10;
-    constexpr std::int64_t curveWork = 640;
-    return stage_.budget().spend(segmentWork *
+    constexpr std::int64_t kSegmentWork = 10;
+    constexpr std::int64_t kCurveWork = 640;
+    return stage_.budget().spend(kSegmentWork *
                                      static_cast<std::int64_t>(outline.segments().size()) +
-                                 curveWork * static_cast<std::int64_t>(outline.curves()));
+                                 kCurveWork * static_cast<std::int64_t>(outline.curves()));
   }
 
   const Stage& stage_;
@@ -176,7 +176,7 @@ Container* Search::interactiveIn(const Container& container, const Aim& aim) {
       if (isEnabled(*child) && hits(static_cast<const ButtonInstance&>(*child), inner)) {
         found = child;
       }
-    } else if (stage_.listens(*child, buttonEvents)) {
+    } else if (stage_.listens(*child, kButtonEvents)) {
       // It takes the mouse as a whole: buttons inside it get nothing.
       if (isEnabled(*child) && covers(*child, inner)) {
         found = child;

@@ -19,26 +19,26 @@ Interpreter::Interpreter(Stage& stage, CommandSink onCommand)
 }
 
 void Interpreter::execute(ScriptRun& run) {
-  constexpr unsigned firstWithOperand = 0x80;
-  constexpr std::int64_t actionWork = 80;
-  constexpr std::int64_t byteWork = 2;
-  constexpr std::int64_t faultWork = 3000;
+  constexpr unsigned kFirstWithOperand = 0x80;
+  constexpr std::int64_t kActionWork = 80;
+  constexpr std::int64_t kByteWork = 2;
+  constexpr std::int64_t kFaultWork = 3000;
   Budget& budget = stage_.budget();
   try {
-    while (!run.ended_ && !run.code_.atEnd() && budget.spend(actionWork)) {
+    while (!run.ended_ && !run.code_.atEnd() && budget.spend(kActionWork)) {
       const unsigned code = run.code_.u8();
       if (code == 0) {
         return;
       }
-      ByteReader operand(code >= firstWithOperand ? run.code_.bytes(run.code_.u16()) : Bytes());
-      budget.spend(byteWork * static_cast<std::int64_t>(operand.remaining()));
+      ByteReader operand(code >= kFirstWithOperand ? run.code_.bytes(run.code_.u16()) : Bytes());
+      budget.spend(kByteWork * static_cast<std::int64_t>(operand.remaining()));
       if (const Action action = actions_[code]) {
         action(run, operand);
       }
     }
   } catch (const MovieError&) {
     // The script leads outside of its bytes: it ends here.
-    budget.spend(faultWork);
+    budget.spend(kFaultWork);
   }
 }
 
@@ -54,12 +54,12 @@ void Interpreter::run(const QueuedScript& script) {
 
 void Interpreter::bindRegisters(ScriptRun& run, const ScriptFunction& function,
                                 const Value& thisValue) {
-  constexpr unsigned preloadThis = 0x01;
-  constexpr unsigned preloadArguments = 0x04;
-  constexpr unsigned preloadSuper = 0x10;
-  constexpr unsigned preloadRoot = 0x40;
-  constexpr unsigned preloadParent = 0x80;
-  constexpr unsigned preloadGlobal = 0x100;
+  constexpr unsigned kPreloadThis = 0x01;
+  constexpr unsigned kPreloadArguments = 0x04;
+  constexpr unsigned kPreloadSuper = 0x10;
+  constexpr unsigned kPreloadRoot = 0x40;
+  constexpr unsigned kPreloadParent = 0x80;
+  constexpr unsigned kPreloadGlobal = 0x100;
 
   run.registers_.resize(std::size_t(function.registers));
   std::size_t next = 1;
@@ -74,22 +74,22 @@ void Interpreter::bindRegisters(ScriptRun& run, const ScriptFunction& function,
   const Container* self = find(run.self_);
   const Value parent =
       self != nullptr && self->parent != nullptr ? Value(ObjectRef{self->parent->id}) : Value();
-  preload(preloadThis, thisValue);
-  preload(preloadArguments, {});
-  preload(preloadSuper, {});
-  preload(preloadRoot, ObjectRef{stage_.root().id});
-  preload(preloadParent, parent);
-  preload(preloadGlobal, {});
+  preload(kPreloadThis, thisValue);
+  preload(kPreloadArguments, {});
+  preload(kPreloadSuper, {});
+  preload(kPreloadRoot, ObjectRef{stage_.root().id});
+  preload(kPreloadParent, parent);
+  preload(kPreloadGlobal, {});
 }
 
 Value Interpreter::call(const ScriptFunction& function, const Value& thisValue,
                         std::vector<Value> arguments) {
-  constexpr std::int64_t callWork = 500;
-  constexpr std::int64_t registerWork = 10;
-  constexpr std::int64_t weightWork = 10;  // for each character of a parameter's name, and more
+  constexpr std::int64_t kCallWork = 500;
+  constexpr std::int64_t kRegisterWork = 10;
+  constexpr std::int64_t kWeightWork = 10;  // for each character of a parameter's name, and more
   const std::int64_t work =
-      callWork + registerWork * function.registers + weightWork * function.weight;
-  if (callDepth_ >= limits::callDepth || !stage_.budget().spend(work)) {
+      kCallWork + kRegisterWork * function.registers + kWeightWork * function.weight;
+  if (callDepth_ >= limits::kCallDepth || !stage_.budget().spend(work)) {
     return {};
   }
   ++callDepth_;

@@ -18,7 +18,7 @@ std::shared_ptr<const Movie> loadMovie(const QString& path, Budget::Clock clock)
   if (!file.open(QIODevice::ReadOnly)) {
     throw MovieError("the file cannot be opened", 0);
   }
-  const QByteArray bytes = file.read(limits::fileBytes);
+  const QByteArray bytes = file.read(limits::kFileBytes);
   return readMovie({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
                     static_cast<std::size_t>(bytes.size())},
                    std::move(clock));

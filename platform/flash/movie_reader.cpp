@@ -22,10 +22,10 @@ struct Tag {
 // The next tag. Its body ends with the bytes if the announced length goes beyond them; what can be
 // made of it is up to the reader of the tag.
 Tag nextTag(ByteReader& bytes) {
-  constexpr unsigned longLength = 0x3F;
+  constexpr unsigned kLongLength = 0x3F;
   const unsigned head = bytes.u16();
-  std::size_t length = head & longLength;
-  if (length == longLength) {
+  std::size_t length = head & kLongLength;
+  if (length == kLongLength) {
     length = bytes.u32();
   }
   const std::size_t at = bytes.position();
@@ -69,7 +69,7 @@ void TimelineReader::place(PlaceCommand command) {
     if (character == nullptr) {
       throw MovieError("something is placed that was not defined before", 0);
     }
-    if (character->nesting >= limits::nesting) {
+    if (character->nesting >= limits::kNesting) {
       throw MovieError("sprites lie too deep in one another", 0);
     }
     nesting_ = std::max(nesting_, character->nesting);
@@ -146,7 +146,7 @@ class MovieReader {
   void defineSprite(ByteReader& body, std::size_t bodyAt);
   void add(CharacterId id, Character character);
   void note(const MovieError& fault) {
-    if (movie_.faults.size() < std::size_t(limits::faults)) {
+    if (movie_.faults.size() < std::size_t(limits::kFaults)) {
       movie_.faults.push_back(fault);
     }
   }
@@ -159,13 +159,13 @@ class MovieReader {
 
 template <typename Take>
 void MovieReader::eachTag(Bytes bytes, std::size_t bytesAt, Take take) {
-  constexpr std::int64_t tagWork = 30;
-  constexpr std::int64_t faultWork = 5000;
+  constexpr std::int64_t kTagWork = 30;
+  constexpr std::int64_t kFaultWork = 5000;
   ByteReader reader(bytes);
   try {
     while (!reader.atEnd() && !allowance_.isSpent()) {
       const Tag tag = nextTag(reader);
-      allowance_.work(tagWork + static_cast<std::int64_t>(tag.body.size()));
+      allowance_.work(kTagWork + static_cast<std::int64_t>(tag.body.size()));
       if (tag.code == TagCode::End) {
         return;
       }
@@ -173,7 +173,7 @@ void MovieReader::eachTag(Bytes bytes, std::size_t bytesAt, Take take) {
         take(tag);
       } catch (const MovieError& fault) {
         note(fault.inTag(static_cast<int>(tag.code), bytesAt + tag.bodyAt));
-        allowance_.work(faultWork);
+        allowance_.work(kFaultWork);
       }
     }
   } catch (const MovieError& fault) {
@@ -199,12 +199,12 @@ void MovieReader::defineSprite(ByteReader& body, std::size_t bodyAt) {
 }
 
 void MovieReader::defineFont(TagCode code, ByteReader& body) {
-  constexpr double em = 1024;
-  constexpr double fineEm = em * 20;
+  constexpr double kEm = 1024;
+  constexpr double kFineEm = kEm * 20;
   const CharacterId id = body.u16();
   add(id, {code == TagCode::DefineFont
                ? readFont(body, allowance_)
-               : readFont2(body, code == TagCode::DefineFont3 ? fineEm : em, allowance_)});
+               : readFont2(body, code == TagCode::DefineFont3 ? kFineEm : kEm, allowance_)});
 }
 
 void MovieReader::defineShape(TagCode code, ByteReader& body) {
@@ -239,8 +239,8 @@ void MovieReader::colorButton(ByteReader& body) {
   Button* button =
       found == movie_.characters.end() ? nullptr : std::get_if<Button>(&found->second.content);
   if (button != nullptr) {
-    constexpr std::int64_t recordWork = 10;
-    allowance_.work(recordWork, button->records.size());
+    constexpr std::int64_t kRecordWork = 10;
+    allowance_.work(kRecordWork, button->records.size());
     for (ButtonRecord& record : button->records) {
       record.color = color;
     }
@@ -306,7 +306,7 @@ void MovieReader::read(std::size_t tagsBegin) {
 
 std::shared_ptr<const Movie> readMovie(Bytes file, Budget::Clock clock) {
   Budget budget(std::move(clock));
-  budget.begin(limits::loading);
+  budget.begin(limits::kLoading);
   Allowance allowance(budget);
   UnpackedFile opened = unpackFile(file, allowance);
   auto movie = std::make_shared<Movie>();

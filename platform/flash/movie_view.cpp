@@ -17,14 +17,14 @@ namespace platform::flash {
 
 namespace {
 
-constexpr double slowest = 0.5;  // frames a second
-constexpr double fastest = 120;
-constexpr QRgb emptyBoard = 0xFFFFFFFF;
+constexpr double kSlowest = 0.5;  // frames a second
+constexpr double kFastest = 120;
+constexpr QRgb kEmptyBoard = 0xFFFFFFFF;
 
 // The places as they are, or one around all of them where there are many.
 std::vector<QRectF> few(std::vector<QRectF> places) {
-  constexpr std::size_t most = 32;
-  if (places.size() <= most) {
+  constexpr std::size_t kMost = 32;
+  if (places.size() <= kMost) {
     return places;
   }
   QRectF all;
@@ -73,7 +73,7 @@ void MovieView::startPlayer(const QString& path) {
     qWarning("Movie %s cannot be shown: %s", qUtf8Printable(path), error.what());
     return;
   }
-  const double rate = std::clamp(movie->frameRate, slowest, fastest);
+  const double rate = std::clamp(movie->frameRate, kSlowest, kFastest);
   player_ = std::make_unique<Player>(
       std::move(movie),
       [this](const QString& command, const QString& args) { post(command, args); }, clock_);
@@ -252,7 +252,7 @@ std::optional<QPointF> MovieView::stagePixel(QPointF position) const {
   if (!possible || !stage.contains(point)) {
     return std::nullopt;
   }
-  return (point - stage.topLeft()) / twipsPerPixel;
+  return (point - stage.topLeft()) / kTwipsPerPixel;
 }
 
 // What a move makes the movie say is posted: Qt makes moves up where a widget is shown or hidden,
@@ -323,9 +323,9 @@ void MovieView::paintEvent(QPaintEvent* event) {
   refresh();
   QPainter painter(this);
   // Each part takes the whole scene through its hands, so many parts are painted as one.
-  constexpr int mostParts = 2;
+  constexpr int kMostParts = 2;
   const QRegion& region = event->region();
-  if (region.rectCount() > mostParts) {
+  if (region.rectCount() > kMostParts) {
     paintRect(painter, region.boundingRect());
     return;
   }
@@ -338,7 +338,7 @@ void MovieView::paintEvent(QPaintEvent* event) {
 // more than one of them, or one and a half.
 void MovieView::paintRect(QPainter& painter, const QRect& rect) {
   if (player_ == nullptr) {
-    painter.fillRect(rect, QColor::fromRgb(emptyBoard));
+    painter.fillRect(rect, QColor::fromRgb(kEmptyBoard));
     return;
   }
   const QRgb background = player_->movie().background;

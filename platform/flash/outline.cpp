@@ -7,7 +7,7 @@ namespace platform::flash {
 namespace {
 
 // Fine enough for a pointer, whatever the scale.
-constexpr double hitTolerance = 4;  // twips
+constexpr double kHitTolerance = 4;  // twips
 
 double squaredDistance(QPointF point, QPointF from, QPointF to) {
   const QPointF along = to - from;
@@ -61,7 +61,7 @@ QRectF Outline::bounds() const {
 
 bool Outline::contains(QPointF point) const {
   bool inside = false;
-  flatten(*this, 1, hitTolerance, [&](QPointF from, QPointF to) {
+  flatten(*this, 1, kHitTolerance, [&](QPointF from, QPointF to) {
     if ((from.y() <= point.y()) != (to.y() <= point.y())) {
       const double t = (point.y() - from.y()) / (to.y() - from.y());
       if (point.x() < from.x() + t * (to.x() - from.x())) {
@@ -74,7 +74,7 @@ bool Outline::contains(QPointF point) const {
 
 bool Outline::touches(QPointF point, double distance, const QTransform& matrix) const {
   bool near = false;
-  flatten(*this, 1, hitTolerance, [&](QPointF from, QPointF to) {
+  flatten(*this, 1, kHitTolerance, [&](QPointF from, QPointF to) {
     near = near || squaredDistance(point, matrix.map(from), matrix.map(to)) <= distance * distance;
   });
   return near;

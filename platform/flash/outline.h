@@ -51,7 +51,7 @@ class Outline {
 // the deviation below tolerance after the scale. Contours are not closed here.
 template <typename Line>
 void flatten(const Outline& outline, double scale, double tolerance, Line line) {
-  constexpr int mostPieces = 64;
+  constexpr int kMostPieces = 64;
   QPointF from;
   for (const Outline::Segment& segment : outline.segments()) {
     const QPointF to(segment.x, segment.y);
@@ -63,7 +63,7 @@ void flatten(const Outline& outline, double scale, double tolerance, Line line) 
       const QPointF bend = from - 2 * control + to;
       const double deviation = std::sqrt(QPointF::dotProduct(bend, bend)) * scale / 4;
       const int pieces = static_cast<int>(
-          std::clamp(std::ceil(std::sqrt(deviation / tolerance)), 1.0, double(mostPieces)));
+          std::clamp(std::ceil(std::sqrt(deviation / tolerance)), 1.0, double(kMostPieces)));
       QPointF last = from;
       for (int i = 1; i <= pieces; ++i) {
         const double t = double(i) / pieces;

@@ -8,8 +8,8 @@ namespace platform::flash {
 
 namespace {
 
-constexpr double halfSquare = 16384;  // of the gradient's own square
-constexpr double steepest = 1e12;     // units of the square for each pixel
+constexpr double kHalfSquare = 16384;  // of the gradient's own square
+constexpr double kSteepest = 1e12;     // units of the square for each pixel
 
 }  // namespace
 
@@ -25,7 +25,7 @@ PixelSource::PixelSource(const Gradient& gradient, const ColorTransform& color,
   toGradient_ = (gradient.matrix * toPixels).inverted(&possible);
   const QTransform& m = toGradient_;
   for (const double part : {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), m.dy()}) {
-    possible = possible && std::abs(part) < steepest;
+    possible = possible && std::abs(part) < kSteepest;
   }
   if (!possible) {
     // Squeezed to a line, it shows its last colour everywhere.
@@ -38,24 +38,24 @@ PixelSource::PixelSource(const Gradient& gradient, const ColorTransform& color,
 // Distances first, colours afterwards: the compiler makes several distances at a time. At the edges
 // of a shape, pixels come one by one.
 void PixelSource::fillRadially(std::span<QRgb> colors, float gx, float gy) const {
-  constexpr std::size_t together = 16;
-  constexpr std::size_t few = 4;
+  constexpr std::size_t kTogether = 16;
+  constexpr std::size_t kFew = 4;
   const auto last = static_cast<float>(colors_.size() - 1);
-  const auto dx = static_cast<float>(toGradient_.m11() * last / halfSquare);
-  const auto dy = static_cast<float>(toGradient_.m12() * last / halfSquare);
+  const auto dx = static_cast<float>(toGradient_.m11() * last / kHalfSquare);
+  const auto dy = static_cast<float>(toGradient_.m12() * last / kHalfSquare);
   const auto indexAt = [=](std::size_t pixel) {
     const auto steps = static_cast<float>(static_cast<std::int32_t>(pixel));
     const float x = gx + dx * steps;
     const float y = gy + dy * steps;
     return static_cast<std::int32_t>(std::min(std::sqrt(x * x + y * y), last) + 0.5F);
   };
-  std::array<std::int32_t, together> indices{};
+  std::array<std::int32_t, kTogether> indices{};
   std::size_t begin = 0;
-  for (; colors.size() - begin > few; begin += std::min(together, colors.size() - begin)) {
-    for (std::size_t i = 0; i < together; ++i) {
+  for (; colors.size() - begin > kFew; begin += std::min(kTogether, colors.size() - begin)) {
+    for (std::size_t i = 0; i < kTogether; ++i) {
       indices[i] = indexAt(begin + i);
     }
-    const std::size_t count = std::min(together, colors.size() - begin);
+    const std::size_t count = std::min(kTogether, colors.size() - begin);
     for (std::size_t i = 0; i < count; ++i) {
       colors[begin + i] = colors_[static_cast<std::size_t>(indices[i])];
     }
@@ -74,7 +74,7 @@ void PixelSource::fill(std::span<QRgb> colors, int x, int y) const {
   const auto last = static_cast<float>(colors_.size() - 1);
   const double px = x + 0.5;
   const double py = y + 0.5;
-  const double unit = last / (radial_ ? halfSquare : 2 * halfSquare);
+  const double unit = last / (radial_ ? kHalfSquare : 2 * kHalfSquare);
   auto gx = static_cast<float>(
       (toGradient_.m11() * px + toGradient_.m21() * py + toGradient_.dx()) * unit);
   if (radial_) {

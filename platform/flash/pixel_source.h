@@ -26,11 +26,11 @@ class PixelSource {
   [[nodiscard]] bool isOpaque() const { return opaque_; }
   // About what filling a pixel takes, in nanoseconds.
   [[nodiscard]] std::int64_t workPerPixel() const {
-    constexpr std::int64_t solid = 1;
-    constexpr std::int64_t translucent = 3;
-    constexpr std::int64_t linear = 5;
-    constexpr std::int64_t radial = 8;
-    return !gradient_ ? (opaque_ ? solid : translucent) : radial_ ? radial : linear;
+    constexpr std::int64_t kSolid = 1;
+    constexpr std::int64_t kTranslucent = 3;
+    constexpr std::int64_t kLinear = 5;
+    constexpr std::int64_t kRadial = 8;
+    return !gradient_ ? (opaque_ ? kSolid : kTranslucent) : radial_ ? kRadial : kLinear;
   }
   // The colours of the pixels from x on in row y.
   void fill(std::span<QRgb> colors, int x, int y) const;

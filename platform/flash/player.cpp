@@ -24,7 +24,7 @@ Player::Player(std::shared_ptr<const Movie> movie, CommandSink onCommand, Budget
 
 template <typename Call>
 void Player::enter(Call call) {
-  budget_.begin(limits::playing);
+  budget_.begin(limits::kPlaying);
   stage_.beginEntry();
   call();
   runScripts();
@@ -34,14 +34,14 @@ void Player::enter(Call call) {
 
 template <typename Look>
 auto Player::ask(Look look) const {
-  budget_.begin(limits::asking);
+  budget_.begin(limits::kAsking);
   return look();
 }
 
 void Player::runScripts() {
-  constexpr std::int64_t scriptWork = 500;
+  constexpr std::int64_t kScriptWork = 500;
   QueuedScript script;
-  while (!cutOff_ && budget_.spend(scriptWork) && stage_.nextScript(script)) {
+  while (!cutOff_ && budget_.spend(kScriptWork) && stage_.nextScript(script)) {
     interpreter_.run(script);
   }
 }
@@ -92,19 +92,19 @@ bool Player::showsHand() const {
 }
 
 void Player::setProperty(const QString& target, int property, const QString& value) {
-  budget_.begin(limits::asking);
+  budget_.begin(limits::kAsking);
   Container* of = resolveTarget(stage_, &stage_.root(), target);
   const auto known = propertyOfNumber(property);
   if (of != nullptr && known) {
     // A text that is no number is none to the host, whatever the movie's scripts make of it.
-    constexpr int strict = 5;
+    constexpr int kStrict = 5;
     setPropertyOf(stage_, *of, *known,
-                  *known == Property::Name ? Value(value) : Value(numberOf(value, strict)));
+                  *known == Property::Name ? Value(value) : Value(numberOf(value, kStrict)));
   }
 }
 
 QString Player::property(const QString& target, int property) const {
-  budget_.begin(limits::asking);
+  budget_.begin(limits::kAsking);
   const Container* root = &stage_.root();
   const Container* of = resolveTarget(stage_, const_cast<Container*>(root), target);
   const auto known = propertyOfNumber(property);
@@ -134,12 +134,12 @@ std::optional<QPointF> Player::clickPoint(const QString& name) const {
     const Container* hit = interactiveAt(stage_, middle);
     while (hit != nullptr && hit != child) hit = hit->parent;
     if (hit == nullptr) return std::nullopt;
-    return (middle - movie().stage.topLeft()) / twipsPerPixel;
+    return (middle - movie().stage.topLeft()) / kTwipsPerPixel;
   });
 }
 
 QPointF Player::toStage(QPointF position) const {
-  return position * twipsPerPixel + movie().stage.topLeft();
+  return position * kTwipsPerPixel + movie().stage.topLeft();
 }
 
 void Player::mouseMove(QPointF position) {

@@ -17,7 +17,7 @@ struct EventRow {
   ButtonState look;
 };
 
-constexpr std::array eventRows{
+constexpr std::array kEventRows{
     EventRow{ButtonEvent::RollOver, ClipEvent::RollOver, ButtonState::Over},
     EventRow{ButtonEvent::RollOut, ClipEvent::RollOut, ButtonState::Up},
     EventRow{ButtonEvent::Press, ClipEvent::Press, ButtonState::Down},
@@ -36,7 +36,7 @@ bool Pointer::isMenu(std::uint32_t id) const {
 }
 
 void Pointer::raise(std::uint32_t id, Event event) {
-  const EventRow& row = eventRows[static_cast<std::size_t>(event)];
+  const EventRow& row = kEventRows[static_cast<std::size_t>(event)];
   Container* found = stage_.find(id);
   if (found == nullptr) {
     return;

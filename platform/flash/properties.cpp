@@ -13,14 +13,14 @@ namespace platform::flash {
 
 namespace {
 
-constexpr std::array<QStringView, 19> names{
+constexpr std::array<QStringView, 19> kNames{
     u"_x",           u"_y",           u"_xscale",       u"_yscale",      u"_currentframe",
     u"_totalframes", u"_alpha",       u"_visible",      u"_width",       u"_height",
     u"_rotation",    u"_target",      u"_framesloaded", u"_name",        u"_droptarget",
     u"_url",         u"_highquality", u"_focusrect",    u"_soundbuftime"};
 
-constexpr double percent = 100;
-constexpr double degree = std::numbers::pi / 180;
+constexpr double kPercent = 100;
+constexpr double kDegree = std::numbers::pi / 180;
 
 // A matrix taken apart: lengths of the two axes and where they point, in radians.
 struct Axes {
@@ -45,11 +45,11 @@ struct Axes {
 void setAxes(Container& of, Property property, double number) {
   Axes axes(of.matrix);
   if (property == Property::ScaleX) {
-    axes.scaleX = number / percent;
+    axes.scaleX = number / kPercent;
   } else if (property == Property::ScaleY) {
-    axes.scaleY = number / percent;
+    axes.scaleY = number / kPercent;
   } else {
-    const double turn = number * degree - axes.angleX;
+    const double turn = number * kDegree - axes.angleX;
     axes.angleX += turn;
     axes.angleY += turn;
   }
@@ -62,7 +62,7 @@ void setSize(Container& of, Property property, double pixels, Budget& budget) {
   const double now = isWidth ? bounds.width() : bounds.height();
   if (now > 0 && pixels >= 0) {
     Axes axes(of.matrix);
-    (isWidth ? axes.scaleX : axes.scaleY) *= pixels * twipsPerPixel / now;
+    (isWidth ? axes.scaleX : axes.scaleY) *= pixels * kTwipsPerPixel / now;
     of.matrix = axes.at(of.matrix.dx(), of.matrix.dy());
   }
 }
@@ -70,7 +70,7 @@ void setSize(Container& of, Property property, double pixels, Budget& budget) {
 }  // namespace
 
 std::optional<Property> propertyOfNumber(int number) {
-  if (number < 0 || number >= static_cast<int>(names.size())) {
+  if (number < 0 || number >= static_cast<int>(kNames.size())) {
     return std::nullopt;
   }
   return Property(number);
@@ -80,8 +80,8 @@ std::optional<Property> propertyOfName(QStringView name) {
   if (!name.startsWith(u'_')) {
     return std::nullopt;
   }
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    if (name.compare(names[i], Qt::CaseInsensitive) == 0) {
+  for (std::size_t i = 0; i < kNames.size(); ++i) {
+    if (name.compare(kNames[i], Qt::CaseInsensitive) == 0) {
       return Property(i);
     }
   }
@@ -101,19 +101,19 @@ Value placeProperty(const Stage& stage, const Container& of, Property property) 
   const Axes axes(of.matrix);
   switch (property) {
     case Property::X:
-      return of.matrix.dx() / twipsPerPixel;
+      return of.matrix.dx() / kTwipsPerPixel;
     case Property::Y:
-      return of.matrix.dy() / twipsPerPixel;
+      return of.matrix.dy() / kTwipsPerPixel;
     case Property::ScaleX:
-      return axes.scaleX * percent;
+      return axes.scaleX * kPercent;
     case Property::ScaleY:
-      return axes.scaleY * percent;
+      return axes.scaleY * kPercent;
     case Property::Width:
-      return boundsInParent(of, stage.budget()).width() / twipsPerPixel;
+      return boundsInParent(of, stage.budget()).width() / kTwipsPerPixel;
     case Property::Height:
-      return boundsInParent(of, stage.budget()).height() / twipsPerPixel;
+      return boundsInParent(of, stage.budget()).height() / kTwipsPerPixel;
     default:
-      return axes.angleX / degree;
+      return axes.angleX / kDegree;
   }
 }
 
@@ -134,7 +134,7 @@ Value propertyOf(const Stage& stage, const Container& of, Property property) {
     case Property::FramesLoaded:
       return frameProperty(asClip(&of), property);
     case Property::Alpha:
-      return of.color.multiply[3] * percent;
+      return of.color.multiply[3] * kPercent;
     case Property::Visible:
       return stage.movie().version >= 5 ? Value(of.visible) : Value(of.visible ? 1.0 : 0.0);
     case Property::Target:
@@ -158,7 +158,7 @@ void setPropertyOf(Stage& stage, Container& of, Property property, const Value& 
     return;
   }
   const double number = toNumber(value, stage.movie().version);
-  if (!std::isfinite(number) || std::abs(number) > double(farthestTwip)) {
+  if (!std::isfinite(number) || std::abs(number) > double(kFarthestTwip)) {
     return;
   }
   const QTransform& m = of.matrix;
@@ -167,10 +167,10 @@ void setPropertyOf(Stage& stage, Container& of, Property property, const Value& 
       of.visible = number != 0;
       return;
     case Property::X:
-      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), std::round(number * twipsPerPixel), m.dy()};
+      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), std::round(number * kTwipsPerPixel), m.dy()};
       break;
     case Property::Y:
-      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), std::round(number * twipsPerPixel)};
+      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), std::round(number * kTwipsPerPixel)};
       break;
     case Property::ScaleX:
     case Property::ScaleY:
@@ -183,7 +183,7 @@ void setPropertyOf(Stage& stage, Container& of, Property property, const Value& 
       break;
     case Property::Alpha:
       // Held in 256ths, without the rest.
-      of.color.multiply[3] = std::trunc(number * 256 / percent) / 256;
+      of.color.multiply[3] = std::trunc(number * 256 / kPercent) / 256;
       break;
     default:
       return;

@@ -16,19 +16,19 @@ namespace platform::flash {
 namespace {
 
 // A line may be drawn wider than it is, by up to a pixel.
-constexpr double margin = 2;  // pixels
+constexpr double kMargin = 2;  // pixels
 
 // Nanoseconds, and bytes.
-constexpr std::int64_t itemWork = 200;
-constexpr std::int64_t gradientWork = 4000;
-constexpr std::int64_t pieceWork = 30;     // of an outline, with sorting it in
-constexpr std::int64_t strokeWork = 100;   // a piece of a line that has to be made
-constexpr std::int64_t surfaceWork = 40;   // in one row
-constexpr std::int64_t partWork = 25;      // a pixel covered in part
-constexpr std::int64_t maskPixelWork = 4;  // a pixel that a mask is worked out for
-constexpr std::size_t itemMemory = 400;
-constexpr std::size_t gradientMemory = 1100;
-constexpr std::size_t pieceMemory = 40;
+constexpr std::int64_t kItemWork = 200;
+constexpr std::int64_t kGradientWork = 4000;
+constexpr std::int64_t kPieceWork = 30;     // of an outline, with sorting it in
+constexpr std::int64_t kStrokeWork = 100;   // a piece of a line that has to be made
+constexpr std::int64_t kSurfaceWork = 40;   // in one row
+constexpr std::int64_t kPartWork = 25;      // a pixel covered in part
+constexpr std::int64_t kMaskPixelWork = 4;  // a pixel that a mask is worked out for
+constexpr std::size_t kItemMemory = 400;
+constexpr std::size_t kGradientMemory = 1100;
+constexpr std::size_t kPieceMemory = 40;
 
 struct Surface {
   EdgeSet edges;
@@ -108,7 +108,7 @@ class Painting {
   std::vector<SampleMask> through_;
   std::vector<SampleMask> throughOne_;
   int maskInUse_ = -1;
-  std::size_t segmentsLeft_ = limits::frameSegments;
+  std::size_t segmentsLeft_ = limits::kFrameSegments;
   std::vector<std::size_t> inWork_;  // the surfaces in the present row
   std::int64_t pixelWork_ = 0;       // done and not yet charged
 };
@@ -122,20 +122,20 @@ bool Painting::addOutline(EdgeSet& edges, const Outline& outline, const QTransfo
   }
   const std::size_t used = std::max(edges.add(outline, matrix, segmentsLeft_), segments);
   const std::size_t kept = std::min(used, segmentsLeft_);
-  budget_.hold(pieceMemory * kept);
-  return budget_.spend(pieceWork * static_cast<std::int64_t>(used)) && spendSegments(used);
+  budget_.hold(kPieceMemory * kept);
+  return budget_.spend(kPieceWork * static_cast<std::int64_t>(used)) && spendSegments(used);
 }
 
 bool Painting::addStroke(EdgeSet& edges, const StrokeCache::Key& key, const QTransform& matrix) {
   if (!strokes_.holds(key)) {
     // Round corners take some times the root of their radius in pixels.
-    constexpr double widestRadius = 4096;
-    const double radius = std::min(key.width * key.scale / 2, widestRadius);
+    constexpr double kWidestRadius = 4096;
+    const double radius = std::min(key.width * key.scale / 2, kWidestRadius);
     const auto pieces = static_cast<std::size_t>(8 + 4 * std::sqrt(radius));
     // The two sides of a curve are more curves than one.
     const std::size_t needed = (key.line->segments().size() + key.line->curves()) * pieces;
-    if (needed > segmentsLeft_ || !budget_.spend(strokeWork * static_cast<std::int64_t>(needed)) ||
-        !budget_.hold(pieceMemory * needed)) {
+    if (needed > segmentsLeft_ || !budget_.spend(kStrokeWork * static_cast<std::int64_t>(needed)) ||
+        !budget_.hold(kPieceMemory * needed)) {
       segmentsLeft_ = 0;
       return false;
     }
@@ -147,14 +147,14 @@ bool Painting::addStroke(EdgeSet& edges, const StrokeCache::Key& key, const QTra
 // As wide in all directions, whatever the matrix does to what the line follows, and never thinner
 // than a pixel, lest the line fall between the samples.
 bool Painting::addLine(EdgeSet& edges, const SceneItem& item, const QTransform& matrix) {
-  constexpr double even = 1.01;
+  constexpr double kEven = 1.01;
   const double scale = std::sqrt(std::abs(matrix.determinant()));
   const Stretch stretch = stretchOf(matrix);
   if (!(stretch.most > 0)) {
     return false;
   }
   const double pixels = std::max(item.lineWidth * scale, 1.0);
-  if (stretch.most <= even * stretch.least) {
+  if (stretch.most <= kEven * stretch.least) {
     return addStroke(edges, {item.outline, pixels / scale, scale}, matrix);
   }
   return addStroke(
@@ -163,11 +163,12 @@ bool Painting::addLine(EdgeSet& edges, const SceneItem& item, const QTransform& 
 }
 
 void Painting::gatherItem(const SceneItem& item) {
-  if (!budget_.spend(itemWork)) {
+  if (!budget_.spend(kItemWork)) {
     return;
   }
   const QTransform matrix = item.matrix * toPixels_;
-  const QRectF place = toPixels_.mapRect(item.bounds).adjusted(-margin, -margin, margin, margin);
+  const QRectF place =
+      toPixels_.mapRect(item.bounds).adjusted(-kMargin, -kMargin, kMargin, kMargin);
   if (!isFinite(matrix) || !place.intersects(QRectF(image_.rect()))) {
     return;
   }
@@ -177,10 +178,10 @@ void Painting::gatherItem(const SceneItem& item) {
   }
   edges.prepare();
   if (edges.firstRow() < edges.endRow()) {
-    budget_.hold(itemMemory);
+    budget_.hold(kItemMemory);
     if (item.gradient != nullptr) {
-      budget_.spend(gradientWork);
-      budget_.hold(gradientMemory);
+      budget_.spend(kGradientWork);
+      budget_.hold(kGradientMemory);
     }
     surfaces_.push_back({std::move(edges),
                          item.gradient == nullptr
@@ -194,7 +195,7 @@ void Painting::gatherMasks() {
   for (const SceneMask& mask : scene_.masks) {
     Mask& made = masks_.emplace_back();
     for (const SceneMask::Part& part : mask.parts) {
-      if (!budget_.spend(itemWork) || !budget_.hold(itemMemory)) {
+      if (!budget_.spend(kItemWork) || !budget_.hold(kItemMemory)) {
         return;
       }
       const QTransform matrix = part.matrix * toPixels_;
@@ -221,12 +222,12 @@ void Painting::useMask(int mask, int row) {
   }
   maskInUse_ = mask;
   const auto width = std::size_t(image_.width());
-  through_.assign(width, allSamples);
+  through_.assign(width, kAllSamples);
   for (int at = mask; at >= 0; at = scene_.masks[std::size_t(at)].outer) {
     Mask& used = masks_[std::size_t(at)];
     throughOne_.assign(width, 0);
     for (EdgeSet& part : used.parts) {
-      if (!budget_.spend(surfaceWork)) {
+      if (!budget_.spend(kSurfaceWork)) {
         return;
       }
       if (row < part.firstRow() || row >= part.endRow()) {
@@ -247,7 +248,7 @@ void Painting::useMask(int mask, int row) {
     for (std::size_t x = 0; x < width; ++x) {
       through_[x] &= throughOne_[x];
     }
-    if (!budget_.spend(maskPixelWork * image_.width() + std::exchange(pixelWork_, 0))) {
+    if (!budget_.spend(kMaskPixelWork * image_.width() + std::exchange(pixelWork_, 0))) {
       return;
     }
   }
@@ -264,16 +265,16 @@ void Painting::paintBehindMask(int begin, int end, SampleMask mask, const PixelS
     if (seen != 0) {
       painter_.paint(begin, next, seen, source);
     }
-    pixelWork_ += seen == 0            ? next - begin
-                  : seen == allSamples ? (next - begin) * source.workPerPixel()
-                                       : (next - begin) * partWork;
+    pixelWork_ += seen == 0             ? next - begin
+                  : seen == kAllSamples ? (next - begin) * source.workPerPixel()
+                                        : (next - begin) * kPartWork;
     begin = next;
   }
 }
 
 void Painting::paintSurface(Surface& surface, int row) {
   surface.edges.goTo(row);
-  if (!budget_.spend(surfaceWork)) {
+  if (!budget_.spend(kSurfaceWork)) {
     return;
   }
   if (surface.mask >= 0) {
@@ -290,7 +291,7 @@ void Painting::paintSurface(Surface& surface, int row) {
       return;
     }
     painter_.paint(begin, end, mask, surface.source);
-    pixelWork_ += (end - begin) * (mask == allSamples ? wholeWork : partWork);
+    pixelWork_ += (end - begin) * (mask == kAllSamples ? wholeWork : kPartWork);
   });
   budget_.spend(std::exchange(pixelWork_, 0));
 }
@@ -336,7 +337,7 @@ bool Renderer::paint(const Scene& scene, const QTransform& toPixels, QRgb backgr
   if (image.isNull() || !isFinite(toPixels)) {
     return true;
   }
-  budget_.begin(limits::painting);
+  budget_.begin(limits::kPainting);
   strokes_.trim();
   Painting painting(scene, toPixels, strokes_, budget_, image);
   painting.gather();

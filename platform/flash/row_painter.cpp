@@ -12,14 +12,14 @@ namespace {
 QRgb mixed(QRgb above, QRgb below, std::uint32_t sixteenths) {
   const auto two = [&](std::uint32_t a, std::uint32_t b) {
     const std::uint32_t sum =
-        (a & 0x00FF00FFU) * sixteenths + (b & 0x00FF00FFU) * (samples - sixteenths);
+        (a & 0x00FF00FFU) * sixteenths + (b & 0x00FF00FFU) * (kSamples - sixteenths);
     return ((sum + 0x00080008U) >> 4U) & 0x00FF00FFU;
   };
   return two(above, below) | (two(above >> 8U, below >> 8U) << 8U);
 }
 
 // Where the processor is not known to count bits itself, a library would be called for each pixel.
-constexpr auto bitsOfByte = [] {
+constexpr auto kBitsOfByte = [] {
   std::array<std::uint8_t, 256> bits{};
   for (unsigned byte = 1; byte < bits.size(); ++byte) {
     bits[byte] = static_cast<std::uint8_t>(bits[byte / 2] + byte % 2);
@@ -28,10 +28,10 @@ constexpr auto bitsOfByte = [] {
 }();
 
 std::uint32_t samplesIn(SampleMask mask) {
-  return std::uint32_t(bitsOfByte[mask & 0xFFU]) + bitsOfByte[mask >> 8U];
+  return std::uint32_t(kBitsOfByte[mask & 0xFFU]) + kBitsOfByte[mask >> 8U];
 }
 
-QRgb average(const std::array<QRgb, samples>& colors) {
+QRgb average(const std::array<QRgb, kSamples>& colors) {
   // Two channels in each sum; sixteen times 255 does not run over.
   std::uint32_t low = 0;
   std::uint32_t high = 0;
@@ -47,19 +47,19 @@ QRgb average(const std::array<QRgb, samples>& colors) {
 
 void RowPainter::paintPart(int x, SampleMask mask, QRgb color) {
   int& place = places_[std::size_t(x)];
-  if (place != none) {
+  if (place != kNone) {
     paintMore(entries_[std::size_t(place)], mask, color);
     return;
   }
-  constexpr std::size_t mostStale = 4;  // for each pixel
-  if (entries_.size() > mostStale * places_.size()) {
+  constexpr std::size_t kMostStale = 4;  // for each pixel
+  if (entries_.size() > kMostStale * places_.size()) {
     compact();
   }
   place = static_cast<int>(entries_.size());
   firstEntry_ = std::min(firstEntry_, x);
   lastEntry_ = std::max(lastEntry_, x);
   const QRgb below = pixels_[std::size_t(x)];
-  entries_.push_back({x, mask, below, over(color, below), none});
+  entries_.push_back({x, mask, below, over(color, below), kNone});
 }
 
 void RowPainter::compact() {
@@ -71,7 +71,7 @@ void RowPainter::compact() {
     if (place != static_cast<int>(i)) {
       continue;
     }
-    if (entry.samples != none) {
+    if (entry.samples != kNone) {
       kept.push_back(samples_[std::size_t(entry.samples)]);
       entry.samples = static_cast<int>(kept.size()) - 1;
     }
@@ -85,7 +85,7 @@ void RowPainter::compact() {
 }
 
 void RowPainter::paintMore(Entry& entry, SampleMask mask, QRgb color) {
-  if (entry.samples == none) {
+  if (entry.samples == kNone) {
     if (mask == entry.mask) {
       entry.above = over(color, entry.above);
       return;
@@ -109,23 +109,23 @@ void RowPainter::paintWhole(int begin, int end, const PixelSource& source) {
     source.fill(pixels_.subspan(std::size_t(begin), count), begin, y_);
     if (begin <= lastEntry_ && end > firstEntry_) {
       std::fill(places_.begin() + std::max(begin, firstEntry_),
-                places_.begin() + std::min(end, lastEntry_ + 1), none);
+                places_.begin() + std::min(end, lastEntry_ + 1), kNone);
     }
     return;
   }
   source.fill(std::span(colors_).first(count), begin, y_);
   for (std::size_t i = 0; i < count; ++i) {
     const std::size_t x = static_cast<std::size_t>(begin) + i;
-    if (places_[x] == none) {
+    if (places_[x] == kNone) {
       pixels_[x] = over(colors_[i], pixels_[x]);
     } else {
-      paintPart(static_cast<int>(x), allSamples, colors_[i]);
+      paintPart(static_cast<int>(x), kAllSamples, colors_[i]);
     }
   }
 }
 
 void RowPainter::paint(int begin, int end, SampleMask mask, const PixelSource& source) {
-  if (mask == allSamples) {
+  if (mask == kAllSamples) {
     paintWhole(begin, end, source);
     return;
   }
@@ -148,10 +148,10 @@ void RowPainter::finish() {
     int& place = places_[std::size_t(entry.x)];
     // Others have been painted over whole since.
     if (place == static_cast<int>(i)) {
-      pixels_[std::size_t(entry.x)] = entry.samples != none
+      pixels_[std::size_t(entry.x)] = entry.samples != kNone
                                           ? average(samples_[std::size_t(entry.samples)])
                                           : mixed(entry.above, entry.below, samplesIn(entry.mask));
-      place = none;
+      place = kNone;
     }
   }
   entries_.clear();

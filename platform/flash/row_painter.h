@@ -17,7 +17,7 @@ namespace platform::flash {
 class RowPainter {
  public:
   explicit RowPainter(int width)
-      : places_(static_cast<std::size_t>(width), none), colors_(static_cast<std::size_t>(width)) {}
+      : places_(static_cast<std::size_t>(width), kNone), colors_(static_cast<std::size_t>(width)) {}
 
   // pixels: the row of the picture, premultiplied, already filled with what lies below everything.
   void begin(std::span<QRgb> pixels, int y) {
@@ -29,8 +29,8 @@ class RowPainter {
   void finish();
 
  private:
-  using Samples = std::array<QRgb, samples>;
-  static constexpr int none = -1;
+  using Samples = std::array<QRgb, kSamples>;
+  static constexpr int kNone = -1;
 
   // A pixel of which a part has another colour. As long as one surface alone has painted on it, two
   // colours and a mask say all.

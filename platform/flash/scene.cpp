@@ -14,7 +14,7 @@ namespace platform::flash {
 namespace {
 
 // Nanoseconds for one instance, part or glyph.
-constexpr std::int64_t thingWork = 100;
+constexpr std::int64_t kThingWork = 100;
 
 class Builder {
  public:
@@ -33,8 +33,8 @@ class Builder {
   void addMaskParts(const Instance& instance, const QTransform& outer, SceneMask& mask);
   // Whether one thing more can be looked at. A scene that is full ends the step.
   [[nodiscard]] bool goesOn() {
-    if (scene.items.size() + maskParts_ >= std::size_t(limits::sceneItems)) budget_.exhaust();
-    return budget_.spend(thingWork);
+    if (scene.items.size() + maskParts_ >= std::size_t(limits::kSceneItems)) budget_.exhaust();
+    return budget_.spend(kThingWork);
   }
 
   Budget& budget_;
@@ -159,14 +159,14 @@ std::uint64_t keyOf(const SceneItem& item) {
 }
 
 // For each mask of a scene where it was in the scene before; none where it has changed.
-constexpr int noMask = -2;
+constexpr int kNoMask = -2;
 std::vector<int> masksBefore(const Scene& before, const Scene& after) {
   std::vector<std::pair<std::uint32_t, int>> old;
   for (std::size_t i = 0; i < before.masks.size(); ++i) {
     old.emplace_back(before.masks[i].instance, static_cast<int>(i));
   }
   std::sort(old.begin(), old.end());
-  std::vector<int> same(after.masks.size(), noMask);
+  std::vector<int> same(after.masks.size(), kNoMask);
   for (std::size_t i = 0; i < after.masks.size(); ++i) {
     const SceneMask& mask = after.masks[i];
     const auto found = std::lower_bound(old.begin(), old.end(), std::pair(mask.instance, 0));

@@ -8,8 +8,8 @@ namespace {
 
 // What a variable counts for beside its value: its name, and something for being there.
 qsizetype nameWeight(const QString& key) {
-  constexpr qsizetype overhead = 32;
-  return key.size() + overhead;
+  constexpr qsizetype kOverhead = 32;
+  return key.size() + kOverhead;
 }
 
 // What a value counts for without the constants of a function.
@@ -17,9 +17,9 @@ qsizetype ownWeight(const Value& value) {
   if (const auto* text = std::get_if<QString>(&value)) {
     return text->size();
   }
-  constexpr qsizetype functionOverhead = 64;
+  constexpr qsizetype kFunctionOverhead = 64;
   const auto* function = std::get_if<FunctionRef>(&value);
-  return function == nullptr ? 0 : functionOverhead + (*function)->weight;
+  return function == nullptr ? 0 : kFunctionOverhead + (*function)->weight;
 }
 
 const ConstantPool* constantsOf(const Value& value) {
@@ -53,7 +53,7 @@ bool ScriptMemory::replace(const QString& key, const Value* before, const Value&
   if (before != nullptr) {
     subtract(*before);
   }
-  if (characters_ <= limits::scriptCharacters) {
+  if (characters_ <= limits::kScriptCharacters) {
     return true;
   }
   if (before != nullptr) {
@@ -66,7 +66,7 @@ bool ScriptMemory::replace(const QString& key, const Value* before, const Value&
 
 bool ScriptMemory::rename(const QString& before, const QString& after) {
   const qsizetype then = characters_ - before.size() + after.size();
-  if (after.size() > before.size() && then > limits::scriptCharacters) {
+  if (after.size() > before.size() && then > limits::kScriptCharacters) {
     return false;
   }
   characters_ = then;

@@ -11,13 +11,13 @@ namespace platform::flash {
 namespace {
 
 // Nanoseconds to look up a name.
-constexpr std::int64_t nameWork = 100;
-constexpr std::int64_t nameCharacterWork = 5;
+constexpr std::int64_t kNameWork = 100;
+constexpr std::int64_t kNameCharacterWork = 5;
 
 // What a text takes, in bytes.
 std::size_t memoryOf(const QString& text) {
-  constexpr std::size_t overhead = 80;
-  return overhead + 2 * static_cast<std::size_t>(text.size());
+  constexpr std::size_t kOverhead = 80;
+  return kOverhead + 2 * static_cast<std::size_t>(text.size());
 }
 
 }  // namespace
@@ -44,11 +44,11 @@ Value ScriptRun::pop() {
 }
 
 void ScriptRun::push(Value value) {
-  constexpr std::int64_t valueWork = 20;
-  constexpr std::int64_t characterWork = 30;  // it may be read as a number
+  constexpr std::int64_t kValueWork = 20;
+  constexpr std::int64_t kCharacterWork = 30;  // it may be read as a number
   const auto* text = std::get_if<QString>(&value);
-  stage().budget().spend(valueWork + (text == nullptr ? 0 : characterWork * text->size()));
-  if (stack_.size() >= std::size_t(limits::stackDepth)) {
+  stage().budget().spend(kValueWork + (text == nullptr ? 0 : kCharacterWork * text->size()));
+  if (stack_.size() >= std::size_t(limits::kStackDepth)) {
     end();
     return;
   }
@@ -64,16 +64,16 @@ void ScriptRun::pushLogical(bool truth) {
 }
 
 void ScriptRun::pushText(QString text) {
-  text.truncate(limits::stringLength);
+  text.truncate(limits::kStringLength);
   stage().budget().hold(memoryOf(text));
   push(std::move(text));
 }
 
 QString ScriptRun::decoded(ByteReader& operand) {
-  constexpr std::int64_t textWork = 60;
-  constexpr std::int64_t byteWork = 3;
+  constexpr std::int64_t kTextWork = 60;
+  constexpr std::int64_t kByteWork = 3;
   const QByteArrayView bytes = operand.string();
-  if (!stage().budget().spend(textWork + byteWork * bytes.size())) {
+  if (!stage().budget().spend(kTextWork + kByteWork * bytes.size())) {
     return {};
   }
   QString text = stage().movie().decoded(bytes);
@@ -82,9 +82,9 @@ QString ScriptRun::decoded(ByteReader& operand) {
 }
 
 QString ScriptRun::text(const Value& value) {
-  constexpr std::int64_t numberWork = 300;
+  constexpr std::int64_t kNumberWork = 300;
   if (std::holds_alternative<double>(value)) {
-    stage().budget().spend(numberWork);
+    stage().budget().spend(kNumberWork);
   }
   if (std::holds_alternative<ObjectRef>(value)) {
     const Container* object = container(value);
@@ -132,7 +132,7 @@ Container* ScriptRun::ownerOf(const QString& path, QString& name) {
 }
 
 Value ScriptRun::ownMember(Container& owner, const QString& name) {
-  stage().budget().spend(nameWork + nameCharacterWork * name.size());
+  stage().budget().spend(kNameWork + kNameCharacterWork * name.size());
   const auto stored = owner.variables.constFind(stage().movie().folded(name));
   if (stored != owner.variables.constEnd()) {
     return stored.value();
@@ -154,7 +154,7 @@ Value ScriptRun::ownMember(Container& owner, const QString& name) {
 }
 
 void ScriptRun::setOwnMember(Container& owner, const QString& name, const Value& value) {
-  stage().budget().spend(nameWork + nameCharacterWork * name.size());
+  stage().budget().spend(kNameWork + kNameCharacterWork * name.size());
   if (const auto property = propertyOfName(name)) {
     setPropertyOf(stage(), owner, *property, value);
   } else {
@@ -163,7 +163,7 @@ void ScriptRun::setOwnMember(Container& owner, const QString& name, const Value&
 }
 
 Value ScriptRun::variable(const QString& name) {
-  stage().budget().spend(nameWork + nameCharacterWork * name.size());
+  stage().budget().spend(kNameWork + kNameCharacterWork * name.size());
   if (name.compare(u"this", Qt::CaseInsensitive) == 0) {
     return thisValue_;
   }
@@ -183,7 +183,7 @@ Value ScriptRun::variable(const QString& name) {
 }
 
 void ScriptRun::setVariable(const QString& name, const Value& value) {
-  stage().budget().spend(nameWork + nameCharacterWork * name.size());
+  stage().budget().spend(kNameWork + kNameCharacterWork * name.size());
   const QString key = stage().movie().folded(name);
   if (const auto local = locals_.find(key); local != locals_.end()) {
     local.value() = value;
@@ -196,10 +196,10 @@ void ScriptRun::setVariable(const QString& name, const Value& value) {
 }
 
 void ScriptRun::setLocal(const QString& name, const Value& value) {
-  constexpr std::size_t localMemory = 150;
+  constexpr std::size_t kLocalMemory = 150;
   if (inFunction_) {
-    stage().budget().spend(nameWork + nameCharacterWork * name.size());
-    stage().budget().hold(localMemory + memoryOf(name));
+    stage().budget().spend(kNameWork + kNameCharacterWork * name.size());
+    stage().budget().hold(kLocalMemory + memoryOf(name));
     locals_.insert(stage().movie().folded(name), value);
   } else {
     setVariable(name, value);

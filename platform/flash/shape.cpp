@@ -16,10 +16,10 @@ QRgb mixed(QRgb from, QRgb to, double way) {
 }  // namespace
 
 std::vector<QRgb> Gradient::table() const {
-  constexpr int ratios = 256;
-  std::vector<QRgb> colors(ratios, stops.empty() ? 0 : stops.front().color);
+  constexpr int kRatios = 256;
+  std::vector<QRgb> colors(kRatios, stops.empty() ? 0 : stops.front().color);
   std::size_t next = 0;
-  for (int ratio = 0; ratio < ratios && !stops.empty(); ++ratio) {
+  for (int ratio = 0; ratio < kRatios && !stops.empty(); ++ratio) {
     while (next < stops.size() && stops[next].ratio <= ratio) {
       ++next;
     }

@@ -9,7 +9,7 @@
 namespace platform::flash {
 
 ShapeBuilder::Point ShapeBuilder::checked(std::int64_t x, std::int64_t y) {
-  if (x < -farthestTwip || x > farthestTwip || y < -farthestTwip || y > farthestTwip) {
+  if (x < -kFarthestTwip || x > kFarthestTwip || y < -kFarthestTwip || y > kFarthestTwip) {
     throw MovieError("an edge leads too far away", 0);
   }
   return {static_cast<std::int32_t>(x), static_cast<std::int32_t>(y)};
@@ -63,7 +63,7 @@ void ShapeBuilder::add(const Edge& edge) {
 // be made slow by a file that knows how it works.
 class ShapeBuilder::EdgesByStart {
  public:
-  static constexpr std::size_t none = SIZE_MAX;
+  static constexpr std::size_t kNone = SIZE_MAX;
 
   explicit EdgesByStart(const Edges& edges) : heads_(edges.size()), used_(edges.size(), false) {
     starts_.reserve(edges.size());
@@ -81,13 +81,13 @@ class ShapeBuilder::EdgesByStart {
     const std::uint64_t sought = key(point);
     const auto first = std::lower_bound(starts_.begin(), starts_.end(), Start{sought, 0});
     if (first == starts_.end() || first->key != sought) {
-      return none;
+      return kNone;
     }
     std::uint32_t& head = heads_[static_cast<std::size_t>(first - starts_.begin())];
     while (head < starts_.size() && starts_[head].key == sought && used_[starts_[head].edge]) {
       ++head;
     }
-    return head < starts_.size() && starts_[head].key == sought ? starts_[head].edge : none;
+    return head < starts_.size() && starts_[head].key == sought ? starts_[head].edge : kNone;
   }
 
  private:
@@ -128,11 +128,11 @@ Outline ShapeBuilder::linked(const Edges& edges) {
     const Point start = edges[i].from;
     outline.moveTo(QPointF(start.x, start.y));
     Point end = start;
-    for (std::size_t at = i; at != EdgesByStart::none;) {
+    for (std::size_t at = i; at != EdgesByStart::kNone;) {
       byStart.use(at);
       append(outline, edges[at]);
       end = edges[at].to;
-      at = end == start ? EdgesByStart::none : byStart.from(end);
+      at = end == start ? EdgesByStart::kNone : byStart.from(end);
     }
     if (!(end == start)) {
       outline.lineTo(QPointF(start.x, start.y));

@@ -12,11 +12,11 @@ namespace platform::flash {
 
 namespace {
 
-constexpr int solidFill = 0x00;
-constexpr int linearFill = 0x10;
-constexpr int radialFill = 0x12;
-constexpr int focalFill = 0x13;
-constexpr int bitmapFills = 0x40;  // to 0x43
+constexpr int kSolidFill = 0x00;
+constexpr int kLinearFill = 0x10;
+constexpr int kRadialFill = 0x12;
+constexpr int kFocalFill = 0x13;
+constexpr int kBitmapFills = 0x40;  // to 0x43
 
 struct StyleReader {
   ByteReader& bytes;
@@ -40,7 +40,7 @@ std::size_t StyleReader::count() {
 
 Gradient StyleReader::gradient(int type) {
   Gradient gradient;
-  gradient.radial = type != linearFill;
+  gradient.radial = type != kLinearFill;
   gradient.matrix = readMatrix(bytes);
   // The upper bits tell how the ends go on and how to mix, from version 8; here always padded and
   // plain.
@@ -51,7 +51,7 @@ Gradient StyleReader::gradient(int type) {
     lastRatio = std::max<int>(lastRatio, bytes.u8());
     gradient.stops.push_back({lastRatio, readColor(bytes, withAlpha())});
   }
-  if (type == focalFill) {
+  if (type == kFocalFill) {
     bytes.skip(2);
   }
   return gradient;
@@ -60,13 +60,13 @@ Gradient StyleReader::gradient(int type) {
 Paint StyleReader::fill() {
   Paint paint;
   const int type = bytes.u8();
-  if (type == solidFill) {
+  if (type == kSolidFill) {
     paint.kind = Paint::Kind::Solid;
     paint.color = readColor(bytes, withAlpha());
-  } else if (type == linearFill || type == radialFill || type == focalFill) {
+  } else if (type == kLinearFill || type == kRadialFill || type == kFocalFill) {
     paint.kind = Paint::Kind::Gradient;
     paint.gradient = gradient(type);
-  } else if (type >= bitmapFills && type < bitmapFills + 4) {
+  } else if (type >= kBitmapFills && type < kBitmapFills + 4) {
     bytes.skip(2);
     (void)readMatrix(bytes);
   } else {
@@ -87,12 +87,12 @@ LineStyle StyleReader::line() {
 }
 
 LineStyle StyleReader::lineWithCaps() {
-  constexpr unsigned miterJoin = 2;
+  constexpr unsigned kMiterJoin = 2;
   LineStyle line;
   line.width = bytes.u16();
   const unsigned first = bytes.u8();  // start cap 2, join 2, has fill 1, three scaling flags
   bytes.skip(1);
-  if (((first >> 4U) & 3U) == miterJoin) {
+  if (((first >> 4U) & 3U) == kMiterJoin) {
     bytes.skip(2);
   }
   if ((first & 8U) != 0) {
@@ -127,9 +127,9 @@ class RecordReader {
 
   void read(ShapeBuilder& builder) {
     readIndexWidths();
-    constexpr std::int64_t recordWork = 40;
+    constexpr std::int64_t kRecordWork = 40;
     for (;;) {
-      allowance_.work(recordWork);
+      allowance_.work(kRecordWork);
       if (bits_.flag()) {
         readEdge(builder);
         continue;
@@ -168,12 +168,12 @@ class RecordReader {
   }
 
   void readChange(ShapeBuilder& builder, unsigned changes) {
-    constexpr unsigned newStyles = 16;
-    constexpr unsigned line = 8;
-    constexpr unsigned fill1 = 4;
-    constexpr unsigned fill0 = 2;
-    constexpr unsigned move = 1;
-    if ((changes & move) != 0) {
+    constexpr unsigned kNewStyles = 16;
+    constexpr unsigned kLine = 8;
+    constexpr unsigned kFill1 = 4;
+    constexpr unsigned kFill0 = 2;
+    constexpr unsigned kMove = 1;
+    if ((changes & kMove) != 0) {
       const int width = static_cast<int>(bits_.unsignedBits(5));
       const int x = bits_.signedBits(width);
       builder.moveTo(x, bits_.signedBits(width));
@@ -182,10 +182,10 @@ class RecordReader {
     const auto index = [&](unsigned flag, int width) {
       return (changes & flag) != 0 ? std::optional(bits_.unsignedBits(width)) : std::nullopt;
     };
-    const auto newFill0 = index(fill0, fillBits_);
-    const auto newFill1 = index(fill1, fillBits_);
-    const auto newLine = index(line, lineBits_);
-    if ((changes & newStyles) != 0) {
+    const auto newFill0 = index(kFill0, fillBits_);
+    const auto newFill1 = index(kFill1, fillBits_);
+    const auto newLine = index(kLine, lineBits_);
+    if ((changes & kNewStyles) != 0) {
       if (version_ == nullptr || *version_ < ShapeVersion::Two) {
         throw MovieError("new styles where none can be", bytes_.position());
       }

@@ -11,19 +11,19 @@ namespace platform::flash {
 namespace {
 
 // Nanoseconds.
-constexpr std::int64_t placeWork = 2000;  // with what removing it will take
-constexpr std::int64_t visitWork = 200;
-constexpr std::int64_t recordWork = 50;
-constexpr std::int64_t queueWork = 50;
-constexpr std::size_t placeMemory = 600;  // bytes
-constexpr std::uint32_t rootId = 1;
+constexpr std::int64_t kPlaceWork = 2000;  // with what removing it will take
+constexpr std::int64_t kVisitWork = 200;
+constexpr std::int64_t kRecordWork = 50;
+constexpr std::int64_t kQueueWork = 50;
+constexpr std::size_t kPlaceMemory = 600;  // bytes
+constexpr std::uint32_t kRootId = 1;
 
 }  // namespace
 
 Stage::Stage(std::shared_ptr<const Movie> movie, Budget& budget)
     : movie_(std::move(movie)),
       budget_(budget),
-      root_(std::make_unique<Clip>(rootId, nullptr, movie_->timeline)) {
+      root_(std::make_unique<Clip>(kRootId, nullptr, movie_->timeline)) {
   containers_.emplace(root_->id, root_.get());
 }
 
@@ -46,7 +46,7 @@ void Stage::eachClip(const std::function<void(Clip&)>& visit) const {
     ids.push_back(at->first);
   }
   for (const std::uint32_t id : ids) {
-    if (Clip* clip = asClip(find(id)); clip != nullptr && budget_.spend(visitWork)) {
+    if (Clip* clip = asClip(find(id)); clip != nullptr && budget_.spend(kVisitWork)) {
       visit(*clip);
     }
   }
@@ -76,8 +76,8 @@ Instance* Stage::place(Container& parent, const Placement& placement) {
   }
   remove(parent, placement.depth);
   // A stage that is full ends the step.
-  if (character != nullptr && instances_ >= limits::instances) budget_.exhaust();
-  if (character == nullptr || !budget_.spend(placeWork) || !budget_.hold(placeMemory)) {
+  if (character != nullptr && instances_ >= limits::kInstances) budget_.exhaust();
+  if (character == nullptr || !budget_.spend(kPlaceWork) || !budget_.hold(kPlaceMemory)) {
     return nullptr;
   }
   std::unique_ptr<Instance> made = make(*character);
@@ -169,7 +169,7 @@ void Stage::setState(ButtonInstance& button, ButtonState state) {
     return (record.states & static_cast<unsigned>(state)) != 0;
   };
   const std::vector<ButtonRecord>& records = button.button.records;
-  budget_.spend(recordWork * static_cast<std::int64_t>(records.size() + button.children.size()));
+  budget_.spend(kRecordWork * static_cast<std::int64_t>(records.size() + button.children.size()));
   std::vector<int> leaving;
   for (const auto& [depth, child] : button.children) {
     if (!shows(records[static_cast<std::size_t>(child->placeIndex)])) {
@@ -193,8 +193,8 @@ void Stage::setState(ButtonInstance& button, ButtonState state) {
 }
 
 void Stage::enqueue(QueuedScript script) {
-  budget_.spend(queueWork);
-  if (queue_.size() < std::size_t(limits::queuedBlocks)) {
+  budget_.spend(kQueueWork);
+  if (queue_.size() < std::size_t(limits::kQueuedBlocks)) {
     queue_.push_back(std::move(script));
   }
 }
@@ -218,8 +218,8 @@ bool Stage::nextScript(QueuedScript& script) {
 }
 
 void Stage::beginEntry() {
-  gotosLeft_ = limits::gotosPerTick;
-  commandsLeft_ = limits::commandsPerTick;
+  gotosLeft_ = limits::kGotosPerTick;
+  commandsLeft_ = limits::kCommandsPerTick;
 }
 
 void Stage::endEntry() {
@@ -233,7 +233,7 @@ void Stage::endEntry() {
 }
 
 void Stage::store(Container& owner, const QString& name, Value value) {
-  budget_.spend(lookUpWork);
+  budget_.spend(kLookUpWork);
   const QString key = movie_->folded(name);
   const auto found = owner.variables.find(key);
   const bool isNew = found == owner.variables.end();

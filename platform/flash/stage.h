@@ -92,7 +92,7 @@ class Stage {
 
  private:
   // Nanoseconds to look a variable up, whose name may be written in capitals.
-  static constexpr std::int64_t lookUpWork = 200;
+  static constexpr std::int64_t kLookUpWork = 200;
 
   std::unique_ptr<Instance> make(const Character& character);
   void enter(Container& parent, std::unique_ptr<Instance> instance);

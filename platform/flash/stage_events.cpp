@@ -10,7 +10,7 @@ namespace platform::flash {
 namespace {
 
 // Nanoseconds.
-constexpr std::int64_t handlerWork = 3;
+constexpr std::int64_t kHandlerWork = 3;
 
 struct NamedEvent {
   ClipEvent event;
@@ -18,7 +18,7 @@ struct NamedEvent {
 };
 
 // The members in which scripts keep their handlers.
-constexpr std::array namedEvents{
+constexpr std::array kNamedEvents{
     NamedEvent{ClipEvent::Load, u"onLoad"},
     NamedEvent{ClipEvent::EnterFrame, u"onEnterFrame"},
     NamedEvent{ClipEvent::Unload, u"onUnload"},
@@ -39,7 +39,7 @@ constexpr std::array namedEvents{
 bool Stage::raise(Clip& clip, ClipEvent event, bool whenRemoved) {
   bool any = false;
   if (clip.handlers != nullptr) {
-    budget_.spend(handlerWork * static_cast<std::int64_t>(clip.handlers->size()));
+    budget_.spend(kHandlerWork * static_cast<std::int64_t>(clip.handlers->size()));
     for (const ClipHandler& handler : *clip.handlers) {
       if (handler.takes(event)) {
         enqueue({clip.id, handler.actions, nullptr, whenRemoved});
@@ -54,9 +54,9 @@ bool Stage::raiseMember(Container& owner, ClipEvent event, bool whenRemoved) {
   if (owner.variables.isEmpty()) {
     return false;
   }
-  const auto named = std::find_if(namedEvents.begin(), namedEvents.end(),
+  const auto named = std::find_if(kNamedEvents.begin(), kNamedEvents.end(),
                                   [event](const NamedEvent& row) { return row.event == event; });
-  if (named == namedEvents.end()) {
+  if (named == kNamedEvents.end()) {
     return false;
   }
   FunctionRef function = memberFunction(owner, QString::fromUtf16(named->name));
@@ -73,7 +73,7 @@ void Stage::raiseButton(ButtonInstance& button, ButtonEvent event, ClipEvent cli
   while (clip != nullptr && asClip(clip) == nullptr) {
     clip = clip->parent;
   }
-  budget_.spend(handlerWork * static_cast<std::int64_t>(button.button.handlers.size()));
+  budget_.spend(kHandlerWork * static_cast<std::int64_t>(button.button.handlers.size()));
   for (const ButtonHandler& handler : button.button.handlers) {
     if ((handler.events & static_cast<unsigned>(event)) != 0 && clip != nullptr) {
       enqueue({clip->id, handler.actions, nullptr, false});
@@ -84,7 +84,7 @@ void Stage::raiseButton(ButtonInstance& button, ButtonEvent event, ClipEvent cli
 
 bool Stage::listens(const Container& owner, std::uint32_t events) const {
   if (const Clip* clip = asClip(&owner); clip != nullptr && clip->handlers != nullptr) {
-    budget_.spend(handlerWork * static_cast<std::int64_t>(clip->handlers->size()));
+    budget_.spend(kHandlerWork * static_cast<std::int64_t>(clip->handlers->size()));
     for (const ClipHandler& handler : *clip->handlers) {
       if ((handler.events & events) != 0) {
         return true;
@@ -94,7 +94,7 @@ bool Stage::listens(const Container& owner, std::uint32_t events) const {
   if (owner.variables.isEmpty()) {
     return false;
   }
-  for (const NamedEvent& named : namedEvents) {
+  for (const NamedEvent& named : kNamedEvents) {
     if ((static_cast<std::uint32_t>(named.event) & events) != 0 &&
         memberFunction(owner, QString::fromUtf16(named.name)) != nullptr) {
       return true;
@@ -104,7 +104,7 @@ bool Stage::listens(const Container& owner, std::uint32_t events) const {
 }
 
 FunctionRef Stage::memberFunction(const Container& owner, const QString& name) const {
-  budget_.spend(lookUpWork);
+  budget_.spend(kLookUpWork);
   const Value value = owner.variables.value(movie_->folded(name));
   const auto* function = std::get_if<FunctionRef>(&value);
   return function == nullptr ? nullptr : *function;

@@ -12,11 +12,11 @@ namespace platform::flash {
 
 namespace {
 
-constexpr std::size_t mostSegments = 200'000;
+constexpr std::size_t kMostSegments = 200'000;
 
-constexpr double flatness = 0.125;  // pixels
+constexpr double kFlatness = 0.125;  // pixels
 // The widest line in pixels: rounder corners than those no picture shows.
-constexpr double widest = 4096;
+constexpr double kWidest = 4096;
 
 // The surface in straight pieces; it breaks off where no picture could take it.
 class Straightened {
@@ -46,13 +46,13 @@ class Straightened {
   }
 
  private:
-  [[nodiscard]] bool isFull() const { return outline_.segments().size() > limits::frameSegments; }
+  [[nodiscard]] bool isFull() const { return outline_.segments().size() > limits::kFrameSegments; }
   void lineTo(QPointF to) { outline_.lineTo(from_ = to); }
   void close() {
     if (from_ != begin_) lineTo(begin_);
   }
   void curveTo(QPointF first, QPointF second, QPointF to) {
-    constexpr double mostPieces = 64;
+    constexpr double kMostPieces = 64;
     // The nth part of a cubic deviates from its chord by three quarters of its bend over n squared.
     const QPointF begin = from_;
     const QPointF bendBefore = begin - 2 * first + second;
@@ -60,7 +60,7 @@ class Straightened {
     const double bend = std::max(std::hypot(bendBefore.x(), bendBefore.y()),
                                  std::hypot(bendAfter.x(), bendAfter.y()));
     const int pieces = static_cast<int>(
-        std::clamp(std::ceil(std::sqrt(0.75 * bend * finest_ / flatness)), 1.0, mostPieces));
+        std::clamp(std::ceil(std::sqrt(0.75 * bend * finest_ / kFlatness)), 1.0, kMostPieces));
     for (int i = 1; i < pieces; ++i) {
       const double t = double(i) / pieces;
       const double u = 1 - t;
@@ -85,7 +85,7 @@ Outline strokeOf(const StrokeCache::Key& key) {
     const auto& [m11, m12, m21, m22] = key.before;
     line = QTransform(m11, m12, m21, m22, 0, 0).map(line);
   }
-  return Straightened(std::min(key.scale, widest / key.width)).of(stroker.createStroke(line));
+  return Straightened(std::min(key.scale, kWidest / key.width)).of(stroker.createStroke(line));
 }
 
 }  // namespace
@@ -100,7 +100,7 @@ const Outline& StrokeCache::stroke(const Key& key) {
 }
 
 void StrokeCache::trim() {
-  if (segments_ > mostSegments) {
+  if (segments_ > kMostSegments) {
     clear();
   }
 }

@@ -29,9 +29,9 @@ QStringView takeStep(QStringView& path) {
 }
 
 // Nanoseconds.
-constexpr std::int64_t characterWork = 3;
-constexpr std::int64_t stepWork = 60;
-constexpr std::int64_t compareWork = 15;
+constexpr std::int64_t kCharacterWork = 3;
+constexpr std::int64_t kStepWork = 60;
+constexpr std::int64_t kCompareWork = 15;
 
 QString pathFrom(const Stage& stage, const Instance& instance, QChar separator) {
   std::vector<const Instance*> steps;
@@ -39,11 +39,11 @@ QString pathFrom(const Stage& stage, const Instance& instance, QChar separator) 
     steps.push_back(at);
   }
   QString path;
-  for (auto at = steps.rbegin(); at != steps.rend() && path.size() < limits::stringLength; ++at) {
+  for (auto at = steps.rbegin(); at != steps.rend() && path.size() < limits::kStringLength; ++at) {
     path.append(separator).append((*at)->name);
   }
-  path.truncate(limits::stringLength);
-  stage.budget().spend(stepWork + characterWork * path.size());
+  path.truncate(limits::kStringLength);
+  stage.budget().spend(kStepWork + kCharacterWork * path.size());
   stage.budget().hold(2 * static_cast<std::size_t>(path.size()));
   return path;
 }
@@ -55,7 +55,7 @@ Container* childNamed(const Stage& stage, const Container& parent, QStringView n
       stage.movie().version <= 6 ? Qt::CaseInsensitive : Qt::CaseSensitive;
   for (const auto& [depth, child] : parent.children) {
     const qsizetype compared = std::min(name.size(), child->name.size());
-    if (!stage.budget().spend(compareWork + characterWork * compared)) {
+    if (!stage.budget().spend(kCompareWork + kCharacterWork * compared)) {
       break;
     }
     if (child->kind != Instance::Kind::Graphic && name.compare(child->name, sensitivity) == 0) {
@@ -74,7 +74,7 @@ Container* resolveTarget(const Stage& stage, Container* from, QStringView path) 
   }
   while (at != nullptr && !path.isEmpty()) {
     const QStringView step = takeStep(path);
-    if (!stage.budget().spend(stepWork + characterWork * step.size())) {
+    if (!stage.budget().spend(kStepWork + kCharacterWork * step.size())) {
       return nullptr;
     }
     const auto is = [step](QStringView name) {

@@ -21,8 +21,8 @@ Font readGlyphs(ByteReader& body, std::size_t tableAt, const std::vector<std::si
       body.seek(tableAt + offset);
       font.glyphs.back() = readGlyph(body, allowance);
     } catch (const MovieError&) {
-      constexpr std::int64_t faultWork = 5000;
-      allowance.work(faultWork);
+      constexpr std::int64_t kFaultWork = 5000;
+      allowance.work(kFaultWork);
     }
   }
   return font;
@@ -45,7 +45,7 @@ Font readFont(ByteReader& body, Allowance& allowance) {
 }
 
 Font readFont2(ByteReader& body, double unitsPerEm, Allowance& allowance) {
-  constexpr unsigned wideOffsets = 0x08;
+  constexpr unsigned kWideOffsets = 0x08;
   const unsigned flags = body.u8();
   body.skip(1);          // language
   body.skip(body.u8());  // name
@@ -53,7 +53,7 @@ Font readFont2(ByteReader& body, double unitsPerEm, Allowance& allowance) {
   const std::size_t tableAt = body.position();
   std::vector<std::size_t> offsets;
   for (std::size_t i = 0; i < count; ++i) {
-    offsets.push_back((flags & wideOffsets) != 0 ? body.u32() : body.u16());
+    offsets.push_back((flags & kWideOffsets) != 0 ? body.u32() : body.u16());
   }
   Font font = readGlyphs(body, tableAt, offsets, allowance);
   font.unitsPerEm = unitsPerEm;
@@ -74,30 +74,30 @@ struct Setting {
 // What a record changes of it. flags: the record's first byte.
 void change(Setting& setting, unsigned flags, ByteReader& body, bool withAlpha,
             const Movie& movie) {
-  constexpr unsigned hasFont = 8;
-  constexpr unsigned hasColor = 4;
-  constexpr unsigned hasY = 2;
-  constexpr unsigned hasX = 1;
-  if ((flags & hasFont) != 0) {
+  constexpr unsigned kHasFont = 8;
+  constexpr unsigned kHasColor = 4;
+  constexpr unsigned kHasY = 2;
+  constexpr unsigned kHasX = 1;
+  if ((flags & kHasFont) != 0) {
     const Character* character = movie.character(body.u16());
     setting.font = character == nullptr ? nullptr : character->as<Font>();
   }
-  if ((flags & hasColor) != 0) {
+  if ((flags & kHasColor) != 0) {
     setting.color = readColor(body, withAlpha);
   }
-  setting.x = (flags & hasX) != 0 ? body.s16() : setting.x;
-  setting.y = (flags & hasY) != 0 ? body.s16() : setting.y;
-  setting.height = (flags & hasFont) != 0 ? body.u16() : setting.height;
+  setting.x = (flags & kHasX) != 0 ? body.s16() : setting.x;
+  setting.y = (flags & kHasY) != 0 ? body.s16() : setting.y;
+  setting.height = (flags & kHasFont) != 0 ? body.u16() : setting.height;
 }
 
 // A glyph of the font, where it has one of that number.
 void addGlyph(Text& text, const Setting& setting, std::size_t glyph, const ReadContext& context) {
-  constexpr std::int64_t segmentWork = 8;
+  constexpr std::int64_t kSegmentWork = 8;
   const Font* font = setting.font;
   if (font == nullptr || glyph >= font->glyphs.size() || font->glyphs[glyph].isEmpty()) return;
   const Outline& outline = font->glyphs[glyph];
   context.allowance.spend(sizeof(Text::Glyph));
-  context.allowance.work(segmentWork, outline.segments().size());
+  context.allowance.work(kSegmentWork, outline.segments().size());
   const double scale = setting.height / font->unitsPerEm;
   text.glyphs.push_back({&outline, QTransform(scale, 0, 0, scale, setting.x, setting.y),
                          setting.color, outline.bounds()});
@@ -106,7 +106,7 @@ void addGlyph(Text& text, const Setting& setting, std::size_t glyph, const ReadC
 }  // namespace
 
 Text readText(ByteReader& body, bool withAlpha, const ReadContext& context) {
-  constexpr std::int64_t glyphWork = 20;
+  constexpr std::int64_t kGlyphWork = 20;
   Text text;
   (void)readRect(body);
   text.matrix = readMatrix(body);
@@ -121,7 +121,7 @@ Text readText(ByteReader& body, bool withAlpha, const ReadContext& context) {
     int count = body.u8();
     BitReader bits(body);
     for (; count > 0; --count) {
-      context.allowance.work(glyphWork);
+      context.allowance.work(kGlyphWork);
       const std::size_t glyph = bits.unsignedBits(glyphBits);
       const double advance = bits.signedBits(advanceBits);
       addGlyph(text, setting, glyph, context);

@@ -11,9 +11,9 @@ namespace platform::flash {
 namespace {
 
 // Nanoseconds.
-constexpr std::int64_t frameWork = 20;
-constexpr std::int64_t commandWork = 300;
-constexpr std::int64_t keepWork = 50;
+constexpr std::int64_t kFrameWork = 20;
+constexpr std::int64_t kCommandWork = 300;
+constexpr std::int64_t kKeepWork = 50;
 
 // What a command puts on a depth that holds nothing it could take over.
 Placement placementOf(const PlaceCommand& command, int frame, int index) {
@@ -79,7 +79,7 @@ std::optional<Plan> planOf(Stage& stage, const Timeline& timeline, int frame) {
   Plan plan;
   for (int f = 0; f <= frame; ++f) {
     const std::vector<Command>& commands = timeline.frames[std::size_t(f)].commands;
-    if (!stage.budget().spend(frameWork + commandWork * std::int64_t(commands.size()))) {
+    if (!stage.budget().spend(kFrameWork + kCommandWork * std::int64_t(commands.size()))) {
       return std::nullopt;
     }
     for (std::size_t i = 0; i < commands.size(); ++i) {
@@ -113,7 +113,7 @@ bool isSame(const Instance& instance, const Placement& placement) {
 
 // Takes away what the plan does not know and brings what stays into its place.
 void keepCommon(Stage& stage, Clip& clip, const Plan& plan) {
-  stage.budget().spend(keepWork * std::int64_t(clip.children.size()));
+  stage.budget().spend(kKeepWork * std::int64_t(clip.children.size()));
   std::vector<int> leaving;
   for (const auto& [depth, child] : clip.children) {
     const auto planned = plan.find(depth);
@@ -166,7 +166,7 @@ void showFrame(Stage& stage, Clip& clip, int frame, bool withScripts) {
 
 void workOffFrame(Stage& stage, Clip& clip) {
   const std::vector<Command>& commands = clip.timeline.frames[std::size_t(clip.frame)].commands;
-  for (std::size_t i = 0; i < commands.size() && stage.budget().spend(commandWork); ++i) {
+  for (std::size_t i = 0; i < commands.size() && stage.budget().spend(kCommandWork); ++i) {
     if (const auto* command = std::get_if<PlaceCommand>(&commands[i])) {
       place(stage, clip, *command, static_cast<int>(i));
     } else if (const auto* removal = std::get_if<RemoveCommand>(&commands[i])) {
@@ -204,9 +204,9 @@ void gotoFrame(Stage& stage, Clip& clip, int frame, bool play) {
 }
 
 std::optional<int> frameOfLabel(const Stage& stage, const Clip& clip, const QString& label) {
-  constexpr std::int64_t labelWork = 100;
-  constexpr std::int64_t characterWork = 5;
-  stage.budget().spend(labelWork + characterWork * label.size());
+  constexpr std::int64_t kLabelWork = 100;
+  constexpr std::int64_t kCharacterWork = 5;
+  stage.budget().spend(kLabelWork + kCharacterWork * label.size());
   const auto found = clip.timeline.labels.constFind(stage.movie().folded(label));
   if (found == clip.timeline.labels.constEnd()) {
     return std::nullopt;

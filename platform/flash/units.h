@@ -5,9 +5,9 @@
 namespace platform::flash {
 
 // Lengths and places in a movie are twips, twenty to a pixel of a board at its own size.
-inline constexpr double twipsPerPixel = 20;
+inline constexpr double kTwipsPerPixel = 20;
 
 // Further out, in twips, nothing can be drawn, and a float still holds every twip.
-inline constexpr std::int64_t farthestTwip = 1 << 23;
+inline constexpr std::int64_t kFarthestTwip = 1 << 23;
 
 }  // namespace platform::flash

@@ -7,13 +7,13 @@
 #include "platform/flash/limits.h"
 #include "platform/flash/movie_error.h"
 #include "platform/flash/structures.h"
+#include "platform/flash/units.h"
 
 namespace platform::flash {
 
 namespace {
 
-constexpr std::size_t plainHeader = 8;
-constexpr double twipsPerPixel = 20;
+constexpr std::size_t kPlainHeader = 8;
 
 // Owns the state of one inflation.
 class Inflater {
@@ -45,26 +45,26 @@ class Inflater {
   // Takes a little of what is packed, which may hold nothing but the descriptions of codes, and
   // appends what comes of it: so many bytes.
   std::size_t step(Bytes& packed, std::vector<std::uint8_t>& out, std::size_t most) {
-    constexpr std::size_t mostIn = 4U * 1024U;
-    constexpr std::size_t mostOut = 64U * 1024U;
-    constexpr std::int64_t workPerByteIn = 10;
-    constexpr std::int64_t workPerByteOut = 3;
+    constexpr std::size_t kMostIn = 4U * 1024U;
+    constexpr std::size_t kMostOut = 64U * 1024U;
+    constexpr std::int64_t kWorkPerByteIn = 10;
+    constexpr std::int64_t kWorkPerByteOut = 3;
     if (stream_.avail_in == 0) {
-      const Bytes part = packed.first(std::min(mostIn, packed.size()));
+      const Bytes part = packed.first(std::min(kMostIn, packed.size()));
       packed = packed.subspan(part.size());
-      allowance_.work(workPerByteIn, part.size());
+      allowance_.work(kWorkPerByteIn, part.size());
       stream_.next_in = const_cast<Bytef*>(part.data());  // zlib only reads it
       stream_.avail_in = static_cast<uInt>(part.size());
     }
     const std::size_t begin = out.size();
-    const std::size_t room = std::min(mostOut, most);
+    const std::size_t room = std::min(kMostOut, most);
     out.resize(begin + room);
     stream_.next_out = out.data() + begin;
     stream_.avail_out = static_cast<uInt>(room);
     ended_ = inflate(&stream_, Z_NO_FLUSH) != Z_OK;
     const std::size_t got = room - stream_.avail_out;
     out.resize(begin + got);
-    allowance_.work(workPerByteOut, got);
+    allowance_.work(kWorkPerByteOut, got);
     return got;
   }
 
@@ -85,28 +85,29 @@ UnpackedFile unpackFile(Bytes file, Allowance& allowance) {
     throw MovieError("the signature is not that of a movie", 0);
   }
   opened.version = reader.u8();
-  const std::size_t length = std::clamp<std::size_t>(reader.u32(), plainHeader, limits::movieBytes);
+  const std::size_t length =
+      std::clamp<std::size_t>(reader.u32(), kPlainHeader, limits::kMovieBytes);
 
   const Bytes body = reader.rest();
   // Whatever the file claims: pages that are never written take no memory, growing piecemeal does.
   opened.bytes.reserve(opened.compressed ? length : std::min(length, file.size()));
-  opened.bytes.assign(file.begin(), file.begin() + plainHeader);
+  opened.bytes.assign(file.begin(), file.begin() + kPlainHeader);
   if (opened.compressed) {
-    Inflater(allowance).append(body, opened.bytes, length - plainHeader);
+    Inflater(allowance).append(body, opened.bytes, length - kPlainHeader);
   } else {
-    const Bytes used = body.first(std::min(body.size(), length - plainHeader));
+    const Bytes used = body.first(std::min(body.size(), length - kPlainHeader));
     opened.bytes.insert(opened.bytes.end(), used.begin(), used.end());
   }
 
   ByteReader header(opened.bytes);
-  header.seek(plainHeader);
+  header.seek(kPlainHeader);
   opened.stage = readRect(header);
   opened.frameRate = header.u16() / 256.0;
   opened.frameCount = header.u16();
   opened.tagsBegin = header.position();
   const double edge = std::max(opened.stage.width(), opened.stage.height());
-  if (opened.stage.isEmpty() || edge > limits::stageEdge * twipsPerPixel) {
-    throw MovieError("the stage has no usable size", plainHeader);
+  if (opened.stage.isEmpty() || edge > limits::kStageEdge * kTwipsPerPixel) {
+    throw MovieError("the stage has no usable size", kPlainHeader);
   }
   return opened;
 }

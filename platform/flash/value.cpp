@@ -9,8 +9,8 @@ namespace platform::flash {
 
 namespace {
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr qsizetype overhead = 16;  // of a text, in characters
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr qsizetype kOverhead = 16;  // of a text, in characters
 
 template <class... Handlers>
 struct Visitor : Handlers... {
@@ -60,12 +60,12 @@ qsizetype numberLength(const QString& text) {
 }  // namespace
 
 void ConstantPool::add(QString text) {
-  weight += text.size() + overhead;
+  weight += text.size() + kOverhead;
   texts.push_back(std::move(text));
 }
 
 void ScriptFunction::addParameter(int reg, QString name) {
-  weight += name.size() + overhead;
+  weight += name.size() + kOverhead;
   parameters.push_back({reg, std::move(name)});
 }
 
@@ -73,7 +73,7 @@ double numberOf(const QString& text, int version) {
   const QString trimmed = text.trimmed();
   const qsizetype length = numberLength(trimmed);
   if (length == 0 || (version >= 5 && length != trimmed.size())) {
-    return version >= 5 ? nan : 0;
+    return version >= 5 ? kNan : 0;
   }
   return trimmed.left(length).toDouble();
 }
@@ -89,10 +89,10 @@ QString numberText(double number) {
     return QStringLiteral("0");
   }
   // All digits there are, and where the point belongs: 1.20000000000000e-07.
-  constexpr int mostDigits = 15;
-  constexpr int firstLarge = 15;
-  constexpr int lastSmall = -6;
-  const QString scientific = QString::number(std::abs(number), 'e', mostDigits - 1);
+  constexpr int kMostDigits = 15;
+  constexpr int kFirstLarge = 15;
+  constexpr int kLastSmall = -6;
+  const QString scientific = QString::number(std::abs(number), 'e', kMostDigits - 1);
   const qsizetype mark = scientific.indexOf(u'e');
   const int exponent = QStringView(scientific).sliced(mark + 1).toInt();
   QString digits = scientific.left(mark).remove(u'.');
@@ -100,7 +100,7 @@ QString numberText(double number) {
     digits.chop(1);
   }
   const QString sign = number < 0 ? QStringLiteral("-") : QString();
-  if (exponent >= firstLarge || exponent <= lastSmall) {
+  if (exponent >= kFirstLarge || exponent <= kLastSmall) {
     const QString point = digits.size() > 1 ? QStringLiteral(".") : QString();
     return sign + digits.left(1) + point + digits.mid(1) + u'e' +
            (exponent > 0 ? QStringLiteral("+") : QString()) + QString::number(exponent);
@@ -116,11 +116,11 @@ QString numberText(double number) {
 
 double toNumber(const Value& value, int version) {
   return std::visit(
-      Visitor{[&](Undefined) { return version >= 7 ? nan : 0.0; },
-              [&](Null) { return version >= 7 ? nan : 0.0; },
+      Visitor{[&](Undefined) { return version >= 7 ? kNan : 0.0; },
+              [&](Null) { return version >= 7 ? kNan : 0.0; },
               [](bool flag) { return flag ? 1.0 : 0.0; }, [](double number) { return number; },
               [&](const QString& text) { return numberOf(text, version); },
-              [](ObjectRef) { return nan; }, [](const FunctionRef&) { return nan; }},
+              [](ObjectRef) { return kNan; }, [](const FunctionRef&) { return kNan; }},
       value);
 }
 
@@ -151,10 +151,10 @@ std::int32_t toInteger(const Value& value, int version) {
   if (!std::isfinite(number)) {
     return 0;
   }
-  constexpr double modulus = 4294967296.0;
-  double rest = std::fmod(std::trunc(number), modulus);
+  constexpr double kModulus = 4294967296.0;
+  double rest = std::fmod(std::trunc(number), kModulus);
   if (rest < 0) {
-    rest += modulus;
+    rest += kModulus;
   }
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(rest));
 }

@@ -11,7 +11,7 @@ using somme::Casuale;
 namespace {
 
 // The largest fraction that a source can give.
-constexpr float almostOne = 1.0F - 0x1.0p-24F;
+constexpr float kAlmostOne = 1.0F - 0x1.0p-24F;
 
 ScriptedChance always(float fraction) {
   ScriptedChance chance{};
@@ -26,7 +26,7 @@ class CasualeTest : public QObject {
 
  private Q_SLOTS:
   void casualeOfOneAndOfZeroIsZeroAlways() {
-    for (const float fraction : {0.0F, 0.5F, almostOne}) {
+    for (const float fraction : {0.0F, 0.5F, kAlmostOne}) {
       ScriptedChance chance = always(fraction);
       QCOMPARE(Casuale(chance, 1), 0);
       QCOMPARE(Casuale(chance, 0), 0);
@@ -34,7 +34,7 @@ class CasualeTest : public QObject {
   }
 
   void theLargestFractionGivesOneLessThanTheNumber() {
-    ScriptedChance chance = always(almostOne);
+    ScriptedChance chance = always(kAlmostOne);
     for (const int n : {2, 10, 99, 9888, 9999, 1 << 24}) QCOMPARE(Casuale(chance, n), n - 1);
   }
 
@@ -45,9 +45,9 @@ class CasualeTest : public QObject {
 
   void theFractionIsMultipliedInSixtyFourBits() {
     // In 32 bits the product is 7, in 64 just below it.
-    constexpr float fraction = 0.7F;
-    static_assert(fraction * 10.0F == 7.0F && static_cast<double>(fraction) * 10.0 < 7.0);
-    ScriptedChance chance = always(fraction);
+    constexpr float kFraction = 0.7F;
+    static_assert(kFraction * 10.0F == 7.0F && static_cast<double>(kFraction) * 10.0 < 7.0);
+    ScriptedChance chance = always(kFraction);
     QCOMPARE(Casuale(chance, 10), 6);
   }
 

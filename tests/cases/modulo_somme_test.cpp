@@ -14,7 +14,7 @@ using namespace somme;
 
 namespace {
 
-constexpr int quantiCasi = 100'000;
+constexpr int kQuantiCasi = 100'000;
 
 // A seeded source that gives up a case for which it was drawn from too often: only a rule that
 // spins for ever does so.
@@ -84,7 +84,7 @@ class ModuloSommeTest : public QObject {
     Limiti visti{std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
     std::set<unsigned> cambiVisti;
     int giri = 0;
-    for (int i = 0; i < quantiCasi; ++i) {
+    for (int i = 0; i < kQuantiCasi; ++i) {
       Caso caso;
       chance.newCase();
       try {
@@ -107,8 +107,8 @@ class ModuloSommeTest : public QObject {
       cambiVisti.insert(cambiDi(caso));
     }
     // Six times the standard deviation on either side.
-    const double scarto = 6 * std::sqrt(quantiCasi * promessa.giri * (1 - promessa.giri));
-    QVERIFY2(std::abs(giri - quantiCasi * promessa.giri) <= scarto,
+    const double scarto = 6 * std::sqrt(kQuantiCasi * promessa.giri * (1 - promessa.giri));
+    QVERIFY2(std::abs(giri - kQuantiCasi * promessa.giri) <= scarto,
              qPrintable(QString::number(giri)));
     if (!promessa.cambi.empty()) QVERIFY(cambiVisti == promessa.cambi);
     if (promessa.estremiVisti) {
@@ -149,7 +149,7 @@ class ModuloSommeTest : public QObject {
   void generaEntro99SoloUnitaAddsADigitOrAMultipleOfTenAfterARetryOnly() {
     PatientChance chance(1);
     int diNuovo = 0;
-    for (int i = 0; i < quantiCasi; ++i) {
+    for (int i = 0; i < kQuantiCasi; ++i) {
       Caso caso;
       chance.newCase();
       GeneraEntro99SoloUnita(caso, chance);
@@ -209,7 +209,7 @@ class ModuloSommeTest : public QObject {
   }
   void generaEntro9999TreCambiHasThousandsOfEightAtMost() {
     PatientChance chance(3);
-    for (int i = 0; i < quantiCasi; ++i) {
+    for (int i = 0; i < kQuantiCasi; ++i) {
       Caso caso;
       chance.newCase();
       GeneraEntro9999TreCambi(caso, chance);
@@ -254,7 +254,7 @@ class ModuloSommeTest : public QObject {
 
   void carryAtTheUnitsMakesThemTenTo18AndLeavesTheTensAtEight() {
     PatientChance chance(4);
-    for (int i = 0; i < quantiCasi; ++i) {
+    for (int i = 0; i < kQuantiCasi; ++i) {
       Caso caso;
       chance.newCase();
       GeneraEntro999CambioUnita(caso, chance);

@@ -66,7 +66,7 @@ bool soloZeriEUni(int somma) {
   return std::all_of(cifre.begin(), cifre.end(), [](char c) { return c == '0' || c == '1'; });
 }
 
-constexpr float almostOne = 1.0F - 0x1.0p-24F;
+constexpr float kAlmostOne = 1.0F - 0x1.0p-24F;
 
 }  // namespace
 
@@ -198,7 +198,7 @@ class RegoleTest : public QObject {
     QFETCH(Generatore, genera);
     QFETCH(int, cifre);
     QFETCH(int, somma);
-    QVERIFY(gira(genera, somma, cifre, almostOne, 1'000'000));
+    QVERIFY(gira(genera, somma, cifre, kAlmostOne, 1'000'000));
   }
 
   void noOtherSumSpins() {
@@ -206,12 +206,12 @@ class RegoleTest : public QObject {
     for (int somma = 1; somma <= 9999; ++somma) {
       const bool atteso = soloZeriEUni(somma);
       quantiGirano += atteso ? 1 : 0;
-      QCOMPARE(gira(GeneraEntro9999SenzaCambio, somma, 4, almostOne, 100), atteso);
+      QCOMPARE(gira(GeneraEntro9999SenzaCambio, somma, 4, kAlmostOne, 100), atteso);
       if (somma >= 100 && somma <= 999) {
-        QCOMPARE(gira(GeneraEntro999SenzaCambio, somma, 3, almostOne, 100), atteso);
+        QCOMPARE(gira(GeneraEntro999SenzaCambio, somma, 3, kAlmostOne, 100), atteso);
       }
       if (somma <= 99) {
-        QCOMPARE(gira(GeneraEntro99SenzaCambio, somma, 2, almostOne, 100), atteso);
+        QCOMPARE(gira(GeneraEntro99SenzaCambio, somma, 2, kAlmostOne, 100), atteso);
       }
     }
     QCOMPARE(quantiGirano, 15);

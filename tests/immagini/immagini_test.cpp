@@ -305,13 +305,14 @@ class ImmaginiTest : public QObject {
   void nothingIsCutOffAtTheEdge() {
     QFETCH(QString, nome);
     // The renderer does not clip: what lies outside the view box shows in a margin around it.
-    constexpr int margine = 16;
+    constexpr int kMargine = 16;
     QSvgRenderer disegno(Cartella + nome + QStringLiteral(".svg"));
     const QSize misura = disegno.viewBox().size().scaled(256, 256, Qt::KeepAspectRatio);
-    QImage immagine(misura.grownBy({margine, margine, margine, margine}), QImage::Format_ARGB32);
+    QImage immagine(misura.grownBy({kMargine, kMargine, kMargine, kMargine}),
+                    QImage::Format_ARGB32);
     immagine.fill(Qt::transparent);
     QPainter pennello(&immagine);
-    const QRect dentro(QPoint(margine, margine), misura);
+    const QRect dentro(QPoint(kMargine, kMargine), misura);
     disegno.render(&pennello, dentro);
     for (int y = 0; y < immagine.height(); ++y) {
       for (int x = 0; x < immagine.width(); ++x) {
@@ -369,16 +370,16 @@ class ImmaginiTest : public QObject {
 
   void thePointersHotSpotIsTheTipOfTheFinger() {
     const QImage puntatore = Disegna(QStringLiteral("puntatore"), QSize(32, 32));
-    QVERIFY(Piena(puntatore, somme::PuntaX, somme::PuntaY));
+    QVERIFY(Piena(puntatore, somme::kPuntaX, somme::kPuntaY));
     // Nothing lies higher but the smoothing of the outline.
-    for (int y = 0; y < somme::PuntaY; ++y) {
+    for (int y = 0; y < somme::kPuntaY; ++y) {
       for (int x = 0; x < 32; ++x) {
-        if (std::abs(x - somme::PuntaX) > 2) QCOMPARE(qAlpha(puntatore.pixel(x, y)), 0);
+        if (std::abs(x - somme::kPuntaX) > 2) QCOMPARE(qAlpha(puntatore.pixel(x, y)), 0);
       }
     }
     // And no part of the picture on that row is far from it.
     for (int x = 0; x < 32; ++x) {
-      if (Piena(puntatore, x, somme::PuntaY)) QVERIFY(std::abs(x - somme::PuntaX) <= 3);
+      if (Piena(puntatore, x, somme::kPuntaY)) QVERIFY(std::abs(x - somme::kPuntaX) <= 3);
     }
   }
 };

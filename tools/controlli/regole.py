@@ -18,6 +18,7 @@ _REGOLE = (
     ("a namespace a room", struttura.spazi_altrui),
     ("no near-copy", testo.copie),
     ("short files", testo.file_lunghi),
+    ("constants begin with k", testo.costanti),
     ("titles of commits", lambda: testo.titoli(_TITOLI_DA)),
     ("words", testo.parole),
 )

@@ -101,6 +101,24 @@ def parole():
             yield f"{file}:{riga}: {trovato.group().strip()}"
 
 
+# A variable that the compiler knows the value of; functions and templates of constants are left alone.
+_COSTANTE = re.compile(r"\bconstexpr\s[\w:<>,*&\s]*?\b(?P<nome>[A-Za-z_]\w*)(?:\[[^\]]*\])?\s*(?:=(?!=)|\{)")
+_DI_UN_MODELLO = re.compile(r"template\s*<[^;{}]*>\s*(?:(?:inline|static)\s+)*\Z")
+
+
+def costanti():
+    """Constants whose name does not begin with k."""
+    for file in sorgenti.cpp():
+        codice = sorgenti.codice(file)
+        for trovata in _COSTANTE.finditer(codice):
+            nome = trovata["nome"]
+            if (re.match(r"k[A-Z]", nome) or nome == "const"
+                    or _DI_UN_MODELLO.search(codice[:trovata.start()][-200:])):
+                continue
+            riga = codice.count("\n", 0, trovata.start("nome")) + 1
+            yield f"{file}:{riga}: {nome}"
+
+
 def formato():
     """Files that clang-format would lay out otherwise."""
     if not shutil.which("clang-format-16"):

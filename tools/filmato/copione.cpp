@@ -12,8 +12,8 @@ namespace {
 using Letta = std::optional<Operazione>;
 
 std::optional<int> intero(const QJsonValue& valore) {
-  constexpr double limite = 1e9;
-  const double numero = valore.toDouble(limite);
+  constexpr double kLimite = 1e9;
+  const double numero = valore.toDouble(kLimite);
   if (!valore.isDouble() || numero != static_cast<int>(numero)) {
     return std::nullopt;
   }
@@ -91,7 +91,7 @@ struct Riga {
   Letta (*leggi)(const QJsonValue& valore);
 };
 
-constexpr Riga righe[] = {
+constexpr Riga kRighe[] = {
     {u"wait", leggiAttesa},
     {u"goto", leggiVaiA},
     {u"play", leggiAvvia},
@@ -110,7 +110,7 @@ std::optional<Passo> leggiPasso(const QJsonObject& campi, QString& errore) {
   passo.diFotogramma = campi[QStringLiteral("frame")].toBool();
   passo.diCursore = campi[QStringLiteral("cursor")].toBool();
   int operazioni = 0;
-  for (const Riga& riga : righe) {
+  for (const Riga& riga : kRighe) {
     const QString chiave = QString::fromUtf16(riga.chiave);
     if (!campi.contains(chiave)) {
       continue;

@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr int rifiutato = 1;
-constexpr int argomentiErrati = 2;
+constexpr int kRifiutato = 1;
+constexpr int kArgomentiErrati = 2;
 
 void stampa(const QJsonObject& record) {
   const QByteArray riga = QJsonDocument(record).toJson(QJsonDocument::Compact);
@@ -28,7 +28,7 @@ void stampa(const QJsonObject& record) {
 
 int lamenta(const QString& perche) {
   std::fprintf(stderr, "filmato: %s\n", qUtf8Printable(perche));
-  return argomentiErrati;
+  return kArgomentiErrati;
 }
 
 int recita(const QStringList& argomenti) {
@@ -49,11 +49,11 @@ int recita(const QStringList& argomenti) {
     const bool riuscita = Rappresentazione(argomenti[3], argomenti[4], stampa)
                               .esegui(platform::flash::loadMovie(argomenti[1]), *copione);
     stampa({{QStringLiteral("ev"), QStringLiteral("done")}, {QStringLiteral("ok"), riuscita}});
-    return riuscita ? 0 : rifiutato;
+    return riuscita ? 0 : kRifiutato;
   } catch (const platform::flash::MovieError& fallo) {
     stampa({{QStringLiteral("ev"), QStringLiteral("rejected")},
             {QStringLiteral("why"), QString::fromUtf8(fallo.what())}});
-    return rifiutato;
+    return kRifiutato;
   }
 }
 

@@ -7,14 +7,15 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/flash/units.h"
+
 namespace somme::filmato {
 
+using platform::flash::kTwipsPerPixel;
 using platform::flash::Movie;
 using platform::flash::Player;
 
 namespace {
-
-constexpr double twipPerPixel = 20;
 
 // Only what is safe in a file's name on any system.
 QString nomeDiFile(const QString& nome) {
@@ -26,8 +27,8 @@ QString nomeDiFile(const QString& nome) {
 }
 
 QSize misure(const Movie& filmato) {
-  return {static_cast<int>(std::ceil(filmato.stage.width() / twipPerPixel)),
-          static_cast<int>(std::ceil(filmato.stage.height() / twipPerPixel))};
+  return {static_cast<int>(std::ceil(filmato.stage.width() / kTwipsPerPixel)),
+          static_cast<int>(std::ceil(filmato.stage.height() / kTwipsPerPixel))};
 }
 
 }  // namespace
@@ -125,10 +126,11 @@ void Rappresentazione::compi(const Scatto& scatto) {
   const Movie& filmato = lettore_->movie();
   QImage immagine(misure(filmato), QImage::Format_RGB32);
   const QPointF angolo = -filmato.stage.topLeft();
-  const bool intera = pittore_.paint(lettore_->scene(),
-                                     QTransform::fromTranslate(angolo.x(), angolo.y()) *
-                                         QTransform::fromScale(1 / twipPerPixel, 1 / twipPerPixel),
-                                     filmato.background, immagine);
+  const bool intera =
+      pittore_.paint(lettore_->scene(),
+                     QTransform::fromTranslate(angolo.x(), angolo.y()) *
+                         QTransform::fromScale(1 / kTwipsPerPixel, 1 / kTwipsPerPixel),
+                     filmato.background, immagine);
   if (!intera) {
     lettore_->halt();
   }

@@ -13,12 +13,12 @@
 
 namespace {
 
-constexpr int Margine = 8;
-constexpr int LatoGrande = 192;
-constexpr int AltezzaRiga = LatoGrande + 2 * Margine;
-constexpr std::array Lati = {64, 35, 24, 16};
+constexpr int kMargine = 8;
+constexpr int kLatoGrande = 192;
+constexpr int kAltezzaRiga = kLatoGrande + 2 * kMargine;
+constexpr std::array kLati = {64, 35, 24, 16};
 // Backgrounds of forms, panels and keys, and of a key that the scanning has reached.
-constexpr std::array<QRgb, 5> Fondi = {0xffffffff, 0xffffffc0, 0xffffc0ff, 0xffe0e0e0, 0xffff0000};
+constexpr std::array<QRgb, 5> kFondi = {0xffffffff, 0xffffffc0, 0xffffc0ff, 0xffe0e0e0, 0xffff0000};
 
 // The picture as large as a square of side pixels holds it, in its own proportions.
 QImage Disegna(QSvgRenderer& disegno, int lato) {
@@ -47,28 +47,29 @@ QImage Grigia(const QImage& immagine) {
 
 // One row: large on each ground, beside it the small sizes under each other, then grey, silhouette.
 QImage Riga(QSvgRenderer& disegno) {
-  constexpr int larghezzaFondo = LatoGrande + Lati[0] + 3 * Margine;
-  constexpr int larghezza = int(Fondi.size()) * larghezzaFondo + 2 * (Lati[0] + Margine) + Margine;
-  QImage riga(larghezza, AltezzaRiga, QImage::Format_RGB32);
+  constexpr int kLarghezzaFondo = kLatoGrande + kLati[0] + 3 * kMargine;
+  constexpr int kLarghezza =
+      int(kFondi.size()) * kLarghezzaFondo + 2 * (kLati[0] + kMargine) + kMargine;
+  QImage riga(kLarghezza, kAltezzaRiga, QImage::Format_RGB32);
   riga.fill(Qt::white);
   QPainter pennello(&riga);
   int sinistra = 0;
-  for (const QRgb fondo : Fondi) {
-    pennello.fillRect(sinistra, 0, larghezzaFondo, AltezzaRiga, QColor(fondo));
-    pennello.drawImage(sinistra + Margine, Margine, Disegna(disegno, LatoGrande));
-    int sopra = Margine;
-    for (const int lato : Lati) {
-      pennello.drawImage(sinistra + LatoGrande + 2 * Margine, sopra, Disegna(disegno, lato));
-      sopra += lato + Margine;
+  for (const QRgb fondo : kFondi) {
+    pennello.fillRect(sinistra, 0, kLarghezzaFondo, kAltezzaRiga, QColor(fondo));
+    pennello.drawImage(sinistra + kMargine, kMargine, Disegna(disegno, kLatoGrande));
+    int sopra = kMargine;
+    for (const int lato : kLati) {
+      pennello.drawImage(sinistra + kLatoGrande + 2 * kMargine, sopra, Disegna(disegno, lato));
+      sopra += lato + kMargine;
     }
-    sinistra += larghezzaFondo;
+    sinistra += kLarghezzaFondo;
   }
-  sinistra += Margine;
-  pennello.drawImage(sinistra, Margine, Grigia(Disegna(disegno, Lati[0])));
-  pennello.drawImage(sinistra, 2 * Margine + Lati[0], Grigia(Disegna(disegno, 32)));
-  sinistra += Lati[0] + Margine;
-  pennello.drawImage(sinistra, Margine, Sagoma(Disegna(disegno, Lati[0])));
-  pennello.drawImage(sinistra, 2 * Margine + Lati[0], Sagoma(Disegna(disegno, 32)));
+  sinistra += kMargine;
+  pennello.drawImage(sinistra, kMargine, Grigia(Disegna(disegno, kLati[0])));
+  pennello.drawImage(sinistra, 2 * kMargine + kLati[0], Grigia(Disegna(disegno, 32)));
+  sinistra += kLati[0] + kMargine;
+  pennello.drawImage(sinistra, kMargine, Sagoma(Disegna(disegno, kLati[0])));
+  pennello.drawImage(sinistra, 2 * kMargine + kLati[0], Sagoma(Disegna(disegno, 32)));
   return riga;
 }
 
@@ -99,9 +100,9 @@ int main(int argc, char** argv) {
     std::fputs("no pictures\n", stderr);
     return 1;
   }
-  QImage foglio(righe[0].width(), int(righe.size()) * AltezzaRiga, QImage::Format_RGB32);
+  QImage foglio(righe[0].width(), int(righe.size()) * kAltezzaRiga, QImage::Format_RGB32);
   QPainter pennello(&foglio);
-  for (int i = 0; i < righe.size(); ++i) pennello.drawImage(0, i * AltezzaRiga, righe[i]);
+  for (int i = 0; i < righe.size(); ++i) pennello.drawImage(0, i * kAltezzaRiga, righe[i]);
   pennello.end();
   return foglio.save(argomenti[2]) ? 0 : 1;
 }

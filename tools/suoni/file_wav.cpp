@@ -8,11 +8,11 @@ namespace suoni {
 
 namespace {
 
-constexpr std::uint32_t Canali = 2;
-constexpr std::uint32_t ByteCampione = 2;
+constexpr std::uint32_t kCanali = 2;
+constexpr std::uint32_t kByteCampione = 2;
 // What the RIFF length counts besides the samples: "WAVE", the whole format chunk, the head of the
 // data chunk.
-constexpr std::uint32_t Intestazione = 4 + 8 + 16 + 8;
+constexpr std::uint32_t kIntestazione = 4 + 8 + 16 + 8;
 
 // A number of the given bytes, lowest byte first, whatever the order of the machine.
 void Metti(std::string& dati, std::uint32_t valore, std::uint32_t byte) {
@@ -23,22 +23,22 @@ void Metti(std::string& dati, std::uint32_t valore, std::uint32_t byte) {
 
 bool ScriviWav(const std::filesystem::path& file, std::span<const std::int16_t> campioni,
                int frequenza) {
-  const auto lunghezza = std::uint32_t(campioni.size() * ByteCampione);
+  const auto lunghezza = std::uint32_t(campioni.size() * kByteCampione);
   std::string dati;
-  dati.reserve(8 + Intestazione + lunghezza);
+  dati.reserve(8 + kIntestazione + lunghezza);
   dati += std::string_view("RIFF");
-  Metti(dati, Intestazione + lunghezza, 4);
+  Metti(dati, kIntestazione + lunghezza, 4);
   dati += std::string_view("WAVEfmt ");
   Metti(dati, 16, 4);  // length of the format chunk
   Metti(dati, 1, 2);   // PCM
-  Metti(dati, Canali, 2);
+  Metti(dati, kCanali, 2);
   Metti(dati, std::uint32_t(frequenza), 4);
-  Metti(dati, std::uint32_t(frequenza) * Canali * ByteCampione, 4);  // bytes in a second
-  Metti(dati, Canali * ByteCampione, 2);                             // bytes of one moment
-  Metti(dati, 8 * ByteCampione, 2);                                  // bits of a sample
+  Metti(dati, std::uint32_t(frequenza) * kCanali * kByteCampione, 4);  // bytes in a second
+  Metti(dati, kCanali * kByteCampione, 2);                             // bytes of one moment
+  Metti(dati, 8 * kByteCampione, 2);                                   // bits of a sample
   dati += std::string_view("data");
   Metti(dati, lunghezza, 4);
-  for (const std::int16_t campione : campioni) Metti(dati, std::uint16_t(campione), ByteCampione);
+  for (const std::int16_t campione : campioni) Metti(dati, std::uint16_t(campione), kByteCampione);
 
   std::ofstream uscita(file, std::ios::binary);
   uscita.write(dati.data(), std::streamsize(dati.size()));

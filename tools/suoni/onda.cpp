@@ -8,13 +8,13 @@ namespace suoni {
 
 namespace {
 
-constexpr double PiGreco = 3.14159265358979323846;
+constexpr double kPiGreco = 3.14159265358979323846;
 // Seconds of the soft start of a note, and of the soft end of the whole sound.
-constexpr double Attacco = 0.020;
-constexpr double Coda = 0.090;
+constexpr double kAttacco = 0.020;
+constexpr double kCoda = 0.090;
 // The right channel is tuned higher by this factor, less than anyone hears as out of tune: the two
 // channels beat slowly, which sounds warmer than twice the same.
-constexpr double Scordatura = 1.0016;
+constexpr double kScordatura = 1.0016;
 
 // Sine of an angle in whole turns.
 double Seno(double giri) {
@@ -25,7 +25,7 @@ double Seno(double giri) {
     t = 0.5 - t;
   }
   // Between a quarter turn on either side of 0 the series is good to 1e-9 after seven terms.
-  const double x = 2.0 * PiGreco * t;
+  const double x = 2.0 * kPiGreco * t;
   double termine = x;
   double somma = x;
   for (int n = 2; n <= 12; n += 2) {
@@ -42,22 +42,22 @@ double Rampa(double progresso) {
 
 // The factor by which a level falls from one sample to the next.
 double PassoSmorzamento(double secondi) {
-  const double d = 1.0 / (secondi * Frequenza);
+  const double d = 1.0 / (secondi * kFrequenza);
   return 1.0 - d + d * d / 2.0 - d * d * d / 6.0;
 }
 
 void Aggiungi(std::vector<double>& canale, const Nota& nota, std::span<const double> armonici,
               double intonazione) {
-  const auto primo = std::size_t(nota.inizio * Frequenza);
+  const auto primo = std::size_t(nota.inizio * kFrequenza);
   for (std::size_t k = 0; k < armonici.size(); ++k) {
     const double ordine = double(k + 1);
-    const double passo = nota.hertz * intonazione * ordine / Frequenza;
+    const double passo = nota.hertz * intonazione * ordine / kFrequenza;
     // Overtones die sooner than the fundamental, as on a struck bar of wood.
     const double calo = PassoSmorzamento(nota.smorzamento / ordine);
     double livello = nota.forza * armonici[k];
     for (std::size_t i = primo; i < canale.size(); ++i) {
       const double n = double(i - primo);
-      canale[i] += livello * Rampa(n / (Attacco * Frequenza)) * Seno(passo * n);
+      canale[i] += livello * Rampa(n / (kAttacco * kFrequenza)) * Seno(passo * n);
       livello *= calo;
     }
   }
@@ -66,7 +66,7 @@ void Aggiungi(std::vector<double>& canale, const Nota& nota, std::span<const dou
 void Sfuma(std::vector<double>& canale) {
   const auto fine = double(canale.size() - 1);
   for (std::size_t i = 0; i < canale.size(); ++i) {
-    canale[i] *= Rampa((fine - double(i)) / (Coda * Frequenza));
+    canale[i] *= Rampa((fine - double(i)) / (kCoda * kFrequenza));
   }
 }
 
@@ -79,12 +79,12 @@ double Massimo(const std::vector<double>& canale) {
 }  // namespace
 
 std::vector<std::int16_t> Componi(const Suono& suono) {
-  const auto campioni = std::size_t(suono.durata * Frequenza);
+  const auto campioni = std::size_t(suono.durata * kFrequenza);
   std::vector<double> sinistro(campioni);
   std::vector<double> destro(campioni);
   for (const Nota& nota : suono.note) {
     Aggiungi(sinistro, nota, suono.armonici, 1.0);
-    Aggiungi(destro, nota, suono.armonici, Scordatura);
+    Aggiungi(destro, nota, suono.armonici, kScordatura);
   }
   Sfuma(sinistro);
   Sfuma(destro);

@@ -7,7 +7,7 @@
 namespace suoni {
 
 // Samples of one channel in a second.
-inline constexpr int Frequenza = 48000;
+inline constexpr int kFrequenza = 48000;
 
 // One note: a fundamental with a few overtones, which starts softly and dies away by itself.
 struct Nota {

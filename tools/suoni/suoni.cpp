@@ -18,25 +18,25 @@ using suoni::Nota;
 using suoni::Suono;
 
 // G4, C5, E5: three quick steps up, the last one rings.
-constexpr std::array NoteSi = {
+constexpr std::array kNoteSi = {
     Nota{.hertz = 392.00, .inizio = 0.00, .forza = 0.80, .smorzamento = 0.13},
     Nota{.hertz = 523.25, .inizio = 0.10, .forza = 0.85, .smorzamento = 0.14},
     Nota{.hertz = 659.26, .inizio = 0.20, .forza = 1.00, .smorzamento = 0.20},
 };
-constexpr std::array ArmoniciSi = {1.0, 0.30, 0.12, 0.04};
+constexpr std::array kArmoniciSi = {1.0, 0.30, 0.12, 0.04};
 
 // D4, B flat 3: two soft steps down, like a friendly "not yet".
-constexpr std::array NoteNo = {
+constexpr std::array kNoteNo = {
     Nota{.hertz = 293.66, .inizio = 0.00, .forza = 1.00, .smorzamento = 0.12},
     Nota{.hertz = 233.08, .inizio = 0.17, .forza = 1.00, .smorzamento = 0.16},
 };
-constexpr std::array ArmoniciNo = {1.0, 0.22, 0.05};
+constexpr std::array kArmoniciNo = {1.0, 0.22, 0.05};
 
-constexpr Suono Si{.note = NoteSi, .armonici = ArmoniciSi, .durata = 0.62, .picco = 0.25};
-constexpr Suono No{.note = NoteNo, .armonici = ArmoniciNo, .durata = 0.50, .picco = 0.22};
+constexpr Suono kSi{.note = kNoteSi, .armonici = kArmoniciSi, .durata = 0.62, .picco = 0.25};
+constexpr Suono kNo{.note = kNoteNo, .armonici = kArmoniciNo, .durata = 0.50, .picco = 0.22};
 
 bool Scrivi(const std::filesystem::path& file, const Suono& suono) {
-  if (suoni::ScriviWav(file, suoni::Componi(suono), suoni::Frequenza)) return true;
+  if (suoni::ScriviWav(file, suoni::Componi(suono), suoni::kFrequenza)) return true;
   std::fprintf(stderr, "fabbrica_suoni: cannot write %s\n", file.string().c_str());
   return false;
 }
@@ -51,5 +51,5 @@ int main(int argc, char** argv) {
   const std::filesystem::path cartella = argv[1];
   std::error_code errore;
   std::filesystem::create_directories(cartella, errore);  // a failure shows at the first file
-  return Scrivi(cartella / "si.wav", Si) && Scrivi(cartella / "no.wav", No) ? 0 : 1;
+  return Scrivi(cartella / "si.wav", kSi) && Scrivi(cartella / "no.wav", kNo) ? 0 : 1;
 }

@@ -21,8 +21,8 @@ int errorOf(Call call) {
   return 0;
 }
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
 
@@ -133,8 +133,8 @@ class NumbersTest : public QObject {
   }
 
   void aValueWithoutDigitsIsAnOverflow() {
-    QCOMPARE(errorOf([] { return platform::formatPicture(infinity, u"0"); }), 6);
-    QCOMPARE(errorOf([] { return platform::formatPicture(notANumber, u"0"); }), 6);
+    QCOMPARE(errorOf([] { return platform::formatPicture(kInfinity, u"0"); }), 6);
+    QCOMPARE(errorOf([] { return platform::formatPicture(kNotANumber, u"0"); }), 6);
   }
 
   void theLeadingNumberIsWhatATextBeginsWith_data() {
@@ -178,8 +178,8 @@ class NumbersTest : public QObject {
   }
 
   void aVeryLongRowOfDigitsIsAWrongAnswerAndNoError() {
-    QCOMPARE(platform::leadingNumber(QString(5000, u'9')), infinity);
-    QCOMPARE(platform::leadingNumber(QLatin1Char('-') + QString(5000, u'9')), -infinity);
+    QCOMPARE(platform::leadingNumber(QString(5000, u'9')), kInfinity);
+    QCOMPARE(platform::leadingNumber(QLatin1Char('-') + QString(5000, u'9')), -kInfinity);
     QCOMPARE(platform::leadingNumber(QStringLiteral("0.") + QString(5000, u'0') + u'1'), 0.0);
     QCOMPARE(platform::leadingNumber(QString(5000, u'0') + u'7'), 7.0);
   }
@@ -221,9 +221,9 @@ class NumbersTest : public QObject {
     QCOMPARE(platform::roundHalfEven(-0x1p63), std::numeric_limits<qint64>::min());
     QCOMPARE(errorOf([] { return platform::roundHalfEven(0x1p63); }), 6);
     QCOMPARE(errorOf([] { return platform::roundHalfEven(-0x1.0000000000001p63); }), 6);
-    QCOMPARE(errorOf([] { return platform::roundHalfEven(infinity); }), 6);
-    QCOMPARE(errorOf([] { return platform::roundHalfEven(-infinity); }), 6);
-    QCOMPARE(errorOf([] { return platform::roundHalfEven(notANumber); }), 6);
+    QCOMPARE(errorOf([] { return platform::roundHalfEven(kInfinity); }), 6);
+    QCOMPARE(errorOf([] { return platform::roundHalfEven(-kInfinity); }), 6);
+    QCOMPARE(errorOf([] { return platform::roundHalfEven(kNotANumber); }), 6);
   }
 
   void sixteenBitsEndAtTheirBounds() {
@@ -236,7 +236,7 @@ class NumbersTest : public QObject {
     QCOMPARE(errorOf([] { return platform::toInt16(32767.5); }), 6);
     QCOMPARE(errorOf([] { return platform::toInt16(-32768.6); }), 6);
     QCOMPARE(errorOf([] { return platform::toInt16(1e300); }), 6);
-    QCOMPARE(errorOf([] { return platform::toInt16(notANumber); }), 6);
+    QCOMPARE(errorOf([] { return platform::toInt16(kNotANumber); }), 6);
     QCOMPARE(errorOf([] { return platform::toInt16(std::numeric_limits<quint64>::max()); }), 6);
   }
 
@@ -245,7 +245,7 @@ class NumbersTest : public QObject {
     QCOMPARE(platform::toInt32(qint64{-2147483648}), std::numeric_limits<qint32>::min());
     QCOMPARE(errorOf([] { return platform::toInt32(2147483647.5); }), 6);
     QCOMPARE(errorOf([] { return platform::toInt32(qint64{2147483648}); }), 6);
-    QCOMPARE(errorOf([] { return platform::toInt32(infinity); }), 6);
+    QCOMPARE(errorOf([] { return platform::toInt32(kInfinity); }), 6);
   }
 };
 

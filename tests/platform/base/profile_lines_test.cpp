@@ -116,11 +116,11 @@ class ProfileLinesTest : public QObject {
 
   // Lines that begin, end or are cut at each place around the border between two parts.
   void theBordersOfThePartsDoNotShow() {
-    for (qint64 before = ProfileLines::partSize - 40; before < ProfileLines::partSize + 3;
+    for (qint64 before = ProfileLines::kPartSize - 40; before < ProfileLines::kPartSize + 3;
          ++before) {
       const QByteArray bytes = QByteArray(before - 1, 'x') +
                                "\nLabel1.Caption=\"\xC3\xA8 vero\"\n" +
-                               QByteArray(ProfileLines::partSize, 'y') + "\nLast=\"z\"";
+                               QByteArray(ProfileLines::kPartSize, 'y') + "\nLast=\"z\"";
       ProfileLines lines = linesOf(bytes);
       QCOMPARE(lines.value(QStringLiteral("Label1.Caption")), QStringLiteral("è vero"));
       QCOMPARE(lines.value(QStringLiteral("abel1.Caption")), QString());
@@ -131,11 +131,11 @@ class ProfileLinesTest : public QObject {
   void aVeryLongValueIsCut() {
     const QByteArray begin("Label1.Caption=\"");
     QCOMPARE(labelOf(begin + QByteArray(300'000, 'v') + "\"\n"),
-             QString(ProfileLines::longestValue, u'v'));
+             QString(ProfileLines::kLongestValue, u'v'));
     QByteArray wide;
     for (int i = 0; i < 200'000; ++i) wide += "\xE2\x82\xAC";
-    QCOMPARE(labelOf(begin + wide + "\"\n"), QString(ProfileLines::longestValue, u'€'));
-    const QByteArray fitting(ProfileLines::longestValue, 'v');
+    QCOMPARE(labelOf(begin + wide + "\"\n"), QString(ProfileLines::kLongestValue, u'€'));
+    const QByteArray fitting(ProfileLines::kLongestValue, 'v');
     QCOMPARE(labelOf(begin + fitting + "\"\n"), QString::fromLatin1(fitting));
     QCOMPARE(labelOf(begin + fitting + "\""), QString::fromLatin1(fitting));
   }
@@ -183,8 +183,8 @@ class ProfileLinesTest : public QObject {
   }
 
   void theFiltersTakeAnEighthOfTheFile() {
-    QCOMPARE(linesOf(QByteArray(10 * ProfileLines::partSize, 'x')).filterSize(),
-             std::size_t{10 * ProfileLines::partSize / 8});
+    QCOMPARE(linesOf(QByteArray(10 * ProfileLines::kPartSize, 'x')).filterSize(),
+             std::size_t{10 * ProfileLines::kPartSize / 8});
   }
 
   // A file that has a size, but no bytes: what a large file costs without having one.

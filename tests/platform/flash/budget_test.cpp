@@ -14,7 +14,7 @@ namespace {
 
 // A clock that goes on by a second whenever somebody looks at it.
 Budget::Clock hastyClock(int& looks) {
-  return [&looks] { return ++looks * 1000 * platform::flash::limits::millisecond; };
+  return [&looks] { return ++looks * 1000 * platform::flash::limits::kMillisecond; };
 }
 
 // Actions for ever, after the host has been told something.
@@ -107,14 +107,14 @@ class BudgetTest : public QObject {
   void aPictureThatIsFullEndsTheStep() {
     QFETCH(bool, masked);
     // Eight parts each: 50,000 are shown, 50,008 are not.
-    constexpr std::size_t most = 50'000;
+    constexpr std::size_t kMost = 50'000;
     for (const unsigned squares : {6250U, 6251U}) {
       const Player player(
           movie(costly::squaresBeside(squares, masked)), [](auto&&...) {},
           [] { return std::int64_t(0); });
       QVERIFY(!player.wasCutOff());
       const platform::flash::Scene scene = player.scene();
-      QCOMPARE(scene.items.size() + (masked ? scene.masks.front().parts.size() : 0), most);
+      QCOMPARE(scene.items.size() + (masked ? scene.masks.front().parts.size() : 0), kMost);
       QCOMPARE(scene.isWhole, squares == 6250);
     }
   }

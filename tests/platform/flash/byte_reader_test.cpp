@@ -16,9 +16,9 @@ class ByteReaderTest : public QObject {
 
  private Q_SLOTS:
   void numbersAreLittleEndian() {
-    constexpr std::array<std::uint8_t, 9> bytes{0x7F, 0x34, 0x12, 0xFE, 0xFF,
-                                                0x78, 0x56, 0x34, 0x92};
-    ByteReader reader(bytes);
+    constexpr std::array<std::uint8_t, 9> kBytes{0x7F, 0x34, 0x12, 0xFE, 0xFF,
+                                                 0x78, 0x56, 0x34, 0x92};
+    ByteReader reader(kBytes);
     QCOMPARE(reader.u8(), std::uint8_t(0x7F));
     QCOMPARE(reader.u16(), std::uint16_t(0x1234));
     QCOMPARE(reader.s16(), std::int16_t(-2));
@@ -28,22 +28,22 @@ class ByteReaderTest : public QObject {
 
   void aDoubleHasItsHighHalfFirst() {
     // 2.5 is 0x4004000000000000.
-    constexpr std::array<std::uint8_t, 8> bytes{0x00, 0x00, 0x04, 0x40, 0, 0, 0, 0};
-    QCOMPARE(ByteReader(bytes).f64(), 2.5);
-    constexpr std::array<std::uint8_t, 4> single{0x00, 0x00, 0x40, 0x3F};
-    QCOMPARE(ByteReader(single).f32(), 0.75F);
+    constexpr std::array<std::uint8_t, 8> kBytes{0x00, 0x00, 0x04, 0x40, 0, 0, 0, 0};
+    QCOMPARE(ByteReader(kBytes).f64(), 2.5);
+    constexpr std::array<std::uint8_t, 4> kSingle{0x00, 0x00, 0x40, 0x3F};
+    QCOMPARE(ByteReader(kSingle).f32(), 0.75F);
   }
 
   void aTextEndsWithAZeroByteThatIsTaken() {
-    constexpr std::array<std::uint8_t, 5> bytes{'d', 'a', '3', 0, 9};
-    ByteReader reader(bytes);
+    constexpr std::array<std::uint8_t, 5> kBytes{'d', 'a', '3', 0, 9};
+    ByteReader reader(kBytes);
     QCOMPARE(reader.string().toByteArray(), QByteArray("da3"));
     QCOMPARE(reader.u8(), std::uint8_t(9));
   }
 
   void nothingIsReadPastTheEnd() {
-    constexpr std::array<std::uint8_t, 3> bytes{1, 2, 3};
-    ByteReader reader(bytes);
+    constexpr std::array<std::uint8_t, 3> kBytes{1, 2, 3};
+    ByteReader reader(kBytes);
     reader.skip(2);
     QVERIFY_THROWS_EXCEPTION(MovieError, (void)reader.u16());
     QVERIFY_THROWS_EXCEPTION(MovieError, (void)reader.u32());
@@ -55,8 +55,8 @@ class ByteReaderTest : public QObject {
   }
 
   void theErrorTellsWhere() {
-    constexpr std::array<std::uint8_t, 3> bytes{1, 2, 3};
-    ByteReader reader(bytes);
+    constexpr std::array<std::uint8_t, 3> kBytes{1, 2, 3};
+    ByteReader reader(kBytes);
     reader.skip(2);
     try {
       (void)reader.u16();
@@ -70,8 +70,8 @@ class ByteReaderTest : public QObject {
   }
 
   void bitsComeHighestFirstAndNegativesAreTwosComplement() {
-    constexpr std::array<std::uint8_t, 3> bytes{0b10110010, 0b01111111, 0b11000000};
-    ByteReader reader(bytes);
+    constexpr std::array<std::uint8_t, 3> kBytes{0b10110010, 0b01111111, 0b11000000};
+    ByteReader reader(kBytes);
     BitReader bits(reader);
     QVERIFY(bits.flag());
     QCOMPARE(bits.unsignedBits(3), 3U);
@@ -84,16 +84,16 @@ class ByteReaderTest : public QObject {
   }
 
   void thirtyTwoBitsFitAndFixedPointHasSixteenBehindThePoint() {
-    constexpr std::array<std::uint8_t, 8> bytes{0xFF, 0xFF, 0xFF, 0xFE, 0x01, 0x80, 0x00, 0xFF};
-    ByteReader reader(bytes);
+    constexpr std::array<std::uint8_t, 8> kBytes{0xFF, 0xFF, 0xFF, 0xFE, 0x01, 0x80, 0x00, 0xFF};
+    ByteReader reader(kBytes);
     BitReader bits(reader);
     QCOMPARE(bits.signedBits(32), -2);
     QCOMPARE(bits.fixedBits(24), 98304 / 65536.0);
   }
 
   void alignDropsTheRestOfAByte() {
-    constexpr std::array<std::uint8_t, 2> bytes{0xFF, 0x80};
-    ByteReader reader(bytes);
+    constexpr std::array<std::uint8_t, 2> kBytes{0xFF, 0x80};
+    ByteReader reader(kBytes);
     BitReader bits(reader);
     (void)bits.unsignedBits(3);
     bits.align();
@@ -103,8 +103,8 @@ class ByteReaderTest : public QObject {
 
   void aRectangleIsLeftRightTopBottom() {
     // Five bits: 00101; then -5, 10, 3, -16 in five bits each.
-    constexpr std::array<std::uint8_t, 4> bytes{0b00101110, 0b11010100, 0b00111000, 0b00000000};
-    ByteReader reader(bytes);
+    constexpr std::array<std::uint8_t, 4> kBytes{0b00101110, 0b11010100, 0b00111000, 0b00000000};
+    ByteReader reader(kBytes);
     const QRectF rect = readRect(reader);
     QCOMPARE(rect.left(), -5.0);
     QCOMPARE(rect.right(), 10.0);

@@ -82,14 +82,14 @@ inline QByteArray unreadableTags() {
 // Edges whose ends, as one number of 64 bits, have the same rest by a prime that tables of such
 // numbers like to have as their size.
 inline QByteArray edgesOfOneKey(unsigned id) {
-  constexpr std::int64_t prime = 42'043;
-  constexpr int edges = 40'000;
-  const std::int64_t step = (std::int64_t(1) << 32) % prime;
+  constexpr std::int64_t kPrime = 42'043;
+  constexpr int kEdges = 40'000;
+  const std::int64_t step = (std::int64_t(1) << 32) % kPrime;
   Bits records;
   records.raw("0001 0000  0 00101 00001 0 0 1");
   std::int64_t last = 0;
-  for (std::int64_t x = 1; x < edges; ++x) {
-    const std::int64_t y = (prime - x * step % prime) % prime;
+  for (std::int64_t x = 1; x < kEdges; ++x) {
+    const std::int64_t y = (kPrime - x * step % kPrime) % kPrime;
     records.raw("1 1 1111 1").number(17, 1).number(17, y - last);
     last = y;
   }
@@ -205,11 +205,11 @@ inline QByteArray longGlyphWritten() {
 
 // Shapes of thousands of transparent parts, thousands of times.
 inline QByteArray transparentParts() {
-  constexpr unsigned fills = 8000;
-  QByteArray styles = u8(255) + u16(fills);
+  constexpr unsigned kFills = 8000;
+  QByteArray styles = u8(255) + u16(kFills);
   Bits records;
   records.raw("1110 0000");
-  for (unsigned i = 1; i <= fills; ++i) {
+  for (unsigned i = 1; i <= kFills; ++i) {
     styles += u8(0) + u32(0);
     records.raw("0 00101 00001 0 0").number(14, i);
     rectangleEdges(records, 0, 0, 100, 100);

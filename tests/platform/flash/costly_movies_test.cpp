@@ -50,7 +50,7 @@ class CostlyMoviesTest : public QObject {
     const auto cost = costOf([&] {
       for (int i = 0; i < 100; ++i) player.tick();
     });
-    QVERIFY2(cost.megabytes <= step_cost::most, qPrintable(QString::number(cost.megabytes)));
+    QVERIFY2(cost.megabytes <= step_cost::kMost, qPrintable(QString::number(cost.megabytes)));
   }
 
  private:

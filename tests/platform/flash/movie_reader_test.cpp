@@ -200,7 +200,7 @@ class MovieReaderTest : public QObject {
     for (const auto& [id, character] : read->characters) {
       deepest = std::max(deepest, character.nesting);
     }
-    QCOMPARE(deepest, limits::nesting);
+    QCOMPARE(deepest, limits::kNesting);
   }
 
   void aTagThatCannotBeReadIsLeftOutAndToldWithItsPlace() {

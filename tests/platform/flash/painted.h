@@ -15,7 +15,7 @@ using namespace hand_made;
 using platform::flash::Player;
 using platform::flash::Renderer;
 
-inline constexpr QRgb white = 0xFFFFFFFF;
+inline constexpr QRgb kWhite = 0xFFFFFFFF;
 
 // The stage of a movie at a scale, 1 being its own size.
 inline QImage picture(const Player& player, double scale = 1) {

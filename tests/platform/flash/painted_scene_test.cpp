@@ -48,7 +48,7 @@ class PaintedSceneTest : public QObject {
     const QImage image = picture(square(1, 5, 0xFFFFFF) +
                                  tag(4, u16(1) + u16(1) + shift(100, 100) + halfRed) + showFrame());
     COMPARE_COLOR(image, 7, 7, qRgb(128, 255, 255));
-    QCOMPARE(image.pixel(4, 4), white);
+    QCOMPARE(image.pixel(4, 4), kWhite);
     const QImage plain =
         picture(square(1, 5, 0x00FF00) + tag(4, u16(1) + u16(1) + shift(100, 100)) + showFrame());
     QCOMPARE(plain.pixel(7, 7), 0xFF00FF00);
@@ -69,9 +69,9 @@ class PaintedSceneTest : public QObject {
                                  rectangleShape(3, 0, 200, 400, 400, 0x00FF00) + mask +
                                  place(4, 2) + place(5, 3) + showFrame());
     QCOMPARE(image.pixel(5, 2), 0xFFFF0000);
-    QCOMPARE(image.pixel(15, 2), white);        // masked out
+    QCOMPARE(image.pixel(15, 2), kWhite);       // masked out
     QCOMPARE(image.pixel(15, 15), 0xFF00FF00);  // above the clip depth
-    QCOMPARE(image.pixel(5, 7), white);         // the mask itself is not seen
+    QCOMPARE(image.pixel(5, 7), kWhite);        // the mask itself is not seen
   }
 
   void aMaskWithinAMaskShowsOnlyWhatBothLetThrough() {
@@ -82,8 +82,8 @@ class PaintedSceneTest : public QObject {
                                  rectangleShape(2, 0, 0, 400, 200, 0) + square(3, 20, 0xFF0000) +
                                  mask(1, 1, 9) + mask(2, 2, 9) + place(3, 3) + showFrame());
     QCOMPARE(image.pixel(5, 5), 0xFFFF0000);
-    QCOMPARE(image.pixel(15, 5), white);
-    QCOMPARE(image.pixel(5, 15), white);
+    QCOMPARE(image.pixel(15, 5), kWhite);
+    QCOMPARE(image.pixel(5, 15), kWhite);
   }
 
   void hiddenAndTransparentClipsAreNotDrawn() {
@@ -95,10 +95,10 @@ class PaintedSceneTest : public QObject {
     player.setProperty(QStringLiteral("c"), 6, QStringLiteral("50"));
     COMPARE_COLOR(picture(player), 5, 5, 0xFFFF7F7F);
     player.setProperty(QStringLiteral("c"), 6, QStringLiteral("0"));
-    QCOMPARE(picture(player).pixel(5, 5), white);
+    QCOMPARE(picture(player).pixel(5, 5), kWhite);
     player.setProperty(QStringLiteral("c"), 6, QStringLiteral("100"));
     player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
-    QCOMPARE(picture(player).pixel(5, 5), white);
+    QCOMPARE(picture(player).pixel(5, 5), kWhite);
     player.setProperty(QStringLiteral("c"), 7, QStringLiteral("1"));
     QCOMPARE(picture(player).pixel(5, 5), 0xFFFF0000);
   }
@@ -116,8 +116,8 @@ class PaintedSceneTest : public QObject {
     const QImage image = picture(rectangleShape(1, 0, 0, 200, 100, 0xFF0000) +
                                  tag(26, u8(6) + u16(1) + u16(1) + turned) + showFrame());
     QCOMPARE(image.pixel(17, 5), 0xFFFF0000);  // 5 pixels wide, 10 high, at the right
-    QCOMPARE(image.pixel(14, 5), white);
-    QCOMPARE(image.pixel(17, 11), white);
+    QCOMPARE(image.pixel(14, 5), kWhite);
+    QCOMPARE(image.pixel(17, 11), kWhite);
   }
 
   void textIsDrawnWithTheOutlinesOfItsFont_data() {
@@ -154,10 +154,10 @@ class PaintedSceneTest : public QObject {
                                Bits().raw("1 01100100 0 01100100 1 01100100").bytes() + u8(0));
     const QImage image = picture(font + written + place(1, 2) + showFrame());
     QCOMPARE(image.pixel(7, 7), 0xFF00FF00);
-    QCOMPARE(image.pixel(12, 7), white);
+    QCOMPARE(image.pixel(12, 7), kWhite);
     QCOMPARE(image.pixel(17, 7), 0xFF00FF00);
-    QCOMPARE(image.pixel(7, 4), white);
-    QCOMPARE(image.pixel(7, 11), white);
+    QCOMPARE(image.pixel(7, 4), kWhite);
+    QCOMPARE(image.pixel(7, 11), kWhite);
   }
 };
 

@@ -16,15 +16,15 @@ using platform::flash::Player;
 using platform::flash::Renderer;
 
 // The transitions of the mouse as DefineButton2 stores them.
-inline constexpr unsigned idleToOverUp = 1;
-inline constexpr unsigned overUpToIdle = 2;
-inline constexpr unsigned overUpToOverDown = 4;
-inline constexpr unsigned overDownToOverUp = 8;
-inline constexpr unsigned overDownToOutDown = 16;
-inline constexpr unsigned outDownToOverDown = 32;
-inline constexpr unsigned outDownToIdle = 64;
-inline constexpr unsigned idleToOverDown = 128;
-inline constexpr unsigned overDownToIdle = 256;
+inline constexpr unsigned kIdleToOverUp = 1;
+inline constexpr unsigned kOverUpToIdle = 2;
+inline constexpr unsigned kOverUpToOverDown = 4;
+inline constexpr unsigned kOverDownToOverUp = 8;
+inline constexpr unsigned kOverDownToOutDown = 16;
+inline constexpr unsigned kOutDownToOverDown = 32;
+inline constexpr unsigned kOutDownToIdle = 64;
+inline constexpr unsigned kIdleToOverDown = 128;
+inline constexpr unsigned kOverDownToIdle = 256;
 
 inline QByteArray record(unsigned states, unsigned id, bool second, int x = 0, unsigned depth = 1) {
   return u8(states) + u16(id) + u16(depth) + shift(x * 20, 0) +
@@ -38,11 +38,11 @@ inline QByteArray tellingButton(unsigned id, bool menu = false) {
     unsigned events;
     const char* word;
   };
-  const QList<Row> rows{{idleToOverUp, "rollOver"},        {overUpToIdle, "rollOut"},
-                        {overUpToOverDown, "press"},       {overDownToOverUp, "release"},
-                        {overDownToOutDown, "dragOut"},    {outDownToOverDown, "dragOver"},
-                        {outDownToIdle, "releaseOutside"}, {idleToOverDown, "menuOver"},
-                        {overDownToIdle, "menuOut"}};
+  const QList<Row> rows{{kIdleToOverUp, "rollOver"},        {kOverUpToIdle, "rollOut"},
+                        {kOverUpToOverDown, "press"},       {kOverDownToOverUp, "release"},
+                        {kOverDownToOutDown, "dragOut"},    {kOutDownToOverDown, "dragOver"},
+                        {kOutDownToIdle, "releaseOutside"}, {kIdleToOverDown, "menuOver"},
+                        {kOverDownToIdle, "menuOut"}};
   const QByteArray records =
       record(1, 2, true) + record(2, 3, true) + record(4, 4, true) + record(8, 1, true) + u8(0);
   QByteArray handlers;

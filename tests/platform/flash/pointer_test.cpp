@@ -149,7 +149,7 @@ class PointerTest : public QObject {
                                pushText("unitainattesa") + action(0x9A, u8(0)) + u8(0);
     const QByteArray records = record(8, 1, true) + u8(0);
     const QByteArray button = tag(34, u16(5) + u8(0) + u16(unsigned(records.size()) + 2) + records +
-                                          u16(0) + u16(overDownToOverUp) + actions);
+                                          u16(0) + u16(kOverDownToOverUp) + actions);
     Running movie(square(1, 20, 0) + button + sprite(6, place(1, 5) + showFrame()) +
                   place(1, 6, 0, 0, "ua0") + place(2, 6, 40, 0, "ua1") + showFrame());
     movie.click({10, 10});
@@ -224,7 +224,7 @@ class PointerTest : public QObject {
     const QByteArray records = record(8, 1, true) + u8(0);
     const QByteArray button =
         tag(34, u16(5) + u8(0) + u16(unsigned(records.size()) + 2) + records + u16(0) +
-                    u16(overUpToOverDown) + action(0x81, u16(1)) + u8(0));
+                    u16(kOverUpToOverDown) + action(0x81, u16(1)) + u8(0));
     Running movie(square(1, 20, 0) + button + place(1, 5) + doAction(stop()) + showFrame() +
                   remove(1) + showFrame());
     movie.player.mousePress(inside);

@@ -12,7 +12,7 @@ class RendererTest : public QObject {
   void theGroundHasTheMoviesBackgroundColour() {
     const QImage image = picture(tag(9, u8(10) + u8(20) + u8(30)) + showFrame());
     QCOMPARE(image.pixel(0, 0), qRgb(10, 20, 30));
-    QCOMPARE(picture(showFrame()).pixel(5, 5), white);
+    QCOMPARE(picture(showFrame()).pixel(5, 5), kWhite);
   }
 
   void aRectangleFillsExactlyItsPixels() {
@@ -20,7 +20,7 @@ class RendererTest : public QObject {
     for (int y = 0; y < 20; ++y) {
       for (int x = 0; x < 20; ++x) {
         const bool inside = x >= 5 && x < 10 && y >= 3 && y < 8;
-        QCOMPARE(image.pixel(x, y), inside ? 0xFF3366CC : white);
+        QCOMPARE(image.pixel(x, y), inside ? 0xFF3366CC : kWhite);
       }
     }
   }
@@ -70,7 +70,7 @@ class RendererTest : public QObject {
         rectangleShape(2, 110, 0, 400, 400, 0xFFFFFF) + place(1, 1) + place(2, 2) + showFrame();
     const QImage image = picture(tags, 1.3);
     for (int x = 0; x < image.width(); ++x) {
-      QCOMPARE(image.pixel(x, 10), white);
+      QCOMPARE(image.pixel(x, 10), kWhite);
     }
   }
 
@@ -99,7 +99,7 @@ class RendererTest : public QObject {
     records.raw("000000");
     const QImage image = picture(shown(shape(2, u8(1) + solid(0xFF0000) + u8(0), records)));
     QCOMPARE(image.pixel(2, 2), 0xFFFF0000);
-    QCOMPARE(image.pixel(10, 10), white);
+    QCOMPARE(image.pixel(10, 10), kWhite);
   }
 
   void aCurveBulgesByHalfTheWayToItsControlPoint() {
@@ -112,9 +112,9 @@ class RendererTest : public QObject {
     records.raw("000000");
     const QImage image = picture(shown(shape(2, u8(1) + solid(0x0000FF) + u8(0), records)));
     COMPARE_COLOR(image, 10, 1, 0xFF0000FF);
-    QCOMPARE(image.pixel(1, 1), white);
+    QCOMPARE(image.pixel(1, 1), kWhite);
     // At x 100 (5 pixels) the curve is at y 200 - 2*0.25*0.75*400 = 50, 2.5 pixels.
-    QCOMPARE(image.pixel(4, 1), white);
+    QCOMPARE(image.pixel(4, 1), kWhite);
     COMPARE_COLOR(image, 5, 3, 0xFF0000FF);
   }
 
@@ -145,7 +145,7 @@ class RendererTest : public QObject {
     // 5.5 pixels to the left and half a pixel up from the centre, of 10 pixels.
     const int grey = qRound(std::hypot(5.5, 0.5) / 10 * 255);
     QVERIFY(isNear(image.pixel(4, 9), qRgb(grey, grey, grey), 2));
-    QCOMPARE(image.pixel(0, 0), white);  // the end goes on
+    QCOMPARE(image.pixel(0, 0), kWhite);  // the end goes on
   }
 
   void stopsOfAGradientLieAtTheirRatios() {
@@ -171,14 +171,14 @@ class RendererTest : public QObject {
     edge(records, 200, 0).raw("000000");
     const QByteArray styles = u8(0) + u8(1) + u16(80) + u8(255) + u8(0) + u8(0);
     const QImage image = picture(shown(shape(2, styles, records)));
-    QCOMPARE(image.pixel(10, 7), white);
+    QCOMPARE(image.pixel(10, 7), kWhite);
     QCOMPARE(image.pixel(10, 8), 0xFFFF0000);
     QCOMPARE(image.pixel(10, 11), 0xFFFF0000);
-    QCOMPARE(image.pixel(10, 12), white);
+    QCOMPARE(image.pixel(10, 12), kWhite);
     COMPARE_COLOR(image, 3, 10,
                   image.pixel(16, 9));  // the caps reach two pixels out, symmetrically
-    QVERIFY(image.pixel(3, 10) != white);
-    QCOMPARE(image.pixel(2, 10), white);
+    QVERIFY(image.pixel(3, 10) != kWhite);
+    QCOMPARE(image.pixel(2, 10), kWhite);
     QVERIFY(image.pixel(3, 8) != 0xFFFF0000);  // round, not square
   }
 
@@ -193,10 +193,10 @@ class RendererTest : public QObject {
         Bits().raw("1 10011").number(19, 131072).number(19, 131072).raw("0 00000").bytes();
     const QImage image =
         picture(shape(2, styles, records) + tag(26, u8(6) + u16(1) + u16(1) + twice) + showFrame());
-    QCOMPARE(image.pixel(15, 7), white);
+    QCOMPARE(image.pixel(15, 7), kWhite);
     QCOMPARE(image.pixel(15, 8), 0xFFFF0000);
     QCOMPARE(image.pixel(15, 11), 0xFFFF0000);
-    QCOMPARE(image.pixel(15, 12), white);
+    QCOMPARE(image.pixel(15, 12), kWhite);
   }
 
   void aHairlineIsNeverThinnerThanAPixel() {
@@ -282,8 +282,8 @@ class RendererTest : public QObject {
     }
     QVERIFY2(ink > 0.85 && ink < 1.3, qPrintable(QString::number(ink)));
     // What runs along the squeezed direction grows no wider.
-    QCOMPARE(image.pixel(17, 10), white);
-    QCOMPARE(image.pixel(2, 10), white);
+    QCOMPARE(image.pixel(17, 10), kWhite);
+    QCOMPARE(image.pixel(2, 10), kWhite);
   }
 
   void aLineInAnUnevenScaleIsAsWideInAllDirections_data() {
@@ -363,10 +363,10 @@ class RendererTest : public QObject {
     // An edge on a whole pixel stays sharp when the picture is made larger.
     const QByteArray tags = shown(rectangleShape(1, 100, 100, 200, 200, 0));
     const QImage image = picture(tags, 7);
-    QCOMPARE(image.pixel(34, 50), white);
+    QCOMPARE(image.pixel(34, 50), kWhite);
     QCOMPARE(image.pixel(35, 50), 0xFF000000);
     QCOMPARE(image.pixel(69, 50), 0xFF000000);
-    QCOMPARE(image.pixel(70, 50), white);
+    QCOMPARE(image.pixel(70, 50), kWhite);
   }
 };
 

@@ -28,7 +28,7 @@ std::shared_ptr<const ConstantPool> pool(qsizetype characters) {
   return made;
 }
 
-constexpr qsizetype most = limits::scriptCharacters;
+constexpr qsizetype kMost = limits::kScriptCharacters;
 
 }  // namespace
 
@@ -39,7 +39,7 @@ class ScriptMemoryTest : public QObject {
  private Q_SLOTS:
   void textsAreKeptUntilTheyAreTooMuch() {
     ScriptMemory memory;
-    const Value half = QString(most / 2, u'x');
+    const Value half = QString(kMost / 2, u'x');
     QVERIFY(memory.replace(QStringLiteral("a"), nullptr, half));
     QVERIFY(!memory.replace(QStringLiteral("b"), nullptr, half));
     QVERIFY(memory.replace(QStringLiteral("b"), nullptr, 1.0));
@@ -49,7 +49,7 @@ class ScriptMemoryTest : public QObject {
 
   void aVariableThatIsForgottenGivesBackAllThatItTook() {
     ScriptMemory memory;
-    const auto shared = pool(most / 2);
+    const auto shared = pool(kMost / 2);
     for (const Value& value :
          {Value(QString(1000, u'x')), Value(1.0), functionWith(shared), functionWith({}, 100)}) {
       for (int i = 0; i < 100'000; ++i) {
@@ -63,22 +63,22 @@ class ScriptMemoryTest : public QObject {
     ScriptMemory memory;
     const Value small = 1.0;
     QVERIFY(memory.replace(QStringLiteral("a"), nullptr, small));
-    for (const Value& large :
-         {Value(QString(most, u'x')), functionWith(pool(most)), functionWith({}, int(most) / 16)}) {
+    for (const Value& large : {Value(QString(kMost, u'x')), functionWith(pool(kMost)),
+                               functionWith({}, int(kMost) / 16)}) {
       QVERIFY(!memory.replace(QStringLiteral("a"), &small, large));
       QVERIFY(!memory.replace(QStringLiteral("b"), nullptr, large));
     }
-    QVERIFY(memory.replace(QStringLiteral("b"), nullptr, Value(QString(most - 1000, u'x'))));
+    QVERIFY(memory.replace(QStringLiteral("b"), nullptr, Value(QString(kMost - 1000, u'x'))));
   }
 
   void constantsThatFunctionsShareCountOnceUntilTheLastHasGone() {
     ScriptMemory memory;
-    const auto shared = pool(most / 2);
+    const auto shared = pool(kMost / 2);
     const Value first = functionWith(shared);
     const Value second = functionWith(shared);
     QVERIFY(memory.replace(QStringLiteral("a"), nullptr, first));
     QVERIFY(memory.replace(QStringLiteral("b"), nullptr, second));
-    const Value other = functionWith(pool(most / 2));
+    const Value other = functionWith(pool(kMost / 2));
     QVERIFY(!memory.replace(QStringLiteral("c"), nullptr, other));
     QVERIFY(memory.replace(QStringLiteral("a"), &first, Null{}));
     QVERIFY(!memory.replace(QStringLiteral("c"), nullptr, other));

@@ -248,7 +248,7 @@ class ScriptScopeTest : public QObject {
   void aLoopThatTellsForEverIsHeard256Times() {
     const QByteArray telling = tell("again");
     QCOMPARE(toldBy(telling + action(0x99, u16(0x10000 - 5 - unsigned(telling.size())))).size(),
-             qsizetype(platform::flash::limits::commandsPerTick));
+             qsizetype(platform::flash::limits::kCommandsPerTick));
   }
 
   void aTextThatDoublesForEverStaysBounded() {

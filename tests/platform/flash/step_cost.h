@@ -12,18 +12,18 @@ namespace step_cost {
 
 // Generous, so that sanitizers pass; what goes wrong takes far longer.
 #if defined(__SANITIZE_ADDRESS__)
-inline constexpr long longest = 15'000;  // milliseconds
-inline constexpr long most = 1'000;      // megabytes
+inline constexpr long kLongest = 15'000;  // milliseconds
+inline constexpr long kMost = 1'000;      // megabytes
 #else
-inline constexpr long longest = 1'000;
-inline constexpr long most = 64;
+inline constexpr long kLongest = 1'000;
+inline constexpr long kMost = 64;
 #endif
 
 struct Cost {
   long milliseconds = 0;
   long megabytes = 0;
 
-  [[nodiscard]] bool isBounded() const { return milliseconds < longest && megabytes <= most; }
+  [[nodiscard]] bool isBounded() const { return milliseconds < kLongest && megabytes <= kMost; }
 };
 
 // The most that the process has held in memory since the last forgetPeak(), in megabytes.

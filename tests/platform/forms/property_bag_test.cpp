@@ -50,9 +50,9 @@ class PropertyBagTest : public QObject {
   }
 
   void theDesignsInstancesAreRead() {
-    constexpr auto stored = std::to_array<platform::StoredProperty>(
+    constexpr auto kStored = std::to_array<platform::StoredProperty>(
         {{"AiutoVisibile", false}, {"Text", std::string_view("però")}});
-    const PropertyBag bag(stored);
+    const PropertyBag bag(kStored);
     QVERIFY(bag.read(u"AiutoVisibile", true) == PropertyValue(false));
     QVERIFY(bag.read(u"Text", QString()) == PropertyValue(QStringLiteral("però")));
   }

@@ -90,6 +90,15 @@ class Casa(unittest.TestCase):
             ["games/c.h:1: namespace somme::inline casi, where the room has somme::inline giochi",
              "games/d.h:1: namespace somme, where the room has somme::inline giochi"])
 
+    def test_a_constant_begins_with_k_and_a_function_need_not(self):
+        self.file(cases__a_cpp="// constexpr int commento = 1;\n"
+                               "constexpr int kUno = 1;\nconstexpr std::array<int, 2> due{1, 2};\n"
+                               "constexpr int tre() {\n  constexpr int quattro = 4;\n  return quattro;\n}\n"
+                               "constexpr bool operator==(const A&, const A&) = default;\n"
+                               "template <auto A>\ninline constexpr int cinque = A;\n"
+                               "static constexpr auto kSei = [] { return 6; }();\n")
+        self.assertEqual(["cases/a.cpp:3: due", "cases/a.cpp:5: quattro"], list(testo.costanti()))
+
     def test_tests_of_one_folder_stand_in_one_program_and_those_of_two_do_not(self):
         self.file(tests__cases__a_cpp="struct A {};\n", tests__cases__b_cpp="struct A {};\n",
                   tests__input__a_cpp="struct A {};\n")

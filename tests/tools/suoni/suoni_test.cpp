@@ -18,8 +18,8 @@
 
 namespace {
 
-constexpr int Frequenza = 48000;
-constexpr int Intestazione = 44;
+constexpr int kFrequenza = 48000;
+constexpr int kIntestazione = 44;
 
 QByteArray Leggi(const QString& percorso) {
   QFile file(percorso);
@@ -38,7 +38,7 @@ Numero Campo(const QByteArray& dati, int posto) {
 // The samples of one channel: 0 left, 1 right.
 std::vector<double> Canale(const QByteArray& dati, int canale) {
   std::vector<double> campioni;
-  for (int posto = Intestazione + 2 * canale; posto + 1 < dati.size(); posto += 4) {
+  for (int posto = kIntestazione + 2 * canale; posto + 1 < dati.size(); posto += 4) {
     campioni.push_back(Campo<std::int16_t>(dati, posto));
   }
   return campioni;
@@ -53,7 +53,7 @@ double Picco(std::span<const double> campioni) {
 // Energy of the samples at one frequency.
 double Energia(std::span<const double> campioni, double hertz) {
   const std::complex<double> passo =
-      std::polar(1.0, -2.0 * std::numbers::pi * hertz / double(Frequenza));
+      std::polar(1.0, -2.0 * std::numbers::pi * hertz / double(kFrequenza));
   std::complex<double> giro = 1.0;
   std::complex<double> somma = 0.0;
   for (const double campione : campioni) {
@@ -92,7 +92,7 @@ Spettro Analizza(std::span<const double> campioni, double passo) {
 // The strongest frequency below 1 kHz in a stretch of the sound, in seconds.
 double Altezza(std::span<const double> campioni, double inizio, double durata) {
   const auto tratto =
-      campioni.subspan(std::size_t(inizio * Frequenza), std::size_t(durata * Frequenza));
+      campioni.subspan(std::size_t(inizio * kFrequenza), std::size_t(durata * kFrequenza));
   double migliore = 0;
   double massimo = 0;
   for (double hertz = 100; hertz <= 1000; hertz += 5) {
@@ -130,19 +130,19 @@ class SuoniTest : public QObject {
   void theHeaderTellsSixteenBitStereoAt48Kilohertz() {
     QFETCH(QString, nome);
     const QByteArray dati = LeggiSuono(nome);
-    QVERIFY(dati.size() > Intestazione);
+    QVERIFY(dati.size() > kIntestazione);
     QCOMPARE(dati.first(4), QByteArray("RIFF"));
     QCOMPARE(Campo<quint32>(dati, 4), quint32(dati.size() - 8));
     QCOMPARE(dati.mid(8, 8), QByteArray("WAVEfmt "));
     QCOMPARE(Campo<quint32>(dati, 16), 16U);
     QCOMPARE(Campo<quint16>(dati, 20), quint16(1));
     QCOMPARE(Campo<quint16>(dati, 22), quint16(2));
-    QCOMPARE(Campo<quint32>(dati, 24), quint32(Frequenza));
-    QCOMPARE(Campo<quint32>(dati, 28), quint32(Frequenza * 4));
+    QCOMPARE(Campo<quint32>(dati, 24), quint32(kFrequenza));
+    QCOMPARE(Campo<quint32>(dati, 28), quint32(kFrequenza * 4));
     QCOMPARE(Campo<quint16>(dati, 32), quint16(4));
     QCOMPARE(Campo<quint16>(dati, 34), quint16(16));
     QCOMPARE(dati.mid(36, 4), QByteArray("data"));
-    QCOMPARE(Campo<quint32>(dati, 40), quint32(dati.size() - Intestazione));
+    QCOMPARE(Campo<quint32>(dati, 40), quint32(dati.size() - kIntestazione));
   }
 
   void aSoundIsShort_data() {
@@ -156,7 +156,7 @@ class SuoniTest : public QObject {
     QFETCH(QString, nome);
     QFETCH(double, minimo);
     QFETCH(double, massimo);
-    const double secondi = double(Canale(LeggiSuono(nome), 0).size()) / Frequenza;
+    const double secondi = double(Canale(LeggiSuono(nome), 0).size()) / kFrequenza;
     QVERIFY2(secondi >= minimo && secondi <= massimo, qPrintable(QString::number(secondi)));
   }
 
@@ -179,9 +179,9 @@ class SuoniTest : public QObject {
       QVERIFY(std::abs(campioni.front()) <= 1);
       QVERIFY(std::abs(campioni.back()) <= 1);
       // The first and the last two milliseconds are hardly there, the fifth still soft.
-      QVERIFY(Picco(tratto.first(Frequenza / 500)) <= picco * 0.05);
-      QVERIFY(Picco(tratto.last(Frequenza / 500)) <= picco * 0.01);
-      QVERIFY(Picco(tratto.first(Frequenza / 200)) <= picco * 0.25);
+      QVERIFY(Picco(tratto.first(kFrequenza / 500)) <= picco * 0.05);
+      QVERIFY(Picco(tratto.last(kFrequenza / 500)) <= picco * 0.01);
+      QVERIFY(Picco(tratto.first(kFrequenza / 200)) <= picco * 0.25);
     }
   }
 
@@ -192,7 +192,7 @@ class SuoniTest : public QObject {
     QFETCH(QString, nome);
     for (const int canale : {0, 1}) {
       const std::vector<double> campioni = Canale(LeggiSuono(nome), canale);
-      const double limite = Picco(campioni) * 2 * std::numbers::pi * 1500 / Frequenza;
+      const double limite = Picco(campioni) * 2 * std::numbers::pi * 1500 / kFrequenza;
       for (std::size_t i = 1; i < campioni.size(); ++i) {
         QVERIFY(std::abs(campioni[i] - campioni[i - 1]) <= limite);
       }
