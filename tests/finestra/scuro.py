@@ -10,13 +10,18 @@ look the same on all three.
 import os
 import sys
 import tempfile
+import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../tools/prova"))
 
 from mani import Mani  # noqa: E402
 from schermo import Schermo  # noqa: E402
-from senza_bus import cambia  # noqa: E402
+from senza_bus import LIMITE, vista  # noqa: E402
 
+# The seconds without a change after which the light desktop shows all that it is going to show, and those
+# that another one has to show the same.
+QUIETE = 2
+ATTESA = 15
 # Ground and letters.
 DESKTOP = {"light": ("239,240,241", "35,38,41"), "dark": ("35,38,41", "239,240,241"),
            "high contrast": ("0,0,0", "255,255,0")}
@@ -37,40 +42,67 @@ def scrivi_colori(cartella, fondo, lettere):
                        f"ForegroundLink={lettere}\nForegroundVisited={lettere}\n")
 
 
-def guarda(schermo, programma, fondo, lettere):
-    """Goes through the program; gives what was seen, in short, in its order."""
+def ferma(prima):
+    """Waits until the screen shows something else than before, and then nothing new; gives what."""
+    fine = time.monotonic() + LIMITE
+    ultima, da = prima, time.monotonic()
+    while ultima == prima or time.monotonic() < da + QUIETE:
+        if time.monotonic() > fine:
+            raise SystemExit("the screen does not change, or does not rest")
+        adesso = vista()
+        if adesso != ultima:
+            ultima, da = adesso, time.monotonic()
+    return ultima
+
+
+def diventa(attesa):
+    """Waits until the screen shows what is awaited; gives what it shows, that or another thing."""
+    fine = time.monotonic() + ATTESA
+    while (adesso := vista()) != attesa and time.monotonic() < fine:
+        pass
+    return adesso
+
+
+def guarda(schermo, mani, programma, colori, attese=None):
+    """Goes through the program; gives what was seen, in short, in its order, the empty screen first.
+
+    attese: what the light desktop showed at each step, where that is known.
+    """
+    viste = [attese[0] if attese else ferma(None)]
+
+    def segue():
+        viste.append(diventa(attese[len(viste)]) if attese else ferma(viste[-1]))
+
     from albero import Albero
     with tempfile.TemporaryDirectory() as cartella:
-        scrivi_colori(cartella, fondo, lettere)
+        scrivi_colori(cartella, *colori)
         ambiente = {**os.environ, "XDG_CONFIG_HOME": cartella, "XDG_CURRENT_DESKTOP": "KDE",
                     "KDE_SESSION_VERSION": "5", "KDE_FULL_SESSION": "true"}
-        mani = Mani()
-        vista = cambia(None)
         processo = schermo.avvia(programma, env=ambiente)
-        viste = [vista := cambia(vista)]
+        segue()
         for tasto, _ in VISTE:
             if tasto == MENU:
                 mani.clicca(Albero(processo).aspetta_oggetto("menu item", "Impostazioni").posto)
             else:
                 mani.batti(tasto)
-            viste.append(vista := cambia(vista))
+            segue()
         processo.termina()
-        cambia(vista)
+        diventa(viste[0])
     return viste
 
 
 def main():
-    nomi = ["the first form"] + [nome for _, nome in VISTE]
+    nomi = ["the empty screen", "the first form"] + [nome for _, nome in VISTE]
     guai = []
     with Schermo(1024, 768) as schermo:
-        programma = schermo.copia(sys.argv[1])
-        viste = {nome: guarda(schermo, programma, *colori) for nome, colori in DESKTOP.items()}
-    for desktop in ("dark", "high contrast"):
-        for i, nome in enumerate(nomi):
-            uguale = viste[desktop][i] == viste["light"][i]
-            print(f"{desktop}, {nome}: {'the same' if uguale else 'ANOTHER PICTURE'}")
-            if not uguale:
-                guai.append(nome)
+        programma, mani = schermo.copia(sys.argv[1]), Mani()
+        chiare = guarda(schermo, mani, programma, DESKTOP["light"])
+        for desktop in ("dark", "high contrast"):
+            viste = guarda(schermo, mani, programma, DESKTOP[desktop], chiare)
+            for nome, questa, chiara in zip(nomi, viste, chiare):
+                print(f"{desktop}, {nome}: {'the same' if questa == chiara else 'ANOTHER PICTURE'}")
+                if questa != chiara:
+                    guai.append(nome)
     return 1 if guai else 0
 
 
