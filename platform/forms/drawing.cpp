@@ -2,7 +2,6 @@
 
 #include <QDataStream>
 #include <QPainter>
-#include <QTransform>
 
 namespace platform::inline forms {
 
@@ -74,17 +73,14 @@ void Drawing::paint(QPainter& painter, const QRectF& target, const QString& part
   painter.restore();
 }
 
-DrawnPixels Drawing::inPixels(const QTransform& onDevice, const QRectF& target,
-                              const QString& part) const {
-  const QRect covered =
-      onDevice.mapRect(target).toAlignedRect().adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
+DrawnPixels Drawing::inPixels(const QRectF& target, const QString& part) const {
+  const QRect covered = target.toAlignedRect().adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
   QImage image(covered.size(), QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) return {};
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(-covered.topLeft());
-  painter.setTransform(onDevice, true);
   paint(painter, target, part);
   return {image, covered.topLeft()};
 }

@@ -8,7 +8,6 @@
 #include <map>
 
 class QPainter;
-class QTransform;
 
 namespace platform::inline forms {
 
@@ -42,9 +41,8 @@ class Drawing {
   // does not have. Strokes set opacities of their own, in the place of the painter's: what fades
   // is drawn from its pixels.
   void paint(QPainter& painter, const QRectF& target, const QString& part = {}) const;
-  // The same with smooth edges, as it stands on a device that the target comes to by `onDevice`.
-  [[nodiscard]] DrawnPixels inPixels(const QTransform& onDevice, const QRectF& target,
-                                     const QString& part = {}) const;
+  // The same with smooth edges, for a target in pixels.
+  [[nodiscard]] DrawnPixels inPixels(const QRectF& target, const QString& part = {}) const;
 
  private:
   struct Part {

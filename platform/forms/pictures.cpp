@@ -70,8 +70,7 @@ void Pictures::show(QPainter& painter, const QString& name, const QString& part,
   const QRectF within = there.translated(-pixel);
   const Stand stand{name, part, within.left(), within.top(), within.width(), within.height()};
   const DrawnPixels* known = held_[stand];
-  const DrawnPixels drawn =
-      known != nullptr ? *known : drawing(name).inPixels(QTransform(), within, part);
+  const DrawnPixels drawn = known != nullptr ? *known : drawing(name).inPixels(within, part);
   painter.save();
   painter.resetTransform();
   const QTransform back = painter.deviceTransform().inverted();

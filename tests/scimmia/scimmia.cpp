@@ -14,6 +14,7 @@
 #include "app/tabella_forme.h"
 #include "cases/livelli.h"
 #include "printing/frm_avvia_stampa.h"
+#include "support/come_dal_menu.h"
 
 namespace prova {
 
@@ -77,10 +78,6 @@ Scimmia::Scimmia(const QByteArray& forma, std::uint64_t seme, bool racconta)
 
 Scimmia::~Scimmia() = default;
 
-bool Scimmia::diFoglio() const {
-  return EFoglio(scheda_) || scheda_.genere == somme::Genere::Dialogo;
-}
-
 bool Scimmia::finita() const {
   return gira_ || guasto_ || banco_.ambiente->fondo.gate().isClosed() ||
          banco_.ambiente->fondo.forms().current() == nullptr;
@@ -114,7 +111,7 @@ void Scimmia::apri() {
   if (dadi_.unoSu(3)) lettore_.accendi();
   static constexpr auto kSotto = std::to_array<std::string_view>(
       {somme::forme::kFormBarre10HK, somme::forme::kFormNumeriTotaleHK, somme::forme::kFormMenu});
-  const std::string_view prima = diFoglio() ? dadi_.uno(kSotto) : vista(nome_);
+  const std::string_view prima = prova::VuoleRisposta(scheda_) ? dadi_.uno(kSotto) : vista(nome_);
   try {
     banco_.mostra(prima);
   } catch (const platform::Unwind&) {
@@ -204,7 +201,7 @@ void Scimmia::verifica() {
 void Scimmia::torna() {
   platform::Forms& forme = banco_.ambiente->fondo.forms();
   Form& inUso = *forme.current();
-  if (diFoglio()) {
+  if (prova::VuoleRisposta(scheda_)) {
     constexpr int kOgniTanto = 4;
     if (dadi_.unoSu(kOgniTanto)) scegli();
     return;

@@ -44,7 +44,6 @@ class Scimmia {
   void giraLaSorte();
   void scegli();
   [[nodiscard]] bool finita() const;
-  [[nodiscard]] bool diFoglio() const;
 
   QByteArray nome_;
   somme::SchedaForma scheda_;  // of that form

@@ -6,6 +6,11 @@
 
 namespace prova {
 
+// Whether a form stands over another and waits for an answer: a sheet, or the dialog for one.
+inline bool VuoleRisposta(const somme::SchedaForma& scheda) {
+  return EFoglio(scheda) || scheda.genere == somme::Genere::Dialogo;
+}
+
 // Leaves the shared state as a family menu would before it shows the exercise form `nome`: at a
 // level at which every drawing of numbers ends, whatever has come before.
 inline void ComeDalMenu(somme::Ambiente& ambiente, std::string_view nome) {

@@ -21,6 +21,7 @@ import tempfile
 
 import difese
 from giocatore import AVVIO, BOTTONE, VOCE, Errore, Giocatore
+from impronta import impronta
 from installazione import NESSUNO, Cartella, Debian, Portatile, SenzaDebian, esegui
 from partite import PARTITE
 from schermo import ErroreSchermo, Schermo
@@ -100,16 +101,6 @@ class Collaudo:
         if impronta(self._albero.dentro(self._albero.programma())) != prima:
             raise Errore("the folder of the program has changed")
         print("The choice is kept for the user; the program's folder is as it was.")
-
-
-def impronta(cartella):
-    """What tells whether anything in a folder changed."""
-    segni = []
-    for dove, _, nomi in os.walk(cartella):
-        for nome in (".", *nomi):
-            stato = os.stat(os.path.join(dove, nome))
-            segni.append((dove, nome, stato.st_size, stato.st_mtime_ns))
-    return sorted(segni)
 
 
 def usa(albero, cartella):

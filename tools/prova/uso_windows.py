@@ -4,6 +4,7 @@ import os
 import re
 
 from giocatore import AVVIO, BOTTONE, TOCCO, VOCE, Errore, Giocatore, trova
+from impronta import impronta
 from partite import PARTITE
 from schermo_wine import DEV
 from tavoletta import Tavoletta
@@ -115,13 +116,3 @@ class Prova:
         giocatore.premi("Stampa")
         dopo("foglio")
         giocatore.al_menu()
-
-
-def impronta(cartella):
-    """What tells whether anything in a folder changed."""
-    segni = []
-    for dove, _, nomi in os.walk(cartella):
-        for nome in (".", *nomi):
-            stato = os.stat(os.path.join(dove, nome))
-            segni.append((dove, nome, stato.st_size, stato.st_mtime_ns))
-    return sorted(segni)

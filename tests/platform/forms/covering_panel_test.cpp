@@ -4,30 +4,18 @@
 #include <set>
 #include <utility>
 
+#include "below.h"
 #include "painted.h"
 #include "platform/forms/menu_bar.h"
 #include "stage.h"
 #include "support/iscrizione.h"
 
-using trial::kOne;
+using trial::Below;
 using trial::Painted;
 using trial::Stage;
 using trial::TrialForm;
 
 namespace {
-
-// A form that counts what is reached below its panel.
-struct Below {
-  explicit Below(Stage& stage) : form(stage.show(kOne)) {
-    form.First.onClick([this] { ++clicks; });
-    form.Second.onClick([this] { ++clicks; });
-    form.PanelSecond.onClick([this] { form.Panel.setVisible(false); });
-    form.Second.setFocus();
-  }
-
-  TrialForm& form;
-  int clicks = 0;
-};
 
 int menuHeight(const TrialForm& form) {
   return form.page()->menuBar()->height();

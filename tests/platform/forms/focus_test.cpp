@@ -1,24 +1,15 @@
 #include <QApplication>
 
+#include "below.h"
 #include "stage.h"
 #include "support/iscrizione.h"
 
+using trial::Below;
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
 
 namespace {
-
-// A form whose second button has the focus.
-struct Below {
-  explicit Below(Stage& stage) : form(stage.show(kOne)) {
-    form.First.onClick([this] { ++clicks; });
-    form.Second.setFocus();
-  }
-
-  TrialForm& form;
-  int clicks = 0;
-};
 
 // Presses the right button on the list of the form's panel and holds it; a click of the left one
 // somewhere else then gives the focus to the list, wherever that is by then.
@@ -113,15 +104,14 @@ class FocusTest : public QObject {
   void aButtonHeldOnItsListWhileItClosesBringsTheFocusNotBackToTheList() {
     Stage stage;
     Below below(stage);
-    below.form.Panel.cover();
-    QWindow* window = stage.runtime->window().windowHandle();
-    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
-    below.form.Panel.setVisible(false);
-    QVERIFY(below.form.Second.hasFocus());
-    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
-    QVERIFY(below.form.Second.hasFocus());
-    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(below.form.First));
-    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
+    {
+      Held held(stage, below.form);
+      below.form.Panel.setVisible(false);
+      QVERIFY(below.form.Second.hasFocus());
+      held.clickOn(below.form.First);
+      QVERIFY(below.form.Second.hasFocus());
+    }
+    stage.click(below.form.First);
     QVERIFY(below.form.First.hasFocus());
     QCOMPARE(below.clicks, 1);
   }
@@ -129,30 +119,24 @@ class FocusTest : public QObject {
   void whereNothingElseCanTakeItAButtonHeldOnTheListLeavesNoFocus() {
     Stage stage;
     Below below(stage);
-    below.form.Panel.cover();
-    QWindow* window = stage.runtime->window().windowHandle();
-    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
+    Held held(stage, below.form);
     for (platform::Control* control : below.form.controls()) {
       if (below.form.isCovered(*control)) control->setEnabled(false);
     }
     below.form.Panel.setVisible(false);
-    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(below.form.First));
+    held.clickOn(below.form.First);
     QCOMPARE(QApplication::focusWidget(), nullptr);
-    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(below.form.First));
   }
 
   void aButtonHeldOnAListWhoseFormHasGoneBehindAnotherBringsTheFocusNotBackToTheList() {
     Stage stage;
     Below below(stage);
-    below.form.Panel.cover();
-    QWindow* window = stage.runtime->window().windowHandle();
-    QTest::mousePress(window, Qt::RightButton, {}, stage.centre(below.form.PanelText));
+    Held held(stage, below.form);
     TrialForm& two = stage.show(trial::kTwo);
     two.Second.setFocus();
     QVERIFY(two.Second.hasFocus());
-    QTest::mouseClick(window, Qt::LeftButton, {}, stage.centre(two.First));
+    held.clickOn(two.First);
     QVERIFY(two.Second.hasFocus());
-    QTest::mouseRelease(window, Qt::RightButton, {}, stage.centre(two.First));
   }
 
   void whatIsHiddenWhileItsFormStandsBehindAnotherCostsTheFormNoFocus() {

@@ -57,6 +57,11 @@ class PicturesTest : public QObject {
          "<svg xmlns='http://www.w3.org/2000/svg' viewBox='10 0 40 20'>"
          "<g fill='#ff0000'><rect id='parte1' x='12' y='2' width='10' height='16'/></g>"
          "<g fill='#0000ff'><rect id='parte2' x='30' y='4' width='8' height='8'/></g></svg>");
+    // Its parts lie on one another; the whole shows the second.
+    draw("twins.drawing",
+         "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 40 20'>"
+         "<rect id='parte1' x='2' y='2' width='10' height='16' fill='#ff0000'/>"
+         "<rect id='parte2' x='2' y='2' width='10' height='16' fill='#0000ff'/></svg>");
     draw("glass.drawing",
          "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 40 20'>"
          "<rect x='2' y='2' width='10' height='16' fill='#ff0000' opacity='0.5'/>"
@@ -163,6 +168,7 @@ class PicturesTest : public QObject {
         {"parts", "", {10.5, 10, 60, 30}, 1},     {"parts", "", {10, 10.5, 60, 30}, 1},
         {"parts", "", {10, 10, 60.5, 30.25}, 1},  {"parts", "", {40, 21, 60, 30}, 1},
         {"glass", "", {10, 10, 60, 30}, 0.5},     {"parts", "", {10, 10, 90, 45}, 1},
+        {"twins", "parte1", {10, 10, 40, 20}, 1}, {"twins", "parte2", {10, 10, 40, 20}, 1},
     };
     const auto paintedWith = [](Pictures& by, const Stand& stand) {
       QImage image(120, 80, QImage::Format_RGB32);
