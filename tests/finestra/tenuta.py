@@ -24,8 +24,14 @@ TASTI = [("space", ["space"], False), ("Return", ["Return"], True), ("Alt+C", ["
 RIPETIZIONE = ("150", "60")
 
 
-def carichi(quanti):
-    return [subprocess.Popen([sys.executable, "-c", "while True: pass"]) for _ in range(quanti)]
+# Keeps a processor busy, alone among those that were given the same file: when one ends, the next begins.
+GIRA = "import fcntl, sys; fcntl.flock(file := open(sys.argv[1], 'w'), fcntl.LOCK_EX)\nwhile True: pass"
+
+
+def carichi(cartella, quanti):
+    """Keeps so many processors busy, those who want it at the same time in one folder together."""
+    return [subprocess.Popen([sys.executable, "-c", GIRA, os.path.join(cartella, f"busy-{i}")])
+            for i in range(quanti)]
 
 
 class Conta:
@@ -85,7 +91,7 @@ def main():
         subprocess.run(["xset", "r", "rate", *RIPETIZIONE], check=True, timeout=30)
         conta = Conta(schermo, scelte.programma, scelte.schermo in ("x11", "wine"))
         for occupati in (0,) if scelte.a_riposo else (0, os.cpu_count() or 2):
-            pesi = carichi(occupati)
+            pesi = carichi(os.path.dirname(os.path.abspath(scelte.programma)), occupati)
             try:
                 for nome, tasti, alla_pressione in TASTI:
                     for _ in range(scelte.volte):

@@ -2,26 +2,25 @@
 
 import time
 
-from albero import Albero, Oggetto
+from albero import FRESCO, Albero, Oggetto
 from schermo_wine import Filo
 
 
 class OggettoWine(Oggetto):
     """One object, as it was told a moment ago, or else as it is told now."""
 
-    FRESCO = 0.03  # seconds
     NIENTE = {"ruolo": "", "nome": "", "descrizione": "", "testo": "", "posto": [0, 0, 0, 0],
               "visibile": False, "abilitato": False, "scrivibile": False, "fuoco": False}
 
     def __init__(self, filo, detto):
-        super().__init__(None)
+        super().__init__(None, None, None)
         self._filo = filo
         self._id = detto["id"]
         self._detto = detto
         self._quando = time.monotonic()
 
     def _ora(self, che_cosa):
-        if time.monotonic() - self._quando > self.FRESCO:
+        if time.monotonic() - self._quando > FRESCO:
             self._detto = self._filo.chiedi(f"uno {self._id}") or self.NIENTE
             self._quando = time.monotonic()
         return self._detto[che_cosa]

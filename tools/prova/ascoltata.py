@@ -266,7 +266,7 @@ def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     nomi = sys.argv[4:] or prove
     if len(nomi) > 1:
-        # Whoever reads the accessibility tree stays with the desktop that it has seen first.
+        # Each by itself: one that breaks takes no other with it.
         comando = [sys.executable, *sys.argv[:4]]
         return max(subprocess.run([*comando, nome], check=False).returncode for nome in nomi)
     nome = nomi[0]

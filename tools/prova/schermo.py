@@ -50,7 +50,7 @@ class Schermo:
     A program that a signal has ended meanwhile, unasked, is an error when the desktop goes.
 
     The environment of this process is set for the new desktop too, so that the accessibility tree
-    is read from it; therefore make the Schermo before anything that reads the tree is imported.
+    is read from it.
     """
 
     # Whether alt+F4 closes a window.
@@ -107,7 +107,7 @@ class Schermo:
 
     def albero(self, processo):
         """What a program that was started here shows."""
-        # It asks for the desktop's tree when it is imported.
+        # Only who reads the tree needs its library.
         from albero import Albero
         return Albero(processo)
 
