@@ -21,14 +21,18 @@ Banco::Banco(QSize lato, Forme forme, somme::TabellaForme tabella) {
   somme::PreparaImmagini();
   platform::applyAppearance();
   const QDir lingue(QStringLiteral(SOMME_LINGUE));
-  for (const QString& nome : lingue.entryList({QStringLiteral("*.lng"), QStringLiteral("*.ini")})) {
+  for (const QString& nome : lingue.entryList({QStringLiteral("*.ini")})) {
     QFile::copy(lingue.filePath(nome), percorso(nome));
     QFile::setPermissions(percorso(nome), QFile::ReadOwner | QFile::WriteOwner);
   }
+  // What the program only reads lies elsewhere: a copy has just changed, and is read at each look.
   const QDir filmati(QStringLiteral(SOMME_FILMATI));
   QDir(cartella.path()).mkdir(QStringLiteral("swf"));
+  for (const QString& nome : lingue.entryList({QStringLiteral("*.lng")})) {
+    QFile::link(lingue.filePath(nome), percorso(nome));
+  }
   for (const QString& nome : filmati.entryList({QStringLiteral("*.swf")})) {
-    QFile::copy(filmati.filePath(nome), percorso(QStringLiteral("swf/") + nome));
+    QFile::link(filmati.filePath(nome), percorso(QStringLiteral("swf/") + nome));
   }
   ambiente = std::make_unique<somme::Ambiente>(
       somme::Servizi{tempo, sorte, suono, messaggi, annunci, documenti, fine, istanza, stampanti,
@@ -134,7 +138,9 @@ void Banco::scrivi(const QString& testo) {
 
 void Banco::metti(const QString& nome, const QByteArray& contenuto) const {
   QFile file(percorso(nome));
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+  // A link is replaced, never what it leads to.
+  file.remove();
+  if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
     throw std::runtime_error("the test cannot write its own folder");
   }
   file.write(contenuto);
