@@ -9,13 +9,13 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTimer>
-#include <algorithm>
 #include <csignal>
 #include <cstdio>
 
 #include "platform/devices/linux/sdl_sound.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/devices/system_process_end.h"
+#include "stand_still.h"
 
 namespace {
 
@@ -81,16 +81,14 @@ int main(int argc, char** argv) {
   int beeps = 0;
   platform::SdlSound sound([&beeps] { ++beeps; });
 
-  qint64 worst = 0;
-  QElapsedTimer sinceBeat;
+  devices_test::StandStill still;
   QTimer heart;
   heart.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&heart, &QTimer::timeout, [&] { worst = std::max(worst, sinceBeat.restart()); });
+  QObject::connect(&heart, &QTimer::timeout, [&] { still.beat(); });
   heart.start(5);
-  sinceBeat.start();
   for (qsizetype i = 2; i + 1 < arguments.size(); i += 2) {
     sound.play(arguments[i]);
-    worst = std::max(worst, sinceBeat.elapsed());
+    still.beat();
     waitMilliseconds(time, arguments[i + 1].toInt());
     if (qEnvironmentVariableIntValue("PROBE_TALKS") == 1) {
       qWarning("own line");
@@ -100,8 +98,8 @@ int main(int argc, char** argv) {
   heart.stop();
   const int before = sleeps();
   waitMilliseconds(time, arguments.value(1).toInt());
-  std::printf("gap %lld beeps %d sleeps %d signals %d\n", static_cast<long long>(worst), beeps,
-              sleeps() - before,
+  std::printf("gap %lld beeps %d sleeps %d signals %d\n", static_cast<long long>(still.longest()),
+              beeps, sleeps() - before,
               handlesSignal(SIGINT) || handlesSignal(SIGTERM) || aThreadTakesSignals() ? 1 : 0);
   platform::SystemProcessEnd().end(0);
   return 0;

@@ -13,6 +13,7 @@
 #include "platform/devices/linux/cups_library.h"
 #include "platform/devices/qt_time_source.h"
 #include "print_server.h"
+#include "stand_still.h"
 #include "support/iscrizione.h"
 
 using devices_test::MutedServer;
@@ -45,18 +46,13 @@ struct Machine {
 
 // How long events were held up at most while something was done.
 qint64 longestGap(const std::function<void()>& action) {
-  QElapsedTimer clock;
-  clock.start();
-  qint64 last = 0;
-  qint64 longest = 0;
+  devices_test::StandStill still;
   QTimer heart;
-  QObject::connect(&heart, &QTimer::timeout, &heart, [&] {
-    longest = std::max(longest, clock.elapsed() - last);
-    last = clock.elapsed();
-  });
+  QObject::connect(&heart, &QTimer::timeout, &heart, [&] { still.beat(); });
   heart.start(5);
   action();
-  return std::max(longest, clock.elapsed() - last);
+  still.beat();
+  return still.longest();
 }
 
 // A PDF document of one empty A4 page, put together by hand.
