@@ -16,7 +16,7 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../
 
 from mani import Mani  # noqa: E402
 from schermo import Schermo  # noqa: E402
-from senza_bus import LIMITE, vista  # noqa: E402
+from senza_bus import LIMITE, guarda as sguardo  # noqa: E402
 
 # The seconds without a change after which the light desktop shows all that it is going to show, and those
 # that another one has to show the same.
@@ -42,23 +42,23 @@ def scrivi_colori(cartella, fondo, lettere):
                        f"ForegroundLink={lettere}\nForegroundVisited={lettere}\n")
 
 
-def ferma(prima):
+def ferma(schermo, prima):
     """Waits until the screen shows something else than before, and then nothing new; gives what."""
     fine = time.monotonic() + LIMITE
     ultima, da = prima, time.monotonic()
     while ultima == prima or time.monotonic() < da + QUIETE:
         if time.monotonic() > fine:
             raise SystemExit("the screen does not change, or does not rest")
-        adesso = vista()
+        adesso = sguardo(schermo)
         if adesso != ultima:
             ultima, da = adesso, time.monotonic()
     return ultima
 
 
-def diventa(attesa):
+def diventa(schermo, attesa):
     """Waits until the screen shows what is awaited; gives what it shows, that or another thing."""
     fine = time.monotonic() + ATTESA
-    while (adesso := vista()) != attesa and time.monotonic() < fine:
+    while (adesso := sguardo(schermo)) != attesa and time.monotonic() < fine:
         pass
     return adesso
 
@@ -68,10 +68,10 @@ def guarda(schermo, mani, programma, colori, attese=None):
 
     attese: what the light desktop showed at each step, where that is known.
     """
-    viste = [attese[0] if attese else ferma(None)]
+    viste = [attese[0] if attese else ferma(schermo, None)]
 
     def segue():
-        viste.append(diventa(attese[len(viste)]) if attese else ferma(viste[-1]))
+        viste.append(diventa(schermo, attese[len(viste)]) if attese else ferma(schermo, viste[-1]))
 
     from albero import Albero
     with tempfile.TemporaryDirectory() as cartella:
@@ -87,7 +87,7 @@ def guarda(schermo, mani, programma, colori, attese=None):
                 mani.batti(tasto)
             segue()
         processo.termina()
-        diventa(viste[0])
+        diventa(schermo, viste[0])
     return viste
 
 

@@ -9,7 +9,6 @@ anywhere than with the bus, gave its verdict, said nothing on the error stream, 
 asked to.
 """
 
-import hashlib
 import os
 import subprocess
 import sys
@@ -24,6 +23,7 @@ from schermo import Schermo  # noqa: E402
 # for 25.
 MARGINE = 3
 LIMITE = 60  # seconds until anything counts as hung
+PASSO = 0.15  # seconds from one look at the screen to the next
 # A session bus that starts no service.
 SENZA_SERVIZI = """<busconfig><type>session</type><listen>unix:tmpdir={0}</listen>
 <policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/>
@@ -56,21 +56,20 @@ def ambienti(schermo):
         "DBUS_SESSION_BUS_ADDRESS": bus_senza_servizi(schermo, cartella)}
 
 
-def vista():
-    """What is on the screen, in short."""
-    punti = subprocess.run(["import", "-window", "root", "rgb:-"], check=True, timeout=LIMITE,
-                           stdout=subprocess.PIPE).stdout
-    return hashlib.sha256(punti).hexdigest()
+def guarda(schermo):
+    """What is on the screen a moment later, in short."""
+    time.sleep(PASSO)
+    return schermo.vista()
 
 
-def cambia(prima):
+def cambia(schermo, prima):
     """Waits until the screen shows something else, and shows it twice. Returns what."""
     fine = time.monotonic() + LIMITE
     ultima, adesso = None, prima
     while adesso in (prima, None) or adesso != ultima:
         if time.monotonic() > fine:
             raise SystemExit("the screen does not change")
-        ultima, adesso = adesso, vista()
+        ultima, adesso = adesso, guarda(schermo)
     return adesso
 
 
@@ -79,18 +78,18 @@ def prova(schermo, programma, differenze):
     ambiente = {**os.environ, **differenze}
     ambiente = {nome: valore for nome, valore in ambiente.items() if valore is not None}
     tasti = Tastiera()
-    vuoto = cambia(None)
+    vuoto = cambia(schermo, None)
     prima = time.monotonic()
     processo = schermo.avvia(programma, env=ambiente, stderr=subprocess.PIPE, text=True)
-    pagina = cambia(vuoto)
+    pagina = cambia(schermo, vuoto)
     avvio = time.monotonic() - prima
     # Start, main menu, menu of the bars; none of them is ever the answer to a sum.
     for _ in range(3):
         tasti.batti("Return")
-        pagina = cambia(pagina)
+        pagina = cambia(schermo, pagina)
     prima = time.monotonic()
     tasti.batti("Return")
-    cambia(pagina)
+    cambia(schermo, pagina)
     verdetto = time.monotonic() - prima
     tasti.batti("alt+F4")
     _, righe = processo.communicate(timeout=LIMITE)

@@ -8,6 +8,8 @@ import subprocess
 import tempfile
 import time
 
+from vista import Vista
+
 
 class ErroreSchermo(Exception):
     """The desktop could not be brought up; the text says which part."""
@@ -61,6 +63,7 @@ class Schermo:
         self._processi = []
         self._prima = dict(os.environ)
         self._cartella = None
+        self._vista = None
 
     def __enter__(self):
         try:
@@ -80,6 +83,9 @@ class Schermo:
 
     def __exit__(self, *errore):
         caduti = []
+        if self._vista:
+            self._vista.chiudi()
+            self._vista = None
         for processo in reversed(self._processi):
             processo.termina()
             if processo.caduto():
@@ -131,6 +137,11 @@ class Schermo:
         """Writes a picture of the whole screen; the format is that of the name."""
         os.makedirs(os.path.dirname(percorso) or ".", exist_ok=True)
         subprocess.run(["import", "-window", "root", percorso], check=True, timeout=60)
+
+    def vista(self):
+        """What is on the screen, in short: another text for every other picture."""
+        self._vista = self._vista or Vista()
+        return self._vista.adesso()
 
     def _avvia_display(self):
         # The server looks for a free number itself and tells it when it is ready.
