@@ -56,7 +56,7 @@ void Pictures::paint(QPainter& painter, const QString& name, const QRectF& area)
   show(painter, name, {}, placeIn(drawing(name), area));
 }
 
-// From its pixels, which are held for the next time that it stands so.
+// From its pixels, which are held from the second time on that it stands so.
 void Pictures::show(QPainter& painter, const QString& name, const QString& part,
                     const QRectF& place) {
   if (place.isEmpty()) return;
@@ -70,14 +70,19 @@ void Pictures::show(QPainter& painter, const QString& name, const QString& part,
   const QRectF within = there.translated(-pixel);
   const Stand stand{name, part, within.left(), within.top(), within.width(), within.height()};
   const DrawnPixels* known = held_[stand];
-  const DrawnPixels drawn = known != nullptr ? *known : drawing(name).inPixels(within, part);
+  const bool isHeld = known != nullptr && !known->image.isNull();
+  const DrawnPixels drawn = isHeld ? *known : drawing(name).inPixels(within, part);
   painter.save();
   painter.resetTransform();
   const QTransform back = painter.deviceTransform().inverted();
   const QRectF onto(QPointF(drawn.at + pixel), QSizeF(drawn.image.size()));
   painter.drawImage(back.mapRect(onto), drawn.image);
   painter.restore();
-  if (known == nullptr) held_.insert(stand, new DrawnPixels(drawn), drawn.image.sizeInBytes());
+  if (isHeld) return;
+  const bool isSecond = known != nullptr;
+  constexpr qsizetype kWithout = sizeof(Stand) + sizeof(DrawnPixels);
+  held_.insert(stand, new DrawnPixels(isSecond ? drawn : DrawnPixels{}),
+               isSecond ? drawn.image.sizeInBytes() : kWithout);
 }
 
 std::vector<QString> Pictures::parts(const QString& name) {

@@ -15,8 +15,9 @@ class QPainter;
 namespace platform::inline forms {
 
 // The program's drawings, by name: the files of one folder, read at their first use and drawn sharp
-// at any size. A missing one draws nothing. The pixels of what stands on a form are held: a form
-// that is shown again shows the same.
+// at any size. A missing one draws nothing. The pixels of what is painted in one place again are
+// held: a form that is shown again shows the same. What is painted once, as on the form that the
+// program begins with, takes no room.
 class Pictures {
  public:
   // folder: where the files "name.drawing" lie; a folder of the disk or of Qt's resources.
@@ -42,9 +43,11 @@ class Pictures {
   // For pointers: the drawing's part "punta" marks the hot spot; (0, 0) without one.
   [[nodiscard]] QPoint hotSpot(const QString& name, QSize size);
 
- private:
-  static constexpr qsizetype kHeldBytes = 16'000'000;
+  // The room that pixels take now, in bytes, and the most that they ever take.
+  [[nodiscard]] qsizetype heldBytes() const { return held_.totalCost(); }
+  static constexpr qsizetype kHeldBytes = 3'000'000;
 
+ private:
   // How a drawing stands on its pixels: its part, or all of it, and its place from the pixel in
   // which its upper left corner lies.
   struct Stand {
@@ -66,7 +69,8 @@ class Pictures {
   QString folder_;
   std::map<QString, Drawing> drawings_;
   std::map<QString, QIcon> icons_;
-  QCache<Stand, DrawnPixels> held_;  // the latest ones, by their bytes
+  // The latest ones, by their bytes; without pixels what has been painted once.
+  QCache<Stand, DrawnPixels> held_;
 };
 
 }  // namespace platform::inline forms

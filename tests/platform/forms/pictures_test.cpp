@@ -191,11 +191,34 @@ class PicturesTest : public QObject {
       QVERIFY(!isBlank(first.back()));
       QCOMPARE(std::ranges::count(first, first.back()), 1);
     }
-    for (int turn = 0; turn < 2; ++turn) {
+    // Drawn, drawn and held, and as held.
+    for (int turn = 0; turn < 3; ++turn) {
       for (std::size_t i = 0; i < first.size(); ++i) {
         QCOMPARE(paintedWith(pictures, stands[i]), first[i]);
       }
     }
+  }
+
+  void onlyWhatIsPaintedAgainTakesRoomAndNeverMoreThanTheMost() {
+    Pictures pictures(folder_.path());
+    constexpr QSize kSize(600, 400);
+    constexpr qsizetype kBytes = qsizetype(4) * 600 * 300;
+    const auto paintAt = [&](double left) {
+      painted(pictures, "parts", kSize, QRectF(left, 0, 600, 400));
+    };
+    paintAt(0);
+    QVERIFY(pictures.heldBytes() < 1000);
+    paintAt(0);
+    QVERIFY(pictures.heldBytes() >= kBytes);
+    QVERIFY(pictures.heldBytes() < kBytes * 11 / 10);
+    paintAt(0);
+    QVERIFY(pictures.heldBytes() < kBytes * 11 / 10);
+    for (int i = 0; i < 20; ++i) {
+      paintAt(i * 0.03);
+      paintAt(i * 0.03);
+      QVERIFY(pictures.heldBytes() <= Pictures::kHeldBytes);
+    }
+    QVERIFY(pictures.heldBytes() > Pictures::kHeldBytes / 2);
   }
 
   void whatGrowsIsAsSharpAsWhatStands() {
