@@ -33,6 +33,8 @@ inline constexpr double kAltezzaIntera = 7020;
 // The longest side of the sheet on the preview. What is printed beyond it, up to A3 on A4, still
 // has room in the frame.
 inline constexpr double kLatoAnteprima = 3300;
+// A sheet across beside which there is nothing to be shown fills the frame.
+inline constexpr double kIngrandimento = 4560 / kLatoAnteprima;
 
 using F = frmAvviaStampa;
 

@@ -8,7 +8,6 @@
 #include "printing/campo_millimetri.h"
 #include "printing/disegno_avvia_stampa.h"
 #include "printing/errore_di_stampa.h"
-#include "printing/nome_formato_carta.h"
 
 namespace somme::inline stampa {
 
@@ -18,7 +17,6 @@ using platform::ColourMode;
 using platform::Control;
 using platform::Orientation;
 using platform::plain;
-using platform::Rgb;
 using platform::RunTimeError;
 
 namespace {
@@ -26,8 +24,6 @@ namespace {
 constexpr QLatin1String kErroreDocumento(" Errore nella stampa del documento.");
 constexpr int kIntervalloLampeggio = 500;  // milliseconds
 constexpr int kA3 = 0;
-constexpr Rgb kRosso{255, 0, 0};
-constexpr Rgb kBianco{255, 255, 255};
 // The longer side of the captured image: 150 dots an inch on the 420 mm of an A3 sheet.
 constexpr int kPuntiCattura = 2500;
 constexpr double kAltezzaImpostazioni = 4192;  // twips, as the two next
@@ -284,33 +280,13 @@ void frmAvviaStampa::RiprendiFoglio() {
   DisegnaFoglio();
 }
 
-void frmAvviaStampa::DisegnaFoglio() {
-  const double lato = Label1.width();
-  const double rapporto = double(foglio_.larghezza) / foglio_.altezza;
-  const bool stretto = foglio_.larghezza <= foglio_.altezza;
-  const double larghezza = stretto ? lato * rapporto : lato;
-  const double altezza = stretto ? lato : lato / rapporto;
-  const double pixel = PixelInTwips();
-  shpBordo.setWidth(larghezza + 8 * pixel);
-  shpBordo.setHeight(altezza + 8 * pixel);
-  shpFoglio.setWidth(larghezza + 2 * pixel);
-  shpFoglio.setHeight(altezza + 2 * pixel);
-  PictureAnteprima.setWidth(larghezza);
-  PictureAnteprima.setHeight(altezza);
-  AggiornaAnteprima();
-  const bool verticale = foglio_.orientamento == int(Orientation::Portrait);
-  fraFoglio.setCaption(
-      QStringLiteral(" Dimensioni foglio: ") +
-      NomeFormatoCarta(stampante_.impostazioni().paper.code) +
-      (verticale ? QStringLiteral(",  Verticale") : QStringLiteral(",  Orizzontale")));
-}
-
 void frmAvviaStampa::AggiornaAnteprima() {
   if (!conOggetto_ || foglio_.larghezza <= 0) return;
   const bool fuori = !StaSulFoglio(posto_, foglio_.larghezza, foglio_.altezza) ||
                      posto_.sinistra < 0 || posto_.alto < 0;
   Timer1.setEnabled(fuori);
   lblFuoriFoglio.setVisible(fuori);
+  if (SiIngrandisce(fuori)) return DisegnaFoglio();  // and this with it
   const double inLargo = PictureAnteprima.width() / PixelInTwips() / foglio_.larghezza;
   const double inAlto = PictureAnteprima.height() / PixelInTwips() / foglio_.altezza;
   DisegnaAnteprima({Arrotonda(inLargo * posto_.sinistra), Arrotonda(inAlto * posto_.alto),
@@ -333,10 +309,6 @@ void frmAvviaStampa::DisegnaAnteprima(const QRect& dove) {
   // What would be lost beyond the paper is seen, faint, beside it.
   const QPoint angolo = PictureAnteprima.widget()->pos();
   fraFoglio.setPicture(lblFuoriFoglio.isVisible() ? ridotta : QImage(), dove.translated(angolo));
-}
-
-void frmAvviaStampa::Lampeggia() {
-  lblFuoriFoglio.setBackColor(lblFuoriFoglio.backColor() == kRosso ? kBianco : kRosso);
 }
 
 void frmAvviaStampa::ScegliFormato(int indice) {

@@ -120,6 +120,7 @@ class frmAvviaStampa final : public Forma {
   void RiprendiFoglio();
   void DisegnaFoglio();
   void AggiornaAnteprima();
+  [[nodiscard]] bool SiIngrandisce(bool fuori);
   void DisegnaAnteprima(const QRect& dove);
   void ScegliFormato(int indice);
   void CambiaLarghezza();
@@ -139,6 +140,7 @@ class frmAvviaStampa final : public Forma {
   qint32 orientamento_ = 0;
   bool monocromatica_ = false;
   bool conOggetto_ = false;
+  bool ingrandita_ = false;  // whether the sheet takes all of its frame
   QString titolo_;
 };
 

@@ -123,6 +123,38 @@ class AnteprimaTest : public QObject {
     QVERIFY(prova.visto);
   }
 
+  void aSheetOnWhichAllFitsFillsItsFrame_data() {
+    QTest::addColumn<QSize>("finestra");
+    for (const QSize lato : {QSize(800, 600), QSize(1366, 768), QSize(1920, 1080)}) {
+      QTest::addRow("%dx%d", lato.width(), lato.height()) << lato;
+    }
+  }
+  void aSheetOnWhichAllFitsFillsItsFrame() {
+    QFETCH(QSize, finestra);
+    DialogoDiProva prova(finestra);
+    prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
+    // The sheet's share of the frame across and down; it lies in it as a whole.
+    const auto parte = [](frmAvviaStampa& d) {
+      const QRect foglio = d.shpBordo.widget()->geometry();
+      const QRect cornice = d.fraFoglio.widget()->rect();
+      if (!cornice.adjusted(4, 4, -4, -4).contains(foglio)) return QSizeF();
+      return QSizeF(double(foglio.width()) / cornice.width(),
+                    double(foglio.height()) / cornice.height());
+    };
+    prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
+      QVERIFY(parte(d).width() > 0.88 && parte(d).height() > 0.82);
+      // What lies beyond the sheet wants room beside it, and gives it back.
+      d.Command1.click();
+      prova.scrivi(d.txtPrX, QStringLiteral("60"));
+      QVERIFY(parte(d).width() > 0.5 && parte(d).width() < 0.7);
+      prova.scrivi(d.txtPrX, QStringLiteral("1"));
+      QVERIFY(parte(d).width() > 0.88);
+    });
+    auto r = prova.richiesta();
+    r.orientamento = 1;
+    prova.apri(r, [&](frmAvviaStampa& d) { QVERIFY(parte(d).height() > 0.85); });
+  }
+
   void whatWouldBeLostBeyondThePaperIsSeenFaintBesideIt() {
     const auto oltre = [](bool grande, bool spostata) {
       DialogoDiProva prova;
