@@ -25,7 +25,7 @@ constexpr QColor kEdge(70, 70, 70);
 constexpr double kEdgeInset = 7;      // pixels, inside of the focus ring
 constexpr double kOpenerSide = 0.5;   // of the box's height
 constexpr double kOpenerShare = 0.2;  // of its width, at most
-constexpr double kOpenerGap = 0.2;    // of its own side, to the edge
+constexpr double kOpenerGap = 0.2;    // of its own side, to the edge and to the text
 
 }  // namespace
 
@@ -83,7 +83,9 @@ QRectF TextBoxWidget::openerPlace() const {
 }
 
 void TextBoxWidget::fitFont() {
-  const double taken = closed_ ? width() - openerPlace().left() : kSideMargin + kWidthsOfOthers / 2;
+  const QRectF opener = openerPlace();
+  const double taken = closed_ ? width() - opener.left() + opener.width() * kOpenerGap
+                               : kSideMargin + kWidthsOfOthers / 2;
   const double across = width() - 2 * taken;
   const int down = height() - int(kFocusRingWidth * markScale(*this));
   QFont fitted = font_;
