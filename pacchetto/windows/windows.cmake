@@ -15,7 +15,7 @@ add_dependencies(somme icona_del_programma)
 file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/versione" "${PROJECT_VERSION} ${SOMME_EPOCA}\n")
 
 set(qt "${CMAKE_SOURCE_DIR}/build/windows-qt/fatto")
-foreach(parte IN ITEMS Core Gui Network Widgets)
+foreach(parte IN ITEMS Core Gui Network PrintSupport Widgets)
   install(FILES "${qt}/bin/Qt6${parte}.dll" DESTINATION .)
 endforeach()
 install(FILES "${qt}/plugins/platforms/qwindows.dll" DESTINATION platforms)

@@ -18,6 +18,7 @@ import tempfile
 import time
 import zipfile
 
+from coda_di_stampa import CodaDiStampa, inchiostro
 from giocatore import Errore
 from installatore_windows import prova_installatore
 from schermo import ErroreSchermo
@@ -85,7 +86,7 @@ def prova_misura(archivio, _, __, radice):
 
 
 def prova_stampa(archivio, _, foto, radice):
-    """A record and a sheet, to the printer that makes PDF files."""
+    """To the built-in printer, then to one of the system: the same sheets, true to size."""
     cartella = Cartella(archivio, radice)
     fatti = {}
 
@@ -101,24 +102,27 @@ def prova_stampa(archivio, _, foto, radice):
             aspetta_file(f"the PDF of {che_cosa}", nuovi)
             nome = nuovi()[0]
             visti.add(nome)
-            fatti[che_cosa] = os.path.join(foto, che_cosa + ".pdf")
-            shutil.copy(os.path.join(documenti, nome), fatti[che_cosa])
+            fatti["pdf", che_cosa] = os.path.join(foto, che_cosa + ".pdf")
+            shutil.copy(os.path.join(documenti, nome), fatti["pdf", che_cosa])
         return dopo
 
     with SchermoWine() as schermo:
         Prova(schermo, cartella.programma, foto).stampa(in_un_file(schermo))
+    with CodaDiStampa() as coda, SchermoWine() as schermo:
+        def dopo(che_cosa):
+            fatti["coda", che_cosa] = coda.prendi(os.path.join(foto, che_cosa + ".ps"))
+        Prova(schermo, cartella.programma, foto).stampa(dopo)
     for che_cosa in ("elenco", "foglio"):
-        corto, lungo = inchiostro(fatti[che_cosa])
-        print(f"{che_cosa}: {corto:.1f} by {lungo:.1f} mm of ink")
+        confronta(che_cosa, fatti["pdf", che_cosa], fatti["coda", che_cosa])
 
 
-def inchiostro(file):
-    """How far the ink of the first page of a PDF file reaches: two lengths in millimetres, the shorter first."""
-    detto = subprocess.run(["gs", "-q", "-dBATCH", "-dNOPAUSE", "-dLastPage=1", "-sDEVICE=bbox", file],
-                           capture_output=True, text=True, check=True, timeout=120).stderr
-    numeri = re.search(r"%%HiResBoundingBox: ([\d.]+) ([\d.]+) ([\d.]+) ([\d.]+)", detto)
-    sinistra, basso, destra, alto = (float(n) * 25.4 / 72 for n in numeri.groups())
-    return sorted((destra - sinistra, alto - basso))
+def confronta(che_cosa, pdf, coda):
+    """What both print has the same size, to a millimetre."""
+    misure = [inchiostro(file) for file in (pdf, coda)]
+    for dove, (corto, lungo) in zip(("PDF", "printer"), misure):
+        print(f"{che_cosa}, {dove}: {corto:.1f} by {lungo:.1f} mm of ink")
+    if max(abs(a - b) for a, b in zip(*misure)) > 1:
+        raise Errore(f"{che_cosa} is not of the same size on the printer as in the PDF file")
 
 
 def aspetta_file(che_cosa, vero, secondi=60):

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/devices/windows/mutex_instance_lock.h"
+#include "platform/devices/windows/printer_queues.h"
 #include "platform/devices/windows/shell_documents.h"
 #include "platform/devices/windows/winmm_sound.h"
 
@@ -20,9 +21,8 @@ std::unique_ptr<InstanceLock> systemInstanceLock(const QString& executable) {
   return std::make_unique<MutexInstanceLock>(executable);
 }
 
-// The program's own printer alone, which makes PDF files.
 std::unique_ptr<PrintQueues> systemQueues() {
-  return nullptr;
+  return std::make_unique<PrinterQueues>();
 }
 
 }  // namespace platform::inline devices
