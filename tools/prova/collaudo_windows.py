@@ -74,7 +74,7 @@ def prova_uso(archivio, _, foto, radice):
         # What opens documents copies the one that it is given.
         for chiave, valore in ((r"\.pdf", "prova"), (r"\prova\shell\open\command",
                                                     r'cmd.exe /c copy "%1" C:\aperto')):
-            schermo.finestre.esegui("wine", "reg", "add", r"HKCU\Software\Classes" + chiave, "/ve", "/f", "/d",
+            schermo.finestre.esegui("wine", "reg", "add", r"HKLM\Software\Classes" + chiave, "/ve", "/f", "/d",
                                     valore, stdout=subprocess.DEVNULL)
         scelta = schermo.finestre.utente("AppData", "Local", "somme")
         shutil.rmtree(scelta, ignore_errors=True)
@@ -173,8 +173,8 @@ def prova_avvio(archivio, _, __, radice):
                 file.write(f'#!/bin/sh\nexec wine "{dove}/{nome}"\n')
             os.chmod(lancio, 0o755)
             lanci.append(lancio)
-        # Something that stays, so that Wine's server is there for every start.
-        schermo.avvia("wine", "explorer.exe", "/desktop=sfondo,16x16", env=schermo.finestre.ambiente())
+        # Something that stays, so that Wine's server and desktop are there for every start.
+        schermo.avvia("wine", "notepad.exe", env=schermo.finestre.ambiente())
         detto = subprocess.run([misura, *lanci], env=schermo.finestre.ambiente(), check=False,
                                stdout=subprocess.PIPE, text=True, timeout=900).stdout
     print(detto, end="")
