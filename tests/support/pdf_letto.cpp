@@ -65,12 +65,12 @@ bool PdfLetto::caratteriInclusi() const {
 
 QImage PdfLetto::immagine(int pagina, int puntiPerPollice) const {
   const QString numero = QString::number(pagina);
-  const QString uscita = cartella_.filePath(QStringLiteral("pagina"));
-  (void)esegui(QStringLiteral("pdftoppm"),
-               {QStringLiteral("-r"), QString::number(puntiPerPollice), QStringLiteral("-f"),
-                numero, QStringLiteral("-l"), numero, QStringLiteral("-png"),
-                QStringLiteral("-singlefile"), file_, uscita});
-  return QImage(uscita + QStringLiteral(".png"));
+  // Plain pixels by way of the pipe: to pack and unpack them would take as long as to draw them.
+  return QImage::fromData(
+      esegui(QStringLiteral("pdftoppm"),
+             {QStringLiteral("-r"), QString::number(puntiPerPollice), QStringLiteral("-f"), numero,
+              QStringLiteral("-l"), numero, QStringLiteral("-singlefile"), file_}),
+      "PPM");
 }
 
 QRectF inchiostro(const QImage& immagine, int puntiPerPollice, int soglia) {
