@@ -51,8 +51,9 @@ endfunction()
 
 # Tests: the classes of a folder make one program, test_<folder>, of the files <name>_test.cpp beside the
 # caller and of SOURCES. ctest runs each class in a process of its own, as folder/name. Tests run
-# without a display unless they say otherwise. The presets run tests of a weight of four at once: two of
-# these, which keep a core busy each, or four that mostly wait for a window.
+# without a display unless they say otherwise. Five of a weight run at once for each
+# core. One of these weighs four, since it keeps a core busy; one that mostly waits weighs one. They begin
+# after the longest of those, and before the others, so that work and waiting go side by side to the end.
 #
 # Classes that may not share a program with their neighbours, for what they link, say APART <word>: theirs
 # is test_<folder>_<word>.
@@ -80,7 +81,7 @@ function(somme_tests)
       DEPENDS ${name}_test.cpp VERBATIM)
     target_sources(${target} PRIVATE ${name}_test.cpp "${CMAKE_CURRENT_BINARY_DIR}/${name}_test.moc")
     add_test(NAME "${ARG_FOLDER}/${name}" COMMAND ${target} ${name})
-    set_tests_properties("${ARG_FOLDER}/${name}" PROPERTIES TIMEOUT ${ARG_TIMEOUT} PROCESSORS 2
+    set_tests_properties("${ARG_FOLDER}/${name}" PROPERTIES TIMEOUT ${ARG_TIMEOUT} PROCESSORS 4 COST 50
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;SDL_AUDIODRIVER=dummy"
       SKIP_REGULAR_EXPRESSION "SKIP  :")
   endforeach()
