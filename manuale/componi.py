@@ -3,6 +3,7 @@
 
     componi.py <page> <texts> <language file> <book> <folder of pictures> ...
     componi.py --controlla <page> <texts> <folder of language files>
+    componi.py --pagine <book as PDF>
 
 The page (libro.html.in) says what stands where: {name} is a text of the texts, {=Section/Key} one
 of the language file, without the mark of its access key. A picture is put in by its name; one that
@@ -18,7 +19,8 @@ In them <i> is what the program says, word for word, <kbd> a key, <code> what st
 
 The second call tells whether the texts of a language fit the page and those of the other languages
 beside them: none is missing or left over, each bears the same marks in every language, and what
-stands in <i> is said by the program in that language. It ends with 1 where something is wrong.
+stands in <i> is said by the program in that language. It ends with 1 where something is wrong. So does the
+third, where a book has more than twenty pages.
 """
 
 import base64
@@ -130,7 +132,21 @@ def controlla(pagina, percorso, cartella):
     return 1 if trovate else 0
 
 
+PAGINE = 20
+
+
+def conta(percorso):
+    with open(percorso, "rb") as file:
+        pagine = len(re.findall(rb"/Type */Page\b", file.read()))
+    if 0 < pagine <= PAGINE:
+        return 0
+    print(f"{percorso} has {pagine} pages, {PAGINE} at most", file=sys.stderr)
+    return 1
+
+
 def main():
+    if sys.argv[1] == "--pagine":
+        return conta(*sys.argv[2:])
     if sys.argv[1] == "--controlla":
         return controlla(*sys.argv[2:])
     pagina, percorso, lingua, esito, *cartelle = sys.argv[1:]

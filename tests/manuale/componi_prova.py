@@ -118,6 +118,14 @@ class Componi(unittest.TestCase):
         self.assertEqual(esito.returncode, 1)
         self.assertIn("primo quotes what the program does not say: Esci", esito.stderr)
 
+    def test_a_book_of_more_than_twenty_pages_is_refused_and_so_is_one_without_any(self):
+        for pagine, esito in ((1, 0), (20, 0), (21, 1), (0, 1)):
+            with self.subTest(pagine):
+                self.metti("libro.pdf", "<</Type /Pages /Count 9>>" + "<</Type /Page /Parent 1 0 R>>" * pagine)
+                fatto = self.chiama("--pagine", self.percorso("libro.pdf"))
+                self.assertEqual(fatto.returncode, esito)
+                self.assertEqual("pages, 20 at most" in fatto.stderr, esito == 1)
+
 
 class Libri(unittest.TestCase):
     """The manuals as they stand."""
