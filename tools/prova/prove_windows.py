@@ -14,7 +14,8 @@ def main():
     finestre = Finestre()
     finestre.prepara()
     ambiente = {**finestre.ambiente(), "WINEPATH": di_windows(*LIBRERIE),
-                "WINEQT_PLUGIN_PATH": di_windows(*PLUGIN), "WINEQT_QPA_PLATFORM": "offscreen"}
+                "WINEQT_PLUGIN_PATH": di_windows(*PLUGIN), "WINEQT_QPA_PLATFORM": "offscreen",
+                "WINEQT_FORCE_STDERR_LOGGING": "1"}
     try:
         return subprocess.run(["ctest", "--test-dir", COSTRUITO, "--output-on-failure", "-j2", *sys.argv[1:]],
                               env=ambiente, check=False).returncode

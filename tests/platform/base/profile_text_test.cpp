@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "platform/base/system_files.h"
 #include "support/iscrizione.h"
 
 using platform::ProfileText;
@@ -157,7 +158,7 @@ class ProfileTextTest : public QObject {
     QCOMPARE(withLabel("[FormMenu]\nx=1\n\n\n[B]\ny=2\n", QStringLiteral("a")),
              QByteArray("[FormMenu]\nx=1\nLabel1.Caption=a\n\n\n[B]\ny=2\n"));
     QCOMPARE(withLabel("[FormMenu]", QStringLiteral("a")),
-             QByteArray("[FormMenu]\nLabel1.Caption=a"));
+             "[FormMenu]" + platform::lineEnd() + "Label1.Caption=a");
     QCOMPARE(withLabel("[FormMenu]\r\n", QStringLiteral("a")),
              QByteArray("[FormMenu]\r\nLabel1.Caption=a\r\n"));
     QCOMPARE(withLabel("[FormMenu]\nx=1\n[B]\n[FormMenu]\ny=2\n", QStringLiteral("a")),
@@ -165,9 +166,10 @@ class ProfileTextTest : public QObject {
   }
 
   void aNewSectionGoesToTheEnd() {
-    QCOMPARE(withLabel("", QStringLiteral("a")), QByteArray("[FormMenu]\nLabel1.Caption=a\n"));
-    QCOMPARE(withLabel("\xEF\xBB\xBF", QStringLiteral("a")),
-             QByteArray("\xEF\xBB\xBF[FormMenu]\nLabel1.Caption=a\n"));
+    const QByteArray section =
+        "[FormMenu]" + platform::lineEnd() + "Label1.Caption=a" + platform::lineEnd();
+    QCOMPARE(withLabel("", QStringLiteral("a")), section);
+    QCOMPARE(withLabel("\xEF\xBB\xBF", QStringLiteral("a")), "\xEF\xBB\xBF" + section);
     QCOMPARE(withLabel("[A]\r\nx=1", QStringLiteral("a")),
              QByteArray("[A]\r\nx=1\r\n[FormMenu]\r\nLabel1.Caption=a\r\n"));
   }

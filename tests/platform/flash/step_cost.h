@@ -1,10 +1,8 @@
 #pragma once
 
-#include <malloc.h>
-
 #include <ctime>
-#include <fstream>
-#include <string>
+
+#include "peak_memory.h"
 
 // What one step of a movie takes: the processor's time, since the machine may have other things to
 // do, and memory.
@@ -26,24 +24,8 @@ struct Cost {
   [[nodiscard]] bool isBounded() const { return milliseconds < kLongest && megabytes <= kMost; }
 };
 
-// The most that the process has held in memory since the last forgetPeak(), in megabytes.
-inline long peakMegabytes() {
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  long kilobytes = 0;
-  while (status >> word) {
-    if (word == "VmHWM:") status >> kilobytes;
-  }
-  return kilobytes / 1024;
-}
-
-inline void forgetPeak() {
-  std::ofstream("/proc/self/clear_refs") << "5";
-}
-
 template <typename Run>
 Cost costOf(Run run) {
-  malloc_trim(0);  // what came before must not hide what this takes
   forgetPeak();
   const long before = peakMegabytes();
   const std::clock_t begin = std::clock();
