@@ -45,7 +45,7 @@ class Pictures {
 
   // The room that pixels take now, in bytes, and the most that they ever take.
   [[nodiscard]] qsizetype heldBytes() const { return held_.totalCost(); }
-  static constexpr qsizetype kHeldBytes = 3'000'000;
+  static constexpr qsizetype kHeldBytes = 16'000'000;
 
  private:
   // How a drawing stands on its pixels: its part, or all of it, and its place from the pixel in

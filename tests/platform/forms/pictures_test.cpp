@@ -213,9 +213,9 @@ class PicturesTest : public QObject {
     QVERIFY(pictures.heldBytes() < kBytes * 11 / 10);
     paintAt(0);
     QVERIFY(pictures.heldBytes() < kBytes * 11 / 10);
-    for (int i = 0; i < 20; ++i) {
-      paintAt(i * 0.03);
-      paintAt(i * 0.03);
+    for (int i = 0; i < 2 * Pictures::kHeldBytes / kBytes; ++i) {
+      paintAt(i * 0.01);
+      paintAt(i * 0.01);
       QVERIFY(pictures.heldBytes() <= Pictures::kHeldBytes);
     }
     QVERIFY(pictures.heldBytes() > Pictures::kHeldBytes / 2);
