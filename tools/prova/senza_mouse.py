@@ -6,7 +6,7 @@ the way: they would cost more than the game.
 
 import time
 
-from giocatore import BOTTONE, ESCI, STRADA_DEI_MODI, TESTO, VOCE, Errore, Giocatore
+from giocatore import AVVIO, BOTTONE, ESCI, PAUSA_FORMA, STRADA_DEI_MODI, TESTO, VOCE, Errore, Giocatore
 from mani import Tastiera
 
 # The keys after which a control counts as one that cannot be reached by them: a hundred cells are
@@ -38,6 +38,13 @@ class _SenzaMouse(Giocatore):
         pass
 
     def vai(self, bottone):
+        # What comes while a form is on its way onto the screen is dropped, whoever sends it. The first one
+        # waits for the window, too.
+        self.albero.aspetta_oggetto(BOTTONE, bottone)
+        self.albero.aspetta("a control with the focus", lambda: any(
+            oggetto.ha_il_fuoco for oggetto in self.albero.visibili()))
+        if bottone == AVVIO:
+            time.sleep(PAUSA_FORMA)
         self.premi(bottone)
 
     def _casella(self):
