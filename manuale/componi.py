@@ -136,6 +136,7 @@ PAGINE = 20
 
 
 def conta(percorso):
+    """Whether a book keeps to its pages: the exit code; and says where it does not."""
     with open(percorso, "rb") as file:
         pagine = len(re.findall(rb"/Type */Page\b", file.read()))
     if 0 < pagine <= PAGINE:

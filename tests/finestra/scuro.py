@@ -14,6 +14,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../tools/prova"))
 
+from albero import Albero  # noqa: E402
 from mani import Mani  # noqa: E402
 from schermo import Schermo  # noqa: E402
 from senza_bus import LIMITE, guarda as sguardo  # noqa: E402
@@ -73,7 +74,6 @@ def guarda(schermo, mani, programma, colori, attese=None):
     def segue():
         viste.append(diventa(schermo, attese[len(viste)]) if attese else ferma(schermo, viste[-1]))
 
-    from albero import Albero
     with tempfile.TemporaryDirectory() as cartella:
         scrivi_colori(cartella, *colori)
         ambiente = {**os.environ, "XDG_CONFIG_HOME": cartella, "XDG_CURRENT_DESKTOP": "KDE",

@@ -13,6 +13,7 @@ from schermo_wine import COSTRUITO, LIBRERIE, PLUGIN, Finestre, di_windows
 def main():
     finestre = Finestre()
     finestre.prepara()
+    # The last one, since a test for Windows would tell its failures to a debugger alone.
     ambiente = {**finestre.ambiente(), "WINEPATH": di_windows(*LIBRERIE),
                 "WINEQT_PLUGIN_PATH": di_windows(*PLUGIN), "WINEQT_QPA_PLATFORM": "offscreen",
                 "WINEQT_FORCE_STDERR_LOGGING": "1"}

@@ -10,7 +10,6 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <algorithm>
-#include <memory>
 #include <vector>
 
 #include "platform/base/paper_codes.h"
