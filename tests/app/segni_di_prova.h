@@ -26,18 +26,34 @@ inline QRgb Fondo(const QImage& immagine) {
 }
 
 // A picture with the mark and one without it. Without any of its own, the ground is the colour that
-// most of the picture has.
+// most of the picture has. `tra`: the grounds that a mark lies between; it must stand out of each.
+// Else it is held against what it covers, which may be an outline that it only replaces.
 struct Coppia {
   QImage con;
   QImage senza = {};
+  std::vector<QColor> tra = {};
 };
+
+// A ring round a control, and what lies `intorno` pixels round it: `spoglia` takes the ring off. It
+// lies between the ground round the control and the control's own.
+[[nodiscard]] inline Coppia Anello(const QWidget& controllo, int intorno,
+                                   const std::function<void()>& spoglia) {
+  QWidget* finestra = controllo.window();
+  const QRect posto(controllo.mapTo(finestra, QPoint()), controllo.size());
+  const auto ritratto = [finestra](const QRect& parte) { return finestra->grab(parte).toImage(); };
+  const QRect tutto = posto.adjusted(-intorno, -intorno, intorno, intorno);
+  const QImage con = ritratto(tutto);
+  spoglia();
+  const QRect sopra(tutto.topLeft(), QSize(tutto.width(), intorno));
+  return {con, ritratto(tutto), {QColor(Fondo(ritratto(sopra))), QColor(Fondo(ritratto(posto)))}};
+}
 
 // The contrast that the core of a mark reaches: a third of the pixels by which the pictures differ.
 // Edges are smoothed, and what an outline encloses may be pale. 1 for no mark at all.
 [[nodiscard]] inline double Spicca(const Coppia& coppia) {
   constexpr int kVisibile = 12;  // of 255
   const QColor fondo(Fondo(coppia.con));
-  std::vector<double> contrasti;
+  std::vector<std::vector<double>> contrasti(std::max<std::size_t>(1, coppia.tra.size()));
   for (int y = 0; y < coppia.con.height(); ++y) {
     for (int x = 0; x < coppia.con.width(); ++x) {
       const QColor segno = coppia.con.pixelColor(x, y);
@@ -45,13 +61,21 @@ struct Coppia {
       const int scarto =
           std::max({std::abs(segno.red() - sotto.red()), std::abs(segno.green() - sotto.green()),
                     std::abs(segno.blue() - sotto.blue())});
-      if (scarto > kVisibile) contrasti.push_back(platform::contrast(segno, sotto));
+      if (scarto <= kVisibile) continue;
+      for (std::size_t i = 0; i < contrasti.size(); ++i) {
+        contrasti[i].push_back(
+            platform::contrast(segno, coppia.tra.empty() ? sotto : coppia.tra[i]));
+      }
     }
   }
   constexpr std::size_t kFewest = 6;  // pixels of the smallest mark
-  if (contrasti.size() < kFewest) return 1;
-  std::ranges::sort(contrasti, std::greater());
-  return contrasti[contrasti.size() / 3];
+  if (contrasti.front().size() < kFewest) return 1;
+  double minimo = 21;
+  for (std::vector<double>& uno : contrasti) {
+    std::ranges::sort(uno, std::greater());
+    minimo = std::min(minimo, uno[uno.size() / 3]);
+  }
+  return minimo;
 }
 
 // The part of a picture from so many hundredths of its width and height on, to others.

@@ -16,6 +16,7 @@
 #include "support/risposta_giusta.h"
 
 using platform::Control;
+using prova::Anello;
 using prova::Banco;
 using prova::Coppia;
 using prova::DialogoDiProva;
@@ -40,12 +41,12 @@ Control& Chiamato(Banco& banco, const char* nome) {
   throw std::logic_error(nome);
 }
 
-// A picture of a control with the focus and one without.
+constexpr int kIntorno = 14;  // pixels round a control that has a ring
+
+// The ring of the focus, between the control's ground and what lies round it.
 Coppia ColFuoco(Control& controllo, Control& altro) {
-  altro.setFocus();
-  const QImage senza = Ritratto(controllo);
   controllo.setFocus();
-  return {Ritratto(controllo), senza};
+  return Anello(*controllo.widget(), kIntorno, [&altro] { altro.setFocus(); });
 }
 
 // After an answer, when what moves has come to rest.
@@ -179,15 +180,7 @@ Coppia SegnoDelCambio() {
   auto& forma = prova::apriLU(banco, 47, 35);
   if (!prova::unisciScandendo(banco, forma)) return {};
   QWidget* pulsante = forma.PulsanteCambio->widget();
-  constexpr int kIntorno = 14;  // pixels
-  const QRect posto = pulsante->geometry().adjusted(-kIntorno, -kIntorno, kIntorno, kIntorno);
-  const auto riga = [&] {
-    const QImage tutto = pulsante->parentWidget()->grab(posto).toImage();
-    return tutto.copy(0, tutto.height() / 2, 2 * kIntorno, 4);
-  };
-  const QImage con = riga();
-  pulsante->clearFocus();
-  return {con, riga()};
+  return Anello(*pulsante, kIntorno, [pulsante] { pulsante->clearFocus(); });
 }
 
 Coppia AnelloSu(std::string_view nome, const char* controllo, const char* altro) {
