@@ -53,7 +53,8 @@ class FormMenu final : public Forma {
   void onActivate() override;
 
  private:
-  platform::CaptionSize scritte_;  // of the ways to the families
+  // Of the ways to the families: few, and all of one rank.
+  platform::CaptionSize scritte_{platform::CaptionSize::Kind::Pair};
   platform::ButtonGroup strade_;
 
   void CollegaMenu();

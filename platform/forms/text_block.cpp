@@ -60,6 +60,16 @@ bool mayFit(double length, int pixels, QSize room) {
   return kSurely * length * pixels <= lines * room.width();
 }
 
+// The text with its line ends, where no line begins with a number: "up to / 10" reads as two
+// things. As long as the text.
+QString forLines(QString text) {
+  text.replace(u'\n', QChar::LineSeparator);
+  for (qsizetype i = 1; i < text.size(); ++i) {
+    if (text[i - 1] == u' ' && text[i].isDigit()) text[i - 1] = QChar::Nbsp;
+  }
+  return text;
+}
+
 // The height that the letters of a text of several lines can take. Room for accents over capitals
 // is left only where there are some: else lines of small letters would be set far apart.
 Ink inkOfLines(const QString& text, const QFont& font) {
@@ -159,9 +169,7 @@ bool TextBlock::layOut() {
   ink = inkOfLines(text_, font_);
   above_ = ink.above;
   lineHeight_ = ink.height() + font_.pixelSize() * kLineGap;
-  QString lines = text_;
-  lines.replace(u'\n', QChar::LineSeparator);
-  layout_ = std::make_unique<QTextLayout>(lines, font_);
+  layout_ = std::make_unique<QTextLayout>(forLines(text_), font_);
   QTextOption option;
   option.setWrapMode(QTextOption::WordWrap);
   layout_->setTextOption(option);

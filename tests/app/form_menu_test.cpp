@@ -36,7 +36,37 @@ class FormMenuTest : public QObject {
     QCoreApplication::processEvents();
   }
 
+  // The height of the words of a family, which stand to the right of its picture.
+  static int altezza(const platform::Button& famiglia) {
+    const QImage tutto = famiglia.widget()->grab().toImage();
+    const QRect parole(tutto.width() / 2, 8, tutto.width() / 2 - 8, tutto.height() - 16);
+    int prima = parole.bottom();
+    int ultima = parole.top();
+    for (int y = parole.top(); y <= parole.bottom(); ++y) {
+      for (int x = parole.left(); x <= parole.right(); ++x) {
+        if (tutto.pixelColor(x, y).lightness() >= 100) continue;
+        prima = std::min(prima, y);
+        ultima = std::max(ultima, y);
+      }
+    }
+    return ultima - prima + 1;
+  }
+
  private Q_SLOTS:
+  void theFamiliesAreWrittenInLettersOfOneSizeHoweverLongTheirNames() {
+    Banco banco({800, 600}, prova::SenzaEsercizi);
+    FormMenu& menu = apri(banco);
+    const auto famiglie = std::to_array<platform::Button*>(
+        {&menu.Command2, &menu.Command3, &menu.Command4, &menu.Command5, &menu.Command6});
+    for (platform::Button* una : famiglie) una->setCaption(QStringLiteral("HH"));
+    const int prima = altezza(menu.Command2);
+    menu.Command2.setCaption(QStringLiteral("HHHHHHHH"));
+    QVERIFY(altezza(menu.Command2) * 10 < prima * 8);
+    for (const platform::Button* una : famiglie) {
+      QVERIFY(std::abs(altezza(*una) - altezza(menu.Command2)) <= 1);
+    }
+  }
+
   void everyButtonLeadsToItsMenuAndUnloadsThisForm_data() {
     QTest::addColumn<int>("bottone");
     QTest::addColumn<QString>("forma");

@@ -65,33 +65,41 @@ FormaNumeriTastiera& Numeri(Banco& banco) {
 // The way along neighbouring cells, over the picture of the form: a ring round the first, and a hop
 // beside the numbers to each of the next.
 void Percorso(QImage& ritratto, FormTabella& forma, std::span<const int> celle) {
-  constexpr double kSpessore = 4;  // points, as all that follows
-  constexpr double kAnello = 17;
-  constexpr double kPiede = 13;  // from the middle of a cell to the ends of a hop beside it
-  constexpr double kArco = 34;   // to where the hop would go if it were not round
-  constexpr double kPunta = 8;
+  // Parts of a cell's height.
+  constexpr double kSpessore = 0.08;
+  constexpr double kAnello = 0.36;
+  constexpr double kSopra = 0.28;  // from the middle of a cell to the ends of a hop above a number
+  constexpr double kAccanto = 0.42;  // and beside one, which is wider than high
+  constexpr double kArco = 0.4;      // from the ends to where the hop would go if it were not round
+  constexpr double kPunta = 0.17;
   const QColor colore(200, 60, 0);
+  // Of the digits, which a blank in front of them moves to the right.
   const auto mezzo = [&forma](int cella) {
     const QWidget* widget = forma.Numero[cella].widget();
-    return QPointF(widget->mapTo(widget->window(), widget->rect().center()));
+    const QString scritta = forma.Numero[cella].caption();
+    const QString vuoto = scritta.left(scritta.size() - scritta.trimmed().size());
+    return QPointF(widget->mapTo(widget->window(), widget->rect().center())) +
+           QPointF(QFontMetricsF(widget->font()).horizontalAdvance(vuoto) / 2, 0);
   };
+  const double unita = forma.Numero[celle.front()].widget()->height();
   QPainter pennello(&ritratto);
   pennello.setRenderHint(QPainter::Antialiasing);
-  pennello.setPen(QPen(colore, kSpessore, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  pennello.drawEllipse(mezzo(celle.front()), kAnello, kAnello);
+  pennello.setPen(QPen(colore, kSpessore * unita, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  pennello.drawEllipse(mezzo(celle.front()), kAnello * unita, kAnello * unita);
   for (std::size_t i = 1; i < celle.size(); ++i) {
     const QLineF passo(mezzo(celle[i - 1]), mezzo(celle[i]));
     const QPointF verso = (passo.p2() - passo.p1()) / passo.length();
     const QPointF fuori(-verso.y(), -verso.x());  // above on the way right, left on that down
-    const double via = i == 1 ? kAnello : kPiede;
-    const QPointF arrivo = passo.p2() + fuori * kPiede;
-    QPainterPath salto(passo.p1() + fuori * via);
-    salto.quadTo(passo.center() + fuori * kArco, arrivo);
+    const double piede = (verso.y() > 0.5 ? kAccanto : kSopra) * unita;
+    const QPointF arrivo = passo.p2() + fuori * piede;
+    const QPointF cima = passo.center() + fuori * (piede + kArco * unita);
+    QPainterPath salto(passo.p1() + fuori * (i == 1 ? kAnello * unita : piede));
+    salto.quadTo(cima, arrivo);
     pennello.setBrush(Qt::NoBrush);
     pennello.drawPath(salto);
-    const QPointF indietro = (passo.center() + fuori * kArco - arrivo) / 2.4;
+    const QPointF indietro = cima - arrivo;
     const QPointF lato(indietro.y(), -indietro.x());
-    const double misura = kPunta / std::hypot(indietro.x(), indietro.y());
+    const double misura = kPunta * unita / std::hypot(indietro.x(), indietro.y());
     pennello.setBrush(colore);
     pennello.drawConvexPolygon(QPolygonF({arrivo, arrivo + (indietro + lato * 0.7) * misura,
                                           arrivo + (indietro - lato * 0.7) * misura}));

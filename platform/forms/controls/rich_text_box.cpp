@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <cmath>
 
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
@@ -13,6 +14,7 @@ namespace platform::inline forms {
 namespace {
 
 constexpr QColor kEdge(110, 110, 110);
+constexpr double kMargin = 0.75;  // of the letters' size, from the paper's edge to the text
 
 }  // namespace
 
@@ -33,6 +35,7 @@ void RichTextBox::applyLook() {
   auto* box = static_cast<QPlainTextEdit*>(widget());
   box->setFont(fontOf(fontSpec(), fontPixels()));
   box->setLineWidth(markPixels(*box, 1));
+  box->document()->setDocumentMargin(std::round(fontPixels() * kMargin));
   box->setToolTip(toolTip());
   box->setAccessibleName(toolTip());
   QPalette palette = box->palette();

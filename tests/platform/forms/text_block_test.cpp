@@ -139,6 +139,20 @@ class TextBlockTest : public QObject {
     QVERIFY(block.size().height() <= 30);
   }
 
+  void noLineBeginsWithANumber() {
+    TextBlock together;
+    together.set(QStringLiteral("Summanden bis"), tahoma(20), {400, 60}, Align::Left, false);
+    TextBlock alone;
+    alone.set(QStringLiteral("Summanden"), tahoma(20), {400, 60}, Align::Left, false);
+    // Room for the first two words on a line, not for the number.
+    const QSize room(together.size().width() + 5, 60);
+    TextBlock block;
+    block.set(QStringLiteral("Summanden bis 10"), tahoma(20), room, Align::Left, false);
+    QCOMPARE(block.pixelSize(), 20);
+    QVERIFY(block.size().height() > together.size().height());
+    QVERIFY(std::abs(block.size().width() - alone.size().width()) <= 2);
+  }
+
   void roomForAccentsOverCapitalsIsLeftOnlyWhereThereAreSome() {
     TextBlock small;
     TextBlock tall;

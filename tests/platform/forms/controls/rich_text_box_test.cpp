@@ -63,6 +63,29 @@ class RichTextBoxTest : public QObject {
     QCOMPARE(editOf(form).toPlainText(), QStringLiteral("new"));
   }
 
+  void theTextKeepsClearOfThePapersEdge() {
+    Stage stage;
+    TrialForm& form = opened(stage);
+    form.PanelText.setText(QStringLiteral("HHH"));
+    for (const QSize window : {QSize(800, 600), QSize(1920, 1440)}) {
+      stage.resize(window);
+      const QImage paper = editOf(form).viewport()->grab().toImage();
+      int left = paper.width();
+      int top = paper.height();
+      for (int y = 0; y < paper.height(); ++y) {
+        for (int x = 0; x < paper.width(); ++x) {
+          if (paper.pixelColor(x, y).lightness() >= 128) continue;
+          left = std::min(left, x);
+          top = std::min(top, y);
+        }
+      }
+      const int letters = editOf(form).font().pixelSize();
+      QVERIFY(letters > 8);
+      QVERIFY2(left * 3 >= letters * 2, qPrintable(QString::number(left)));
+      QVERIFY2(top * 3 >= letters * 2, qPrintable(QString::number(top)));
+    }
+  }
+
   void aLineIsAddedAtTheEndAndNothingIsRebuilt() {
     Stage stage;
     TrialForm& form = opened(stage);
