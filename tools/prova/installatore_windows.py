@@ -5,11 +5,13 @@ import subprocess
 import time
 
 from giocatore import AVVIO, Errore, Giocatore
-from schermo_wine import SchermoWine
+from schermo_wine import Finestre, SchermoWine
 
 # What Wine writes by itself: the folder of a user's own programs among it, when somebody asks where it is.
 DI_WINE = (".reg", "/temp/", "/Temp/")
 DI_WINE_SOLA = "/AppData/Local/Programs"
+# The languages of the installer, each with a country that speaks it.
+PAESI = ("it_IT", "en_GB", "fr_FR", "de_DE", "es_ES")
 
 
 class Disco:
@@ -37,7 +39,8 @@ def prova_installatore(installatore, foto):
     with SchermoWine() as schermo:
         for modo, dove in (("/AllUsers", "HKLM"), ("/CurrentUser", "HKCU")):
             _installa_e_togli(schermo, installatore, modo, dove, foto)
-        _pagine(schermo, installatore, foto)
+    for paese in PAESI:
+        _pagine(installatore, paese, foto)
 
 
 def _installa_e_togli(schermo, installatore, modo, dove, foto):
@@ -73,11 +76,61 @@ def _installa_e_togli(schermo, installatore, modo, dove, foto):
     print(f"{modo}: removed, without remains")
 
 
-def _pagine(schermo, installatore, foto):
-    """The first page, to be looked at."""
-    processo = schermo.avvia(installatore)
-    subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", "Esercitazioni sulle somme"],
-                   check=True, timeout=60, stdout=subprocess.DEVNULL)
-    time.sleep(2)
-    schermo.fotografa(os.path.join(foto, "installatore.png"))
-    processo.termina()
+class Pagine:
+    """The pages of the installer, each photographed as it comes."""
+
+    def __init__(self, schermo, cartella):
+        self._schermo, self._cartella = schermo, cartella
+        self.guarda()
+
+    def guarda(self):
+        """What is on the screen now belongs to no page that is still to come."""
+        self._prima = self._schermo.vista()
+
+    def fotografa(self, nome, riposo=1.3):
+        """What is on the screen, once it is another than it was, and the same for so many seconds."""
+        fine = time.monotonic() + 180
+        while time.monotonic() < fine:
+            vista = self._schermo.vista()
+            time.sleep(riposo)
+            if vista != self._prima and (not riposo or vista == self._schermo.vista()):
+                self._schermo.fotografa(os.path.join(self._cartella, nome + ".png"))
+                self.guarda()
+                return
+        raise Errore(f"the page {nome} does not come")
+
+
+def _pagine(installatore, paese, foto):
+    """Every page in one language, to be looked at: nothing of it may be cut."""
+    foto = os.path.join(foto, "installatore", paese)
+    with SchermoWine(finestre=Finestre(paese=paese)) as schermo:
+        pagine = Pagine(schermo, foto)
+        schermo.avvia(installatore)
+        pagine.fotografa("chi")
+        _batti("Return")
+        pagine.fotografa("dove")
+        _batti("Return")
+        pagine.fotografa("posa", riposo=0)
+        pagine.fotografa("fatto")
+        # What runs is not removed, and that it runs is said.
+        dove = os.path.join(schermo.finestre.radice, "drive_c", "Program Files", "somme")
+        processo = schermo.avvia(os.path.join(dove, "somme.exe"), cwd="/")
+        albero = schermo.albero(processo)
+        Giocatore(schermo, albero, foto).vai(AVVIO)
+        albero.aspetta_oggetto("push button", "Uso delle barre")
+        time.sleep(2)
+        pagine.guarda()
+        schermo.avvia(os.path.join(dove, "disinstalla.exe"), "/AllUsers")
+        pagine.fotografa("togli")
+        _batti("Return")
+        pagine.fotografa("aperto")
+        processo.termina()
+        pagine.guarda()
+        _batti("Return")
+        pagine.fotografa("tolto")
+        _batti("Return")
+    print(f"{paese}: each page of the installer photographed")
+
+
+def _batti(tasto):
+    subprocess.run(["xdotool", "key", tasto], check=True, timeout=30)

@@ -32,12 +32,23 @@ def di_windows(*cartelle):
 class Finestre:
     """Wine's own disk, with a user of its own, who shares no folder with this one's."""
 
-    def __init__(self, cartella=None):
+    def __init__(self, cartella=None, paese=None):
+        """paese: language and country whose words the system speaks, such as de_DE; English where none is."""
         self.radice = os.path.abspath(cartella or os.environ.get("WINEPREFIX") or os.path.join(COSTRUITO, "wine"))
+        self._paese = self._impara(paese) if paese else {}
+
+    def _impara(self, paese):
+        """Wine speaks the language that the C library knows: a folder teaches it one that this machine has not."""
+        nome, dove = paese + ".UTF-8", os.path.join(COSTRUITO, "paesi")
+        if not os.path.exists(os.path.join(dove, nome)):
+            os.makedirs(dove, exist_ok=True)
+            subprocess.run(["localedef", "-i", paese, "-f", "UTF-8", os.path.join(dove, nome)], check=True,
+                           timeout=PAZIENZA)
+        return {"LOCPATH": dove, "LC_ALL": nome}
 
     def ambiente(self):
         """The environment of a program that runs there."""
-        return {**os.environ, "WINEPREFIX": self.radice, "WINEDEBUG": "-all", "WINEARCH": "win64",
+        return {**os.environ, **self._paese, "WINEPREFIX": self.radice, "WINEDEBUG": "-all", "WINEARCH": "win64",
                 "WINEDLLOVERRIDES": "mscoree,mshtml=;winemenubuilder.exe=d"}
 
     def prepara(self):
