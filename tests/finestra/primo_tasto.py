@@ -53,6 +53,7 @@ class Tasti:
     def __init__(self, schermo, programma, a_fuoco):
         """a_fuoco: the window is one of the display's own, and has to be given the keyboard."""
         self.pausa = PAUSA if a_fuoco else PAUSA_COMPOSITORE
+        self.schermo = schermo
         self._processo = schermo.avvia(programma, stdout=subprocess.PIPE, text=True)
         self.righe = []
         self._pronta = threading.Event()
@@ -88,6 +89,7 @@ def fai(tasti, gesti, attese):
         if gesto == "wait":
             time.sleep(float(cosa))
             continue
+        tasti.schermo.attendi_il_fuoco()
         subprocess.run(["xdotool", gesto, cosa], check=True, timeout=30)
         time.sleep(tasti.pausa)
     tasti.attendi(len(attese))

@@ -121,6 +121,9 @@ class Schermo:
         """How far the places of the display lie from those that a program tells of itself."""
         return 0, 0
 
+    def attendi_il_fuoco(self):
+        """Until a window has the keyboard again, where another has gone; most desktops see to it at once."""
+
     def _per_i_programmi(self):
         """The environment of what is started here; None for that of this process."""
 

@@ -63,6 +63,15 @@ class SchermoWayland(Schermo):
         lato = (self._larghezza - larga) // 2
         return lato - x, self._altezza - alta - lato - y
 
+    def attendi_il_fuoco(self):
+        """Weston tells its X server so when the next thing happens there: a question does."""
+        if self._x:
+            self._attendi(self._a_fuoco, os.path.join(self._cartella, "compositore"))
+
+    def _a_fuoco(self, _):
+        return subprocess.run(["xdotool", "getwindowfocus"], env=self._per_i_programmi(), capture_output=True,
+                              check=False, timeout=PAZIENZA).stdout.strip()
+
     def _per_i_programmi(self):
         return {**os.environ, **self._diversi} if self._diversi else None
 

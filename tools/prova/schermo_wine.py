@@ -123,7 +123,7 @@ class SchermoWine(Schermo):
         self._occhi.append(occhio)
         ambiente = {**self.finestre.ambiente(), "WINEQT_PLUGIN_PATH": di_windows(PLUGIN[0]),
                     "WINEQT_QPA_GENERIC_PLUGINS": f"occhio:{occhio.getsockname()[1]}", **opzioni.pop("env", {})}
-        if COSTRUITO in os.path.abspath(comando[0]) and "pacco" not in comando[0]:
+        if os.path.abspath(comando[0]).startswith(os.path.join(COSTRUITO, "tests", "")):
             ambiente.update(WINEPATH=di_windows(*LIBRERIE), WINEQT_PLUGIN_PATH=di_windows(*PLUGIN))
         processo = super().avvia("wine", *comando, env=ambiente, **opzioni)
         processo.occhio = occhio
