@@ -58,6 +58,9 @@ endfunction()
 # Classes that may not share a program with their neighbours, for what they link, say APART <word>: theirs
 # is test_<folder>_<word>.
 #
+# Where headers are compiled once, the classes of a program are several at a time, too: what stands in the
+# file button_test.cpp stands in the namespace button_test.
+#
 #   somme_tests(FOLDER platform/base LINKS somme::platform_base NAMES numbers profile_file)
 function(somme_tests)
   cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT;APART" "LINKS;NAMES;SOURCES" ${ARGN})
@@ -89,6 +92,11 @@ endfunction()
 
 # How a program of tests is compiled: with the headers of the first set whose pattern its links match.
 function(somme_tests_compilation target links)
+  if(SOMME_COMPILED_HEADERS)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
+    # A class of a test may use what stands in its file alone, also where that is not the main one.
+    target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+  endif()
   target_compile_options(${target} PRIVATE ${SOMME_TESTS_OPTIONS})
   if(links MATCHES "somme_prova|somme_stage")
     somme_compiled_headers(${target} prova_intestazioni)

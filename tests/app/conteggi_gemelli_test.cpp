@@ -8,6 +8,8 @@
 #include "support/come_dal_menu.h"
 #include "support/iscrizione.h"
 
+namespace conteggi_gemelli_test {
+
 using prova::Banco;
 using somme::FormaEsercizio;
 
@@ -92,4 +94,7 @@ class ConteggiGemelliTest : public QObject {
 };
 
 const prova::Iscrizione<ConteggiGemelliTest, QApplication> kIscritta;
+
+}  // namespace conteggi_gemelli_test
+
 #include "conteggi_gemelli_test.moc"

@@ -9,6 +9,8 @@
 #include "support/risposta_giusta.h"
 #include "support/tavolozza_del_desktop.h"
 
+namespace desktop_scuro_test {
+
 using prova::Banco;
 using prova::Risposta;
 using prova::TavolozzaDelDesktop;
@@ -71,4 +73,7 @@ class DesktopScuroTest : public QObject {
 };
 
 const prova::Iscrizione<DesktopScuroTest, QApplication> kIscritta;
+
+}  // namespace desktop_scuro_test
+
 #include "desktop_scuro_test.moc"

@@ -8,6 +8,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace disegni_test {
+
 using prova::Banco;
 
 // Every form's design against a table of its own: what the teacher sees when a form comes up.
@@ -115,4 +117,7 @@ class DisegniTest : public QObject {
 };
 
 const prova::Iscrizione<DisegniTest, QApplication> kIscritta;
+
+}  // namespace disegni_test
+
 #include "disegni_test.moc"

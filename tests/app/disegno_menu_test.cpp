@@ -10,6 +10,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace disegno_menu_test {
+
 using platform::Row;
 using platform::TwipsRect;
 using prova::Banco;
@@ -157,4 +159,7 @@ class DisegnoMenuTest : public QObject {
 };
 
 const prova::Iscrizione<DisegnoMenuTest, QApplication> kIscritta;
+
+}  // namespace disegno_menu_test
+
 #include "disegno_menu_test.moc"

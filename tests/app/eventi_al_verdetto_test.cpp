@@ -5,6 +5,10 @@
 #include "support/iscrizione.h"
 #include "support/risposta_giusta.h"
 
+Q_DECLARE_METATYPE(prova::Risposta)
+
+namespace eventi_al_verdetto_test {
+
 using prova::Banco;
 using prova::DesktopDiProva;
 
@@ -17,8 +21,6 @@ constexpr int kAlPiu = 12;
 constexpr int kAnnuncio = 2;
 
 }  // namespace
-
-Q_DECLARE_METATYPE(prova::Risposta)
 
 // What assistive technology is told at an answer, beside the words.
 class EventiAlVerdettoTest : public QObject {
@@ -81,4 +83,7 @@ class EventiAlVerdettoTest : public QObject {
 };
 
 const prova::Iscrizione<EventiAlVerdettoTest, QApplication> kIscritta;
+
+}  // namespace eventi_al_verdetto_test
+
 #include "eventi_al_verdetto_test.moc"

@@ -13,6 +13,8 @@
 #include "support/come_dal_menu.h"
 #include "support/iscrizione.h"
 
+namespace faccia_del_cambio_test {
+
 using prova::Banco;
 using somme::FoglioTastiera;
 using somme::frmAvviaStampa;
@@ -203,4 +205,7 @@ class FacciaDelCambioTest : public QObject {
 };
 
 const prova::Iscrizione<FacciaDelCambioTest, QApplication> kIscritta;
+
+}  // namespace faccia_del_cambio_test
+
 #include "faccia_del_cambio_test.moc"

@@ -8,6 +8,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace form_avvio_test {
+
 using prova::Banco;
 using somme::FormAvvio;
 using somme::forme::kFormAvvio;
@@ -164,4 +166,7 @@ class FormAvvioTest : public QObject {
 };
 
 const prova::Iscrizione<FormAvvioTest, QApplication> kIscritta;
+
+}  // namespace form_avvio_test
+
 #include "form_avvio_test.moc"

@@ -7,6 +7,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace form_info_test {
+
 using prova::Banco;
 using somme::FormInfo;
 using somme::forme::kFormInfo;
@@ -54,4 +56,7 @@ class FormInfoTest : public QObject {
 };
 
 const prova::Iscrizione<FormInfoTest, QApplication> kIscritta;
+
+}  // namespace form_info_test
+
 #include "form_info_test.moc"

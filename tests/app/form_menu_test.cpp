@@ -11,6 +11,8 @@
 #include "support/controfigura.h"
 #include "support/iscrizione.h"
 
+namespace form_menu_test {
+
 using prova::Banco;
 using somme::FormMenu;
 
@@ -305,4 +307,7 @@ class FormMenuTest : public QObject {
 };
 
 const prova::Iscrizione<FormMenuTest, QApplication> kIscritta;
+
+}  // namespace form_menu_test
+
 #include "form_menu_test.moc"

@@ -15,6 +15,8 @@
 #include "support/iscrizione.h"
 #include "support/pulsante.h"
 
+namespace forma_menu_test {
+
 using prova::Banco;
 using namespace somme;
 
@@ -320,4 +322,7 @@ class FormaMenuTest : public QObject {
 };
 
 const prova::Iscrizione<FormaMenuTest, QApplication> kIscritta;
+
+}  // namespace forma_menu_test
+
 #include "forma_menu_test.moc"

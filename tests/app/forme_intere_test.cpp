@@ -9,6 +9,8 @@
 #include "support/come_dal_menu.h"
 #include "support/iscrizione.h"
 
+namespace forme_intere_test {
+
 using prova::Banco;
 
 namespace {
@@ -69,4 +71,7 @@ class FormeIntereTest : public QObject {
 };
 
 const prova::Iscrizione<FormeIntereTest, QApplication> kIscritta;
+
+}  // namespace forme_intere_test
+
 #include "forme_intere_test.moc"

@@ -12,6 +12,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace immagini_dei_livelli_test {
+
 using platform::Row;
 using prova::Banco;
 using namespace somme;
@@ -111,4 +113,7 @@ class ImmaginiDeiLivelliTest : public QObject {
 };
 
 const prova::Iscrizione<ImmaginiDeiLivelliTest, QApplication> kIscritta;
+
+}  // namespace immagini_dei_livelli_test
+
 #include "immagini_dei_livelli_test.moc"

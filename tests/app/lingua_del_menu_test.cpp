@@ -12,6 +12,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace lingua_del_menu_test {
+
 using prova::Banco;
 using somme::FormMenu;
 
@@ -347,4 +349,7 @@ class LinguaDelMenuTest : public QObject {
 };
 
 const prova::Iscrizione<LinguaDelMenuTest, QApplication> kIscritta;
+
+}  // namespace lingua_del_menu_test
+
 #include "lingua_del_menu_test.moc"

@@ -8,6 +8,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace lingue_test {
+
 using prova::Banco;
 
 namespace {
@@ -264,4 +266,7 @@ class LingueTest : public QObject {
 };
 
 const prova::Iscrizione<LingueTest, QApplication> kIscritta;
+
+}  // namespace lingue_test
+
 #include "lingue_test.moc"

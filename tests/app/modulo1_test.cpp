@@ -7,6 +7,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace modulo1_test {
+
 using prova::Banco;
 
 namespace {
@@ -129,4 +131,7 @@ class Modulo1Test : public QObject {
 };
 
 const prova::Iscrizione<Modulo1Test, QApplication> kIscritta;
+
+}  // namespace modulo1_test
+
 #include "modulo1_test.moc"

@@ -9,6 +9,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace nomi_dei_posti_test {
+
 using platform::Control;
 using platform::Form;
 using prova::Banco;
@@ -117,4 +119,7 @@ class NomiDeiPostiTest : public QObject {
 };
 
 const prova::Iscrizione<NomiDeiPostiTest, QApplication> kIscritta;
+
+}  // namespace nomi_dei_posti_test
+
 #include "nomi_dei_posti_test.moc"

@@ -10,6 +10,8 @@
 #include "support/come_dal_menu.h"
 #include "support/iscrizione.h"
 
+namespace pulsanti_leggibili_test {
+
 using platform::Button;
 using prova::Banco;
 
@@ -140,4 +142,7 @@ class PulsantiLeggibiliTest : public QObject {
 };
 
 const prova::Iscrizione<PulsantiLeggibiliTest, QApplication> kIscritta;
+
+}  // namespace pulsanti_leggibili_test
+
 #include "pulsanti_leggibili_test.moc"

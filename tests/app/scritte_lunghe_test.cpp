@@ -7,6 +7,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace scritte_lunghe_test {
+
 using prova::Banco;
 
 // Captions that no language file should have.
@@ -74,4 +76,7 @@ class ScritteLungheTest : public QObject {
 };
 
 const prova::Iscrizione<ScritteLungheTest, QApplication> kIscritta;
+
+}  // namespace scritte_lunghe_test
+
 #include "scritte_lunghe_test.moc"

@@ -15,6 +15,8 @@
 #include "support/iscrizione.h"
 #include "support/risposta_giusta.h"
 
+namespace segni_leggibili_test {
+
 using platform::Control;
 using prova::Anello;
 using prova::Banco;
@@ -177,8 +179,8 @@ Coppia Verdetto(Risposta quale) {
 // The ring of a scanned key round the button of a carry, on the form's ground.
 Coppia SegnoDelCambio() {
   Banco banco(kFinestra);
-  auto& forma = prova::apriLU(banco, 47, 35);
-  if (!prova::unisciScandendo(banco, forma)) return {};
+  auto& forma = prova::scanditi::apriLU(banco, 47, 35);
+  if (!prova::scanditi::unisciScandendo(banco, forma)) return {};
   QWidget* pulsante = forma.PulsanteCambio->widget();
   return Anello(*pulsante, kIntorno, [pulsante] { pulsante->clearFocus(); });
 }
@@ -300,4 +302,7 @@ class SegniLeggibiliTest : public QObject {
 };
 
 const prova::Iscrizione<SegniLeggibiliTest, QApplication> kIscritta;
+
+}  // namespace segni_leggibili_test
+
 #include "segni_leggibili_test.moc"

@@ -16,6 +16,8 @@
 #include "support/come_dal_menu.h"
 #include "support/iscrizione.h"
 
+namespace tabella_forme_test {
+
 using platform::Control;
 using platform::Form;
 using platform::Row;
@@ -267,4 +269,7 @@ class TabellaFormeTest : public QObject {
 };
 
 const prova::Iscrizione<TabellaFormeTest, QApplication> kIscritta;
+
+}  // namespace tabella_forme_test
+
 #include "tabella_forme_test.moc"

@@ -13,6 +13,8 @@
 #include "support/iscrizione.h"
 #include "support/pulsante.h"
 
+namespace tasti_menu_test {
+
 using prova::Banco;
 
 namespace {
@@ -131,4 +133,7 @@ class TastiMenuTest : public QObject {
 };
 
 const prova::Iscrizione<TastiMenuTest, QApplication> kIscritta;
+
+}  // namespace tasti_menu_test
+
 #include "tasti_menu_test.moc"

@@ -9,8 +9,10 @@
 #include "platform/forms/text_block.h"
 #include "support/iscrizione.h"
 
+namespace tinte_test {
+
 using platform::Rgb;
-using namespace somme::disegno;
+using namespace somme::programma::disegno;
 
 // The families have the tints of the program's menus wherever they are shown: in the manuals and at
 // the top of README.
@@ -93,4 +95,7 @@ class TinteTest : public QObject {
 };
 
 const prova::Iscrizione<TinteTest, QCoreApplication> kIscritta;
+
+}  // namespace tinte_test
+
 #include "tinte_test.moc"

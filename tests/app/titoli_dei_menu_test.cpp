@@ -7,6 +7,8 @@
 #include "support/controfigura.h"
 #include "support/iscrizione.h"
 
+namespace titoli_dei_menu_test {
+
 using prova::Banco;
 using somme::FormMenuAbaco;
 using somme::FormMenuNumeri;
@@ -129,4 +131,7 @@ class TitoliDeiMenuTest : public QObject {
 };
 
 const prova::Iscrizione<TitoliDeiMenuTest, QApplication> kIscritta;
+
+}  // namespace titoli_dei_menu_test
+
 #include "titoli_dei_menu_test.moc"

@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace figura_test {
+
 using bench::alPiu;
 using bench::riga;
 using bench::sotto;
@@ -52,5 +54,7 @@ class FiguraTest : public QObject {
 };
 
 const prova::Iscrizione<FiguraTest> kIscritta;
+
+}  // namespace figura_test
 
 #include "figura_test.moc"

@@ -6,6 +6,8 @@
 #include "scripted_chance.h"
 #include "support/iscrizione.h"
 
+namespace casuale_test {
+
 using somme::Casuale;
 
 namespace {
@@ -60,4 +62,7 @@ class CasualeTest : public QObject {
 };
 
 const prova::Iscrizione<CasualeTest> kIscritta;
+
+}  // namespace casuale_test
+
 #include "casuale_test.moc"

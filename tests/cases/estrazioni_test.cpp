@@ -11,6 +11,8 @@
 #include "scripted_chance.h"
 #include "support/iscrizione.h"
 
+namespace estrazioni_test {
+
 using namespace somme;
 
 namespace {
@@ -180,7 +182,11 @@ Somma dieciPiu(const Tira& tira) {
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Regola)
+}  // namespace estrazioni_test
+
+Q_DECLARE_METATYPE(estrazioni_test::Regola)
+
+namespace estrazioni_test {
 
 class EstrazioniTest : public QObject {
   Q_OBJECT
@@ -253,4 +259,7 @@ class EstrazioniTest : public QObject {
 };
 
 const prova::Iscrizione<EstrazioniTest> kIscritta;
+
+}  // namespace estrazioni_test
+
 #include "estrazioni_test.moc"

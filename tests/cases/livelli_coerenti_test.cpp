@@ -7,6 +7,8 @@
 #include "scripted_chance.h"
 #include "support/iscrizione.h"
 
+namespace livelli_coerenti_test {
+
 using namespace somme;
 
 namespace {
@@ -167,4 +169,7 @@ class LivelliCoerentiTest : public QObject {
 };
 
 const prova::Iscrizione<LivelliCoerentiTest> kIscritta;
+
+}  // namespace livelli_coerenti_test
+
 #include "livelli_coerenti_test.moc"

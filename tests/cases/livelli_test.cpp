@@ -6,6 +6,8 @@
 
 #include "support/iscrizione.h"
 
+namespace livelli_test {
+
 using namespace somme;
 using namespace std::string_view_literals;
 
@@ -115,4 +117,7 @@ class LivelliTest : public QObject {
 };
 
 const prova::Iscrizione<LivelliTest> kIscritta;
+
+}  // namespace livelli_test
+
 #include "livelli_test.moc"

@@ -10,6 +10,8 @@
 #include "scripted_chance.h"
 #include "support/iscrizione.h"
 
+namespace modulo_somme_test {
+
 using namespace somme;
 
 namespace {
@@ -278,4 +280,7 @@ class ModuloSommeTest : public QObject {
 };
 
 const prova::Iscrizione<ModuloSommeTest> kIscritta;
+
+}  // namespace modulo_somme_test
+
 #include "modulo_somme_test.moc"

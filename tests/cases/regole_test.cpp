@@ -7,8 +7,6 @@
 #include "scripted_chance.h"
 #include "support/iscrizione.h"
 
-using namespace somme;
-
 namespace somme {
 
 // How a comparison that fails shows a case.
@@ -18,6 +16,10 @@ static char* toString(const Caso& caso) {
 }
 
 }  // namespace somme
+
+namespace regole_test {
+
+using namespace somme;
 
 namespace {
 
@@ -375,4 +377,7 @@ class RegoleTest : public QObject {
 };
 
 const prova::Iscrizione<RegoleTest> kIscritta;
+
+}  // namespace regole_test
+
 #include "regole_test.moc"

@@ -4,8 +4,6 @@
 
 #include "support/iscrizione.h"
 
-using namespace somme;
-
 namespace somme {
 
 // How a comparison that fails shows what stands on a board.
@@ -14,6 +12,10 @@ static char* toString(const Quantita& q) {
 }
 
 }  // namespace somme
+
+namespace blocchi_uniti_test {
+
+using namespace somme;
 
 class BlocchiUnitiTest : public QObject {
   Q_OBJECT
@@ -150,4 +152,7 @@ class BlocchiUnitiTest : public QObject {
 };
 
 const prova::Iscrizione<BlocchiUnitiTest> kIscritta;
+
+}  // namespace blocchi_uniti_test
+
 #include "blocchi_uniti_test.moc"

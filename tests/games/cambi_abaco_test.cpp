@@ -2,6 +2,8 @@
 
 #include "support/iscrizione.h"
 
+namespace cambi_abaco_test {
+
 using namespace somme;
 using prova::ConFrecce;
 using prova::ConTasti;
@@ -257,4 +259,7 @@ class CambiAbacoTest : public QObject {
 };
 
 const prova::Iscrizione<CambiAbacoTest> kIscritta;
+
+}  // namespace cambi_abaco_test
+
 #include "cambi_abaco_test.moc"

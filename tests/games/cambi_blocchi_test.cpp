@@ -2,6 +2,8 @@
 
 #include "support/iscrizione.h"
 
+namespace cambi_blocchi_test {
+
 using namespace somme;
 using prova::GiocoHLU;
 using prova::GiocoLU;
@@ -154,4 +156,7 @@ class CambiBlocchiTest : public QObject {
 };
 
 const prova::Iscrizione<CambiBlocchiTest> kIscritta;
+
+}  // namespace cambi_blocchi_test
+
 #include "cambi_blocchi_test.moc"

@@ -6,6 +6,8 @@
 #include "../cases/scripted_chance.h"
 #include "support/iscrizione.h"
 
+namespace casi_tabella_test {
+
 using somme::CasoTabella;
 using somme::EstraiCasoTabella;
 
@@ -140,4 +142,7 @@ class CasiTabellaTest : public QObject {
 };
 
 const prova::Iscrizione<CasiTabellaTest> kIscritta;
+
+}  // namespace casi_tabella_test
+
 #include "casi_tabella_test.moc"

@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace livelli_abaco_test {
+
 using namespace somme;
 
 namespace {
@@ -68,4 +70,7 @@ class LivelliAbacoTest : public QObject {
 };
 
 const prova::Iscrizione<LivelliAbacoTest> kIscritta;
+
+}  // namespace livelli_abaco_test
+
 #include "livelli_abaco_test.moc"

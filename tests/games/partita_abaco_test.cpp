@@ -2,6 +2,8 @@
 
 #include "support/iscrizione.h"
 
+namespace partita_abaco_test {
+
 using namespace somme;
 using prova::ConFrecce;
 using prova::ConTasti;
@@ -225,4 +227,7 @@ class PartitaAbacoTest : public QObject {
 };
 
 const prova::Iscrizione<PartitaAbacoTest> kIscritta;
+
+}  // namespace partita_abaco_test
+
 #include "partita_abaco_test.moc"

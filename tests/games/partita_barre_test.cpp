@@ -5,6 +5,8 @@
 #include "caso_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace partita_barre_test {
+
 using namespace somme;
 using Fase = PartitaBarre::Fase;
 
@@ -200,4 +202,7 @@ class PartitaBarreTest : public QObject {
 };
 
 const prova::Iscrizione<PartitaBarreTest> kIscritta;
+
+}  // namespace partita_barre_test
+
 #include "partita_barre_test.moc"

@@ -2,6 +2,8 @@
 #include "platform/base/run_time_error.h"
 #include "support/iscrizione.h"
 
+namespace partita_blocchi_test {
+
 using namespace somme;
 using prova::GiocoHLU;
 using prova::GiocoLU;
@@ -251,4 +253,7 @@ class PartitaBlocchiTest : public QObject {
 };
 
 const prova::Iscrizione<PartitaBlocchiTest> kIscritta;
+
+}  // namespace partita_blocchi_test
+
 #include "partita_blocchi_test.moc"

@@ -5,6 +5,8 @@
 #include "caso_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace partita_numeri_test {
+
 using namespace somme;
 using Fase = PartitaNumeri::Fase;
 using Zero = PartitaNumeri::Zero;
@@ -155,4 +157,7 @@ class PartitaNumeriTest : public QObject {
 };
 
 const prova::Iscrizione<PartitaNumeriTest> kIscritta;
+
+}  // namespace partita_numeri_test
+
 #include "partita_numeri_test.moc"

@@ -5,6 +5,8 @@
 #include "caso_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace partita_tabella_test {
+
 using namespace somme;
 using Cella = PartitaTabella::Cella;
 using Difficolta = PartitaTabella::Difficolta;
@@ -155,4 +157,7 @@ class PartitaTabellaTest : public QObject {
 };
 
 const prova::Iscrizione<PartitaTabellaTest> kIscritta;
+
+}  // namespace partita_tabella_test
+
 #include "partita_tabella_test.moc"

@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace quantita_test {
+
 using namespace somme;
 
 namespace {
@@ -70,4 +72,7 @@ class QuantitaTest : public QObject {
 };
 
 const prova::Iscrizione<QuantitaTest> kIscritta;
+
+}  // namespace quantita_test
+
 #include "quantita_test.moc"

@@ -15,6 +15,8 @@
 #include "platform/forms/drawing.h"
 #include "support/iscrizione.h"
 
+namespace immagini_test {
+
 namespace {
 
 const QString Cartella = QStringLiteral(CARTELLA_IMMAGINI "/");
@@ -385,4 +387,7 @@ class ImmaginiTest : public QObject {
 };
 
 const prova::Iscrizione<ImmaginiTest, QCoreApplication> kIscritta;
+
+}  // namespace immagini_test
+
 #include "immagini_test.moc"

@@ -5,6 +5,8 @@
 #include "platform/base/run_time_error.h"
 #include "support/iscrizione.h"
 
+namespace segnali_helpikeys_test {
+
 using somme::SegnaliHelpiKeys;
 using Tipo = SegnaliHelpiKeys::Tipo;
 
@@ -134,4 +136,7 @@ class SegnaliHelpiKeysTest : public QObject {
 };
 
 const prova::Iscrizione<SegnaliHelpiKeysTest> kIscritta;
+
+}  // namespace segnali_helpikeys_test
+
 #include "segnali_helpikeys_test.moc"

@@ -7,6 +7,8 @@
 #include "input/tastiera_numerica_scansione.h"
 #include "support/iscrizione.h"
 
+namespace tasti_da_fuori_test {
+
 using prova::prepara;
 using somme::TastieraNumericaScansione;
 
@@ -98,4 +100,7 @@ class TastiDaFuoriTest : public QObject {
 };
 
 const prova::Iscrizione<TastiDaFuoriTest, QApplication> kIscritta;
+
+}  // namespace tasti_da_fuori_test
+
 #include "tasti_da_fuori_test.moc"

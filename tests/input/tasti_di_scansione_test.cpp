@@ -10,6 +10,8 @@
 #include "platform/forms/text_block.h"
 #include "support/iscrizione.h"
 
+namespace tasti_di_scansione_test {
+
 using prova::prepara;
 using somme::TastieraNumericaScansione;
 
@@ -386,4 +388,7 @@ class TastiDiScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<TastiDiScansioneTest, QApplication> kIscritta;
+
+}  // namespace tasti_di_scansione_test
+
 #include "tasti_di_scansione_test.moc"

@@ -5,6 +5,8 @@
 #include "fondo_tastiera.h"
 #include "support/iscrizione.h"
 
+namespace tastiera_hdu_scansione_test {
+
 using platform::PropertyValue;
 using prova::accesi;
 using prova::acceso;
@@ -153,4 +155,7 @@ class TastieraHDUScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<TastieraHDUScansioneTest, QApplication> kIscritta;
+
+}  // namespace tastiera_hdu_scansione_test
+
 #include "tastiera_hdu_scansione_test.moc"

@@ -6,6 +6,8 @@
 #include "platform/base/run_time_error.h"
 #include "support/iscrizione.h"
 
+namespace tastiera_numerica_scansione_test {
+
 using platform::PropertyBag;
 using platform::PropertyValue;
 using prova::accesi;
@@ -323,4 +325,7 @@ class TastieraNumericaScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<TastieraNumericaScansioneTest, QApplication> kIscritta;
+
+}  // namespace tastiera_numerica_scansione_test
+
 #include "tastiera_numerica_scansione_test.moc"

@@ -5,6 +5,8 @@
 #include "input/tastiera_numerica_scansione.h"
 #include "support/iscrizione.h"
 
+namespace tasto_affondato_test {
+
 using prova::prepara;
 using somme::TastieraNumericaScansione;
 
@@ -74,4 +76,7 @@ class TastoAffondatoTest : public QObject {
 };
 
 const prova::Iscrizione<TastoAffondatoTest, QApplication> kIscritta;
+
+}  // namespace tasto_affondato_test
+
 #include "tasto_affondato_test.moc"

@@ -5,6 +5,8 @@
 #include "ospite_testo.h"
 #include "support/iscrizione.h"
 
+namespace testo_input_numerico_test {
+
 using platform::PropertyBag;
 using platform::PropertyValue;
 using platform::RunTimeError;
@@ -282,4 +284,7 @@ class TestoInputNumericoTest : public QObject {
 };
 
 const prova::Iscrizione<TestoInputNumericoTest, QApplication> kIscritta;
+
+}  // namespace testo_input_numerico_test
+
 #include "testo_input_numerico_test.moc"

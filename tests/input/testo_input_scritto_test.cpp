@@ -6,6 +6,8 @@
 #include "ospite_testo.h"
 #include "support/iscrizione.h"
 
+namespace testo_input_scritto_test {
+
 using platform::RunTimeError;
 using Fondo = prova::FondoTesto;
 
@@ -266,4 +268,7 @@ class TestoInputScrittoTest : public QObject {
 };
 
 const prova::Iscrizione<TestoInputScrittoTest, QApplication> kIscritta;
+
+}  // namespace testo_input_scritto_test
+
 #include "testo_input_scritto_test.moc"

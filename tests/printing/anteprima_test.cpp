@@ -7,6 +7,8 @@
 #include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
+namespace anteprima_test {
+
 using prova::DialogoDiProva;
 using prova::dipinta;
 using prova::Grigia;
@@ -252,4 +254,7 @@ class AnteprimaTest : public QObject {
 };
 
 const prova::Iscrizione<AnteprimaTest, QApplication> kIscritta;
+
+}  // namespace anteprima_test
+
 #include "anteprima_test.moc"

@@ -9,6 +9,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace attendi_stampanti_test {
+
 using prova::Banco;
 using somme::FormaBarrePulsanti;
 
@@ -89,4 +91,7 @@ class AttendiStampantiTest : public QObject {
 };
 
 const prova::Iscrizione<AttendiStampantiTest, QApplication> kIscritta;
+
+}  // namespace attendi_stampanti_test
+
 #include "attendi_stampanti_test.moc"

@@ -6,6 +6,8 @@
 #include "dialogo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace campo_millimetri_test {
+
 using prova::DialogoDiProva;
 using somme::frmAvviaStampa;
 
@@ -213,4 +215,7 @@ class CampoMillimetriTest : public QObject {
 };
 
 const prova::Iscrizione<CampoMillimetriTest, QApplication> kIscritta;
+
+}  // namespace campo_millimetri_test
+
 #include "campo_millimetri_test.moc"

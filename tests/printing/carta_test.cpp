@@ -11,6 +11,8 @@
 #include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
+namespace carta_test {
+
 using devices_test::FullDisk;
 using devices_test::PrintServer;
 using prova::DialogoDiProva;
@@ -199,4 +201,7 @@ class CartaTest : public QObject {
 };
 
 const prova::Iscrizione<CartaTest, QApplication> kIscritta;
+
+}  // namespace carta_test
+
 #include "carta_test.moc"

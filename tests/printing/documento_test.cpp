@@ -11,6 +11,8 @@
 #include "support/pdf_letto.h"
 #include "support/stampanti_di_prova.h"
 
+namespace documento_test {
+
 using prova::PdfLetto;
 using somme::Documento;
 
@@ -104,4 +106,7 @@ class DocumentoTest : public QObject {
 namespace {
 const prova::Iscrizione<DocumentoTest, QApplication> kIscritta;
 }
+
+}  // namespace documento_test
+
 #include "documento_test.moc"

@@ -5,6 +5,8 @@
 #include "platform/forms/session_end.h"
 #include "support/iscrizione.h"
 
+namespace fine_sessione_test {
+
 using prova::DialogoDiProva;
 using somme::frmAvviaStampa;
 
@@ -74,4 +76,7 @@ class FineSessioneTest : public QObject {
 };
 
 const prova::Iscrizione<FineSessioneTest, QApplication> kIscritta;
+
+}  // namespace fine_sessione_test
+
 #include "fine_sessione_test.moc"

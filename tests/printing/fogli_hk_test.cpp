@@ -7,6 +7,8 @@
 #include "support/come_dal_menu.h"
 #include "support/iscrizione.h"
 
+namespace fogli_hk_test {
+
 using prova::Banco;
 using somme::FoglioTasti;
 using somme::Tasto;
@@ -147,4 +149,7 @@ class FogliHKTest : public QObject {
 };
 
 const prova::Iscrizione<FogliHKTest, QApplication> kIscritta;
+
+}  // namespace fogli_hk_test
+
 #include "fogli_hk_test.moc"

@@ -6,6 +6,8 @@
 #include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
+namespace fogli_stampati_test {
+
 using prova::Cella;
 using prova::cellaDi;
 using prova::DialogoDiProva;
@@ -206,4 +208,7 @@ class FogliStampatiTest : public QObject {
 };
 
 const prova::Iscrizione<FogliStampatiTest, QApplication> kIscritta;
+
+}  // namespace fogli_stampati_test
+
 #include "fogli_stampati_test.moc"

@@ -6,6 +6,8 @@
 #include "printing/foglio_calibrazione.h"
 #include "support/iscrizione.h"
 
+namespace fogli_test {
+
 using prova::Cella;
 using prova::cellaDi;
 using prova::controlloDi;
@@ -296,4 +298,7 @@ class FogliTest : public QObject {
 };
 
 const prova::Iscrizione<FogliTest, QApplication> kIscritta;
+
+}  // namespace fogli_test
+
 #include "fogli_test.moc"

@@ -5,6 +5,8 @@
 #include "dialogo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace frm_avvia_stampa_test {
+
 using platform::Orientation;
 using prova::DialogoDiProva;
 using prova::dipinta;
@@ -353,4 +355,7 @@ class FrmAvviaStampaTest : public QObject {
 };
 
 const prova::Iscrizione<FrmAvviaStampaTest, QApplication> kIscritta;
+
+}  // namespace frm_avvia_stampa_test
+
 #include "frm_avvia_stampa_test.moc"

@@ -7,6 +7,8 @@
 #include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
+namespace messaggi_stampa_test {
+
 using prova::DialogoDiProva;
 using prova::PdfLetto;
 using somme::ErroreDiStampa;
@@ -378,4 +380,7 @@ class MessaggiStampaTest : public QObject {
 };
 
 const prova::Iscrizione<MessaggiStampaTest, QApplication> kIscritta;
+
+}  // namespace messaggi_stampa_test
+
 #include "messaggi_stampa_test.moc"

@@ -10,6 +10,8 @@
 #include "support/iscrizione.h"
 #include "support/pdf_letto.h"
 
+namespace modulo_stampa_test {
+
 using platform::RunTimeError;
 using prova::Banco;
 using prova::PdfLetto;
@@ -350,4 +352,7 @@ class ModuloStampaTest : public QObject {
 };
 
 const prova::Iscrizione<ModuloStampaTest, QApplication> kIscritta;
+
+}  // namespace modulo_stampa_test
+
 #include "modulo_stampa_test.moc"

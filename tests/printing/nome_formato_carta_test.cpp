@@ -7,6 +7,8 @@
 #include "platform/base/paper_codes.h"
 #include "support/iscrizione.h"
 
+namespace nome_formato_carta_test {
+
 class NomeFormatoCartaTest : public QObject {
   Q_OBJECT
 
@@ -58,4 +60,7 @@ class NomeFormatoCartaTest : public QObject {
 };
 
 const prova::Iscrizione<NomeFormatoCartaTest, QCoreApplication> kIscritta;
+
+}  // namespace nome_formato_carta_test
+
 #include "nome_formato_carta_test.moc"

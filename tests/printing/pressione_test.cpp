@@ -5,6 +5,8 @@
 #include "dialogo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace pressione_test {
+
 using prova::DialogoDiProva;
 using somme::frmAvviaStampa;
 
@@ -94,4 +96,7 @@ class PressioneTest : public QObject {
 };
 
 const prova::Iscrizione<PressioneTest, QApplication> kIscritta;
+
+}  // namespace pressione_test
+
 #include "pressione_test.moc"

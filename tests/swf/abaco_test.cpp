@@ -7,6 +7,8 @@
 #include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
+namespace abaco_test {
+
 using prove::FilmatoLetto;
 using prove::Posto;
 
@@ -168,4 +170,7 @@ class AbacoTest : public QObject {
 };
 
 const prova::Iscrizione<AbacoTest> kIscritta;
+
+}  // namespace abaco_test
+
 #include "abaco_test.moc"

@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace lettere_test {
+
 using somme::filmati::scritta;
 
 class LettereTest : public QObject {
@@ -36,4 +38,7 @@ class LettereTest : public QObject {
 };
 
 const prova::Iscrizione<LettereTest> kIscritta;
+
+}  // namespace lettere_test
+
 #include "lettere_test.moc"

@@ -7,6 +7,8 @@
 #include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
+namespace tavole_dei_blocchi_test {
+
 using prove::FilmatoLetto;
 
 namespace {
@@ -245,4 +247,7 @@ class TavoleDeiBlocchiTest : public QObject {
 };
 
 const prova::Iscrizione<TavoleDeiBlocchiTest> kIscritta;
+
+}  // namespace tavole_dei_blocchi_test
+
 #include "tavole_dei_blocchi_test.moc"

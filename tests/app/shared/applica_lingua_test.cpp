@@ -9,6 +9,8 @@
 #include "lingua_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace applica_lingua_test {
+
 using prova::Banco;
 using prova::kLinguaDiProva;
 using prova::parla;
@@ -265,4 +267,7 @@ class ApplicaLinguaTest : public QObject {
 };
 
 const prova::Iscrizione<ApplicaLinguaTest, QApplication> kIscritta;
+
+}  // namespace applica_lingua_test
+
 #include "applica_lingua_test.moc"

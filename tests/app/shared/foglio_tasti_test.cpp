@@ -7,6 +7,8 @@
 
 #include "support/iscrizione.h"
 
+namespace foglio_tasti_test {
+
 using somme::FoglioDi;
 using somme::FoglioTasti;
 using somme::kTastieraAbaco;
@@ -188,4 +190,7 @@ class FoglioTastiTest : public QObject {
 };
 
 const prova::Iscrizione<FoglioTastiTest> kIscritta;
+
+}  // namespace foglio_tasti_test
+
 #include "foglio_tasti_test.moc"

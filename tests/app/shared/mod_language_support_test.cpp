@@ -10,6 +10,8 @@
 #include "platform/forms/qt_message_boxes.h"
 #include "support/iscrizione.h"
 
+namespace mod_language_support_test {
+
 using prova::Banco;
 using prova::kLinguaDiProva;
 using prova::parla;
@@ -168,4 +170,7 @@ class ModLanguageSupportTest : public QObject {
 };
 
 const prova::Iscrizione<ModLanguageSupportTest, QApplication> kIscritta;
+
+}  // namespace mod_language_support_test
+
 #include "mod_language_support_test.moc"

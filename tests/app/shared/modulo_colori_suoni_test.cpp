@@ -7,6 +7,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace modulo_colori_suoni_test {
+
 using prova::Banco;
 using somme::Attendi;
 using somme::RiproduciSuono;
@@ -133,4 +135,7 @@ class ModuloColoriSuoniTest : public QObject {
 };
 
 const prova::Iscrizione<ModuloColoriSuoniTest, QApplication> kIscritta;
+
+}  // namespace modulo_colori_suoni_test
+
 #include "modulo_colori_suoni_test.moc"

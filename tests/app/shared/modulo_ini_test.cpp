@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace modulo_ini_test {
+
 // The settings of the start.
 class ModuloIniTest : public QObject {
   Q_OBJECT
@@ -49,4 +51,7 @@ class ModuloIniTest : public QObject {
 };
 
 const prova::Iscrizione<ModuloIniTest, QApplication> kIscritta;
+
+}  // namespace modulo_ini_test
+
 #include "modulo_ini_test.moc"

@@ -5,6 +5,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace modulo_navigate_test {
+
 using prova::Banco;
 
 // Documents handed to the desktop.
@@ -24,4 +26,7 @@ class ModuloNavigateTest : public QObject {
 };
 
 const prova::Iscrizione<ModuloNavigateTest, QApplication> kIscritta;
+
+}  // namespace modulo_navigate_test
+
 #include "modulo_navigate_test.moc"

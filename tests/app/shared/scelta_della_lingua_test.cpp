@@ -7,6 +7,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace scelta_della_lingua_test {
+
 using prova::Banco;
 
 namespace {
@@ -123,4 +125,7 @@ class SceltaDellaLinguaTest : public QObject {
 };
 
 const prova::Iscrizione<SceltaDellaLinguaTest, QApplication> kIscritta;
+
+}  // namespace scelta_della_lingua_test
+
 #include "scelta_della_lingua_test.moc"

@@ -7,6 +7,8 @@
 #include "app/tabella_forme.h"
 #include "support/iscrizione.h"
 
+namespace scheda_forma_test {
+
 using somme::Famiglia;
 using somme::Genere;
 using somme::Modo;
@@ -107,4 +109,7 @@ class SchedaFormaTest : public QObject {
 };
 
 const prova::Iscrizione<SchedaFormaTest, QApplication> kIscritta;
+
+}  // namespace scheda_forma_test
+
 #include "scheda_forma_test.moc"

@@ -5,6 +5,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace stringhe_condivise_test {
+
 using prova::Banco;
 using somme::StringheCondivise;
 
@@ -116,4 +118,7 @@ class StringheCondiviseTest : public QObject {
 };
 
 const prova::Iscrizione<StringheCondiviseTest, QApplication> kIscritta;
+
+}  // namespace stringhe_condivise_test
+
 #include "stringhe_condivise_test.moc"

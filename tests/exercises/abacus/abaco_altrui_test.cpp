@@ -4,6 +4,8 @@
 #include "support/filmato_altrui.h"
 #include "support/iscrizione.h"
 
+namespace abaco_altrui_test {
+
 using prova::BancoAbaco;
 using prova::FilmatoAltrui;
 using somme::swf::Azioni;
@@ -129,4 +131,7 @@ class AbacoAltruiTest : public QObject {
 };
 
 const prova::Iscrizione<AbacoAltruiTest, QApplication> kIscritta;
+
+}  // namespace abaco_altrui_test
+
 #include "abaco_altrui_test.moc"

@@ -4,6 +4,8 @@
 #include "abaco_toccato.h"
 #include "support/iscrizione.h"
 
+namespace annunci_abaco_test {
+
 using namespace prova;
 using somme::Tasto;
 
@@ -71,4 +73,7 @@ class AnnunciAbacoTest : public QObject {
 };
 
 const prova::Iscrizione<AnnunciAbacoTest, QApplication> kIscritta;
+
+}  // namespace annunci_abaco_test
+
 #include "annunci_abaco_test.moc"

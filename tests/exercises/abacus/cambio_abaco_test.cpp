@@ -5,6 +5,8 @@
 #include "app/form_menu.h"
 #include "support/iscrizione.h"
 
+namespace cambio_abaco_test {
+
 using prova::kTutti;
 
 namespace {
@@ -338,4 +340,7 @@ class CambioAbacoTest : public QObject {
 };
 
 const prova::Iscrizione<CambioAbacoTest, QApplication> kIscritta;
+
+}  // namespace cambio_abaco_test
+
 #include "cambio_abaco_test.moc"

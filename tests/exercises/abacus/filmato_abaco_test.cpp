@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace filmato_abaco_test {
+
 using prova::BancoAbaco;
 using prova::Ferro;
 using prova::kFerri;
@@ -82,4 +84,7 @@ class FilmatoAbacoTest : public QObject {
 };
 
 const prova::Iscrizione<FilmatoAbacoTest, QApplication> kIscritta;
+
+}  // namespace filmato_abaco_test
+
 #include "filmato_abaco_test.moc"

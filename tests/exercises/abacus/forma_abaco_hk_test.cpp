@@ -5,6 +5,8 @@
 #include "platform/forms/menu_bar.h"
 #include "support/iscrizione.h"
 
+namespace forma_abaco_hk_test {
+
 using namespace prova;
 using somme::FormaAbacoHK;
 using somme::Tasto;
@@ -240,4 +242,7 @@ class FormaAbacoHKTest : public QObject {
 };
 
 const prova::Iscrizione<FormaAbacoHKTest, QApplication> kIscritta;
+
+}  // namespace forma_abaco_hk_test
+
 #include "forma_abaco_hk_test.moc"

@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace forma_abaco_scansione_test {
+
 using namespace prova;
 using somme::FormaAbacoScansione;
 
@@ -291,4 +293,7 @@ class FormaAbacoScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<FormaAbacoScansioneTest, QApplication> kIscritta;
+
+}  // namespace forma_abaco_scansione_test
+
 #include "forma_abaco_scansione_test.moc"

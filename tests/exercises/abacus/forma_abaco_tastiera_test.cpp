@@ -8,6 +8,8 @@
 #include "platform/flash/movie_view.h"
 #include "support/iscrizione.h"
 
+namespace forma_abaco_tastiera_test {
+
 using prova::BancoAbaco;
 using prova::kTutti;
 
@@ -335,4 +337,7 @@ class FormaAbacoTastieraTest : public QObject {
 };
 
 const prova::Iscrizione<FormaAbacoTastieraTest, QApplication> kIscritta;
+
+}  // namespace forma_abaco_tastiera_test
+
 #include "forma_abaco_tastiera_test.moc"

@@ -5,6 +5,8 @@
 #include "abaco_toccato.h"
 #include "support/iscrizione.h"
 
+namespace palline_ferme_test {
+
 using namespace prova;
 
 // What the mouse over a bead promises. A bead waits there in every level; what is painted there is
@@ -73,4 +75,7 @@ class PallineFermeTest : public QObject {
 };
 
 const prova::Iscrizione<PallineFermeTest, QApplication> kIscritta;
+
+}  // namespace palline_ferme_test
+
 #include "palline_ferme_test.moc"

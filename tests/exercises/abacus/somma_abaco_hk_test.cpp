@@ -5,6 +5,8 @@
 #include "support/iscrizione.h"
 #include "support/letti.h"
 
+namespace somma_abaco_hk_test {
+
 using namespace prova;
 using somme::FormaAbacoHK;
 using somme::Tasto;
@@ -182,4 +184,7 @@ class SommaAbacoHKTest : public QObject {
 };
 
 const prova::Iscrizione<SommaAbacoHKTest, QApplication> kIscritta;
+
+}  // namespace somma_abaco_hk_test
+
 #include "somma_abaco_hk_test.moc"

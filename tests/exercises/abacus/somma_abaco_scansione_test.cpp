@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace somma_abaco_scansione_test {
+
 using namespace prova;
 using somme::FormaAbacoScansione;
 
@@ -185,4 +187,7 @@ class SommaAbacoScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<SommaAbacoScansioneTest, QApplication> kIscritta;
+
+}  // namespace somma_abaco_scansione_test
+
 #include "somma_abaco_scansione_test.moc"

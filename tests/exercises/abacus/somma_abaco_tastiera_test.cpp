@@ -4,6 +4,8 @@
 #include "abaco_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace somma_abaco_tastiera_test {
+
 using prova::BancoAbaco;
 using prova::kTutti;
 
@@ -123,4 +125,7 @@ class SommaAbacoTastieraTest : public QObject {
 };
 
 const prova::Iscrizione<SommaAbacoTastieraTest, QApplication> kIscritta;
+
+}  // namespace somma_abaco_tastiera_test
+
 #include "somma_abaco_tastiera_test.moc"

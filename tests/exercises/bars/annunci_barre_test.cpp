@@ -8,6 +8,8 @@
 #include "support/scansione_di_prova.h"
 #include "support/tocchi.h"
 
+namespace annunci_barre_test {
+
 using prova::Banco;
 using somme::FormaBarrePulsanti;
 using somme::TastieraNumericaScansione;
@@ -124,4 +126,7 @@ class AnnunciBarreTest : public QObject {
 };
 
 const prova::Iscrizione<AnnunciBarreTest, QApplication> kIscritta;
+
+}  // namespace annunci_barre_test
+
 #include "annunci_barre_test.moc"

@@ -8,6 +8,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace barre10_scritte_test {
+
 using prova::Banco;
 using somme::FormaBarrePulsanti;
 using somme::FormaBarreTastiera;
@@ -130,4 +132,7 @@ class Barre10ScritteTest : public QObject {
 };
 
 const prova::Iscrizione<Barre10ScritteTest, QApplication> kIscritta;
+
+}  // namespace barre10_scritte_test
+
 #include "barre10_scritte_test.moc"

@@ -6,6 +6,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace disegno_barre_test {
+
 using platform::Row;
 using platform::TwipsRect;
 using prova::Banco;
@@ -105,4 +107,7 @@ class DisegnoBarreTest : public QObject {
 };
 
 const prova::Iscrizione<DisegnoBarreTest, QApplication> kIscritta;
+
+}  // namespace disegno_barre_test
+
 #include "disegno_barre_test.moc"

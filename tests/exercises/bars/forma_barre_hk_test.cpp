@@ -11,6 +11,8 @@
 #include "support/iscrizione.h"
 #include "support/tocchi.h"
 
+namespace forma_barre_hk_test {
+
 using prova::Banco;
 using prova::kCiano;
 using prova::kRosso;
@@ -300,4 +302,7 @@ class FormaBarreHKTest : public QObject {
 };
 
 const prova::Iscrizione<FormaBarreHKTest, QApplication> kIscritta;
+
+}  // namespace forma_barre_hk_test
+
 #include "forma_barre_hk_test.moc"

@@ -6,6 +6,8 @@
 #include "barre10_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace forma_barre_pulsanti_test {
+
 using prova::apriBarre10;
 using prova::Banco;
 using prova::barre;
@@ -287,4 +289,7 @@ class FormaBarrePulsantiTest : public QObject {
 };
 
 const prova::Iscrizione<FormaBarrePulsantiTest, QApplication> kIscritta;
+
+}  // namespace forma_barre_pulsanti_test
+
 #include "forma_barre_pulsanti_test.moc"

@@ -8,6 +8,8 @@
 #include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 
+namespace forma_barre_scansione_test {
+
 using prova::Banco;
 using prova::kCiano;
 using prova::kRosso;
@@ -341,4 +343,7 @@ class FormaBarreScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<FormaBarreScansioneTest, QApplication> kIscritta;
+
+}  // namespace forma_barre_scansione_test
+
 #include "forma_barre_scansione_test.moc"

@@ -9,6 +9,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace forma_barre_tastiera_test {
+
 using prova::Banco;
 using prova::kCiano;
 using prova::kRosso;
@@ -326,4 +328,7 @@ class FormaBarreTastieraTest : public QObject {
 };
 
 const prova::Iscrizione<FormaBarreTastieraTest, QApplication> kIscritta;
+
+}  // namespace forma_barre_tastiera_test
+
 #include "forma_barre_tastiera_test.moc"

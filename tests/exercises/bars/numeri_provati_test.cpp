@@ -5,6 +5,8 @@
 #include "platform/forms/text_block.h"
 #include "support/iscrizione.h"
 
+namespace numeri_provati_test {
+
 using prova::apriBarre10;
 using prova::Banco;
 using somme::FormaBarrePulsanti;
@@ -108,4 +110,7 @@ class NumeriProvatiTest : public QObject {
 };
 
 const prova::Iscrizione<NumeriProvatiTest, QApplication> kIscritta;
+
+}  // namespace numeri_provati_test
+
 #include "numeri_provati_test.moc"

@@ -5,6 +5,8 @@
 #include "platform/forms/loaded_form.h"
 #include "support/iscrizione.h"
 
+namespace pagina_barre10_test {
+
 using prova::apriBarre10;
 using prova::Banco;
 using prova::barre;
@@ -191,4 +193,7 @@ class PaginaBarre10Test : public QObject {
 };
 
 const prova::Iscrizione<PaginaBarre10Test, QApplication> kIscritta;
+
+}  // namespace pagina_barre10_test
+
 #include "pagina_barre10_test.moc"

@@ -6,7 +6,11 @@
 #include "support/iscrizione.h"
 #include "support/tocchi.h"
 
+namespace annunci_blocchi_test {
+
 using namespace prova;
+using namespace prova::entro99;
+using namespace prova::scanditi;
 
 namespace {
 
@@ -28,7 +32,7 @@ class AnnunciBlocchiTest : public QObject {
  private Q_SLOTS:
   void boardsCarryVerdictsAndTheSolvedSumAreTold() {
     Banco banco;
-    somme::FormaBlocchiTastiera& forma = prova::apri(banco, 18, 13);
+    somme::FormaBlocchiTastiera& forma = prova::entro99::apri(banco, 18, 13);
     QCOMPARE(banco.annunci.nuovi(), QStringList{QStringLiteral("18 + 13 =")});
     banco.clicca(forma.pulsanti.PulsanteDa);
     banco.clicca(forma.pulsanti.PulsanteU);
@@ -99,4 +103,7 @@ class AnnunciBlocchiTest : public QObject {
 };
 
 const prova::Iscrizione<AnnunciBlocchiTest, QApplication> kIscritta;
+
+}  // namespace annunci_blocchi_test
+
 #include "annunci_blocchi_test.moc"

@@ -10,6 +10,8 @@
 #include "platform/forms/drawing.h"
 #include "support/iscrizione.h"
 
+namespace aspetto_tavole_test {
+
 using namespace prova;
 using platform::Board;
 
@@ -161,4 +163,7 @@ class AspettoTavoleTest : public QObject {
 };
 
 const prova::Iscrizione<AspettoTavoleTest, QApplication> kIscritta;
+
+}  // namespace aspetto_tavole_test
+
 #include "aspetto_tavole_test.moc"

@@ -6,7 +6,7 @@
 // The form of longs and units, as its tests open it.
 namespace prova {
 // The tests of other forms, in the same program, have others of these names.
-inline namespace entro99 {
+namespace entro99 {
 
 inline const QString kSpecie = kSpecieLU;
 

@@ -6,7 +6,7 @@
 // The form of flats, longs and units, as its tests open it.
 namespace prova {
 // The tests of other forms, in the same program, have others of these names.
-inline namespace entro999 {
+namespace entro999 {
 
 inline const QString kSpecie = kSpecieHLU;
 

@@ -5,7 +5,10 @@
 
 #include "support/iscrizione.h"
 
+namespace blocchi_entro999_test {
+
 using namespace prova;
+using namespace prova::entro999;
 using somme::FormaBlocchiTastiera;
 
 // Flats, longs and units up to 999, as a pupil uses them: the boards, from the first block to the
@@ -251,4 +254,7 @@ class BlocchiEntro999Test : public QObject {
 };
 
 const prova::Iscrizione<BlocchiEntro999Test, QApplication> kIscritta;
+
+}  // namespace blocchi_entro999_test
+
 #include "blocchi_entro999_test.moc"

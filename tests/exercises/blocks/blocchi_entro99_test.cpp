@@ -5,7 +5,10 @@
 
 #include "support/iscrizione.h"
 
+namespace blocchi_entro99_test {
+
 using namespace prova;
+using namespace prova::entro99;
 using somme::FormaBlocchiTastiera;
 
 // Longs and units up to 99, as a pupil uses them: the boards, from the first block to the carry.
@@ -380,4 +383,7 @@ class BlocchiEntro99Test : public QObject {
 };
 
 const prova::Iscrizione<BlocchiEntro99Test, QApplication> kIscritta;
+
+}  // namespace blocchi_entro99_test
+
 #include "blocchi_entro99_test.moc"

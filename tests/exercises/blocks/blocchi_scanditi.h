@@ -7,7 +7,7 @@
 // The blocks by scanning, as a pupil with one or two keys uses them.
 namespace prova {
 // The tests of other forms, in the same program, have others of these names.
-inline namespace scanditi {
+namespace scanditi {
 
 inline constexpr int kConferma = somme::TastieraNumericaScansione::kConferma;
 inline constexpr int kCestino = somme::TastieraNumericaScansione::kCestino;

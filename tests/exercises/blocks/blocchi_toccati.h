@@ -7,7 +7,7 @@
 // The blocks by touch, as a pupil with the sheet uses them.
 namespace prova {
 // The tests of other forms, in the same program, have others of these names.
-inline namespace toccati {
+namespace toccati {
 
 // Keys of the sheet.
 inline constexpr auto kH = somme::Tasto::Centinaia;

@@ -5,7 +5,10 @@
 #include "support/iscrizione.h"
 #include "support/letti.h"
 
+namespace caso_blocchi_hk_test {
+
 using namespace prova;
+using namespace prova::toccati;
 using somme::FormaBlocchiHK;
 
 // The course of a case of blocks by touch: whole sums with their carries, and the key that begins
@@ -183,4 +186,7 @@ class CasoBlocchiHKTest : public QObject {
 };
 
 const prova::Iscrizione<CasoBlocchiHKTest, QApplication> kIscritta;
+
+}  // namespace caso_blocchi_hk_test
+
 #include "caso_blocchi_hk_test.moc"

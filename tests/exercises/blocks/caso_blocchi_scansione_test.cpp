@@ -4,7 +4,10 @@
 
 #include "support/iscrizione.h"
 
+namespace caso_blocchi_scansione_test {
+
 using namespace prova;
+using namespace prova::scanditi;
 using somme::FormaBlocchiScansione;
 using somme::TastieraHDUScansione;
 
@@ -185,4 +188,7 @@ class CasoBlocchiScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<CasoBlocchiScansioneTest, QApplication> kIscritta;
+
+}  // namespace caso_blocchi_scansione_test
+
 #include "caso_blocchi_scansione_test.moc"

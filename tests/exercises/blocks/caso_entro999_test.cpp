@@ -4,7 +4,10 @@
 
 #include "support/iscrizione.h"
 
+namespace caso_entro999_test {
+
 using namespace prova;
+using namespace prova::entro999;
 using somme::FormaBlocchiTastiera;
 
 // The cases of flats, longs and units: what each level draws, what the joined board keeps from case
@@ -159,4 +162,7 @@ class CasoEntro999Test : public QObject {
 };
 
 const prova::Iscrizione<CasoEntro999Test, QApplication> kIscritta;
+
+}  // namespace caso_entro999_test
+
 #include "caso_entro999_test.moc"

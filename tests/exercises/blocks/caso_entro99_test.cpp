@@ -4,7 +4,10 @@
 
 #include "support/iscrizione.h"
 
+namespace caso_entro99_test {
+
 using namespace prova;
+using namespace prova::entro99;
 using somme::FormaBlocchiTastiera;
 
 // The course of a case of longs and units: its result, what comes after it, and what becomes of it
@@ -333,4 +336,7 @@ class CasoEntro99Test : public QObject {
 };
 
 const prova::Iscrizione<CasoEntro99Test, QApplication> kIscritta;
+
+}  // namespace caso_entro99_test
+
 #include "caso_entro99_test.moc"

@@ -6,7 +6,10 @@
 #include "exercises/blocks/forma_blocchi_tastiera.h"
 #include "support/iscrizione.h"
 
+namespace filmati_altrui_test {
+
 using namespace prova;
+using namespace prova::toccati;
 using somme::FormaBlocchiTastiera;
 
 namespace {
@@ -200,4 +203,7 @@ class FilmatiAltruiTest : public QObject {
 };
 
 const prova::Iscrizione<FilmatiAltruiTest, QApplication> kIscritta;
+
+}  // namespace filmati_altrui_test
+
 #include "filmati_altrui_test.moc"

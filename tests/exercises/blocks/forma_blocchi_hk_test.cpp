@@ -6,7 +6,10 @@
 #include "blocchi_toccati.h"
 #include "support/iscrizione.h"
 
+namespace forma_blocchi_hk_test {
+
 using namespace prova;
+using namespace prova::toccati;
 using somme::FormaBlocchiHK;
 using somme::Tasto;
 
@@ -204,4 +207,7 @@ class FormaBlocchiHKTest : public QObject {
 };
 
 const prova::Iscrizione<FormaBlocchiHKTest, QApplication> kIscritta;
+
+}  // namespace forma_blocchi_hk_test
+
 #include "forma_blocchi_hk_test.moc"

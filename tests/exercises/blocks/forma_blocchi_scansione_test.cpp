@@ -6,7 +6,10 @@
 #include "blocchi_scanditi.h"
 #include "support/iscrizione.h"
 
+namespace forma_blocchi_scansione_test {
+
 using namespace prova;
+using namespace prova::scanditi;
 using somme::FormaBlocchiScansione;
 using somme::TastieraHDUScansione;
 using somme::TastieraNumericaScansione;
@@ -219,4 +222,7 @@ class FormaBlocchiScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<FormaBlocchiScansioneTest, QApplication> kIscritta;
+
+}  // namespace forma_blocchi_scansione_test
+
 #include "forma_blocchi_scansione_test.moc"

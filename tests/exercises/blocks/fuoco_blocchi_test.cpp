@@ -4,7 +4,10 @@
 #include "exercises/blocks/forma_blocchi_tastiera.h"
 #include "support/iscrizione.h"
 
+namespace fuoco_blocchi_test {
+
 using namespace prova;
+using namespace prova::toccati;
 
 namespace {
 
@@ -118,4 +121,7 @@ class FuocoBlocchiTest : public QObject {
 };
 
 const prova::Iscrizione<FuocoBlocchiTest, QApplication> kIscritta;
+
+}  // namespace fuoco_blocchi_test
+
 #include "fuoco_blocchi_test.moc"

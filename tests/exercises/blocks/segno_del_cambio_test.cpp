@@ -4,7 +4,10 @@
 #include "platform/forms/controls/ring_widget.h"
 #include "support/iscrizione.h"
 
+namespace segno_del_cambio_test {
+
 using namespace prova;
+using namespace prova::scanditi;
 using platform::RingWidget;
 
 // What shows a pupil with one switch that the button of a carry is what his switch presses now.
@@ -67,4 +70,7 @@ class SegnoDelCambioTest : public QObject {
 };
 
 const prova::Iscrizione<SegnoDelCambioTest, QApplication> kIscritta;
+
+}  // namespace segno_del_cambio_test
+
 #include "segno_del_cambio_test.moc"

@@ -5,6 +5,8 @@
 #include "forma_toccata.h"
 #include "support/iscrizione.h"
 
+namespace input_tocco_test {
+
 using namespace prova;
 using namespace somme;
 
@@ -197,4 +199,7 @@ class InputToccoTest : public QObject {
 };
 
 const prova::Iscrizione<InputToccoTest, QApplication> kIscritta;
+
+}  // namespace input_tocco_test
+
 #include "input_tocco_test.moc"

@@ -5,6 +5,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace quantita_test {
+
 using prova::Banco;
 using somme::InParole;
 
@@ -51,4 +53,7 @@ class QuantitaTest : public QObject {
 };
 
 const prova::Iscrizione<QuantitaTest, QApplication> kIscritta;
+
+}  // namespace quantita_test
+
 #include "quantita_test.moc"

@@ -4,6 +4,8 @@
 #include "forma_toccata.h"
 #include "support/iscrizione.h"
 
+namespace tocchi_helpikeys_test {
+
 using namespace prova;
 using namespace somme;
 
@@ -189,4 +191,7 @@ class TocchiHelpiKeysTest : public QObject {
 };
 
 const prova::Iscrizione<TocchiHelpiKeysTest, QApplication> kIscritta;
+
+}  // namespace tocchi_helpikeys_test
+
 #include "tocchi_helpikeys_test.moc"

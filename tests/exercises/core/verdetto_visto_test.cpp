@@ -11,6 +11,8 @@
 #include "support/iscrizione.h"
 #include "support/risposta_giusta.h"
 
+namespace verdetto_visto_test {
+
 using prova::Banco;
 using somme::FormaBarrePulsanti;
 using somme::FormaEsercizio;
@@ -229,4 +231,7 @@ class VerdettoVistoTest : public QObject {
 };
 
 const prova::Iscrizione<VerdettoVistoTest, QApplication> kIscritta;
+
+}  // namespace verdetto_visto_test
+
 #include "verdetto_visto_test.moc"

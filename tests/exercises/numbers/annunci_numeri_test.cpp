@@ -8,6 +8,8 @@
 #include "support/scansione_di_prova.h"
 #include "support/tocchi.h"
 
+namespace annunci_numeri_test {
+
 using prova::Banco;
 using somme::TastieraNumericaScansione;
 
@@ -115,4 +117,7 @@ class AnnunciNumeriTest : public QObject {
 };
 
 const prova::Iscrizione<AnnunciNumeriTest, QApplication> kIscritta;
+
+}  // namespace annunci_numeri_test
+
 #include "annunci_numeri_test.moc"

@@ -6,6 +6,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace form_numeri_addendo_test {
+
 using prova::Banco;
 using somme::FormaNumeriTastiera;
 
@@ -115,4 +117,7 @@ class FormNumeriAddendoTest : public QObject {
 };
 
 const prova::Iscrizione<FormNumeriAddendoTest, QApplication> kIscritta;
+
+}  // namespace form_numeri_addendo_test
+
 #include "form_numeri_addendo_test.moc"

@@ -9,6 +9,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace form_numeri_totale_test {
+
 using prova::Banco;
 using somme::FormaNumeriTastiera;
 
@@ -371,4 +373,7 @@ class FormNumeriTotaleTest : public QObject {
 };
 
 const prova::Iscrizione<FormNumeriTotaleTest, QApplication> kIscritta;
+
+}  // namespace form_numeri_totale_test
+
 #include "form_numeri_totale_test.moc"

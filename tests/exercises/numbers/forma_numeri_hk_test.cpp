@@ -9,6 +9,8 @@
 #include "support/iscrizione.h"
 #include "support/tocchi.h"
 
+namespace forma_numeri_hk_test {
+
 using prova::Banco;
 using prova::rispondiToccando;
 using prova::tocca;
@@ -298,4 +300,7 @@ class FormaNumeriHKTest : public QObject {
 };
 
 const prova::Iscrizione<FormaNumeriHKTest, QApplication> kIscritta;
+
+}  // namespace forma_numeri_hk_test
+
 #include "forma_numeri_hk_test.moc"

@@ -8,6 +8,8 @@
 #include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
 
+namespace forma_numeri_scansione_test {
+
 using prova::Banco;
 using somme::FormaNumeriScansione;
 using somme::TastieraNumericaScansione;
@@ -278,4 +280,7 @@ class FormaNumeriScansioneTest : public QObject {
 };
 
 const prova::Iscrizione<FormaNumeriScansioneTest, QApplication> kIscritta;
+
+}  // namespace forma_numeri_scansione_test
+
 #include "forma_numeri_scansione_test.moc"

@@ -5,6 +5,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace annunci_tabella_test {
+
 using prova::Banco;
 using somme::FormTabella;
 
@@ -31,4 +33,7 @@ class AnnunciTabellaTest : public QObject {
 };
 
 const prova::Iscrizione<AnnunciTabellaTest, QApplication> kIscritta;
+
+}  // namespace annunci_tabella_test
+
 #include "annunci_tabella_test.moc"

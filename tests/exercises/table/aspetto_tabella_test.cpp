@@ -10,6 +10,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace aspetto_tabella_test {
+
 using prova::Banco;
 using somme::FormTabella;
 
@@ -201,4 +203,7 @@ class AspettoTabellaTest : public QObject {
 };
 
 const prova::Iscrizione<AspettoTabellaTest, QApplication> kIscritta;
+
+}  // namespace aspetto_tabella_test
+
 #include "aspetto_tabella_test.moc"

@@ -7,6 +7,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace form_tabella_test {
+
 using prova::Banco;
 using somme::FormTabella;
 
@@ -294,4 +296,7 @@ class FormTabellaTest : public QObject {
 };
 
 const prova::Iscrizione<FormTabellaTest, QApplication> kIscritta;
+
+}  // namespace form_tabella_test
+
 #include "form_tabella_test.moc"

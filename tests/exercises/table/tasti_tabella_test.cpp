@@ -9,6 +9,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace tasti_tabella_test {
+
 using prova::Banco;
 using somme::FormTabella;
 
@@ -228,4 +230,7 @@ class TastiTabellaTest : public QObject {
 };
 
 const prova::Iscrizione<TastiTabellaTest, QApplication> kIscritta;
+
+}  // namespace tasti_tabella_test
+
 #include "tasti_tabella_test.moc"

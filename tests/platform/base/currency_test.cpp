@@ -6,6 +6,8 @@
 #include "platform/base/run_time_error.h"
 #include "support/iscrizione.h"
 
+namespace currency_test {
+
 using platform::Currency;
 using platform::RunTimeError;
 
@@ -73,4 +75,7 @@ class CurrencyTest : public QObject {
 };
 
 const prova::Iscrizione<CurrencyTest> kIscritta;
+
+}  // namespace currency_test
+
 #include "currency_test.moc"

@@ -7,6 +7,8 @@
 
 #include "support/iscrizione.h"
 
+namespace files_in_folder_test {
+
 class FilesInFolderTest : public QObject {
   Q_OBJECT
 
@@ -31,4 +33,7 @@ class FilesInFolderTest : public QObject {
 };
 
 const prova::Iscrizione<FilesInFolderTest> kIscritta;
+
+}  // namespace files_in_folder_test
+
 #include "files_in_folder_test.moc"

@@ -7,6 +7,8 @@
 #include "platform/base/chance.h"
 #include "support/iscrizione.h"
 
+namespace numbers_test {
+
 using platform::RunTimeError;
 
 namespace {
@@ -250,4 +252,7 @@ class NumbersTest : public QObject {
 };
 
 const prova::Iscrizione<NumbersTest> kIscritta;
+
+}  // namespace numbers_test
+
 #include "numbers_test.moc"

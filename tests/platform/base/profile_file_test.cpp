@@ -10,6 +10,8 @@
 #include "profile_bytes.h"
 #include "support/iscrizione.h"
 
+namespace profile_file_test {
+
 using namespace profile_bytes;
 
 class ProfileFileTest : public QObject {
@@ -68,4 +70,7 @@ class ProfileFileTest : public QObject {
 };
 
 const prova::Iscrizione<ProfileFileTest> kIscritta;
+
+}  // namespace profile_file_test
+
 #include "profile_file_test.moc"

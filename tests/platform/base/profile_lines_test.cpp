@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace profile_lines_test {
+
 using platform::ProfileLines;
 
 namespace {
@@ -216,4 +218,7 @@ class ProfileLinesTest : public QObject {
 };
 
 const prova::Iscrizione<ProfileLinesTest> kIscritta;
+
+}  // namespace profile_lines_test
+
 #include "profile_lines_test.moc"

@@ -7,6 +7,8 @@
 #include "platform/base/run_time_error.h"
 #include "support/iscrizione.h"
 
+namespace profile_reader_test {
+
 using platform::ProfileReader;
 using platform::RunTimeError;
 
@@ -132,4 +134,7 @@ class ProfileReaderTest : public QObject {
 };
 
 const prova::Iscrizione<ProfileReaderTest> kIscritta;
+
+}  // namespace profile_reader_test
+
 #include "profile_reader_test.moc"

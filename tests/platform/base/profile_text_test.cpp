@@ -5,6 +5,8 @@
 #include "platform/base/system_files.h"
 #include "support/iscrizione.h"
 
+namespace profile_text_test {
+
 using platform::ProfileText;
 
 namespace {
@@ -220,4 +222,7 @@ class ProfileTextTest : public QObject {
 };
 
 const prova::Iscrizione<ProfileTextTest> kIscritta;
+
+}  // namespace profile_text_test
+
 #include "profile_text_test.moc"

@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace run_time_error_test {
+
 using platform::RunTimeError;
 
 class RunTimeErrorTest : public QObject {
@@ -34,4 +36,7 @@ class RunTimeErrorTest : public QObject {
 };
 
 const prova::Iscrizione<RunTimeErrorTest> kIscritta;
+
+}  // namespace run_time_error_test
+
 #include "run_time_error_test.moc"

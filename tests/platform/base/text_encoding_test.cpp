@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace text_encoding_test {
+
 using platform::TextEncoding;
 
 class TextEncodingTest : public QObject {
@@ -65,4 +67,7 @@ class TextEncodingTest : public QObject {
 };
 
 const prova::Iscrizione<TextEncodingTest> kIscritta;
+
+}  // namespace text_encoding_test
+
 #include "text_encoding_test.moc"

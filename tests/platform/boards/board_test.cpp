@@ -11,6 +11,8 @@
 #include "support/fondo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace board_test {
+
 using namespace hand_made;
 using platform::Board;
 using platform::flash::MovieView;
@@ -315,4 +317,7 @@ class BoardTest : public QObject {
 };
 
 const prova::Iscrizione<BoardTest, QApplication> kIscritta;
+
+}  // namespace board_test
+
 #include "board_test.moc"

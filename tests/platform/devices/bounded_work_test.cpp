@@ -9,6 +9,8 @@
 #include "platform/devices/qt_time_source.h"
 #include "support/iscrizione.h"
 
+namespace bounded_work_test {
+
 using platform::BoundedWork;
 using platform::Waiting;
 using std::chrono::milliseconds;
@@ -111,4 +113,7 @@ class BoundedWorkTest : public QObject {
 };
 
 const prova::Iscrizione<BoundedWorkTest, QCoreApplication> kIscritta;
+
+}  // namespace bounded_work_test
+
 #include "bounded_work_test.moc"

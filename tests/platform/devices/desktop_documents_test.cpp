@@ -10,6 +10,8 @@
 
 #include "support/iscrizione.h"
 
+namespace desktop_documents_test {
+
 using platform::DesktopDocuments;
 
 // The desktop's opener is a script that notes what it is asked for.
@@ -121,4 +123,7 @@ class DesktopDocumentsTest : public QObject {
 };
 
 const prova::Iscrizione<DesktopDocumentsTest, QCoreApplication> kIscritta;
+
+}  // namespace desktop_documents_test
+
 #include "desktop_documents_test.moc"

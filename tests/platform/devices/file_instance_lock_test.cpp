@@ -16,6 +16,8 @@
 
 #include "support/iscrizione.h"
 
+namespace file_instance_lock_test {
+
 using platform::FileInstanceLock;
 
 namespace {
@@ -255,4 +257,7 @@ class FileInstanceLockTest : public QObject {
 };
 
 const prova::Iscrizione<FileInstanceLockTest, QCoreApplication> kIscritta;
+
+}  // namespace file_instance_lock_test
+
 #include "file_instance_lock_test.moc"

@@ -8,6 +8,8 @@
 
 #include "support/iscrizione.h"
 
+namespace loopback_network_test {
+
 using platform::Connection;
 using platform::LoopbackNetwork;
 
@@ -235,4 +237,7 @@ class LoopbackNetworkTest : public QObject {
 };
 
 const prova::Iscrizione<LoopbackNetworkTest, QCoreApplication> kIscritta;
+
+}  // namespace loopback_network_test
+
 #include "loopback_network_test.moc"

@@ -14,6 +14,8 @@
 #include "platform/devices/quiet_thread.h"
 #include "support/iscrizione.h"
 
+namespace own_files_test {
+
 using platform::startQuietThread;
 using platform::takeOwnFiles;
 
@@ -167,4 +169,7 @@ class OwnFilesTest : public QObject {
 };
 
 const prova::Iscrizione<OwnFilesTest, QCoreApplication> kIscritta;
+
+}  // namespace own_files_test
+
 #include "own_files_test.moc"

@@ -16,6 +16,8 @@
 #include "full_disk.h"
 #include "support/iscrizione.h"
 
+namespace pdf_folder_test {
+
 using devices_test::FullDisk;
 using platform::PdfFolder;
 using platform::PrintJob;
@@ -230,4 +232,7 @@ class PdfFolderTest : public QObject {
 };
 
 const prova::Iscrizione<PdfFolderTest, QCoreApplication> kIscritta;
+
+}  // namespace pdf_folder_test
+
 #include "pdf_folder_test.moc"

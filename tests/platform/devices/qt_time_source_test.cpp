@@ -15,6 +15,8 @@
 
 #include "support/iscrizione.h"
 
+namespace qt_time_source_test {
+
 using platform::QtTimeSource;
 using platform::Ticker;
 
@@ -385,4 +387,7 @@ class QtTimeSourceTest : public QObject {
 };
 
 const prova::Iscrizione<QtTimeSourceTest, QCoreApplication> kIscritta;
+
+}  // namespace qt_time_source_test
+
 #include "qt_time_source_test.moc"

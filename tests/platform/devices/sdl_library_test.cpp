@@ -6,6 +6,8 @@
 
 #include "support/iscrizione.h"
 
+namespace sdl_library_test {
+
 using platform::SdlLibrary;
 
 namespace {
@@ -37,4 +39,7 @@ class SdlLibraryTest : public QObject {
 };
 
 const prova::Iscrizione<SdlLibraryTest, QCoreApplication> kIscritta;
+
+}  // namespace sdl_library_test
+
 #include "sdl_library_test.moc"

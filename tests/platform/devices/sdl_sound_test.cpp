@@ -14,6 +14,8 @@
 
 #include "support/iscrizione.h"
 
+namespace sdl_sound_test {
+
 namespace {
 
 // A mono sound of 16-bit samples that all have one value, 48,000 a second.
@@ -343,4 +345,7 @@ class SdlSoundTest : public QObject {
 };
 
 const prova::Iscrizione<SdlSoundTest, QCoreApplication> kIscritta;
+
+}  // namespace sdl_sound_test
+
 #include "sdl_sound_test.moc"

@@ -16,6 +16,8 @@
 #include "stand_still.h"
 #include "support/iscrizione.h"
 
+namespace system_printers_test {
+
 using devices_test::MutedServer;
 using devices_test::PrintServer;
 using devices_test::SilentServer;
@@ -361,4 +363,7 @@ class SystemPrintersTest : public QObject {
 };
 
 const prova::Iscrizione<SystemPrintersTest, QCoreApplication> kIscritta;
+
+}  // namespace system_printers_test
+
 #include "system_printers_test.moc"

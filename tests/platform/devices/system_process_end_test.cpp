@@ -7,6 +7,8 @@
 
 #include "support/iscrizione.h"
 
+namespace system_process_end_test {
+
 class SystemProcessEndTest : public QObject {
   Q_OBJECT
 
@@ -33,4 +35,7 @@ class SystemProcessEndTest : public QObject {
 };
 
 const prova::Iscrizione<SystemProcessEndTest, QCoreApplication> kIscritta;
+
+}  // namespace system_process_end_test
+
 #include "system_process_end_test.moc"

@@ -11,6 +11,8 @@
 #include "support/iscrizione.h"
 #include "view_bench.h"
 
+namespace accessible_movie_test {
+
 using namespace hand_made;
 using platform::flash::MovieView;
 using namespace view_bench;
@@ -197,4 +199,7 @@ class AccessibleMovieTest : public QObject {
 };
 
 const prova::Iscrizione<AccessibleMovieTest, QApplication> kIscritta;
+
+}  // namespace accessible_movie_test
+
 #include "accessible_movie_test.moc"

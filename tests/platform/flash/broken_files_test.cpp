@@ -11,6 +11,8 @@
 #include "step_cost.h"
 #include "support/iscrizione.h"
 
+namespace broken_files_test {
+
 using namespace costly;
 using namespace platform::flash;
 
@@ -287,4 +289,7 @@ class BrokenFilesTest : public QObject {
 };
 
 const prova::Iscrizione<BrokenFilesTest> kIscritta;
+
+}  // namespace broken_files_test
+
 #include "broken_files_test.moc"

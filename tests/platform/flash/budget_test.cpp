@@ -7,6 +7,8 @@
 #include "scripts.h"
 #include "support/iscrizione.h"
 
+namespace budget_test {
+
 using platform::flash::Budget;
 using namespace scripts;
 
@@ -151,4 +153,7 @@ class BudgetTest : public QObject {
 };
 
 const prova::Iscrizione<BudgetTest> kIscritta;
+
+}  // namespace budget_test
+
 #include "budget_test.moc"

@@ -9,6 +9,8 @@
 #include "platform/flash/structures.h"
 #include "support/iscrizione.h"
 
+namespace byte_reader_test {
+
 using namespace platform::flash;
 
 class ByteReaderTest : public QObject {
@@ -143,4 +145,7 @@ class ByteReaderTest : public QObject {
 };
 
 const prova::Iscrizione<ByteReaderTest> kIscritta;
+
+}  // namespace byte_reader_test
+
 #include "byte_reader_test.moc"

@@ -10,6 +10,8 @@
 #include "step_cost.h"
 #include "support/iscrizione.h"
 
+namespace costly_movies_test {
+
 using namespace platform::flash;
 using step_cost::costOf;
 
@@ -86,4 +88,7 @@ class CostlyMoviesTest : public QObject {
 };
 
 const prova::Iscrizione<CostlyMoviesTest> kIscritta;
+
+}  // namespace costly_movies_test
+
 #include "costly_movies_test.moc"

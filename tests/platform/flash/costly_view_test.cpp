@@ -12,6 +12,8 @@
 #include "support/iscrizione.h"
 #include "view_bench.h"
 
+namespace costly_view_test {
+
 using namespace hand_made;
 using namespace view_bench;
 using platform::flash::MovieView;
@@ -142,4 +144,7 @@ class CostlyViewTest : public QObject {
 };
 
 const prova::Iscrizione<CostlyViewTest, QApplication> kIscritta;
+
+}  // namespace costly_view_test
+
 #include "costly_view_test.moc"

@@ -14,6 +14,8 @@
 #include "hand_made.h"
 #include "support/iscrizione.h"
 
+namespace filmato_test {
+
 using namespace hand_made;
 
 class FilmatoTest : public QObject {
@@ -199,4 +201,7 @@ class FilmatoTest : public QObject {
 };
 
 const prova::Iscrizione<FilmatoTest, QCoreApplication> kIscritta;
+
+}  // namespace filmato_test
+
 #include "filmato_test.moc"

@@ -6,6 +6,8 @@
 #include "pointer_bench.h"
 #include "support/iscrizione.h"
 
+namespace hit_test_test {
+
 using namespace hand_made;
 using namespace pointer_bench;
 
@@ -166,4 +168,7 @@ class HitTestTest : public QObject {
 };
 
 const prova::Iscrizione<HitTestTest> kIscritta;
+
+}  // namespace hit_test_test
+
 #include "hit_test_test.moc"

@@ -5,6 +5,8 @@
 #include "scripts.h"
 #include "support/iscrizione.h"
 
+namespace interpreter_test {
+
 using namespace scripts;
 
 // Values, and what scripts tell the host.
@@ -209,4 +211,7 @@ class InterpreterTest : public QObject {
 };
 
 const prova::Iscrizione<InterpreterTest> kIscritta;
+
+}  // namespace interpreter_test
+
 #include "interpreter_test.moc"

@@ -8,6 +8,8 @@
 #include "platform/flash/limits.h"
 #include "support/iscrizione.h"
 
+namespace movie_reader_test {
+
 using namespace hand_made;
 using namespace platform::flash;
 
@@ -286,4 +288,7 @@ class MovieReaderTest : public QObject {
 };
 
 const prova::Iscrizione<MovieReaderTest> kIscritta;
+
+}  // namespace movie_reader_test
+
 #include "movie_reader_test.moc"

@@ -8,6 +8,8 @@
 #include "support/iscrizione.h"
 #include "view_bench.h"
 
+namespace movie_view_commands_test {
+
 using namespace hand_made;
 using platform::flash::MovieView;
 using namespace view_bench;
@@ -218,4 +220,7 @@ class MovieViewCommandsTest : public QObject {
 };
 
 const prova::Iscrizione<MovieViewCommandsTest, QApplication> kIscritta;
+
+}  // namespace movie_view_commands_test
+
 #include "movie_view_commands_test.moc"

@@ -10,6 +10,8 @@
 #include "support/iscrizione.h"
 #include "view_bench.h"
 
+namespace movie_view_test {
+
 using namespace hand_made;
 using platform::flash::MovieView;
 using namespace view_bench;
@@ -261,4 +263,7 @@ class MovieViewTest : public QObject {
 };
 
 const prova::Iscrizione<MovieViewTest, QApplication> kIscritta;
+
+}  // namespace movie_view_test
+
 #include "movie_view_test.moc"

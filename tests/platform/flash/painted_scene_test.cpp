@@ -2,6 +2,8 @@
 
 #include "support/iscrizione.h"
 
+namespace painted_scene_test {
+
 using namespace painted;
 
 // How what is placed is painted: colours, depths, masks, matrices, texts.
@@ -162,4 +164,7 @@ class PaintedSceneTest : public QObject {
 };
 
 const prova::Iscrizione<PaintedSceneTest> kIscritta;
+
+}  // namespace painted_scene_test
+
 #include "painted_scene_test.moc"

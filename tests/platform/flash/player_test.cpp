@@ -6,6 +6,8 @@
 #include "hand_made.h"
 #include "support/iscrizione.h"
 
+namespace player_test {
+
 using namespace hand_made;
 using platform::flash::Player;
 
@@ -395,4 +397,7 @@ class PlayerTest : public QObject {
 };
 
 const prova::Iscrizione<PlayerTest> kIscritta;
+
+}  // namespace player_test
+
 #include "player_test.moc"

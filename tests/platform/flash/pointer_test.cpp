@@ -5,6 +5,8 @@
 #include "pointer_bench.h"
 #include "support/iscrizione.h"
 
+namespace pointer_test {
+
 using namespace hand_made;
 using namespace pointer_bench;
 
@@ -235,4 +237,7 @@ class PointerTest : public QObject {
 };
 
 const prova::Iscrizione<PointerTest> kIscritta;
+
+}  // namespace pointer_test
+
 #include "pointer_test.moc"

@@ -2,6 +2,8 @@
 
 #include "support/iscrizione.h"
 
+namespace renderer_test {
+
 using namespace painted;
 
 // Shapes: their fills, lines and styles.
@@ -371,4 +373,7 @@ class RendererTest : public QObject {
 };
 
 const prova::Iscrizione<RendererTest> kIscritta;
+
+}  // namespace renderer_test
+
 #include "renderer_test.moc"

@@ -6,6 +6,8 @@
 #include "platform/flash/player.h"
 #include "support/iscrizione.h"
 
+namespace scene_test {
+
 using namespace hand_made;
 using namespace platform::flash;
 
@@ -106,4 +108,7 @@ class SceneTest : public QObject {
 };
 
 const prova::Iscrizione<SceneTest> kIscritta;
+
+}  // namespace scene_test
+
 #include "scene_test.moc"

@@ -8,6 +8,8 @@
 #include "platform/flash/player.h"
 #include "support/iscrizione.h"
 
+namespace script_memory_test {
+
 using namespace hand_made;
 using namespace platform::flash;
 
@@ -110,4 +112,7 @@ class ScriptMemoryTest : public QObject {
 };
 
 const prova::Iscrizione<ScriptMemoryTest> kIscritta;
+
+}  // namespace script_memory_test
+
 #include "script_memory_test.moc"

@@ -7,6 +7,8 @@
 #include "scripts.h"
 #include "support/iscrizione.h"
 
+namespace script_scope_test {
+
 using namespace scripts;
 
 // Clips and variables as scripts find them, functions, and scripts that never end.
@@ -293,4 +295,7 @@ class ScriptScopeTest : public QObject {
 };
 
 const prova::Iscrizione<ScriptScopeTest> kIscritta;
+
+}  // namespace script_scope_test
+
 #include "script_scope_test.moc"

@@ -10,6 +10,8 @@
 #include "platform/forms/controls/label_widget.h"
 #include "support/iscrizione.h"
 
+namespace accessible_events_test {
+
 using Told = std::vector<std::pair<QObject*, QAccessible::Event>>;
 
 // What assistive technology gets of what the toolkit tells.
@@ -230,4 +232,7 @@ class AccessibleEventsTest : public QObject {
 };
 
 const prova::Iscrizione<AccessibleEventsTest, QApplication> kIscritta;
+
+}  // namespace accessible_events_test
+
 #include "accessible_events_test.moc"

@@ -6,6 +6,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace accessible_test {
+
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
@@ -111,4 +113,7 @@ class AccessibleTest : public QObject {
 };
 
 const prova::Iscrizione<AccessibleTest, QApplication> kIscritta;
+
+}  // namespace accessible_test
+
 #include "accessible_test.moc"

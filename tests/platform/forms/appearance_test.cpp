@@ -6,6 +6,8 @@
 #include "support/iscrizione.h"
 #include "support/tavolozza_del_desktop.h"
 
+namespace appearance_test {
+
 using prova::TavolozzaDelDesktop;
 
 namespace {
@@ -65,4 +67,7 @@ class AppearanceTest : public QObject {
 };
 
 const prova::Iscrizione<AppearanceTest, QApplication> kIscritta;
+
+}  // namespace appearance_test
+
 #include "appearance_test.moc"

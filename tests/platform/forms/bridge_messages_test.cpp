@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace bridge_messages_test {
+
 namespace {
 
 QStringList told;
@@ -64,4 +66,7 @@ class BridgeMessagesTest : public QObject {
 };
 
 const prova::Iscrizione<BridgeMessagesTest> kIscritta;
+
+}  // namespace bridge_messages_test
+
 #include "bridge_messages_test.moc"

@@ -8,6 +8,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace control_array_test {
+
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
@@ -181,4 +183,7 @@ class ControlArrayTest : public QObject {
 };
 
 const prova::Iscrizione<ControlArrayTest, QApplication> kIscritta;
+
+}  // namespace control_array_test
+
 #include "control_array_test.moc"

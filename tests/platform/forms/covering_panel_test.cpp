@@ -10,6 +10,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace covering_panel_test {
+
 using trial::Below;
 using trial::Painted;
 using trial::Stage;
@@ -305,4 +307,7 @@ class CoveringPanelTest : public QObject {
 };
 
 const prova::Iscrizione<CoveringPanelTest, QApplication> kIscritta;
+
+}  // namespace covering_panel_test
+
 #include "covering_panel_test.moc"

@@ -7,6 +7,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace design_test {
+
 using platform::Button;
 using platform::ControlArray;
 using platform::FormDesign;
@@ -172,4 +174,7 @@ class DesignTest : public QObject {
 };
 
 const prova::Iscrizione<DesignTest, QApplication> kIscritta;
+
+}  // namespace design_test
+
 #include "design_test.moc"

@@ -6,6 +6,8 @@
 
 #include "support/iscrizione.h"
 
+namespace desktop_settings_test {
+
 using platform::numberIn;
 
 namespace {
@@ -114,4 +116,7 @@ class DesktopSettingsTest : public QObject {
 };
 
 const prova::Iscrizione<DesktopSettingsTest, QCoreApplication> kIscritta;
+
+}  // namespace desktop_settings_test
+
 #include "desktop_settings_test.moc"

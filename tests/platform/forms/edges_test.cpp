@@ -7,6 +7,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace edges_test {
+
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
@@ -81,4 +83,7 @@ class EdgesTest : public QObject {
 };
 
 const prova::Iscrizione<EdgesTest, QApplication> kIscritta;
+
+}  // namespace edges_test
+
 #include "edges_test.moc"

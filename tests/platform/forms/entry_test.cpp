@@ -14,6 +14,8 @@
 #include "support/fondo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace entry_test {
+
 namespace {
 
 // A form with all into which something can be entered.
@@ -198,4 +200,7 @@ class EntryTest : public QObject {
 };
 
 const prova::Iscrizione<EntryTest, QApplication> kIscritta;
+
+}  // namespace entry_test
+
 #include "entry_test.moc"

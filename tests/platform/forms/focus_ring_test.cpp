@@ -8,6 +8,8 @@
 
 #include "support/iscrizione.h"
 
+namespace focus_ring_test {
+
 using platform::kFocusRingWidth;
 using platform::markScale;
 using platform::paintFocusRing;
@@ -61,4 +63,7 @@ class FocusRingTest : public QObject {
 };
 
 const prova::Iscrizione<FocusRingTest, QApplication> kIscritta;
+
+}  // namespace focus_ring_test
+
 #include "focus_ring_test.moc"

@@ -4,6 +4,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace focus_test {
+
 using trial::Below;
 using trial::kOne;
 using trial::Stage;
@@ -152,4 +154,7 @@ class FocusTest : public QObject {
 };
 
 const prova::Iscrizione<FocusTest, QApplication> kIscritta;
+
+}  // namespace focus_test
+
 #include "focus_test.moc"

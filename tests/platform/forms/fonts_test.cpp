@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace fonts_test {
+
 using platform::largestThatFits;
 
 class FontsTest : public QObject {
@@ -41,4 +43,7 @@ class FontsTest : public QObject {
 };
 
 const prova::Iscrizione<FontsTest, QApplication> kIscritta;
+
+}  // namespace fonts_test
+
 #include "fonts_test.moc"

@@ -9,6 +9,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace forms_test {
+
 using trial::kOne;
 using trial::kThree;
 using trial::kTwo;
@@ -324,4 +326,7 @@ class FormsTest : public QObject {
 };
 
 const prova::Iscrizione<FormsTest, QApplication> kIscritta;
+
+}  // namespace forms_test
+
 #include "forms_test.moc"

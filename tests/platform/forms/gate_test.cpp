@@ -5,6 +5,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace gate_test {
+
 using platform::Gate;
 using trial::kOne;
 using trial::kTwo;
@@ -347,4 +349,7 @@ class GateTest : public QObject {
 };
 
 const prova::Iscrizione<GateTest, QApplication> kIscritta;
+
+}  // namespace gate_test
+
 #include "gate_test.moc"

@@ -9,6 +9,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace geometry_test {
+
 using platform::clientPixels;
 using platform::Scale;
 using platform::scaleFor;
@@ -244,4 +246,7 @@ class GeometryTest : public QObject {
 };
 
 const prova::Iscrizione<GeometryTest, QApplication> kIscritta;
+
+}  // namespace geometry_test
+
 #include "geometry_test.moc"

@@ -7,6 +7,8 @@
 #include "key_listener.h"
 #include "support/iscrizione.h"
 
+namespace held_keys_test {
+
 using namespace std::chrono_literals;
 using namespace key_listener;
 using platform::HeldKey;
@@ -250,4 +252,7 @@ class HeldKeysTest : public QObject {
 };
 
 const prova::Iscrizione<HeldKeysTest, QCoreApplication> kIscritta;
+
+}  // namespace held_keys_test
+
 #include "held_keys_test.moc"

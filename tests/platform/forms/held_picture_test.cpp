@@ -6,6 +6,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace held_picture_test {
+
 using trial::kOne;
 using trial::kThree;
 using trial::kTwo;
@@ -112,4 +114,7 @@ class HeldPictureTest : public QObject {
 };
 
 const prova::Iscrizione<HeldPictureTest, QApplication> kIscritta;
+
+}  // namespace held_picture_test
+
 #include "held_picture_test.moc"

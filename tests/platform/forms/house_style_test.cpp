@@ -20,6 +20,8 @@
 #include "platform/forms/text_block.h"
 #include "support/iscrizione.h"
 
+namespace house_style_test {
+
 using platform::BoxIcon;
 
 namespace {
@@ -208,4 +210,7 @@ class HouseStyleTest : public QObject {
 };
 
 const prova::Iscrizione<HouseStyleTest, QApplication> kIscritta;
+
+}  // namespace house_style_test
+
 #include "house_style_test.moc"

@@ -5,6 +5,8 @@
 #include "key_listener.h"
 #include "support/iscrizione.h"
 
+namespace key_state_test {
+
 using namespace std::chrono_literals;
 using namespace key_listener;
 using platform::HeldKey;
@@ -248,4 +250,7 @@ class KeyStateTest : public QObject {
 };
 
 const prova::Iscrizione<KeyStateTest, QCoreApplication> kIscritta;
+
+}  // namespace key_state_test
+
 #include "key_state_test.moc"

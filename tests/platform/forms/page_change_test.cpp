@@ -4,6 +4,8 @@
 #include "platform/forms/forms.h"
 #include "support/iscrizione.h"
 
+namespace page_change_test {
+
 using trial::kOne;
 using trial::kTwo;
 using trial::leading;
@@ -109,4 +111,7 @@ class PageChangeTest : public QObject {
 };
 
 const prova::Iscrizione<PageChangeTest, QApplication> kIscritta;
+
+}  // namespace page_change_test
+
 #include "page_change_test.moc"

@@ -9,6 +9,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace page_test {
+
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
@@ -148,4 +150,7 @@ class PageTest : public QObject {
 };
 
 const prova::Iscrizione<PageTest, QApplication> kIscritta;
+
+}  // namespace page_test
+
 #include "page_test.moc"

@@ -13,6 +13,8 @@
 #include "support/iscrizione.h"
 #include "tools/immagini/registratore.h"
 
+namespace pictures_test {
+
 using platform::Pictures;
 
 // The program's drawings.
@@ -259,4 +261,7 @@ class PicturesTest : public QObject {
 };
 
 const prova::Iscrizione<PicturesTest, QApplication> kIscritta;
+
+}  // namespace pictures_test
+
 #include "pictures_test.moc"

@@ -11,6 +11,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace press_test {
+
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
@@ -103,4 +105,7 @@ class PressTest : public QObject {
 };
 
 const prova::Iscrizione<PressTest, QApplication> kIscritta;
+
+}  // namespace press_test
+
 #include "press_test.moc"

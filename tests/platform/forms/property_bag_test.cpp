@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace property_bag_test {
+
 using platform::convertedTo;
 using platform::PropertyBag;
 using platform::PropertyValue;
@@ -83,4 +85,7 @@ class PropertyBagTest : public QObject {
 };
 
 const prova::Iscrizione<PropertyBagTest, QApplication> kIscritta;
+
+}  // namespace property_bag_test
+
 #include "property_bag_test.moc"

@@ -12,6 +12,8 @@
 #include "support/desktop_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace qt_announcer_test {
+
 using platform::QtAnnouncer;
 
 namespace {
@@ -269,4 +271,7 @@ class QtAnnouncerTest : public QObject {
 };
 
 const prova::Iscrizione<QtAnnouncerTest, QApplication> kIscritta;
+
+}  // namespace qt_announcer_test
+
 #include "qt_announcer_test.moc"

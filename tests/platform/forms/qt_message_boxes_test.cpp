@@ -13,6 +13,8 @@
 #include "platform/forms/appearance.h"
 #include "support/iscrizione.h"
 
+namespace qt_message_boxes_test {
+
 using platform::BoxAnswer;
 using platform::BoxButtons;
 using platform::BoxIcon;
@@ -204,4 +206,7 @@ class QtMessageBoxesTest : public QObject {
 };
 
 const prova::Iscrizione<QtMessageBoxesTest, QApplication> kIscritta;
+
+}  // namespace qt_message_boxes_test
+
 #include "qt_message_boxes_test.moc"

@@ -15,6 +15,8 @@
 #include "platform/forms/appearance.h"
 #include "support/iscrizione.h"
 
+namespace qt_page_setup_test {
+
 using platform::ColourMode;
 using platform::Orientation;
 using platform::PageSetupWords;
@@ -186,4 +188,7 @@ class QtPageSetupTest : public QObject {
 };
 
 const prova::Iscrizione<QtPageSetupTest, QApplication> kIscritta;
+
+}  // namespace qt_page_setup_test
+
 #include "qt_page_setup_test.moc"

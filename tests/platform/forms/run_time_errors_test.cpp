@@ -4,6 +4,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace run_time_errors_test {
+
 using platform::RunTimeError;
 using trial::kOne;
 using trial::kTwo;
@@ -121,4 +123,7 @@ class RunTimeErrorsTest : public QObject {
 };
 
 const prova::Iscrizione<RunTimeErrorsTest, QApplication> kIscritta;
+
+}  // namespace run_time_errors_test
+
 #include "run_time_errors_test.moc"

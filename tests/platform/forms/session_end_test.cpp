@@ -9,6 +9,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace session_end_test {
+
 using platform::SessionEnd;
 using trial::kOne;
 using trial::Stage;
@@ -109,4 +111,7 @@ class SessionEndTest : public QObject {
 };
 
 const prova::Iscrizione<SessionEndTest, QApplication> kIscritta;
+
+}  // namespace session_end_test
+
 #include "session_end_test.moc"

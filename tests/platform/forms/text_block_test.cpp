@@ -10,6 +10,8 @@
 #include "platform/forms/fonts.h"
 #include "support/iscrizione.h"
 
+namespace text_block_test {
+
 using platform::accessKeyOf;
 using platform::Align;
 using platform::contrast;
@@ -349,4 +351,7 @@ class TextBlockTest : public QObject {
 };
 
 const prova::Iscrizione<TextBlockTest, QApplication> kIscritta;
+
+}  // namespace text_block_test
+
 #include "text_block_test.moc"

@@ -8,6 +8,8 @@
 #include "support/fondo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace user_control_test {
+
 using platform::Form;
 using platform::inner;
 using platform::Property;
@@ -220,4 +222,7 @@ class UserControlTest : public QObject {
 };
 
 const prova::Iscrizione<UserControlTest, QApplication> kIscritta;
+
+}  // namespace user_control_test
+
 #include "user_control_test.moc"

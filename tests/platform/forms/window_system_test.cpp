@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace window_system_test {
+
 // On which window system the application is made, as the toolkit reads it.
 class WindowSystemTest : public QObject {
   Q_OBJECT
@@ -58,4 +60,7 @@ class WindowSystemTest : public QObject {
 };
 
 const prova::Iscrizione<WindowSystemTest, QCoreApplication> kIscritta;
+
+}  // namespace window_system_test
+
 #include "window_system_test.moc"

@@ -16,6 +16,8 @@
 
 #include "support/iscrizione.h"
 
+namespace suoni_test {
+
 namespace {
 
 constexpr int kFrequenza = 48000;
@@ -264,4 +266,7 @@ class SuoniTest : public QObject {
 };
 
 const prova::Iscrizione<SuoniTest, QCoreApplication> kIscritta;
+
+}  // namespace suoni_test
+
 #include "suoni_test.moc"

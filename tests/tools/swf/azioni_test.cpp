@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace azioni_test {
+
 using namespace somme::swf;
 using Byte = std::vector<std::uint8_t>;
 
@@ -64,4 +66,7 @@ class AzioniTest : public QObject {
 };
 
 const prova::Iscrizione<AzioniTest> kIscritta;
+
+}  // namespace azioni_test
+
 #include "azioni_test.moc"

@@ -5,6 +5,8 @@
 #include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
+namespace filmato_test {
+
 using namespace somme::swf;
 using prove::leggi;
 
@@ -75,4 +77,7 @@ class FilmatoTest : public QObject {
 };
 
 const prova::Iscrizione<FilmatoTest> kIscritta;
+
+}  // namespace filmato_test
+
 #include "filmato_test.moc"

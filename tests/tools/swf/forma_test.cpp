@@ -5,6 +5,8 @@
 #include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
+namespace forma_test {
+
 using namespace somme::swf;
 using prove::bit;
 using prove::Byte;
@@ -135,4 +137,7 @@ class FormaTest : public QObject {
 };
 
 const prova::Iscrizione<FormaTest> kIscritta;
+
+}  // namespace forma_test
+
 #include "forma_test.moc"

@@ -5,6 +5,8 @@
 #include "support/iscrizione.h"
 #include "tests/tools/swf/passeggiata.h"
 
+namespace geometria_test {
+
 using namespace somme::swf;
 using prove::bit;
 using prove::Byte;
@@ -77,4 +79,7 @@ class GeometriaTest : public QObject {
 };
 
 const prova::Iscrizione<GeometriaTest> kIscritta;
+
+}  // namespace geometria_test
+
 #include "geometria_test.moc"

@@ -7,6 +7,8 @@
 #include "tests/tools/swf/filmato_a_caso.h"
 #include "tests/tools/swf/racconto.h"
 
+namespace letto_come_scritto_test {
+
 using namespace platform::flash;
 using prove::FilmatoACaso;
 using somme::swf::Filmato;
@@ -104,4 +106,7 @@ class LettoComeScrittoTest : public QObject {
 };
 
 const prova::Iscrizione<LettoComeScrittoTest, QCoreApplication> kIscritta;
+
+}  // namespace letto_come_scritto_test
+
 #include "letto_come_scritto_test.moc"

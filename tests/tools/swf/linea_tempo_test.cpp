@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace linea_tempo_test {
+
 using namespace somme::swf;
 using Byte = std::vector<std::uint8_t>;
 
@@ -63,4 +65,7 @@ class LineaTempoTest : public QObject {
 };
 
 const prova::Iscrizione<LineaTempoTest> kIscritta;
+
+}  // namespace linea_tempo_test
+
 #include "linea_tempo_test.moc"

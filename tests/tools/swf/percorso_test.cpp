@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace percorso_test {
+
 using namespace somme::swf;
 
 class PercorsoTest : public QObject {
@@ -56,4 +58,7 @@ class PercorsoTest : public QObject {
 };
 
 const prova::Iscrizione<PercorsoTest> kIscritta;
+
+}  // namespace percorso_test
+
 #include "percorso_test.moc"

@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace pulsante_test {
+
 using namespace somme::swf;
 using Byte = std::vector<std::uint8_t>;
 
@@ -40,4 +42,7 @@ class PulsanteTest : public QObject {
 };
 
 const prova::Iscrizione<PulsanteTest> kIscritta;
+
+}  // namespace pulsante_test
+
 #include "pulsante_test.moc"

@@ -4,6 +4,8 @@
 
 #include "support/iscrizione.h"
 
+namespace scrittore_byte_test {
+
 using somme::swf::ScrittoreByte;
 using Byte = std::vector<std::uint8_t>;
 
@@ -75,4 +77,7 @@ class ScrittoreByteTest : public QObject {
 };
 
 const prova::Iscrizione<ScrittoreByteTest> kIscritta;
+
+}  // namespace scrittore_byte_test
+
 #include "scrittore_byte_test.moc"

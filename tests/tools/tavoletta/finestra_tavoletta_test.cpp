@@ -5,6 +5,8 @@
 
 #include "support/iscrizione.h"
 
+namespace finestra_tavoletta_test {
+
 using somme::tavoletta::FinestraTavoletta;
 using somme::tavoletta::kFogli;
 using somme::tavoletta::Tavoletta;
@@ -130,4 +132,7 @@ class FinestraTavolettaTest : public QObject {
 };
 
 const prova::Iscrizione<FinestraTavolettaTest, QApplication> kIscritta;
+
+}  // namespace finestra_tavoletta_test
+
 #include "finestra_tavoletta_test.moc"

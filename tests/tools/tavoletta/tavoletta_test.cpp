@@ -11,6 +11,8 @@
 #include "support/iscrizione.h"
 #include "tools/tavoletta/suggeritore.h"
 
+namespace tavoletta_test {
+
 using prova::Banco;
 using somme::FormaNumeriHK;
 using somme::tavoletta::Suggeritore;
@@ -282,4 +284,7 @@ class TavolettaTest : public QObject {
 };
 
 const prova::Iscrizione<TavolettaTest, QApplication> kIscritta;
+
+}  // namespace tavoletta_test
+
 #include "tavoletta_test.moc"

@@ -10,6 +10,8 @@
 
 #include "support/iscrizione.h"
 
+namespace files_in_folder_test {
+
 class FilesInFolderTest : public QObject {
   Q_OBJECT
 
@@ -44,4 +46,7 @@ class FilesInFolderTest : public QObject {
 };
 
 const prova::Iscrizione<FilesInFolderTest> kIscritta;
+
+}  // namespace files_in_folder_test
+
 #include "files_in_folder_test.moc"

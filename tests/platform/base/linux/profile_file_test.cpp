@@ -14,6 +14,8 @@
 #include "../profile_bytes.h"
 #include "support/iscrizione.h"
 
+namespace profile_file_test {
+
 using namespace profile_bytes;
 
 // What happens to a file between processes, users and links, as Linux has them.
@@ -183,4 +185,7 @@ class ProfileFileTest : public QObject {
 };
 
 const prova::Iscrizione<ProfileFileTest> kIscritta;
+
+}  // namespace profile_file_test
+
 #include "profile_file_test.moc"

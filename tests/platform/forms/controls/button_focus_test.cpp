@@ -5,6 +5,8 @@
 #include "platform/forms/controls/button.h"
 #include "support/iscrizione.h"
 
+namespace button_focus_test {
+
 using trial::Clicks;
 using trial::Stage;
 
@@ -123,4 +125,7 @@ class ButtonFocusTest : public QObject {
 };
 
 const prova::Iscrizione<ButtonFocusTest, QApplication> kIscritta;
+
+}  // namespace button_focus_test
+
 #include "button_focus_test.moc"

@@ -7,6 +7,8 @@
 #include "platform/forms/text_block.h"
 #include "support/iscrizione.h"
 
+namespace button_look_test {
+
 using trial::Clicks;
 using trial::Stage;
 
@@ -226,4 +228,7 @@ class ButtonLookTest : public QObject {
 };
 
 const prova::Iscrizione<ButtonLookTest, QApplication> kIscritta;
+
+}  // namespace button_look_test
+
 #include "button_look_test.moc"

@@ -7,6 +7,8 @@
 #include "clicks.h"
 #include "support/iscrizione.h"
 
+namespace button_test {
+
 using trial::Clicks;
 using trial::Stage;
 using trial::TrialForm;
@@ -304,4 +306,7 @@ class ButtonTest : public QObject {
 };
 
 const prova::Iscrizione<ButtonTest, QApplication> kIscritta;
+
+}  // namespace button_test
+
 #include "button_test.moc"

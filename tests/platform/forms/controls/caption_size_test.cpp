@@ -7,6 +7,8 @@
 #include "platform/forms/pictures.h"
 #include "support/iscrizione.h"
 
+namespace caption_size_test {
+
 using platform::ButtonWidget;
 using platform::CaptionSize;
 
@@ -90,4 +92,7 @@ class CaptionSizeTest : public QObject {
 };
 
 const prova::Iscrizione<CaptionSizeTest, QApplication> kIscritta;
+
+}  // namespace caption_size_test
+
 #include "caption_size_test.moc"

@@ -11,6 +11,8 @@
 #include "support/fondo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace focus_keeper_test {
+
 using platform::FocusKeeper;
 
 namespace {
@@ -251,4 +253,7 @@ class FocusKeeperTest : public QObject {
 };
 
 const prova::Iscrizione<FocusKeeperTest, QApplication> kIscritta;
+
+}  // namespace focus_keeper_test
+
 #include "focus_keeper_test.moc"

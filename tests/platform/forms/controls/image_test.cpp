@@ -7,6 +7,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace image_test {
+
 using platform::Pop;
 using trial::kOne;
 using trial::Stage;
@@ -158,4 +160,7 @@ class ImageTest : public QObject {
 };
 
 const prova::Iscrizione<ImageTest, QApplication> kIscritta;
+
+}  // namespace image_test
+
 #include "image_test.moc"

@@ -8,6 +8,8 @@
 #include "support/fondo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace line_test {
+
 using platform::Form;
 using platform::Row;
 using platform::row;
@@ -100,4 +102,7 @@ class LineTest : public QObject {
 };
 
 const prova::Iscrizione<LineTest, QApplication> kIscritta;
+
+}  // namespace line_test
+
 #include "line_test.moc"

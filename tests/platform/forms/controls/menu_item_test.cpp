@@ -10,6 +10,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace menu_item_test {
+
 using trial::kOne;
 using trial::kTwo;
 using trial::Stage;
@@ -213,4 +215,7 @@ class MenuItemTest : public QObject {
 };
 
 const prova::Iscrizione<MenuItemTest, QApplication> kIscritta;
+
+}  // namespace menu_item_test
+
 #include "menu_item_test.moc"

@@ -7,6 +7,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace rich_text_box_test {
+
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
@@ -154,4 +156,7 @@ class RichTextBoxTest : public QObject {
 };
 
 const prova::Iscrizione<RichTextBoxTest, QApplication> kIscritta;
+
+}  // namespace rich_text_box_test
+
 #include "rich_text_box_test.moc"

@@ -8,6 +8,8 @@
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
+namespace scroll_bar_test {
+
 using platform::ScrollBar;
 using prova::Banco;
 
@@ -181,4 +183,7 @@ class ScrollBarTest : public QObject {
 };
 
 const prova::Iscrizione<ScrollBarTest, QApplication> kIscritta;
+
+}  // namespace scroll_bar_test
+
 #include "scroll_bar_test.moc"

@@ -6,6 +6,8 @@
 #include "support/fondo_di_prova.h"
 #include "support/iscrizione.h"
 
+namespace shape_test {
+
 using platform::Shape;
 
 namespace {
@@ -87,4 +89,7 @@ class ShapeTest : public QObject {
 };
 
 const prova::Iscrizione<ShapeTest, QApplication> kIscritta;
+
+}  // namespace shape_test
+
 #include "shape_test.moc"

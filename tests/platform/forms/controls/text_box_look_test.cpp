@@ -7,6 +7,8 @@
 #include "support/iscrizione.h"
 #include "text_box_di_prova.h"
 
+namespace text_box_look_test {
+
 using casella::Fondo;
 using casella::Prova;
 using casella::rigaDi;
@@ -293,4 +295,7 @@ class TextBoxLookTest : public QObject {
 };
 
 const prova::Iscrizione<TextBoxLookTest, QApplication> kIscritta;
+
+}  // namespace text_box_look_test
+
 #include "text_box_look_test.moc"

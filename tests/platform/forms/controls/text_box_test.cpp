@@ -10,6 +10,8 @@
 #include "support/iscrizione.h"
 #include "text_box_di_prova.h"
 
+namespace text_box_test {
+
 using casella::Fondo;
 using casella::Prova;
 using casella::rigaDi;
@@ -288,4 +290,7 @@ class TextBoxTest : public QObject {
 };
 
 const prova::Iscrizione<TextBoxTest, QApplication> kIscritta;
+
+}  // namespace text_box_test
+
 #include "text_box_test.moc"

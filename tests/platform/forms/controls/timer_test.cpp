@@ -6,6 +6,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace timer_test {
+
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
@@ -145,4 +147,7 @@ class TimerTest : public QObject {
 };
 
 const prova::Iscrizione<TimerTest, QApplication> kIscritta;
+
+}  // namespace timer_test
+
 #include "timer_test.moc"

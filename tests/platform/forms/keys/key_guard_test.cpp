@@ -15,6 +15,8 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+namespace key_guard_test {
+
 using platform::KeyGuard;
 using platform::RepeatMarks;
 using trial::kOne;
@@ -234,4 +236,7 @@ class KeyGuardTest : public QObject {
 };
 
 const prova::Iscrizione<KeyGuardTest, QApplication> kIscritta;
+
+}  // namespace key_guard_test
+
 #include "key_guard_test.moc"

@@ -8,6 +8,10 @@
 #include "stage.h"
 #include "support/iscrizione.h"
 
+Q_DECLARE_METATYPE(platform::RepeatMarks)
+
+namespace key_release_test {
+
 using platform::KeyGuard;
 using platform::RepeatMarks;
 using trial::kOne;
@@ -63,8 +67,6 @@ void letDeferredOut() {
 }
 
 }  // namespace
-
-Q_DECLARE_METATYPE(platform::RepeatMarks)
 
 // Where the release of a key goes, and when it goes nowhere.
 class KeyReleaseTest : public QObject {
@@ -247,4 +249,7 @@ class KeyReleaseTest : public QObject {
 };
 
 const prova::Iscrizione<KeyReleaseTest, QApplication> kIscritta;
+
+}  // namespace key_release_test
+
 #include "key_release_test.moc"
