@@ -3,11 +3,13 @@
 #include <QStringList>
 #include <QTest>
 
+#include "frames.h"
 #include "hand_made.h"
 #include "support/iscrizione.h"
 
 namespace player_test {
 
+using namespace frames;
 using namespace hand_made;
 using platform::flash::Player;
 
@@ -29,20 +31,6 @@ struct Running {
 
 QStringList words(const char* text) {
   return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
-}
-
-// A frame that tells its number and does more.
-QByteArray frame(const char* name, const QByteArray& actions = {}) {
-  return doAction(tell(name) + actions) + showFrame();
-}
-
-QByteArray gotoFrame(unsigned frameFrom0) {
-  return action(0x81, u16(frameFrom0));
-}
-
-// Four frames that tell "1" to "4"; the first one does more, too.
-QByteArray fourFrames(const QByteArray& first) {
-  return frame("1", first) + frame("2") + frame("3") + frame("4");
 }
 
 }  // namespace
