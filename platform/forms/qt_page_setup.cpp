@@ -67,6 +67,7 @@ QComboBox* addPapers(QFormLayout& form, const QString& label, const PrinterTrait
 
 void addButtons(QDialog& dialog, QFormLayout& form, const PageSetupWords& words) {
   auto* row = new QHBoxLayout;
+  row->setSpacing(grown(dialog, kBetweenRows));
   auto* ok = new QPushButton(words.ok);
   auto* cancel = new QPushButton(words.cancel);
   for (QPushButton* button : {ok, cancel}) {

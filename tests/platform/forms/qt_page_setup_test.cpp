@@ -132,6 +132,19 @@ class QtPageSetupTest : public QObject {
     for (size_t i = 0; i < small.size(); ++i) QVERIFY(large.at(i) > 2.4 * small.at(i));
   }
 
+  // A hand that misses one must not press the other.
+  void itsButtonsStandApart() {
+    PrinterSettings settings = onA4();
+    QVERIFY(!choose(printer(), settings, [](const Open& open) {
+      const QList<QPushButton*> buttons = open.dialog.findChildren<QPushButton*>();
+      QCOMPARE(buttons.size(), 2);
+      const QRect left = buttons[0]->geometry();
+      const QRect right = buttons[1]->geometry();
+      QVERIFY(left.top() == right.top() && right.left() - left.right() >= 10);
+      QCOMPARE(left.size(), right.size());
+    }));
+  }
+
   void whatIsChosenIsTaken() {
     PrinterSettings settings = onA4();
     QVERIFY(choose(printer(), settings, [](const Open& open) {
