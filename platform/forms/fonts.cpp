@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <numeric>
+#include <vector>
 
 namespace platform::inline forms {
 
@@ -15,9 +16,26 @@ namespace {
 const QString kTahoma = QStringLiteral("Tahoma");
 const QString kArial = QStringLiteral("Arial");
 
+// Fonts that have been measured. To measure one takes as long as to paint a word, and at each
+// painting the few of a form are asked for again.
+struct Measured {
+  QFont font;
+  Ink ink;
+};
+std::vector<Measured>& measured() {
+  static std::vector<Measured> fonts;
+  return fonts;
+}
+
+Ink measure(const QFont& font) {
+  const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈÇ(gjpqy"));
+  return {-ink.top(), ink.bottom()};
+}
+
 }  // namespace
 
 void addFontsIn(const QString& folder) {
+  measured().clear();
   const QDir fonts(folder, QStringLiteral("*.ttf"), QDir::Name, QDir::Files);
   for (const QString& file : fonts.entryList()) {
     QFontDatabase::addApplicationFont(fonts.filePath(file));
@@ -52,8 +70,12 @@ double pixelsOver(const QWidget* window, double smallest) {
 }
 
 Ink inkOf(const QFont& font) {
-  const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈÇ(gjpqy"));
-  return {-ink.top(), ink.bottom()};
+  constexpr std::size_t kMost = 24;  // more than a form has
+  std::vector<Measured>& fonts = measured();
+  const auto known = std::ranges::find(fonts, font, &Measured::font);
+  if (known != fonts.end()) return known->ink;
+  if (fonts.size() == kMost) fonts.erase(fonts.begin());
+  return fonts.emplace_back(Measured{font, measure(font)}).ink;
 }
 
 int baseLineIn(const QRect& room, const QFont& font) {

@@ -7,6 +7,7 @@
 
 namespace fonts_test {
 
+using platform::Face;
 using platform::largestThatFits;
 
 class FontsTest : public QObject {
@@ -29,6 +30,20 @@ class FontsTest : public QObject {
 
   void aSizeBelowTheSmallestStays() {
     QCOMPARE(largestThatFits(5, 9, [](int) { return false; }), 5);
+  }
+
+  // Also of fonts that differ in one thing only, however many have been asked for.
+  void theInkOfEachFontIsItsOwn() {
+    for (int again = 0; again < 2; ++again) {
+      for (int pixels = 10; pixels < 50; ++pixels) {
+        for (const Face face : {Face::Tahoma, Face::Arial}) {
+          const QFont font = platform::fontOf({.face = face}, pixels);
+          const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("ÀÈÇ(gjpqy"));
+          QCOMPARE(platform::inkOf(font).above, -ink.top());
+          QCOMPARE(platform::inkOf(font).below, ink.bottom());
+        }
+      }
+    }
   }
 
   void lettersOfThousandsOfPixelsAreMeasuredInAFewSizesOnly() {
