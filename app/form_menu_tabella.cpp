@@ -25,8 +25,8 @@ constexpr auto kGeneri = [] {
   std::array<Row, std::ranges::count_if(kGeneriTabella, SiOffre)> righe{};
   for (int rango = 0; const GenereTabella& genere : kGeneriTabella) {
     if (!SiOffre(genere)) continue;
-    const TwipsRect posto{240.0 + 3360 * (rango / kPerColonna),
-                          1440.0 + 1200 * (rango % kPerColonna), 2580, 915};
+    const int colonna = rango / kPerColonna;
+    const TwipsRect posto{240.0 + 3360 * colonna, 1440.0 + 1200 * (rango % kPerColonna), 2580, 915};
     righe.at(static_cast<std::size_t>(rango)) = row<&FormMenuTabella::Command2>(
         genere.tipo, posto, VoceGrande(genere.didascalia, kTintaTabella, genere.immagine));
     ++rango;

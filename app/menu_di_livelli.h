@@ -54,7 +54,8 @@ constexpr TwipsRect PostoLivello(const MenuDiLivelli& menu, const FasciaMenu& fa
   const int inTutto = QuantiDelGruppo(menu, fascia.gruppo);
   const int perColonna =
       std::max(kLivelliPerColonna, (inTutto + fascia.colonne - 1) / fascia.colonne);
-  return {fascia.sinistra + fascia.passo * (rango / perColonna),
+  const int colonna = rango / perColonna;
+  return {fascia.sinistra + fascia.passo * colonna,
           menu.alto + kPassoLivelli * (rango % perColonna), menu.larghezzaLivello, kAltezzaLivello};
 }
 

@@ -168,6 +168,7 @@ TabellaForme LeForme() {
 
 std::vector<std::string_view> NomiDelleForme() {
   std::vector<std::string_view> nomi;
+  nomi.reserve(kForme.size());
   for (const SchedaForma& scheda : kForme) nomi.push_back(scheda.nome);
   return nomi;
 }

@@ -24,7 +24,7 @@ void BlocchiUniti::Unisci(const Quantita& quanti) {
 }
 
 void BlocchiUniti::AvviaCambio() {
-  corso_.emplace();
+  corso_ = Corso{};
 }
 
 void BlocchiUniti::FinisciAttesa() {

@@ -32,7 +32,7 @@ const QString kEstensione = QStringLiteral(".lng");
 QString FileLingua(const Ambiente& ambiente) {
   QString cartella = ambiente.servizi.cartella;
   if (!cartella.endsWith(u'/')) cartella += u'/';
-  const QString usuale = cartella + ambiente.stato.LinguaCorrente + kEstensione;
+  QString usuale = cartella + ambiente.stato.LinguaCorrente + kEstensione;
   if (QFile::exists(usuale)) return usuale;
   // ".LNG", as disks from elsewhere have it.
   const QStringList file = platform::filesInFolder(cartella, kEstensione);

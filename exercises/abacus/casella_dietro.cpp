@@ -8,7 +8,8 @@ void PosaDietro(TestoInputNumerico& casella, const platform::Label& operazione) 
   constexpr int kSovrapposti = 20;  // twips by which the box reaches under the operation
   casella.setTop(operazione.top());
   casella.setLeft(operazione.left() + operazione.width() - kSovrapposti);
-  casella.setWidth(static_cast<double>(platform::roundHalfEven(operazione.width()) / 2));
+  const auto meta = platform::roundHalfEven(operazione.width()) / 2;
+  casella.setWidth(static_cast<double>(meta));
   casella.setHeight(operazione.height());
   casella.DimensioneTesto.set(platform::toInt16(operazione.fontSize()));
 }

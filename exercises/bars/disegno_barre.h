@@ -28,7 +28,7 @@ constexpr Look Quadretto(Rgb colore) {
           .hidden = true,
           .in = nameOf<&FormaBarre::Picture1>};
 }
-constexpr Look Termine(std::string_view testo) {
+constexpr Look TermineScritto(std::string_view testo) {
   return {.caption = testo,
           .font = kNumeroGrande,
           .back = kWhite,
@@ -57,11 +57,11 @@ constexpr auto Barre(double sinistra, double alto, double origine, double unita)
 // The written sum; sinistra, alto: of its first term, twips.
 constexpr auto SommaScritta(double sinistra, double alto) {
   return std::to_array<Row>({
-      row<&FormaBarre::Label4>(0, {sinistra, alto, 975, 735}, Termine("")),
-      row<&FormaBarre::Label4>(1, {sinistra + 960, alto, 855, 735}, Termine("+")),
-      row<&FormaBarre::Label4>(2, {sinistra + 1800, alto, 975, 735}, Termine("")),
-      row<&FormaBarre::Label4>(3, {sinistra + 2760, alto, 855, 735}, Termine("=")),
-      row<&FormaBarre::Label4>(4, {sinistra + 3600, alto, 975, 735}, Termine("")),
+      row<&FormaBarre::Label4>(0, {sinistra, alto, 975, 735}, TermineScritto("")),
+      row<&FormaBarre::Label4>(1, {sinistra + 960, alto, 855, 735}, TermineScritto("+")),
+      row<&FormaBarre::Label4>(2, {sinistra + 1800, alto, 975, 735}, TermineScritto("")),
+      row<&FormaBarre::Label4>(3, {sinistra + 2760, alto, 855, 735}, TermineScritto("=")),
+      row<&FormaBarre::Label4>(4, {sinistra + 3600, alto, 975, 735}, TermineScritto("")),
   });
 }
 

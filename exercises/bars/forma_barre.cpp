@@ -21,7 +21,7 @@ constexpr auto kDomande = std::to_array<DomandaBarre>({
     {Termine::Totale, &StringheCondivise::ConsegnaBarre1, kRosso},
 });
 
-constexpr std::size_t Posto(Termine termine) {
+constexpr std::size_t Indice(Termine termine) {
   return static_cast<std::size_t>(termine);
 }
 
@@ -129,7 +129,7 @@ void FormaBarre::GeneraCaso2() {
 }
 
 void FormaBarre::MostraCaso() {
-  const DomandaBarre& domanda = kDomande[Posto(*partita_.Chiesto())];
+  const DomandaBarre& domanda = kDomande[Indice(*partita_.Chiesto())];
   const qint16 fineDelPrimo = FineDi(partita_.Numero(Termine::Primo));
   const qint16 altoTotale = toInt16(OrigineY + Unita);
   MettiBarra(Termine::Primo, OrigineX, OrigineY);
@@ -217,7 +217,7 @@ void FormaBarre::DiciQuadretti() {
 
 platform::Label& FormaBarre::Barra(Termine termine) {
   const std::array barre{&n1, &n2, &n3};
-  return *barre[Posto(termine)];
+  return *barre[Indice(termine)];
 }
 
 // In `Label4` the signs stand between the terms.

@@ -8,14 +8,14 @@ namespace somme::inline blocchi {
 
 namespace {
 
-constexpr std::array kCambiEntro99{
+constexpr std::array kCambiDetti99{
     CambioBlocchi{{2, u"cambio", true}, &FormaBlocchi::PulsanteCambio}};
-constexpr std::array kCambiEntro999{
+constexpr std::array kCambiDetti999{
     CambioBlocchi{{2, u"cambiouda", false}, &FormaBlocchi::PulsanteCambioUDa},
     CambioBlocchi{{51, u"cambiodah", false}, &FormaBlocchi::PulsanteCambioDaH}};
 
-static_assert(kCambiEntro99.size() == kRegoleBlocchiEntro99.cambi.size());
-static_assert(kCambiEntro999.size() == kRegoleBlocchiEntro999.cambi.size());
+static_assert(kCambiDetti99.size() == kRegoleBlocchiEntro99.cambi.size());
+static_assert(kCambiDetti999.size() == kRegoleBlocchiEntro999.cambi.size());
 
 }  // namespace
 
@@ -24,7 +24,7 @@ constinit const EsercizioBlocchi kBlocchiEntro99{
     .titolo = &StringheCondivise::TitoloPLUEntro99,
     .filmatoAddendo = u"swf/dau.swf",
     .filmatoUnione = u"swf/unione.swf",
-    .cambi = kCambiEntro99,
+    .cambi = kCambiDetti99,
 };
 
 constinit const EsercizioBlocchi kBlocchiEntro999{
@@ -32,7 +32,7 @@ constinit const EsercizioBlocchi kBlocchiEntro999{
     .titolo = &StringheCondivise::TitoloPLUEntro999,
     .filmatoAddendo = u"swf/hdau.swf",
     .filmatoUnione = u"swf/unionehdau.swf",
-    .cambi = kCambiEntro999,
+    .cambi = kCambiDetti999,
 };
 
 }  // namespace somme::inline blocchi

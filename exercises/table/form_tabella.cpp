@@ -23,8 +23,9 @@ constexpr Rgb kAperta{192, 255, 255};
 constexpr auto kCelleDisegno = [] {
   std::array<Row, kCelle> righe{};
   for (int i = 0; i < kCelle; ++i) {
+    const int riga = i / kPerRiga;
     righe[static_cast<std::size_t>(i)] = row<&FormTabella::Numero>(
-        i, {120.0 + 600 * (i % kPerRiga), 120.0 + 600 * (i / kPerRiga), 615, 615},
+        i, {120.0 + 600 * (i % kPerRiga), 120.0 + 600 * riga, 615, 615},
         {.caption = "0", .font = {Face::Arial, 12, true}, .back = kGiallo});
   }
   return righe;

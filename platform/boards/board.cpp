@@ -36,6 +36,7 @@ void Board::press(const QString& clip) {
 
 void Board::offerClips(const std::vector<Offered>& clips) {
   std::vector<MovieView::OfferedClip> offered;
+  offered.reserve(clips.size());
   for (const Offered& clip : clips) offered.push_back({clip.clip, clip.name});
   if (widget() != nullptr) viewOf(widget()).offerClips(std::move(offered));
 }

@@ -31,7 +31,7 @@ constexpr std::array<unsigned, kSamples> kColumns = [] {
 constexpr std::array<Across, kSamples> kOffsets = [] {
   std::array<Across, kSamples> all{};
   for (std::size_t i = 0; i < kSamples; ++i) {
-    all[i] = (2 * Across(kColumns[i]) + 1) * kOnePixel / (2 * kSamples);
+    all[i] = (2 * Across(kColumns[i]) + 1) * kOnePixel / (Across{2} * kSamples);
   }
   return all;
 }();

@@ -144,7 +144,7 @@ class MovieReader {
   void colorButton(ByteReader& body);
   void setBackground(QRgb color);
   void defineSprite(ByteReader& body, std::size_t bodyAt);
-  void add(CharacterId id, Character character);
+  void add(CharacterId id, Character&& character);
   void note(const MovieError& fault) {
     if (movie_.faults.size() < std::size_t(limits::kFaults)) {
       movie_.faults.push_back(fault);
@@ -181,7 +181,7 @@ void MovieReader::eachTag(Bytes bytes, std::size_t bytesAt, Take take) {
   }
 }
 
-void MovieReader::add(CharacterId id, Character character) {
+void MovieReader::add(CharacterId id, Character&& character) {
   allowance_.spend(sizeof(Character));
   // The first one stays: what was placed by this number so far keeps its meaning.
   movie_.characters.try_emplace(id, std::move(character));

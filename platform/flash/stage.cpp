@@ -241,7 +241,7 @@ void Stage::store(Container& owner, const QString& name, Value value) {
     return;
   }
   if (isNew) {
-    owner.variables.insert(key, std::move(value));
+    owner.variables.insert(key, value);
   } else {
     found.value() = std::move(value);
   }

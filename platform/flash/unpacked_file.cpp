@@ -45,8 +45,8 @@ class Inflater {
   // Takes a little of what is packed, which may hold nothing but the descriptions of codes, and
   // appends what comes of it: so many bytes.
   std::size_t step(Bytes& packed, std::vector<std::uint8_t>& out, std::size_t most) {
-    constexpr std::size_t kMostIn = 4U * 1024U;
-    constexpr std::size_t kMostOut = 64U * 1024U;
+    constexpr std::size_t kMostIn = std::size_t{4} * 1024;
+    constexpr std::size_t kMostOut = std::size_t{64} * 1024;
     constexpr std::int64_t kWorkPerByteIn = 10;
     constexpr std::int64_t kWorkPerByteOut = 3;
     if (stream_.avail_in == 0) {

@@ -62,7 +62,7 @@ class AccessibleButton final : public Pressable {
       : Pressable(widget, QAccessible::Button, pressAction()) {}
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
-    const QString own = QAccessibleWidget::text(kind);
+    QString own = QAccessibleWidget::text(kind);
     const QWidget* heading = static_cast<ButtonWidget*>(widget())->heading();
     if (kind != QAccessible::Name || heading == nullptr) return own;
     return QStringLiteral("%1, %2").arg(heading->accessibleName(), own);

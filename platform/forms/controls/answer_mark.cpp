@@ -16,9 +16,9 @@ constexpr double kStroke = 0.16;  // of the disc's diameter
 constexpr double kGap = 0.04;     // from the face's edges, of its shorter side
 
 // Points of a disc from -1 to 1.
-using Line = std::initializer_list<QPointF>;
+using Points = std::initializer_list<QPointF>;
 
-void paintLine(QPainter& painter, const QRectF& disc, Line points) {
+void paintLine(QPainter& painter, const QRectF& disc, Points points) {
   QPolygonF line;
   for (const QPointF& point : points) line << disc.center() + point * (disc.width() / 2);
   painter.drawPolyline(line);

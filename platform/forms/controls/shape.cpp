@@ -24,7 +24,7 @@ class ShapeWidget final : public QWidget {
 
   void setColours(const QColor& ink, std::optional<QColor> ground) {
     ink_ = ink;
-    ground_ = std::move(ground);
+    ground_ = ground;
     update();
   }
 

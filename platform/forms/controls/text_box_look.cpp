@@ -14,11 +14,11 @@ namespace platform::inline forms {
 
 namespace {
 
-constexpr int kSmallest = 9;        // pixels of a font
-constexpr int kSideMargin = 6;      // pixels, so that text keeps clear of the focus ring
-constexpr int kWidthsOfOthers = 6;  // pixels beside the text that the line edit keeps for itself
-constexpr int kBesideCursor = 5;    // how far the line edit's cursor rectangle reaches to its left
-constexpr double kCaretWidth = 3;   // pixels
+constexpr int kSmallest = 9;           // pixels of a font
+constexpr int kSideMargin = 6;         // pixels, so that text keeps clear of the focus ring
+constexpr double kWidthsOfOthers = 6;  // pixels beside the text that the line edit keeps for itself
+constexpr int kBesideCursor = 5;   // how far the line edit's cursor rectangle reaches to its left
+constexpr double kCaretWidth = 3;  // pixels
 constexpr QColor kCaret(47, 127, 230);
 constexpr double kSeen = 3;  // contrast of marks, WCAG 1.4.11
 constexpr QColor kEdge(70, 70, 70);

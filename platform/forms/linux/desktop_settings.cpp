@@ -28,7 +28,7 @@ class Reader {
   QByteArray take(qsizetype count) {
     if (count < 0 || count > bytes_.size() - at_) broken_ = true;
     if (broken_) return {};
-    const QByteArray taken = bytes_.mid(at_, count);
+    QByteArray taken = bytes_.mid(at_, count);
     at_ += count;
     return taken;
   }

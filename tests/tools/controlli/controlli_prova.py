@@ -1,6 +1,7 @@
 """The rules of tools/controlla, each tried on a small house that breaks it and on one that does not."""
 
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -9,8 +10,9 @@ import unittest
 sys.dont_write_bytecode = True
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../../tools"))
 
-from controlli import misure, sorgenti, struttura, testo  # noqa: E402
+from controlli import misure, pulizia, sorgenti, struttura, testo  # noqa: E402
 
+_CASA = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../..")
 _LUNGO = "".join(f"  total{i} = call_{i % 7}(left, {i}) {'+-*/%&|'[i % 7]} right;\n"
                  for i in range(12))
 
@@ -174,6 +176,63 @@ class Casa(unittest.TestCase):
         trovati = list(testo.formato())
         self.assertEqual(1, len(trovati), trovati)
         self.assertIn("cases/a.cpp", trovati[0])
+
+    def pulisci(self, *file):
+        shutil.copy(os.path.join(_CASA, ".clang-tidy"), ".")
+        return list(pulizia.guasti(file))
+
+    def test_clang_tidy_tells_the_place_and_the_check_of_what_it_finds(self):
+        self.file(cases__a_cpp="int ok() { return 1; }\n",
+                  cases__b_cpp="double half(int a) { return a; }\n\ndouble third(int a) { return a / 3; }\n")
+        self.assertEqual([], self.pulisci("cases/a.cpp"))
+        trovati = self.pulisci("cases/a.cpp", "cases/b.cpp")
+        self.assertEqual(1, len(trovati), trovati)
+        self.assertRegex(trovati[0], r"^cases/b\.cpp:3: .*bugprone-integer-division")
+
+    def test_clang_tidy_reads_headers_that_no_source_includes_and_templates_where_they_are_used(self):
+        self.file(cases__a_h="inline double half(int a) { return a / 2; }\n",
+                  cases__b_h="template <class T>\nT half(int a) { return a / 2; }\n",
+                  app__c_cpp='#include "cases/b.h"\n\ndouble c() { return half<double>(3); }\n')
+        trovati = self.pulisci("app/c.cpp", "cases/a.h", "cases/b.h")
+        self.assertEqual(["cases/a.h:1", "cases/b.h:2"],
+                         [":".join(t.split(":")[:2]) for t in trovati])
+
+    def test_what_is_included_but_not_asked_for_is_not_told(self):
+        self.file(cases__a_h="inline double half(int a) { return a / 2; }\n",
+                  cases__b_cpp='#include "cases/a.h"\n')
+        self.assertEqual([], self.pulisci("cases/b.cpp"))
+
+    def test_files_with_names_in_common_are_read_apart_and_others_together(self):
+        uno = "namespace {\nconstexpr int kUno = 1;\n}\nint A::f() {\n  return kUno;\n}\n"
+        self.file(cases__a_cpp=uno, cases__b_cpp=uno.replace("A::", "B::"),
+                  cases__c_cpp="int C::f() {\n  return 3;\n}\n", cases__d_h="", app__e_cpp="")
+        self.assertEqual([["app/e.cpp"], ["cases/d.h", "cases/a.cpp", "cases/c.cpp"], ["cases/b.cpp"]],
+                         pulizia.gruppi(["cases/a.cpp", "cases/b.cpp", "cases/c.cpp", "cases/d.h",
+                                         "app/e.cpp"]))
+
+    def test_files_that_come_in_each_others_way_are_read_by_themselves(self):
+        self.file(cases__a_h="struct Posto {};\n",
+                  cases__b_cpp='#include "cases/a.h"\n\ndouble half(int a) { return a / 2; }\n',
+                  cases__c_cpp="enum class Posto { Uno };\n")
+        trovati = self.pulisci("cases/b.cpp", "cases/c.cpp")
+        self.assertEqual(1, len(trovati), trovati)
+        self.assertIn("bugprone-integer-division", trovati[0])
+
+    def test_a_file_that_does_not_compile_is_told(self):
+        self.file(cases__a_cpp="int f() { return missing; }\n")
+        self.assertIn("undeclared identifier", "".join(self.pulisci("cases/a.cpp")))
+
+    def test_what_differs_from_main_is_changed_be_it_committed_or_not(self):
+        self.git("checkout", "-q", "-b", "main")
+        self.file(cases__a_cpp="", cases__b_cpp="", cases__c_cpp="", cases__d_cpp="", tests__e_cpp="")
+        self.git("add", ".")
+        self.git("commit", "-q", "-m", "a")
+        self.git("checkout", "-q", "-b", "lavoro")
+        self.file(cases__a_cpp="int a;\n")
+        self.git("commit", "-q", "-a", "-m", "b")
+        os.remove("cases/d.cpp")
+        self.file(cases__b_cpp="int b;\n", games__f_cpp="", tests__e_cpp="int e;\n")
+        self.assertEqual(["cases/a.cpp", "cases/b.cpp", "games/f.cpp"], pulizia.cambiati())
 
     def test_the_length_of_functions_is_measured(self):
         self.file(cases__a_cpp="int f(int a) {\n  if (a) {\n    return 1;\n  }\n  return 2;\n}\n"

@@ -1,0 +1,127 @@
+"""clang-tidy over the program's files. The files of a room are read several at a time, since most of what
+one takes are the headers that all of them include."""
+
+import concurrent.futures
+import os
+import re
+import shutil
+import subprocess
+import tempfile
+
+from . import sorgenti
+
+PROGRAMMA = "clang-tidy-16"
+# Files that are read together: more of them would leave a core without work at the end.
+_INSIEME = 30
+_LIBRERIE = ("Qt6DBus", "Qt6Network", "Qt6Widgets")
+
+
+def cambiati():
+    """The program's files that differ from those of main, or from the last commit where this is main."""
+    base = subprocess.run(["git", "merge-base", "HEAD", "main"], capture_output=True, text=True,
+                          check=False).stdout.strip() or "HEAD"
+    diversi = subprocess.run(["git", "diff", "--name-only", "--diff-filter=d", base],
+                             capture_output=True, text=True, check=False).stdout.splitlines()
+    nuovi = subprocess.run(["git", "ls-files", "--others", "--exclude-standard"],
+                           capture_output=True, text=True, check=False).stdout.splitlines()
+    return sorted({*diversi, *nuovi} & set(da_leggere()))
+
+
+def da_leggere():
+    """The program's files that can be read here: those of another system include headers of its own."""
+    return tuple(f for f in sorgenti.prodotto() if "/windows/" not in f)
+
+
+# What stands at the beginning of a line is seen in the whole file: the names by which functions, types
+# and values are defined there, but those of members.
+_NOME_PROPRIO = re.compile(r"^(?=\w)(?!using namespace|namespace|(?:class|struct) \w+;)[^\n(={;]*?(?<!::)\b(?P<nome>[A-Za-z_]\w*)"
+                           r"(?:\[[^\]]*\])?(?: final)?\s*(?:[(={;]|:(?!:))", re.M)
+
+
+def nomi_propri(file):
+    """The names that a source defines beside the members of classes."""
+    return {trovato["nome"] for trovato in _NOME_PROPRIO.finditer(sorgenti.codice(file))}
+
+
+# Rooms of which the files may be read together: in what several of them see names mean one thing.
+_COMUNI = ("app/shared", "cases", "exercises/core", "games", "immagini", "input", "printing")
+
+
+def gruppi(file):
+    """Lists of files to read together, none of them with a name that another one defines as well. Headers
+    go with the first sources."""
+    per_stanza = {}
+    for percorso in sorted(file):
+        nomi = nomi_propri(percorso) if percorso.endswith(".cpp") else set()
+        stanza = sorgenti.stanza(percorso)
+        posti = per_stanza.setdefault("" if stanza in _COMUNI else stanza, [])
+        for gruppo, visti in posti:
+            if not nomi or not nomi & visti and len(gruppo) < _INSIEME:
+                gruppo.append(percorso)
+                visti |= nomi
+                break
+        else:
+            posti.append(([percorso], nomi))
+    return [sorted(gruppo, key=lambda f: (f.endswith(".cpp"), f))
+            for posti in per_stanza.values() for gruppo, _ in posti]
+
+
+def _opzioni():
+    """How the compiler is called; None where a library's headers are missing."""
+    esito = subprocess.run(["pkg-config", "--cflags", *_LIBRERIE], capture_output=True, text=True,
+                           check=False)
+    if esito.returncode:
+        return None
+    return ["-std=c++20", "-fPIC", f"-I{os.getcwd()}",
+            *(re.sub("^-I", "-isystem", opzione) for opzione in esito.stdout.split())]
+
+
+_DETTO = re.compile(r"^(?P<file>/[^:\n]+):(?P<riga>\d+):\d+: (?:error|warning): (?P<che>.*)$", re.M)
+
+
+def _letto(gruppo, filtro, opzioni, cartella):
+    """What clang-tidy says of files that are read together, and of what else the filter names of all that
+    they include: (file, line, words)."""
+    with tempfile.NamedTemporaryFile("w", suffix=".cpp", dir=cartella) as insieme:
+        insieme.write("".join(f'#include "{f}"\n' for f in gruppo))
+        insieme.flush()
+        esito = subprocess.run(
+            [PROGRAMMA, "--quiet", "--config-file=.clang-tidy", f"--header-filter={filtro}",
+             insieme.name, "--", *opzioni], capture_output=True, text=True, check=False)
+    detti = {(os.path.relpath(d["file"]), int(d["riga"]), d["che"])
+             for d in _DETTO.finditer(esito.stdout)}
+    if esito.returncode and not detti:
+        detti.add((gruppo[0], 1, f"{PROGRAMMA} failed: {esito.stderr.strip()[-300:]}"))
+    return detti
+
+
+def _letti(gruppo, filtro, opzioni, cartella):
+    """The same; where names of two files come in each other's way after all, each of these by itself."""
+    detti = _letto(gruppo, filtro, opzioni, cartella)
+    soli = {f for f, _, che in detti if che.endswith("[clang-diagnostic-error]")} & set(gruppo)
+    if not soli or len(gruppo) == 1:
+        return detti
+    altri = [f for f in gruppo if f not in soli]
+    return set().union(*(_letti(g, filtro, opzioni, cartella)
+                         for g in (altri, *([f] for f in sorted(soli))) if g))
+
+
+def guasti(file):
+    """What clang-tidy finds in those files of the program."""
+    if not file:
+        return
+    if not shutil.which(PROGRAMMA):
+        yield f"{PROGRAMMA} is missing: tools/installa check"
+        return
+    opzioni = _opzioni()
+    if opzioni is None:
+        yield f"{PROGRAMMA} needs the headers of Qt: tools/installa build"
+        return
+    filtro = f"^({'|'.join(re.escape(os.path.abspath(f)) for f in file)})$"
+    detti = set()
+    with tempfile.TemporaryDirectory() as cartella, \
+            concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0))) as insieme:
+        for trovati in insieme.map(lambda g: _letti(g, filtro, opzioni, cartella), gruppi(file)):
+            detti |= trovati
+    for percorso, riga, che in sorted(detti):
+        yield f"{percorso}:{riga}: {che}"
