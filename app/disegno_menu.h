@@ -3,33 +3,22 @@
 #include <algorithm>
 
 #include "app/forma_menu.h"
+#include "app/shared/colori.h"
 #include "platform/forms/design.h"
 
 // What the designs of the menus have in common.
 namespace somme::inline programma::disegno {
 
+using namespace colori;
 using platform::Align;
 using platform::Face;
 using platform::FormDesign;
 using platform::item;
 using platform::Look;
 using platform::nameOf;
-using platform::Rgb;
 using platform::Row;
 using platform::row;
 using platform::TwipsRect;
-
-inline constexpr Rgb kSfondoMenu{255, 255, 192};
-inline constexpr Rgb kInchiostro{24, 33, 59};
-inline constexpr Rgb kFascia{214, 232, 255};
-
-// The tint of each family, on its button in the main menu and on its levels: a child finds the way
-// by it, and can say "the violet one".
-inline constexpr Rgb kTintaBarre{198, 237, 244};
-inline constexpr Rgb kTintaTabella{204, 236, 208};
-inline constexpr Rgb kTintaBlocchi{244, 212, 214};
-inline constexpr Rgb kTintaNumeri{204, 220, 246};
-inline constexpr Rgb kTintaAbaco{225, 213, 245};
 
 constexpr Row Intestazione(double larghezza, std::string_view testo) {
   return row<&FormaMenu::Label1>({240, 120, larghezza, 720}, {.caption = testo,

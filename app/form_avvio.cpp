@@ -10,8 +10,6 @@ using namespace disegno;
 
 namespace {
 
-constexpr Rgb kGiallo{255, 255, 0};
-
 constexpr auto kControlli = std::to_array<Row>({
     row<&FormAvvio::BottoneAvvio>(
         {3480, 4500, 2820, 1140},

@@ -15,8 +15,6 @@ using platform::StoredProperty;
 
 namespace {
 
-constexpr Rgb kGrigioPannello{224, 224, 224};
-
 // Quarters of a second; the large step is a whole one.
 constexpr auto kScala = std::to_array<StoredProperty>({
     {"Min", std::int16_t{4}},
@@ -47,15 +45,14 @@ constexpr auto kControlli = std::to_array<Row>({
     AmicoDiBlocchi<FormMenu>({6600, 1500, 1200, 1500}),
     AmicoAbaco<FormMenu>({7980, 1500, 1200, 1500}),
     row<&FormMenu::PictureTempoScansione>(
-        {0, 0, 9780, 6210},
-        {.toolTip = "Tempo di scansione", .back = kGrigioPannello, .hidden = true}),
+        {0, 0, 9780, 6210}, {.toolTip = "Tempo di scansione", .back = kGrigio, .hidden = true}),
     row<&FormMenu::HScrollScansione>({240, 2520, 7095, 345},
                                      {.toolTip = "Velocità di scansione",
                                       .in = nameOf<&FormMenu::PictureTempoScansione>,
                                       .stored = kScala}),
     row<&FormMenu::LabelTempoScansione>({240, 2880, 7095, 345},
                                         {.font = {Face::Tahoma, 9.75},
-                                         .back = kGrigioPannello,
+                                         .back = kGrigio,
                                          .in = nameOf<&FormMenu::PictureTempoScansione>}),
     row<&FormMenu::CommandConfermaTempoInput>({6120, 5280, 2580, 795},
                                               {.caption = "Conferma",

@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include "app/shared/colori.h"
 #include "platform/forms/control_array.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/focus_keeper.h"
@@ -135,7 +136,7 @@ class TastieraScansione : public platform::UserControl {
 constexpr platform::Look TastoScritto(std::string_view testo) {
   return {.caption = testo,
           .font = {.face = platform::Face::Arial, .bold = true},
-          .back = platform::Rgb{224, 224, 224}};
+          .back = colori::kGrigio};
 }
 // chiuso: the key cannot be chosen until the form says so.
 constexpr platform::Look TastoDisegnato(std::string_view immagine, bool chiuso = false) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/shared/colori.h"
 #include "platform/forms/design.h"
 #include "printing/frm_avvia_stampa.h"
 
@@ -8,6 +9,7 @@
 // twips.
 namespace somme::inline stampa::disegno_stampa {
 
+using namespace colori;
 using platform::Align;
 using platform::Face;
 using platform::FontSpec;
@@ -16,14 +18,10 @@ using platform::item;
 using platform::kBlack;
 using platform::kWhite;
 using platform::nameOf;
-using platform::Rgb;
 using platform::Row;
 using platform::row;
 using platform::TwipsRect;
 
-inline constexpr Rgb kFondo{245, 245, 245};
-inline constexpr Rgb kGiallo{255, 255, 0};
-inline constexpr Rgb kOmbra{160, 160, 160};
 inline constexpr FontSpec kPiccolo{Face::Tahoma, 9.75};
 inline constexpr FontSpec kGrande{Face::Tahoma, 12};
 
@@ -67,7 +65,7 @@ inline constexpr auto kControlli = std::to_array<Row>({
     // Its caption tells the sheet and is made anew with it.
     row<&F::fraFoglio>({120, 930, 5070, 3840}, {.font = kPiccolo}),
     row<&F::shpBordo>({120, 360, kLatoAnteprima + 120, kLatoAnteprima + 120},
-                      {.fore = kOmbra, .back = kOmbra, .in = kFoglio}),
+                      {.fore = kGrigioMedio, .back = kGrigioMedio, .in = kFoglio}),
     row<&F::shpFoglio>({165, 405, kLatoAnteprima + 30, kLatoAnteprima + 30},
                        {.fore = kBlack, .back = kWhite, .in = kFoglio}),
     row<&F::PictureAnteprima>({180, 420, kLatoAnteprima, kLatoAnteprima},
@@ -135,7 +133,7 @@ inline constexpr FormDesign kDisegno{.name = "frmAvviaStampa",
                                      .caption = "Stampa",
                                      .width = 8400,
                                      .height = kAltezzaIntera,
-                                     .back = kFondo,
+                                     .back = kGrigioPallido,
                                      .tables = kTavole};
 
 }  // namespace somme::inline stampa::disegno_stampa

@@ -1,5 +1,6 @@
 #include "printing/foglio_calibrazione.h"
 
+#include "app/shared/colori.h"
 #include "platform/base/numbers.h"
 
 namespace somme::inline stampa {
@@ -8,7 +9,6 @@ namespace {
 
 constexpr int kUltima = 23;  // element 0 of each array is on the form and makes no line
 constexpr int kBordo = 5;    // wide enough to be seen under the lines
-constexpr platform::Rgb kRigato{150, 150, 150};
 constexpr platform::TwipsRect kCella{0, 0, kGrigliaDisegno.X, kGrigliaDisegno.Y};
 constexpr platform::Look kNumero{
     .font = {platform::Face::Arial, 9}, .align = platform::Align::Centre, .hidden = true};
@@ -16,9 +16,9 @@ constexpr platform::Look kNumero{
 // The elements that the lines and numbers are copies of.
 constexpr auto kRigatura = std::to_array<platform::Row>({
     platform::row<&FoglioCalibrazione::Line1>(0, {0, 0, 0, kAltezzaFoglio},
-                                              {.fore = kRigato, .hidden = true}),
+                                              {.fore = colori::kGrigioRighe, .hidden = true}),
     platform::row<&FoglioCalibrazione::Line2>(0, {0, 0, kLarghezzaFoglio, 0},
-                                              {.fore = kRigato, .hidden = true}),
+                                              {.fore = colori::kGrigioRighe, .hidden = true}),
     platform::row<&FoglioCalibrazione::Label1>(0, kCella, kNumero),
     platform::row<&FoglioCalibrazione::Label2>(0, kCella, kNumero),
 });

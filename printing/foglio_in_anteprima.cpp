@@ -1,3 +1,4 @@
+#include "app/shared/colori.h"
 #include "printing/disegno_avvia_stampa.h"
 #include "printing/frm_avvia_stampa.h"
 #include "printing/nome_formato_carta.h"
@@ -6,14 +7,6 @@
 namespace somme::inline stampa {
 
 using platform::Orientation;
-using platform::Rgb;
-
-namespace {
-
-constexpr Rgb kRosso{255, 0, 0};
-constexpr Rgb kBianco{255, 255, 255};
-
-}  // namespace
 
 void frmAvviaStampa::DisegnaFoglio() {
   const double lato = Label1.width();
@@ -48,7 +41,8 @@ bool frmAvviaStampa::SiIngrandisce(bool fuori) {
 }
 
 void frmAvviaStampa::Lampeggia() {
-  lblFuoriFoglio.setBackColor(lblFuoriFoglio.backColor() == kRosso ? kBianco : kRosso);
+  lblFuoriFoglio.setBackColor(lblFuoriFoglio.backColor() == colori::kRosso ? platform::kWhite
+                                                                           : colori::kRosso);
 }
 
 }  // namespace somme::inline stampa

@@ -10,8 +10,6 @@ using namespace disegno;
 
 namespace {
 
-constexpr Rgb kGiallo{255, 255, 0};
-
 // What stands below the written sum, left of the keyboard.
 constexpr auto kResto = std::to_array<Row>({
     Casella<FormaBarreScansione>({4800, 5400, 975, 735}, "Il numero scelto con la tastiera", true),

@@ -8,7 +8,6 @@ namespace somme::inline blocchi::disegno {
 
 using namespace nucleo::disegno;
 
-inline constexpr Rgb kBlu{0, 0, 255};
 inline constexpr FontSpec kNomeBlocco{Face::Tahoma, 15.75, true};
 
 // A button that puts a block, in its colour; text: white where the colour is dark.

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "app/shared/colori.h"
 #include "exercises/core/forma_esercizio.h"
 #include "platform/forms/design.h"
 
-// What the designs of the exercise forms have in common: colours, and rows that differ between
+// What the designs of the exercise forms have in common: fonts, and rows that differ between
 // forms in their place alone.
 namespace somme::inline nucleo::disegno {
 
+using namespace colori;
 using platform::Align;
 using platform::Face;
 using platform::FontSpec;
@@ -16,19 +18,9 @@ using platform::kBlack;
 using platform::kWhite;
 using platform::Look;
 using platform::nameOf;
-using platform::Rgb;
 using platform::Row;
 using platform::row;
 using platform::TwipsRect;
-
-inline constexpr Rgb kCiano{0, 255, 255};
-inline constexpr Rgb kVerde{0, 255, 0};
-inline constexpr Rgb kVerdeScuro{0, 192, 0};
-inline constexpr Rgb kRosso{255, 0, 0};
-inline constexpr Rgb kGrigio{224, 224, 224};
-inline constexpr Rgb kVerdePallido{192, 255, 192};
-inline constexpr Rgb kGialloPallido{255, 255, 192};
-inline constexpr Rgb kRosaPallido{255, 192, 255};
 
 inline constexpr FontSpec kTahoma9{Face::Tahoma, 9.75};
 inline constexpr FontSpec kTahoma14{Face::Tahoma, 14.25};

@@ -17,9 +17,6 @@ namespace {
 constexpr int kCelle = PartitaTabella::kCelle;
 constexpr int kPerRiga = PartitaTabella::kPerRiga;
 
-constexpr Rgb kGiallo{255, 255, 0};
-constexpr Rgb kAperta{192, 255, 255};
-
 constexpr auto kCelleDisegno = [] {
   std::array<Row, kCelle> righe{};
   for (int i = 0; i < kCelle; ++i) {
@@ -167,7 +164,7 @@ void FormTabella::NuovoCaso() {
   newCase();
   MostraCaso(partita_.NuovoCaso(stato().TipoEsercizio, ambiente().servizi.sorte));
   celle_.setEnabled(kCelle, true);
-  Numero.forEach([](platform::Button& cella) { cella.setBackColor(kAperta); });
+  Numero.forEach([](platform::Button& cella) { cella.setBackColor(kCianoPallido); });
 }
 
 void FormTabella::Rispondi(int numero) {

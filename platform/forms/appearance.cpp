@@ -4,6 +4,7 @@
 #include <QPalette>
 
 #include "platform/forms/accessible.h"
+#include "platform/forms/colors.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/house_style.h"
 
@@ -15,20 +16,20 @@ constexpr double kMenuPixels = 16;
 
 // A role that is left out takes the desktop's colour, dark or in high contrast as that may be.
 QPalette lightPalette() {
-  QPalette palette(QColor(240, 240, 240));
-  palette.setColor(QPalette::Window, QColor(245, 245, 245));
+  QPalette palette(colors::kPaletteBase);
+  palette.setColor(QPalette::Window, colors::kPaper);
   palette.setColor(QPalette::WindowText, Qt::black);
   palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::AlternateBase, QColor(245, 245, 245));
+  palette.setColor(QPalette::AlternateBase, colors::kPaper);
   palette.setColor(QPalette::Text, Qt::black);
-  palette.setColor(QPalette::Button, QColor(238, 240, 244));
+  palette.setColor(QPalette::Button, colors::kFace);
   palette.setColor(QPalette::ButtonText, Qt::black);
-  palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
+  palette.setColor(QPalette::ToolTipBase, colors::kToolTip);
   palette.setColor(QPalette::ToolTipText, Qt::black);
-  palette.setColor(QPalette::Highlight, QColor(10, 60, 150));
+  palette.setColor(QPalette::Highlight, colors::kSelection);
   palette.setColor(QPalette::HighlightedText, Qt::white);
-  palette.setColor(QPalette::Link, QColor(10, 60, 150));
-  palette.setColor(QPalette::LinkVisited, QColor(10, 60, 150));
+  palette.setColor(QPalette::Link, colors::kSelection);
+  palette.setColor(QPalette::LinkVisited, colors::kSelection);
   return palette;
 }
 

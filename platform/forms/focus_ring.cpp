@@ -5,11 +5,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/forms/colors.h"
+
 namespace platform::inline forms {
 
 namespace {
 
-constexpr QColor kDark(10, 20, 90);
 constexpr double kDarkWidth = 3;
 constexpr double kLightWidth = kFocusRingWidth - kDarkWidth;
 constexpr double kUsualHeight = 768;  // of a window, in pixels
@@ -50,7 +51,7 @@ void paintFocusRing(QPainter& painter, const QWidget& control, double corner, do
   const double dark = kDarkWidth * markScale(control);
   const double light = kLightWidth * markScale(control);
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(kDark, dark, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.setPen(QPen(colors::kFocusRing, dark, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   ring(painter, area, dark, 0, corner);
   painter.setPen(QPen(Qt::white, light, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   ring(painter, area, light, dark, std::max(0.0, corner - 2 * markScale(control)));

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/controls/button_face.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
@@ -15,8 +16,6 @@ namespace platform::inline forms {
 
 namespace {
 
-constexpr QColor kEdge(70, 70, 70);
-constexpr QColor kInk(24, 33, 59);
 constexpr double kSpentInk = 0.45;  // of what cannot be used
 
 // Between the words of two menus, of the size of their letters; Fusion itself leaves a fixed part
@@ -61,7 +60,8 @@ ToggleRooms roomsOf(const QWidget& toggle) {
 
 void paintTick(QPainter& painter, const QRectF& box) {
   const double half = box.width() / 2;
-  painter.setPen(QPen(kInk, box.width() * kTick, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(
+      QPen(colors::kInk, box.width() * kTick, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.setBrush(Qt::NoBrush);
   const QPointF middle = box.center();
   const QPointF points[]{middle + QPointF(-0.48, 0.02) * half, middle + QPointF(-0.12, 0.4) * half,
@@ -78,14 +78,15 @@ void paintMark(QPainter& painter, const QStyleOption& option, const QWidget& wid
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   if (!has(option, QStyle::State_Enabled)) painter.setOpacity(kSpentInk);
-  painter.setPen(QPen(kEdge, edge));
-  painter.setBrush(has(option, QStyle::State_Sunken) ? kPlainFace.darker(118) : QColor(Qt::white));
+  painter.setPen(QPen(colors::kEdge, edge));
+  painter.setBrush(has(option, QStyle::State_Sunken) ? colors::kFace.darker(118)
+                                                     : QColor(Qt::white));
   const double corner = round ? box.width() / 2 : box.width() / 6;
   painter.drawRoundedRect(box, corner, corner);
   if (has(option, QStyle::State_On) && round) {
     const double dot = side * kDot;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(kInk);
+    painter.setBrush(colors::kInk);
     painter.drawEllipse(box.adjusted(dot, dot, -dot, -dot));
   } else if (has(option, QStyle::State_On)) {
     paintTick(painter, box);
@@ -111,7 +112,7 @@ void paintToggle(QPainter& painter, const QStyleOptionButton& option, const QWid
 
 void paintPushButton(QPainter& painter, const QStyleOptionButton& option, const QWidget& widget) {
   const bool usable = has(option, QStyle::State_Enabled);
-  const ButtonFace face{.color = kPlainFace,
+  const ButtonFace face{.color = colors::kFace,
                         .stands = usable,
                         .strong = usable,
                         .pointed = usable && has(option, QStyle::State_MouseOver),
@@ -143,7 +144,7 @@ QRect arrowOf(const QRect& list) {
 void paintList(QPainter& painter, const QStyleOptionComboBox& option, const QWidget& widget) {
   const bool usable = has(option, QStyle::State_Enabled);
   painter.fillRect(option.rect, usable ? QColor(Qt::white) : option.palette.window().color());
-  paintBorder(painter, option.rect, markPixels(widget, 1), kEdge);
+  paintBorder(painter, option.rect, markPixels(widget, 1), colors::kEdge);
   const QPointF middle = QRectF(arrowOf(option.rect)).center();
   const double half = option.rect.height() * kArrow;
   const QPointF points[]{middle + QPointF(-half, -half * 0.55),
@@ -152,7 +153,7 @@ void paintList(QPainter& painter, const QStyleOptionComboBox& option, const QWid
   painter.setRenderHint(QPainter::Antialiasing);
   if (!usable) painter.setOpacity(kSpentInk);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(kInk);
+  painter.setBrush(colors::kInk);
   painter.drawPolygon(points, 3);
   painter.restore();
   if (has(option, QStyle::State_HasFocus)) paintFocusRing(painter, widget, 0);

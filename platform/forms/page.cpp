@@ -7,6 +7,7 @@
 #include <QResizeEvent>
 
 #include "platform/forms/appearance.h"
+#include "platform/forms/colors.h"
 #include "platform/forms/design.h"
 #include "platform/forms/menu_bar.h"
 #include "platform/forms/text_block.h"
@@ -15,8 +16,8 @@ namespace platform::inline forms {
 
 namespace {
 
-constexpr QColor kGradientFirst(255, 255, 255);
-constexpr QColor kGradientLast(255, 255, 0);
+constexpr QColor kGradientFirst = colors::gradient(0);
+constexpr QColor kGradientLast = colors::gradient(255);
 // Where a form for paper is laid out, in pixels: on any screen its controls come out at the same
 // places. A sheet of 24 columns and 23 rows has 63 by 46 whole pixels to a cell, and no twip over.
 constexpr QSize kPaperRoom(1512, 1512);
@@ -42,7 +43,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
   for (int i = first; i <= last; ++i) {
     const int top = qRound(i * band);
     const int bottom = qRound((i + 1) * band);
-    painter.fillRect(QRect(0, top, gradient_.width(), bottom - top), QColor(255, 255, 255 - i));
+    painter.fillRect(QRect(0, top, gradient_.width(), bottom - top), colors::gradient(i));
   }
   if (exposed.right() >= gradient_.width()) {
     painter.fillRect(QRect(gradient_.width(), exposed.top(),

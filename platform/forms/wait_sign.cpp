@@ -5,6 +5,7 @@
 #include <QWindow>
 #include <chrono>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/form.h"
 #include "platform/forms/runtime.h"
@@ -29,7 +30,7 @@ WaitSign::WaitSign(QWidget& over, const QString& words, std::function<void()> sh
   label_->setMargin(label_->font().pixelSize());
   label_->setAutoFillBackground(true);
   QPalette colours = label_->palette();
-  colours.setColor(QPalette::Window, QColor(255, 255, 0));
+  colours.setColor(QPalette::Window, colors::kYellow);
   colours.setColor(QPalette::WindowText, Qt::black);
   label_->setPalette(colours);
   label_->hide();

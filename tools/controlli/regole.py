@@ -19,6 +19,7 @@ _REGOLE = (
     ("no near-copy", testo.copie),
     ("short files", testo.file_lunghi),
     ("constants begin with k", testo.costanti),
+    ("colours have names", testo.colori),
     ("titles of commits", lambda: testo.titoli(_TITOLI_DA)),
     ("words", testo.parole),
 )

@@ -119,6 +119,25 @@ def costanti():
             yield f"{file}:{riga}: {nome}"
 
 
+# A colour by its numbers, and where these may stand: in one table for the ground, in one for the rooms above.
+_COLORE = re.compile(r"\b(?:Q?Rgb|QColor|qRgba?)\b(?:\s+\w+)?\s*[({]\s*(?:\d|0x)|\"#[0-9A-Fa-f]{6}\"")
+_TAVOLE_DEI_COLORI = ("app/shared/colori.h", "platform/forms/colors.h")
+_NERO_E_BIANCO = "platform/forms/design.h"  # where the type is
+
+
+def colori():
+    """Colours that have no name, or have it elsewhere than among all others. Those of movies are the
+    movies' own."""
+    for file in sorgenti.prodotto():
+        if file in (*_TAVOLE_DEI_COLORI, _NERO_E_BIANCO) or file.startswith("platform/flash/"):
+            continue
+        righe = sorgenti.testo(file).splitlines()
+        for numero, riga in enumerate(sorgenti.codice(file).splitlines(), 1):
+            if _COLORE.search(riga) or _COLORE.search(righe[numero - 1].partition("//")[0]):
+                yield f"{file}:{numero}: a colour by its numbers; give it a name in " \
+                      f"{_TAVOLE_DEI_COLORI[file.startswith('platform/')]}"
+
+
 def formato():
     """Files that clang-format would lay out otherwise."""
     if not shutil.which("clang-format-16"):

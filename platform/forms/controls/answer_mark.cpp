@@ -5,11 +5,12 @@
 #include <array>
 #include <initializer_list>
 
+#include "platform/forms/colors.h"
+
 namespace platform::inline forms {
 
 namespace {
 
-constexpr QColor kDisc(24, 33, 59);
 constexpr double kShare = 0.36;   // of the face's shorter side
 constexpr double kSmallest = 13;  // pixels
 constexpr double kStroke = 0.16;  // of the disc's diameter
@@ -35,7 +36,7 @@ void paintAnswerMark(QPainter& painter, const QRectF& face, AnswerMark mark) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(kDisc);
+  painter.setBrush(colors::kInk);
   painter.drawEllipse(disc);
   painter.setPen(QPen(Qt::white, across * kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.setBrush(Qt::NoBrush);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/controls/color_mix.h"
 #include "platform/forms/focus_ring.h"
 
@@ -18,7 +19,6 @@ constexpr double kEdge = 1;
 constexpr double kLight = 3;  // of the raised edge, above
 constexpr double kShade = 4;  // and below
 
-constexpr QColor kPointedEdge(24, 33, 59);
 constexpr double kPointedEdgeWidth = 2;
 constexpr double kHeldDeep = 2;  // that it sinks
 
@@ -30,8 +30,8 @@ constexpr int kPale = 200;      // the lightness from which a face is pale
 constexpr double kHeld = 0.06;  // of the way to black: words on it stay as readable
 
 QPen outlineOf(const QWidget& button, const ButtonFace& face) {
-  if (face.pointed && face.litEdge) return {kPointedEdge, kPointedEdgeWidth * markScale(button)};
-  return {face.strong ? QColor(70, 70, 70) : QColor(150, 150, 150), buttonEdge(button)};
+  if (face.pointed && face.litEdge) return {colors::kInk, kPointedEdgeWidth * markScale(button)};
+  return {face.strong ? colors::kEdge : colors::kSoftEdge, buttonEdge(button)};
 }
 
 }  // namespace
@@ -74,10 +74,10 @@ void paintButtonFace(QPainter& painter, const QWidget& button, const ButtonFace&
   painter.save();
   painter.setClipPath(inside);
   if (face.held) {
-    painter.fillRect(QRectF(0, outline.boundingRect().top(), wide, light), QColor(0, 0, 0, 70));
+    painter.fillRect(QRectF(0, outline.boundingRect().top(), wide, light), colors::kShadeHeld);
   } else {
-    painter.fillRect(QRect(0, 0, wide, light), QColor(255, 255, 255, 150));
-    painter.fillRect(QRect(0, button.height() - shade, wide, shade), QColor(0, 0, 0, 55));
+    painter.fillRect(QRect(0, 0, wide, light), colors::kLightAbove);
+    painter.fillRect(QRect(0, button.height() - shade, wide, shade), colors::kShadeBelow);
   }
   painter.restore();
 }

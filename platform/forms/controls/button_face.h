@@ -18,8 +18,6 @@ struct ButtonFace {
   bool held = false;     // it is pressed and has sunk
 };
 
-inline constexpr QColor kPlainFace(238, 240, 244);
-
 // The radius of a button's corners, and the width of its outline, in pixels of its window.
 [[nodiscard]] double buttonCorner(const QWidget& button);
 [[nodiscard]] double buttonEdge(const QWidget& button);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/forms/accessible.h"
+#include "platform/forms/colors.h"
 #include "platform/forms/controls/button_face.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/pictures.h"
@@ -209,7 +210,7 @@ QPainterPath ButtonWidget::outline(double inset) const {
 }
 
 ButtonFace ButtonWidget::face() const {
-  return {.color = ground_.value_or(kPlainFace),
+  return {.color = ground_.value_or(colors::kFace),
           .stands = stands(),
           .strong = stands() || cell_,
           .pointed = isPointed(),

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QPainter>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
@@ -42,8 +43,7 @@ class FrameWidget final : public QGroupBox {
     paintPicture(painter);
     const Ink ink = inkOf(font());
     const int down = int(ink.height() / 2) + 1;
-    paintBorder(painter, rect().adjusted(0, down, 0, 0), markPixels(*this, 1),
-                QColor(110, 110, 110));
+    paintBorder(painter, rect().adjusted(0, down, 0, 0), markPixels(*this, 1), colors::kBorder);
     if (caption_.isEmpty()) return;
     const int most = width() - 2 * kIndent;
     block_.set(caption_, font(), {most, int(ink.height()) + 3}, Align::Left, false);

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/controls/color_mix.h"
 #include "platform/forms/focus_ring.h"
 
@@ -13,8 +14,6 @@ namespace {
 
 // The light is warm, and an edge in the dark of the pictures' outlines says it where colours do
 // not.
-constexpr QColor kLight(255, 212, 59);
-constexpr QColor kEdge(24, 33, 59);
 constexpr double kEdgeWidth = 3;
 constexpr double kBorder = 1;
 
@@ -77,14 +76,14 @@ int LabelWidget::fittedCaption() {
 // It fades by way of white: straight from the light to a blue ground it would turn green.
 QColor LabelWidget::litGround() const {
   const QColor ground = ground_.value_or(behind_);
-  return glow_ > 0.5 ? mixed(Qt::white, kLight, glow_ * 2 - 1)
+  return glow_ > 0.5 ? mixed(Qt::white, colors::kGlow, glow_ * 2 - 1)
                      : mixed(ground, Qt::white, glow_ * 2);
 }
 
 void LabelWidget::paintGlow(QPainter& painter) const {
   painter.fillRect(rect(), litGround());
   painter.setOpacity(glow_);
-  paintBorder(painter, rect(), markPixels(*this, kEdgeWidth), kEdge);
+  paintBorder(painter, rect(), markPixels(*this, kEdgeWidth), colors::kInk);
   painter.setOpacity(1);
 }
 

@@ -3,6 +3,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/focus_ring.h"
 
 namespace platform::inline forms {
@@ -30,7 +31,7 @@ void PanelWidget::paintEvent(QPaintEvent* event) {
     painter.drawImage(QRectF(where_), picture_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
   }
-  if (border_) paintBorder(painter, rect(), markPixels(*this, 1), QColor(110, 110, 110));
+  if (border_) paintBorder(painter, rect(), markPixels(*this, 1), colors::kBorder);
 }
 
 }  // namespace platform::inline forms

@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <cmath>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/text_block.h"
@@ -13,7 +14,6 @@ namespace platform::inline forms {
 
 namespace {
 
-constexpr QColor kEdge(110, 110, 110);
 constexpr double kMargin = 0.75;  // of the letters' size, from the paper's edge to the text
 
 }  // namespace
@@ -41,7 +41,7 @@ void RichTextBox::applyLook() {
   QPalette palette = box->palette();
   palette.setColor(QPalette::Base, toColor(backColor()));
   palette.setColor(QPalette::Text, toColor(foreColor()));
-  palette.setColor(QPalette::WindowText, kEdge);
+  palette.setColor(QPalette::WindowText, colors::kBorder);
   box->setPalette(palette);
 }
 

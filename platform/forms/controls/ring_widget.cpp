@@ -12,7 +12,6 @@ namespace {
 constexpr int kThinnest = 8;         // pixels of the dark ring
 constexpr double kThickness = 0.13;  // of the side of what it surrounds
 constexpr int kEdge = 2;             // pixels of each light edge
-constexpr QColor kDark(0, 0, 0);
 constexpr double kCorner = 8;
 
 int thickness(int side) {
@@ -78,7 +77,7 @@ void RingWidget::paintEvent(QPaintEvent* /*event*/) {
   const QRectF inside = dark.adjusted(thickness_, thickness_, -thickness_, -thickness_);
   const QRectF hole = inside.adjusted(kEdge, kEdge, -kEdge, -kEdge);
   painter.fillPath(rounded(whole, kCorner).subtracted(rounded(hole, 1)), Qt::white);
-  painter.fillPath(rounded(dark, kCorner - kEdge).subtracted(rounded(inside, 2)), kDark);
+  painter.fillPath(rounded(dark, kCorner - kEdge).subtracted(rounded(inside, 2)), Qt::black);
 }
 
 }  // namespace platform::inline forms

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/focus_ring.h"
 
 namespace platform::inline forms {
@@ -16,11 +17,6 @@ constexpr int kNarrowestThumb = 44;  // pixels
 constexpr double kThumbShape = 1.6;  // width to height
 constexpr int kRepeatAfter = 500;    // milliseconds that an arrow is held
 constexpr int kRepeatEvery = 120;
-constexpr QColor kEdge(70, 70, 70);
-constexpr QColor kFace(238, 240, 244);
-constexpr QColor kGroove(250, 250, 250);
-constexpr QColor kThumb(74, 151, 245);
-constexpr QColor kInk(24, 33, 59);
 
 QRectF inside(const QRectF& area, double inset) {
   return area.adjusted(inset, inset, -inset, -inset);
@@ -126,14 +122,14 @@ double ScrollBarWidget::corner() const {
 
 void ScrollBarWidget::paintArrow(QPainter& painter, const QRect& place, bool towardsMore) const {
   const double edge = markPixels(*this, 1);
-  painter.setPen(QPen(kEdge, edge));
-  painter.setBrush(kFace);
+  painter.setPen(QPen(colors::kEdge, edge));
+  painter.setBrush(colors::kFace);
   painter.drawRoundedRect(inside(place, edge / 2), corner(), corner());
   const QPointF centre = QRectF(place).center();
   const double half = std::min(place.width(), place.height()) * 0.24;
   const double tip = towardsMore ? half : -half;
   painter.setPen(Qt::NoPen);
-  painter.setBrush(kInk);
+  painter.setBrush(colors::kInk);
   painter.drawPolygon(QPolygonF({{centre.x() - tip, centre.y() - half},
                                  {centre.x() + tip, centre.y()},
                                  {centre.x() - tip, centre.y() + half}}));
@@ -141,8 +137,8 @@ void ScrollBarWidget::paintArrow(QPainter& painter, const QRect& place, bool tow
 
 void ScrollBarWidget::paintThumb(QPainter& painter) const {
   const QRectF place = inside(thumb(), 1.5 * markScale(*this));
-  painter.setPen(QPen(kInk, markPixels(*this, 2)));
-  painter.setBrush(kThumb);
+  painter.setPen(QPen(colors::kInk, markPixels(*this, 2)));
+  painter.setBrush(colors::kThumb);
   painter.drawRoundedRect(place, corner(), corner());
   for (const int line : {-1, 0, 1}) {
     const double x = place.center().x() + line * place.width() * 0.14;
@@ -155,8 +151,8 @@ void ScrollBarWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const double edge = markPixels(*this, 1);
-  painter.setPen(QPen(kEdge, edge));
-  painter.setBrush(kGroove);
+  painter.setPen(QPen(colors::kEdge, edge));
+  painter.setBrush(colors::kGroove);
   painter.drawRect(inside(way(), edge / 2));
   paintArrow(painter, lessArrow(), false);
   paintArrow(painter, moreArrow(), true);

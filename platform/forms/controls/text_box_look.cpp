@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/controls/text_box_widget.h"
 #include "platform/forms/focus_ring.h"
 #include "platform/forms/fonts.h"
@@ -17,13 +18,11 @@ namespace {
 constexpr int kSmallest = 9;           // pixels of a font
 constexpr int kSideMargin = 6;         // pixels, so that text keeps clear of the focus ring
 constexpr double kWidthsOfOthers = 6;  // pixels beside the text that the line edit keeps for itself
-constexpr int kBesideCursor = 5;   // how far the line edit's cursor rectangle reaches to its left
-constexpr double kCaretWidth = 3;  // pixels
-constexpr QColor kCaret(47, 127, 230);
-constexpr double kSeen = 3;  // contrast of marks, WCAG 1.4.11
-constexpr QColor kEdge(70, 70, 70);
-constexpr double kEdgeInset = 7;      // pixels, inside of the focus ring
-constexpr double kOpenerSide = 0.5;   // of the box's height
+constexpr int kBesideCursor = 5;     // how far the line edit's cursor rectangle reaches to its left
+constexpr double kCaretWidth = 3;    // pixels
+constexpr double kSeen = 3;          // contrast of marks, WCAG 1.4.11
+constexpr double kEdgeInset = 7;     // pixels, inside of the focus ring
+constexpr double kOpenerSide = 0.5;  // of the box's height
 constexpr double kOpenerShare = 0.2;  // of its width, at most
 constexpr double kOpenerGap = 0.2;    // of its own side, to the edge and to the text
 
@@ -142,7 +141,8 @@ void TextBoxWidget::paintCaret() {
                      std::round(baseLineIn(rect(), font()) + digit.top()), wide,
                      std::round(digit.height()));
   QPainter painter(this);
-  painter.fillRect(caret, contrast(kCaret, ground_) >= kSeen ? kCaret : readableOn(ground_));
+  painter.fillRect(
+      caret, contrast(colors::kCaret, ground_) >= kSeen ? colors::kCaret : readableOn(ground_));
 }
 
 // A closed box has a broken edge, and what opens it at its right end.
@@ -153,12 +153,12 @@ void TextBoxWidget::paintEdge() {
   if (hasFocus()) {
     paintFocusRing(painter, *this, 0);
   } else if (border_ && !closed_) {
-    paintBorder(painter, rect(), markPixels(*this, 1), kEdge);
+    paintBorder(painter, rect(), markPixels(*this, 1), colors::kEdge);
   }
   if (!closed_) return;
   const double inset = (hasFocus() ? kEdgeInset : 1) * scale;
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(kEdge, 2 * scale, Qt::DashLine, Qt::FlatCap));
+  painter.setPen(QPen(colors::kEdge, 2 * scale, Qt::DashLine, Qt::FlatCap));
   painter.drawRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset));
   pictures_.paint(painter, opener_, openerPlace());
 }

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/forms/colors.h"
 #include "platform/forms/focus_ring.h"
 
 namespace platform::inline forms {
@@ -73,8 +74,8 @@ void UpDownWidget::letGo() {
 
 void UpDownWidget::paintArrow(QPainter& painter, const QRect& room, bool up) const {
   const bool down = held_ == (up ? 1 : -1);
-  painter.fillRect(room, down ? QColor(200, 205, 215) : QColor(238, 240, 244));
-  paintBorder(painter, room, markPixels(*this, 1), QColor(70, 70, 70));
+  painter.fillRect(room, down ? colors::kFaceHeld : colors::kFace);
+  paintBorder(painter, room, markPixels(*this, 1), colors::kEdge);
   const double side = std::min(room.width(), room.height()) * 0.22;
   const QPointF middle = QRectF(room).center();
   const double tip = up ? -side : side;

@@ -101,6 +101,16 @@ class Casa(unittest.TestCase):
                                "static constexpr auto kSei = [] { return 6; }();\n")
         self.assertEqual(["cases/a.cpp:3: due", "cases/a.cpp:5: quattro"], list(testo.costanti()))
 
+    def test_a_colour_by_its_numbers_stands_in_a_table_of_colours(self):
+        self.file(app__a_cpp="constexpr Rgb kRosso{255, 0, 0};\n// QColor(1, 2, 3)\nauto a = QColor(r, g, b);\n",
+                  app__shared__colori_h="inline constexpr Rgb kRosso{255, 0, 0};\n",
+                  platform__forms__b_cpp='QColor c(Qt::black);\nfill(QColor(0, 0, 0, 70));\nauto d = qRgb(1, 2, 3);\n'
+                                         'QColor e("#ff0000");\n',
+                  platform__flash__c_cpp="auto a = qRgb(0, 0, 0);\n", tests__d_cpp="QColor(1, 2, 3);\n")
+        self.assertEqual(["app/a.cpp:1", "platform/forms/b.cpp:2", "platform/forms/b.cpp:3",
+                          "platform/forms/b.cpp:4"],
+                         [":".join(t.split(":")[:2]) for t in testo.colori()])
+
     def test_tests_of_one_folder_stand_in_one_program_and_those_of_two_do_not(self):
         self.file(tests__cases__a_cpp="struct A {};\n", tests__cases__b_cpp="struct A {};\n",
                   tests__input__a_cpp="struct A {};\n")
