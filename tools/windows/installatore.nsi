@@ -8,6 +8,11 @@ SetCompressor /SOLID lzma
 Name "${TITOLO}"
 OutFile "${FATTO}"
 BrandingText "${TITOLO} ${VERSIONE}"
+; The list of files tells a teacher nothing, and its button is too narrow for its words in Italian.
+ShowInstDetails nevershow
+ShowUninstDetails nevershow
+; The same words stand at the end of a removal.
+CompletedText "$(Finito)"
 
 ; Who may, installs for everybody; whoever may not, for himself.
 !define MULTIUSER_EXECUTIONLEVEL Highest
@@ -24,9 +29,13 @@ BrandingText "${TITOLO} ${VERSIONE}"
 
 !define MUI_ICON "${ICONA}/somme.ico"
 !define MUI_UNICON "${ICONA}/somme.ico"
+!define MULTIUSER_INSTALLMODEPAGE_TEXT_TOP "$(PerChi)"
+!define MULTIUSER_INSTALLMODEPAGE_TEXT_ALLUSERS "$(PerTutti)"
+!define MULTIUSER_INSTALLMODEPAGE_TEXT_CURRENTUSER "$(PerMe)"
 !insertmacro MULTIUSER_PAGE_INSTALLMODE
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
+!define MUI_FINISHPAGE_TITLE_3LINES
 !define MUI_FINISHPAGE_RUN "$INSTDIR\somme.exe"
 !insertmacro MUI_PAGE_FINISH
 !insertmacro MUI_UNPAGE_CONFIRM
@@ -44,6 +53,26 @@ LangString Descrizione ${LANG_ITALIAN} "Esercizi di addizione per la scuola prim
 LangString Descrizione ${LANG_FRENCH} "Exercices d'addition pour l'école primaire"
 LangString Descrizione ${LANG_GERMAN} "Additionsübungen für die Grundschule"
 LangString Descrizione ${LANG_SPANISH} "Ejercicios de sumas para la escuela primaria"
+LangString PerChi ${LANG_ENGLISH} "Who will use the program on this computer?"
+LangString PerChi ${LANG_ITALIAN} "Chi userà il programma su questo computer?"
+LangString PerChi ${LANG_FRENCH} "Qui utilisera le programme sur cet ordinateur ?"
+LangString PerChi ${LANG_GERMAN} "Wer wird das Programm auf diesem Computer benutzen?"
+LangString PerChi ${LANG_SPANISH} "¿Quién usará el programa en este ordenador?"
+LangString PerTutti ${LANG_ENGLISH} "Everybody"
+LangString PerTutti ${LANG_ITALIAN} "Tutti"
+LangString PerTutti ${LANG_FRENCH} "Tout le monde"
+LangString PerTutti ${LANG_GERMAN} "Alle"
+LangString PerTutti ${LANG_SPANISH} "Todos"
+LangString PerMe ${LANG_ENGLISH} "Only I"
+LangString PerMe ${LANG_ITALIAN} "Solo io"
+LangString PerMe ${LANG_FRENCH} "Moi seulement"
+LangString PerMe ${LANG_GERMAN} "Nur ich"
+LangString PerMe ${LANG_SPANISH} "Solo yo"
+LangString Finito ${LANG_ENGLISH} "Completed"
+LangString Finito ${LANG_ITALIAN} "Completato"
+LangString Finito ${LANG_FRENCH} "Terminé"
+LangString Finito ${LANG_GERMAN} "Fertig"
+LangString Finito ${LANG_SPANISH} "Completado"
 LangString InUso ${LANG_ENGLISH} "The program is running. Close it, then try again."
 LangString InUso ${LANG_ITALIAN} "Il programma è aperto. Chiudilo e riprova."
 LangString InUso ${LANG_FRENCH} "Le programme est ouvert. Fermez-le, puis réessayez."
