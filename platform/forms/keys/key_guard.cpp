@@ -29,7 +29,7 @@ constexpr int kNobody = -1;
 constexpr int kElsewhere = -2;
 
 KeyId keyOf(const QKeyEvent& event) {
-  return KeyId::of(event.nativeScanCode(), std::uint32_t(event.key()));
+  return KeyId::of(countedScanCode(event.nativeScanCode()), std::uint32_t(event.key()));
 }
 
 std::chrono::milliseconds now() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -12,6 +13,10 @@ namespace platform::inline forms {
 // How the repeats of a held key will show. Asks the server to send a release only when a key really
 // goes up, where it can be asked.
 [[nodiscard]] RepeatMarks askForRepeatMarks();
+
+// What a key's scan code, as the toolkit tells it, counts as among the keys that are down: some
+// systems tell a key from its twin on the number pad in the one and not in the other. 0 stays 0.
+[[nodiscard]] std::uint32_t countedScanCode(std::uint32_t scanCode);
 
 // The keys that are down at this moment, without the modifiers (Shift, Alt and their like), which
 // do nothing by themselves; nothing where the server cannot be asked.

@@ -54,6 +54,10 @@ RepeatMarks askForRepeatMarks() {
   return serverTellsRepeatsApart(display) ? RepeatMarks::PressesOnly : RepeatMarks::Unreliable;
 }
 
+std::uint32_t countedScanCode(std::uint32_t scanCode) {
+  return scanCode;
+}
+
 std::optional<std::vector<KeyId>> keysDownNow() {
   xcb_connection_t* display = connection();
   if (display == nullptr) return std::nullopt;

@@ -12,8 +12,8 @@ namespace {
 constexpr int kLastKey = 0xFE;
 constexpr SHORT kDown = SHORT(0x8000);
 // The toolkit's scan codes bear it for the keys that came later to the keyboard, such as the
-// arrows.
-constexpr UINT kExtended = 0x100;
+// arrows: their twins on the number pad do not.
+constexpr std::uint32_t kExtended = 0x100;
 
 // What does nothing by itself: buttons of the mouse, modifiers, locks.
 constexpr auto kSilent = std::to_array<int>(
@@ -28,8 +28,12 @@ RepeatMarks askForRepeatMarks() {
   return RepeatMarks::Flagged;
 }
 
-// The system knows keys that are down by their meaning. The one of the number pad and its twin have
-// the same, and so both are told: what is told too much is up again with the other.
+// The system knows keys that are down by their meaning, which a key and its twin share: they count
+// as one. Were both told as down, the twin would still be so at the key's next press.
+std::uint32_t countedScanCode(std::uint32_t scanCode) {
+  return scanCode & ~kExtended;
+}
+
 std::optional<std::vector<KeyId>> keysDownNow() {
   std::vector<KeyId> keys;
   for (int key = 1; key <= kLastKey; ++key) {
@@ -38,7 +42,6 @@ std::optional<std::vector<KeyId>> keysDownNow() {
     const UINT code = ::MapVirtualKeyW(UINT(key), MAPVK_VK_TO_VSC);
     if (code == 0) continue;
     keys.push_back(KeyId::of(code, 0));
-    keys.push_back(KeyId::of(code | kExtended, 0));
   }
   return keys;
 }
