@@ -26,11 +26,6 @@ double luminance(const QColor& colour) {
          0.0722 * linear(colour.blueF());
 }
 
-// The width of the line that a faint text is drawn round with, half of it outside of the glyphs.
-double outlineOf(const QFont& font) {
-  return std::max(2.0, font.pixelSize() / 9.0);
-}
-
 struct Mnemonic {
   QString text;
   int at = -1;
@@ -95,6 +90,10 @@ QColor readableOn(const QColor& ground) {
 
 bool isFaint(const QColor& ink, const QColor& ground) {
   return contrast(ink, ground) < kReadable;
+}
+
+double outlineOf(const QFont& font) {
+  return std::max(2.0, font.pixelSize() / 9.0);
 }
 
 void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const QString& text,

@@ -51,6 +51,8 @@ void paintReadable(QPainter& painter, QPointF baseLine, const QFont& font, const
                    const QColor& ink, const QColor& ground);
 // Whether text of this ink needs the outline on this ground.
 [[nodiscard]] bool isFaint(const QColor& ink, const QColor& ground);
+// The width of that outline in pixels, half of it outside of the glyphs.
+[[nodiscard]] double outlineOf(const QFont& font);
 
 // The ratio of two colours' luminance, 1 to 21 (WCAG 2, contrast ratio).
 [[nodiscard]] double contrast(const QColor& a, const QColor& b);

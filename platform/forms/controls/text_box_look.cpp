@@ -132,12 +132,15 @@ void TextBoxWidget::paintFaintText() {
 }
 
 // As tall as a digit and in the blue of the pictures: a line from edge to edge would part the box
-// in two.
+// in two. Behind the last of outlined digits it keeps clear of the outline.
 void TextBoxWidget::paintCaret() {
   if (!caret_.isSeen()) return;
+  const bool behindOutline =
+      isFaint(ink_, ground_) && !text_.isEmpty() && cursorPosition() == text_.size();
   const QRectF digit = QFontMetricsF(font()).tightBoundingRect(QStringLiteral("8"));
   const double wide = std::round(kCaretWidth * markScale(*this));
-  const QRectF caret(cursorRect().left() + kBesideCursor,
+  const double clear = behindOutline ? std::ceil(outlineOf(font())) : 0;
+  const QRectF caret(cursorRect().left() + kBesideCursor + clear,
                      std::round(baseLineIn(rect(), font()) + digit.top()), wide,
                      std::round(digit.height()));
   QPainter painter(this);

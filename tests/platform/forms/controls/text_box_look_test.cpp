@@ -197,6 +197,25 @@ class TextBoxLookTest : public QObject {
     }
   }
 
+  // A faint digit has an outline, which is wider than the digit.
+  void theCursorKeepsClearOfTheOutlineOfADigit() {
+    Fondo fondo;
+    Prova& forma = fondo.forma();
+    forma.Casella.setForeColor({255, 0, 0});
+    for (const char* cifra : {"1", "2", "7"}) {
+      forma.Casella.setText(QLatin1String(cifra));
+      forma.Casella.setFocus();
+      rigaDi(forma.Casella).end(false);
+      const QImage immagine = ritratto(forma.Casella);
+      const QRect segno = cursore(immagine);
+      QVERIFY(!segno.isEmpty());
+      const QRect prima(8, 8, segno.left() - 8, immagine.height() - 16);
+      const QRect inchiostro = scuro(immagine, prima);
+      QVERIFY(!inchiostro.isEmpty());
+      QVERIFY2(segno.left() - inchiostro.right() >= 3, cifra);
+    }
+  }
+
   void aLockedBoxHasNoCursor() {
     Fondo fondo;
     Prova& forma = fondo.forma();
