@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QPainterPath>
-#include <QPen>
 #include <QPointer>
 #include <functional>
 #include <optional>
