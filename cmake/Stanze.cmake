@@ -25,7 +25,7 @@ function(somme_room name)
     if(NOT ARG_HEADERS STREQUAL "none")
       somme_compiled_headers(somme_${name} ${ARG_HEADERS})
     endif()
-    set_target_properties(somme_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
+    somme_several_at_a_time(somme_${name})
     set_source_files_properties(${ARG_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   endif()
   add_library(somme::${name} ALIAS somme_${name})
@@ -47,6 +47,11 @@ function(somme_room name)
       ${ARG_LINKS} ${ARG_PRIVATE_LINKS})
     add_dependencies(floor_${name} somme_${name})
   endif()
+endfunction()
+
+# Files are compiled in groups of six: with more, a change of one would be waited for too long.
+function(somme_several_at_a_time target)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
 endfunction()
 
 # Tests: the classes of a folder make one program, test_<folder>, of the files <name>_test.cpp beside the
@@ -93,7 +98,7 @@ endfunction()
 # How a program of tests is compiled: with the headers of the first set whose pattern its links match.
 function(somme_tests_compilation target links)
   if(SOMME_COMPILED_HEADERS)
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
+    somme_several_at_a_time(${target})
     # A class of a test may use what stands in its file alone, also where that is not the main one.
     target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
   endif()
