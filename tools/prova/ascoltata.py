@@ -36,6 +36,7 @@ ENTRO = float(os.environ.get("ASCOLTATA_ENTRO", "0.3"))  # seconds; more on a ma
 AL_PIU = 12  # events of the accessibility bus at a verdict
 VECCHIO = "Focus:"  # tells a change of the focus again, in older words
 ASPETTA = 15  # seconds
+TOCCHI_DI_ALT, RESTA = 5, 2  # taps of Alt, and the seconds that each has to give the menu bar the keyboard
 SILENZIO, PAZIENZA = 0.25, 3  # seconds: the reader's silence that a hand waits for, and how long
 BOTTONE_DETTO = " push button."
 COL_MOUSE = "/mouse"
@@ -185,14 +186,20 @@ class _Ascoltato:
 class Ascoltato(_Ascoltato, SoloTasti):
     """Plays by keys or touch."""
 
-    def _apri_voce(self, voce):
+    def _entra_nella_barra(self):
         # The toolkit hands each key to the reader first, and on a busy machine a tap of Alt has been seen to
         # give the menu bar the keyboard for a moment only. The keys without a reader are tried elsewhere.
-        try:
-            super()._apri_voce(voce)
-        except Errore:
+        for _ in range(TOCCHI_DI_ALT):
+            self.mani.batti("alt")
+            fine = time.monotonic() + RESTA
+            while not self._voce_col_fuoco() and time.monotonic() < fine:
+                time.sleep(0.05)
+            # What it holds for a moment only is let go by then.
+            time.sleep(RESTA / 4)
+            if qui := self._voce_col_fuoco():
+                return qui
             print("Again:    Alt, since the menu bar has let the keyboard go")
-            super()._apri_voce(voce)
+        raise Errore(f"the menu bar does not take the keyboard by {TOCCHI_DI_ALT} taps of Alt")
 
 
 class AscoltatoColMouse(_Ascoltato, Giocatore):

@@ -106,13 +106,23 @@ class SoloTasti(_SenzaMouse):
         if lettera:
             self.mani.batti(lettera.lower())
             return
-        self.mani.batti("alt")
+        qui = self._entra_nella_barra()
         for _ in range(TROPPI):
             if voce.ha_il_fuoco:
                 self.mani.batti("Return")
                 return
             self.mani.batti("Right")
+            self._lascia(qui, MOSSA)
+            qui = self._voce_col_fuoco() or qui
         raise Errore(f"{voce} is not reached along the menu bar")
+
+    def _entra_nella_barra(self):
+        """Gives the menu bar the keyboard; the item that has it then."""
+        self.mani.batti("alt")
+        return self.albero.aspetta("the menu bar to take the keyboard", self._voce_col_fuoco)
+
+    def _voce_col_fuoco(self):
+        return next((o for o in self.albero.visibili() if o.ruolo == VOCE and o.ha_il_fuoco), None)
 
 
 class SoloAusili(_SenzaMouse):
