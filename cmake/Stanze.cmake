@@ -54,6 +54,15 @@ function(somme_several_at_a_time target)
   set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
 endfunction()
 
+# What stands beside the rooms, links Qt's widgets and is more than a file or two: compiled as they are.
+function(somme_beside_the_rooms target)
+  target_link_libraries(${target} PRIVATE somme_difese)
+  if(SOMME_COMPILED_HEADERS)
+    somme_compiled_headers(${target} finestre_intestazioni)
+    somme_several_at_a_time(${target})
+  endif()
+endfunction()
+
 # Tests: the classes of a folder make one program, test_<folder>, of the files <name>_test.cpp beside the
 # caller and of SOURCES. ctest runs each class in a process of its own, as folder/name. Tests run
 # without a display unless they say otherwise. Five of a weight run at once for each
@@ -105,7 +114,7 @@ function(somme_tests_compilation target links)
   target_compile_options(${target} PRIVATE ${SOMME_TESTS_OPTIONS})
   if(links MATCHES "somme_prova|somme_stage")
     somme_compiled_headers(${target} prova_intestazioni)
-  elseif(links MATCHES "platform_flash")
+  elseif(links MATCHES "platform_flash|platform_forms")
     somme_compiled_headers(${target} prova_filmati_intestazioni)
   elseif(NOT links MATCHES "Qt6::Gui")
     somme_compiled_headers(${target} prova_base_intestazioni)

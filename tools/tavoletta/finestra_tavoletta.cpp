@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kGrandezzaTesto = 16;  // pixels
 
-QString InParole(Tavoletta::Stato stato) {
+QString Spiega(Tavoletta::Stato stato) {
   switch (stato) {
     case Tavoletta::Stato::Attende:
       return QStringLiteral(
@@ -75,7 +75,7 @@ void FinestraTavoletta::Apri(quint16 porta) {
 
 void FinestraTavoletta::Aggiorna() {
   ok_.setVisible(tavoletta_.stato() != Tavoletta::Stato::Attende);
-  stato_.setText(InParole(tavoletta_.stato()));
+  stato_.setText(Spiega(tavoletta_.stato()));
   tocco_.setText(QStringLiteral(" "));
 }
 

@@ -7,7 +7,7 @@ namespace somme::tavoletta {
 
 namespace {
 
-QString InParole(Tavoletta::Stato stato) {
+QString InUnaParola(Tavoletta::Stato stato) {
   switch (stato) {
     case Tavoletta::Stato::Attende:
       return QStringLiteral("staccata");
@@ -25,7 +25,7 @@ Suggeritore::Suggeritore(Tavoletta& tavoletta, std::function<void(const QString&
                          std::function<void()> fine)
     : tavoletta_(tavoletta), fine_(std::move(fine)) {
   QObject::connect(&tavoletta_, &Tavoletta::cambiata, &tavoletta_,
-                   [this, racconta] { racconta(InParole(tavoletta_.stato())); });
+                   [this, racconta] { racconta(InUnaParola(tavoletta_.stato())); });
   QObject::connect(&tavoletta_, &Tavoletta::ricevuto, &tavoletta_,
                    [racconta](const QByteArray& richiesta) {
                      racconta(QStringLiteral("ricevuto ") + QString::fromLatin1(richiesta));
