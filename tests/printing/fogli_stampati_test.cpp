@@ -87,7 +87,7 @@ class FogliStampatiTest : public QObject {
     QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
     const PdfLetto letto(prova.banco.stampanti.lavori[0].pages);
     constexpr int kFini = 300;
-    const QImage pagina = letto.immagine(1, kFini);
+    const QImage pagina = letto.inGrigio(1, kFini);
     const double mm = 25.4 / kFini;
     double lontano = 0;
     for (int i = 0; i < foglio.tastiera.Posti(); ++i) {

@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
+#include <algorithm>
+#include <span>
 #include <stdexcept>
 
 namespace prova {
@@ -64,28 +66,41 @@ bool PdfLetto::caratteriInclusi() const {
 }
 
 QImage PdfLetto::immagine(int pagina, int puntiPerPollice) const {
+  return disegna(pagina, puntiPerPollice, {});
+}
+
+QImage PdfLetto::inGrigio(int pagina, int puntiPerPollice) const {
+  return disegna(pagina, puntiPerPollice, {QStringLiteral("-gray")});
+}
+
+QImage PdfLetto::disegna(int pagina, int puntiPerPollice, const QStringList& come) const {
   const QString numero = QString::number(pagina);
   // Plain pixels by way of the pipe: to pack and unpack them would take as long as to draw them.
   return QImage::fromData(
       esegui(QStringLiteral("pdftoppm"),
-             {QStringLiteral("-r"), QString::number(puntiPerPollice), QStringLiteral("-f"), numero,
-              QStringLiteral("-l"), numero, QStringLiteral("-singlefile"), file_}),
-      "PPM");
+             come + QStringList{QStringLiteral("-r"), QString::number(puntiPerPollice),
+                                QStringLiteral("-f"), numero, QStringLiteral("-l"), numero,
+                                QStringLiteral("-singlefile"), file_}));
 }
 
 QRectF inchiostro(const QImage& immagine, int puntiPerPollice, int soglia) {
-  int sinistra = immagine.width();
+  const QImage colori = immagine.convertToFormat(QImage::Format_RGB32);
+  const auto scuro = [soglia](QRgb punto) { return qGray(punto) < soglia; };
+  int sinistra = colori.width();
   int destra = -1;
-  int alto = immagine.height();
+  int alto = colori.height();
   int basso = -1;
-  for (int y = 0; y < immagine.height(); ++y) {
-    for (int x = 0; x < immagine.width(); ++x) {
-      if (qGray(immagine.pixel(x, y)) >= soglia) continue;
-      sinistra = std::min(sinistra, x);
-      destra = std::max(destra, x);
-      alto = std::min(alto, y);
-      basso = std::max(basso, y);
-    }
+  for (int y = 0; y < colori.height(); ++y) {
+    // From both ends: what lies between the first ink of a line and its last is not looked at.
+    const std::span<const QRgb> riga(reinterpret_cast<const QRgb*>(colori.constScanLine(y)),
+                                     size_t(colori.width()));
+    const auto prima = std::find_if(riga.begin(), riga.end(), scuro);
+    if (prima == riga.end()) continue;
+    const auto ultima = std::find_if(riga.rbegin(), riga.rend(), scuro);
+    sinistra = std::min(sinistra, int(prima - riga.begin()));
+    destra = std::max(destra, int(riga.rend() - ultima) - 1);
+    alto = std::min(alto, y);
+    basso = y;
   }
   const double mm = 25.4 / puntiPerPollice;
   return {sinistra * mm, alto * mm, (destra + 1 - sinistra) * mm, (basso + 1 - alto) * mm};

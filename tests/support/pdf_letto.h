@@ -23,9 +23,12 @@ class PdfLetto {
   // Whether every font is in the document.
   [[nodiscard]] bool caratteriInclusi() const;
   [[nodiscard]] QImage immagine(int pagina, int puntiPerPollice) const;
+  // The same without its colours, in half the time.
+  [[nodiscard]] QImage inGrigio(int pagina, int puntiPerPollice) const;
 
  private:
   [[nodiscard]] QByteArray esegui(const QString& programma, const QStringList& argomenti) const;
+  [[nodiscard]] QImage disegna(int pagina, int puntiPerPollice, const QStringList& come) const;
 
   QTemporaryDir cartella_;
   QString file_;
