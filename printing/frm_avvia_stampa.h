@@ -129,7 +129,7 @@ class frmAvviaStampa final : public Forma {
   void Lampeggia();
   void Stampa();
   void Chiudi();
-  [[nodiscard]] double PixelInTwips() const { return scale().twipsPerPixel; }
+  [[nodiscard]] double PixelInTwips() const { return scale().pixel.count(); }
 
   StampanteInUso stampante_;
   platform::PrinterSettings salvate_;  // for `cmdChiudi`

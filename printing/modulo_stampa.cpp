@@ -2,6 +2,7 @@
 
 #include "app/shared/ambiente.h"
 #include "platform/base/run_time_error.h"
+#include "platform/base/twips.h"
 #include "platform/forms/controls/rich_text_box.h"
 #include "printing/attendi_stampanti.h"
 #include "printing/documento.h"
@@ -12,8 +13,10 @@ namespace {
 
 using platform::RunTimeError;
 
-constexpr double kTwipsPerPollice = 1440;
-constexpr double kTwipsPerMillimetro = kTwipsPerPollice / 25.4;
+// Twips of so many millimetres.
+double InTwips(double millimetri) {
+  return platform::Twips::millimetres(millimetri).count();
+}
 
 void Esigi(bool riuscito) {
   if (!riuscito) throw RunTimeError(RunTimeError::PrinterError);
@@ -22,10 +25,8 @@ void Esigi(bool riuscito) {
 MisurePagina Misura(const platform::PrinterSettings& impostazioni) {
   const platform::Paper& carta = impostazioni.paper;
   const bool diritta = impostazioni.orientation == platform::Orientation::Portrait;
-  return {impostazioni.sheetWidth() * kTwipsPerMillimetro,
-          impostazioni.sheetHeight() * kTwipsPerMillimetro,
-          (diritta ? carta.left : carta.top) * kTwipsPerMillimetro,
-          (diritta ? carta.top : carta.left) * kTwipsPerMillimetro};
+  return {InTwips(impostazioni.sheetWidth()), InTwips(impostazioni.sheetHeight()),
+          InTwips(diritta ? carta.left : carta.top), InTwips(diritta ? carta.top : carta.left)};
 }
 
 // Page by page: each begins where the control says that the one before ended.
@@ -36,8 +37,8 @@ QByteArray Impagina(const platform::RichTextBox& testo, const Margini& margini,
   const MisurePagina pagina = Misura(stampante.standard);
   const QRectF rettangolo = RettangoloDiDisegno(margini, pagina);
   QPainter& pittore = documento.Pittore();
-  pittore.scale(Documento::kPuntiPerPollice / kTwipsPerPollice,
-                Documento::kPuntiPerPollice / kTwipsPerPollice);
+  const double puntiPerTwip = Documento::kPuntiPerPollice / platform::Twips::inches(1).count();
+  pittore.scale(puntiPerTwip, puntiPerTwip);
   pittore.translate(pagina.scartoSinistro, pagina.scartoSuperiore);
   const qsizetype lunghezza = testo.text().size();
   qsizetype inizio = testo.formatRange(&pittore, rettangolo, 0);

@@ -134,7 +134,7 @@ void FormaEsercizio::ApriPannelloStampa() {
 }
 
 void FormaEsercizio::StampaElenco() {
-  constexpr int kUnPollice = 1440;  // twips
+  constexpr int kUnPollice = int(platform::Twips::inches(1).count());
   StampaTestoRicco(ambiente(), TestoStampa, kUnPollice, kUnPollice, kUnPollice, kUnPollice);
 }
 

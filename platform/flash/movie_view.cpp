@@ -252,7 +252,7 @@ std::optional<QPointF> MovieView::stagePixel(QPointF position) const {
   if (!possible || !stage.contains(point)) {
     return std::nullopt;
   }
-  return (point - stage.topLeft()) / kTwipsPerPixel;
+  return (point - stage.topLeft()) / kPixel.count();
 }
 
 // What a move makes the movie say is posted: Qt makes moves up where a widget is shown or hidden,

@@ -134,12 +134,12 @@ std::optional<QPointF> Player::clickPoint(const QString& name) const {
     const Container* hit = interactiveAt(stage_, middle);
     while (hit != nullptr && hit != child) hit = hit->parent;
     if (hit == nullptr) return std::nullopt;
-    return (middle - movie().stage.topLeft()) / kTwipsPerPixel;
+    return (middle - movie().stage.topLeft()) / kPixel.count();
   });
 }
 
 QPointF Player::toStage(QPointF position) const {
-  return position * kTwipsPerPixel + movie().stage.topLeft();
+  return position * kPixel.count() + movie().stage.topLeft();
 }
 
 void Player::mouseMove(QPointF position) {

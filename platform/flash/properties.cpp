@@ -62,7 +62,7 @@ void setSize(Container& of, Property property, double pixels, Budget& budget) {
   const double now = isWidth ? bounds.width() : bounds.height();
   if (now > 0 && pixels >= 0) {
     Axes axes(of.matrix);
-    (isWidth ? axes.scaleX : axes.scaleY) *= pixels * kTwipsPerPixel / now;
+    (isWidth ? axes.scaleX : axes.scaleY) *= pixels * kPixel.count() / now;
     of.matrix = axes.at(of.matrix.dx(), of.matrix.dy());
   }
 }
@@ -101,17 +101,17 @@ Value placeProperty(const Stage& stage, const Container& of, Property property) 
   const Axes axes(of.matrix);
   switch (property) {
     case Property::X:
-      return of.matrix.dx() / kTwipsPerPixel;
+      return Twips(of.matrix.dx()) / kPixel;
     case Property::Y:
-      return of.matrix.dy() / kTwipsPerPixel;
+      return Twips(of.matrix.dy()) / kPixel;
     case Property::ScaleX:
       return axes.scaleX * kPercent;
     case Property::ScaleY:
       return axes.scaleY * kPercent;
     case Property::Width:
-      return boundsInParent(of, stage.budget()).width() / kTwipsPerPixel;
+      return Twips(boundsInParent(of, stage.budget()).width()) / kPixel;
     case Property::Height:
-      return boundsInParent(of, stage.budget()).height() / kTwipsPerPixel;
+      return Twips(boundsInParent(of, stage.budget()).height()) / kPixel;
     default:
       return axes.angleX / kDegree;
   }
@@ -167,10 +167,10 @@ void setPropertyOf(Stage& stage, Container& of, Property property, const Value& 
       of.visible = number != 0;
       return;
     case Property::X:
-      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), std::round(number * kTwipsPerPixel), m.dy()};
+      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), std::round(number * kPixel.count()), m.dy()};
       break;
     case Property::Y:
-      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), std::round(number * kTwipsPerPixel)};
+      of.matrix = {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), std::round(number * kPixel.count())};
       break;
     case Property::ScaleX:
     case Property::ScaleY:

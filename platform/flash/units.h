@@ -2,10 +2,12 @@
 
 #include <cstdint>
 
+#include "platform/base/twips.h"
+
 namespace platform::flash {
 
-// Lengths and places in a movie are twips, twenty to a pixel of a board at its own size.
-inline constexpr double kTwipsPerPixel = 20;
+// Lengths and places in a movie are twips; so many are a pixel of a board at its own size.
+inline constexpr Twips kPixel{20};
 
 // Further out, in twips, nothing can be drawn, and a float still holds every twip.
 inline constexpr std::int64_t kFarthestTwip = 1 << 23;

@@ -106,7 +106,7 @@ UnpackedFile unpackFile(Bytes file, Allowance& allowance) {
   opened.frameCount = header.u16();
   opened.tagsBegin = header.position();
   const double edge = std::max(opened.stage.width(), opened.stage.height());
-  if (opened.stage.isEmpty() || edge > limits::kStageEdge * kTwipsPerPixel) {
+  if (opened.stage.isEmpty() || Twips(edge) > kPixel * limits::kStageEdge) {
     throw MovieError("the stage has no usable size", kPlainHeader);
   }
   return opened;

@@ -17,10 +17,10 @@ int rounded(double value) {
 }  // namespace
 
 QRect Scale::pixels(const TwipsRect& design) const {
-  const int left = rounded(design.left * x / twipsPerPixel);
-  const int top = rounded(design.top * y / twipsPerPixel);
-  const int right = rounded((design.left + design.width) * x / twipsPerPixel);
-  const int bottom = rounded((design.top + design.height) * y / twipsPerPixel);
+  const int left = rounded(Twips(design.left) * x / pixel);
+  const int top = rounded(Twips(design.top) * y / pixel);
+  const int right = rounded(Twips(design.left + design.width) * x / pixel);
+  const int bottom = rounded(Twips(design.top + design.height) * y / pixel);
   return {left, top, std::max(0, right - left), std::max(0, bottom - top)};
 }
 
@@ -36,8 +36,8 @@ Scale scaleFor(QSize clientPixels, QSizeF designTwips) {
   const double width = std::max(1, clientPixels.width());
   const double height = std::max(1, clientPixels.height());
   const double twips =
-      std::min({kTwipsPerPixel, kMostTwipsAcross / width, kMostTwipsDown / height});
-  return {width * twips / designTwips.width(), height * twips / designTwips.height(), twips};
+      std::min({kPixel.count(), kMostTwipsAcross / width, kMostTwipsDown / height});
+  return {width * twips / designTwips.width(), height * twips / designTwips.height(), Twips(twips)};
 }
 
 }  // namespace platform::inline forms

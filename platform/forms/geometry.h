@@ -4,10 +4,12 @@
 #include <QSize>
 #include <QSizeF>
 
+#include "platform/base/twips.h"
+
 namespace platform::inline forms {
 
-// Lengths on forms are twips, 1440 to the inch, 15 to a logical pixel.
-inline constexpr double kTwipsPerPixel = 15;
+// Lengths on forms are twips; so many are a logical pixel, of which an inch has 96.
+inline constexpr Twips kPixel{15};
 
 // A place inside its container, in twips.
 struct TwipsRect {
@@ -20,11 +22,11 @@ struct TwipsRect {
 };
 
 // How a form's design stands on a page of some size: by how much its twips are stretched, and how
-// many twips of the stretched page make one logical pixel.
+// long a logical pixel is on the stretched page.
 struct Scale {
   double x = 1;  // page twips to one design twip, across
   double y = 1;  // the same, down
-  double twipsPerPixel = kTwipsPerPixel;
+  Twips pixel = kPixel;
 
   // Fonts grow with the direction that grew less.
   [[nodiscard]] double font() const { return x < y ? x : y; }
@@ -32,9 +34,11 @@ struct Scale {
   // The pixels of a place given in design twips. Edges are rounded one by one, so that what abuts
   // in the design abuts on the screen.
   [[nodiscard]] QRect pixels(const TwipsRect& design) const;
+  // By how much what is given in pixels grows with the fonts.
+  [[nodiscard]] double grown() const { return font() * (kPixel / pixel); }
   // Logical pixels of a font of so many points in the design.
   [[nodiscard]] double fontPixels(double points) const {
-    return points * 20 * font() / twipsPerPixel;
+    return Twips::points(points) * font() / pixel;
   }
 
   friend bool operator==(const Scale&, const Scale&) = default;

@@ -31,10 +31,10 @@ void ModalWindow::takeTitle() {
 // its scale.
 void ModalWindow::fit() {
   const FormDesign& design = form_.design();
-  const QSizeF plain(design.width / kTwipsPerPixel, design.height / kTwipsPerPixel);
+  const QSizeF plain(Twips(design.width) / kPixel, Twips(design.height) / kPixel);
   const QSizeF room = QSizeF(over_.size()) * kShare;
   if (growth_ <= 0) {
-    const double tallest = form_.tallestDesign() / kTwipsPerPixel;
+    const double tallest = Twips(form_.tallestDesign()) / kPixel;
     growth_ = std::max(1.0, std::min(room.width() / plain.width(), room.height() / tallest));
   }
   setFixedSize((plain * growth_).toSize());

@@ -42,7 +42,7 @@ class AnteprimaTest : public QObject {
       d.cboPrinterNames.choose(QStringLiteral("Prova"));
       QCOMPARE(qRound(d.PictureAnteprima.width()), 2121);
       QCOMPARE(qRound(d.PictureAnteprima.height()), 3000);
-      const double pixel = d.scale().twipsPerPixel;
+      const double pixel = d.scale().pixel.count();
       QCOMPARE(qRound(d.shpBordo.width()), qRound(d.PictureAnteprima.width() + 8 * pixel));
       QCOMPARE(qRound(d.shpFoglio.height()), qRound(d.PictureAnteprima.height() + 2 * pixel));
       QCOMPARE(qRound(d.shpFoglio.left()), qRound(d.shpBordo.left() + 3 * pixel));

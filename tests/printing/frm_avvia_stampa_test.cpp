@@ -91,7 +91,7 @@ class FrmAvviaStampaTest : public QObject {
           if (widget == nullptr || !widget->isVisible()) continue;
           basso = std::max(basso, widget->geometry().bottom() + 1);
         }
-        return (tela.height() - basso) * d.scale().twipsPerPixel / d.scale().y;
+        return (tela.height() - basso) * d.scale().pixel.count() / d.scale().y;
       };
       const QRect principale = prova.banco.ambiente->fondo.window().frameGeometry();
       QVERIFY2(resto() >= 90 && resto() <= 150, qPrintable(QString::number(resto())));

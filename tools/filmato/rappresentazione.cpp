@@ -11,7 +11,8 @@
 
 namespace somme::filmato {
 
-using platform::flash::kTwipsPerPixel;
+using platform::Twips;
+using platform::flash::kPixel;
 using platform::flash::Movie;
 using platform::flash::Player;
 
@@ -27,8 +28,8 @@ QString nomeDiFile(const QString& nome) {
 }
 
 QSize misure(const Movie& filmato) {
-  return {static_cast<int>(std::ceil(filmato.stage.width() / kTwipsPerPixel)),
-          static_cast<int>(std::ceil(filmato.stage.height() / kTwipsPerPixel))};
+  return {static_cast<int>(std::ceil(Twips(filmato.stage.width()) / kPixel)),
+          static_cast<int>(std::ceil(Twips(filmato.stage.height()) / kPixel))};
 }
 
 }  // namespace
@@ -129,7 +130,7 @@ void Rappresentazione::compi(const Scatto& scatto) {
   const bool intera =
       pittore_.paint(lettore_->scene(),
                      QTransform::fromTranslate(angolo.x(), angolo.y()) *
-                         QTransform::fromScale(1 / kTwipsPerPixel, 1 / kTwipsPerPixel),
+                         QTransform::fromScale(1 / kPixel.count(), 1 / kPixel.count()),
                      filmato.background, immagine);
   if (!intera) {
     lettore_->halt();

@@ -23,7 +23,7 @@ void Line::placeChanged() {
   const QPoint from = scale().pixels({place.left, place.top, 0, 0}).topLeft();
   const QPoint to =
       scale().pixels({place.left + place.width, place.top + place.height, 0, 0}).topLeft();
-  const double grown = scale().font() * kTwipsPerPixel / scale().twipsPerPixel;
+  const double grown = scale().grown();
   static_cast<LineWidget*>(widget())->setEnds(
       from, to, std::max(look().borderWidth, qRound(look().borderWidth * grown)));
 }

@@ -68,8 +68,7 @@ void RichTextBox::append(const QString& text) {
 }
 
 qsizetype RichTextBox::formatRange(QPainter* painter, const QRectF& area, qsizetype from) const {
-  constexpr double kTwipsPerPoint = 20;
-  QFont font = fontOf(fontSpec(), fontSpec().size * kTwipsPerPoint);
+  QFont font = fontOf(fontSpec(), Twips::points(fontSpec().size).count());
   font.setHintingPreference(QFont::PreferNoHinting);
   return setTextInto(painter, text_, font, toColor(foreColor()), area, from);
 }

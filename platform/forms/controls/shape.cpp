@@ -50,7 +50,7 @@ QWidget* Shape::create(QWidget* parent) {
 }
 
 int Shape::edge() const {
-  const double grown = scale().font() * kTwipsPerPixel / scale().twipsPerPixel;
+  const double grown = scale().grown();
   return std::max(look().borderWidth, qRound(look().borderWidth * grown));
 }
 

@@ -14,6 +14,7 @@ namespace geometry_test {
 using platform::clientPixels;
 using platform::Scale;
 using platform::scaleFor;
+using platform::Twips;
 using platform::TwipsRect;
 using trial::kOne;
 using trial::Stage;
@@ -32,7 +33,7 @@ class GeometryTest : public QObject {
  private Q_SLOTS:
   void aPixelIsFifteenTwipsAtTheDesignSize() {
     const Scale scale = scaleFor({800, 600}, kDesign);
-    QCOMPARE(scale, (Scale{1, 1, 15}));
+    QCOMPARE(scale, (Scale{1, 1, Twips(15)}));
     QCOMPARE(scale.pixels({150, 300, 1500, 750}), QRect(10, 20, 100, 50));
   }
 
@@ -44,7 +45,7 @@ class GeometryTest : public QObject {
     QCOMPARE(scale.pixels({150, 150, 1500, 1500}), QRect(20, 15, 200, 150));
     // 9 points are 12 pixels at 15 twips each.
     QCOMPARE(scale.fontPixels(9), 18.0);
-    QCOMPARE((Scale{1, 2, 15}).font(), 1.0);
+    QCOMPARE((Scale{1, 2, Twips(15)}).font(), 1.0);
   }
 
   void noPageIsHigherThan24000TwipsOrWiderThan32000_data() {
@@ -61,7 +62,7 @@ class GeometryTest : public QObject {
     QFETCH(QSize, pixels);
     QFETCH(double, twips);
     const Scale scale = scaleFor(pixels, kDesign);
-    QCOMPARE(scale.twipsPerPixel, twips);
+    QCOMPARE(scale.pixel.count(), twips);
     QVERIFY(kDesign.width() * scale.x <= 32000.001);
     QVERIFY(kDesign.height() * scale.y <= 24000.001);
     // The design fills the page whatever a pixel is worth.
