@@ -23,6 +23,19 @@ if(SOMME_WERROR AND ((CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILE
                      OR (CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 17)))
   target_compile_options(somme_opzioni INTERFACE -Werror)
 endif()
+# A sum is the same number on every processor, each step of it rounded to its type: so are sounds, places and
+# measurements the same. A product is not kept longer for the sum after it; and x86 of 32 bits reckons by SSE2,
+# which Debian's own Qt asks of it, too, since its older unit rounds later.
+include(CheckCXXSourceCompiles)
+foreach(macro IN ITEMS __FP_FAST_FMA __i386__)
+  check_cxx_source_compiles("#ifndef ${macro}\n#error\n#endif\nint main() {}" SOMME${macro})
+endforeach()
+if(SOMME__FP_FAST_FMA)
+  add_compile_options(-ffp-contract=off)
+endif()
+if(SOMME__i386__)
+  add_compile_options(-msse2 -mfpmath=sse)
+endif()
 if(SOMME_SANITIZE)
   add_compile_options(-fsanitize=${SOMME_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer -g1)
