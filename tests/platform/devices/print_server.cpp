@@ -1,5 +1,6 @@
 #include "print_server.h"
 
+#include <pwd.h>
 #include <unistd.h>
 #include <QDir>
 #include <QElapsedTimer>
@@ -130,9 +131,12 @@ QString PrintServer::openJobs() {
 
 namespace {
 
-// The folder that the backend writes into.
+// The folder that the backend writes into: below the home that the account has, whatever the environment
+// says of it.
 QDir printedFolder() {
-  return QDir(QDir::home().filePath(QStringLiteral("PDF")));
+  const passwd* account = ::getpwuid(::geteuid());
+  return account == nullptr ? QDir::home()
+                            : QDir(QFile::decodeName(account->pw_dir) + QStringLiteral("/PDF"));
 }
 
 }  // namespace
