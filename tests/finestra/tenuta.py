@@ -22,6 +22,9 @@ from schermo_wayland import schermo as schermo_di  # noqa: E402
 TASTI = [("space", ["space"], False), ("Return", ["Return"], True), ("Alt+C", ["alt", "c"], True)]
 # The repeat of a held key: after so many milliseconds, so often a second.
 RIPETIZIONE = ("150", "60")
+# Seconds in which a click must have come, and those in which no other may follow.
+ATTESA = 5
+DOPO = 0.3
 
 
 # Keeps a processor busy, alone among those that were given the same file: when one ends, the next begins.
@@ -58,6 +61,12 @@ class Conta:
             elif riga.strip() == "click":
                 self.clic += 1
 
+    def attendi(self, quanti):
+        """Until so many clicks have come, or the time is over."""
+        fine = time.monotonic() + ATTESA
+        while self.clic < quanti and time.monotonic() < fine:
+            time.sleep(0.02)
+
     def chiudi(self):
         self._processo.termina()
 
@@ -71,7 +80,9 @@ def tieni(conta, tasti, secondi):
     al_rilascio = conta.clic - prima
     for tasto in reversed(tasti):
         subprocess.run(["xdotool", "keyup", tasto], check=True, timeout=30)
-    time.sleep(0.3)
+    # A busy machine clicks late; a second click would follow at once.
+    conta.attendi(prima + 1)
+    time.sleep(DOPO)
     return al_rilascio, conta.clic - prima
 
 
