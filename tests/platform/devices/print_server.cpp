@@ -131,8 +131,8 @@ QString PrintServer::openJobs() {
 
 namespace {
 
-// The folder that the backend writes into: below the home that the account has, whatever the environment
-// says of it.
+// The folder that the backend writes into: below the home that the account has, whatever the
+// environment says of it.
 QDir printedFolder() {
   const passwd* account = ::getpwuid(::geteuid());
   return account == nullptr ? QDir::home()
