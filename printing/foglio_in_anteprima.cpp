@@ -1,11 +1,14 @@
 #include "app/shared/colori.h"
+#include "platform/base/numbers.h"
 #include "printing/disegno_avvia_stampa.h"
 #include "printing/frm_avvia_stampa.h"
 #include "printing/nome_formato_carta.h"
 
-// The sheet on the preview of the print dialog: its size, and the warning beside it.
+// The preview of the print dialog: the sheet, what will stand on it, and the warning beside it.
 namespace somme::inline stampa {
 
+using platform::BoxButtons;
+using platform::BoxIcon;
 using platform::Orientation;
 
 void frmAvviaStampa::DisegnaFoglio() {
@@ -43,6 +46,40 @@ bool frmAvviaStampa::SiIngrandisce(bool fuori) {
 void frmAvviaStampa::Lampeggia() {
   lblFuoriFoglio.setBackColor(lblFuoriFoglio.backColor() == colori::kRosso ? platform::kWhite
                                                                            : colori::kRosso);
+}
+
+void frmAvviaStampa::AggiornaAnteprima() {
+  if (!conOggetto_ || foglio_.larghezza <= 0) return;
+  const bool fuori = !StaSulFoglio(posto_, foglio_.larghezza, foglio_.altezza) ||
+                     posto_.sinistra < 0 || posto_.alto < 0;
+  Timer1.setEnabled(fuori);
+  lblFuoriFoglio.setVisible(fuori);
+  if (SiIngrandisce(fuori)) return DisegnaFoglio();  // and this with it
+  const double inLargo = PictureAnteprima.width() / PixelInTwips() / foglio_.larghezza;
+  const double inAlto = PictureAnteprima.height() / PixelInTwips() / foglio_.altezza;
+  const auto punti = [](double misura) {
+    return static_cast<int>(platform::roundHalfEven(misura));
+  };
+  DisegnaAnteprima({punti(inLargo * posto_.sinistra), punti(inAlto * posto_.alto),
+                    punti(inLargo * posto_.larghezza), punti(inAlto * posto_.altezza)});
+}
+
+void frmAvviaStampa::DisegnaAnteprima(const QRect& dove) {
+  if (!immagine_.presente()) {
+    ground().showBox({QStringLiteral("Errore di Copia"), QStringLiteral(" Errore nell'anteprima"),
+                      BoxIcon::Critical, BoxButtons::Ok});
+    return;
+  }
+  const QImage& ridotta = immagine_.Ridotta(monocromatica_);
+  // Made smaller with all its points taken in; made larger by whoever paints it.
+  const bool minore = dove.width() < ridotta.width() && dove.height() < ridotta.height();
+  PictureAnteprima.setPicture(
+      minore ? ridotta.scaled(dove.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+             : ridotta,
+      dove);
+  // What would be lost beyond the paper is seen, faint, beside it.
+  const QPoint angolo = PictureAnteprima.widget()->pos();
+  fraFoglio.setPicture(lblFuoriFoglio.isVisible() ? ridotta : QImage(), dove.translated(angolo));
 }
 
 }  // namespace somme::inline stampa

@@ -280,37 +280,6 @@ void frmAvviaStampa::RiprendiFoglio() {
   DisegnaFoglio();
 }
 
-void frmAvviaStampa::AggiornaAnteprima() {
-  if (!conOggetto_ || foglio_.larghezza <= 0) return;
-  const bool fuori = !StaSulFoglio(posto_, foglio_.larghezza, foglio_.altezza) ||
-                     posto_.sinistra < 0 || posto_.alto < 0;
-  Timer1.setEnabled(fuori);
-  lblFuoriFoglio.setVisible(fuori);
-  if (SiIngrandisce(fuori)) return DisegnaFoglio();  // and this with it
-  const double inLargo = PictureAnteprima.width() / PixelInTwips() / foglio_.larghezza;
-  const double inAlto = PictureAnteprima.height() / PixelInTwips() / foglio_.altezza;
-  DisegnaAnteprima({Arrotonda(inLargo * posto_.sinistra), Arrotonda(inAlto * posto_.alto),
-                    Arrotonda(inLargo * posto_.larghezza), Arrotonda(inAlto * posto_.altezza)});
-}
-
-void frmAvviaStampa::DisegnaAnteprima(const QRect& dove) {
-  if (!immagine_.presente()) {
-    ground().showBox({QStringLiteral("Errore di Copia"), QStringLiteral(" Errore nell'anteprima"),
-                      BoxIcon::Critical, BoxButtons::Ok});
-    return;
-  }
-  const QImage& ridotta = immagine_.Ridotta(monocromatica_);
-  // Made smaller with all its points taken in; made larger by whoever paints it.
-  const bool minore = dove.width() < ridotta.width() && dove.height() < ridotta.height();
-  PictureAnteprima.setPicture(
-      minore ? ridotta.scaled(dove.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-             : ridotta,
-      dove);
-  // What would be lost beyond the paper is seen, faint, beside it.
-  const QPoint angolo = PictureAnteprima.widget()->pos();
-  fraFoglio.setPicture(lblFuoriFoglio.isVisible() ? ridotta : QImage(), dove.translated(angolo));
-}
-
 void frmAvviaStampa::ScegliFormato(int indice) {
   txtPrW.setText(plain(indice == kA3 ? 420 : 289));
   txtPrH.setText(plain(indice == kA3 ? 297 : 204));

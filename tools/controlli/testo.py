@@ -7,7 +7,8 @@ from collections import defaultdict
 
 from . import sorgenti
 
-RIGHE_DI_UN_FILE = 400
+RIGHE_DEL_PRODOTTO = 350
+RIGHE_DI_UN_FILE = 400  # of those beside it
 RIGHE_DI_UNA_COPIA = 10
 LETTERE_DI_UN_TITOLO = 72
 
@@ -16,8 +17,9 @@ def file_lunghi():
     """Files longer than a head holds."""
     for file in sorgenti.cpp():
         righe = sorgenti.testo(file).count("\n")
-        if righe > RIGHE_DI_UN_FILE:
-            yield f"{file}: {righe} lines, {RIGHE_DI_UN_FILE} at most"
+        limite = RIGHE_DEL_PRODOTTO if sorgenti.stanza(file) else RIGHE_DI_UN_FILE
+        if righe > limite:
+            yield f"{file}: {righe} lines, {limite} at most"
 
 
 _NOME = re.compile(r"[A-Za-z_]\w*")
@@ -49,8 +51,7 @@ def _righe_che_contano(file):
 def copie():
     """Pairs of places of the product of which more lines than allowed in a row have one shape."""
     passo = RIGHE_DI_UNA_COPIA + 1
-    righe = {f: list(_righe_che_contano(f)) for f in sorgenti.prodotto()
-             }
+    righe = {f: list(_righe_che_contano(f)) for f in sorgenti.prodotto()}
     posti = defaultdict(list)
     for file, elenco in righe.items():
         for i in range(len(elenco) - passo + 1):

@@ -166,6 +166,10 @@ class Casa(unittest.TestCase):
         self.file(tests__a_cpp="\n" * 400, tests__b_cpp="\n" * 401)
         self.assertEqual(["tests/b.cpp: 401 lines, 400 at most"], list(testo.file_lunghi()))
 
+    def test_a_file_of_more_than_350_lines_is_long_in_a_room(self):
+        self.file(cases__a_cpp="\n" * 350, cases__b_cpp="\n" * 351)
+        self.assertEqual(["cases/b.cpp: 351 lines, 350 at most"], list(testo.file_lunghi()))
+
     def test_a_title_of_73_letters_is_long(self):
         self.file(a="")
         self.git("add", ".")
