@@ -63,9 +63,10 @@ bool Film(const QDir& cartella, const QString& lingua) {
 
 // As a family menu would leave the state for each.
 bool Forme(const QDir& cartella, const QString& lingua, QSize lato) {
-  for (const std::string_view nome : somme::NomiDelleForme()) {
+  for (const somme::SchedaForma& scheda : somme::LeForme()) {
     prova::Banco banco(lato);
     ScegliLingua(banco, lingua);
+    const std::string_view nome = scheda.nome;
     const QLatin1String scritto(nome.data(), qsizetype(nome.size()));
     prova::ComeDalMenu(*banco.ambiente, nome);
     QImage ritratto;
@@ -73,6 +74,8 @@ bool Forme(const QDir& cartella, const QString& lingua, QSize lato) {
       // What goes on paper: the window shows an empty page behind the dialog.
       manuale::ConIlFoglio(banco, nome,
                            [&](const auto& dialogo) { ritratto = dialogo.immagine().punti(); });
+    } else if (scheda.genere == somme::Genere::Dialogo) {
+      ritratto = manuale::StampaConAvviso(banco);  // by itself it shows no sheet and no printer
     } else {
       banco.mostra(nome);
       ritratto = manuale::Ritratto(banco);

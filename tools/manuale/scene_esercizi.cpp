@@ -69,8 +69,11 @@ void Percorso(QImage& ritratto, FormTabella& forma, std::span<const int> celle) 
   constexpr double kSpessore = 0.08;
   constexpr double kAnello = 0.36;
   constexpr double kSopra = 0.28;  // from the middle of a cell to the ends of a hop above a number
-  constexpr double kAccanto = 0.42;  // and beside one, which is wider than high
-  constexpr double kArco = 0.4;      // from the ends to where the hop would go if it were not round
+  constexpr double kAccanto = 0.36;  // and beside one, which is wider than high
+  // From the ends to where the hop would go if it were not round: beside a number it keeps clear of
+  // the one in the next column.
+  constexpr double kArco = 0.4;
+  constexpr double kArcoAccanto = 0.2;
   constexpr double kPunta = 0.17;
   const QColor colore(200, 60, 0);
   // Of the digits, which a blank in front of them moves to the right.
@@ -90,9 +93,10 @@ void Percorso(QImage& ritratto, FormTabella& forma, std::span<const int> celle) 
     const QLineF passo(mezzo(celle[i - 1]), mezzo(celle[i]));
     const QPointF verso = (passo.p2() - passo.p1()) / passo.length();
     const QPointF fuori(-verso.y(), -verso.x());  // above on the way right, left on that down
-    const double piede = (verso.y() > 0.5 ? kAccanto : kSopra) * unita;
+    const bool giu = verso.y() > 0.5;
+    const double piede = (giu ? kAccanto : kSopra) * unita;
     const QPointF arrivo = passo.p2() + fuori * piede;
-    const QPointF cima = passo.center() + fuori * (piede + kArco * unita);
+    const QPointF cima = passo.center() + fuori * (piede + (giu ? kArcoAccanto : kArco) * unita);
     QPainterPath salto(passo.p1() + fuori * (i == 1 ? kAnello * unita : piede));
     salto.quadTo(cima, arrivo);
     pennello.setBrush(Qt::NoBrush);

@@ -62,6 +62,14 @@ void MettiStampante(Banco& banco, const platform::Paper& carta) {
   banco.stampanti.elenco.standard = carta.media;
 }
 
+QImage DialogoAperto(Banco& banco, const platform::Paper& carta) {
+  MettiStampante(banco, carta);
+  QImage dialogo;
+  ConIlFoglio(banco, forme::kFormStampaFoglioNumeri,
+              [&](const frmAvviaStampa& aperto) { dialogo = Dialogo(aperto); });
+  return dialogo;
+}
+
 }  // namespace
 
 void ConIlFoglio(Banco& banco, std::string_view nome,
@@ -121,12 +129,11 @@ QImage FoglioAbaco(Banco& banco) {
   return Foglio(banco, forme::kFormStampaAbaco);
 }
 
+QImage StampaConAvviso(Banco& banco) {
+  return DialogoAperto(banco, prova::CartaA4());
+}
 QImage StampaFoglio(Banco& banco) {
-  MettiStampante(banco, prova::CartaA3());
-  QImage dialogo;
-  ConIlFoglio(banco, forme::kFormStampaFoglioNumeri,
-              [&](const frmAvviaStampa& aperto) { dialogo = Dialogo(aperto); });
-  return dialogo;
+  return DialogoAperto(banco, prova::CartaA3());
 }
 
 QImage StampaAvanzate(Banco& banco) {

@@ -27,7 +27,9 @@ void AbacoTocco(prova::Banco& banco);
 [[nodiscard]] QImage FoglioBlocchi999(prova::Banco& banco);
 [[nodiscard]] QImage FoglioAbaco(prova::Banco& banco);
 
-// The dialog, at its start and with its settings.
+// The dialog: as it opens on a printer whose sheet is too small, on one that has the sheet, and
+// with its settings.
+[[nodiscard]] QImage StampaConAvviso(prova::Banco& banco);
 [[nodiscard]] QImage StampaFoglio(prova::Banco& banco);
 [[nodiscard]] QImage StampaAvanzate(prova::Banco& banco);
 
