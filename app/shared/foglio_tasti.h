@@ -130,7 +130,9 @@ inline constexpr TastoPosato kTastiBlocchi[] = {
 inline constexpr TastoPosato kTastiAbaco[] = {
     {Tasto::Migliaia, 0}, {Tasto::Centinaia, 1}, {Tasto::Decine, 2},    {Tasto::Unita, 3},
     {},
-    {Tasto::CambioHK, 6}, {Tasto::CambioDaH, 5, "palline_da_h"}, {Tasto::CambioUDa, 4, "palline_u_da"},
+    {Tasto::CambioHK, 6, "foglio_palline_h_k"},
+    {Tasto::CambioDaH, 5, "foglio_palline_da_h"},
+    {Tasto::CambioUDa, 4, "foglio_palline_u_da"},
     {},                   {Tasto::Cestino, 1},   {Tasto::Conferma, 2},  {Tasto::Avanti, 3},
 };
 // clang-format on

@@ -38,7 +38,10 @@ constexpr Cambio kCambi[] = {{"cambio_u_da", kUnita, kDecine},
                              {"cambio_da_h", kDecine, kCentinaia},
                              {"palline_u_da", kUnita, kDecine},
                              {"palline_da_h", kDecine, kCentinaia},
-                             {"palline_h_k", kCentinaia, kMigliaia}};
+                             {"palline_h_k", kCentinaia, kMigliaia},
+                             {"foglio_palline_u_da", kUnita, kDecine},
+                             {"foglio_palline_da_h", kDecine, kCentinaia},
+                             {"foglio_palline_h_k", kCentinaia, kMigliaia}};
 
 const Cambio& CambioDi(std::string_view disegno) {
   return *std::ranges::find(kCambi, disegno,
@@ -189,7 +192,8 @@ class FacciaDelCambioTest : public QObject {
     // Image4, Image5 and Image6, where a sheet has them.
     QTest::newRow("FormStampaLU") << QByteArray("cambio_u_da");
     QTest::newRow("FormStampaPLU") << QByteArray("cambio_u_da cambio_da_h");
-    QTest::newRow("FormStampaAbaco") << QByteArray("palline_u_da palline_da_h palline_h_k");
+    QTest::newRow("FormStampaAbaco")
+        << QByteArray("foglio_palline_u_da foglio_palline_da_h foglio_palline_h_k");
   }
   void theExchangeHasTheFormsFaceOnTheirSheets() {
     QFETCH(QByteArray, disegni);

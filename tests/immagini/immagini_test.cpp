@@ -203,6 +203,9 @@ class ImmaginiTest : public QObject {
                              "palline_u_da",
                              "palline_da_h",
                              "palline_h_k",
+                             "foglio_palline_u_da",
+                             "foglio_palline_da_h",
+                             "foglio_palline_h_k",
                              "stampante_grande",
                              "matita"}) {
       QTest::newRow(nome) << QString::fromLatin1(nome);

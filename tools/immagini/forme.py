@@ -81,10 +81,10 @@ def pallina(x, y, tinta, largo=13.0, alto=9.0, tratto=2.6):
             + _luce(x + largo * 0.32, y + alto * 0.34, largo * 0.22, alto * 0.18))
 
 
-def palline(x, y, tinta):
-    """Ten beads, in two rows of five."""
-    return "".join(pallina(x + 14.5 * c, y + 12.5 * r, tinta, 11.5, 9.5, 2.4)
-                   for r in range(2) for c in range(5))
+def palline(x, y, tinta, righe=2, colonne=5, largo=11.5, alto=9.5):
+    """Ten beads, in rows."""
+    return "".join(pallina(x + (largo + 3) * c, y + (alto + 3) * r, tinta, largo, alto, 2.4)
+                   for r in range(righe) for c in range(colonne))
 
 
 def _sagoma(percorso, tinta, tratto):
