@@ -6,7 +6,7 @@ namespace platform::inline forms {
 
 namespace {
 
-constexpr double kApart = 0.8;  // of the largest: smaller ones do not pull the others down
+constexpr double kApart = 0.7;  // of the largest: smaller ones do not pull the others down
 
 }  // namespace
 

@@ -19,6 +19,8 @@ class FittedCaption {
   void shareCaptionSize(CaptionSize* shared);
   // The pixel size of letters that the caption has room for, at most that of the font.
   [[nodiscard]] virtual int fittedCaption() = 0;
+  // The pixel size that the caption is set in.
+  [[nodiscard]] int captionSize() { return sharedSize(fittedCaption()); }
 
  protected:
   // Paints the widget anew, since the shared size may be another.
