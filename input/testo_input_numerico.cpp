@@ -19,8 +19,7 @@ namespace {
 
 constexpr auto kInterni = std::to_array<platform::InnerRow>({
     inner<&TestoInputNumerico::TestoInput>({.caption = "Text1", .border = true}),
-    inner<&TestoInputNumerico::TestoOutput>(
-        {.border = true, .hidden = true, .locked = true, .picture = "matita"}),
+    inner<&TestoInputNumerico::TestoOutput>({.border = true, .hidden = true, .locked = true}),
 });
 
 constexpr int kMargine = 10;     // twips, left and above
@@ -35,6 +34,17 @@ Align AllineamentoDi(qint16 numero) {
       return Align::Centre;
     default:
       return Align::Left;
+  }
+}
+
+QString Figura(TestoInputNumerico::Riapre modo) {
+  switch (modo) {
+    case TestoInputNumerico::Riapre::Clic:
+      return QStringLiteral("matita");
+    case TestoInputNumerico::Riapre::Cestino:
+      return QStringLiteral("cestino");
+    default:
+      return {};
   }
 }
 
@@ -109,6 +119,11 @@ void TestoInputNumerico::Reimposta() {
   TestoPerInput();
 }
 
+void TestoInputNumerico::RiapreCon(Riapre modo) {
+  riapre_ = modo;
+  if (isBuilt()) layOut();
+}
+
 void TestoInputNumerico::TornaAllInserimento() {
   if (Enabled.get()) TestoPerInput();
 }
@@ -134,7 +149,7 @@ void TestoInputNumerico::layOut() {
   TestoOutput.setFontSize(TestoInput.fontSize());
   TestoOutput.setFontName(TestoInput.fontName());
   TestoOutput.setAlignment(TestoInput.alignment());
-  TestoOutput.setOpenedByClick(Enabled.get());
+  TestoOutput.setOpener(Enabled.get() ? Figura(riapre_) : QString());
   if (disposto_) raiseEvent(disposto_);
 }
 

@@ -54,6 +54,10 @@ class TestoInputNumerico final : public platform::UserControl {
   // Shows the input box, whatever its name says: kept (docs/oddities.md). The focus stays where it
   // is.
   void TestoPerOutput();
+  // What opens the box again once a number has been confirmed. The confirmed number shows it as a
+  // picture, and looks like any other box where nothing has to.
+  enum class Riapre { Clic, Cestino, Niente };
+  void RiapreCon(Riapre modo);
   // As if Enter had been released in the input box. Throws RunTimeError(Overflow) for a number that
   // a currency cannot hold.
   void TerminaInserimento();
@@ -89,6 +93,7 @@ class TestoInputNumerico final : public platform::UserControl {
   std::function<void()> confermato_;
   std::function<void()> disposto_;
   std::function<void()> cambiato_;
+  Riapre riapre_ = Riapre::Clic;
   double scalaDellaDimensione_ = 1;  // of the page's fonts when `DimensioneTesto` was set
 };
 

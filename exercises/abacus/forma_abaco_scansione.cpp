@@ -38,6 +38,7 @@ constexpr FormDesign kDisegno = DisegnoAbaco(forme::kFormAbacoScansione, kTavole
 FormaAbacoScansione::FormaAbacoScansione(Ambiente& ambiente)
     : FormaAbaco(ambiente, kDisegno, PartitaAbaco::Cambi::DaSe) {
   Usa(scansione_);
+  TestoInput.RiapreCon(TestoInputNumerico::Riapre::Cestino);
   TestoInput.onConfermato(
       [this] { Giudica(gioco().Rispondi(TestoInput.ValoreInserito.toDouble())); });
 }

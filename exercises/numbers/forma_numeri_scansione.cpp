@@ -48,6 +48,7 @@ void FormaNumeriScansione::MostraRisposta() {
 void FormaNumeriScansione::NuovoCaso() {
   newCase();
   TestoInput.Reimposta();
+  TestoInput.RiapreCon(TestoInputNumerico::Riapre::Cestino);
   if (const auto cifre = GeneraCaso()) TestoInput.MaxLength.set(*cifre);
   ScriviDomanda();
   TastieraNumericaScansione1.Attiva();
@@ -62,6 +63,7 @@ void FormaNumeriScansione::SvuotaInput() {
 
 void FormaNumeriScansione::RispostaGiusta() {
   SegnaGiusto();
+  TestoInput.RiapreCon(TestoInputNumerico::Riapre::Niente);
   ScriviConRisposta(TestoInput.TestoFormattato);
   TastieraNumericaScansione1.AttivaAvanti();
 }

@@ -40,9 +40,7 @@ QWidget* TextBox::create(QWidget* parent) {
                              .clicked = [this] { raiseEvent(clicked_); },
                              .clickable = [this] { return clicked_ != nullptr; },
                              .mayAct = [this] { return mayAct(); }};
-  auto* box =
-      new TextBoxWidget(parent, std::move(hooks), ground().pictures(),
-                        QString::fromUtf8(look().picture.data(), qsizetype(look().picture.size())));
+  auto* box = new TextBoxWidget(parent, std::move(hooks), ground().pictures());
   align_ = look().align;
   box->setLimit(look().maxLength);
   box->setReadOnly(look().locked);
@@ -95,8 +93,12 @@ void TextBox::setLocked(bool locked) {
   if (widget() != nullptr) boxOf(widget()).setReadOnly(locked);
 }
 
-void TextBox::setOpenedByClick(bool opened) {
-  if (widget() != nullptr) boxOf(widget()).setClosed(opened);
+QString TextBox::opener() const {
+  return widget() == nullptr ? QString() : boxOf(widget()).opener();
+}
+
+void TextBox::setOpener(const QString& picture) {
+  if (widget() != nullptr) boxOf(widget()).setOpener(picture);
 }
 
 void TextBox::setAlignment(Align align) {

@@ -34,8 +34,10 @@ class TextBox : public Control {
   void setMaxLength(int characters);
   [[nodiscard]] bool isLocked() const;
   void setLocked(bool locked);
-  // A locked box that a click opens is shown as closed, with the picture of its row at its end.
-  void setOpenedByClick(bool opened);
+  // A locked box that can be opened again is shown as closed, with the picture of what opens it at
+  // its end; "" for one that is not.
+  void setOpener(const QString& picture);
+  [[nodiscard]] QString opener() const;
   [[nodiscard]] Align alignment() const { return align_; }
   void setAlignment(Align align);
   // The family; the one of the design while none was set.

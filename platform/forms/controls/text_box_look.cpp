@@ -50,9 +50,9 @@ void TextBoxWidget::setBorder(bool border) {
   update();
 }
 
-void TextBoxWidget::setClosed(bool closed) {
-  if (closed_ == closed) return;
-  closed_ = closed;
+void TextBoxWidget::setOpener(const QString& picture) {
+  if (opener_ == picture) return;
+  opener_ = picture;
   takePointer();
   fitFont();
   update();
@@ -68,7 +68,7 @@ void TextBoxWidget::takePointer() {
   const bool stillHand = hand_ && cursor().shape() == Qt::PointingHandCursor;
   if (stillHand && ownPointer_) setCursor(*ownPointer_);
   if (stillHand && !ownPointer_) unsetCursor();
-  hand_ = closed_ && cursor().shape() == Qt::ArrowCursor;
+  hand_ = isClosed() && cursor().shape() == Qt::ArrowCursor;
   if (!hand_) return;
   ownPointer_ = testAttribute(Qt::WA_SetCursor) ? std::optional(cursor()) : std::nullopt;
   setCursor(Qt::PointingHandCursor);
@@ -83,8 +83,8 @@ QRectF TextBoxWidget::openerPlace() const {
 
 void TextBoxWidget::fitFont() {
   const QRectF opener = openerPlace();
-  const double taken = closed_ ? width() - opener.left() + opener.width() * kOpenerGap
-                               : kSideMargin + kWidthsOfOthers / 2;
+  const double taken = isClosed() ? width() - opener.left() + opener.width() * kOpenerGap
+                                  : kSideMargin + kWidthsOfOthers / 2;
   const double across = width() - 2 * taken;
   const int down = height() - int(kFocusRingWidth * markScale(*this));
   QFont fitted = font_;
@@ -151,14 +151,14 @@ void TextBoxWidget::paintCaret() {
 // A closed box has a broken edge, and what opens it at its right end.
 void TextBoxWidget::paintEdge() {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing, closed_);
+  painter.setRenderHint(QPainter::Antialiasing, isClosed());
   const double scale = markScale(*this);
   if (hasFocus()) {
     paintFocusRing(painter, *this, 0);
-  } else if (border_ && !closed_) {
+  } else if (border_ && !isClosed()) {
     paintBorder(painter, rect(), markPixels(*this, 1), colors::kEdge);
   }
-  if (!closed_) return;
+  if (!isClosed()) return;
   const double inset = (hasFocus() ? kEdgeInset : 1) * scale;
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(colors::kEdge, 2 * scale, Qt::DashLine, Qt::FlatCap));

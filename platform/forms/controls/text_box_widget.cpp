@@ -67,8 +67,8 @@ class TextBoxWidget::Watch final : public QValidator {
   TextBoxWidget& box_;
 };
 
-TextBoxWidget::TextBoxWidget(QWidget* parent, Hooks hooks, Pictures& pictures, QString opener)
-    : QLineEdit(parent), hooks_(std::move(hooks)), pictures_(pictures), opener_(std::move(opener)) {
+TextBoxWidget::TextBoxWidget(QWidget* parent, Hooks hooks, Pictures& pictures)
+    : QLineEdit(parent), hooks_(std::move(hooks)), pictures_(pictures) {
   setFrame(false);
   setContextMenuPolicy(Qt::NoContextMenu);
   // Its own limit would cut what the program sets.

@@ -31,8 +31,7 @@ class TextBoxWidget final : public QLineEdit {
     std::function<bool()> mayAct;
   };
 
-  // opener: the picture at the right end of a box that a click opens; "" for none.
-  TextBoxWidget(QWidget* parent, Hooks hooks, Pictures& pictures, QString opener);
+  TextBoxWidget(QWidget* parent, Hooks hooks, Pictures& pictures);
 
   // Text set by the program.
   void putText(const QString& text);
@@ -46,8 +45,10 @@ class TextBoxWidget final : public QLineEdit {
   // font: the one of the design; text that is too wide for the box takes a smaller size of it.
   void setLook(const QFont& font, Align align, const QColor& ink, const QColor& ground);
   void setBorder(bool border);
-  // Shows the box as one in which nothing can be written until a click opens it.
-  void setClosed(bool closed);
+  // Shows the box as one in which nothing can be written until it is opened, with the picture of
+  // what opens it at its right end; "" for a box like any other.
+  void setOpener(const QString& picture);
+  [[nodiscard]] const QString& opener() const { return opener_; }
 
   // Whether a press of assistive technology acts: in an open box it confirms, as Enter does; in a
   // locked one it is the click, where a click means something.
@@ -79,6 +80,7 @@ class TextBoxWidget final : public QLineEdit {
   void fitFont();
   void standOnLine();
   void takePointer();
+  [[nodiscard]] bool isClosed() const { return !opener_.isEmpty(); }
   [[nodiscard]] QRectF openerPlace() const;
   void paintFaintText();
   void paintCaret();
@@ -95,7 +97,6 @@ class TextBoxWidget final : public QLineEdit {
   Pictures& pictures_;
   QString opener_;
   bool border_ = true;
-  bool closed_ = false;
   bool hand_ = false;                  // the pointer is a hand because the box is closed
   std::optional<QCursor> ownPointer_;  // that it had before; none: that of what it stands on
   bool composing_ = false;

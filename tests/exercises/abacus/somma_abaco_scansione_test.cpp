@@ -89,6 +89,7 @@ class SommaAbacoScansioneTest : public QObject {
     QVERIFY(!forma.ImgSi.isVisible());
     QCOMPARE(banco.suono.suonati, QStringList{banco.fileDelSuono("no")});
     QVERIFY(forma.TestoInput.TestoOutput.isVisible());
+    QCOMPARE(forma.TestoInput.TestoOutput.opener(), QStringLiteral("cestino"));
     QVERIFY(!banco.cifre.AvantiAttivo.get());
     QVERIFY(banco.solaSulloSchermo(banco.cifre));
     // The digits go on behind what stands there.

@@ -173,6 +173,21 @@ class FormaNumeriScansioneTest : public QObject {
     QVERIFY(forma.TastieraNumericaScansione1.PictureScansione.hasFocus());
   }
 
+  // The pencil of the other forms asks for a click that a switch does not have.
+  void aWrongAnswerShowsTheBinThatOpensTheBoxAndARightOneShowsNothing() {
+    Banco banco;
+    FormaNumeriScansione& forma = apriTotale(banco);
+    const platform::TextBox& casella = forma.TestoInput.TestoOutput;
+    QVERIFY(scegli(banco, forma, {0, kConferma}));
+    QVERIFY(casella.isVisible());
+    QCOMPARE(casella.opener(), QStringLiteral("cestino"));
+    QVERIFY(scegli(banco, forma, {kCestino, 7, kConferma}));
+    QVERIFY(casella.isVisible());
+    QCOMPARE(casella.opener(), QString());
+    QVERIFY(scegli(banco, forma, {kAvanti, 0, kConferma}));
+    QCOMPARE(casella.opener(), QStringLiteral("cestino"));
+  }
+
   void confirmingAnEmptyBoxDoesNothing() {
     Banco banco;
     FormaNumeriScansione& forma = apriTotale(banco);

@@ -40,9 +40,8 @@ inline constexpr auto kRighe = std::to_array<platform::Row>({
         {.toolTip = "Il numero", .font = {platform::Face::Tahoma, 24}, .maxLength = 4}),
     platform::row<&Prova::Scritta>({5000, 1000, 3000, 900},
                                    {.caption = "1082", .font = {platform::Face::Tahoma, 24}}),
-    platform::row<&Prova::Bloccata>(
-        {1000, 3000, 3000, 900},
-        {.caption = "fermo", .border = true, .locked = true, .picture = "matita"}),
+    platform::row<&Prova::Bloccata>({1000, 3000, 3000, 900},
+                                    {.caption = "fermo", .border = true, .locked = true}),
     platform::row<&Prova::Bottone>({1000, 5000, 3000, 900}, {.caption = "vai"}),
 });
 inline constexpr std::array<std::span<const platform::Row>, 1> kTavole{kRighe};

@@ -225,25 +225,27 @@ class TextBoxLookTest : public QObject {
     QVERIFY(cursore(ritratto(forma.Casella)).isEmpty());
   }
 
-  void aBoxThatAClickOpensHasABrokenEdgeAndItsPictureAtTheRightEnd() {
+  void aClosedBoxHasABrokenEdgeAndThePictureOfWhatOpensItAtTheRightEnd() {
     Fondo fondo;
     Prova& forma = fondo.forma();
     forma.Bottone.setFocus();
     const QImage aperta = ritratto(forma.Bloccata);
-    forma.Bloccata.setOpenedByClick(true);
+    forma.Bloccata.setOpener(QStringLiteral("matita"));
     const QImage chiusa = ritratto(forma.Bloccata);
     QVERIFY(spezzature(aperta, 0) == 0);
     QVERIFY(spezzature(chiusa, 1) > 10);
     const QRect destra(chiusa.width() * 3 / 4, 4, chiusa.width() / 4 - 4, chiusa.height() - 8);
     QVERIFY(scuro(aperta, destra).isEmpty());
     QVERIFY(scuro(chiusa, destra).height() > chiusa.height() / 3);
+    forma.Bloccata.setOpener(QStringLiteral("cestino"));
+    QVERIFY(ritratto(forma.Bloccata).copy(destra) != chiusa.copy(destra));
     // With the focus, too.
     forma.Bloccata.setFocus();
     const QImage colFuoco = ritratto(forma.Bloccata);
     QVERIFY(spezzature(colFuoco, 7) > 10);
     QVERIFY(!scuro(colFuoco, destra.adjusted(0, 8, -8, -8)).isEmpty());
     forma.Bottone.setFocus();
-    forma.Bloccata.setOpenedByClick(false);
+    forma.Bloccata.setOpener({});
     QCOMPARE(ritratto(forma.Bloccata), aperta);
   }
 
@@ -254,7 +256,7 @@ class TextBoxLookTest : public QObject {
     forma.Bloccata.setFontSize(24);
     forma.Bloccata.setText(QStringLiteral("123 456 789"));
     const int larga = rigaDi(forma.Bloccata).font().pixelSize();
-    forma.Bloccata.setOpenedByClick(true);
+    forma.Bloccata.setOpener(QStringLiteral("matita"));
     QVERIFY(rigaDi(forma.Bloccata).font().pixelSize() < larga);
     QVERIFY(rigaDi(forma.Bloccata).fontMetrics().horizontalAdvance(forma.Bloccata.text()) <
             forma.Bloccata.widget()->width() * 3 / 4);
@@ -269,14 +271,14 @@ class TextBoxLookTest : public QObject {
       return forma.Bloccata.widget()->cursor().shape();
     };
     // The program's own pointer is a hand already.
-    forma.Bloccata.setOpenedByClick(true);
+    forma.Bloccata.setOpener(QStringLiteral("matita"));
     QCOMPARE(sopra(), Qt::BitmapCursor);
     forma.Bloccata.setMousePointer(0);
     QCOMPARE(sopra(), Qt::PointingHandCursor);
     QCOMPARE(sopra(), Qt::PointingHandCursor);
-    forma.Bloccata.setOpenedByClick(false);
+    forma.Bloccata.setOpener({});
     QCOMPARE(sopra(), Qt::ArrowCursor);
-    forma.Bloccata.setOpenedByClick(true);
+    forma.Bloccata.setOpener(QStringLiteral("matita"));
     forma.Bloccata.setMousePointer(99);
     QCOMPARE(sopra(), Qt::BitmapCursor);
   }
