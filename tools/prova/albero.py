@@ -219,7 +219,7 @@ class Albero:
                 raise TempoScaduto(f"waiting for {che_cosa}: the program has ended ({stato})")
             if time.monotonic() > fine:
                 raise TempoScaduto(f"waiting for {che_cosa}; on the screen:\n{self.racconta()}")
-            time.sleep(0.05)
+            time.sleep(0.1)
 
     def aspetta_oggetto(self, ruolo, nome, secondi=PAZIENZA):
         return self.aspetta(f"{ruolo} {nome!r}", lambda: self.cerca(ruolo, nome), secondi)

@@ -133,6 +133,8 @@ class SoloAusili(_SenzaMouse):
     def __init__(self, *argomenti):
         super().__init__(*argomenti)
         self.mani = None
+        # What each key of a switch was last found on.
+        self._tastiere = {}
 
     def premi(self, nome, ruolo=BOTTONE):
         oggetto = self.albero.aspetta_oggetto(ruolo, nome)
@@ -172,8 +174,13 @@ class SoloAusili(_SenzaMouse):
         self.batti_numero(numero)
 
     def tasto(self, nome):
-        tastiera = next(o for o in self.albero.visibili() if self._azione(nome) in o.azioni())
-        self._fai(tastiera, self._azione(nome))
+        azione = self._azione(nome)
+        # To look through the whole tree at each step would take most of the time of a game.
+        tastiera = self._tastiere.get(azione)
+        if tastiera and tastiera.visibile and tastiera.fai(azione):
+            return
+        self._tastiere[azione] = next(o for o in self.albero.visibili() if azione in o.azioni())
+        self._fai(self._tastiere[azione], azione)
 
     def chiudi(self, processo):
         """By the main menu's button; the program may be gone before it has answered."""
