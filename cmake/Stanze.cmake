@@ -25,7 +25,7 @@ function(somme_room name)
     if(NOT ARG_HEADERS STREQUAL "none")
       somme_compiled_headers(somme_${name} ${ARG_HEADERS})
     endif()
-    somme_several_at_a_time(somme_${name})
+    somme_several_at_a_time(somme_${name} 6)
     set_source_files_properties(${ARG_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   endif()
   add_library(somme::${name} ALIAS somme_${name})
@@ -49,9 +49,9 @@ function(somme_room name)
   endif()
 endfunction()
 
-# Files are compiled in groups of six: with more, a change of one would be waited for too long.
-function(somme_several_at_a_time target)
-  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
+# Files are compiled in groups: with larger ones, a change of one would be waited for too long.
+function(somme_several_at_a_time target how_many)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${how_many})
 endfunction()
 
 # What stands beside the rooms, links Qt's widgets and is more than a file or two: compiled as they are.
@@ -59,7 +59,7 @@ function(somme_beside_the_rooms target)
   target_link_libraries(${target} PRIVATE somme_difese)
   if(SOMME_COMPILED_HEADERS)
     somme_compiled_headers(${target} finestre_intestazioni)
-    somme_several_at_a_time(${target})
+    somme_several_at_a_time(${target} 6)
   endif()
 endfunction()
 
@@ -107,7 +107,7 @@ endfunction()
 # How a program of tests is compiled: with the headers of the first set whose pattern its links match.
 function(somme_tests_compilation target links)
   if(SOMME_COMPILED_HEADERS)
-    somme_several_at_a_time(${target})
+    somme_several_at_a_time(${target} 12)
     # A class of a test may use what stands in its file alone, also where that is not the main one.
     target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
   endif()
