@@ -31,6 +31,7 @@ PROVE = [
                                           ("keyup", "Return")], ["box open"]),
     ("box, by the next Enter", [("key", "Return")], ["box closed"]),
     ("dialog, by Esc", [("key", "alt+d"), ("key", "Escape")], ["dialog open", "dialog closed"]),
+    ("dialog opened again, by Esc", [("key", "alt+d"), ("key", "Escape")], ["dialog open", "dialog closed"]),
     ("dialog, list opened and closed by Esc, then Esc",
      [("key", "alt+d"), ("key", "space"), ("key", "Escape"), ("key", "Escape")],
      ["dialog open", "dialog closed"]),

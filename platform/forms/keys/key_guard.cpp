@@ -56,8 +56,9 @@ QWidget* hearer() {
 
 KeyGuard::KeyGuard(const Ground& ground, const Forms& forms, const Window& window,
                    RepeatMarks marks)
-    : ground_(ground), forms_(forms), window_(window), state_(marks) {
+    : ground_(ground), forms_(forms), window_(window), state_(marks), missed_(missedReleases()) {
   qApp->installEventFilter(this);
+  if (missed_) qApp->installNativeEventFilter(missed_.get());
   focus_ = QGuiApplication::focusWindow();
   connect(qApp, &QGuiApplication::focusWindowChanged, this, &KeyGuard::windowChanged);
 }

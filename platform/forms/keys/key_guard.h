@@ -8,6 +8,7 @@
 
 #include "platform/forms/keys/key_state.h"
 
+class QAbstractNativeEventFilter;
 class QKeyEvent;
 class QMouseEvent;
 class QWidget;
@@ -60,6 +61,7 @@ class KeyGuard final : public QObject {
   const Forms& forms_;
   const Window& window_;
   KeyState state_;
+  std::unique_ptr<QAbstractNativeEventFilter> missed_;
   QPointer<QWindow> focus_;
   // When a window of ours got the keyboard, or a repeat last showed a key to be down.
   std::chrono::milliseconds lastSign_{0};

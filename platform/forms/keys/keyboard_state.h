@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QAbstractNativeEventFilter>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -21,5 +23,9 @@ namespace platform::inline forms {
 // The keys that are down at this moment, without the modifiers (Shift, Alt and their like), which
 // do nothing by themselves; nothing where the server cannot be asked.
 [[nodiscard]] std::optional<std::vector<KeyId>> keysDownNow();
+
+// Tells the toolkit of releases that it was not told of, where it takes the next press of such a
+// key for a repeat; null where it does not. It works once it is installed.
+[[nodiscard]] std::unique_ptr<QAbstractNativeEventFilter> missedReleases();
 
 }  // namespace platform::inline forms

@@ -73,4 +73,9 @@ std::optional<std::vector<KeyId>> keysDownNow() {
   return keys;
 }
 
+// What is flagged as a repeat is one.
+std::unique_ptr<QAbstractNativeEventFilter> missedReleases() {
+  return nullptr;
+}
+
 }  // namespace platform::inline forms
