@@ -224,10 +224,10 @@ class MovieViewTest : public QObject {
     HandTime time;
     MovieView view(time);
     view.setAccessibleName(QStringLiteral("3 decine, 4 unità"));
-    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&view);
-    QVERIFY(interface != nullptr);
-    QCOMPARE(interface->role(), QAccessible::Graphic);
-    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("3 decine, 4 unità"));
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&view);
+    QVERIFY(told != nullptr);
+    QCOMPARE(told->role(), QAccessible::Graphic);
+    QCOMPARE(told->text(QAccessible::Name), QStringLiteral("3 decine, 4 unità"));
   }
 
   void thePictureIsMadeInThePixelsOfTheDevice_data() {
