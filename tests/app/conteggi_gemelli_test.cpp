@@ -7,6 +7,7 @@
 #include "support/banco.h"
 #include "support/come_dal_menu.h"
 #include "support/iscrizione.h"
+#include "support/lati_e_lingue.h"
 
 namespace conteggi_gemelli_test {
 
@@ -14,10 +15,6 @@ using prova::Banco;
 using somme::FormaEsercizio;
 
 namespace {
-
-constexpr QSize kFinestre[] = {{800, 600},  {1024, 768},  {1280, 1024},
-                               {1366, 768}, {1920, 1080}, {3840, 2160}};
-constexpr const char* kLingue[] = {"Italiano", "English", "Français", "Deutsch", "Español"};
 
 // The place of a label's last letter, a nought, in its picture: the letters are dark, the ground is
 // not. Border and corners are left out.
@@ -52,16 +49,7 @@ class ConteggiGemelliTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void theTwoCountsAreWrittenInLettersOfOneSize_data() {
-    QTest::addColumn<QSize>("lato");
-    QTest::addColumn<QString>("lingua");
-    for (const QSize& lato : kFinestre) {
-      for (const char* lingua : kLingue) {
-        QTest::addRow("%dx%d, %s", lato.width(), lato.height(), lingua)
-            << lato << QString::fromUtf8(lingua);
-      }
-    }
-  }
+  void theTwoCountsAreWrittenInLettersOfOneSize_data() { prova::ogniLatoInOgniLingua(); }
   void theTwoCountsAreWrittenInLettersOfOneSize() {
     QFETCH(QSize, lato);
     QFETCH(QString, lingua);

@@ -6,6 +6,7 @@
 #include "platform/forms/controls/button_widget.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/lati_e_lingue.h"
 
 namespace livelli_uguali_test {
 
@@ -14,8 +15,6 @@ using namespace somme::forme;
 
 namespace {
 
-constexpr QSize kFinestre[] = {{800, 600}, {1024, 768}, {1280, 1024}, {1366, 768}, {1920, 1080}};
-constexpr const char* kLingue[] = {"Italiano", "English", "Français", "Deutsch", "Español"};
 constexpr std::string_view kMenu[] = {kFormMenuAbaco, kFormMenuBarre, kFormMenuNumeri, kFormMenuPLU,
                                       kFormMenuTabella};
 
@@ -26,16 +25,7 @@ class LivelliUgualiTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void theLevelsOfAMenuAreWrittenInLettersOfOneSize_data() {
-    QTest::addColumn<QSize>("lato");
-    QTest::addColumn<QString>("lingua");
-    for (const QSize& lato : kFinestre) {
-      for (const char* lingua : kLingue) {
-        QTest::addRow("%dx%d, %s", lato.width(), lato.height(), lingua)
-            << lato << QString::fromUtf8(lingua);
-      }
-    }
-  }
+  void theLevelsOfAMenuAreWrittenInLettersOfOneSize_data() { prova::ogniLatoInOgniLingua(); }
   void theLevelsOfAMenuAreWrittenInLettersOfOneSize() {
     QFETCH(QSize, lato);
     QFETCH(QString, lingua);
