@@ -8,6 +8,7 @@
 
 #include "platform/devices/qt_time_source.h"
 #include "support/iscrizione.h"
+#include "support/stand_still.h"
 
 namespace bounded_work_test {
 
@@ -68,15 +69,9 @@ class BoundedWorkTest : public QObject {
     BoundedWork work(time);
     auto release = std::make_shared<std::promise<void>>();
     std::shared_future<void> released = release->get_future().share();
-    QElapsedTimer clock;
-    clock.start();
-    qint64 last = 0;
-    qint64 longest = 0;
+    prova::StandStill still;
     QTimer heart;
-    connect(&heart, &QTimer::timeout, this, [&] {
-      longest = std::max(longest, clock.elapsed() - last);
-      last = clock.elapsed();
-    });
+    connect(&heart, &QTimer::timeout, this, [&] { still.beat(); });
     heart.start(5);
     (void)work.run<int>(
         [released](Waiting&) {
@@ -84,9 +79,9 @@ class BoundedWorkTest : public QObject {
           return 1;
         },
         milliseconds(600));
-    longest = std::max(longest, clock.elapsed() - last);
+    still.beat();
     release->set_value();
-    QVERIFY2(longest < 200, qPrintable(QString::number(longest)));
+    QVERIFY2(still.longest() < 200, qPrintable(QString::number(still.longest())));
   }
 
   void tooMuchHangingWorkIsNotAddedTo() {

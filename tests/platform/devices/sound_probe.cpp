@@ -15,7 +15,7 @@
 #include "platform/devices/linux/sdl_sound.h"
 #include "platform/devices/qt_time_source.h"
 #include "platform/devices/system_process_end.h"
-#include "stand_still.h"
+#include "support/stand_still.h"
 
 namespace {
 
@@ -81,7 +81,7 @@ int main(int argc, char** argv) {
   int beeps = 0;
   platform::SdlSound sound([&beeps] { ++beeps; });
 
-  devices_test::StandStill still;
+  prova::StandStill still;
   QTimer heart;
   heart.setTimerType(Qt::PreciseTimer);
   QObject::connect(&heart, &QTimer::timeout, [&] { still.beat(); });

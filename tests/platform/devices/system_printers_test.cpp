@@ -13,8 +13,8 @@
 #include "platform/devices/linux/cups_library.h"
 #include "platform/devices/qt_time_source.h"
 #include "print_server.h"
-#include "stand_still.h"
 #include "support/iscrizione.h"
+#include "support/stand_still.h"
 
 namespace system_printers_test {
 
@@ -48,7 +48,7 @@ struct Machine {
 
 // How long events were held up at most while something was done.
 qint64 longestGap(const std::function<void()>& action) {
-  devices_test::StandStill still;
+  prova::StandStill still;
   QTimer heart;
   QObject::connect(&heart, &QTimer::timeout, &heart, [&] { still.beat(); });
   heart.start(5);

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <algorithm>
 
-namespace devices_test {
+namespace prova {
 
 // How long the thread that makes one stands still at most between two beats. The time for which it
 // was ready to go on and had no processor is left out: that is its neighbours' on the machine.
@@ -35,4 +35,4 @@ class StandStill final {
   qint64 longest_ = 0;
 };
 
-}  // namespace devices_test
+}  // namespace prova
