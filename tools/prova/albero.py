@@ -183,8 +183,10 @@ class Albero:
             risposte = self._bus.chiedi([o.domanda("Accessible", domanda) for o in livello
                                          for domanda in ("GetChildren", "GetState")])
             for oggetto, sotto, suoi in zip(livello, risposte[::2], risposte[1::2]):
-                figli[oggetto] = [Oggetto(self._bus, *figlio) for figlio in sotto or ()]
                 stati[oggetto] = suoi or NESSUNO
+                # Below what does not show nothing does; the program itself says nothing of that.
+                dentro = oggetto is radice or _ha(stati[oggetto], MOSTRATO)
+                figli[oggetto] = [Oggetto(self._bus, *figlio) for figlio in dentro and sotto or ()]
             livello = [figlio for oggetto in livello for figlio in figli[oggetto]]
         mostrati = [o for o in _in_fila(radice, figli) if _ha(stati[o], MOSTRATO)]
         risposte = self._bus.chiedi([domanda for o in mostrati for domanda in (o.del_ruolo, o.del_nome)])
