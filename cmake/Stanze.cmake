@@ -13,11 +13,18 @@
 # read once for all of them. ALONE are those that are not, since a name of theirs that no other file
 # should know means something else in another one.
 #
+# Where it names no SOURCES they are what else lies in the folder.
+#
 #   somme_room(platform_base FOLDER platform/base SOURCES a.cpp b.cpp LINKS Qt6::Core)
 function(somme_room name)
   cmake_parse_arguments(ARG "MOC" "FOLDER;HEADERS" "SOURCES;ALONE;LINKS;PRIVATE_LINKS" ${ARGN})
   if(NOT ARG_HEADERS)
     set(ARG_HEADERS base_intestazioni)
+  endif()
+  if(NOT ARG_SOURCES)
+    file(GLOB ARG_SOURCES CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${ARG_FOLDER}/*.cpp")
+    list(TRANSFORM ARG_ALONE PREPEND "${CMAKE_SOURCE_DIR}/${ARG_FOLDER}/")
+    list(REMOVE_ITEM ARG_SOURCES ${ARG_ALONE})
   endif()
   add_library(somme_${name} STATIC ${ARG_SOURCES} ${ARG_ALONE})
   set_target_properties(somme_${name} PROPERTIES AUTOMOC "${ARG_MOC}")
@@ -47,6 +54,25 @@ function(somme_room name)
       ${ARG_LINKS} ${ARG_PRIVATE_LINKS})
     add_dependencies(floor_${name} somme_${name})
   endif()
+endfunction()
+
+# The rooms of the families: each folder of exercises/ but the one that they share. The names of the
+# libraries that come of it are left in result. A form that takes answers in one way,
+# forma_<family>_<way>.cpp, calls its tables as its siblings call theirs: it is compiled ALONE.
+function(somme_family_rooms result)
+  set(rooms)
+  file(GLOB folders CONFIGURE_DEPENDS LIST_DIRECTORIES YES "${CMAKE_SOURCE_DIR}/exercises/*")
+  foreach(folder IN LISTS folders)
+    cmake_path(GET folder FILENAME family)
+    if(family STREQUAL "core" OR NOT IS_DIRECTORY "${folder}")
+      continue()
+    endif()
+    file(GLOB ways CONFIGURE_DEPENDS RELATIVE "${folder}" "${folder}/forma_*_*.cpp")
+    somme_room(${family} FOLDER exercises/${family} HEADERS forme_intestazioni ALONE ${ways}
+      LINKS somme::core somme::games somme::input somme::platform_boards)
+    list(APPEND rooms somme::${family})
+  endforeach()
+  set(${result} ${rooms} PARENT_SCOPE)
 endfunction()
 
 # Files are compiled in groups: with larger ones, a change of one would be waited for too long.

@@ -6,7 +6,7 @@ import subprocess
 
 # The floors of the house, from the ground up. A room may include what lies on lower floors, and
 # itself. The program's rooms are these; what stands beside them (tests, tools, benches) may include
-# anything of theirs.
+# anything of theirs. "/*": each folder there that is no room of another floor.
 PIANI = (
     ("platform/base",),
     ("platform/flash", "platform/forms", "platform/devices", "cases"),
@@ -14,12 +14,12 @@ PIANI = (
     ("immagini", "app/shared"),
     ("printing", "input"),
     ("exercises/core",),
-    ("exercises/numbers", "exercises/bars", "exercises/blocks", "exercises/abacus",
-     "exercises/table"),
+    ("exercises/*",),
     ("app",),
 )
 STANZE = tuple(stanza for piano in PIANI for stanza in piano)
-# The namespace of each room. Inline where the rooms above need not say in which room a name is at home:
+# The namespace of each room that is named above; that of another is what its files say, and each has one
+# of its own. Inline where the rooms above need not say in which room a name is at home:
 # two rooms may then mean two things by one name, and whoever sees both has to say which.
 SPAZI = {
     "platform/base": "platform::inline base",
@@ -34,25 +34,22 @@ SPAZI = {
     "printing": "somme::inline stampa",
     "input": "somme::inline ingresso",
     "exercises/core": "somme::inline nucleo",
-    "exercises/numbers": "somme::inline numeri",
-    "exercises/bars": "somme::inline barre",
-    "exercises/blocks": "somme::inline blocchi",
-    "exercises/abacus": "somme::inline abaco",
-    "exercises/table": "somme::inline tabella",
     "app": "somme::inline programma",
 }
 
 
 def piano(stanza):
     """The floor of a room, counted from 0 at the ground."""
-    return next(i for i, stanze in enumerate(PIANI) if stanza in stanze)
+    return next(i for i, stanze in enumerate(PIANI)
+                if stanza in stanze or stanza.rpartition("/")[0] + "/*" in stanze)
 
 
 def stanza(percorso):
     """The room that a file belongs to; None for what stands beside the program."""
     cartella = percorso.rpartition("/")[0]
-    scelte = [s for s in STANZE if cartella == s or cartella.startswith(s + "/")]
-    return max(scelte, key=len, default=None)
+    parti = cartella.split("/")
+    sopra = ["/".join(parti[:i]) for i in range(len(parti), 0, -1)]
+    return next((s for s in sopra if s in STANZE or s.rpartition("/")[0] + "/*" in STANZE), None)
 
 
 @functools.lru_cache(maxsize=None)

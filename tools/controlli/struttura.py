@@ -1,7 +1,7 @@
 """Rules of the structure: who includes whom, and what is called how."""
 
 import re
-from collections import defaultdict
+from collections import Counter, defaultdict
 
 from . import sorgenti
 
@@ -120,16 +120,34 @@ _SOLO_ANNUNCI = re.compile(r"(?:\s*(?:template\s*<[^<>]*>\s*)?(?:class|struct|en
 def spazi_altrui():
     """Places of a room in which something is defined in another namespace than the room's own. What is
     announced there and defined in its own room is none."""
+    aperti = defaultdict(list)  # room -> (file, line, namespace)
     for percorso in sorgenti.prodotto():
-        proprio = sorgenti.SPAZI[sorgenti.stanza(percorso)]
-        codice = sorgenti.codice(percorso)
-        for trovato in _SPAZIO_ESTERNO.finditer(codice):
-            nomi = " ".join(trovato["nomi"].split())
-            annunci = (_SOLO_ANNUNCI.fullmatch(trovato["primo"])
-                       and codice[trovato.end():trovato.end() + 1] == "}")
-            if nomi != proprio and not nomi.startswith(proprio + "::") and not annunci:
-                riga = codice.count("\n", 0, trovato.start()) + 1
-                yield f"{percorso}:{riga}: namespace {nomi}, where the room has {proprio}"
+        aperti[sorgenti.stanza(percorso)] += [(percorso, *dove) for dove in _spazi_esterni(percorso)]
+    propri = dict(sorgenti.SPAZI)
+    for stanza in sorted(s for s in aperti if aperti[s] and s not in sorgenti.SPAZI):
+        proprio = _piu_detto(nomi for _, _, nomi in aperti[stanza])
+        if not re.fullmatch(r"somme::inline \w+", proprio) or proprio in propri.values():
+            yield f"{stanza}: no namespace of its own, but {proprio}"
+        propri[stanza] = proprio
+    for stanza, posti in aperti.items():
+        for percorso, riga, nomi in posti:
+            if nomi != propri[stanza] and not nomi.startswith(propri[stanza] + "::"):
+                yield f"{percorso}:{riga}: namespace {nomi}, where the room has {propri[stanza]}"
+
+
+def _piu_detto(nomi):
+    """The room's part of the namespaces that most of a room's files open."""
+    return Counter(re.match(r"\w+(?:::inline \w+)?", n)[0] for n in nomi).most_common(1)[0][0]
+
+
+def _spazi_esterni(percorso):
+    """(line, namespace) of what a file defines."""
+    codice = sorgenti.codice(percorso)
+    for trovato in _SPAZIO_ESTERNO.finditer(codice):
+        annunci = (_SOLO_ANNUNCI.fullmatch(trovato["primo"])
+                   and codice[trovato.end():trovato.end() + 1] == "}")
+        if not annunci:
+            yield codice.count("\n", 0, trovato.start()) + 1, " ".join(trovato["nomi"].split())
 
 
 def nomi_doppi():

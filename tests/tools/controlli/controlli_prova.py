@@ -92,6 +92,29 @@ class Casa(unittest.TestCase):
             ["games/c.h:1: namespace somme::inline casi, where the room has somme::inline giochi",
              "games/d.h:1: namespace somme, where the room has somme::inline giochi"])
 
+    def test_a_family_has_a_namespace_of_its_own_whichever_folders_there_are(self):
+        nuova = "namespace somme::inline conto {\nclass C {};\n}\n"
+        self.file(exercises__counting__a_h=nuova, exercises__counting__b_cpp=nuova,
+                  exercises__counting__c_h="namespace somme::inline nucleo {\nclass N {};\n}\n")
+        self.assertEqual(list(struttura.spazi_altrui()),
+                         ["exercises/counting/c.h:1: namespace somme::inline nucleo, "
+                          "where the room has somme::inline conto"])
+        self.file(exercises__counting__c_h="", exercises__other__a_h=nuova,
+                  exercises__plain__a_h="namespace somme {\nclass P {};\n}\n",
+                  exercises__third__a_h="namespace somme::inline nucleo {\nclass N {};\n}\n")
+        self.assertEqual(list(struttura.spazi_altrui()),
+                         ["exercises/other: no namespace of its own, but somme::inline conto",
+                          "exercises/plain: no namespace of its own, but somme",
+                          "exercises/third: no namespace of its own, but somme::inline nucleo"])
+
+    def test_a_family_lies_above_what_all_share_and_below_the_program(self):
+        self.file(exercises__counting__a_h='#include "exercises/core/c.h"\n#include "games/g.h"\n',
+                  exercises__core__c_h="", games__g_h="",
+                  app__a_h='#include "exercises/counting/a.h"\n')
+        self.assertEqual([], list(struttura.inclusioni_in_su()))
+        self.file(exercises__core__c_h='#include "exercises/counting/a.h"\n')
+        self.assertEqual(1, len(list(struttura.inclusioni_in_su())))
+
     def test_a_constant_begins_with_k_and_a_function_need_not(self):
         self.file(cases__a_cpp="// constexpr int commento = 1;\n"
                                "constexpr int kUno = 1;\nconstexpr std::array<int, 2> due{1, 2};\n"
