@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <utility>
 
 #include "app/forma_menu.h"
 #include "app/shared/colori.h"
@@ -63,6 +64,17 @@ template <class F>
 constexpr Row AmicoAbaco(TwipsRect posto) {
   return row<&F::Image2>(posto, {.toolTip = "Un abaco", .picture = "avvio_destra"});
 }
+
+// The way to a button that its row gives a name of its own: `F::Voce(quale)`.
+template <class F, int quale>
+platform::Control& VoceDi(platform::Form& forma, int /*indice*/) {
+  return static_cast<F&>(forma).Voce(quale);
+}
+inline constexpr int kPiuVoci = 64;
+template <class F>
+inline constexpr auto kVoci = []<int... quali>(std::integer_sequence<int, quali...>) {
+  return std::array{&VoceDi<F, quali>...};
+}(std::make_integer_sequence<int, kPiuVoci>{});
 
 constexpr FormDesign Menu(std::string_view nome, double larghezza, double altezza,
                           std::span<const std::span<const Row>> tavole) {

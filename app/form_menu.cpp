@@ -1,11 +1,13 @@
 #include "app/form_menu.h"
 
 #include <QScopeGuard>
+#include <vector>
 
 #include "app/disegno_menu.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/modulo_navigate.h"
 #include "app/shared/nomi_forme.h"
+#include "app/tabella_forme.h"
 #include "platform/base/numbers.h"
 
 namespace somme::inline programma {
@@ -23,8 +25,8 @@ constexpr auto kScala = std::to_array<StoredProperty>({
     {"LargeChange", std::int16_t{4}},
 });
 
-constexpr Look Voce(std::string_view testo, std::string_view figura,
-                    std::optional<Rgb> tinta = {}) {
+constexpr Look AspettoVoce(std::string_view testo, std::string_view figura,
+                           std::optional<Rgb> tinta = {}) {
   return {.caption = testo, .font = {Face::Tahoma, 14.25, true}, .back = tinta, .picture = figura};
 }
 constexpr TwipsRect Posto(double sinistra, double alto) {
@@ -35,13 +37,7 @@ constexpr TwipsRect Posto(double sinistra, double alto) {
 constexpr double kSecondiPerScatto = 0.25;
 
 constexpr auto kControlli = std::to_array<Row>({
-    row<&FormMenu::Command2>(Posto(240, 360), Voce("Uso delle barre", "menu_barre", kTintaBarre)),
-    row<&FormMenu::Command6>(Posto(3480, 360), Voce("Tabella", "menu_tabella", kTintaTabella)),
-    row<&FormMenu::Command4>(Posto(240, 1680),
-                             Voce("Piatti, lunghi, unità", "menu_blocchi", kTintaBlocchi)),
-    row<&FormMenu::Command3>(Posto(3480, 1680), Voce("Solo numeri", "menu_numeri", kTintaNumeri)),
-    row<&FormMenu::Command5>(Posto(240, 3000), Voce("Abaco", "menu_abaco", kTintaAbaco)),
-    row<&FormMenu::Command1>(Posto(6600, 4680), Voce("Esci", "esci")),
+    row<&FormMenu::Command1>(Posto(6600, 4680), AspettoVoce("Esci", "esci")),
     AmicoDiBlocchi<FormMenu>({6600, 1500, 1200, 1500}),
     AmicoAbaco<FormMenu>({7980, 1500, 1200, 1500}),
     row<&FormMenu::PictureTempoScansione>(
@@ -94,20 +90,34 @@ constexpr auto kMenu = std::to_array<Row>({
         0, {.caption = "mnuLanguage 0", .in = nameOf<&FormMenu::mnuLanguages>}),
 });
 
-constexpr std::array<std::span<const Row>, 2> kTavole{kControlli, kMenu};
-constexpr FormDesign kDisegno = Menu(forme::kFormMenu, 9780, 6210, kTavole);
+Row PulsanteDi(const VoceFamiglia& voce, std::size_t quale) {
+  return {voce.pulsante, -1, kVoci<FormMenu>.at(quale), Posto(voce.sinistra, voce.alto),
+          AspettoVoce(voce.parole, voce.immagine, voce.tinta)};
+}
+
+// The families' buttons come first.
+FormDesign Disegno() {
+  static const std::vector<Row> kFamiglie = [] {
+    std::vector<Row> righe;
+    for (const VoceFamiglia& voce : LeFamiglie()) righe.push_back(PulsanteDi(voce, righe.size()));
+    return righe;
+  }();
+  static const std::array<std::span<const Row>, 3> kTavole{kFamiglie, kControlli, kMenu};
+  return Menu(forme::kFormMenu, 9780, 6210, kTavole);
+}
 
 }  // namespace
 
-FormMenu::FormMenu(Ambiente& ambiente) : Forma(ambiente, kDisegno) {
+FormMenu::FormMenu(Ambiente& ambiente) : Forma(ambiente, Disegno()) {
   Command1.onClick([this] { this->ambiente().fondo.endProcess(0); });
-  Command2.onClick([this] { VaiA(forme::kFormMenuBarre); });
-  Command3.onClick([this] { VaiA(forme::kFormMenuNumeri); });
-  Command4.onClick([this] { VaiA(forme::kFormMenuPLU); });
-  Command5.onClick([this] { VaiA(forme::kFormMenuAbaco); });
-  Command6.onClick([this] { VaiA(forme::kFormMenuTabella); });
-  for (platform::Button* strada : {&Command2, &Command3, &Command4, &Command5, &Command6}) {
-    strada->shareCaptionSize(scritte_);
+  for (int i = 0; const VoceFamiglia& famiglia : LeFamiglie()) {
+    platform::Button& pulsante = Voce(i++);
+    pulsante.onClick([this, &famiglia] {
+      const Modo modo = ModoDi(stato().ModalitaInput);
+      VaiA(famiglia.menu.empty() ? Strada(this->ambiente().forme, famiglia.famiglia, modo)
+                                 : famiglia.menu);
+    });
+    pulsante.shareCaptionSize(scritte_);
   }
   HScrollScansione.onChange([this] { CambiaTempo(); });
   HScrollScansione.speakInUnitsOf(kSecondiPerScatto);
@@ -131,10 +141,8 @@ void FormMenu::CollegaMenu() {
 
 void FormMenu::onLoad() {
   MLSFillMenuLanguages();
-  for (platform::Button* strada :
-       {&Command2, &Command6, &Command4, &Command3, &Command5, &Command1}) {
-    strade_.add(*strada);
-  }
+  famiglie_.forEach([this](platform::Button& strada) { strade_.add(strada); });
+  strade_.add(Command1);
   Forma::onLoad();
   stato().ContaEsatti = 0;
   stato().ContaErrati = 0;
@@ -147,12 +155,15 @@ void FormMenu::onLoad() {
 
 void FormMenu::onActivate() {
   paintGradient();
-  OffriTabella();
+  OffriFamiglie();
 }
 
 // A family that cannot be answered in the chosen way is not offered.
-void FormMenu::OffriTabella() {
-  Command6.setVisible(SiOffre(ambiente().forme, Famiglia::Tabella, ModoDi(stato().ModalitaInput)));
+void FormMenu::OffriFamiglie() {
+  const Modo modo = ModoDi(stato().ModalitaInput);
+  for (int i = 0; const VoceFamiglia& famiglia : LeFamiglie()) {
+    Voce(i++).setVisible(SiOffre(ambiente().forme, famiglia.famiglia, modo));
+  }
 }
 
 void FormMenu::MLSFillMenuLanguages() {
@@ -193,7 +204,7 @@ void FormMenu::ScegliModalita(int indice) {
   stato().ModalitaInput = static_cast<qint16>(indice);
   mnuInput.forEach([](platform::MenuItem& voce) { voce.setChecked(false); });
   mnuInput[indice].setChecked(true);
-  OffriTabella();
+  OffriFamiglie();
 }
 
 void FormMenu::ApriTempoScansione() {

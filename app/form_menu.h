@@ -19,11 +19,6 @@ class FormMenu final : public Forma {
   explicit FormMenu(Ambiente& ambiente);
 
   platform::Button Command1{*this};
-  platform::Button Command2{*this};
-  platform::Button Command3{*this};
-  platform::Button Command4{*this};
-  platform::Button Command5{*this};
-  platform::Button Command6{*this};
   platform::Image Image1{*this};
   platform::Image Image2{*this};
   platform::PictureBox PictureTempoScansione{*this};
@@ -43,6 +38,9 @@ class FormMenu final : public Forma {
   platform::MenuItem mnuLanguages{*this};
   platform::ControlArray<platform::MenuItem> mnuLanguage{*this};
 
+  // The button of the family whose row is the `quale`th of `LeFamiglie()`, counted from 0.
+  [[nodiscard]] platform::Button& Voce(int quale) { return famiglie_.element(quale); }
+
   // Fills the language menu with the languages found beside the program and marks the current one.
   // Says so in a box when there is none. Throws RunTimeError(FileNotFound) when there are languages
   // and no LangSetting.ini.
@@ -53,6 +51,7 @@ class FormMenu final : public Forma {
   void onActivate() override;
 
  private:
+  platform::ControlArray<platform::Button> famiglie_{*this};
   // Of the ways to the families: few, and all of one rank.
   platform::CaptionSize scritte_{platform::CaptionSize::Kind::Pair};
   platform::ButtonGroup strade_;
@@ -60,7 +59,7 @@ class FormMenu final : public Forma {
   void CollegaMenu();
   void InvertiSuoni();
   void InvertiCursore();
-  void OffriTabella();
+  void OffriFamiglie();
   void ScegliModalita(int indice);
   void ApriTempoScansione();
   void CambiaTempo();

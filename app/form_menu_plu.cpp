@@ -1,7 +1,5 @@
 #include "app/form_menu_plu.h"
 
-#include <utility>
-
 #include "app/menu_di_livelli.h"
 #include "app/shared/nomi_forme.h"
 
@@ -21,15 +19,6 @@ constexpr auto kFasce = std::to_array<FasciaMenu>({
     {Gruppo::Entro999, row<&FormMenuPLU::Label3>, "Entro 999", 3240, 2, 3120},
 });
 
-// The way to the button of a row of `kLivelli`, for the ground.
-template <int kRiga>
-platform::Control& PulsanteDellaRiga(platform::Form& forma, int /*indice*/) {
-  return static_cast<FormMenuPLU&>(forma).DellaRiga(kRiga);
-}
-constexpr auto kPulsanti = []<int... kRighe>(std::integer_sequence<int, kRighe...>) {
-  return std::array{&PulsanteDellaRiga<kRighe>...};
-}(std::make_integer_sequence<int, static_cast<int>(kLivelli.size())>{});
-
 constexpr std::size_t RigaDi(const Livello& livello) {
   return static_cast<std::size_t>(&livello - kLivelli.data());
 }
@@ -37,7 +26,7 @@ constexpr std::size_t RigaDi(const Livello& livello) {
 constexpr Row Pulsante(const Livello& livello, TwipsRect posto) {
   const auto& [tipo, pulsante, immagine, registro, didascalia] = livello.blocchi;
   const std::string_view parole = didascalia.empty() ? livello.didascalia : didascalia;
-  return {pulsante, -1, kPulsanti.at(RigaDi(livello)), posto,
+  return {pulsante, -1, kVoci<FormMenuPLU>.at(RigaDi(livello)), posto,
           VoceGrande(parole, kTintaBlocchi, immagine, 12)};
 }
 
@@ -80,7 +69,7 @@ void FormMenuPLU::onLoad() {
     for (const Famiglia famiglia : kFamiglie) {
       const qint16 tipo = TipoIn(livello, famiglia);
       if (tipo == 0) continue;
-      Apre(DellaRiga(static_cast<int>(RigaDi(livello))), famiglia,
+      Apre(Voce(static_cast<int>(RigaDi(livello))), famiglia,
            [this, tipo] { stato().TipoEsercizio = tipo; });
     }
   }

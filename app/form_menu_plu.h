@@ -17,7 +17,7 @@ class FormMenuPLU final : public FormaMenu {
   platform::Button Command1{*this};
 
   // The button of the level whose row is the `riga`th of `kLivelli`, counted from 0.
-  [[nodiscard]] platform::Button& DellaRiga(int riga) { return livelli_.element(riga); }
+  [[nodiscard]] platform::Button& Voce(int riga) { return livelli_.element(riga); }
 
  protected:
   void onLoad() override;

@@ -16,6 +16,7 @@
 #include "exercises/abacus/forma_abaco_tastiera.h"
 #include "figura.h"
 #include "programma_fermo.h"
+#include "support/nomi_esercizi.h"
 
 namespace {
 

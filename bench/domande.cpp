@@ -25,6 +25,7 @@
 #include "programma_fermo.h"
 #include "schermo.h"
 #include "support/come_dal_menu.h"
+#include "support/nomi_esercizi.h"
 
 namespace {
 

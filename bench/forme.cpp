@@ -17,6 +17,7 @@
 #include "platform/forms/keys/key_guard.h"
 #include "programma_fermo.h"
 #include "support/come_dal_menu.h"
+#include "support/nomi_esercizi.h"
 
 // The forms from inside the program, on a real display: how long a form takes to show, against as
 // many plain widgets of Qt's with the same texts and fonts, on a page with a ground of its own; and

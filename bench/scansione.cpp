@@ -23,6 +23,7 @@
 #include "figura.h"
 #include "platform/forms/controls/ring_widget.h"
 #include "programma_fermo.h"
+#include "support/nomi_esercizi.h"
 
 namespace {
 

@@ -14,6 +14,7 @@
 #include "figura.h"
 #include "platform/devices/loopback_network.h"
 #include "programma_fermo.h"
+#include "support/nomi_esercizi.h"
 #include "tools/tavoletta/tavoletta.h"
 
 namespace {

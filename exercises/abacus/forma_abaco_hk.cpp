@@ -1,7 +1,6 @@
 #include "exercises/abacus/forma_abaco_hk.h"
 
 #include "app/shared/modulo_colori_suoni.h"
-#include "app/shared/nomi_forme.h"
 #include "exercises/abacus/disegno_abaco.h"
 #include "exercises/core/testo_cifre.h"
 #include "platform/base/numbers.h"
@@ -52,12 +51,10 @@ constexpr auto kFoglio = std::to_array<Row>({
 constexpr std::array<std::span<const Row>, 4> kTavole{kControlli, kPannelloAbaco, kFoglio,
                                                       kMenuAbaco};
 
-constexpr FormDesign kDisegno = DisegnoAbaco(forme::kFormAbacoHK, kTavole);
-
 }  // namespace
 
-FormaAbacoHK::FormaAbacoHK(Ambiente& ambiente)
-    : FormaAbaco(ambiente, kDisegno, PartitaAbaco::Cambi::Tasti),
+FormaAbacoHK::FormaAbacoHK(Ambiente& ambiente, std::string_view nome)
+    : FormaAbaco(ambiente, DisegnoAbaco(nome, kTavole), PartitaAbaco::Cambi::Tasti),
       tocco_(*this, ControlloConnessione, mnuStampaHP, [this](Tasto tasto) { Agisci(tasto); }) {
   Usa(tocco_);
   PulsanteCestino.onClick([this] { Svuota(); });

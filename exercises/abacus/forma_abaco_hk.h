@@ -13,7 +13,7 @@ namespace somme::inline abaco {
 // mouse does the rest, and stays free meanwhile. Kept: see docs/oddities.md.
 class FormaAbacoHK final : public FormaAbaco {
  public:
-  explicit FormaAbacoHK(Ambiente& ambiente);
+  FormaAbacoHK(Ambiente& ambiente, std::string_view nome);
 
   platform::ControlArray<platform::Socket> ControlloConnessione{*this};
   platform::PictureBox Picture1{*this};  // the frame of the two buttons

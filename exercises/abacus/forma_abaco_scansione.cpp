@@ -1,6 +1,5 @@
 #include "exercises/abacus/forma_abaco_scansione.h"
 
-#include "app/shared/nomi_forme.h"
 #include "exercises/abacus/casella_dietro.h"
 #include "exercises/abacus/disegno_abaco.h"
 #include "exercises/core/disegno_scansione.h"
@@ -31,12 +30,10 @@ constexpr auto kControlli = std::to_array<Row>({
 
 constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kPannelloAbaco, kMenuAbaco};
 
-constexpr FormDesign kDisegno = DisegnoAbaco(forme::kFormAbacoScansione, kTavole);
-
 }  // namespace
 
-FormaAbacoScansione::FormaAbacoScansione(Ambiente& ambiente)
-    : FormaAbaco(ambiente, kDisegno, PartitaAbaco::Cambi::DaSe) {
+FormaAbacoScansione::FormaAbacoScansione(Ambiente& ambiente, std::string_view nome)
+    : FormaAbaco(ambiente, DisegnoAbaco(nome, kTavole), PartitaAbaco::Cambi::DaSe) {
   Usa(scansione_);
   TestoInput.RiapreCon(TestoInputNumerico::Riapre::Cestino);
   TestoInput.onConfermato(

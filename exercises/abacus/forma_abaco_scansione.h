@@ -16,7 +16,7 @@ namespace somme::inline abaco {
 // docs/oddities.md.
 class FormaAbacoScansione final : public FormaAbaco {
  public:
-  explicit FormaAbacoScansione(Ambiente& ambiente);
+  FormaAbacoScansione(Ambiente& ambiente, std::string_view nome);
 
   TestoInputNumerico TestoInput{*this};
   TastieraHDUScansione TastieraHDUScansione1{*this};

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "app/shared/mod_language_support.h"
-#include "app/shared/nomi_forme.h"
 #include "exercises/abacus/casella_dietro.h"
 #include "exercises/abacus/disegno_abaco.h"
 #include "exercises/core/quantita.h"
@@ -50,8 +49,6 @@ constexpr auto kControlli = std::to_array<Row>({
 
 constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kPannelloAbaco, kMenuAbaco};
 
-constexpr FormDesign kDisegno = DisegnoAbaco(forme::kFormAbaco, kTavole);
-
 // The words of the movie and what they ask for; any other is ignored.
 struct Parola {
   QLatin1String parola;
@@ -70,8 +67,8 @@ constexpr auto kParole = std::to_array<Parola>({
 
 }  // namespace
 
-FormaAbacoTastiera::FormaAbacoTastiera(Ambiente& ambiente)
-    : FormaAbaco(ambiente, kDisegno, PartitaAbaco::Cambi::Frecce) {
+FormaAbacoTastiera::FormaAbacoTastiera(Ambiente& ambiente, std::string_view nome)
+    : FormaAbaco(ambiente, DisegnoAbaco(nome, kTavole), PartitaAbaco::Cambi::Frecce) {
   ShockwaveFlash1.onFsCommand(
       [this](const QString& command, const QString& args) { Ascolta(command, args); });
   PulsanteCambioUDa.onClick([this] { PremiFreccia(Posto::Unita); });

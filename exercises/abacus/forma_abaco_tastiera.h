@@ -9,7 +9,7 @@ namespace somme::inline abaco {
 // the level has one. The abacus is an aid and never judged; the sum is typed into `TestoInput`.
 class FormaAbacoTastiera final : public FormaAbaco {
  public:
-  explicit FormaAbacoTastiera(Ambiente& ambiente);
+  FormaAbacoTastiera(Ambiente& ambiente, std::string_view nome);
 
   TestoInputNumerico TestoInput{*this};
   platform::Button PulsanteCambioUDa{*this};

@@ -1,7 +1,6 @@
 #include "exercises/table/form_tabella.h"
 
 #include "app/shared/mod_language_support.h"
-#include "app/shared/nomi_forme.h"
 #include "exercises/core/disegno_comune.h"
 #include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
@@ -56,12 +55,14 @@ constexpr auto kControlli = std::to_array<Row>({
 
 constexpr std::array<std::span<const Row>, 2> kTavole{kCelleDisegno, kControlli};
 
-constexpr FormDesign kDisegno{.name = forme::kFormTabella,
-                              .caption = "Esercitazioni sulle somme",
-                              .width = 9315,
-                              .height = 6525,
-                              .back = kRosaPallido,
-                              .tables = kTavole};
+constexpr FormDesign Disegno(std::string_view nome) {
+  return {.name = nome,
+          .caption = "Esercitazioni sulle somme",
+          .width = 9315,
+          .height = 6525,
+          .back = kRosaPallido,
+          .tables = kTavole};
+}
 
 // The corner of the table that a cell is; none for the others.
 std::optional<Qt::Corner> AngoloDi(int cella) {
@@ -81,7 +82,8 @@ std::optional<Qt::Corner> AngoloDi(int cella) {
 
 }  // namespace
 
-FormTabella::FormTabella(Ambiente& ambiente) : FormaEsercizio(ambiente, kDisegno) {
+FormTabella::FormTabella(Ambiente& ambiente, std::string_view nome)
+    : FormaEsercizio(ambiente, Disegno(nome)) {
   for (int i = 0; i < kCelle; ++i) {
     platform::Button& cella = Numero.element(i);
     cella.onClick([this, i] { Rispondi(i); });

@@ -11,7 +11,7 @@ namespace somme::inline tabella {
 // find.
 class FormTabella final : public FormaEsercizio {
  public:
-  explicit FormTabella(Ambiente& ambiente);
+  FormTabella(Ambiente& ambiente, std::string_view nome);
 
   platform::ControlArray<platform::Button> Numero{*this};
   platform::Label EtichettaNumero{*this};

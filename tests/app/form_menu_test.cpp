@@ -10,10 +10,12 @@
 #include "support/banco.h"
 #include "support/controfigura.h"
 #include "support/iscrizione.h"
+#include "support/pulsante.h"
 
 namespace form_menu_test {
 
 using prova::Banco;
+using prova::pulsante;
 using somme::FormMenu;
 
 namespace {
@@ -59,13 +61,14 @@ class FormMenuTest : public QObject {
     Banco banco({800, 600}, prova::SenzaEsercizi);
     FormMenu& menu = apri(banco);
     const auto famiglie = std::to_array<platform::Button*>(
-        {&menu.Command2, &menu.Command3, &menu.Command4, &menu.Command5, &menu.Command6});
+        {&pulsante(menu, "Command2"), &pulsante(menu, "Command3"), &pulsante(menu, "Command4"),
+         &pulsante(menu, "Command5"), &pulsante(menu, "Command6")});
     for (platform::Button* una : famiglie) una->setCaption(QStringLiteral("HH"));
-    const int prima = altezza(menu.Command2);
-    menu.Command2.setCaption(QStringLiteral("HHHHHHHH"));
-    QVERIFY(altezza(menu.Command2) * 10 < prima * 8);
+    const int prima = altezza(pulsante(menu, "Command2"));
+    pulsante(menu, "Command2").setCaption(QStringLiteral("HHHHHHHH"));
+    QVERIFY(altezza(pulsante(menu, "Command2")) * 10 < prima * 8);
     for (const platform::Button* una : famiglie) {
-      QVERIFY(std::abs(altezza(*una) - altezza(menu.Command2)) <= 1);
+      QVERIFY(std::abs(altezza(*una) - altezza(pulsante(menu, "Command2"))) <= 1);
     }
   }
 
@@ -83,8 +86,12 @@ class FormMenuTest : public QObject {
     QFETCH(QString, forma);
     Banco banco(kFinestra, prova::SenzaEsercizi);
     FormMenu& menu = apri(banco);
-    const platform::Button* bottoni[] = {&menu.Command1, &menu.Command2, &menu.Command3,
-                                         &menu.Command4, &menu.Command5, &menu.Command6};
+    const platform::Button* bottoni[] = {&menu.Command1,
+                                         &pulsante(menu, "Command2"),
+                                         &pulsante(menu, "Command3"),
+                                         &pulsante(menu, "Command4"),
+                                         &pulsante(menu, "Command5"),
+                                         &pulsante(menu, "Command6")};
     banco.clicca(*bottoni[bottone - 1]);
     QCOMPARE(banco.nomeForma(), forma);
     for (const auto& caricata : banco.ambiente->fondo.forms().all()) {
@@ -159,14 +166,14 @@ class FormMenuTest : public QObject {
   void thePointerChangesHereAtOnceAndElsewhereAtTheNextLoad() {
     Banco banco;
     FormMenu& menu = apri(banco);
-    QCOMPARE(menu.Command2.mousePointer(), 99);
+    QCOMPARE(pulsante(menu, "Command2").mousePointer(), 99);
     QVERIFY(!menu.mnuUsaCursoreDiSistema.isChecked());
     banco.batti(Qt::Key_K, Qt::ControlModifier);
     QVERIFY(banco.ambiente->stato.CursoreDiSistema);
     QVERIFY(menu.mnuUsaCursoreDiSistema.isChecked());
-    QCOMPARE(menu.Command2.mousePointer(), 0);
-    QCOMPARE(menu.Command2.widget()->cursor().shape(), Qt::ArrowCursor);
-    banco.clicca(menu.Command2);
+    QCOMPARE(pulsante(menu, "Command2").mousePointer(), 0);
+    QCOMPARE(pulsante(menu, "Command2").widget()->cursor().shape(), Qt::ArrowCursor);
+    banco.clicca(pulsante(menu, "Command2"));
     for (const platform::Control* controllo : banco.ambiente->fondo.forms().current()->controls()) {
       QCOMPARE(controllo->mousePointer(), 0);
     }
@@ -176,21 +183,21 @@ class FormMenuTest : public QObject {
     Banco banco;
     {
       FormMenu& menu = apri(banco);
-      QVERIFY(menu.Command6.isVisible());
+      QVERIFY(pulsante(menu, "Command6").isVisible());
       QVERIFY(menu.mnuInput[0].isChecked());
       banco.batti(Qt::Key_A, Qt::ControlModifier);
       QCOMPARE(banco.ambiente->stato.ModalitaInput, qint16(2));
-      QVERIFY(!menu.Command6.isVisible());
+      QVERIFY(!pulsante(menu, "Command6").isVisible());
       for (int i = 0; i < 4; ++i) QCOMPARE(menu.mnuInput[i].isChecked(), i == 2);
       scegli(menu.mnuAbout);
     }
     banco.clicca(banco.forma<somme::FormInfo>().Command1);
     FormMenu& menu = banco.forma<FormMenu>();
-    QVERIFY(!menu.Command6.isVisible());
+    QVERIFY(!pulsante(menu, "Command6").isVisible());
     for (int i = 0; i < 4; ++i) QCOMPARE(menu.mnuInput[i].isChecked(), i == 2);
     banco.batti(Qt::Key_D, Qt::ControlModifier);
     QCOMPARE(banco.ambiente->stato.ModalitaInput, qint16(0));
-    QVERIFY(menu.Command6.isVisible());
+    QVERIFY(pulsante(menu, "Command6").isVisible());
   }
 
   void theModesHaveTheirShortcuts_data() {
@@ -230,13 +237,13 @@ class FormMenuTest : public QObject {
     QCOMPARE(menu.PictureTempoScansione.width(), menu.width());
     QCOMPARE(menu.PictureTempoScansione.height(), menu.height());
     QVERIFY(menu.CommandConfermaTempoInput.hasFocus());
-    QVERIFY(!menu.Command2.isLive());
+    QVERIFY(!pulsante(menu, "Command2").isLive());
     QCOMPARE(menu.HScrollScansione.value(), 4);
     QCOMPARE(menu.LabelTempoScansione.caption(),
              QStringLiteral("Velocità scansione: 1.00 secondi"));
     banco.clicca(menu.CommandConfermaTempoInput);
     QVERIFY(!menu.PictureTempoScansione.isVisible());
-    QVERIFY(menu.Command2.isLive());
+    QVERIFY(pulsante(menu, "Command2").isLive());
   }
 
   void theScaleRunsFromOneSecondToFifteen() {
@@ -299,10 +306,10 @@ class FormMenuTest : public QObject {
   void hidingTheTableWithTheFocusHandsTheFocusOn() {
     Banco banco;
     FormMenu& menu = apri(banco);
-    menu.Command6.setFocus();
-    QVERIFY(menu.Command6.hasFocus());
+    pulsante(menu, "Command6").setFocus();
+    QVERIFY(pulsante(menu, "Command6").hasFocus());
     banco.batti(Qt::Key_M, Qt::ControlModifier);
-    QVERIFY(menu.Command4.hasFocus());
+    QVERIFY(pulsante(menu, "Command4").hasFocus());
   }
 };
 

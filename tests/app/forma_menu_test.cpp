@@ -3,10 +3,9 @@
 #include <QApplication>
 
 #include "app/form_menu_abaco.h"
-#include "app/form_menu_barre.h"
 #include "app/form_menu_numeri.h"
 #include "app/form_menu_plu.h"
-#include "app/form_menu_tabella.h"
+#include "app/form_menu_scelte.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/numbers/forma_numeri_tastiera.h"
 #include "platform/forms/page.h"
@@ -216,10 +215,12 @@ class FormaMenuTest : public QObject {
   void bothRangesOfTheBarsSetTheirLimit() {
     for (const int limite : {10, 20}) {
       Banco banco(kFinestra, prova::SenzaEsercizi);
-      FormMenuBarre& menu = banco.apri<FormMenuBarre>(forme::kFormMenuBarre);
-      QCOMPARE(menu.Command2.caption(), QStringLiteral("Fino al 10"));
-      QCOMPARE(menu.Command4.caption(), QStringLiteral("Fino al 20"));
-      banco.clicca(limite == 10 ? menu.Command2 : menu.Command4);
+      FormMenuScelte& menu = banco.apri<FormMenuScelte>(forme::kFormMenuBarre);
+      const platform::Button& fino10 = prova::pulsante(menu, "Command2");
+      const platform::Button& fino20 = prova::pulsante(menu, "Command4");
+      QCOMPARE(fino10.caption(), QStringLiteral("Fino al 10"));
+      QCOMPARE(fino20.caption(), QStringLiteral("Fino al 20"));
+      banco.clicca(limite == 10 ? fino10 : fino20);
       QCOMPARE(banco.ambiente->stato.LimiteEsercizio, limite);
       QCOMPARE(banco.nomeForma(),
                limite == 10 ? QStringLiteral("FormBarre10") : QStringLiteral("FormBarre20"));
@@ -244,11 +245,17 @@ class FormaMenuTest : public QObject {
     QFETCH(int, alto);
     Banco banco(kFinestra, prova::SenzaEsercizi);
     banco.ambiente->stato.TipoEsercizio = 77;
-    FormMenuTabella& menu = banco.apri<FormMenuTabella>(forme::kFormMenuTabella);
-    QCOMPARE(menu.Command2.count(), 5);
-    QCOMPARE(menu.Command2[indice].caption(), didascalia);
-    QVERIFY(sta(menu.Command2[indice], sinistra, alto, 2580, 915));
-    banco.clicca(menu.Command2[indice]);
+    FormMenuScelte& menu = banco.apri<FormMenuScelte>(forme::kFormMenuTabella);
+    QCOMPARE(std::ranges::count_if(menu.controls(),
+                                   [](const platform::Control* controllo) {
+                                     return controllo->name().startsWith(QLatin1String("Command2"));
+                                   }),
+             5);
+    const platform::Button& genere =
+        prova::pulsante(menu, QStringLiteral("Command2(%1)").arg(indice));
+    QCOMPARE(genere.caption(), didascalia);
+    QVERIFY(sta(genere, sinistra, alto, 2580, 915));
+    banco.clicca(genere);
     QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormTabella"));
   }

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "app/disegno_menu.h"
-#include "app/form_menu_barre.h"
 #include "app/shared/nomi_forme.h"
 #include "platform/forms/controls/button.h"
 #include "support/banco.h"

@@ -11,10 +11,12 @@
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/pulsante.h"
 
 namespace lingua_del_menu_test {
 
 using prova::Banco;
+using prova::pulsante;
 using somme::FormMenu;
 
 // The language menu of the main menu.
@@ -102,7 +104,7 @@ class LinguaDelMenuTest : public QObject {
     QCoreApplication::processEvents();
     QVERIFY(!tendina->isVisible());
     QCOMPARE(banco.ambiente->stato.LinguaCorrente, QStringLiteral("English"));
-    QCOMPARE(menu.Command3.caption(), QStringLiteral("Numbers only"));
+    QCOMPARE(pulsante(menu, "Command3").caption(), QStringLiteral("Numbers only"));
   }
 
   void choosingALanguageMarksItAppliesItAndWritesItAtOnce() {
@@ -124,7 +126,7 @@ class LinguaDelMenuTest : public QObject {
     Banco banco;
     FormMenu& menu = apri(banco);
     // At the first yield of the language.
-    banco.tempo.after(0, [&] { banco.clicca(menu.Command3); });
+    banco.tempo.after(0, [&] { banco.clicca(pulsante(menu, "Command3")); });
     scegli(inglese(menu));
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuNumeri"));
     QCOMPARE(leggi(banco, QStringLiteral("LangSetting.ini")).simplified(),
@@ -230,7 +232,7 @@ class LinguaDelMenuTest : public QObject {
     FormMenu& menu = apri(banco);
     scegli(voce(menu, QStringLiteral("Lingua semplice")));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Via"));
-    QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
+    QCOMPARE(pulsante(menu, "Command3").caption(), QStringLiteral("Solo numeri"));
     // The form's own caption is set also where the file has none.
     QCOMPARE(menu.caption(), QString());
   }
@@ -284,7 +286,7 @@ class LinguaDelMenuTest : public QObject {
       QCOMPARE(messaggio.title, somme::TitoloProgramma());
       QCOMPARE(menu.mnuLanguage.count(), 1);
       QCOMPARE(menu.mnuLanguage[0].caption(), QStringLiteral("mnuLanguage 0"));
-      QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
+      QCOMPARE(pulsante(menu, "Command3").caption(), QStringLiteral("Solo numeri"));
       QCOMPARE(menu.MnuSuoni.caption(), QString());
       banco.ambiente->fondo.forms().unload(menu);
     }
@@ -321,7 +323,7 @@ class LinguaDelMenuTest : public QObject {
     banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=\"Latino\"\n");
     FormMenu& menu = apri(banco);
     QCOMPARE(segnate(menu), QStringList());
-    QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
+    QCOMPARE(pulsante(menu, "Command3").caption(), QStringLiteral("Solo numeri"));
     QCOMPARE(menu.caption(), QStringLiteral("Esercitazioni sulle somme"));
   }
 
@@ -330,7 +332,7 @@ class LinguaDelMenuTest : public QObject {
     FormMenu& menu = apri(banco);
     togli(banco, QStringLiteral("English.lng"));
     scegli(inglese(menu));
-    QCOMPARE(menu.Command3.caption(), QStringLiteral("Solo numeri"));
+    QCOMPARE(pulsante(menu, "Command3").caption(), QStringLiteral("Solo numeri"));
     QCOMPARE(menu.caption(), QStringLiteral("Esercitazioni sulle somme"));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
     QVERIFY(!banco.fine.stato.has_value());

@@ -5,9 +5,9 @@
 
 #include "app/form_menu.h"
 #include "app/form_menu_abaco.h"
-#include "app/form_menu_barre.h"
 #include "app/form_menu_numeri.h"
 #include "app/form_menu_plu.h"
+#include "app/form_menu_scelte.h"
 #include "app/shared/nomi_forme.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
@@ -68,8 +68,8 @@ class TastiMenuTest : public QObject {
 
   void homeAndEndGoToTheEndsOfAMenuInOneColumn() {
     Banco banco;
-    auto& menu = banco.apri<somme::FormMenuBarre>(somme::forme::kFormMenuBarre);
-    menu.Command2.setFocus();
+    auto& menu = banco.apri<somme::FormMenuScelte>(somme::forme::kFormMenuBarre);
+    prova::pulsante(menu, "Command2").setFocus();
     QCOMPARE(cammino(banco, {Qt::Key_End, Qt::Key_Down, Qt::Key_Home}),
              (QStringList{QStringLiteral("Command4"), QStringLiteral("Command4"),
                           QStringLiteral("Command2")}));
@@ -78,7 +78,7 @@ class TastiMenuTest : public QObject {
   void arrowKeysWalkTheMainMenu() {
     Banco banco;
     auto& menu = banco.apri<somme::FormMenu>(somme::forme::kFormMenu);
-    menu.Command2.setFocus();
+    prova::pulsante(menu, "Command2").setFocus();
     QCOMPARE(cammino(banco, {Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Down, Qt::Key_Up}),
              (QStringList{QStringLiteral("Command6"), QStringLiteral("Command3"),
                           QStringLiteral("Command4"), QStringLiteral("Command5"),
@@ -92,8 +92,8 @@ class TastiMenuTest : public QObject {
     QCOMPARE(detto(prova::pulsante(blocchi, "Command13")),
              QStringLiteral("Entro 999, aggiungi solo centinaia"));
     QCOMPARE(detto(blocchi.Command1), QStringLiteral("Torna al menù principale"));
-    auto& barre = banco.apri<somme::FormMenuBarre>(somme::forme::kFormMenuBarre);
-    QCOMPARE(detto(barre.Command2), QStringLiteral("Fino al 10"));
+    auto& barre = banco.apri<somme::FormMenuScelte>(somme::forme::kFormMenuBarre);
+    QCOMPARE(detto(prova::pulsante(barre, "Command2")), QStringLiteral("Fino al 10"));
   }
 
   void noTwoLevelsOfAMenuSayTheSame() {

@@ -11,6 +11,7 @@
 #include "platform/flash/movie_view.h"
 #include "platform/forms/control.h"
 #include "platform/forms/form.h"
+#include "support/nomi_esercizi.h"
 #include "support/rete_di_prova.h"
 #include "support/scripted_time.h"
 #include "support/servizi_di_prova.h"

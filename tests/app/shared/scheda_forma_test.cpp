@@ -6,6 +6,7 @@
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
 #include "support/iscrizione.h"
+#include "support/nomi_esercizi.h"
 
 namespace scheda_forma_test {
 

@@ -1,12 +1,13 @@
 #include <QAccessible>
 #include <QApplication>
 
-#include "app/form_menu_barre.h"
+#include "app/form_menu_scelte.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/forma_barre_pulsanti.h"
 #include "exercises/bars/forma_barre_tastiera.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/pulsante.h"
 
 namespace barre10_scritte_test {
 
@@ -58,7 +59,7 @@ class Barre10ScritteTest : public QObject {
     const QString titolo = QStringLiteral("\r\n     Uso delle barre - Fino al 10\r\n\r\n");
     QCOMPARE(banco.forma<FormaBarreTastiera>().TestoStampa.text(), titolo);
     banco.forma<FormaBarreTastiera>().mnuEsci.click();
-    banco.clicca(banco.forma<somme::FormMenuBarre>().Command2);
+    banco.clicca(prova::pulsante(banco.forma<somme::FormMenuScelte>(), "Command2"));
     auto& poi = banco.forma<FormaBarrePulsanti>();
     QCOMPARE(poi.TestoStampa.text(), titolo);
     QCOMPARE(poi.EtichettaEsatti.caption(), QStringLiteral("Esatti  0"));

@@ -3,11 +3,12 @@
 #include <QApplication>
 #include <random>
 
-#include "app/form_menu_tabella.h"
+#include "app/form_menu_scelte.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/table/form_tabella.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/pulsante.h"
 
 namespace tasti_tabella_test {
 
@@ -20,8 +21,8 @@ class TastiTabellaTest : public QObject {
 
   // The form with the case `a` + 1, opened from its menu by keys.
   static FormTabella& apri(Banco& banco, int a) {
-    auto& menu = banco.apri<somme::FormMenuTabella>(somme::forme::kFormMenuTabella);
-    menu.Command2[0].setFocus();
+    auto& menu = banco.apri<somme::FormMenuScelte>(somme::forme::kFormMenuTabella);
+    prova::pulsante(menu, "Command2(0)").setFocus();
     banco.sorte.scrivi({{a, 98}});
     banco.batti(Qt::Key_Return);
     return banco.forma<FormTabella>();
