@@ -25,13 +25,6 @@ function(somme_header_set name)
   target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
 endfunction()
 
-# The same for a target that is compiled in a way of its own.
-function(somme_compiled_headers_of_its_own target)
-  if(SOMME_COMPILED_HEADERS)
-    target_precompile_headers(${target} PRIVATE ${ARGN})
-  endif()
-endfunction()
-
 # Makes a target take its headers from a set.
 function(somme_compiled_headers target set)
   if(SOMME_COMPILED_HEADERS)
