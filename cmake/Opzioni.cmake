@@ -41,8 +41,9 @@ if(SOMME_SANITIZE)
                       -fno-omit-frame-pointer -g1)
   add_link_options(-fsanitize=${SOMME_SANITIZE})
 endif()
-# What a test of forms does itself takes no time; compiling it does.
+# What a test of forms or movies does itself takes no time; compiling it does. The others reckon.
 set(SOMME_TESTS_OPTIONS -O0)
+set(SOMME_RECKONING_TESTS_OPTIONS -O1)
 if(SOMME_FUZZ)
   if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     message(FATAL_ERROR "SOMME_FUZZ needs clang; use the preset fuzz")
