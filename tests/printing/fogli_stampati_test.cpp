@@ -86,7 +86,7 @@ class FogliStampatiTest : public QObject {
     mostra(prova, foglio.nome, [](FoglioTastiera&, frmAvviaStampa& d) { d.cmdStampa.click(); });
     QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
     const PdfLetto letto(prova.banco.stampanti.lavori[0].pages);
-    constexpr int kFini = 300;
+    constexpr int kFini = 200;
     const QImage pagina = letto.inGrigio(1, kFini);
     const double mm = 25.4 / kFini;
     double lontano = 0;
