@@ -25,10 +25,15 @@ function(somme_header_set name)
   target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
 endfunction()
 
-# Makes a target take its headers from a set.
+# Makes a target take its headers from a set. Sets are compiled as libraries are, and so are the programs that
+# take them, which Qt asks for by itself on x86 alone.
 function(somme_compiled_headers target set)
   if(SOMME_COMPILED_HEADERS)
     target_compile_options(${target} PRIVATE ${SOMME_ALIKE})
+    get_target_property(kind ${target} TYPE)
+    if(kind STREQUAL "EXECUTABLE" AND NOT WIN32)
+      target_compile_options(${target} PRIVATE -fPIC)
+    endif()
     target_precompile_headers(${target} REUSE_FROM ${set})
   endif()
 endfunction()
