@@ -20,3 +20,8 @@ set(ENV{PKG_CONFIG_LIBDIR} /usr/lib/${MULTIARCH}/pkgconfig:/usr/share/pkgconfig)
 # Qt's own programs, such as moc, run on this machine.
 set(QT_HOST_PATH /usr)
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/${di_casa}/cmake)
+
+# Tests of what runs in an emulator may take so many times longer (LENTEZZA in tools/prova/emulazione.py).
+if(SOMME_ARCH STREQUAL "arm64")
+  set(SOMME_SLOWNESS 6)
+endif()
