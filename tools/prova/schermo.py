@@ -137,16 +137,17 @@ class Schermo:
         return os.path.join(cartella, os.path.basename(programma))
 
     def fotografa(self, percorso):
-        """Writes a picture of the whole screen; the format is that of the name."""
+        """Writes a picture of the whole screen, in the format PNG."""
         os.makedirs(os.path.dirname(percorso) or ".", exist_ok=True)
-        # Packed as quickly as can be: else the pictures take more of the machine than the games.
-        subprocess.run(["import", "-window", "root", "-define", "png:compression-level=1",
-                        "-define", "png:compression-filter=0", percorso], check=True, timeout=60)
+        self._sguardo().fotografa(percorso)
 
     def vista(self):
         """What is on the screen, in short: another text for every other picture."""
+        return self._sguardo().adesso()
+
+    def _sguardo(self):
         self._vista = self._vista or Vista()
-        return self._vista.adesso()
+        return self._vista
 
     def _avvia_display(self):
         # The server looks for a free number itself and tells it when it is ready.
