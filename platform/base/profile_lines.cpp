@@ -7,10 +7,6 @@ namespace platform::inline base {
 
 namespace {
 
-constexpr bool isLineEnd(char byte) {
-  return byte == '\n' || byte == '\r';
-}
-
 // The bit for each beginning of a text, one byte longer at a time. Any function that spreads well
 // does; a clash only costs the reading of a part.
 class BeginningHash {

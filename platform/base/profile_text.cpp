@@ -7,9 +7,6 @@ namespace platform::inline base {
 
 namespace {
 
-constexpr bool isLineEnd(char byte) {
-  return byte == '\n' || byte == '\r';
-}
 constexpr bool isBlank(char byte) {
   return byte == ' ' || byte == '\t';
 }

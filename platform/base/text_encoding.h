@@ -12,6 +12,11 @@ namespace platform::inline base {
 // Windows-1252, in which every byte means something.
 enum class TextEncoding { Utf8, Windows1252 };
 
+// Whether a byte ends a line of a text file, alone or together with another.
+constexpr bool isLineEnd(char byte) {
+  return byte == '\n' || byte == '\r';
+}
+
 // Tells, from parts of a text given one after another, whether the whole is valid UTF-8.
 class Utf8Check final {
  public:

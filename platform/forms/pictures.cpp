@@ -5,29 +5,11 @@
 #include <QPainter>
 #include <QTransform>
 
+#include "platform/forms/drawing_place.h"
+
 namespace platform::inline forms {
 
 namespace {
-
-// Where a drawing stands in an area: in its own proportions, as large as fits, in the middle. Empty
-// for a drawing or an area that shows nothing.
-QRectF placeIn(const Drawing& drawing, const QRectF& area) {
-  if (drawing.isEmpty() || area.isEmpty()) return {};
-  const QSizeF own = drawing.box().size();
-  QRectF place(QPointF(), own.scaled(area.size(), Qt::KeepAspectRatio));
-  place.moveCenter(area.center());
-  return place;
-}
-
-// The same for one of its parts.
-QRectF placeOf(const Drawing& drawing, const QString& part, const QRectF& area) {
-  const QRectF whole = placeIn(drawing, area);
-  if (whole.isEmpty() || !drawing.hasPart(part)) return {};
-  const QRectF box = drawing.box();
-  const QRectF own = drawing.boundsOf(part);
-  const double scale = whole.width() / box.width();
-  return {whole.topLeft() + (own.topLeft() - box.topLeft()) * scale, own.size() * scale};
-}
 
 // Whether a painter only moves what it paints: what grows or shrinks is another picture each time,
 // and soon gone.

@@ -3,12 +3,12 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <span>
 
 #include "platform/forms/accessible.h"
 #include "platform/forms/controls/button.h"
+#include "platform/forms/controls/button_way.h"
 #include "platform/forms/controls/button_widget.h"
 #include "platform/forms/controls/label.h"
 
@@ -20,54 +20,6 @@ bool canTakeFocus(const Button& button) {
   const QWidget* widget = button.widget();
   return widget != nullptr && widget->isVisible() && widget->isEnabled() &&
          (widget->focusPolicy() & Qt::TabFocus) != 0;
-}
-
-// The way from one button to another, in pixels: in the direction of a key and across it.
-struct Way {
-  double along = 0;
-  double across = 0;
-};
-
-// forward: to the right, or down.
-struct Direction {
-  bool horizontal = true;
-  bool forward = true;
-  bool toTheEnd = false;
-};
-
-std::optional<Direction> directionOf(int key) {
-  switch (key) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-      return Direction{true, key == Qt::Key_Right, false};
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-      return Direction{false, key == Qt::Key_Down, false};
-    case Qt::Key_Home:
-    case Qt::Key_End:
-      return Direction{true, key == Qt::Key_End, true};
-    default:
-      return std::nullopt;
-  }
-}
-
-std::optional<Direction> directionOf(const QKeyEvent& event) {
-  const bool plain = (event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier)) == 0;
-  return plain ? directionOf(event.key()) : std::nullopt;
-}
-
-// Nothing for a button in another row, or column: its middle lies beside the one it is seen from.
-std::optional<Way> wayBetween(const QWidget& from, const QWidget& to, const Direction& direction) {
-  const QPointF step = QRectF(to.geometry()).center() - QRectF(from.geometry()).center();
-  const double along = direction.horizontal ? step.x() : step.y();
-  const double across = std::abs(direction.horizontal ? step.y() : step.x());
-  if (across >= (direction.horizontal ? from.height() : from.width()) / 2.0) return std::nullopt;
-  return Way{direction.forward ? along : -along, across};
-}
-
-bool isBetter(const Way& way, const Way& than, const Direction& direction) {
-  if (way.along == than.along) return way.across < than.across;
-  return direction.toTheEnd == (way.along > than.along);
 }
 
 }  // namespace
