@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/disegno_menu.h"
+#include "app/shared/file_lingua.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/modulo_navigate.h"
 #include "app/shared/nomi_forme.h"
@@ -167,7 +168,7 @@ void FormMenu::OffriFamiglie() {
 }
 
 void FormMenu::MLSFillMenuLanguages() {
-  const QStringList lingue = LingueNellaCartella(ambiente());
+  const QStringList lingue = LingueNellaCartella(ambiente().servizi.cartella);
   if (lingue.isEmpty()) {
     ambiente().fondo.showBox({QStringLiteral("Non è presente alcun file di linguaggio!")});
     return;

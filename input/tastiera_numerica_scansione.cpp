@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "input/disegno_tasti.h"
+
 namespace somme::inline ingresso {
 
 using platform::inner;

@@ -2,9 +2,7 @@
 
 #include <functional>
 #include <span>
-#include <string_view>
 
-#include "app/shared/colori.h"
 #include "platform/forms/control_array.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/focus_keeper.h"
@@ -130,20 +128,5 @@ class TastieraScansione : public platform::UserControl {
   bool spazioPremuto_ = false;
   bool invioPremuto_ = false;
 };
-
-// What a key looks like before the light first comes to it, with words or a picture on it. The
-// layout sets the size of the letters.
-constexpr platform::Look TastoScritto(std::string_view testo) {
-  return {.caption = testo,
-          .font = {.face = platform::Face::Arial, .bold = true},
-          .back = colori::kGrigio};
-}
-// chiuso: the key cannot be chosen until the form says so.
-constexpr platform::Look TastoDisegnato(std::string_view immagine, bool chiuso = false) {
-  platform::Look tasto = TastoScritto({});
-  tasto.disabled = chiuso;
-  tasto.picture = immagine;
-  return tasto;
-}
 
 }  // namespace somme::inline ingresso

@@ -17,7 +17,7 @@
 #include "platform/forms/controls/up_down.h"
 #include "printing/esegui_stampa.h"
 #include "printing/immagine_di_stampa.h"
-#include "printing/oggetto_da_stampare.h"
+#include "printing/richiesta_di_stampa.h"
 #include "printing/stampante_in_uso.h"
 
 namespace somme::inline stampa {
@@ -40,18 +40,7 @@ class frmAvviaStampa final : public Forma {
   // mistake.
   Foglio FoglioStampa(std::optional<int> orientamento = std::nullopt);
 
-  struct Richiesta {
-    OggettoDaStampare oggetto;
-    qint32 sinistra = 0;  // all in millimetres
-    qint32 alto = 0;
-    qint32 larghezza = 0;  // only their proportion is used
-    qint32 altezza = 0;
-    qint32 orientamento = 0;  // 1 or 2, or as the printer has it
-    QString titolo;           // the object's name, where it is empty
-    float scala = 0;          // never read
-    // Of a picture box: captured as it stands; else the picture that it keeps is taken.
-    bool usaImmagine = false;
-  };
+  using Richiesta = RichiestaDiStampa;
   // Shows the dialog and returns when it has gone. False when an error was told instead.
   bool StampaFCPB(const Richiesta& richiesta);
 

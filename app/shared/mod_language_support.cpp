@@ -1,11 +1,9 @@
 #include "app/shared/mod_language_support.h"
 
 #include <QDir>
-#include <QFile>
-#include <algorithm>
 
 #include "app/shared/ambiente.h"
-#include "platform/base/files_in_folder.h"
+#include "app/shared/file_lingua.h"
 #include "platform/base/profile_file.h"
 #include "platform/base/run_time_error.h"
 #include "platform/forms/form.h"
@@ -27,29 +25,16 @@ void IgnoraErrori(const Passo& passo) {
   }
 }
 
-const QString kEstensione = QStringLiteral(".lng");
-
-QString FileLingua(const Ambiente& ambiente) {
-  QString cartella = ambiente.servizi.cartella;
-  if (!cartella.endsWith(u'/')) cartella += u'/';
-  QString usuale = cartella + ambiente.stato.LinguaCorrente + kEstensione;
-  if (QFile::exists(usuale)) return usuale;
-  // ".LNG", as disks from elsewhere have it.
-  const QStringList file = platform::filesInFolder(cartella, kEstensione);
-  const auto trovato = std::find_if(file.begin(), file.end(), [&](const QString& nome) {
-    return nome.chopped(kEstensione.size()) == ambiente.stato.LinguaCorrente;
-  });
-  return trovato == file.end() ? usuale : cartella + *trovato;
+QString FileCorrente(const Ambiente& ambiente) {
+  return FileLingua(ambiente.servizi.cartella, ambiente.stato.LinguaCorrente);
 }
 
-const QString kFileImpostazioni = QStringLiteral("/LangSetting.ini");
-
-QString FileImpostazioni(const Ambiente& ambiente) {
-  return ambiente.servizi.cartella + kFileImpostazioni;
+// The settings' file of the program, and of the user alone.
+QString FileDelProgramma(const Ambiente& ambiente) {
+  return FileImpostazioni(ambiente.servizi.cartella);
 }
-
-QString FileImpostazioniUtente(const Ambiente& ambiente) {
-  return ambiente.servizi.cartellaUtente + kFileImpostazioni;
+QString FileUtente(const Ambiente& ambiente) {
+  return FileImpostazioni(ambiente.servizi.cartellaUtente);
 }
 
 // The language that a settings file names. Throws RunTimeError(FileNotFound) without that file.
@@ -59,32 +44,22 @@ QString LinguaNelFile(Ambiente& ambiente, const QString& file) {
 
 void ApplicaAlControllo(Ambiente& ambiente, const QString& file, platform::Form& form,
                         platform::Control& controllo) {
-  const auto leggi = [&](const char* proprieta) {
-    return LeggiChiave(ambiente, file, form.name(),
-                       controllo.name() + QLatin1Char('.') + QLatin1String(proprieta));
+  const auto metti = [&](const char* proprieta, const auto& imposta) {
+    IgnoraErrori([&] {
+      const QString testo =
+          LeggiChiave(ambiente, file, form.name(),
+                      controllo.name() + QLatin1Char('.') + QLatin1String(proprieta));
+      if (!testo.isEmpty()) imposta(testo);
+    });
   };
-  IgnoraErrori([&] {
-    const QString testo = leggi("Caption");
-    if (!testo.isEmpty() && controllo.hasCaption()) controllo.setCaption(testo);
+  metti("Caption", [&](const QString& testo) {
+    if (controllo.hasCaption()) controllo.setCaption(testo);
   });
-  IgnoraErrori([&] {
-    const QString testo = leggi("ToolTipText");
-    if (!testo.isEmpty()) controllo.setToolTip(testo);
-  });
-  IgnoraErrori([&] {
-    const QString testo = leggi("Tag");
-    if (!testo.isEmpty()) controllo.setTag(testo);
-  });
+  metti("ToolTipText", [&](const QString& testo) { controllo.setToolTip(testo); });
+  metti("Tag", [&](const QString& testo) { controllo.setTag(testo); });
 }
 
 }  // namespace
-
-QStringList LingueNellaCartella(const Ambiente& ambiente) {
-  QStringList lingue = platform::filesInFolder(ambiente.servizi.cartella, kEstensione);
-  for (QString& lingua : lingue) lingua.chop(kEstensione.size());
-  lingue.removeDuplicates();
-  return lingue;
-}
 
 QString LeggiChiave(Ambiente& ambiente, const QString& file, const QString& sezione,
                     const QString& chiave) {
@@ -98,16 +73,16 @@ void ScriviChiave(const QString& file, const QString& sezione, const QString& ch
 
 QString LinguaScelta(Ambiente& ambiente) {
   QString lingua;
-  if (!platform::isProfileWritable(FileImpostazioni(ambiente))) {
-    IgnoraErrori([&] { lingua = LinguaNelFile(ambiente, FileImpostazioniUtente(ambiente)); });
+  if (!platform::isProfileWritable(FileDelProgramma(ambiente))) {
+    IgnoraErrori([&] { lingua = LinguaNelFile(ambiente, FileUtente(ambiente)); });
   }
-  return lingua.isEmpty() ? LinguaNelFile(ambiente, FileImpostazioni(ambiente)) : lingua;
+  return lingua.isEmpty() ? LinguaNelFile(ambiente, FileDelProgramma(ambiente)) : lingua;
 }
 
 void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua) {
-  QString file = FileImpostazioni(ambiente);
+  QString file = FileDelProgramma(ambiente);
   if (!platform::isProfileWritable(file)) {
-    file = FileImpostazioniUtente(ambiente);
+    file = FileUtente(ambiente);
     QDir().mkpath(ambiente.servizi.cartellaUtente);
   }
   ScriviChiave(file, QStringLiteral("Language"), QStringLiteral("CurrentLanguage"), lingua);
@@ -118,14 +93,14 @@ QString TestoLingua(Ambiente& ambiente, const QString& chiave) {
   IgnoraErrori([&] {
     QString& lingua = ambiente.stato.LinguaCorrente;
     if (lingua.isEmpty()) lingua = LinguaScelta(ambiente);
-    testo = LeggiChiave(ambiente, FileLingua(ambiente), QStringLiteral("Strings"), chiave);
+    testo = LeggiChiave(ambiente, FileCorrente(ambiente), QStringLiteral("Strings"), chiave);
   });
   return testo;
 }
 
 void ApplicaLingua(Ambiente& ambiente, platform::Form& form) {
   const QString lingua = ambiente.stato.LinguaCorrente;
-  const QString file = FileLingua(ambiente);
+  const QString file = FileCorrente(ambiente);
   // The caption and the tag are set also when the file has no text for them: it blanks them.
   if (!form.caption().isEmpty()) {
     IgnoraErrori([&] {
@@ -148,8 +123,9 @@ void ApplicaLingua(Ambiente& ambiente, platform::Form& form) {
 QString ParolaLingua(Ambiente& ambiente, const QString& sezione, const char* chiave,
                      const QString& italiana) {
   QString testo;
-  IgnoraErrori(
-      [&] { testo = LeggiChiave(ambiente, FileLingua(ambiente), sezione, QLatin1String(chiave)); });
+  IgnoraErrori([&] {
+    testo = LeggiChiave(ambiente, FileCorrente(ambiente), sezione, QLatin1String(chiave));
+  });
   return testo.isEmpty() ? italiana : testo;
 }
 

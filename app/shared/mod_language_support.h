@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 namespace platform::inline forms {
 class Form;
@@ -12,11 +11,8 @@ namespace somme::inline condiviso {
 
 class Ambiente;
 
-// The language files: profile files "<language>.lng" in the program's folder, with a section for
-// each form and the section "Strings" for what the code composes. ".lng" in any case of letters.
-
-// The languages that there are, by the names of their files, sorted without case; each once.
-[[nodiscard]] QStringList LingueNellaCartella(const Ambiente& ambiente);
+// The language files (file_lingua.h) in the program's folder: a section for each form, and the
+// section "Strings" for what the code composes.
 
 // A value of a profile file; empty where the key is absent. Throws RunTimeError(FileNotFound) for a
 // file that does not exist.

@@ -1,6 +1,7 @@
 #include "exercises/abacus/forma_abaco.h"
 
 #include "app/shared/modulo_colori_suoni.h"
+#include "exercises/abacus/clip_abaco.h"
 #include "exercises/core/quantita.h"
 #include "platform/forms/gate.h"
 
@@ -8,35 +9,9 @@ namespace somme::inline abaco {
 
 namespace {
 
-// The properties of a clip that the form sets.
-constexpr int kAlfa = 6;
-constexpr int kVisibile = 7;
-
 constexpr double kPasso = 0.03;  // seconds
 
-// The clips' names without their number.
-struct Clip {
-  QLatin1String sulFerro;
-  QLatin1String inAttesa;
-};
-constexpr std::array<Clip, kPosti> kClip{{{QLatin1String("u"), QLatin1String("ua")},
-                                          {QLatin1String("da"), QLatin1String("daa")},
-                                          {QLatin1String("h"), QLatin1String("ha")},
-                                          {QLatin1String("k"), QLatin1String("ka")}}};
-
-constexpr const Clip& ClipDi(Posto posto) {
-  return kClip[static_cast<std::size_t>(posto)];
-}
-
 }  // namespace
-
-QString ClipSulFerro(Posto posto, int numero) {
-  return ClipDi(posto).sulFerro + QString::number(numero);
-}
-
-QString ClipInAttesa(Posto posto, int numero) {
-  return ClipDi(posto).inAttesa + QString::number(numero);
-}
 
 // The way out leads to the main menu, not to the family's. Kept: see docs/oddities.md.
 FormaAbaco::FormaAbaco(Ambiente& ambiente, const platform::FormDesign& disegno,

@@ -6,10 +6,6 @@
 
 namespace somme::inline abaco {
 
-// The clips of the movie: bead `numero` of a place, 0 to 9, on its spike or waiting beside it.
-[[nodiscard]] QString ClipSulFerro(Posto posto, int numero);
-[[nodiscard]] QString ClipInAttesa(Posto posto, int numero);
-
 // The places as they stand on the abacus, from the left.
 inline constexpr std::array kFerri{Posto::Migliaia, Posto::Centinaia, Posto::Decine, Posto::Unita};
 

@@ -4,6 +4,7 @@
 
 #include "app/shared/mod_language_support.h"
 #include "exercises/abacus/casella_dietro.h"
+#include "exercises/abacus/clip_abaco.h"
 #include "exercises/abacus/disegno_abaco.h"
 #include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
