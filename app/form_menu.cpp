@@ -113,11 +113,7 @@ FormMenu::FormMenu(Ambiente& ambiente) : Forma(ambiente, Disegno()) {
   Command1.onClick([this] { this->ambiente().fondo.endProcess(0); });
   for (int i = 0; const VoceFamiglia& famiglia : LeFamiglie()) {
     platform::Button& pulsante = Voce(i++);
-    pulsante.onClick([this, &famiglia] {
-      const Modo modo = ModoDi(stato().ModalitaInput);
-      VaiA(famiglia.menu.empty() ? Strada(this->ambiente().forme, famiglia.famiglia, modo)
-                                 : famiglia.menu);
-    });
+    pulsante.onClick([this, &famiglia] { VaiA(famiglia.forma); });
     pulsante.shareCaptionSize(scritte_);
   }
   HScrollScansione.onChange([this] { CambiaTempo(); });

@@ -75,8 +75,7 @@ constexpr bool Conduce(const VoceFamiglia& voce) {
   const auto alSuoPosto = [&voce](const VoceFamiglia& altra) {
     return altra.sinistra == voce.sinistra && altra.alto == voce.alto;
   };
-  return (voce.menu.empty() ? SiOffre(kForme, voce.famiglia, Modo::MouseTastiera)
-                            : SchedaDi(kForme, voce.menu).genere == Genere::Menu) &&
+  return Quante(voce.forma) == 1 &&
          std::ranges::count(famiglie::kNelMenu, voce.pulsante, &VoceFamiglia::pulsante) == 1 &&
          std::ranges::count_if(famiglie::kNelMenu, alSuoPosto) == 1;
 }

@@ -17,8 +17,8 @@ struct VoceFamiglia {
   std::string_view parole;    // UTF-8
   std::string_view immagine;  // a drawing of the program's, by its name
   platform::Rgb tinta;
-  Famiglia famiglia;      // while it cannot be answered in the pupil's way, the button is hidden
-  std::string_view menu;  // where it leads; without one, to the family's exercise at once
+  Famiglia famiglia;       // while it cannot be answered in the pupil's way, the button is hidden
+  std::string_view forma;  // the form that it leads to: a menu, or an exercise
 };
 
 // The families, in the order of the main menu.
