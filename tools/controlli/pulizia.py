@@ -1,5 +1,6 @@
-"""clang-tidy over the program's files. The files of a room are read several at a time, since most of what
-one takes are the headers that all of them include."""
+"""clang-tidy over the program's files, and over what stands beside it where that has changed. The files of
+a room, and the tests of a folder, are read several at a time, since most of what one takes are the headers
+that all of them include."""
 
 import concurrent.futures
 import os
@@ -14,17 +15,22 @@ PROGRAMMA = "clang-tidy-16"
 # Files that are read together: more of them would leave a core without work at the end.
 _INSIEME = 30
 _LIBRERIE = ("Qt6DBus", "Qt6Network", "Qt6Widgets")
+# What tests, tools, benches and fuzz targets need beside these.
+_LIBRERIE_ACCANTO = ("Qt6Svg", "Qt6Test")
+_ACCANTO = ("bench/", "fuzz/", "swf/", "tests/", "tools/")
 
 
 def cambiati():
-    """The program's files that differ from those of main, or from the last commit where this is main."""
+    """The files that differ from those of main, or from the last commit where this is main: of the program
+    and of what stands beside it."""
     base = subprocess.run(["git", "merge-base", "HEAD", "main"], capture_output=True, text=True,
                           check=False).stdout.strip() or "HEAD"
     diversi = subprocess.run(["git", "diff", "--name-only", "--diff-filter=d", base],
                              capture_output=True, text=True, check=False).stdout.splitlines()
     nuovi = subprocess.run(["git", "ls-files", "--others", "--exclude-standard"],
                            capture_output=True, text=True, check=False).stdout.splitlines()
-    return sorted({*diversi, *nuovi} & set(da_leggere()))
+    accanto = {f for f in sorgenti.cpp() if f.startswith(_ACCANTO) and "/windows/" not in f}
+    return sorted({*diversi, *nuovi} & {*da_leggere(), *accanto})
 
 
 def da_leggere():
@@ -47,16 +53,25 @@ def nomi_propri(file):
 _COMUNI = ("app/shared", "cases", "exercises/core", "games", "immagini", "input", "printing")
 
 
+def _insieme(percorso):
+    """What a file may be read together with: its room, for tests their folder, else nothing."""
+    stanza = sorgenti.stanza(percorso)
+    if stanza is None:
+        return percorso.rpartition("/")[0] if percorso.endswith("_test.cpp") else percorso
+    return "" if stanza in _COMUNI else stanza
+
+
 def gruppi(file):
     """Lists of files to read together, none of them with a name that another one defines as well. Headers
     go with the first sources."""
     per_stanza = {}
     for percorso in sorted(file):
-        nomi = nomi_propri(percorso) if percorso.endswith(".cpp") else set()
-        stanza = sorgenti.stanza(percorso)
-        posti = per_stanza.setdefault("" if stanza in _COMUNI else stanza, [])
+        sorgente = percorso.endswith(".cpp")
+        # Each file of tests has a namespace of its own.
+        nomi = nomi_propri(percorso) if sorgente and not percorso.endswith("_test.cpp") else set()
+        posti = per_stanza.setdefault(_insieme(percorso), [])
         for gruppo, visti in posti:
-            if not nomi or not nomi & visti and len(gruppo) < _INSIEME:
+            if not sorgente or not nomi & visti and len(gruppo) < _INSIEME:
                 gruppo.append(percorso)
                 visti |= nomi
                 break
@@ -66,14 +81,31 @@ def gruppi(file):
             for posti in per_stanza.values() for gruppo, _ in posti]
 
 
-def _opzioni():
-    """How the compiler is called; None where a library's headers are missing."""
-    esito = subprocess.run(["pkg-config", "--cflags", *_LIBRERIE], capture_output=True, text=True,
+def _opzioni(file, cartella):
+    """How the compiler is called for those files; None where a library's headers are missing. cartella: for
+    what the build would make of them."""
+    accanto = [f for f in file if sorgenti.stanza(f) is None]
+    librerie = (*_LIBRERIE, *_LIBRERIE_ACCANTO) if accanto else _LIBRERIE
+    esito = subprocess.run(["pkg-config", "--cflags", *librerie], capture_output=True, text=True,
                            check=False)
     if esito.returncode:
         return None
-    return ["-std=c++20", "-fPIC", f"-I{os.getcwd()}",
-            *(re.sub("^-I", "-isystem", opzione) for opzione in esito.stdout.split())]
+    opzioni = ["-std=c++20", "-fPIC", f"-I{os.getcwd()}",
+               *(re.sub("^-I", "-isystem", opzione) for opzione in esito.stdout.split())]
+    if accanto:
+        opzioni += [f"-I{os.path.abspath('tests')}", f"-I{cartella}",
+                    *(f'-D{nome}=""' for nome in _nomi_del_build())]
+    for moc in {m for f in accanto for m in re.findall(r'#include "(\w+\.moc)"', sorgenti.testo(f))}:
+        with open(os.path.join(cartella, moc), "w", encoding="utf-8"):
+            pass
+    return opzioni
+
+
+def _nomi_del_build():
+    """The names by which the build tells tests and tools where things lie."""
+    return sorted({nome for f in sorgenti.tutti()
+                   if f.startswith(_ACCANTO) and f.endswith("CMakeLists.txt")
+                   for nome in re.findall(r'\b([A-Z][A-Z_]+)="', sorgenti.testo(f))})
 
 
 _DETTO = re.compile(r"^(?P<file>/[^:\n]+):(?P<riga>\d+):\d+: (?:error|warning): (?P<che>.*)$", re.M)
@@ -107,20 +139,20 @@ def _letti(gruppo, filtro, opzioni, cartella):
 
 
 def guasti(file):
-    """What clang-tidy finds in those files of the program."""
+    """What clang-tidy finds in those files."""
     if not file:
         return
     if not shutil.which(PROGRAMMA):
         yield f"{PROGRAMMA} is missing: tools/installa check"
         return
-    opzioni = _opzioni()
-    if opzioni is None:
-        yield f"{PROGRAMMA} needs the headers of Qt: tools/installa build"
-        return
     filtro = f"^({'|'.join(re.escape(os.path.abspath(f)) for f in file)})$"
     detti = set()
     with tempfile.TemporaryDirectory() as cartella, \
             concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0))) as insieme:
+        opzioni = _opzioni(file, cartella)
+        if opzioni is None:
+            yield f"{PROGRAMMA} needs the headers of Qt: tools/installa build"
+            return
         for trovati in insieme.map(lambda g: _letti(g, filtro, opzioni, cartella), gruppi(file)):
             detti |= trovati
     for percorso, riga, che in sorted(detti):

@@ -259,6 +259,19 @@ class Casa(unittest.TestCase):
         self.file(cases__a_cpp="int f() { return missing; }\n")
         self.assertIn("undeclared identifier", "".join(self.pulisci("cases/a.cpp")))
 
+    def test_clang_tidy_reads_tests_with_what_the_build_gives_them(self):
+        prova = ('#include "support/s.h"\n\nnamespace %s_test {\nconst char* where = FOLDER;\n'
+                 "double half(int a) { return a / 2; }\n}\n\n#include \"%s_test.moc\"\n")
+        self.file(tests__cases__a_test_cpp=prova % ("a", "a"), tests__cases__b_test_cpp=prova % ("b", "b"),
+                  tests__support__s_h="#pragma once\nstruct S {};\n")
+        with open("tests/cases/CMakeLists.txt", "w", encoding="utf-8") as file:
+            file.write('target_compile_definitions(x PRIVATE FOLDER="${A}")\n')
+        sorgenti.tutti.cache_clear()
+        nomi = ["tests/cases/a_test.cpp", "tests/cases/b_test.cpp", "tests/support/s.h"]
+        self.assertEqual([nomi[:2], nomi[2:]], pulizia.gruppi(nomi))
+        self.assertEqual(["tests/cases/a_test.cpp:5", "tests/cases/b_test.cpp:5"],
+                         [":".join(t.split(":")[:2]) for t in self.pulisci(*nomi)])
+
     def test_what_differs_from_main_is_changed_be_it_committed_or_not(self):
         self.git("checkout", "-q", "-b", "main")
         self.file(cases__a_cpp="", cases__b_cpp="", cases__c_cpp="", cases__d_cpp="", tests__e_cpp="")
@@ -269,7 +282,8 @@ class Casa(unittest.TestCase):
         self.git("commit", "-q", "-a", "-m", "b")
         os.remove("cases/d.cpp")
         self.file(cases__b_cpp="int b;\n", games__f_cpp="", tests__e_cpp="int e;\n")
-        self.assertEqual(["cases/a.cpp", "cases/b.cpp", "games/f.cpp"], pulizia.cambiati())
+        self.assertEqual(["cases/a.cpp", "cases/b.cpp", "games/f.cpp", "tests/e.cpp"],
+                         pulizia.cambiati())
 
     def test_the_length_of_functions_is_measured(self):
         self.file(cases__a_cpp="int f(int a) {\n  if (a) {\n    return 1;\n  }\n  return 2;\n}\n"
