@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <QImage>
+#include <QPixmap>
 #include <QWidget>
+#include <algorithm>
 
 #include "app/tabella_forme.h"
 #include "exercises/core/forma_esercizio.h"
@@ -18,10 +20,13 @@ namespace {
 
 // The place of a label's last letter, a nought, in its picture: the letters are dark, the ground is
 // not. Border and corners are left out.
-QRect ultimaCifra(const QImage& immagine) {
+QRect ultimaCifra(const QPixmap& etichetta) {
   constexpr int kBordo = 3;
+  const QImage immagine = etichetta.toImage().convertToFormat(QImage::Format_RGB32);
   const auto scura = [&immagine](int x, int y) {
-    return immagine.pixelColor(x, y).lightness() < 70;
+    const QRgb punto = reinterpret_cast<const QRgb*>(immagine.constScanLine(y))[x];
+    const auto [minore, maggiore] = std::minmax({qRed(punto), qGreen(punto), qBlue(punto)});
+    return (minore + maggiore) / 2 < 70;
   };
   const auto colonna = [&](int x) {
     for (int y = kBordo; y < immagine.height() - kBordo; ++y) {
@@ -63,8 +68,8 @@ class ConteggiGemelliTest : public QObject {
       banco.ambiente->stato.ContaEsatti = 120;
       banco.ambiente->stato.ContaErrati = 0;
       const auto& forma = banco.apri<FormaEsercizio>(scheda.nome);
-      const QRect esatti = ultimaCifra(forma.EtichettaEsatti.widget()->grab().toImage());
-      const QRect errati = ultimaCifra(forma.EtichettaErrati.widget()->grab().toImage());
+      const QRect esatti = ultimaCifra(forma.EtichettaEsatti.widget()->grab());
+      const QRect errati = ultimaCifra(forma.EtichettaErrati.widget()->grab());
       QVERIFY2(esatti.height() > 4, qPrintable(forma.name()));
       const QString misure = QStringLiteral("%1: %2x%3, %4x%5")
                                  .arg(forma.name())
