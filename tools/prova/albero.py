@@ -15,6 +15,8 @@ NESSUNO = 0, 0  # none of them: they come in two numbers of 32 bits
 DELLO_SCHERMO = dbus.UInt32(0)  # where places are counted from
 # Seconds for which what a look at the whole tree has told need not be asked again.
 FRESCO = 0.03
+# Seconds from one question to the next while something is waited for: at first, and at most.
+FRA_DUE_DOMANDE, FRA_DUE_AL_PIU = 0.1, 0.4
 # Seconds to wait for an answer.
 PAZIENZA = 20 * float(os.environ.get("LENTEZZA", 1))
 
@@ -212,6 +214,7 @@ class Albero:
         che_cosa: in words, for the complaint when the time is over or the program has ended.
         """
         fine = time.monotonic() + secondi
+        pausa = FRA_DUE_DOMANDE
         while True:
             risposta = domanda()
             if risposta:
@@ -221,7 +224,9 @@ class Albero:
                 raise TempoScaduto(f"waiting for {che_cosa}: the program has ended ({stato})")
             if time.monotonic() > fine:
                 raise TempoScaduto(f"waiting for {che_cosa}; on the screen:\n{self.racconta()}")
-            time.sleep(0.1)
+            # What takes long is asked for less often: a look costs the program as much as who looks.
+            time.sleep(pausa)
+            pausa = min(pausa * 1.3, FRA_DUE_AL_PIU)
 
     def aspetta_oggetto(self, ruolo, nome, secondi=PAZIENZA):
         return self.aspetta(f"{ruolo} {nome!r}", lambda: self.cerca(ruolo, nome), secondi)
