@@ -30,7 +30,7 @@ constexpr Look AspettoVoce(std::string_view testo, std::string_view figura,
                            std::optional<Rgb> tinta = {}) {
   return {.caption = testo, .font = {Face::Tahoma, 14.25, true}, .back = tinta, .picture = figura};
 }
-constexpr TwipsRect Posto(double sinistra, double alto) {
+constexpr TwipsRect PostoVoce(double sinistra, double alto) {
   return {sinistra, alto, 2580, 1155};
 }
 
@@ -38,7 +38,7 @@ constexpr TwipsRect Posto(double sinistra, double alto) {
 constexpr double kSecondiPerScatto = 0.25;
 
 constexpr auto kControlli = std::to_array<Row>({
-    row<&FormMenu::Command1>(Posto(6600, 4680), AspettoVoce("Esci", "esci")),
+    row<&FormMenu::Command1>(PostoVoce(6600, 4680), AspettoVoce("Esci", "esci")),
     AmicoDiBlocchi<FormMenu>({6600, 1500, 1200, 1500}),
     AmicoAbaco<FormMenu>({7980, 1500, 1200, 1500}),
     row<&FormMenu::PictureTempoScansione>(
@@ -92,7 +92,7 @@ constexpr auto kMenu = std::to_array<Row>({
 });
 
 Row PulsanteDi(const VoceFamiglia& voce, std::size_t quale) {
-  return {voce.pulsante, -1, kVoci<FormMenu>.at(quale), Posto(voce.sinistra, voce.alto),
+  return {voce.pulsante, -1, kVoci<FormMenu>.at(quale), PostoVoce(voce.sinistra, voce.alto),
           AspettoVoce(voce.parole, voce.immagine, voce.tinta)};
 }
 

@@ -130,9 +130,11 @@ def _letto(gruppo, filtro, opzioni, cartella):
 def _letti(gruppo, filtro, opzioni, cartella):
     """The same; where names of two files come in each other's way after all, each of these by itself."""
     detti = _letto(gruppo, filtro, opzioni, cartella)
-    soli = {f for f, _, che in detti if che.endswith("[clang-diagnostic-error]")} & set(gruppo)
-    if not soli or len(gruppo) == 1:
+    rotti = {f for f, _, che in detti if che.endswith("[clang-diagnostic-error]")}
+    if not rotti or len(gruppo) == 1:
         return detti
+    # A name may come in the way of what a file includes, too: then nobody knows whose it is.
+    soli = rotti & set(gruppo) or set(gruppo)
     altri = [f for f in gruppo if f not in soli]
     return set().union(*(_letti(g, filtro, opzioni, cartella)
                          for g in (altri, *([f] for f in sorted(soli))) if g))

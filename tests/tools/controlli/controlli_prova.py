@@ -255,6 +255,13 @@ class Casa(unittest.TestCase):
         self.assertEqual(1, len(trovati), trovati)
         self.assertIn("bugprone-integer-division", trovati[0])
 
+    def test_files_are_read_by_themselves_where_one_comes_in_the_way_of_what_another_includes(self):
+        self.file(cases__a_h="#pragma once\nenum class Posto { Uno };\nPosto posto();\n",
+                  games__b_cpp="constexpr int Posto() { return 1; }\n\ndouble half(int a) { return a / 2; }\n",
+                  games__c_cpp='#include "cases/a.h"\n')
+        trovati = self.pulisci("games/b.cpp", "games/c.cpp")
+        self.assertEqual(["games/b.cpp:3"], [":".join(t.split(":")[:2]) for t in trovati])
+
     def test_a_file_that_does_not_compile_is_told(self):
         self.file(cases__a_cpp="int f() { return missing; }\n")
         self.assertIn("undeclared identifier", "".join(self.pulisci("cases/a.cpp")))
