@@ -36,7 +36,8 @@ ENTRO = float(os.environ.get("ASCOLTATA_ENTRO", "0.3"))  # seconds; more on a ma
 AL_PIU = 12  # events of the accessibility bus at a verdict
 VECCHIO = "Focus:"  # tells a change of the focus again, in older words
 ASPETTA = 15  # seconds
-TOCCHI_DI_ALT, RESTA = 5, 2  # taps of Alt, and the seconds that each has to give the menu bar the keyboard
+TOCCHI_DI_ALT, TOCCO_DI_ALT = 5, 0.1  # taps of Alt, and the seconds that the first is held
+RESTA = 2  # the seconds that each has to give the menu bar the keyboard
 SILENZIO, PAZIENZA = 0.25, 3  # seconds: the reader's silence that a hand waits for, and how long
 BOTTONE_DETTO = " push button."
 COL_MOUSE = "/mouse"
@@ -189,8 +190,11 @@ class Ascoltato(_Ascoltato, SoloTasti):
     def _entra_nella_barra(self):
         # The toolkit hands each key to the reader first, and on a busy machine a tap of Alt has been seen to
         # give the menu bar the keyboard for a moment only. The keys without a reader are tried elsewhere.
-        for _ in range(TOCCHI_DI_ALT):
-            self.mani.batti("alt")
+        for tocco in range(TOCCHI_DI_ALT):
+            # Held longer each time: what the reader is told of the press, it has then taken before the release.
+            self.mani.giu("alt")
+            time.sleep(TOCCO_DI_ALT * 2 ** tocco)
+            self.mani.su("alt")
             fine = time.monotonic() + RESTA
             while not self._voce_col_fuoco() and time.monotonic() < fine:
                 time.sleep(0.05)
