@@ -4,11 +4,13 @@
     primo_tasto.py <program> [<desktop>]
 
 The first key in what Alt and a letter have opened acts, also while Alt is still held; a key that is
-held over the opening does not act there; Esc closes the dialog after it has closed a list. The desktop
-is one of schermo_wayland.py, "x11" where none is named. Ends with 0 when all of this holds.
+held over the opening does not act there, also where the program hears late that it has gone up; Esc
+closes the dialog after it has closed a list. The desktop is one of schermo_wayland.py, "x11" where none
+is named. Ends with 0 when all of this holds.
 """
 
 import os
+import signal
 import subprocess
 import sys
 import threading
@@ -18,7 +20,8 @@ sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "tools", 
 
 from schermo_wayland import schermo as schermo_di  # noqa: E402
 
-# What is done, by xdotool, and the lines that it must have brought by its end, in order.
+# What is done, by xdotool or by a signal to the program, and the lines that it must have brought by its end,
+# in order.
 PROVE = [
     ("menu, by arrow and Enter", [("key", "alt+m"), ("key", "Down"), ("key", "Return")],
      ["item chosen"]),
@@ -29,6 +32,10 @@ PROVE = [
     ("box, by the Enter that opened it", [("key", "Tab"), ("key", "shift+Tab"),
                                           ("keydown", "Return"), ("wait", "1"),
                                           ("keyup", "Return")], ["box open"]),
+    ("box, by the next Enter", [("key", "Return")], ["box closed"]),
+    ("box, by the Enter that opened it, of whose end a busy program hears late",
+     [("keydown", "Return"), ("wait", "1"), ("program", "STOP"), ("keyup", "Return"),
+      ("program", "CONT")], ["box open"]),
     ("box, by the next Enter", [("key", "Return")], ["box closed"]),
     ("dialog, by Esc", [("key", "alt+d"), ("key", "Escape")], ["dialog open", "dialog closed"]),
     ("dialog opened again, by Esc", [("key", "alt+d"), ("key", "Escape")], ["dialog open", "dialog closed"]),
@@ -80,6 +87,9 @@ class Tasti:
         while len(self.righe) < quante and time.monotonic() < fine:
             time.sleep(0.05)
 
+    def segnala(self, segnale):
+        self._processo.send_signal(segnale)
+
     def chiudi(self):
         self._processo.termina()
 
@@ -90,8 +100,11 @@ def fai(tasti, gesti, attese):
         if gesto == "wait":
             time.sleep(float(cosa))
             continue
-        tasti.schermo.attendi_il_fuoco()
-        subprocess.run(["xdotool", gesto, cosa], check=True, timeout=30)
+        if gesto == "program":
+            tasti.segnala(signal.Signals["SIG" + cosa])
+        else:
+            tasti.schermo.attendi_il_fuoco()
+            subprocess.run(["xdotool", gesto, cosa], check=True, timeout=30)
         time.sleep(tasti.pausa)
     tasti.attendi(len(attese))
     return list(tasti.righe)

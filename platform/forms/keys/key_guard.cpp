@@ -138,11 +138,13 @@ bool KeyGuard::mayGoOn(const QWindow& window, int destination) {
 }
 
 // A box or dialog takes no key before every key that was held at its opening has been let go. What
-// has gone down since, this press among it, holds nothing up.
-bool KeyGuard::isBlocked(const QWindow& window) {
+// has gone down since, this press among it, holds nothing up. A busy program hears of a repeat when
+// the key is up again: of the pressed key itself its release alone tells.
+bool KeyGuard::isBlocked(const QWindow& window, KeyId pressed) {
   if (isShut(window)) return true;
   if (isMainWindow(window) || !state_.anyHeldOver()) return false;
-  if (const auto down = keysDownNow()) {
+  if (auto down = keysDownNow()) {
+    down->push_back(pressed);
     state_.stillHeldOver(*down);
   } else if (now() - lastSign_ > kUntold) {
     state_.stillHeldOver({});
@@ -153,7 +155,7 @@ bool KeyGuard::isBlocked(const QWindow& window) {
 bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
   if (isModifier(event.key())) return false;
   if (event.isAutoRepeat()) lastSign_ = now();
-  const bool blocked = isBlocked(window);
+  const bool blocked = isBlocked(window, keyOf(event));
   // With Alt or Ctrl it is the press that acts; no release belongs to it. Enter alone means the
   // same with and without them.
   const bool command =

@@ -42,7 +42,7 @@ class KeyGuard final : public QObject {
  private:
   bool keyPress(QWindow& window, QKeyEvent& event);
   bool keyRelease(QWindow& window, QKeyEvent& event);
-  [[nodiscard]] bool isBlocked(const QWindow& window);
+  [[nodiscard]] bool isBlocked(const QWindow& window, KeyId pressed);
   bool mouse(QWindow& window, const QMouseEvent& event);
   bool worked(QWindow& window, const QKeyEvent& event);
   [[nodiscard]] bool choosesInList(const QKeyEvent& event) const;
