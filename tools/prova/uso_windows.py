@@ -115,4 +115,6 @@ class Prova:
         giocatore.premi("A4", "radio button")
         giocatore.premi("Stampa")
         dopo("foglio")
+        # The file is there before the dialog goes; what is clicked until then is lost.
+        albero.aspetta("the dialog to close", lambda: not albero.cerca(BOTTONE, "Proprietà"))
         giocatore.al_menu()
