@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
-#include <type_traits>
 
 #include "app/famiglie.h"
 #include "app/form_avvio.h"

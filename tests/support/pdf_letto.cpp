@@ -3,9 +3,9 @@
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <algorithm>
-#include <span>
 #include <stdexcept>
+
+#include "support/ink.h"
 
 namespace prova {
 
@@ -85,25 +85,9 @@ QImage PdfLetto::disegna(int pagina, int puntiPerPollice, const QStringList& com
 
 QRectF inchiostro(const QImage& immagine, int puntiPerPollice, int soglia) {
   const QImage colori = immagine.convertToFormat(QImage::Format_RGB32);
-  const auto scuro = [soglia](QRgb punto) { return qGray(punto) < soglia; };
-  int sinistra = colori.width();
-  int destra = -1;
-  int alto = colori.height();
-  int basso = -1;
-  for (int y = 0; y < colori.height(); ++y) {
-    // From both ends: what lies between the first ink of a line and its last is not looked at.
-    const std::span<const QRgb> riga(reinterpret_cast<const QRgb*>(colori.constScanLine(y)),
-                                     size_t(colori.width()));
-    const auto prima = std::find_if(riga.begin(), riga.end(), scuro);
-    if (prima == riga.end()) continue;
-    const auto ultima = std::find_if(riga.rbegin(), riga.rend(), scuro);
-    sinistra = std::min(sinistra, int(prima - riga.begin()));
-    destra = std::max(destra, int(riga.rend() - ultima) - 1);
-    alto = std::min(alto, y);
-    basso = y;
-  }
+  const QRect ink = inkIn(colori, [soglia](QRgb punto) { return qGray(punto) < soglia; });
   const double mm = 25.4 / puntiPerPollice;
-  return {sinistra * mm, alto * mm, (destra + 1 - sinistra) * mm, (basso + 1 - alto) * mm};
+  return {ink.x() * mm, ink.y() * mm, ink.width() * mm, ink.height() * mm};
 }
 
 }  // namespace prova

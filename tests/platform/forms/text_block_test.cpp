@@ -4,11 +4,10 @@
 #include <QImage>
 #include <QPainter>
 #include <QTest>
-#include <algorithm>
 #include <cmath>
-#include <span>
 
 #include "platform/forms/fonts.h"
+#include "support/ink.h"
 #include "support/iscrizione.h"
 #include "support/stand_still.h"
 
@@ -41,25 +40,9 @@ Painted paint(TextBlock& block, QSize room, const QColor& ink, const QColor& gro
     QPainter painter(&paper);
     block.paint(painter, QRect(QPoint(kAround, kAround), room), ink, ground);
   }
-  int left = paper.width();
-  int top = paper.height();
-  int right = -1;
-  int bottom = -1;
-  const auto inked = [plain = ground.rgb()](QRgb pixel) { return pixel != plain; };
-  for (int y = 0; y < paper.height(); ++y) {
-    const std::span<const QRgb> row(reinterpret_cast<const QRgb*>(paper.constScanLine(y)),
-                                    std::size_t(paper.width()));
-    const auto first = std::find_if(row.begin(), row.end(), inked);
-    if (first == row.end()) continue;
-    const auto last = std::find_if(row.rbegin(), row.rend(), inked);
-    left = std::min(left, int(first - row.begin()));
-    right = std::max(right, int(row.rend() - last) - 1);
-    top = std::min(top, y);
-    bottom = y;
-  }
-  if (right < 0) return {{}, paper};
-  return {QRect(QPoint(left - kAround, top - kAround), QPoint(right - kAround, bottom - kAround)),
-          paper};
+  const QRect taken =
+      prova::inkIn(paper, [plain = ground.rgb()](QRgb pixel) { return pixel != plain; });
+  return {taken.translated(-kAround, -kAround), paper};
 }
 
 QFont tahoma(int pixels, bool bold = false) {
