@@ -71,7 +71,7 @@ class _Ascoltato:
         self.mancati = []
         self._udito = 0, 0  # how far all has been found: which one of what was said, how much of it
         self._domanda = None
-        for oggetto, nome in ((self.mani, "_xdotool"), (self.tavoletta, "fai")):
+        for oggetto, nome in ((self.mani, "gesto"), (self.tavoletta, "fai")):
             if oggetto is not None:
                 self.gesti.segna(oggetto, nome, self._lascia_finire)
 

@@ -1,7 +1,6 @@
 """What is on the screen: as a picture, or in short, so that one may look often."""
 
 import ctypes
-import ctypes.util
 import hashlib
 import os
 import struct
@@ -20,16 +19,33 @@ class _Immagine(ctypes.Structure):
 TUTTI_I_PIANI, A_PUNTI = ctypes.c_ulong(-1), 2  # as XGetImage has them
 
 
+class ErroreDisplay(Exception):
+    """The display does not do what it is asked for; the text says what."""
+
+
+def libreria(nome):
+    """One of the window system's libraries, by the name of its file."""
+    return ctypes.CDLL(nome)
+
+
+def apri_display():
+    """A connection with the display that the environment names."""
+    x = libreria("libX11.so.6")
+    x.XOpenDisplay.restype = ctypes.c_void_p
+    display = ctypes.c_void_p(x.XOpenDisplay(os.environ["DISPLAY"].encode()))
+    if not display:
+        raise ErroreDisplay("no display: " + os.environ["DISPLAY"])
+    return display
+
+
 class Vista:
     """Looks at the display that the environment names."""
 
     def __init__(self):
-        x = self._x = ctypes.CDLL(ctypes.util.find_library("X11"))
-        x.XOpenDisplay.restype = x.XGetImage.restype = ctypes.c_void_p
+        x = self._x = libreria("libX11.so.6")
+        x.XGetImage.restype = ctypes.c_void_p
         x.XDefaultRootWindow.restype = ctypes.c_ulong
-        self._display = ctypes.c_void_p(x.XOpenDisplay(os.environ["DISPLAY"].encode()))
-        if not self._display:
-            raise OSError("no display: " + os.environ["DISPLAY"])
+        self._display = apri_display()
         self._radice = ctypes.c_ulong(x.XDefaultRootWindow(self._display))
         self._misure = x.XDisplayWidth(self._display, 0), x.XDisplayHeight(self._display, 0)
 
