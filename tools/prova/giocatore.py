@@ -127,13 +127,16 @@ class Giocatore:
     def etichette(self):
         return [o for o in self.albero.visibili() if o.ruolo == ETICHETTA]
 
+    def conteggi(self):
+        """What the counters show in one moment, by their words; None for one that is not on the screen."""
+        testo = "\n".join(etichetta.nome for etichetta in self.etichette())
+        trovati = {parola: re.search(rf"^{parola}\s+(\d+)$", testo, re.MULTILINE)
+                   for parola in (ESATTI, ERRATI)}
+        return {parola: trovato and int(trovato[1]) for parola, trovato in trovati.items()}
+
     def conta(self, parola):
-        """The number of a counter, None where it is not on the screen."""
-        for etichetta in self.etichette():
-            trovato = re.fullmatch(parola + r"\s+(\d+)", etichetta.nome)
-            if trovato:
-                return int(trovato[1])
-        return None
+        """The number of one counter."""
+        return self.conteggi()[parola]
 
     def termini(self):
         """The written sum, where one term is asked for: three texts, that one empty."""
@@ -183,7 +186,7 @@ class Giocatore:
 
     def contano(self, esatti, errati):
         """The counters stand so and not otherwise."""
-        contati = self.conta(ESATTI), self.conta(ERRATI)
+        contati = tuple(self.conteggi().values())
         if contati != (esatti, errati):
             raise Errore(f"the counters tell {contati} right and wrong answers, not"
                          f" {(esatti, errati)}")
@@ -193,15 +196,18 @@ class Giocatore:
 
         dai: gives it, as the form takes answers. giusto: what the verdict must be.
         """
-        prima = {parola: self.conta(parola) for parola in (ESATTI, ERRATI)}
+        prima = self.conteggi()
         cambia, resta = (ESATTI, ERRATI) if giusto else (ERRATI, ESATTI)
         dai(risposta)
-        self.albero.aspetta(f"the counter {cambia!r} to go up",
-                            lambda: self.conta(cambia) == prima[cambia] + 1)
-        if self.conta(resta) != prima[resta]:
+
+        def salito():
+            poi = self.conteggi()
+            return poi if poi[cambia] == prima[cambia] + 1 else None
+        poi = self.albero.aspetta(f"the counter {cambia!r} to go up", salito)
+        if poi[resta] != prima[resta]:
             raise Errore(f"the counter {resta!r} changed with the answer {risposta}")
         print(f"Answered: {risposta}, {'right' if giusto else 'wrong'}"
-              f" ({ESATTI} {self.conta(ESATTI)}, {ERRATI} {self.conta(ERRATI)})")
+              f" ({ESATTI} {poi[ESATTI]}, {ERRATI} {poi[ERRATI]})")
 
     def avanti(self, tasto):
         """On to the next case by a key; after a right answer the focus is where it leads on."""

@@ -16,8 +16,13 @@ def _sull_abaco(giocatore, che_cosa, detta=True):
 
     detta: whether it is spoken, too; the empty abacus of a new case is not.
     """
+    trovati = []
+
     def detto():
-        return [o.descrizione for o in giocatore.albero.visibili() if o.nome == FAMIGLIA]
+        # To look through the whole tree for each bead would take most of the time of a game.
+        if not any(o.nome == FAMIGLIA and o.visibile for o in trovati):
+            trovati[:] = [o for o in giocatore.albero.visibili() if o.nome == FAMIGLIA]
+        return [o.descrizione for o in trovati]
     giocatore.albero.aspetta(f"{che_cosa!r} on the abacus", lambda: che_cosa in detto(), 30)
     print("Abacus:   " + che_cosa)
     if detta:
