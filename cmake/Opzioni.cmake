@@ -41,7 +41,7 @@ if(SOMME_SANITIZE)
                       -fno-omit-frame-pointer -g1)
   add_link_options(-fsanitize=${SOMME_SANITIZE})
 endif()
-# What a test of forms or movies does itself takes no time; compiling it does. The others reckon.
+# What a test of the program's forms does itself takes no time; compiling it does. The others reckon.
 set(SOMME_TESTS_OPTIONS -O0)
 set(SOMME_RECKONING_TESTS_OPTIONS -O1)
 if(SOMME_FUZZ)
