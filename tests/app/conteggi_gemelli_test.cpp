@@ -24,8 +24,14 @@ QRect ultimaCifra(const QPixmap& etichetta) {
   constexpr int kBordo = 3;
   const QImage immagine = etichetta.toImage().convertToFormat(QImage::Format_RGB32);
   const auto scura = [&immagine](int x, int y) {
+    // Looked at for millions of points: most of them are told by two of their colours.
     const QRgb punto = reinterpret_cast<const QRgb*>(immagine.constScanLine(y))[x];
-    const auto [minore, maggiore] = std::minmax({qRed(punto), qGreen(punto), qBlue(punto)});
+    const int rosso = qRed(punto);
+    const int verde = qGreen(punto);
+    if (rosso + verde >= 280) return false;
+    const int blu = qBlue(punto);
+    const int minore = qMin(qMin(rosso, verde), blu);
+    const int maggiore = qMax(qMax(rosso, verde), blu);
     return (minore + maggiore) / 2 < 70;
   };
   const auto colonna = [&](int x) {

@@ -33,19 +33,38 @@ class FogliStampatiTest : public QObject {
       QTest::newRow(std::string(fogli()[size_t(i)]->nome).c_str()) << i;
     }
   }
-  // The printed page; each sheet is printed once.
-  static QImage stampata(const FoglioTasti& foglio) {
-    static std::map<std::string_view, QImage> pagine;
-    QImage& pagina = pagine[foglio.nome];
-    if (pagina.isNull()) pagina = stampa(foglio);
-    return pagina;
+  struct Stampa {
+    std::vector<QRectF> cornici;  // as they stood on the screen, in millimetres of the print
+    size_t lavori = 0;
+    int pagine = 0;
+    QImage pagina;  // the first one
+  };
+  // Each sheet is printed once.
+  static const Stampa& stampata(const FoglioTasti& foglio) {
+    static std::map<std::string_view, Stampa> stampe;
+    const auto [nota, nuova] = stampe.try_emplace(foglio.nome);
+    if (nuova) nota->second = stampa(foglio);
+    return nota->second;
   }
-  static QImage stampa(const FoglioTasti& foglio) {
+  static Stampa stampa(const FoglioTasti& foglio) {
     DialogoDiProva prova({1366, 768});
     prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
-    mostra(prova, foglio.nome, [](FoglioTastiera&, frmAvviaStampa& d) { d.cmdStampa.click(); });
-    if (prova.banco.stampanti.lavori.empty()) return {};
-    return PdfLetto(prova.banco.stampanti.lavori[0].pages).immagine(1, kPunti);
+    Stampa stampa;
+    mostra(prova, foglio.nome, [&stampa](FoglioTastiera& f, frmAvviaStampa& d) {
+      for (int i = 0; i < f.Shape1.count(); ++i) {
+        const QRectF posto = postoDi(f.Shape1[i]);
+        stampa.cornici.emplace_back(posto.x() / f.width() * 400, posto.y() / f.height() * 280,
+                                    posto.width() / f.width() * 400,
+                                    posto.height() / f.height() * 280);
+      }
+      d.cmdStampa.click();
+    });
+    stampa.lavori = prova.banco.stampanti.lavori.size();
+    if (stampa.lavori == 0) return stampa;
+    const PdfLetto letto(prova.banco.stampanti.lavori[0].pages);
+    stampa.pagine = letto.pagine();
+    stampa.pagina = letto.immagine(1, kPunti);
+    return stampa;
   }
   // Of a frame on the 400 by 280 mm of the print, in millimetres.
   static QRectF suCarta(const FoglioTasti& foglio, int cornice) {
@@ -114,7 +133,7 @@ class FogliStampatiTest : public QObject {
   void drawingsKeepClearOfTheirFrames() {
     QFETCH(int, quale);
     const FoglioTasti& foglio = *fogli()[size_t(quale)];
-    const QImage pagina = stampata(foglio);
+    const QImage& pagina = stampata(foglio).pagina;
     int disegni = 0;
     for (int i = 0; i < foglio.tastiera.Posti(); ++i) {
       const somme::TastoPosato tasto = foglio.TastoDi(i + 1);
@@ -141,7 +160,7 @@ class FogliStampatiTest : public QObject {
                                                {somme::Tasto::Centinaia, QColor(93, 220, 90)},
                                                {somme::Tasto::Decine, QColor(255, 90, 82)},
                                                {somme::Tasto::Unita, QColor(74, 151, 245)}};
-    const QImage pagina = stampata(foglio);
+    const QImage& pagina = stampata(foglio).pagina;
     for (int i = 0; i < foglio.tastiera.Posti(); ++i) {
       const auto tinta = tinte.find(foglio.TastoDi(i + 1).tasto);
       if (vuota(foglio, i) || tinta == tinte.end()) continue;
@@ -164,21 +183,10 @@ class FogliStampatiTest : public QObject {
   void everyPrintedFrameFallsOnItsKey() {
     QFETCH(int, quale);
     const FoglioTasti& foglio = *fogli()[size_t(quale)];
-    DialogoDiProva prova({1366, 768});
-    prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
-    std::vector<QRectF> attesi(size_t(foglio.tastiera.Posti()));  // millimetres
-    mostra(prova, foglio.nome, [&](FoglioTastiera& f, frmAvviaStampa& d) {
-      for (int i = 0; i < f.Shape1.count(); ++i) {
-        const QRectF posto = postoDi(f.Shape1[i]);
-        attesi[size_t(i)] = {posto.x() / f.width() * 400, posto.y() / f.height() * 280,
-                             posto.width() / f.width() * 400, posto.height() / f.height() * 280};
-      }
-      d.cmdStampa.click();
-    });
-    QCOMPARE(prova.banco.stampanti.lavori.size(), size_t(1));
-    const PdfLetto letto(prova.banco.stampanti.lavori[0].pages);
-    QCOMPARE(letto.pagine(), 1);
-    const QImage pagina = letto.immagine(1, kPunti);
+    const auto& [attesi, lavori, pagine, pagina] = stampata(foglio);
+    QCOMPARE(attesi.size(), size_t(foglio.tastiera.Posti()));
+    QCOMPARE(lavori, size_t(1));
+    QCOMPARE(pagine, 1);
     const double mm = 25.4 / kPunti;
     for (size_t i = 0; i < attesi.size(); ++i) {
       // The frame and half a cell around it, which is less than the gaps.
