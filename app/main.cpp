@@ -18,6 +18,7 @@
 #include "platform/forms/bridge_messages.h"
 #include "platform/forms/desktop_motion.h"
 #include "platform/forms/fonts.h"
+#include "platform/forms/pictures.h"
 #include "platform/forms/qt_announcer.h"
 #include "platform/forms/qt_message_boxes.h"
 #include "platform/forms/qt_page_setup.h"
@@ -45,7 +46,7 @@ void PreparaAspetto() {
   // A program that is carried about brings its own fonts.
   platform::addFontsIn(QCoreApplication::applicationDirPath() + QStringLiteral("/caratteri"));
   platform::applyAppearance(
-      {QStringLiteral(":/immagini"), QStringLiteral("informazione"), QStringLiteral("attenzione")});
+      {somme::CartellaImmagini(), QStringLiteral("informazione"), QStringLiteral("attenzione")});
   somme::PreparaImmagini();
 }
 
@@ -65,6 +66,7 @@ int main(int /*argc*/, char* argv[]) {
   platform::SeededChance sorte(0);
   const auto suono = platform::systemSound(QApplication::beep);
   platform::QtAnnouncer annunci;
+  platform::Pictures immagini(somme::CartellaImmagini());
   const auto documenti = platform::systemDocuments();
   platform::SystemProcessEnd fine;
   const auto istanza = platform::systemInstanceLock(QCoreApplication::applicationFilePath());
@@ -83,8 +85,8 @@ int main(int /*argc*/, char* argv[]) {
       [&tutto] { return somme::ParolePagina(*tutto); },
       [](const platform::Paper& carta) { return somme::NomeDellaCarta(carta); }, sopra);
   somme::Ambiente ambiente(
-      {tempo, sorte, *suono, messaggi, annunci, *documenti, fine, *istanza, stampanti, pagina, rete,
-       QCoreApplication::applicationDirPath(), CartellaUtente(), &moto},
+      {tempo, sorte, *suono, messaggi, annunci, immagini, *documenti, fine, *istanza, stampanti,
+       pagina, rete, QCoreApplication::applicationDirPath(), CartellaUtente(), &moto},
       somme::LeForme());
   tutto = &ambiente;
   const platform::SessionEnd fineSessione(ambiente.fondo);

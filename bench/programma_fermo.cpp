@@ -35,6 +35,7 @@ somme::Servizi ProgrammaFermo::servizi(const QString& cartella, const Propri& pr
                          scelto(propri.suono, suono_),
                          messaggi_,
                          scelto(propri.annunci, annunci_),
+                         immagini_,
                          documenti_,
                          fine_,
                          istanza_,

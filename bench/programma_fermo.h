@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "app/shared/ambiente.h"
+#include "immagini/immagini.h"
 #include "platform/devices/qt_time_source.h"
 #include "servizi_fermi.h"
 #include "tools/tavoletta/tavoletta.h"
@@ -33,6 +34,7 @@ class ProgrammaFermo {
   Muto suono_;
   Zitto messaggi_;
   Tacito annunci_;
+  platform::Pictures immagini_{somme::CartellaImmagini()};
   Chiuso documenti_;
   Uscita fine_;
   Solo istanza_;

@@ -12,9 +12,9 @@ Ambiente::Ambiente(const Servizi& dati, TabellaForme tabella)
 Ambiente::Ambiente(const Servizi& dati, TabellaForme tabella, platform::Forms::Factory crea)
     : servizi(dati),
       forme(tabella),
-      fondo({dati.tempo, dati.messaggi, dati.fine, dati.annunci, &dati.rete, dati.moto},
-            TitoloProgramma(), QStringLiteral(":/immagini"), QStringLiteral("puntatore"),
-            std::move(crea)) {}
+      fondo({dati.tempo, dati.messaggi, dati.fine, dati.annunci, dati.immagini, &dati.rete,
+             dati.moto},
+            TitoloProgramma(), QStringLiteral("puntatore"), std::move(crea)) {}
 
 std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view nome) {
   const SchedaForma scheda = SchedaDi(ambiente.forme, nome);

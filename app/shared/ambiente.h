@@ -21,6 +21,7 @@ struct Servizi {
   platform::Sound& suono;
   platform::MessageBoxes& messaggi;
   platform::Announcer& annunci;
+  platform::Pictures& immagini;
   platform::Documents& documenti;
   platform::ProcessEnd& fine;
   platform::InstanceLock& istanza;

@@ -19,12 +19,10 @@ constexpr int kFailedStatus = 1;
 
 }  // namespace
 
-Runtime::Runtime(RuntimeServices services, QString title, QString pictures, QString pointer,
-                 Forms::Factory factory)
+Runtime::Runtime(RuntimeServices services, QString title, QString pointer, Forms::Factory factory)
     : services_(services),
       title_(std::move(title)),
       pointerName_(std::move(pointer)),
-      pictures_(std::move(pictures)),
       gate_([this](const RunTimeError& error) { failed(error); }, [this] { forms_.bury(); }),
       window_(std::make_unique<Window>(services.time,
                                        [this] {
@@ -42,8 +40,8 @@ Runtime::~Runtime() {
 const QCursor& Runtime::pointer() {
   if (!pointer_) {
     const qreal ratio = window_->devicePixelRatioF();
-    QPixmap image = pictures_.pixmap(pointerName_, {kPointerSize, kPointerSize}, ratio);
-    const QPoint tip = pictures_.hotSpot(pointerName_, {kPointerSize, kPointerSize});
+    QPixmap image = services_.pictures.pixmap(pointerName_, {kPointerSize, kPointerSize}, ratio);
+    const QPoint tip = services_.pictures.hotSpot(pointerName_, {kPointerSize, kPointerSize});
     pointer_ = std::make_unique<QCursor>(image, tip.x(), tip.y());
   }
   return *pointer_;

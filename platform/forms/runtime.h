@@ -24,6 +24,7 @@ struct RuntimeServices {
   MessageBoxes& boxes;
   ProcessEnd& end;
   Announcer& announcer;
+  Pictures& pictures;          // the program's drawings
   Network* network = nullptr;  // none under forms without sockets
   Motion* motion = nullptr;    // none: nothing moves for show
 };
@@ -32,10 +33,9 @@ struct RuntimeServices {
 // handlers, the keys. Everything that a form needs of the ground is reached from here.
 class Runtime final : public Ground {
  public:
-  // title: the program's, for message boxes. pictures: where its drawings lie. pointer: the name of
-  // the drawing of the program's own mouse pointer. factory: makes a form from its name.
-  Runtime(RuntimeServices services, QString title, QString pictures, QString pointer,
-          Forms::Factory factory);
+  // title: the program's, for message boxes. pointer: the name of the drawing of the program's own
+  // mouse pointer. factory: makes a form from its name.
+  Runtime(RuntimeServices services, QString title, QString pointer, Forms::Factory factory);
   ~Runtime() override;
 
   [[nodiscard]] Forms& forms() { return forms_; }
@@ -47,7 +47,7 @@ class Runtime final : public Ground {
   [[nodiscard]] Announcer& announcer() override { return services_.announcer; }
   [[nodiscard]] Network* network() override { return services_.network; }
   [[nodiscard]] Gate& gate() override { return gate_; }
-  [[nodiscard]] Pictures& pictures() override { return pictures_; }
+  [[nodiscard]] Pictures& pictures() override { return services_.pictures; }
   [[nodiscard]] bool mayMove() override;
   [[nodiscard]] const QCursor& pointer() override;
   BoxAnswer showBox(const MessageBox& box) override;
@@ -69,7 +69,6 @@ class Runtime final : public Ground {
   QString title_;
   QString pointerName_;
   std::unique_ptr<QCursor> pointer_;
-  Pictures pictures_;
   Gate gate_;
   std::unique_ptr<Window> window_;
   Forms forms_;

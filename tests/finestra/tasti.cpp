@@ -114,6 +114,7 @@ int main(int argc, char* argv[]) {
   platform::QtTimeSource time;
   platform::SystemProcessEnd end;
   platform::QtAnnouncer announcer;
+  platform::Pictures none{QString()};
   platform::Runtime* ground = nullptr;
   platform::QtMessageBoxes boxes(
       [] {
@@ -121,8 +122,7 @@ int main(int argc, char* argv[]) {
                                      QStringLiteral("No")};
       },
       [&ground] { return &ground->window(); });
-  platform::Runtime runtime({time, boxes, end, announcer}, QStringLiteral("Tasti"), QString(),
-                            QString(),
+  platform::Runtime runtime({time, boxes, end, announcer, none}, QStringLiteral("Tasti"), QString(),
                             [&ground](std::string_view name) { return make(*ground, name); });
   ground = &runtime;
   runtime.forms().show("FormTasti");

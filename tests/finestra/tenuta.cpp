@@ -66,9 +66,10 @@ int main(int argc, char* argv[]) {
   platform::SystemProcessEnd end;
   platform::QtAnnouncer announcer;
   NoBoxes boxes;
+  platform::Pictures none{QString()};
   platform::Runtime* ground = nullptr;
   platform::Runtime runtime(
-      {time, boxes, end, announcer}, QStringLiteral("Conta"), QString(), QString(),
+      {time, boxes, end, announcer, none}, QStringLiteral("Conta"), QString(),
       [&ground](std::string_view) { return std::make_shared<FormConta>(*ground); });
   ground = &runtime;
   runtime.forms().show("FormConta");

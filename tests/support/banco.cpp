@@ -35,9 +35,9 @@ Banco::Banco(QSize lato, Forme forme, somme::TabellaForme tabella) {
     QFile::link(filmati.filePath(nome), percorso(QStringLiteral("swf/") + nome));
   }
   ambiente = std::make_unique<somme::Ambiente>(
-      somme::Servizi{tempo, sorte, suono, messaggi, annunci, documenti, fine, istanza, stampanti,
-                     pagina, rete, cartella.path(), utente.filePath(QStringLiteral("config/somme")),
-                     &moto},
+      somme::Servizi{tempo, sorte, suono, messaggi, annunci, disegni(), documenti, fine, istanza,
+                     stampanti, pagina, rete, cartella.path(),
+                     utente.filePath(QStringLiteral("config/somme")), &moto},
       tabella, [this, forme = std::move(forme)](std::string_view nome) {
         return forme ? forme(*ambiente, nome) : somme::CreaForma(*ambiente, nome);
       });

@@ -20,8 +20,8 @@ class FondoDiProva {
     somme::PreparaImmagini();
     platform::applyAppearance();
     runtime_ = std::make_unique<platform::Runtime>(
-        platform::RuntimeServices{tempo, messaggi, fine, annunci}, QStringLiteral("Prova"),
-        QStringLiteral(":/immagini"), QStringLiteral("puntatore"),
+        platform::RuntimeServices{tempo, messaggi, fine, annunci, disegni()},
+        QStringLiteral("Prova"), QStringLiteral("puntatore"),
         [this](std::string_view) { return std::make_shared<F>(*runtime_); });
     runtime_->window().setMinimumSize(1, 1);
     runtime_->window().resize(lato);

@@ -2,7 +2,16 @@
 
 #include <QTest>
 
+#include "immagini/immagini.h"
+#include "platform/forms/pictures.h"
+
 namespace prova {
+
+platform::Pictures& disegni() {
+  // It stays: what it holds may not outlive Qt, and the end of a program comes later.
+  static auto& disegni = *new platform::Pictures(somme::CartellaImmagini());
+  return disegni;
+}
 
 float SorteDiProva::fraction() {
   if (alTiro) alTiro();

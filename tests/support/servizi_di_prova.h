@@ -13,6 +13,10 @@
 #include "platform/base/message_boxes.h"
 #include "platform/base/services.h"
 
+namespace platform::inline forms {
+class Pictures;
+}
+
 // The services of the program as a test hands them in: chance is scripted, everything else is
 // recorded.
 namespace prova {
@@ -84,6 +88,10 @@ class AnnunciDiProva final : public platform::Announcer {
   int davanti = 0;  // boxes that stand in front now
   std::function<void()> allAnnuncio;
 };
+
+// The program's drawings, the same in the whole test: read and drawn for one form, they are there
+// for the next.
+platform::Pictures& disegni();
 
 // Pictures stand still, as most tests want them, until a test lets them move.
 class MotoDiProva final : public platform::Motion {

@@ -14,8 +14,8 @@ Stage::Stage(QSize size) {
   somme::PreparaImmagini();
   applyAppearance();
   runtime = std::make_unique<Runtime>(
-      RuntimeServices{time, boxes, end, announcer, nullptr, &motion}, QStringLiteral("The program"),
-      QStringLiteral(":/immagini"), QStringLiteral("puntatore"),
+      RuntimeServices{time, boxes, end, announcer, prova::disegni(), nullptr, &motion},
+      QStringLiteral("The program"), QStringLiteral("puntatore"),
       [this](std::string_view name) { return make(name); });
   runtime->window().setMinimumSize(1, 1);
   if (size.isEmpty()) return;
