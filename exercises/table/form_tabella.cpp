@@ -8,7 +8,7 @@
 
 namespace somme::inline tabella {
 
-using namespace disegno;
+using namespace nucleo::disegno;
 using Difficolta = PartitaTabella::Difficolta;
 
 namespace {

@@ -1,8 +1,9 @@
 """clang-tidy over the program's files, and over what stands beside it where that has changed. The files of
-a room, and the tests of a folder, are read several at a time, since most of what one takes are the headers
+the program, and the tests of a folder, are read many at a time, since most of what one takes are the headers
 that all of them include."""
 
 import concurrent.futures
+import math
 import os
 import re
 import shutil
@@ -12,8 +13,8 @@ import tempfile
 from . import sorgenti
 
 PROGRAMMA = "clang-tidy-16"
-# Files that are read together: more of them would leave a core without work at the end.
-_INSIEME = 30
+# Sources that are read together: more of them would leave a core without work at the end.
+_INSIEME = 45
 _LIBRERIE = ("Qt6DBus", "Qt6Network", "Qt6Widgets")
 # What tests, tools, benches and fuzz targets need beside these.
 _LIBRERIE_ACCANTO = ("Qt6Svg", "Qt6Test")
@@ -49,36 +50,46 @@ def nomi_propri(file):
     return {trovato["nome"] for trovato in _NOME_PROPRIO.finditer(sorgenti.codice(file))}
 
 
-# Rooms of which the files may be read together: in what several of them see names mean one thing.
-_COMUNI = ("app/shared", "cases", "exercises/core", "games", "immagini", "input", "printing")
-
-
 def _insieme(percorso):
-    """What a file may be read together with: its room, for tests their folder, else nothing."""
+    """What a file may be read together with: the program, for tests their folder, else nothing."""
+    if sorgenti.stanza(percorso):
+        return ""
+    return percorso.rpartition("/")[0] if percorso.endswith("_test.cpp") else percorso
+
+
+def _dal_basso(percorso):
+    """The order in which files are read together: a room before those above it, of which it then sees no
+    name, and its headers first."""
     stanza = sorgenti.stanza(percorso)
-    if stanza is None:
-        return percorso.rpartition("/")[0] if percorso.endswith("_test.cpp") else percorso
-    return "" if stanza in _COMUNI else stanza
+    return sorgenti.piano(stanza) if stanza else 0, percorso.endswith(".cpp"), percorso
+
+
+def _spartiti(file):
+    """Files that may be read together, in groups of one size. Two of a room go into two of them where both
+    define a name; a name of two rooms is to each its own. Headers go into the first."""
+    fonti = sorted(f for f in file if f.endswith(".cpp"))
+    posti = [([], set()) for _ in range(max(1, math.ceil(len(fonti) / _INSIEME)))]
+    for percorso in fonti:
+        # Each file of tests has a namespace of its own.
+        nomi = {(sorgenti.stanza(percorso), nome)
+                for nome in nomi_propri(percorso) if not percorso.endswith("_test.cpp")}
+        liberi = [posto for posto in posti if not nomi & posto[1]]
+        if not liberi:
+            liberi.append(([], set()))
+            posti += liberi
+        gruppo, visti = min(liberi, key=lambda posto: len(posto[0]))
+        gruppo.append(percorso)
+        visti |= nomi
+    posti[0][0].extend(f for f in file if not f.endswith(".cpp"))
+    return [sorted(gruppo, key=_dal_basso) for gruppo, _ in posti]
 
 
 def gruppi(file):
-    """Lists of files to read together, none of them with a name that another one defines as well. Headers
-    go with the first sources."""
-    per_stanza = {}
+    """Lists of files to read together."""
+    insiemi = {}
     for percorso in sorted(file):
-        sorgente = percorso.endswith(".cpp")
-        # Each file of tests has a namespace of its own.
-        nomi = nomi_propri(percorso) if sorgente and not percorso.endswith("_test.cpp") else set()
-        posti = per_stanza.setdefault(_insieme(percorso), [])
-        for gruppo, visti in posti:
-            if not sorgente or not nomi & visti and len(gruppo) < _INSIEME:
-                gruppo.append(percorso)
-                visti |= nomi
-                break
-        else:
-            posti.append(([percorso], nomi))
-    return [sorted(gruppo, key=lambda f: (f.endswith(".cpp"), f))
-            for posti in per_stanza.values() for gruppo, _ in posti]
+        insiemi.setdefault(_insieme(percorso), []).append(percorso)
+    return [gruppo for insieme in insiemi.values() for gruppo in _spartiti(insieme)]
 
 
 def _opzioni(file, cartella):

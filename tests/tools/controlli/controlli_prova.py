@@ -242,10 +242,24 @@ class Casa(unittest.TestCase):
     def test_files_with_names_in_common_are_read_apart_and_others_together(self):
         uno = "namespace {\nconstexpr int kUno = 1;\n}\nint A::f() {\n  return kUno;\n}\n"
         self.file(cases__a_cpp=uno, cases__b_cpp=uno.replace("A::", "B::"),
-                  cases__c_cpp="int C::f() {\n  return 3;\n}\n", cases__d_h="", app__e_cpp="")
-        self.assertEqual([["app/e.cpp"], ["cases/d.h", "cases/a.cpp", "cases/c.cpp"], ["cases/b.cpp"]],
-                         pulizia.gruppi(["cases/a.cpp", "cases/b.cpp", "cases/c.cpp", "cases/d.h",
-                                         "app/e.cpp"]))
+                  cases__c_cpp="int C::f() {\n  return 3;\n}\n", cases__d_h="", app__e_cpp=uno, app__f_h="")
+        self.assertEqual([["cases/d.h", "cases/a.cpp", "app/f.h", "app/e.cpp"], ["cases/b.cpp", "cases/c.cpp"]],
+                         pulizia.gruppi(["app/e.cpp", "app/f.h", "cases/a.cpp", "cases/b.cpp", "cases/c.cpp",
+                                         "cases/d.h"]))
+
+    def test_what_is_read_together_is_read_from_the_ground_up(self):
+        self.file(platform__base__a_cpp="int f() {\n  return 1;\n}\n\ndouble half(int a) { return a / 2; }\n",
+                  app__b_h="#define f broken(\n",
+                  app__c_cpp='#include "app/b.h"\n\ndouble third(int a) { return a / 3; }\n')
+        nomi = ["app/b.h", "app/c.cpp", "platform/base/a.cpp"]
+        self.assertEqual([[nomi[2], *nomi[:2]]], pulizia.gruppi(nomi))
+        self.assertEqual(["app/c.cpp:3", "platform/base/a.cpp:5"],
+                         [":".join(t.split(":")[:2]) for t in self.pulisci(*nomi)])
+
+    def test_many_files_are_read_in_groups_of_one_size(self):
+        nomi = [f"cases/a{i}.cpp" for i in range(100)]
+        self.file(**{nome.replace("/", "__").replace(".", "_"): "" for nome in nomi})
+        self.assertEqual([34, 33, 33], [len(gruppo) for gruppo in pulizia.gruppi(nomi)])
 
     def test_files_that_come_in_each_others_way_are_read_by_themselves(self):
         self.file(cases__a_h="struct Posto {};\n",
