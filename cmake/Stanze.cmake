@@ -92,8 +92,8 @@ endfunction()
 # Tests: the classes of a folder make one program, test_<folder>, of the files <name>_test.cpp beside the
 # caller and of SOURCES. ctest runs each class in a process of its own, as folder/name. Tests run
 # without a display unless they say otherwise. Nine of a weight run at once for each core. One of these
-# weighs four, since it keeps a core busy; one that mostly waits weighs one. They begin
-# after the longest of those, and before the others, so that work and waiting go side by side to the end.
+# weighs four, since it keeps a core busy; one that mostly waits weighs one. What waits begins first, the
+# longest of all before the others: at the end nothing is waited for.
 #
 # Classes that may not share a program with their neighbours, for what they link, say APART <word>: theirs
 # is test_<folder>_<word>.

@@ -103,7 +103,14 @@ class BoundedWorkTest : public QObject {
         milliseconds(500)));
     QVERIFY(!begun);
     release->set_value();
-    QTRY_COMPARE(work.run<int>([](Waiting&) { return 2; }, milliseconds(5000)), std::optional(2));
+    // Asked no more once it has come: what has just been done may still count among what hangs.
+    std::optional<int> result;
+    const auto comes = [&] {
+      if (!result) result = work.run<int>([](Waiting&) { return 2; }, milliseconds(5000));
+      return result.has_value();
+    };
+    QTRY_VERIFY(comes());
+    QCOMPARE(result, std::optional(2));
   }
 };
 
