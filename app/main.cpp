@@ -72,7 +72,6 @@ int main(int /*argc*/, char* argv[]) {
   const auto istanza = platform::systemInstanceLock(QCoreApplication::applicationFilePath());
   platform::SystemPrinters stampanti(
       tempo, {platform::PdfFolder::usualFolders(), [] { return QDateTime::currentDateTime(); }});
-
   platform::LoopbackNetwork rete;
   platform::DesktopMotion moto;
 
