@@ -1,15 +1,18 @@
 #!/usr/bin/python3
-"""Clones the repository into a fresh Debian in which nothing but git is installed, and calls its commands.
+"""Clones the repository, and calls the clone's commands in a fresh Debian in which nothing but git is
+installed.
 
-    clone.py <folder for the pictures> [<command> ...]
+    clone.py <folder> [<command> ...]
 
-The commands are those of a newcomer, "./run" where none is given. What a command needs and does not
-install by itself is missing there, and makes it fail. The tree goes at the end; its pictures stay.
-Ends with 77 where no fresh Debian can be made.
+The clone goes into the folder, with what has been changed and not committed. It has the same path in the
+Debian, and stays with all that was built there: outside, other commands go on with that. The commands are
+those of a newcomer, "./run" where none is given. What a command needs and does not install by itself is
+missing there, and makes it fail. Ends with 77 where no fresh Debian can be made; the clone is there then,
+too.
 """
 
 import os
-import shutil
+import signal
 import sys
 import tempfile
 import time
@@ -19,43 +22,45 @@ from giocatore import Errore
 from installazione import Debian, SenzaDebian, esegui
 
 NON_QUI = 77  # the exit status that says so
-CLONE = "/opt/clone"
 
 
-def clona(albero):
+def clona(cartella):
+    """Only what git knows is in it, as it is for everybody."""
     qui = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..")
-    albero.apt("install", "-y", "git", "ca-certificates")
-    esegui("git", "clone", "--quiet", "--no-hardlinks", qui, albero.dentro(CLONE))
+    cambiato = esegui("git", "-C", qui, "stash", "create").strip()
+    esegui("git", "clone", "--quiet", "--no-hardlinks", qui, cartella)
+    if cambiato:
+        esegui("git", "-C", cartella, "checkout", "--quiet", "--detach", cambiato)
 
 
-def prova(albero, comando):
+def prova(albero, cartella, comando):
     """Shows what the command says as it says it."""
     print(f"{comando} in a fresh Debian", flush=True)
     inizio = time.monotonic()
-    esito = chiama(albero.radice, CLONE, ["sh", "-c", comando])
+    esito = chiama(albero.radice, cartella, ["sh", "-c", comando], esterna=True)
     if esito != 0:
         raise Errore(f"{comando} ended with {esito} in a fresh Debian")
     print(f"{comando} in a fresh Debian: {time.monotonic() - inizio:.0f} s", flush=True)
 
 
 def main():
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     cartella, *comandi = sys.argv[1:]
+    cartella = os.path.abspath(cartella)
     with tempfile.TemporaryDirectory(prefix="clone-") as radice:
-        albero = Debian(radice)
         try:
+            clona(cartella)
+            albero = Debian(radice)
             albero.crea()
-            clona(albero)
+            albero.apt("install", "-y", "git", "ca-certificates")
             for comando in comandi or ["./run"]:
-                prova(albero, comando)
+                prova(albero, cartella, comando)
         except SenzaDebian as perche:
             print(f"There is no fresh Debian to be had here: {perche}", file=sys.stderr)
             return NON_QUI
         except Errore as errore:
             print(f"Failed: {errore}", file=sys.stderr)
             return 1
-        foto = albero.dentro(CLONE, "build/immagini")
-        if os.path.isdir(foto):
-            shutil.copytree(foto, cartella, dirs_exist_ok=True)
     return 0
 
 

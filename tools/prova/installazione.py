@@ -92,7 +92,11 @@ class Debian(Albero):
         self._architettura = architettura
 
     def crea(self):
-        """The tree, with its package lists. Raises SenzaDebian where machine or archive give none."""
+        """The tree, with its package lists. Raises SenzaDebian where machine or archive give none. Where
+        DEBIAN_PRONTA names one that debian.py has made it is a copy of that."""
+        if "DEBIAN_PRONTA" in os.environ and not self._architettura:
+            esegui("cp", "-a", "--reflink=auto", os.path.join(os.environ["DEBIAN_PRONTA"], "."), self.radice)
+            return
         if os.geteuid() != 0 or shutil.which("debootstrap") is None:
             raise SenzaDebian("that takes root and debootstrap")
         try:
@@ -106,12 +110,15 @@ class Debian(Albero):
         """Raises SenzaDebian where the machine or its archive give none."""
         self.crea()
         shutil.copy(pacchetto, self.dentro("/tmp/somme.deb"))
-        # What the package asks for must be there; whether the archive hands it over is another
-        # matter.
-        self.apt("install", "-s", "/tmp/somme.deb")
-        self.apt("install", "-y", "--download-only", "/tmp/somme.deb", errore=SenzaDebian)
+        self.scarica("/tmp/somme.deb")
         self.apt("install", "-y", "/tmp/somme.deb")
         self._raggiungi_il_desktop()
+
+    def scarica(self, *pacchetti):
+        """The files of packages and of all that they need. What they ask for must be there; whether the
+        archive hands it over is another matter."""
+        self.apt("install", "-s", *pacchetti)
+        self.apt("install", "-y", "--download-only", *pacchetti, errore=SenzaDebian)
 
     def _raggiungi_il_desktop(self):
         """Sockets of the desktop outside have the same path in the tree."""
@@ -143,6 +150,9 @@ class Debian(Albero):
         altra = (f"--arch={self._architettura}",) if self._architettura else ()
         esegui("debootstrap", "--variant=minbase", *altra, nome, self.radice, sito,
                pazienza=PAZIENZA, errore=SenzaDebian)
+        # What a trial installs need not outlive a loss of power.
+        with open(self.dentro("/etc/dpkg/dpkg.cfg.d/senza-attese"), "w", encoding="ascii") as file:
+            file.write("force-unsafe-io\n")
         for cosa in ("sources.list", "sources.list.d", "apt.conf.d", "trusted.gpg.d"):
             da, a = os.path.join("/etc/apt", cosa), self.dentro("/etc/apt", cosa)
             if os.path.isfile(da):
