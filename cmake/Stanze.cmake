@@ -91,7 +91,7 @@ endfunction()
 
 # Tests: the classes of a folder make one program, test_<folder>, of the files <name>_test.cpp beside the
 # caller and of SOURCES. ctest runs each class in a process of its own, as folder/name. Tests run
-# without a display unless they say otherwise. Nine of a weight run at once for each core. One of these
+# without a display unless they say otherwise. Twelve of a weight run at once for each core. One of these
 # weighs four, since it keeps a core busy; one that mostly waits weighs one. What waits begins first, the
 # longest of all before the others: at the end nothing is waited for.
 #
