@@ -2,12 +2,13 @@
 #include <QImage>
 #include <QPixmap>
 #include <QWidget>
-#include <algorithm>
+#include <cstdlib>
 
 #include "app/tabella_forme.h"
 #include "exercises/core/forma_esercizio.h"
 #include "support/banco.h"
 #include "support/come_dal_menu.h"
+#include "support/ink.h"
 #include "support/iscrizione.h"
 #include "support/lati_e_lingue.h"
 
@@ -23,34 +24,20 @@ namespace {
 QRect ultimaCifra(const QPixmap& etichetta) {
   constexpr int kBordo = 3;
   const QImage immagine = etichetta.toImage().convertToFormat(QImage::Format_RGB32);
-  const auto scura = [&immagine](int x, int y) {
-    // Looked at for millions of points: most of them are told by two of their colours.
-    const QRgb punto = reinterpret_cast<const QRgb*>(immagine.constScanLine(y))[x];
-    const int rosso = qRed(punto);
-    const int verde = qGreen(punto);
-    if (rosso + verde >= 280) return false;
-    const int blu = qBlue(punto);
-    const int minore = qMin(qMin(rosso, verde), blu);
-    const int maggiore = qMax(qMax(rosso, verde), blu);
+  const auto scura = [](QRgb punto) {
+    const int minore = qMin(qMin(qRed(punto), qGreen(punto)), qBlue(punto));
+    const int maggiore = qMax(qMax(qRed(punto), qGreen(punto)), qBlue(punto));
     return (minore + maggiore) / 2 < 70;
   };
-  const auto colonna = [&](int x) {
-    for (int y = kBordo; y < immagine.height() - kBordo; ++y) {
-      if (scura(x, y)) return true;
-    }
-    return false;
+  const auto striscia = [&](int da, int a) {
+    return immagine.copy(da, kBordo, a - da + 1, immagine.height() - 2 * kBordo);
   };
-  int destra = immagine.width() - 1 - kBordo;
-  while (destra > kBordo && !colonna(destra)) --destra;
+  const auto colonna = [&](int x) { return !prova::inkIn(striscia(x, x), scura).isEmpty(); };
+  const int destra =
+      prova::inkIn(striscia(kBordo, immagine.width() - 1 - kBordo), scura).right() + kBordo;
   int sinistra = destra;
   while (sinistra > kBordo && colonna(sinistra - 1)) --sinistra;
-  QRect cifra;
-  for (int x = sinistra; x <= destra; ++x) {
-    for (int y = kBordo; y < immagine.height() - kBordo; ++y) {
-      if (scura(x, y)) cifra |= QRect(x, y, 1, 1);
-    }
-  }
-  return cifra;
+  return prova::inkIn(striscia(sinistra, destra), scura);
 }
 
 }  // namespace

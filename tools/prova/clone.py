@@ -12,16 +12,13 @@ too.
 """
 
 import os
-import signal
 import sys
 import tempfile
 import time
 
 from dentro import chiama
 from giocatore import Errore
-from installazione import Debian, SenzaDebian, esegui
-
-NON_QUI = 77  # the exit status that says so
+from installazione import Debian, esegui, esito
 
 
 def clona(cartella):
@@ -37,31 +34,25 @@ def prova(albero, cartella, comando):
     """Shows what the command says as it says it."""
     print(f"{comando} in a fresh Debian", flush=True)
     inizio = time.monotonic()
-    esito = chiama(albero.radice, cartella, ["sh", "-c", comando], esterna=True)
-    if esito != 0:
-        raise Errore(f"{comando} ended with {esito} in a fresh Debian")
+    stato = chiama(albero.radice, cartella, ["sh", "-c", comando], esterna=True)
+    if stato != 0:
+        raise Errore(f"{comando} ended with {stato} in a fresh Debian")
     print(f"{comando} in a fresh Debian: {time.monotonic() - inizio:.0f} s", flush=True)
 
 
 def main():
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     cartella, *comandi = sys.argv[1:]
     cartella = os.path.abspath(cartella)
-    with tempfile.TemporaryDirectory(prefix="clone-") as radice:
-        try:
+
+    def lavoro():
+        with tempfile.TemporaryDirectory(prefix="clone-") as radice:
             clona(cartella)
             albero = Debian(radice)
             albero.crea()
             albero.apt("install", "-y", "git", "ca-certificates")
             for comando in comandi or ["./run"]:
                 prova(albero, cartella, comando)
-        except SenzaDebian as perche:
-            print(f"There is no fresh Debian to be had here: {perche}", file=sys.stderr)
-            return NON_QUI
-        except Errore as errore:
-            print(f"Failed: {errore}", file=sys.stderr)
-            return 1
-    return 0
+    return esito(lavoro)
 
 
 if __name__ == "__main__":

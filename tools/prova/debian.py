@@ -9,13 +9,10 @@ Ends with 77 where no fresh Debian can be made.
 """
 
 import os
-import signal
 import sys
 
-from giocatore import Errore
-from installazione import Debian, SenzaDebian
+from installazione import Debian, esito
 
-NON_QUI = 77  # the exit status that says so
 PACCHETTI = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "pacchetti")
 
 
@@ -27,22 +24,16 @@ def di_chi_comincia():
 
 
 def main():
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     cartella = os.path.abspath(sys.argv[1])
-    os.makedirs(cartella, mode=0o755)
-    try:
+
+    def lavoro():
+        os.makedirs(cartella, mode=0o755)
         albero = Debian(cartella)
         albero.crea()
         albero.scarica(*di_chi_comincia())
-    except SenzaDebian as perche:
-        print(f"There is no fresh Debian to be had here: {perche}", file=sys.stderr)
-        return NON_QUI
-    except Errore as errore:
-        print(f"Failed: {errore}", file=sys.stderr)
-        return 1
-    with open(cartella + ".fatta", "w", encoding="ascii"):
-        pass
-    return 0
+        with open(cartella + ".fatta", "w", encoding="ascii"):
+            pass
+    return esito(lavoro)
 
 
 if __name__ == "__main__":

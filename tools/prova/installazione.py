@@ -4,6 +4,7 @@ import os
 import shutil
 import signal
 import subprocess
+import sys
 
 from giocatore import Errore
 
@@ -12,6 +13,7 @@ NESSUNO = 65534
 # Seconds after which an archive that does not answer counts as none.
 PAZIENZA = 900 * float(os.environ.get("LENTEZZA", 1))
 PAZIENZA_ARCHIVIO = 60
+NON_QUI = 77  # the exit status of what this machine cannot do
 
 
 class SenzaDebian(Exception):
@@ -33,6 +35,21 @@ def esegui(*comando, pazienza=None, errore=Errore, **opzioni):
     if processo.returncode != 0:
         raise errore(f"{' '.join(comando)} failed:\n{detto}")
     return detto
+
+
+def esito(lavoro):
+    """Does what is done with a fresh Debian, which ends with all that it started also where it is ended from
+    outside. Gives the exit status: 0, 1, or NON_QUI where no fresh Debian can be made."""
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    try:
+        lavoro()
+    except SenzaDebian as perche:
+        print(f"There is no fresh Debian to be had here: {perche}", file=sys.stderr)
+        return NON_QUI
+    except Errore as errore:
+        print(f"Failed: {errore}", file=sys.stderr)
+        return 1
+    return 0
 
 
 def termina(processo, secondi=30):

@@ -1,13 +1,13 @@
 """Mouse and keyboard, as a pupil uses them: events of the display server at places of the screen."""
 
 import ctypes
-import os
 import time
 
-from vista import ErroreDisplay, apri_display, libreria
+from vista import X11, ErroreDisplay, apri_display
 
 # The keys that go together with others; a display knows two of each.
 CON_ALTRI = {"alt": "Alt_L", "ctrl": "Control_L", "shift": "Shift_L"}
+XTEST = "libXtst.so.6"
 SINISTRO = 1  # the button of the mouse
 STESSO_SCHERMO = -1
 BATTUTA = 0.012  # seconds from the press of a key to its release
@@ -22,7 +22,7 @@ class _Dispositivi:
 
     def __init__(self):
         """Those of the display that the environment names."""
-        self._x, self._xtest = libreria("libX11.so.6"), libreria("libXtst.so.6")
+        self._x, self._xtest = ctypes.CDLL(X11), ctypes.CDLL(XTEST)
         self._x.XStringToKeysym.restype = ctypes.c_ulong
         self._x.XKeysymToKeycode.restype = ctypes.c_ubyte
         self._display = apri_display()

@@ -16,6 +16,7 @@ class _Immagine(ctypes.Structure):
                 ("profondita", ctypes.c_int), ("byte_per_riga", ctypes.c_int)]
 
 
+X11 = "libX11.so.6"
 TUTTI_I_PIANI, A_PUNTI = ctypes.c_ulong(-1), 2  # as XGetImage has them
 
 
@@ -23,14 +24,9 @@ class ErroreDisplay(Exception):
     """The display does not do what it is asked for; the text says what."""
 
 
-def libreria(nome):
-    """One of the window system's libraries, by the name of its file."""
-    return ctypes.CDLL(nome)
-
-
 def apri_display():
     """A connection with the display that the environment names."""
-    x = libreria("libX11.so.6")
+    x = ctypes.CDLL(X11)
     x.XOpenDisplay.restype = ctypes.c_void_p
     display = ctypes.c_void_p(x.XOpenDisplay(os.environ["DISPLAY"].encode()))
     if not display:
@@ -42,7 +38,7 @@ class Vista:
     """Looks at the display that the environment names."""
 
     def __init__(self):
-        x = self._x = libreria("libX11.so.6")
+        x = self._x = ctypes.CDLL(X11)
         x.XGetImage.restype = ctypes.c_void_p
         x.XDefaultRootWindow.restype = ctypes.c_ulong
         self._display = apri_display()
