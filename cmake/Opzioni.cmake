@@ -23,6 +23,11 @@ if(SOMME_WERROR AND ((CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILE
                      OR (CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 17)))
   target_compile_options(somme_opzioni INTERFACE -Werror)
 endif()
+# GCC that does not tidy up its memory while it compiles is done sooner, by a tenth; the largest file takes
+# 0.8 GB instead of 0.75.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  add_compile_options(--param=ggc-min-heapsize=1000000)
+endif()
 # A sum is the same number on every processor, each step of it rounded to its type: so are sounds, places and
 # measurements the same. A product is not kept longer for the sum after it; and x86 of 32 bits reckons by SSE2,
 # which Debian's own Qt asks of it, too, since its older unit rounds later.
