@@ -25,14 +25,18 @@ bool hasJustChanged(std::int64_t changed) {
 ProfileReader::Remembered ProfileReader::load(const QString& path, const FileStamp& stamp) {
   Remembered loaded{.path = path,
                     .stamp = stamp,
-                    .isFresh = hasJustChanged(stamp.changed),
+                    .isUnsure = hasJustChanged(stamp.changed),
                     .content = ProfileText()};
   std::unique_ptr<QFile> file = openWatched(path);
-  if (!file) return loaded;
+  if (!file) {
+    loaded.isUnsure = true;
+    return loaded;
+  }
   if (stamp.size > kSmallFile) {
     loaded.content = std::make_unique<ProfileLines>(std::move(file));
   } else {
     loaded.content = ProfileText(file->read(kSmallFile));
+    loaded.isUnsure = loaded.isUnsure || file->error() != QFileDevice::NoError;
   }
   return loaded;
 }
@@ -41,7 +45,7 @@ void ProfileReader::bringToFront(const QString& path) {
   const auto found = std::find_if(remembered_.begin(), remembered_.end(),
                                   [&](const Remembered& file) { return file.path == path; });
   const std::optional<FileStamp> stamp = stampOf(path);
-  if (found != remembered_.end() && stamp && found->stamp == *stamp && !found->isFresh) {
+  if (found != remembered_.end() && stamp && found->stamp == *stamp && !found->isUnsure) {
     std::rotate(remembered_.begin(), found, found + 1);
     return;
   }

@@ -33,8 +33,9 @@ class ProfileReader final {
   struct Remembered {
     QString path;
     FileStamp stamp;
-    // The file had just changed when it was read: its next change could bear the same time.
-    bool isFresh = false;
+    // To be read again: the file had just changed, so that its next change could bear the same
+    // time, or it could not be read.
+    bool isUnsure = false;
     std::variant<ProfileText, std::unique_ptr<ProfileLines>> content;
   };
 

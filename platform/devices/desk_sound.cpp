@@ -23,11 +23,9 @@ void DeskSound::play(const QString& path) {
     return;
   }
   desk_->leave({path, std::chrono::steady_clock::now()});
-  if (threadStarted_) {
-    return;
-  }
   // Where no thread is to be had there is silence, and another try with the next sound.
-  threadStarted_ = startQuietThread([desk = desk_, serve = serve_] { serve(*desk); });
+  brings_ = brings_ || startQuietThread([desk = desk_] { desk->bringMessages(); });
+  plays_ = plays_ || startQuietThread([desk = desk_, serve = serve_] { serve(*desk); });
 }
 
 }  // namespace platform::inline devices

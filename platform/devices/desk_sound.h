@@ -32,7 +32,8 @@ class DeskSound : public Sound {
  private:
   std::shared_ptr<SoundDesk> desk_;
   Serve serve_;
-  bool threadStarted_ = false;
+  bool brings_ = false;  // the thread that brings what the other says has been started
+  bool plays_ = false;   // the sound thread has
 };
 
 }  // namespace platform::inline devices

@@ -16,6 +16,7 @@ void SoundDesk::close() {
   const std::lock_guard lock(mutex_);
   closed_ = true;
   changed_.notify_one();
+  sent_.notify_one();
 }
 
 std::optional<SoundRequest> SoundDesk::waitForRequest() {
@@ -43,18 +44,29 @@ void SoundDesk::sendComplaint(const std::string& why) {
 }
 
 void SoundDesk::send(std::function<void()> action) {
-  // Under the lock: the program's event queue stands as long as the desk is open.
   const std::lock_guard lock(mutex_);
-  if (closed_) {
-    return;
-  }
-  const auto doIfOpen = [weak = weak_from_this(), action = std::move(action)] {
+  messages_.push_back([weak = weak_from_this(), action = std::move(action)] {
     const auto desk = weak.lock();
     if (desk && !desk->isClosed()) {
       action();
     }
-  };
-  QMetaObject::invokeMethod(QCoreApplication::instance(), doIfOpen, Qt::QueuedConnection);
+  });
+  sent_.notify_one();
+}
+
+void SoundDesk::bringMessages() {
+  // Under the lock: the program's event queue stands as long as the desk is open.
+  std::unique_lock lock(mutex_);
+  while (true) {
+    sent_.wait(lock, [this] { return closed_ || !messages_.empty(); });
+    if (closed_) {
+      return;
+    }
+    for (std::function<void()>& message : std::exchange(messages_, {})) {
+      QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(message),
+                                Qt::QueuedConnection);
+    }
+  }
 }
 
 bool SoundDesk::isClosed() {

@@ -8,6 +8,7 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace platform::inline devices {
 
@@ -22,8 +23,9 @@ struct SoundRequest {
   }
 };
 
-// Where the program and its sound thread meet: the last request that nobody has taken yet, and
-// whether the program is still there to hear. Owned by both. No call holds the other side up.
+// Where the program and its sound thread meet: the last request that nobody has taken yet, what the
+// thread has to say, and whether the program is still there to hear. Owned by both. No call holds
+// the other side up.
 class SoundDesk : public std::enable_shared_from_this<SoundDesk> {
  public:
   // beep: called on the program's thread.
@@ -33,8 +35,12 @@ class SoundDesk : public std::enable_shared_from_this<SoundDesk> {
   // Takes the place of a request that is still waiting.
   void leave(SoundRequest request);
   void beep() const { beep_(); }
-  // The program goes: no beep comes through any more, and the thread ends when it looks.
+  // The program goes: no beep comes through any more, and the threads end when they look.
   void close();
+
+  // The life of a thread beside: brings what the sound thread sends. That one may have no file of
+  // the program's open, and it takes one to wake an event loop.
+  void bringMessages();
 
   // The thread's side.
   // Sleeps until there is a request; nothing when the program has gone.
@@ -54,7 +60,9 @@ class SoundDesk : public std::enable_shared_from_this<SoundDesk> {
   const std::function<void()> beep_;
   std::mutex mutex_;
   std::condition_variable changed_;
+  std::condition_variable sent_;
   std::optional<SoundRequest> request_;
+  std::vector<std::function<void()>> messages_;  // on their way to the program
   bool closed_ = false;
   bool complained_ = false;  // the thread's own
 };

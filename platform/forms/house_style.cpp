@@ -1,5 +1,6 @@
 #include "platform/forms/house_style.h"
 
+#include <QDialogButtonBox>
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
@@ -167,6 +168,13 @@ HouseStyle::HouseStyle(BoxDrawings drawings)
 }
 
 HouseStyle::~HouseStyle() = default;
+
+// The same on every desktop: some have No on the left of Yes.
+int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* answer) const {
+  if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                             const QWidget* widget) const {

@@ -50,7 +50,8 @@ void ModalWindow::stayOver() {
 void ModalWindow::reject() {
   if (form_.isUnloaded()) {
     QDialog::reject();
-  } else {
+  } else if (!form_.ground().isDeaf()) {
+    // While a device is waited for the title bar's button does nothing, like those of the form.
     LoadedForm(form_).runClose();
   }
 }

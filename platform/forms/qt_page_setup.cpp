@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 
+#include "platform/forms/controls/toggle_widget.h"
 #include "platform/forms/fonts.h"
 
 namespace platform::inline forms {
@@ -35,7 +36,7 @@ class Choice {
       : group_(new QButtonGroup(&form)) {
     auto* row = new QHBoxLayout;
     for (int i = 0; i < 2; ++i) {
-      auto* button = new QRadioButton(words.at(size_t(i)));
+      auto* button = new SpaceToggle<QRadioButton>(words.at(size_t(i)));
       button->setMinimumHeight(grown(*form.parentWidget(), kRowHeight));
       button->setAccessibleName(QStringLiteral("%1 %2").arg(label, words.at(size_t(i))));
       group_->addButton(button, i);

@@ -5,7 +5,8 @@
 
 The first key in what Alt and a letter have opened acts, also while Alt is still held; a key that is
 held over the opening does not act there, also where the program hears late that it has gone up; Esc
-closes the dialog after it has closed a list. The desktop is one of schermo_wayland.py, "x11" where none
+closes the dialog after it has closed a list; Enter is the dialog's, not that of an option or a check box,
+and Yes stands on the left of No, whatever other programs of the desktop do. The desktop is one of schermo_wayland.py, "x11" where none
 is named. Ends with 0 when all of this holds.
 """
 
@@ -50,6 +51,13 @@ PROVE = [
                                                    ("keyup", "Down"), ("keyup", "alt"),
                                                    ("key", "Escape"), ("key", "Escape")],
      ["dialog open", "dialog closed"]),
+    ("dialog, box ticked by Space and not by Enter",
+     [("key", "alt+d"), ("key", "Tab"), ("key", "Return"), ("key", "space"), ("key", "Escape")],
+     ["dialog open", "ticked", "dialog closed"]),
+    ("page set-up, an option by its arrow, then Enter",
+     [("key", "alt+s"), ("key", "Tab"), ("key", "Right"), ("key", "Return")],
+     ["setup open", "setup: across"]),
+    ("question, Yes on the left", [("key", "alt+q"), ("key", "Return")], ["question: Yes No"]),
 ]
 PAUSA = 0.5  # seconds after each key; a busy machine shows its windows late
 PAUSA_COMPOSITORE = 1.5  # and one desktop inside of another hands the keyboard on later still

@@ -172,7 +172,9 @@ void PrinterQueues::list(const Found& found) const {
   const QString standard = QPrinterInfo::defaultPrinterName();
   const auto* printers = reinterpret_cast<const PRINTER_INFO_5W*>(room.data());
   for (DWORD i = 0; i < count; ++i) {
-    const bool asks = QString::fromWCharArray(printers[i].pPortName) == u"PORTPROMPT:";
+    // Printers on these ports ask for the name of a file.
+    const QString port = QString::fromWCharArray(printers[i].pPortName);
+    const bool asks = port == u"PORTPROMPT:" || port == u"FILE:";
     const QString name = QString::fromWCharArray(printers[i].pPrinterName);
     if (!asks) found(name, name == standard);
   }

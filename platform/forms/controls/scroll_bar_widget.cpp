@@ -97,6 +97,12 @@ void ScrollBarWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) letGo();
 }
 
+// Under a box that opens no release comes any more.
+bool ScrollBarWidget::event(QEvent* event) {
+  if (event->type() == QEvent::WindowBlocked) letGo();
+  return QSlider::event(event);
+}
+
 void ScrollBarWidget::hideEvent(QHideEvent* event) {
   letGo();
   QSlider::hideEvent(event);

@@ -7,16 +7,32 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include "platform/forms/keys/key_codes.h"
 #include "platform/forms/press_event.h"
 #include "platform/forms/text_block.h"
 
 namespace platform::inline forms {
 
+// Space toggles it. Enter is whose it stands in: on some desktops Qt would take it for a press.
+template <class Base>
+class SpaceToggle : public Base {
+ public:
+  using Base::Base;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    isEnter(event->key()) ? event->ignore() : Base::keyPressEvent(event);
+  }
+  void keyReleaseEvent(QKeyEvent* event) override {
+    isEnter(event->key()) ? event->ignore() : Base::keyReleaseEvent(event);
+  }
+};
+
 // A check box or an option button of Qt's, with the access keys and presses of our own.
 template <class Base, QStyle::ControlElement Element>
-class ToggleWidget : public Base {
+class ToggleWidget : public SpaceToggle<Base> {
  public:
-  explicit ToggleWidget(QWidget* parent) : Base(parent) {}
+  using SpaceToggle<Base>::SpaceToggle;
 
   // caption: "&" stands before the access key.
   void setCaption(const QString& caption) {
@@ -27,7 +43,7 @@ class ToggleWidget : public Base {
 
  protected:
   bool event(QEvent* event) override {
-    if (event->type() != pressEvent()) return Base::event(event);
+    if (event->type() != pressEvent()) return SpaceToggle<Base>::event(event);
     if (this->isEnabled()) this->click();
     return true;
   }

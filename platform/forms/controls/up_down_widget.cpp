@@ -61,6 +61,12 @@ void UpDownWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) letGo();
 }
 
+// Under a box that opens no release comes any more.
+bool UpDownWidget::event(QEvent* event) {
+  if (event->type() == QEvent::WindowBlocked) letGo();
+  return QAbstractSlider::event(event);
+}
+
 void UpDownWidget::hideEvent(QHideEvent* event) {
   letGo();
   QAbstractSlider::hideEvent(event);

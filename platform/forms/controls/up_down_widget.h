@@ -27,6 +27,7 @@ class UpDownWidget final : public QAbstractSlider {
   using QWidget::show;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

@@ -162,7 +162,11 @@ bool KeyGuard::keyPress(QWindow& window, QKeyEvent& event) {
       (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) != 0 && !isEnter(event.key());
   const int destination = blocked || command ? kNobody : destinationOf(window);
   const KeyState::PressResult press = state_.press(inputOf(event), destination);
-  if (press.verdict == KeyState::Press::Repeat) return blocked || !mayRepeat(event);
+  if (press.verdict == KeyState::Press::Repeat) {
+    // Only to who had the press: where that was dropped, the whole hold is.
+    const bool same = press.destination && *press.destination == destination;
+    return blocked || !same || !mayRepeat(event);
+  }
   if (press.released) deliver(*press.released);
   if (press.lost) letGo();
   if (blocked) return true;
@@ -257,23 +261,24 @@ void KeyGuard::windowChanged(QWindow* window) {
 }
 
 // While a form is being shown the old page takes no mouse, and the second half of a double click
-// does not reach a page that came up between the two.
+// does not reach a page that came up between the two, or on which only that second half fell. The
+// release of a press that was dropped may reach no window of ours: a box has opened meanwhile. What
+// is pressed next is then a press of its own.
 bool KeyGuard::mouse(QWindow& window, const QMouseEvent& event) {
   if (event.type() == QEvent::MouseButtonRelease) {
-    const bool drop = dropRelease_;
-    dropRelease_ = false;
+    const bool drop = dropped_.testFlag(event.button());
+    dropped_.setFlag(event.button(), false);
     return drop;
   }
   const bool inMain = isMainWindow(window);
   const int page = forms_.pageNumber();
   const bool stale = inMain && event.type() == QEvent::MouseButtonDblClick && mousePage_ != page;
-  if (isShut(window) || stale) {
-    dropRelease_ = true;
-    return true;
-  }
-  if (inMain && event.type() == QEvent::MouseButtonPress &&
+  const bool drop = isShut(window) || stale;
+  dropped_.setFlag(event.button(), drop);
+  if (drop) return true;
+  if (event.type() == QEvent::MouseButtonPress &&
       !event.flags().testFlag(Qt::MouseEventCreatedDoubleClick)) {
-    mousePage_ = page;
+    mousePage_ = inMain ? page : kNobody;
   }
   return false;
 }

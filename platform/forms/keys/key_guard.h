@@ -68,8 +68,8 @@ class KeyGuard final : public QObject {
   std::vector<KeyId> letGo_;  // since a window of ours last had the keyboard
   std::vector<std::pair<KeyId, std::unique_ptr<QKeyEvent>>> heldBack_;  // releases
   int timer_ = 0;
-  int mousePage_ = -1;        // the page that got the last press
-  bool dropRelease_ = false;  // of a mouse press that was dropped
+  int mousePage_ = -1;          // the page that got the last press; none if that went elsewhere
+  Qt::MouseButtons dropped_{};  // whose press was dropped, and whose release goes the same way
 };
 
 }  // namespace platform::inline forms

@@ -41,6 +41,12 @@ KeyState::PressResult KeyState::press(const KeyInput& input, int destination) {
   return {.verdict = Press::Accepted};
 }
 
+KeyState::PressResult KeyState::repeatOf(const Entry& entry) {
+  PressResult result{.verdict = Press::Repeat};
+  if (!entry.muted) result.destination = entry.key.destination;
+  return result;
+}
+
 KeyState::PressResult KeyState::pressOfKnown(Entry& entry, const KeyInput& input, int destination) {
   const bool released = entry.gone || entry.releasing;
   if (input.flaggedRepeat || (released && belongsTo(input, entry.lastRelease))) {
@@ -50,7 +56,7 @@ KeyState::PressResult KeyState::pressOfKnown(Entry& entry, const KeyInput& input
     entry.gone = false;
     entry.releasing = false;
     entry.lastPress = input;
-    return {};
+    return repeatOf(entry);
   }
   PressResult result{.verdict = Press::Accepted};
   if (entry.releasing) {
@@ -60,7 +66,7 @@ KeyState::PressResult KeyState::pressOfKnown(Entry& entry, const KeyInput& input
   } else if (!entry.gone && marks_ != RepeatMarks::Flagged &&
              distance(entry.lastPress, input) < kLost) {
     entry.lastPress = input;
-    return {};
+    return repeatOf(entry);
   } else if (!entry.gone && !entry.muted) {
     result.lost = entry.key;
   }

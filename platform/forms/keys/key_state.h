@@ -32,6 +32,8 @@ class KeyState {
   enum class Press { Accepted, Repeat };
   struct PressResult {
     Press verdict = Press::Repeat;
+    // With Repeat: who got the press, or nothing where nobody is to hear of the hold.
+    std::optional<int> destination;
     // A release that was kept back and that this press shows to be real: deliver it before the
     // press. Only with Accepted.
     std::optional<HeldKey> released;
@@ -92,6 +94,7 @@ class KeyState {
   Entry* find(KeyId id);
   void remove(KeyId id);
   [[nodiscard]] PressResult pressOfKnown(Entry& entry, const KeyInput& input, int destination);
+  [[nodiscard]] static PressResult repeatOf(const Entry& entry);
   void noteStray(Entry* entry, const KeyInput& input);
   [[nodiscard]] bool belongsTo(const KeyInput& press, const KeyInput& release) const;
 

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -9,6 +10,7 @@
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QtEndian>
 #include <memory>
 
@@ -137,6 +139,18 @@ class SdlSoundTest : public QObject {
     QVERIFY(outcome.ended);
     QCOMPARE(outcome.beeps, 1);
     QVERIFY(outcome.complaintLines() <= 1);
+  }
+
+  void aProgramThatSleepsIsWokenToBeep() {
+    constexpr int kPatience = 10'000;
+    QEventLoop loop;
+    platform::SdlSound sound([&loop] { loop.quit(); });
+    QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
+    QElapsedTimer clock;
+    clock.start();
+    sound.play(write("broken.wav", "no sound"));
+    loop.exec();
+    QVERIFY2(clock.elapsed() < kPatience - 1000, qPrintable(QString::number(clock.elapsed())));
   }
 
   void aSoundThatIsCutShortIsPlayedAsFarAsItGoes() {

@@ -233,6 +233,29 @@ class KeyGuardTest : public QObject {
     stage.release(Qt::Key_X);
     QCOMPARE(box.text(), QStringLiteral("77x"));
   }
+
+  void aDigitThatWentDownUnheardDoesNotRepeat() {
+    Stage stage;
+    TrialForm& form = stage.show(kOne);
+    QLineEdit box(form.page());
+    box.show();
+    box.setFocus();
+    const QString five = QStringLiteral("5");
+    form.run([&] { stage.runtime->waitDeaf([&] { stage.press(Qt::Key_5, {}, five); }); });
+    for (int i = 0; i < 3; ++i) stage.repeat(Qt::Key_5, {}, five);
+    stage.release(Qt::Key_5);
+    QCOMPARE(box.text(), QString());
+    // One that was held over another window.
+    stage.press(Qt::Key_5, {}, five);
+    Q_EMIT qApp->focusWindowChanged(nullptr);
+    Q_EMIT qApp->focusWindowChanged(stage.window());
+    for (int i = 0; i < 3; ++i) stage.repeat(Qt::Key_5, {}, five);
+    QCOMPARE(box.text(), five);
+    stage.release(Qt::Key_5);
+    stage.press(Qt::Key_5, {}, five);
+    stage.repeat(Qt::Key_5, {}, five);
+    QCOMPARE(box.text(), five + five + five);
+  }
 };
 
 const prova::Iscrizione<KeyGuardTest, QApplication> kIscritta;
