@@ -6,7 +6,7 @@ import statistics
 from . import sorgenti, struttura, testo
 
 _CLASSE = re.compile(r"\bclass\s+(\w+)(?:\s+final)?\s*:\s*(?:public|protected|private)\s+"
-                     r"(?:virtual\s+)?([\w:]+)(<[^{]*>)?[^{;]*\{")
+                     r"(?:virtual\s+)?([\w:]+)(?:<[^{]*>)?[^{;]*\{")
 _FUNZIONE = re.compile(r"\)\s*(?:const|noexcept|override|final|->\s*[\w:<>&*\s]+|\s)*"
                        r"(?::\s*[\w:]+[^;{}]*(?:\{[^{};]*\}[^;{}]*)*)?\{")
 
@@ -36,36 +36,44 @@ def funzioni(file):
         yield codice.count("\n", 0, apre) + 1, codice.count("\n", apre, i) + 1
 
 
-def basi():
-    """Class -> the class that it stands on, for the product; a mixin `Con<Base>` stands on its
-    argument and counts itself."""
-    sopra = {}
+def classi():
+    """(class, the one that it stands on, its body) for the product, each that stands on another."""
     for file in sorgenti.prodotto():
-        for nome, base, argomenti in _CLASSE.findall(sorgenti.codice(file)):
-            catena = [base.rpartition("::")[2]] + re.findall(r"\w+", argomenti or "")
-            sopra[nome] = catena
-    return sopra
+        codice = sorgenti.codice(file)
+        for trovata in _CLASSE.finditer(codice):
+            profondita, fine = 1, trovata.end()
+            while fine < len(codice) and profondita > 0:
+                profondita += {"{": 1, "}": -1}.get(codice[fine], 0)
+                fine += 1
+            yield trovata[1], trovata[2].rpartition("::")[2], codice[trovata.end():fine - 1]
+
+
+def gusci():
+    """The forms, and what they stand on, that only name their base: nothing in them but how they are made."""
+    sopra = {nome: base for nome, base, _ in classi()}
+    for nome, _, corpo in classi():
+        fatta = rf"(?:explicit\s+|virtual\s+)?~?{nome}\s*\([^;{{]*(?:;|\{{[^{{}}]*\}})"
+        resto = re.sub(rf"\b(?:public|protected|private)\s*:|Q_OBJECT|using [^;]*;|friend [^;]*;|{fatta}", "", corpo)
+        base = nome
+        while base in sopra:
+            base = sopra[base]
+        if base == "Form" and not resto.strip(" \n;"):
+            yield nome
 
 
 def profondita_delle_forme():
     """Form -> how many classes lie between it and the ground's Form, itself included."""
-    sopra = basi()
+    sopra = {nome: base for nome, base, _ in classi()}
 
-    def altezza(nome, visti=()):
-        if nome == "Form" or nome in visti:
+    def altezza(nome):
+        if nome == "Form":
             return 0
-        catena = sopra.get(nome)
-        if not catena:
-            return None
-        if nome not in visti and len(catena) > 1:  # a ladder of templates: each is a class
-            sotto = altezza(catena[-1], (*visti, nome))
-            return None if sotto is None else sotto + len(catena)
-        sotto = altezza(catena[0], (*visti, nome))
+        sotto = altezza(sopra[nome]) if nome in sopra else None
         return None if sotto is None else sotto + 1
 
     # Whatever makes a form is the base of nothing else.
     forme = {n for n in sopra if re.match(r"Forma?[A-Z]\w*$|frm[A-Z]\w*$", n)}
-    forme -= {n for catena in sopra.values() for n in catena}
+    forme -= {*sopra.values()}
     return {n: a for n in sorted(forme) if (a := altezza(n))}
 
 
@@ -92,6 +100,7 @@ def righe():
         yield f"classes of exercise forms: {len(profondita)}, classes below Form median " \
               f"{statistics.median(profondita.values()):.0f}, most {max(profondita.values())} " \
               f"({max(profondita, key=profondita.get)})"
+    yield f"classes that only name their base: {', '.join(gusci()) or 'none'}"
     yield f"headers of exercises/ that reach no form: {len(liberi)} of {len(esercizi)}"
     yield f"near-copies above {testo.RIGHE_DI_UNA_COPIA} lines: {len(list(testo.copie()))}"
     yield f"rings of headers: {len(list(struttura.cicli_di_intestazioni()))}"

@@ -311,11 +311,20 @@ class Casa(unittest.TestCase):
                                "A::A(int b) : c{b}, d(b) {\n}\n")
         self.assertEqual([(1, 6), (7, 2)], list(misure.funzioni("cases/a.cpp")))
 
-    def test_the_depth_of_a_form_counts_the_templates_that_it_stands_on(self):
+    def test_the_depth_of_a_form_counts_the_classes_that_it_stands_on(self):
         self.file(app__a_h="class Forma : public platform::Form {};\n"
-                           "class FormaA : public Con<Su<Forma>> {};\n"
-                           "class FormB final : public FormaA {};\n")
-        self.assertEqual({"FormB": 5}, misure.profondita_delle_forme())
+                           "class FormaA : public Forma {};\n"
+                           "class FormB final : public FormaA {};\n"
+                           "class FormC final : public Altra {};\n")
+        self.assertEqual({"FormB": 3}, misure.profondita_delle_forme())
+
+    def test_a_form_that_only_names_its_base_is_told(self):
+        self.file(app__a_h="class Forma : public platform::Form {\n  void onLoad() override;\n};\n"
+                           "class FormaA : public Forma {\n public:\n  explicit FormaA(int a) : Forma(a) {}\n};\n"
+                           "class FormaB : public Forma {\n public:\n  using Forma::Forma;\n};\n"
+                           "class FormaC : public Forma {\n public:\n  explicit FormaC(int a);\n  int b = 0;\n};\n"
+                           "class FormaD : public Forma {\n  explicit FormaD(int a);\n  void onLoad() override;\n};\n")
+        self.assertEqual(["FormaA", "FormaB"], list(misure.gusci()))
 
 
 if __name__ == "__main__":
