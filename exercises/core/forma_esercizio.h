@@ -50,9 +50,10 @@ class FormaEsercizio : public Forma {
   // What an activation does once the way of input is ready.
   virtual void IniziaAttivazione() {}
 
+  // The steps of the way of input. A form that has more to do at its Load calls this, too.
   void onLoad() override;
-  void AvviaResizer() override;
-  void onActivate() override;
+  void AvviaResizer() final;
+  void onActivate() final;
 
   void ScriviEsatti();
   void ScriviErrati();

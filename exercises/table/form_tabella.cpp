@@ -107,13 +107,11 @@ void FormTabella::onLoad() {
     cella.makeCell(AngoloDi(cella.index()));
     celle_.add(cella);
   });
-  ApplicaLingua(ambiente(), *this);
-  EssResizer1.start();
+  FormaEsercizio::onLoad();
   ImpostaCursoreSistema();
-  PrendiIcona();
 }
 
-void FormTabella::onActivate() {
+void FormTabella::IniziaAttivazione() {
   PulsanteAvanti.setVisible(true);
   paintGradient();
   IniziaElenco(TestoLingua(ambiente(), QStringLiteral("0040")));

@@ -43,7 +43,7 @@ class FormTabella final : public FormaEsercizio {
 
  protected:
   void onLoad() override;
-  void onActivate() override;
+  void IniziaAttivazione() override;
   void ChiudiPannelloStampa() override;
 
  private:
