@@ -65,6 +65,7 @@ qint16 PartitaBarre::Numero(Termine termine) const {
 }
 
 Esito PartitaBarre::Rispondi(std::optional<double> numero) {
+  if (!numero && vuoto_ == Vuoto::Zero) numero = 0;
   if (!numero) return Esito::Ignorato;
   if (*numero != atteso_) return Esito::Sbagliato;
   fase_ = Fase::Risolto;

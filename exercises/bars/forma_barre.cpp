@@ -39,8 +39,11 @@ FormDesign Disegno(std::string_view nome, const VarianteBarre& variante) {
 
 }  // namespace
 
-FormaBarre::FormaBarre(Ambiente& ambiente, std::string_view nome, const VarianteBarre& variante)
-    : FormaEsercizio(ambiente, Disegno(nome, variante)), variante_(variante) {
+FormaBarre::FormaBarre(Ambiente& ambiente, std::string_view nome, const VarianteBarre& variante,
+                       PartitaBarre::Vuoto vuoto)
+    : FormaEsercizio(ambiente, Disegno(nome, variante)),
+      variante_(variante),
+      partita_(stato(), vuoto) {
   mnuRossa.onClick([this] { ScegliTipo(kTrovaRossa); });
   mnuGiallaVerde.onClick([this] { ScegliTipo(kTrovaGiallaVerde); });
   mnuTutteBarre.onClick([this] { ScegliTipo(kTrovaUna); });
@@ -135,21 +138,27 @@ void FormaBarre::MostraCaso() {
   MettiBarra(Termine::Primo, OrigineX, OrigineY);
   MettiBarra(Termine::Secondo, fineDelPrimo, OrigineY);
   MettiBarra(Termine::Totale, OrigineX, altoTotale);
-  Label3.setCaption(stringhe().*domanda.consegna);
+  const QString& consegna = stringhe().*domanda.consegna;
+  Label3.setCaption(consegna);
   Chiedi(domanda);
   for (const DomandaBarre& d : kDomande) {
     const bool chiesto = d.termine == domanda.termine;
     Scritto(d.termine).setCaption(chiesto ? QString() : plain(partita_.Numero(d.termine)));
   }
   DiciDomanda(QStringLiteral("%1 + %2 = %3. %4")
-                  .arg(n1.caption(), n2.caption(), n3.caption(), Label3.caption()));
+                  .arg(DettoDi(Termine::Primo), DettoDi(Termine::Secondo),
+                       DettoDi(Termine::Totale), consegna));
 }
 
 void FormaBarre::MettiBarra(Termine termine, int sinistra, int alto) {
   platform::Label& barra = Barra(termine);
-  const qint16 numero = partita_.Numero(termine);
-  barra.setPlace(sinistra, alto, Lungo(numero), barra.height());
-  barra.setCaption(termine == partita_.Chiesto() ? QStringLiteral("?") : leadingBlank(numero));
+  barra.setPlace(sinistra, alto, Lungo(partita_.Numero(termine)), barra.height());
+  barra.setCaption(DettoDi(termine));
+}
+
+QString FormaBarre::DettoDi(Termine termine) const {
+  return termine == partita_.Chiesto() ? QStringLiteral("?")
+                                       : leadingBlank(partita_.Numero(termine));
 }
 
 void FormaBarre::CopriTermine(platform::TextBox& casella, const DomandaBarre& domanda) {
@@ -171,7 +180,10 @@ void FormaBarre::ScriviSomma() {
 }
 
 void FormaBarre::AggiungiAllElenco() {
-  AggiungiRiga(QStringLiteral("    %1 + %2 = %3").arg(n1.caption(), n2.caption(), n3.caption()));
+  AggiungiRiga(QStringLiteral("    %1 + %2 = %3")
+                   .arg(leadingBlank(partita_.Numero(Termine::Primo)),
+                        leadingBlank(partita_.Numero(Termine::Secondo)),
+                        leadingBlank(partita_.Numero(Termine::Totale))));
 }
 
 void FormaBarre::NascondiAiuti() {

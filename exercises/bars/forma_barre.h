@@ -33,8 +33,10 @@ struct DomandaBarre {
 // lighter green on its bar than in the written sum. Both are kept: see docs/oddities.md.
 class FormaBarre : public FormaEsercizio {
  public:
-  // nome: the form's name in the table of forms; variante: must outlive the form.
-  FormaBarre(Ambiente& ambiente, std::string_view nome, const VarianteBarre& variante);
+  // nome: the form's name in the table of forms; variante: must outlive the form; vuoto: what an
+  // empty box is to the game.
+  FormaBarre(Ambiente& ambiente, std::string_view nome, const VarianteBarre& variante,
+             PartitaBarre::Vuoto vuoto = PartitaBarre::Vuoto::NonRisponde);
 
   platform::PictureBox Picture1{*this};
   platform::Label n1{*this};
@@ -95,6 +97,8 @@ class FormaBarre : public FormaEsercizio {
   void CreaAiuti();
   void MostraCaso();
   void MettiBarra(Termine termine, int sinistra, int alto);
+  // What a bar of an open case says: its number, or "?" where it is asked for.
+  [[nodiscard]] QString DettoDi(Termine termine) const;
   void MettiQuadretti(platform::ControlArray<platform::Label>& quadretti, int quanti, int sinistra,
                       int alto);
   // Tells assistive technology the help squares of the bar that is asked for.
@@ -107,7 +111,7 @@ class FormaBarre : public FormaEsercizio {
   [[nodiscard]] qint16 FineDi(int unita) const;
 
   const VarianteBarre& variante_;
-  PartitaBarre partita_{stato()};
+  PartitaBarre partita_;
   qint16 OrigineY = 0;  // top of the first row of bars, twips inside `Picture1`
   qint16 OrigineX = 0;  // left end of the bars
   qint16 Unita = 0;     // length of one unit, height of a bar, side of a square

@@ -47,7 +47,7 @@ FormaBarreHK::FormaBarreHK(Ambiente& ambiente, std::string_view nome, const Vari
 }
 
 void FormaBarreHK::Agisci(Tasto tasto) {
-  AgisciSulleCifre(tasti_, tasto, partita().SiRisponde(), PulsanteAvanti.isEnabled());
+  AgisciSulleCifre(tasti_, tasto, partita().SiRisponde(), partita().SiVaAvanti());
 }
 
 void FormaBarreHK::Aiuta() {

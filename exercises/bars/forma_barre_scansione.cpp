@@ -2,7 +2,7 @@
 
 #include "exercises/bars/disegno_barre.h"
 #include "exercises/core/disegno_scansione.h"
-#include "platform/base/numbers.h"
+#include "exercises/core/testo_cifre.h"
 
 namespace somme::inline barre {
 
@@ -70,7 +70,7 @@ constexpr VarianteBarreScansione kBarreScansione20{
 
 FormaBarreScansione::FormaBarreScansione(Ambiente& ambiente, std::string_view nome,
                                          const VarianteBarreScansione& variante)
-    : FormaBarre(ambiente, nome, variante.pagina), variante_(variante) {
+    : FormaBarre(ambiente, nome, variante.pagina, PartitaBarre::Vuoto::Zero), variante_(variante) {
   Usa(scansione_);
 }
 
@@ -100,7 +100,7 @@ void FormaBarreScansione::MostraAiuto() {
 }
 
 void FormaBarreScansione::Conferma() {
-  if (partita().Rispondi(platform::leadingNumber(TestoInput.text())) == Esito::Risolto) {
+  if (partita().Rispondi(NumeroScritto(TestoInput)) == Esito::Risolto) {
     RispostaGiusta();
   } else {
     SegnaSbagliato([this] { TastieraNumericaScansione1.SelezionaCestino(); });

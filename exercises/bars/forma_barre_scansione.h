@@ -29,7 +29,7 @@ class FormaBarreScansione final : public FormaBarre {
   TastieraNumericaScansione TastieraNumericaScansione1{*this};
   platform::Label LabelDimensioneTastiera{*this};  // hidden: the keyboard's place
 
-  // Judges what stands in the box; an empty one is 0.
+  // Judges what stands in the box.
   void Conferma();
   void MostraAiuto() override;
 

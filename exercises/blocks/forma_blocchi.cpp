@@ -1,5 +1,7 @@
 #include "exercises/blocks/forma_blocchi.h"
 
+#include <algorithm>
+
 #include "app/shared/modulo_colori_suoni.h"
 #include "cases/livelli.h"
 #include "exercises/core/disegno_comune.h"
@@ -38,7 +40,8 @@ FormaBlocchi::FormaBlocchi(Ambiente& ambiente, std::string_view nome,
 void FormaBlocchi::onLoad() {
   FormaEsercizio::onLoad();
   for (std::size_t quale = 0; quale < esercizio().cambi.size(); ++quale) {
-    PulsanteDi(esercizio().cambi[quale]).onClick([this, quale] { Cambia(quale); });
+    const Posto da = esercizio().regole.cambi[quale];
+    PulsanteDi(esercizio().cambi[quale]).onClick([this, da] { Cambia(da); });
   }
   ScriviEsatti();
   ScriviErrati();
@@ -215,8 +218,11 @@ void FormaBlocchi::MostraCambio(platform::Button& pulsante) {
   announce(pulsante.toolTip());
 }
 
-void FormaBlocchi::Cambia(std::size_t quale) {
-  if (quale >= esercizio().cambi.size()) return;
+void FormaBlocchi::Cambia(Posto da) {
+  const std::span<const Posto> cambi = esercizio().regole.cambi;
+  const auto dove = std::ranges::find(cambi, da);
+  if (dove == cambi.end()) return;
+  const auto quale = static_cast<std::size_t>(dove - cambi.begin());
   const CambioBlocchi& cambio = esercizio().cambi[quale];
   platform::Button& pulsante = PulsanteDi(cambio);
   if (!pulsante.isVisible() || !partita_.IniziaCambio(quale)) return;

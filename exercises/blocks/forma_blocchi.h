@@ -42,9 +42,9 @@ class FormaBlocchi : public FormaEsercizio {
   void MettiBlocco(Posto specie);
   void Svuota();
   void GiudicaTavola();
-  // A carry by its place among those of the exercise; nothing where there is no such, or where its
-  // button is not on the screen.
-  void Cambia(std::size_t quale);
+  // Ten of a kind become one of the next; nothing where the exercise has no such carry, or where
+  // its button is not on the screen.
+  void Cambia(Posto da);
 
   [[nodiscard]] const EsercizioBlocchi& esercizio() const { return variante_.esercizio; }
 

@@ -68,10 +68,10 @@ void FormaBlocchiHK::Agisci(Tasto tasto) {
       pulsanti.ClicBlocco(Posto::Unita);
       break;
     case Tasto::CambioDaH:
-      Cambia(1);
+      Cambia(Posto::Decine);
       break;
     case Tasto::CambioUDa:
-      Cambia(0);
+      Cambia(Posto::Unita);
       break;
     case Tasto::Cestino:
       pulsanti.ClicCestino();

@@ -16,6 +16,9 @@ constexpr int kLimite = PartitaBarre::kFinoA10;
 
 // A game with its case.
 struct Gioco {
+  explicit Gioco(PartitaBarre::Vuoto vuoto = PartitaBarre::Vuoto::NonRisponde)
+      : partita(caso, vuoto) {}
+
   // A case of which the total is asked for.
   void chiediTotale(int addendo1, int addendo2) {
     ScriptedChance sorte(prova::sommaDivisa(addendo1, addendo2, kLimite));
@@ -33,7 +36,7 @@ struct Gioco {
   }
 
   Caso caso;
-  PartitaBarre partita{caso};
+  PartitaBarre partita;
 };
 
 }  // namespace
@@ -156,6 +159,32 @@ class PartitaBarreTest : public QObject {
     QCOMPARE(gioco.partita.Rispondi(0), Esito::Risolto);
     gioco.chiediTotale(3, 4);
     QCOMPARE(gioco.partita.Rispondi(0), Esito::Sbagliato);
+  }
+
+  void anEmptyBoxIsAZeroWhereTheGameIsToldSoAndElsewhereNoAnswer() {
+    Gioco scritto;
+    scritto.chiedi(kTrovaGiallaVerde, {{1, 2}}, 0, 5);
+    QCOMPARE(scritto.partita.Rispondi(std::nullopt), Esito::Ignorato);
+    Gioco scandito{PartitaBarre::Vuoto::Zero};
+    scandito.chiedi(kTrovaGiallaVerde, {{1, 2}}, 0, 5);
+    QCOMPARE(scandito.partita.Rispondi(std::nullopt), Esito::Risolto);
+    scandito.chiediTotale(3, 4);
+    QCOMPARE(scandito.partita.Rispondi(std::nullopt), Esito::Sbagliato);
+  }
+
+  void theWayOnIsOpenBeforeTheFirstCaseAndAfterARightAnswerUntilTheNextCase() {
+    Gioco gioco;
+    QVERIFY(gioco.partita.SiVaAvanti());
+    gioco.chiediTotale(3, 4);
+    QVERIFY(!gioco.partita.SiVaAvanti());
+    gioco.partita.Rispondi(6);
+    QVERIFY(!gioco.partita.SiVaAvanti());
+    gioco.partita.Rispondi(7);
+    QVERIFY(gioco.partita.SiVaAvanti());
+    gioco.partita.Rispondi(6);
+    QVERIFY(gioco.partita.SiVaAvanti());
+    gioco.chiediTotale(2, 3);
+    QVERIFY(!gioco.partita.SiVaAvanti());
   }
 
   void aWrongNumberCannotBeChosenAgainInTheSameCase() {
