@@ -86,14 +86,21 @@ inline constexpr auto kMenu = std::to_array<SchedaForma>({
     MenuDi<kMenuTabella>(),
 });
 
-inline constexpr Percorso kNumeriTotale{Famiglia::NumeriTotale, 9999, forme::kFormMenuNumeri};
-inline constexpr Percorso kNumeriAddendo{Famiglia::NumeriAddendo, 20, forme::kFormMenuNumeri};
-inline constexpr Percorso kBarre10{Famiglia::Barre10, 10, kMenuBarre.nome};
-inline constexpr Percorso kBarre20{Famiglia::Barre20, 20, kMenuBarre.nome};
-inline constexpr Percorso kBlocchiDecine{Famiglia::BlocchiDecine, 99, forme::kFormMenuPLU};
-inline constexpr Percorso kBlocchiCentinaia{Famiglia::BlocchiCentinaia, 999, forme::kFormMenuPLU};
-inline constexpr Percorso kAbaco{Famiglia::Abaco, 9999, forme::kFormMenu};
-inline constexpr Percorso kTabella{Famiglia::Tabella, 99, kMenuTabella.nome};
+// A family that has levels goes as far as they do.
+constexpr Percorso DeiLivelli(Famiglia famiglia, std::string_view menu) {
+  return {famiglia, Massimo(famiglia), menu};
+}
+inline constexpr Percorso kNumeriTotale =
+    DeiLivelli(Famiglia::NumeriTotale, forme::kFormMenuNumeri);
+inline constexpr Percorso kNumeriAddendo =
+    DeiLivelli(Famiglia::NumeriAddendo, forme::kFormMenuNumeri);
+inline constexpr Percorso kBarre10{Famiglia::Barre10, PartitaBarre::kFinoA10, kMenuBarre.nome};
+inline constexpr Percorso kBarre20{Famiglia::Barre20, PartitaBarre::kFinoA20, kMenuBarre.nome};
+inline constexpr Percorso kBlocchiDecine = DeiLivelli(Famiglia::BlocchiDecine, forme::kFormMenuPLU);
+inline constexpr Percorso kBlocchiCentinaia =
+    DeiLivelli(Famiglia::BlocchiCentinaia, forme::kFormMenuPLU);
+inline constexpr Percorso kAbaco = DeiLivelli(Famiglia::Abaco, forme::kFormMenu);
+inline constexpr Percorso kTabella{Famiglia::Tabella, kUltimaCella, kMenuTabella.nome};
 
 inline constexpr auto kEsercizi = std::to_array<SchedaForma>({
     Esercizio<FormaNumeriTastiera, kTrovaTotale>("FormNumeriTotale", kNumeriTotale),

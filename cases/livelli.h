@@ -12,6 +12,10 @@ namespace somme::inline casi {
 
 // The groups in which the menus show the levels, by their greatest sum.
 enum class Gruppo { Entro10, Entro20, Entro99, Entro999, Entro9999 };
+[[nodiscard]] constexpr qint32 Massimo(Gruppo gruppo) {
+  constexpr auto kMassimi = std::to_array<qint32>({10, 20, 99, 999, 9999});
+  return kMassimi.at(static_cast<std::size_t>(gruppo));
+}
 
 // The arrows that a level shows on the abacus: units into a ten, tens into a hundred, hundreds into
 // a thousand. An arrow that is hidden forbids its carry: ten beads stay on the spike.
@@ -245,6 +249,15 @@ inline constexpr auto kLivelli = std::to_array<Livello>({
     default:
       return 0;
   }
+}
+
+// The greatest sum of a family's levels; 0 for a family without levels.
+[[nodiscard]] constexpr qint32 Massimo(Famiglia famiglia) {
+  qint32 massimo = 0;
+  for (const Livello& livello : kLivelli) {
+    if (TipoIn(livello, famiglia) != 0) massimo = std::max(massimo, Massimo(livello.gruppo));
+  }
+  return massimo;
 }
 
 // The level of a TipoEsercizio of a family, or nullptr for one that the family does not have: then

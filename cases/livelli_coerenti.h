@@ -10,11 +10,6 @@ inline constexpr auto kFamiglie =
     std::to_array<Famiglia>({Famiglia::NumeriTotale, Famiglia::NumeriAddendo, Famiglia::Abaco,
                              Famiglia::BlocchiDecine, Famiglia::BlocchiCentinaia});
 
-constexpr qint32 Massimo(Gruppo gruppo) {
-  constexpr auto kMassimi = std::to_array<qint32>({10, 20, 99, 999, 9999});
-  return kMassimi.at(static_cast<std::size_t>(gruppo));
-}
-
 // The levels stand by their groups.
 constexpr bool InOrdine(Livelli livelli) {
   return std::ranges::is_sorted(livelli, {}, &Livello::gruppo);

@@ -10,8 +10,6 @@ namespace somme::inline giochi {
 
 namespace {
 
-constexpr int kUltimaCella = 99;
-
 // A kind that calls one of others, as many as `quanti`, from `primo` on.
 struct Miscuglio {
   int tipo;

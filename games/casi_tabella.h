@@ -7,7 +7,10 @@
 
 namespace somme::inline giochi {
 
-// A sum or difference on the table of the numbers from 0 to 99.
+// The cells of the table bear the numbers from 0 on.
+inline constexpr int kUltimaCella = 99;
+
+// A sum or difference on the table.
 struct CasoTabella {
   int a = 0;
   int b = 0;

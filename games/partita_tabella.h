@@ -15,9 +15,8 @@ namespace somme::inline giochi {
 //
 //   PartitaTabella partita{stato().RisultatoTabella};
 //
-//   new case      if (auto caso = partita.NuovoCaso(tipo, sorte)) the question is written; the
-//   cells
-//                 look as Stato says
+//   new case      if (auto caso = partita.NuovoCaso(tipo, sorte)) the question is written, and
+//                 the cells look as Stato says
 //   a cell        switch (partita.Scegli(cell)) Risolto, Sbagliato: told; the cells look as Stato
 //                 says, and those that !SiPuoScegliere are disabled
 //   the way on    while SiVaAvanti: partita.Avanti(), then a new case
@@ -27,7 +26,7 @@ class PartitaTabella {
   enum class Difficolta : std::uint8_t { Facile, Media, Difficile };
   enum class Cella : std::uint8_t { Aperta, Sbagliata, Giusta };
 
-  static constexpr int kCelle = 100;
+  static constexpr int kCelle = kUltimaCella + 1;
   static constexpr int kPerRiga = 10;
 
   // risultato: where the number of the cell to find stands; it must outlive the game.

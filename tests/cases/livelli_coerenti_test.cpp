@@ -140,7 +140,7 @@ class LivelliCoerentiTest : public QObject {
     const Livello& livello = kLivelli.at(size_t(riga));
     perOgniCaso(livello, [&livello](const Caso& caso) {
       QVERIFY(caso.Totale == caso.Addendo1 + caso.Addendo2);
-      QVERIFY(caso.Totale <= coerenti::Massimo(livello.gruppo));
+      QVERIFY(caso.Totale <= Massimo(livello.gruppo));
       QVERIFY(QString::number(caso.Totale).size() <= livello.cifre);
     });
   }

@@ -82,6 +82,15 @@ class LivelliTest : public QObject {
     }
   }
 
+  void aFamilyGoesAsFarAsItsLevels() {
+    QCOMPARE(Massimo(Famiglia::NumeriTotale), 9999);
+    QCOMPARE(Massimo(Famiglia::NumeriAddendo), 20);
+    QCOMPARE(Massimo(Famiglia::Abaco), 9999);
+    QCOMPARE(Massimo(Famiglia::BlocchiDecine), 99);
+    QCOMPARE(Massimo(Famiglia::BlocchiCentinaia), 999);
+    QCOMPARE(Massimo(Famiglia::Tabella), 0);
+  }
+
   void theAbacusHasTheSumsFromEntro99On() {
     QCOMPARE(QuantiLivelli(Famiglia::Abaco), 23);
     for (int tipo = 1; tipo <= 23; ++tipo) {
