@@ -9,6 +9,7 @@
 #include "app/shared/modulo_navigate.h"
 #include "app/shared/nomi_forme.h"
 #include "app/tabella_forme.h"
+#include "cases/chiavi.h"
 #include "platform/base/numbers.h"
 
 namespace somme::inline programma {
@@ -143,8 +144,8 @@ void FormMenu::onLoad() {
   Forma::onLoad();
   stato().ContaEsatti = 0;
   stato().ContaErrati = 0;
-  MnuSuoni.setCaption(TestoLingua(
-      ambiente(), stato().SuoniAttivi ? QStringLiteral("0032") : QStringLiteral("0033")));
+  MnuSuoni.setCaption(
+      TestoLingua(ambiente(), stato().SuoniAttivi ? chiavi::kSuoniAttivi : chiavi::kSuoniSpenti));
   mnuUsaCursoreDiSistema.setChecked(stato().CursoreDiSistema);
   ImpostaCursoreSistema();
   mnuInput[stato().ModalitaInput].setChecked(true);
@@ -187,8 +188,8 @@ void FormMenu::MLSFillMenuLanguages() {
 // The words after a click differ from those at the next load: they may tell what the click did.
 void FormMenu::InvertiSuoni() {
   stato().SuoniAttivi = !stato().SuoniAttivi;
-  MnuSuoni.setCaption(TestoLingua(
-      ambiente(), stato().SuoniAttivi ? QStringLiteral("0034") : QStringLiteral("0035")));
+  MnuSuoni.setCaption(
+      TestoLingua(ambiente(), stato().SuoniAttivi ? chiavi::kSuoniAttivati : chiavi::kSuoniTolti));
 }
 
 void FormMenu::InvertiCursore() {

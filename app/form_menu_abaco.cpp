@@ -3,6 +3,7 @@
 #include "app/menu_di_livelli.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
+#include "cases/chiavi.h"
 
 namespace somme::inline programma {
 
@@ -16,9 +17,11 @@ constexpr double kAltezza = 7500;
 constexpr auto kFamiglie = std::to_array({Famiglia::Abaco});
 
 constexpr auto kFasce = std::to_array<FasciaMenu>({
-    {Gruppo::Entro99, row<&FormMenuAbaco::Label2>, "Entro 99", 240, 1, 0, "0036"},
-    {Gruppo::Entro999, row<&FormMenuAbaco::Label3>, "Entro 999", 2400, 2, 2160, "0037"},
-    {Gruppo::Entro9999, row<&FormMenuAbaco::Label4>, "Entro 9.999", 6720, 2, 2040, "0038"},
+    {Gruppo::Entro99, row<&FormMenuAbaco::Label2>, "Entro 99", 240, 1, 0, chiavi::kAbacoEntro99},
+    {Gruppo::Entro999, row<&FormMenuAbaco::Label3>, "Entro 999", 2400, 2, 2160,
+     chiavi::kAbacoEntro999},
+    {Gruppo::Entro9999, row<&FormMenuAbaco::Label4>, "Entro 9.999", 6720, 2, 2040,
+     chiavi::kAbacoEntro9999},
 });
 
 constexpr Row Pulsante(const Livello& livello, TwipsRect posto) {
@@ -57,7 +60,7 @@ void FormMenuAbaco::onLoad() {
 
 void FormMenuAbaco::onActivate() {
   FormaMenu::onActivate();
-  stato().TitoloEsercizio = TestoLingua(ambiente(), QStringLiteral("0039"));
+  stato().TitoloEsercizio = TestoLingua(ambiente(), chiavi::kTitoloAbaco);
 }
 
 }  // namespace somme::inline programma

@@ -3,6 +3,7 @@
 #include "app/menu_di_livelli.h"
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
+#include "cases/chiavi.h"
 
 namespace somme::inline programma {
 
@@ -17,11 +18,15 @@ constexpr double kPasso = 1680;
 constexpr auto kFamiglie = std::to_array({Famiglia::NumeriTotale, Famiglia::NumeriAddendo});
 
 constexpr auto kFasce = std::to_array<FasciaMenu>({
-    {Gruppo::Entro10, row<&FormMenuNumeri::Label2>, "Entro 10", 240, 1, 0, "0024", "0029"},
-    {Gruppo::Entro20, row<&FormMenuNumeri::Label5>, "Entro 20", 1920, 1, 0, "0025", "0030"},
-    {Gruppo::Entro99, row<&FormMenuNumeri::Label6>, "Entro 99", 3600, 1, 0, "0026"},
-    {Gruppo::Entro999, row<&FormMenuNumeri::Label3>, "Entro 999", 5280, 2, kPasso, "0027"},
-    {Gruppo::Entro9999, row<&FormMenuNumeri::Label4>, "Entro 9.999", 8640, 2, kPasso, "0028"},
+    {Gruppo::Entro10, row<&FormMenuNumeri::Label2>, "Entro 10", 240, 1, 0, chiavi::kNumeriEntro10,
+     chiavi::kAddendoEntro10},
+    {Gruppo::Entro20, row<&FormMenuNumeri::Label5>, "Entro 20", 1920, 1, 0, chiavi::kNumeriEntro20,
+     chiavi::kAddendoEntro20},
+    {Gruppo::Entro99, row<&FormMenuNumeri::Label6>, "Entro 99", 3600, 1, 0, chiavi::kNumeriEntro99},
+    {Gruppo::Entro999, row<&FormMenuNumeri::Label3>, "Entro 999", 5280, 2, kPasso,
+     chiavi::kNumeriEntro999},
+    {Gruppo::Entro9999, row<&FormMenuNumeri::Label4>, "Entro 9.999", 8640, 2, kPasso,
+     chiavi::kNumeriEntro9999},
 });
 
 constexpr Row Pulsante(const Livello& livello, TwipsRect posto) {
@@ -73,7 +78,7 @@ void FormMenuNumeri::onLoad() {
 
 void FormMenuNumeri::onActivate() {
   FormaMenu::onActivate();
-  stato().TitoloEsercizio = TestoLingua(ambiente(), QStringLiteral("0031"));
+  stato().TitoloEsercizio = TestoLingua(ambiente(), chiavi::kTitoloNumeri);
 }
 
 }  // namespace somme::inline programma

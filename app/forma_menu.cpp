@@ -42,10 +42,9 @@ const platform::Label* FormaMenu::FasciaDi(const platform::Button& voce) const {
 
 void FormaMenu::ApreTitolato(platform::Button& pulsante, Famiglia famiglia, qint16 tipo,
                              std::string_view chiave, const platform::Button& voce) {
-  const QString gruppo = QString::fromLatin1(chiave.data(), qsizetype(chiave.size()));
-  Apre(pulsante, famiglia, [this, tipo, gruppo, &voce] {
+  Apre(pulsante, famiglia, [this, tipo, chiave, &voce] {
     stato().TipoEsercizio = tipo;
-    stato().TitoloEsercizio += TestoLingua(ambiente(), gruppo);
+    stato().TitoloEsercizio += TestoLingua(ambiente(), chiave);
     stato().TitoloEsercizio += voce.caption();
   });
 }

@@ -6,12 +6,13 @@
 #include "app/shared/mod_language_support.h"
 #include "app/shared/modulo_ini.h"
 #include "app/shared/nomi_forme.h"
+#include "cases/chiavi.h"
 
 namespace somme::inline programma {
 
 void Avvia(Ambiente& ambiente) {
   if (!ambiente.servizi.istanza.take()) {
-    ambiente.fondo.showBox({TestoLingua(ambiente, QStringLiteral("0001")), QStringLiteral("Error"),
+    ambiente.fondo.showBox({TestoLingua(ambiente, chiavi::kGiaAperto), QStringLiteral("Error"),
                             platform::BoxIcon::Critical, platform::BoxButtons::Ok});
     ambiente.fondo.endProcess(0);
     return;

@@ -88,12 +88,13 @@ void ScriviLinguaScelta(Ambiente& ambiente, const QString& lingua) {
   ScriviChiave(file, QStringLiteral("Language"), QStringLiteral("CurrentLanguage"), lingua);
 }
 
-QString TestoLingua(Ambiente& ambiente, const QString& chiave) {
+QString TestoLingua(Ambiente& ambiente, std::string_view chiave) {
   QString testo;
   IgnoraErrori([&] {
     QString& lingua = ambiente.stato.LinguaCorrente;
     if (lingua.isEmpty()) lingua = LinguaScelta(ambiente);
-    testo = LeggiChiave(ambiente, FileCorrente(ambiente), QStringLiteral("Strings"), chiave);
+    testo = LeggiChiave(ambiente, FileCorrente(ambiente), QStringLiteral("Strings"),
+                        QString::fromLatin1(chiave.data(), qsizetype(chiave.size())));
   });
   return testo;
 }

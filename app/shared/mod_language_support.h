@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 
 namespace platform::inline forms {
 class Form;
@@ -18,13 +19,13 @@ class Ambiente;
 // file that does not exist.
 [[nodiscard]] QString LeggiChiave(Ambiente& ambiente, const QString& file, const QString& sezione,
                                   const QString& chiave);
-// Writes a value; silently not, where the folder cannot be written.
+// Writes a value. Does nothing where the folder cannot be written.
 void ScriviChiave(const QString& file, const QString& sezione, const QString& chiave,
                   const QString& valore);
 
-// The text of a key of section "Strings" in the current language; empty after any failure. Reads
-// the chosen language first where none is set yet.
-[[nodiscard]] QString TestoLingua(Ambiente& ambiente, const QString& chiave);
+// The text of a key of section "Strings" (cases/chiavi.h) in the current language; empty after any
+// failure. Reads the chosen language first where none is set yet.
+[[nodiscard]] QString TestoLingua(Ambiente& ambiente, std::string_view chiave);
 
 // Puts the current language on a form and all its controls: captions, tool tips and tags. A failing
 // read leaves its text as it is. Lets events run after each control; where another language is

@@ -5,6 +5,7 @@
 
 #include "app/shared/ambiente.h"
 #include "app/shared/mod_language_support.h"
+#include "cases/chiavi.h"
 #include "cases/livelli.h"
 
 namespace somme::inline condiviso {
@@ -19,38 +20,34 @@ struct Riga {
 };
 
 constexpr auto kRighe = std::to_array<Riga>({
-    {&StringheCondivise::TestoErrati, "0002"},
-    {&StringheCondivise::TestoEsatti, "0003"},
+    {&StringheCondivise::TestoErrati, chiavi::kErrati},
+    {&StringheCondivise::TestoEsatti, chiavi::kEsatti},
     {&StringheCondivise::Spazio, {}, " "},
-    {&StringheCondivise::MessaggioHelpiKeys, "0004"},
-    {&StringheCondivise::TitoloBarre, "0005"},
+    {&StringheCondivise::MessaggioHelpiKeys, chiavi::kMessaggioHelpiKeys},
+    {&StringheCondivise::TitoloBarre, chiavi::kTitoloBarre},
     {&StringheCondivise::Trattino, {}, " - "},
-    {&StringheCondivise::TitoloFinoAl10, "0006"},
-    {&StringheCondivise::TitoloFinoAl20, "0007"},
-    {&StringheCondivise::TitoloPLUEntro999, "0008"},
-    {&StringheCondivise::TipoSenzaCambio, "0009"},
-    {&StringheCondivise::TipoUnCambio, "0010"},
-    {&StringheCondivise::TipoDueCambi, "0011"},
-    {&StringheCondivise::TipoConESenzaCambi, "0012"},
-    {&StringheCondivise::TitoloPLUEntro99, "0013"},
-    {&StringheCondivise::TipoSoloUnita, "0014"},
-    {&StringheCondivise::TipoConCambio, "0015"},
-    {&StringheCondivise::TipoSoloDecine, "0016"},
-    {&StringheCondivise::TipoSoloCentinaia, "0017"},
-    {&StringheCondivise::TipoCambioUnita, "0018"},
-    {&StringheCondivise::TipoCambioDecine, "0019"},
+    {&StringheCondivise::TitoloFinoAl10, chiavi::kTitoloFinoAl10},
+    {&StringheCondivise::TitoloFinoAl20, chiavi::kTitoloFinoAl20},
+    {&StringheCondivise::TitoloPLUEntro999, chiavi::kTitoloPLUEntro999},
+    {&StringheCondivise::TipoSenzaCambio, chiavi::kTipoSenzaCambio},
+    {&StringheCondivise::TipoUnCambio, chiavi::kTipoUnCambio},
+    {&StringheCondivise::TipoDueCambi, chiavi::kTipoDueCambi},
+    {&StringheCondivise::TipoConESenzaCambi, chiavi::kTipoConESenzaCambi},
+    {&StringheCondivise::TitoloPLUEntro99, chiavi::kTitoloPLUEntro99},
+    {&StringheCondivise::TipoSoloUnita, chiavi::kTipoSoloUnita},
+    {&StringheCondivise::TipoConCambio, chiavi::kTipoConCambio},
+    {&StringheCondivise::TipoSoloDecine, chiavi::kTipoSoloDecine},
+    {&StringheCondivise::TipoSoloCentinaia, chiavi::kTipoSoloCentinaia},
+    {&StringheCondivise::TipoCambioUnita, chiavi::kTipoCambioUnita},
+    {&StringheCondivise::TipoCambioDecine, chiavi::kTipoCambioDecine},
     {&StringheCondivise::SegnoPiu, {}, " + "},
     {&StringheCondivise::SegnoUguale, {}, " = "},
     {&StringheCondivise::FormatoNumeri, {}, "# ##0"},
-    {&StringheCondivise::DomandaStampaTastiera, "0020"},
-    {&StringheCondivise::ConsegnaBarre1, "0021"},
-    {&StringheCondivise::ConsegnaBarre2, "0022"},
-    {&StringheCondivise::ConsegnaBarre3, "0023"},
+    {&StringheCondivise::DomandaStampaTastiera, chiavi::kDomandaStampaTastiera},
+    {&StringheCondivise::ConsegnaBarre1, chiavi::kConsegnaBarre1},
+    {&StringheCondivise::ConsegnaBarre2, chiavi::kConsegnaBarre2},
+    {&StringheCondivise::ConsegnaBarre3, chiavi::kConsegnaBarre3},
 });
-
-QString Leggi(Ambiente& ambiente, std::string_view chiave) {
-  return TestoLingua(ambiente, QString::fromLatin1(chiave.data(), qsizetype(chiave.size())));
-}
 
 }  // namespace
 
@@ -64,13 +61,13 @@ QString StringheCondivise::NomeDelLivello(std::string_view chiave) const {
 void CaricaStringhe(Ambiente& ambiente) {
   StringheCondivise& stringhe = ambiente.stringhe;
   for (const Riga& riga : kRighe) {
-    stringhe.*riga.stringa = riga.letterale == nullptr ? Leggi(ambiente, riga.chiave)
+    stringhe.*riga.stringa = riga.letterale == nullptr ? TestoLingua(ambiente, riga.chiave)
                                                        : QString(QLatin1String(riga.letterale));
   }
   for (const Livello& livello : kLivelli) {
     const std::string_view chiave = livello.blocchi.registro;
     if (chiave.empty() || std::ranges::count(kRighe, chiave, &Riga::chiave) > 0) continue;
-    stringhe.AltriTipi[chiave] = Leggi(ambiente, chiave);
+    stringhe.AltriTipi[chiave] = TestoLingua(ambiente, chiave);
   }
 }
 

@@ -146,8 +146,8 @@ void FormaBarre::MostraCaso() {
     Scritto(d.termine).setCaption(chiesto ? QString() : plain(partita_.Numero(d.termine)));
   }
   DiciDomanda(QStringLiteral("%1 + %2 = %3. %4")
-                  .arg(DettoDi(Termine::Primo), DettoDi(Termine::Secondo),
-                       DettoDi(Termine::Totale), consegna));
+                  .arg(DettoDi(Termine::Primo), DettoDi(Termine::Secondo), DettoDi(Termine::Totale),
+                       consegna));
 }
 
 void FormaBarre::MettiBarra(Termine termine, int sinistra, int alto) {

@@ -1,6 +1,7 @@
 #include "exercises/table/form_tabella.h"
 
 #include "app/shared/mod_language_support.h"
+#include "cases/chiavi.h"
 #include "exercises/core/disegno_comune.h"
 #include "exercises/core/quantita.h"
 #include "platform/base/numbers.h"
@@ -114,7 +115,7 @@ void FormTabella::onLoad() {
 void FormTabella::IniziaAttivazione() {
   PulsanteAvanti.setVisible(true);
   paintGradient();
-  IniziaElenco(TestoLingua(ambiente(), QStringLiteral("0040")));
+  IniziaElenco(TestoLingua(ambiente(), chiavi::kTitoloTabella));
   AzzeraConteggio();
   RiempiTabella();
   NuovoCaso();

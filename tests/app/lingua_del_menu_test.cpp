@@ -205,7 +205,7 @@ class LinguaDelMenuTest : public QObject {
     Banco banco;
     scegli(inglese(apri(banco)));
     QCOMPARE(banco.ambiente->stringhe.TestoEsatti, QStringLiteral("Esatti"));
-    QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")), QStringLiteral("Right"));
+    QCOMPARE(somme::TestoLingua(*banco.ambiente, "0003"), QStringLiteral("Right"));
   }
 
   void laterExercisesSpeakTheNewLanguageButCountInTheWordsOfTheStart() {
@@ -249,7 +249,7 @@ class LinguaDelMenuTest : public QObject {
     FormMenu& menu = apri(banco);
     scegli(voce(menu, QStringLiteral("Semplice")));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Via"));
-    QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")), QStringLiteral("Bravo"));
+    QCOMPARE(somme::TestoLingua(*banco.ambiente, "0003"), QStringLiteral("Bravo"));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("Semplice")});
   }
 
@@ -314,7 +314,7 @@ class LinguaDelMenuTest : public QObject {
     FormMenu& menu = apri(banco);
     QCOMPARE(segnate(menu), QStringList());
     QCOMPARE(banco.ambiente->stato.LinguaCorrente, QString());
-    QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")), QString());
+    QCOMPARE(somme::TestoLingua(*banco.ambiente, "0003"), QString());
     QVERIFY(banco.messaggi.mostrati.empty());
   }
 

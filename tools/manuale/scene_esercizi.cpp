@@ -8,6 +8,7 @@
 
 #include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
+#include "cases/chiavi.h"
 #include "exercises/abacus/forma_abaco_tastiera.h"
 #include "exercises/bars/forma_barre_pulsanti.h"
 #include "exercises/bars/forma_barre_tastiera.h"
@@ -24,9 +25,9 @@ using prova::Banco;
 namespace {
 
 // The beginning of the record's heading, as the family menus write it.
-QString Titolo(Banco& banco, const char* inizio, const char* gruppo, const QString& livello) {
-  return TestoLingua(*banco.ambiente, QLatin1String(inizio)) +
-         TestoLingua(*banco.ambiente, QLatin1String(gruppo)) + livello;
+QString Titolo(Banco& banco, std::string_view inizio, std::string_view gruppo,
+               const QString& livello) {
+  return TestoLingua(*banco.ambiente, inizio) + TestoLingua(*banco.ambiente, gruppo) + livello;
 }
 
 template <class F>
@@ -58,7 +59,8 @@ void Infila(Banco& banco, FormaAbacoTastiera& forma, const char* palline, int da
 FormaNumeriTastiera& Numeri(Banco& banco) {
   banco.ambiente->stato.TipoEsercizio = 7;
   banco.ambiente->stato.TitoloEsercizio =
-      Titolo(banco, "0031", "0026", TestoLingua(*banco.ambiente, QStringLiteral("0012")));
+      Titolo(banco, chiavi::kTitoloNumeri, chiavi::kNumeriEntro99,
+             TestoLingua(*banco.ambiente, chiavi::kTipoConESenzaCambi));
   banco.sorte.scrivi({{74, 99}, {47, 75}, {38, 99}, {21, 39}});
   return banco.apri<FormaNumeriTastiera>(forme::kFormNumeriTotale);
 }

@@ -113,7 +113,7 @@ class ApplicaLinguaTest : public QObject {
     forma.setTag(QStringLiteral("di prima"));
     somme::ApplicaLingua(*banco.ambiente, forma);
     QCOMPARE(forma.tag(), QStringLiteral("di prima"));
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0001")), QString());
+    QCOMPARE(TestoLingua(*banco.ambiente, "0001"), QString());
   }
 
   void aFileThatChangesInTheMiddleOfAFormIsNoHarm() {

@@ -62,8 +62,7 @@ class ModLanguageSupportTest : public QObject {
     const QByteArray testo = "[Strings]\n0001=\"tra virgolette\"\n";
     for (const qsizetype byte : {64000, 64001}) {
       parla(banco, lungo(testo, byte));
-      QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0001")),
-               QStringLiteral("tra virgolette"));
+      QCOMPARE(TestoLingua(*banco.ambiente, "0001"), QStringLiteral("tra virgolette"));
     }
   }
 
@@ -79,7 +78,7 @@ class ModLanguageSupportTest : public QObject {
     Banco banco;
     QFile::remove(banco.percorso(QStringLiteral("LangSetting.ini")));
     banco.ambiente->stato.LinguaCorrente.clear();
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0002")), QString());
+    QCOMPARE(TestoLingua(*banco.ambiente, "0002"), QString());
     const FormAvvio& forma = banco.apri<FormAvvio>(kFormAvvio);
     QCOMPARE(forma.caption(), QStringLiteral("Esercitazioni sulle somme"));
     QVERIFY(banco.messaggi.mostrati.empty());
@@ -97,7 +96,7 @@ class ModLanguageSupportTest : public QObject {
     banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\n");
     banco.ambiente->stato.LinguaCorrente.clear();
     QCOMPARE(somme::LinguaScelta(*banco.ambiente), QString());
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0002")), QString());
+    QCOMPARE(TestoLingua(*banco.ambiente, "0002"), QString());
   }
 
   void theChosenLanguageIsReadOnceAndThenRemembered() {
@@ -105,9 +104,9 @@ class ModLanguageSupportTest : public QObject {
     parla(banco, "[Strings]\n0002=\"voce\"\n");
     banco.ambiente->stato.LinguaCorrente.clear();
     banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=Prova\n");
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0002")), QStringLiteral("voce"));
+    QCOMPARE(TestoLingua(*banco.ambiente, "0002"), QStringLiteral("voce"));
     banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=Italiano\n");
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0002")), QStringLiteral("voce"));
+    QCOMPARE(TestoLingua(*banco.ambiente, "0002"), QStringLiteral("voce"));
   }
 
   void theChoiceIsWrittenAtOnceAndEveryOtherByteStays() {
@@ -133,10 +132,10 @@ class ModLanguageSupportTest : public QObject {
   void aFileThatChangesWhileTheProgramRunsIsSeenAtTheNextRead() {
     Banco banco;
     parla(banco, "[Strings]\n0001=\"prima\"\n[FormAvvio]\nBottoneAvvio.Caption=\"prima\"\n");
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0001")), QStringLiteral("prima"));
+    QCOMPARE(TestoLingua(*banco.ambiente, "0001"), QStringLiteral("prima"));
     FormAvvio& forma = banco.apri<FormAvvio>(kFormAvvio);
     parla(banco, "[Strings]\n0001=\"dopo\"\n[FormAvvio]\nBottoneAvvio.Caption=\"dopo\"\n");
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0001")), QStringLiteral("dopo"));
+    QCOMPARE(TestoLingua(*banco.ambiente, "0001"), QStringLiteral("dopo"));
     QCOMPARE(forma.BottoneAvvio.caption(), QStringLiteral("prima"));
     somme::ApplicaLingua(*banco.ambiente, forma);
     QCOMPARE(forma.BottoneAvvio.caption(), QStringLiteral("dopo"));
@@ -144,7 +143,7 @@ class ModLanguageSupportTest : public QObject {
     QFile::remove(banco.percorso(QStringLiteral("Prova.lng")));
     somme::ApplicaLingua(*banco.ambiente, forma);
     QCOMPARE(forma.BottoneAvvio.caption(), QStringLiteral("dopo"));
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0001")), QString());
+    QCOMPARE(TestoLingua(*banco.ambiente, "0001"), QString());
   }
 
   void theWordsOfMessageBoxesFollowTheLanguageAndFallBackToItalian() {
@@ -165,7 +164,7 @@ class ModLanguageSupportTest : public QObject {
     Banco banco;
     parla(banco, "[Strings]\n0001=\"voce\"\n");
     banco.ambiente->servizi.cartella += u'/';
-    QCOMPARE(TestoLingua(*banco.ambiente, QStringLiteral("0001")), QStringLiteral("voce"));
+    QCOMPARE(TestoLingua(*banco.ambiente, "0001"), QStringLiteral("voce"));
   }
 };
 

@@ -105,8 +105,7 @@ class StringheCondiviseTest : public QObject {
     somme::ApplicaLingua(*banco.ambiente, *banco.ambiente->fondo.forms().current());
     QCOMPARE(banco.ambiente->stringhe.TestoEsatti, before);
     // What is read at each use follows.
-    QCOMPARE(somme::TestoLingua(*banco.ambiente, QStringLiteral("0003")),
-             QStringLiteral("voce 0003"));
+    QCOMPARE(somme::TestoLingua(*banco.ambiente, "0003"), QStringLiteral("voce 0003"));
   }
 
   void withoutTheFileTheyAreEmpty() {
