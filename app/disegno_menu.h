@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/forma_menu.h"
+#include "app/menu_di_famiglia.h"
 #include "app/shared/colori.h"
 #include "platform/forms/design.h"
 
@@ -22,7 +22,7 @@ using platform::row;
 using platform::TwipsRect;
 
 constexpr Row Intestazione(double larghezza, std::string_view testo) {
-  return row<&FormaMenu::Label1>({240, 120, larghezza, 720}, {.caption = testo,
+  return row<&MenuDiFamiglia::Label1>({240, 120, larghezza, 720}, {.caption = testo,
                                                               .font = {Face::Tahoma, 24, true},
                                                               .fore = kInchiostro,
                                                               .align = Align::Centre});

@@ -44,10 +44,10 @@ constexpr FormDesign kDisegno = Menu(forme::kFormMenuAbaco, kLarghezza, kAltezza
 
 }  // namespace
 
-FormMenuAbaco::FormMenuAbaco(Ambiente& ambiente) : FormaMenu(ambiente, kDisegno) {}
+FormMenuAbaco::FormMenuAbaco(Ambiente& ambiente) : MenuDiFamiglia(ambiente, kDisegno) {}
 
 void FormMenuAbaco::onLoad() {
-  FormaMenu::onLoad();
+  MenuDiFamiglia::onLoad();
   Command1[0].onClick([this] { TornaAlMenu(); });
   for (const FasciaMenu& fascia : kFasce) {
     for (const Livello& livello : kLivelli) {
@@ -59,7 +59,7 @@ void FormMenuAbaco::onLoad() {
 }
 
 void FormMenuAbaco::onActivate() {
-  FormaMenu::onActivate();
+  MenuDiFamiglia::onActivate();
   stato().TitoloEsercizio = TestoLingua(ambiente(), chiavi::kTitoloAbaco);
 }
 

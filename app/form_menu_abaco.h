@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/forma_menu.h"
+#include "app/menu_di_famiglia.h"
 
 namespace somme::inline programma {
 
 // The levels of the abacus. Element 0 of `Command1` is the way back.
-class FormMenuAbaco final : public FormaMenu {
+class FormMenuAbaco final : public MenuDiFamiglia {
  public:
   explicit FormMenuAbaco(Ambiente& ambiente);
 

@@ -52,12 +52,12 @@ constexpr FormDesign kDisegno = Menu(forme::kFormMenuNumeri, kLarghezza, kAltezz
 
 }  // namespace
 
-FormMenuNumeri::FormMenuNumeri(Ambiente& ambiente) : FormaMenu(ambiente, kDisegno) {}
+FormMenuNumeri::FormMenuNumeri(Ambiente& ambiente) : MenuDiFamiglia(ambiente, kDisegno) {}
 
 // The title ends with the caption of `Command1` for both kinds of exercise: that of an addend
 // carries the words of the sum with the same number. Kept: see docs/oddities.md.
 void FormMenuNumeri::onLoad() {
-  FormaMenu::onLoad();
+  MenuDiFamiglia::onLoad();
   for (const FasciaMenu& fascia : kFasce) {
     for (const Livello& livello : kLivelli) {
       if (livello.gruppo != fascia.gruppo) continue;
@@ -77,7 +77,7 @@ void FormMenuNumeri::onLoad() {
 }
 
 void FormMenuNumeri::onActivate() {
-  FormaMenu::onActivate();
+  MenuDiFamiglia::onActivate();
   stato().TitoloEsercizio = TestoLingua(ambiente(), chiavi::kTitoloNumeri);
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "app/forma_menu.h"
+#include "app/menu_di_famiglia.h"
 
 namespace somme::inline programma {
 
 // The levels of the number exercises: the sum to find (`Command1`) and the addend to find
 // (`Command2`). Element 0 of `Command1` is the way back; element 0 of `Command2` stays hidden.
-class FormMenuNumeri final : public FormaMenu {
+class FormMenuNumeri final : public MenuDiFamiglia {
  public:
   explicit FormMenuNumeri(Ambiente& ambiente);
 

@@ -59,12 +59,12 @@ constexpr FormDesign kDisegno = Menu(forme::kFormMenuPLU, kLarghezza, kAltezza, 
 
 }  // namespace
 
-FormMenuPLU::FormMenuPLU(Ambiente& ambiente) : FormaMenu(ambiente, kDisegno) {
+FormMenuPLU::FormMenuPLU(Ambiente& ambiente) : MenuDiFamiglia(ambiente, kDisegno) {
   Command1.onClick([this] { TornaAlMenu(); });
 }
 
 void FormMenuPLU::onLoad() {
-  FormaMenu::onLoad();
+  MenuDiFamiglia::onLoad();
   for (const Livello& livello : kLivelli) {
     for (const Famiglia famiglia : kFamiglie) {
       const qint16 tipo = TipoIn(livello, famiglia);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/forma_menu.h"
+#include "app/menu_di_famiglia.h"
 #include "platform/forms/control_array.h"
 
 namespace somme::inline programma {
@@ -8,7 +8,7 @@ namespace somme::inline programma {
 // The levels of the blocks: with tens and units, and with hundreds. No title is built here: these
 // exercises compose their headings themselves. `Command1` is the way back; the button of a level
 // bears the name that the level's row gives it.
-class FormMenuPLU final : public FormaMenu {
+class FormMenuPLU final : public MenuDiFamiglia {
  public:
   explicit FormMenuPLU(Ambiente& ambiente);
 

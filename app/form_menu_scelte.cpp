@@ -4,12 +4,12 @@ namespace somme::inline programma {
 
 FormMenuScelte::FormMenuScelte(Ambiente& ambiente, const MenuDiScelte& menu,
                                const platform::FormDesign& disegno)
-    : FormaMenu(ambiente, disegno), menu_(menu) {
+    : MenuDiFamiglia(ambiente, disegno), menu_(menu) {
   Command1.onClick([this] { TornaAlMenu(); });
 }
 
 void FormMenuScelte::onLoad() {
-  FormaMenu::onLoad();
+  MenuDiFamiglia::onLoad();
   for (int i = 0; const Scelta& scelta : menu_.scelte) {
     Apre(Voce(i++), scelta.famiglia, [this, &scelta] {
       if (scelta.tipo) {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "app/forma_menu.h"
+#include "app/menu_di_famiglia.h"
 #include "platform/forms/control_array.h"
 
 namespace somme::inline programma {
@@ -31,7 +31,7 @@ struct MenuDiScelte {
   platform::TwipsRect indietro;
 };
 
-class FormMenuScelte final : public FormaMenu {
+class FormMenuScelte final : public MenuDiFamiglia {
  public:
   // menu and disegno, which lays it out, outlive the form.
   FormMenuScelte(Ambiente& ambiente, const MenuDiScelte& menu, const platform::FormDesign& disegno);

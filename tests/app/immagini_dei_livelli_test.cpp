@@ -35,7 +35,7 @@ std::vector<Voce> Livelli(Banco& banco, std::string_view menu) {
   banco.mostra(menu);
   std::vector<Voce> voci;
   QSize grandezza;
-  for (platform::Control* controllo : banco.forma<FormaMenu>().controls()) {
+  for (platform::Control* controllo : banco.forma<MenuDiFamiglia>().controls()) {
     const auto* pulsante = dynamic_cast<const platform::Button*>(controllo);
     if (pulsante == nullptr || pulsante->look().picture == "indietro") continue;
     QWidget* widget = controllo->widget();

@@ -1,6 +1,6 @@
 #include <QApplication>
 
-#include "app/forma_menu.h"
+#include "app/menu_di_famiglia.h"
 #include "app/shared/nomi_forme.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/button_widget.h"
@@ -34,7 +34,7 @@ class LivelliUgualiTest : public QObject {
     banco.ambiente->stato.LinguaCorrente = lingua;
     int livelli = 0;
     for (const std::string_view menu : kMenu) {
-      const auto& forma = banco.apri<somme::FormaMenu>(menu);
+      const auto& forma = banco.apri<somme::MenuDiFamiglia>(menu);
       QMap<int, QStringList> misure;
       for (platform::Control* controllo : forma.controls()) {
         const auto* pulsante = dynamic_cast<const platform::Button*>(controllo);

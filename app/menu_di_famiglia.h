@@ -13,9 +13,9 @@ namespace somme::inline programma {
 // What the five family menus share: a heading, the gradient, counters that start again, the way
 // back to the main menu, and buttons that each open the exercise of a level. Which levels there
 // are, and what they write into the shared state, is each menu's own.
-class FormaMenu : public Forma {
+class MenuDiFamiglia : public Forma {
  public:
-  FormaMenu(Ambiente& ambiente, const platform::FormDesign& disegno);
+  MenuDiFamiglia(Ambiente& ambiente, const platform::FormDesign& disegno);
 
   platform::Label Label1{*this};
 

@@ -1,4 +1,4 @@
-#include "app/forma_menu.h"
+#include "app/menu_di_famiglia.h"
 
 #include "app/disegno_menu.h"
 #include "app/shared/mod_language_support.h"
@@ -6,21 +6,21 @@
 
 namespace somme::inline programma {
 
-FormaMenu::FormaMenu(Ambiente& ambiente, const platform::FormDesign& disegno)
+MenuDiFamiglia::MenuDiFamiglia(Ambiente& ambiente, const platform::FormDesign& disegno)
     : Forma(ambiente, disegno) {}
 
-void FormaMenu::onLoad() {
+void MenuDiFamiglia::onLoad() {
   Forma::onLoad();
   stato().ContaEsatti = 0;
   stato().ContaErrati = 0;
   ImpostaCursoreSistema();
 }
 
-void FormaMenu::onActivate() {
+void MenuDiFamiglia::onActivate() {
   paintGradient();
 }
 
-void FormaMenu::Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta) {
+void MenuDiFamiglia::Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta) {
   pulsante.shareCaptionSize(scritte_);
   livelli_.add(pulsante, FasciaDi(pulsante));
   pulsante.onClick([this, famiglia, scelta = std::move(scelta)] {
@@ -30,7 +30,7 @@ void FormaMenu::Apre(platform::Button& pulsante, Famiglia famiglia, std::functio
 }
 
 // In the designs a band comes before the levels that stand under it.
-const platform::Label* FormaMenu::FasciaDi(const platform::Button& voce) const {
+const platform::Label* MenuDiFamiglia::FasciaDi(const platform::Button& voce) const {
   const platform::Label* fascia = nullptr;
   for (const platform::Control* controllo : controls()) {
     if (controllo == &voce) return fascia;
@@ -40,7 +40,7 @@ const platform::Label* FormaMenu::FasciaDi(const platform::Button& voce) const {
   return nullptr;
 }
 
-void FormaMenu::ApreTitolato(platform::Button& pulsante, Famiglia famiglia, qint16 tipo,
+void MenuDiFamiglia::ApreTitolato(platform::Button& pulsante, Famiglia famiglia, qint16 tipo,
                              std::string_view chiave, const platform::Button& voce) {
   Apre(pulsante, famiglia, [this, tipo, chiave, &voce] {
     stato().TipoEsercizio = tipo;
@@ -49,7 +49,7 @@ void FormaMenu::ApreTitolato(platform::Button& pulsante, Famiglia famiglia, qint
   });
 }
 
-void FormaMenu::TornaAlMenu() {
+void MenuDiFamiglia::TornaAlMenu() {
   VaiA(forme::kFormMenu);
 }
 

@@ -1,4 +1,4 @@
-#include "app/forma_menu.h"
+#include "app/menu_di_famiglia.h"
 
 #include <QApplication>
 
@@ -14,7 +14,7 @@
 #include "support/iscrizione.h"
 #include "support/pulsante.h"
 
-namespace forma_menu_test {
+namespace menu_di_famiglia_test {
 
 using prova::Banco;
 using namespace somme;
@@ -125,7 +125,7 @@ bool sta(const platform::Control& controllo, int sinistra, int alto, int larghez
 }  // namespace
 
 // The five family menus: each button pressed, with what it writes and where it leads.
-class FormaMenuTest : public QObject {
+class MenuDiFamigliaTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
@@ -292,7 +292,7 @@ class FormaMenuTest : public QObject {
     banco.ambiente->stato.ContaEsatti = 5;
     banco.ambiente->stato.ContaErrati = 6;
     const std::string utf8 = nome.toStdString();
-    FormaMenu& menu = banco.apri<FormaMenu>(utf8);
+    MenuDiFamiglia& menu = banco.apri<MenuDiFamiglia>(utf8);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(menu.Label1.caption(), intestazione);
@@ -328,8 +328,8 @@ class FormaMenuTest : public QObject {
   }
 };
 
-const prova::Iscrizione<FormaMenuTest, QApplication> kIscritta;
+const prova::Iscrizione<MenuDiFamigliaTest, QApplication> kIscritta;
 
-}  // namespace forma_menu_test
+}  // namespace menu_di_famiglia_test
 
-#include "forma_menu_test.moc"
+#include "menu_di_famiglia_test.moc"
