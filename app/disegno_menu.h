@@ -23,9 +23,9 @@ using platform::TwipsRect;
 
 constexpr Row Intestazione(double larghezza, std::string_view testo) {
   return row<&MenuDiFamiglia::Label1>({240, 120, larghezza, 720}, {.caption = testo,
-                                                              .font = {Face::Tahoma, 24, true},
-                                                              .fore = kInchiostro,
-                                                              .align = Align::Centre});
+                                                                   .font = {Face::Tahoma, 24, true},
+                                                                   .fore = kInchiostro,
+                                                                   .align = Align::Centre});
 }
 
 // The band over the columns of a group.

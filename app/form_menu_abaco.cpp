@@ -17,10 +17,11 @@ constexpr double kAltezza = 7500;
 constexpr auto kFamiglie = std::to_array({Famiglia::Abaco});
 
 constexpr auto kFasce = std::to_array<FasciaMenu>({
-    {Gruppo::Entro99, row<&FormMenuAbaco::Label2>, "Entro 99", 240, 1, 0, chiavi::kAbacoEntro99},
-    {Gruppo::Entro999, row<&FormMenuAbaco::Label3>, "Entro 999", 2400, 2, 2160,
+    {Gruppo::Entro99, SullaFascia<&FormMenuAbaco::Label2>(), "Entro 99", 240, 1, 0,
+     chiavi::kAbacoEntro99},
+    {Gruppo::Entro999, SullaFascia<&FormMenuAbaco::Label3>(), "Entro 999", 2400, 2, 2160,
      chiavi::kAbacoEntro999},
-    {Gruppo::Entro9999, row<&FormMenuAbaco::Label4>, "Entro 9.999", 6720, 2, 2040,
+    {Gruppo::Entro9999, SullaFascia<&FormMenuAbaco::Label4>(), "Entro 9.999", 6720, 2, 2040,
      chiavi::kAbacoEntro9999},
 });
 
@@ -53,7 +54,8 @@ void FormMenuAbaco::onLoad() {
     for (const Livello& livello : kLivelli) {
       const qint16 tipo = livello.abaco.tipo;
       if (livello.gruppo != fascia.gruppo || tipo == 0) continue;
-      ApreTitolato(Command1[tipo], Famiglia::Abaco, tipo, fascia.chiave, Command1[tipo]);
+      ApreTitolato(Command1[tipo], fascia.etichetta.in(*this),
+                   {Famiglia::Abaco, tipo, fascia.chiave, Command1[tipo]});
     }
   }
 }

@@ -18,14 +18,15 @@ constexpr double kPasso = 1680;
 constexpr auto kFamiglie = std::to_array({Famiglia::NumeriTotale, Famiglia::NumeriAddendo});
 
 constexpr auto kFasce = std::to_array<FasciaMenu>({
-    {Gruppo::Entro10, row<&FormMenuNumeri::Label2>, "Entro 10", 240, 1, 0, chiavi::kNumeriEntro10,
-     chiavi::kAddendoEntro10},
-    {Gruppo::Entro20, row<&FormMenuNumeri::Label5>, "Entro 20", 1920, 1, 0, chiavi::kNumeriEntro20,
-     chiavi::kAddendoEntro20},
-    {Gruppo::Entro99, row<&FormMenuNumeri::Label6>, "Entro 99", 3600, 1, 0, chiavi::kNumeriEntro99},
-    {Gruppo::Entro999, row<&FormMenuNumeri::Label3>, "Entro 999", 5280, 2, kPasso,
+    {Gruppo::Entro10, SullaFascia<&FormMenuNumeri::Label2>(), "Entro 10", 240, 1, 0,
+     chiavi::kNumeriEntro10, chiavi::kAddendoEntro10},
+    {Gruppo::Entro20, SullaFascia<&FormMenuNumeri::Label5>(), "Entro 20", 1920, 1, 0,
+     chiavi::kNumeriEntro20, chiavi::kAddendoEntro20},
+    {Gruppo::Entro99, SullaFascia<&FormMenuNumeri::Label6>(), "Entro 99", 3600, 1, 0,
+     chiavi::kNumeriEntro99},
+    {Gruppo::Entro999, SullaFascia<&FormMenuNumeri::Label3>(), "Entro 999", 5280, 2, kPasso,
      chiavi::kNumeriEntro999},
-    {Gruppo::Entro9999, row<&FormMenuNumeri::Label4>, "Entro 9.999", 8640, 2, kPasso,
+    {Gruppo::Entro9999, SullaFascia<&FormMenuNumeri::Label4>(), "Entro 9.999", 8640, 2, kPasso,
      chiavi::kNumeriEntro9999},
 });
 
@@ -63,12 +64,12 @@ void FormMenuNumeri::onLoad() {
       if (livello.gruppo != fascia.gruppo) continue;
       const auto [totale, addendo] = livello.numeri;
       if (totale != 0) {
-        ApreTitolato(Command1[totale], Famiglia::NumeriTotale, totale, fascia.chiave,
-                     Command1[totale]);
+        ApreTitolato(Command1[totale], fascia.etichetta.in(*this),
+                     {Famiglia::NumeriTotale, totale, fascia.chiave, Command1[totale]});
       }
       if (addendo != 0) {
-        ApreTitolato(Command2[addendo], Famiglia::NumeriAddendo, addendo, fascia.chiaveAddendo,
-                     Command1[addendo]);
+        ApreTitolato(Command2[addendo], fascia.etichetta.in(*this),
+                     {Famiglia::NumeriAddendo, addendo, fascia.chiaveAddendo, Command1[addendo]});
       }
     }
   }

@@ -15,8 +15,8 @@ constexpr double kAltezza = 7140;
 constexpr auto kFamiglie = std::to_array({Famiglia::BlocchiDecine, Famiglia::BlocchiCentinaia});
 
 constexpr auto kFasce = std::to_array<FasciaMenu>({
-    {Gruppo::Entro99, row<&FormMenuPLU::Label2>, "Entro 99", 120},
-    {Gruppo::Entro999, row<&FormMenuPLU::Label3>, "Entro 999", 3240, 2, 3120},
+    {Gruppo::Entro99, SullaFascia<&FormMenuPLU::Label2>(), "Entro 99", 120},
+    {Gruppo::Entro999, SullaFascia<&FormMenuPLU::Label3>(), "Entro 999", 3240, 2, 3120},
 });
 
 constexpr std::size_t RigaDi(const Livello& livello) {
@@ -42,17 +42,11 @@ constexpr MenuDiLivelli kMenu{.famiglie = kFamiglie,
 constexpr auto kSopra =
     std::to_array<Row>({Intestazione(kLarghezza - 480, "Piatti, lunghi e unità")});
 constexpr auto kLivelliDelMenu = DisponiLivelli<kMenu>();
-constexpr auto kPulsantiDelMenu = [] {
-  std::array<Row, kLivelliDelMenu.size() - kFasce.size()> righe{};
-  const auto haPulsante = [](const Row& riga) { return riga.look.back != kFascia; };
-  std::ranges::copy_if(kLivelliDelMenu, righe.begin(), haPulsante);
-  return righe;
-}();
 constexpr auto kSotto = std::to_array<Row>({
     row<&FormMenuPLU::Command1>({6360, 5760, 2580, 1155}, Indietro()),
 });
 static_assert(HaPosto(kLarghezza, kAltezza, kLivelliDelMenu, kSotto), "a level has no place");
-static_assert(ConImmaginiProprie(kPulsantiDelMenu), "a level has no picture of its own");
+static_assert(ConImmaginiProprie(PulsantiDeiLivelli<kMenu>()), "a level has no picture of its own");
 
 constexpr std::array<std::span<const Row>, 3> kTavole{kSopra, kLivelliDelMenu, kSotto};
 constexpr FormDesign kDisegno = Menu(forme::kFormMenuPLU, kLarghezza, kAltezza, kTavole);
@@ -65,13 +59,20 @@ FormMenuPLU::FormMenuPLU(Ambiente& ambiente) : MenuDiFamiglia(ambiente, kDisegno
 
 void FormMenuPLU::onLoad() {
   MenuDiFamiglia::onLoad();
-  for (const Livello& livello : kLivelli) {
-    for (const Famiglia famiglia : kFamiglie) {
-      const qint16 tipo = TipoIn(livello, famiglia);
-      if (tipo == 0) continue;
-      Apre(Voce(static_cast<int>(RigaDi(livello))), famiglia,
-           [this, tipo] { stato().TipoEsercizio = tipo; });
+  for (const FasciaMenu& fascia : kFasce) {
+    for (const Livello& livello : kLivelli) {
+      if (livello.gruppo == fascia.gruppo) ApreLivello(livello, fascia.etichetta.in(*this));
     }
+  }
+}
+
+void FormMenuPLU::ApreLivello(const Livello& livello, const platform::Label& fascia) {
+  for (const Famiglia famiglia : kFamiglie) {
+    const qint16 tipo = TipoIn(livello, famiglia);
+    if (tipo == 0) continue;
+    Apre(
+        Voce(static_cast<int>(RigaDi(livello))), famiglia,
+        [this, tipo] { stato().TipoEsercizio = tipo; }, &fascia);
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/menu_di_famiglia.h"
+#include "cases/livelli.h"
 #include "platform/forms/control_array.h"
 
 namespace somme::inline programma {
@@ -23,6 +24,8 @@ class FormMenuPLU final : public MenuDiFamiglia {
   void onLoad() override;
 
  private:
+  void ApreLivello(const Livello& livello, const platform::Label& fascia);
+
   platform::ControlArray<platform::Button> livelli_{*this};
 };
 

@@ -10,6 +10,14 @@
 
 namespace somme::inline programma {
 
+// A level of a menu whose exercises have a title.
+struct VoceTitolata {
+  Famiglia famiglia;
+  qint16 tipo;                     // its number in the family
+  std::string_view gruppo;         // the key of its group's words, in section "Strings"
+  const platform::Button& parole;  // whose caption follows them
+};
+
 // What the five family menus share: a heading, the gradient, counters that start again, the way
 // back to the main menu, and buttons that each open the exercise of a level. Which levels there
 // are, and what they write into the shared state, is each menu's own.
@@ -24,18 +32,16 @@ class MenuDiFamiglia : public Forma {
   void onActivate() override;
 
   // Makes a button open an exercise of a family: scelta writes the level down, then the form that
-  // fits the pupil's input mode is shown.
-  void Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta);
-  // The same on a menu whose exercises have a title: the group's words and the caption of a button
-  // go to its end. chiave: of the group's words, in section "Strings".
-  void ApreTitolato(platform::Button& pulsante, Famiglia famiglia, qint16 tipo,
-                    std::string_view chiave, const platform::Button& voce);
+  // fits the pupil's input mode is shown. fascia: the band that it stands under; null where the
+  // menu has none.
+  void Apre(platform::Button& pulsante, Famiglia famiglia, std::function<void()> scelta,
+            const platform::Label* fascia = nullptr);
+  // The same on a menu whose exercises have a title, to the end of which the level adds its words.
+  void ApreTitolato(platform::Button& pulsante, const platform::Label& fascia,
+                    const VoceTitolata& voce);
   void TornaAlMenu();
 
  private:
-  // The band that stands over the column of a level; null where the menu has none.
-  [[nodiscard]] const platform::Label* FasciaDi(const platform::Button& voce) const;
-
   platform::CaptionSize scritte_;  // of the buttons that open exercises
   platform::ButtonGroup livelli_;
 };

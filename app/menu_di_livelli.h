@@ -8,10 +8,23 @@
 // Menus that are laid out from the rows of levels.
 namespace somme::inline programma::disegno {
 
+// The label of a band: its row, and itself on a form that stands.
+struct EtichettaFascia {
+  Row (*riga)(TwipsRect posto, Look aspetto);
+  const platform::Label& (*in)(const platform::Form& menu);
+};
+template <auto Etichetta>
+constexpr EtichettaFascia SullaFascia() {
+  using Menu = typename platform::design::MemberOf<decltype(Etichetta)>::Class;
+  return {row<Etichetta>, [](const platform::Form& menu) -> const platform::Label& {
+            return static_cast<const Menu&>(menu).*Etichetta;
+          }};
+}
+
 // A band of a menu: the group that it heads, and the columns below it.
 struct FasciaMenu {
   Gruppo gruppo;
-  Row (*etichetta)(TwipsRect posto, Look aspetto);
+  EtichettaFascia etichetta;
   std::string_view parole;
   double sinistra;  // twips, of the band and of its first column
   int colonne = 1;
@@ -61,16 +74,16 @@ constexpr TwipsRect PostoLivello(const MenuDiLivelli& menu, const FasciaMenu& fa
 
 constexpr Row RigaFascia(const MenuDiLivelli& menu, const FasciaMenu& fascia) {
   const double larghezza = fascia.passo * (fascia.colonne - 1) + menu.larghezzaLivello;
-  return fascia.etichetta({fascia.sinistra, menu.altoFasce, larghezza, menu.altezzaFascia},
-                          Fascia(fascia.parole));
+  return fascia.etichetta.riga({fascia.sinistra, menu.altoFasce, larghezza, menu.altezzaFascia},
+                               Fascia(fascia.parole));
 }
 
-constexpr std::size_t QuanteRighe(const MenuDiLivelli& menu) {
-  std::size_t quante = menu.fasce.size();
+constexpr std::size_t QuantiPulsanti(const MenuDiLivelli& menu) {
+  std::size_t quanti = 0;
   for (const FasciaMenu& fascia : menu.fasce) {
-    quante += static_cast<std::size_t>(QuantiDelGruppo(menu, fascia.gruppo));
+    quanti += static_cast<std::size_t>(QuantiDelGruppo(menu, fascia.gruppo));
   }
-  return quante;
+  return quanti;
 }
 
 // Every level of the menu's families stands below the band of its group.
@@ -93,21 +106,36 @@ constexpr bool HaTitoli(const MenuDiLivelli& menu) {
   });
 }
 
+// Writes the rows of the levels below a band; where they end.
+constexpr auto ScriviLivelli(const MenuDiLivelli& menu, const FasciaMenu& fascia, auto riga) {
+  int rango = 0;
+  for (const Livello& livello : kLivelli) {
+    if (livello.gruppo != fascia.gruppo || !MostraLivello(menu, livello)) continue;
+    *riga++ = menu.pulsante(livello, PostoLivello(menu, fascia, rango));
+    ++rango;
+  }
+  return riga;
+}
+
+// The rows of a menu's levels alone.
+template <const MenuDiLivelli& kMenu>
+constexpr auto PulsantiDeiLivelli() {
+  std::array<Row, QuantiPulsanti(kMenu)> righe{};
+  auto riga = righe.begin();
+  for (const FasciaMenu& fascia : kMenu.fasce) riga = ScriviLivelli(kMenu, fascia, riga);
+  return righe;
+}
+
 // The rows of a menu's bands, each with its levels after it.
 template <const MenuDiLivelli& kMenu>
 constexpr auto DisponiLivelli() {
   static_assert(HaFasce(kMenu), "a level that a menu shows has no band there");
   static_assert(!kMenu.titolato || HaTitoli(kMenu), "a group has no words for a level's title");
-  std::array<Row, QuanteRighe(kMenu)> righe{};
+  std::array<Row, kMenu.fasce.size() + QuantiPulsanti(kMenu)> righe{};
   auto riga = righe.begin();
   for (const FasciaMenu& fascia : kMenu.fasce) {
     *riga++ = RigaFascia(kMenu, fascia);
-    int rango = 0;
-    for (const Livello& livello : kLivelli) {
-      if (livello.gruppo != fascia.gruppo || !MostraLivello(kMenu, livello)) continue;
-      *riga++ = kMenu.pulsante(livello, PostoLivello(kMenu, fascia, rango));
-      ++rango;
-    }
+    riga = ScriviLivelli(kMenu, fascia, riga);
   }
   return righe;
 }
