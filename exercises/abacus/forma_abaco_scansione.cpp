@@ -84,11 +84,6 @@ void FormaAbacoScansione::PassaAlleCifre() {
   MettiModoScansione(stato(), TastieraNumericaScansione1);
 }
 
-void FormaAbacoScansione::SvuotaInput() {
-  TestoInput.TestoPerInput();
-  TestoInput.Text.set({});
-}
-
 void FormaAbacoScansione::Inserisci(Posto posto) {
   if (InserisciDaTasto(posto) && gioco().CambiaDaSe(posto)) Cambio(posto);
 }

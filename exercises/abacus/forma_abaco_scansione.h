@@ -43,21 +43,14 @@ class FormaAbacoScansione final : public FormaAbaco {
   void Inserisci(Posto posto);
   void Cambio(Posto da);
   void PassaAlleCifre();
-  void SvuotaInput();
 
-  InputScansione scansione_{
-      *this,
-      TastieraNumericaScansione1,
-      // After a wrong answer the digits go into the hidden box, until the bin brings it back.
-      {.cifra = [this](int cifra) { AccodaCifra(TestoInput, cifra); },
-       .cestino = [this] { SvuotaInput(); },
-       .scritto = [this] { return TestoInput.Text.get(); },
-       .conferma = [this] { TestoInput.TerminaInserimento(); },
-       .avanti = [this] { NuovoCaso(); }},
-      TastieraHDUScansione1,
-      {.metti = [this](Posto posto) { Inserisci(posto); },
-       .cestino = [this] { Svuota(); },
-       .conferma = [this] { PassaAlleCifre(); }}};
+  InputScansione scansione_{*this,
+                            TastieraNumericaScansione1,
+                            CifreScanditeIn(TestoInput, {.avanti = [this] { NuovoCaso(); }}),
+                            TastieraHDUScansione1,
+                            {.metti = [this](Posto posto) { Inserisci(posto); },
+                             .cestino = [this] { Svuota(); },
+                             .conferma = [this] { PassaAlleCifre(); }}};
 };
 
 }  // namespace somme::inline abaco

@@ -44,14 +44,10 @@ class FormaBarreScansione final : public FormaBarre {
   void RispostaGiusta();
 
   const VarianteBarreScansione& variante_;
-  InputScansione scansione_{*this,
-                            TastieraNumericaScansione1,
-                            {.cifra = [this](int cifra) { AccodaCifra(TestoInput, cifra); },
-                             .cestino = [this] { TestoInput.setText({}); },
-                             .scritto = [this] { return TestoInput.text(); },
-                             .conferma = [this] { Conferma(); },
-                             .avanti = [this] { NuovoCaso(); },
-                             .aiuto = [this] { MostraAiuto(); }}};
+  InputScansione scansione_{*this, TastieraNumericaScansione1,
+                            CifreScanditeIn(TestoInput, {.conferma = [this] { Conferma(); },
+                                                         .avanti = [this] { NuovoCaso(); },
+                                                         .aiuto = [this] { MostraAiuto(); }})};
 };
 
 extern const VarianteBarreScansione kBarreScansione10;

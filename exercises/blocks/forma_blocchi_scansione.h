@@ -42,17 +42,15 @@ class FormaBlocchiScansione final : public FormaBlocchi {
     tastiera.Attiva();
   }
 
-  InputScansione scansione_{*this,
-                            TastieraNumericaScansione1,
-                            {.cifra = [this](int cifra) { AccodaCifra(TestoInput, cifra); },
-                             .cestino = [this] { TestoInput.setText({}); },
-                             .scritto = [this] { return TestoInput.text(); },
-                             .conferma = [this] { Rispondi(NumeroScritto(TestoInput)); },
-                             .avanti = [this] { NuovoCaso(); }},
-                            TastieraHDUScansione1,
-                            {.metti = [this](Posto posto) { MettiBlocco(posto); },
-                             .cestino = [this] { Svuota(); },
-                             .conferma = [this] { GiudicaTavola(); }}};
+  InputScansione scansione_{
+      *this,
+      TastieraNumericaScansione1,
+      CifreScanditeIn(TestoInput, {.conferma = [this] { Rispondi(NumeroScritto(TestoInput)); },
+                                   .avanti = [this] { NuovoCaso(); }}),
+      TastieraHDUScansione1,
+      {.metti = [this](Posto posto) { MettiBlocco(posto); },
+       .cestino = [this] { Svuota(); },
+       .conferma = [this] { GiudicaTavola(); }}};
 };
 
 // Up to 99 and up to 999.

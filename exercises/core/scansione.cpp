@@ -33,27 +33,12 @@ void Nomina(Ambiente& ambiente, const QString& sezione, std::span<const NomeTast
   }
 }
 
-template <class Scrivi>
-void Accoda(const QString& testo, int limite, int cifra, const Scrivi& scrivi) {
-  if (testo.size() < limite) scrivi(testo + QString::number(cifra));
-}
-
 }  // namespace
 
 void PosaTastiera(TastieraScansione& tastiera, const platform::Control& etichetta) {
   tastiera.setWidth(etichetta.width());
   tastiera.setTop(etichetta.top());
   tastiera.setLeft(etichetta.left());
-}
-
-void AccodaCifra(platform::TextBox& casella, int cifra) {
-  Accoda(casella.text(), casella.maxLength(), cifra,
-         [&casella](const QString& testo) { casella.setText(testo); });
-}
-
-void AccodaCifra(TestoInputNumerico& casella, int cifra) {
-  Accoda(casella.Text.get(), casella.MaxLength.get(), cifra,
-         [&casella](const QString& testo) { casella.Text.set(testo); });
 }
 
 void NominaTasti(Ambiente& ambiente, TastieraNumericaScansione& tastiera) {

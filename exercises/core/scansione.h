@@ -24,10 +24,6 @@ void MettiModoScansione(const StatoCondiviso& stato, Tastiera& tastiera) {
   }
 }
 
-// Puts a digit behind what stands in the box, unless the box is full.
-void AccodaCifra(platform::TextBox& casella, int cifra);
-void AccodaCifra(TestoInputNumerico& casella, int cifra);
-
 // Gives the keys that show a picture their spoken names in the current language.
 void NominaTasti(Ambiente& ambiente, TastieraNumericaScansione& tastiera);
 void NominaTasti(Ambiente& ambiente, TastieraHDUScansione& tastiera);

@@ -7,6 +7,10 @@ namespace platform::inline forms {
 class TextBox;
 }
 
+namespace somme::inline ingresso {
+class TestoInputNumerico;
+}
+
 namespace somme::inline nucleo {
 
 class FormaEsercizio;
@@ -24,6 +28,12 @@ struct AzioniCifre {
 // Digits behind what stands in a text box, whose limit is not asked: what the program sets may pass
 // it. The rest of the actions is the form's.
 [[nodiscard]] AzioniCifre CifreIn(platform::TextBox& casella, AzioniCifre resto);
+
+// The same by scanning: a full box takes no further digit.
+[[nodiscard]] AzioniCifre CifreScanditeIn(platform::TextBox& casella, AzioniCifre resto);
+// After a wrong answer the digits go into the hidden box, until the bin brings it back; what
+// confirms is the box's own, too.
+[[nodiscard]] AzioniCifre CifreScanditeIn(TestoInputNumerico& casella, AzioniCifre resto);
 
 // The keys of a keyboard of digits. What a digit or the bin has written is told, since nobody typed
 // it.

@@ -56,11 +56,6 @@ void FormaNumeriScansione::NuovoCaso() {
   TastieraNumericaScansione1.DisattivaAvanti();
 }
 
-void FormaNumeriScansione::SvuotaInput() {
-  TestoInput.TestoPerInput();
-  TestoInput.Text.set({});
-}
-
 void FormaNumeriScansione::RispostaGiusta() {
   SegnaGiusto();
   TestoInput.RiapreCon(TestoInputNumerico::Riapre::Niente);

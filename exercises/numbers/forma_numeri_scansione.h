@@ -26,18 +26,9 @@ class FormaNumeriScansione final : public FormaNumeri {
   void RispostaGiusta() override;
 
  private:
-  void SvuotaInput();
-
   CasellaPosata casella_{TestoInput, TestoInputInvisibile};
-  InputScansione scansione_{
-      *this,
-      TastieraNumericaScansione1,
-      // After a wrong answer the digits go into the hidden box, until the bin brings it back.
-      {.cifra = [this](int cifra) { AccodaCifra(TestoInput, cifra); },
-       .cestino = [this] { SvuotaInput(); },
-       .scritto = [this] { return TestoInput.Text.get(); },
-       .conferma = [this] { TestoInput.TerminaInserimento(); },
-       .avanti = [this] { NuovoCaso(); }}};
+  InputScansione scansione_{*this, TastieraNumericaScansione1,
+                            CifreScanditeIn(TestoInput, {.avanti = [this] { NuovoCaso(); }})};
 };
 
 }  // namespace somme::inline numeri
