@@ -90,11 +90,4 @@ TabellaForme LeForme() {
   return kForme;
 }
 
-std::vector<std::string_view> NomiDelleForme() {
-  std::vector<std::string_view> nomi;
-  nomi.reserve(kForme.size());
-  for (const SchedaForma& scheda : kForme) nomi.push_back(scheda.nome);
-  return nomi;
-}
-
 }  // namespace somme::inline programma

@@ -2,7 +2,6 @@
 
 #include <span>
 #include <string_view>
-#include <vector>
 
 #include "app/shared/scheda_forma.h"
 #include "platform/forms/design.h"
@@ -26,8 +25,5 @@ struct VoceFamiglia {
 
 // Every form that the program has, and all that it is: the one place in which that stands.
 [[nodiscard]] TabellaForme LeForme();
-
-// The names of all forms, in the order of the table.
-[[nodiscard]] std::vector<std::string_view> NomiDelleForme();
 
 }  // namespace somme::inline programma

@@ -271,10 +271,4 @@ inline constexpr auto kLivelli = std::to_array<Livello>({
   return nullptr;
 }
 
-// How many levels a family has.
-[[nodiscard]] constexpr std::ptrdiff_t QuantiLivelli(Famiglia famiglia) {
-  return std::ranges::count_if(kLivelli,
-                               [famiglia](const Livello& l) { return TipoIn(l, famiglia) != 0; });
-}
-
 }  // namespace somme::inline casi

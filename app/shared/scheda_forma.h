@@ -56,12 +56,6 @@ struct SchedaForma {
   return scheda.genere == Genere::Foglio || scheda.genere == Genere::Calibrazione;
 }
 
-// Whether the exercises of a form stand on boards, with places for digits.
-[[nodiscard]] constexpr bool HaTavole(const SchedaForma& scheda) {
-  return scheda.famiglia == Famiglia::Abaco || scheda.famiglia == Famiglia::BlocchiDecine ||
-         scheda.famiglia == Famiglia::BlocchiCentinaia;
-}
-
 // A row a form. Of two forms of a family in one way of input the first is that of the menus.
 using TabellaForme = std::span<const SchedaForma>;
 

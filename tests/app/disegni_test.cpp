@@ -4,9 +4,9 @@
 #include <stdexcept>
 
 #include "app/disegno_scritto.h"
-#include "app/tabella_forme.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/schede_di_prova.h"
 
 namespace disegni_test {
 

@@ -4,9 +4,9 @@
 #include <QMap>
 #include <QSet>
 
-#include "app/tabella_forme.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/schede_di_prova.h"
 
 namespace lingue_test {
 

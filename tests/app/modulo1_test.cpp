@@ -6,6 +6,7 @@
 #include "app/tabella_forme.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/schede_di_prova.h"
 
 namespace modulo1_test {
 

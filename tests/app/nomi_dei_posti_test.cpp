@@ -8,6 +8,7 @@
 #include "input/tastiera_hdu_scansione.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/schede_di_prova.h"
 
 namespace nomi_dei_posti_test {
 

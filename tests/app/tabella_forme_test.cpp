@@ -2,7 +2,9 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
+#include <QRegularExpression>
 #include <functional>
 #include <set>
 
@@ -15,6 +17,7 @@
 #include "support/banco.h"
 #include "support/come_dal_menu.h"
 #include "support/iscrizione.h"
+#include "support/schede_di_prova.h"
 
 namespace tabella_forme_test {
 
@@ -74,6 +77,18 @@ class TabellaFormeTest : public QObject {
   }
 
  private Q_SLOTS:
+  void whatTestsCallAFormIsItsNameInTheTable() {
+    QFile file(QStringLiteral(SORGENTI "/tests/support/nomi_esercizi.h"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression kDetto(QStringLiteral(R"nome(= "(\w+)";)nome"));
+    auto nomi = kDetto.globalMatch(QString::fromUtf8(file.readAll()));
+    QVERIFY(nomi.hasNext());
+    while (nomi.hasNext()) {
+      const QByteArray nome = nomi.next().captured(1).toLatin1();
+      QVERIFY2(scheda(nome).crea != nullptr, nome.constData());
+    }
+  }
+
   void everyNameMakesTheFormOfThatName_data() { forms(); }
   void everyNameMakesTheFormOfThatName() {
     QFETCH(QByteArray, nome);

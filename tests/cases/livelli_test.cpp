@@ -11,6 +11,16 @@ namespace livelli_test {
 using namespace somme;
 using namespace std::string_view_literals;
 
+namespace {
+
+// How many levels a family has.
+auto QuantiLivelli(Famiglia famiglia) {
+  return std::ranges::count_if(kLivelli,
+                               [famiglia](const Livello& l) { return TipoIn(l, famiglia) != 0; });
+}
+
+}  // namespace
+
 class LivelliTest : public QObject {
   Q_OBJECT
 

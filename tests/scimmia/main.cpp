@@ -15,6 +15,7 @@
 
 #include "app/tabella_forme.h"
 #include "scimmia/scimmia.h"
+#include "support/schede_di_prova.h"
 
 // A monkey at every form: `scimmia [--seme N] [--eventi N] [--secondi N] [--racconta] [FORM...]`;
 // with

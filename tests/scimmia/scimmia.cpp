@@ -38,7 +38,7 @@ std::string_view vista(const QByteArray& nome) {
 // The numbers of a family's levels. What has no levels of its own takes those of the abacus, the
 // most that there are below the sums.
 std::vector<qint16> tipi(somme::Famiglia famiglia) {
-  if (somme::QuantiLivelli(famiglia) == 0) famiglia = somme::Famiglia::Abaco;
+  if (somme::Massimo(famiglia) == 0) famiglia = somme::Famiglia::Abaco;
   std::vector<qint16> numeri;
   for (const somme::Livello& livello : somme::kLivelli) {
     if (const qint16 tipo = TipoIn(livello, famiglia); tipo != 0) numeri.push_back(tipo);

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "app/shared/ambiente.h"
+#include "support/schede_di_prova.h"
 
 namespace prova {
 
