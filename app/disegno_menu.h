@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/menu_di_famiglia.h"
+#include "app/shared/ambiente.h"
 #include "app/shared/colori.h"
 #include "platform/forms/design.h"
 
@@ -79,7 +80,7 @@ inline constexpr auto kVoci = []<int... quali>(std::integer_sequence<int, quali.
 constexpr FormDesign Menu(std::string_view nome, double larghezza, double altezza,
                           std::span<const std::span<const Row>> tavole) {
   return {.name = nome,
-          .caption = "Esercitazioni sulle somme",
+          .caption = kTitoloProgramma,
           .width = larghezza,
           .height = altezza,
           .back = kSfondoMenu,

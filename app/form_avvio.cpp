@@ -26,7 +26,7 @@ constexpr auto kControlli = std::to_array<Row>({
 constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
 
 constexpr FormDesign kDisegno{.name = forme::kFormAvvio,
-                              .caption = "Esercitazioni sulle somme",
+                              .caption = kTitoloProgramma,
                               .width = 9780,
                               .height = 6210,
                               .back = kGiallo,

@@ -27,7 +27,7 @@ constexpr auto kControlli = std::to_array<Row>({
 constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
 
 constexpr FormDesign kDisegno{.name = forme::kFormInfo,
-                              .caption = "Esercitazioni sulle somme",
+                              .caption = kTitoloProgramma,
                               .width = 7200,
                               .height = 5520,
                               .back = kSfondoMenu,

@@ -19,7 +19,6 @@ void Avvia(Ambiente& ambiente) {
   }
   ImpostaDefault(ambiente.stato);
   ambiente.servizi.sorte.seed(static_cast<quint64>(QDateTime::currentMSecsSinceEpoch()));
-  ambiente.stato.SuoniAttivi = true;
   CaricaStringhe(ambiente);
   try {
     ambiente.fondo.forms().show(forme::kFormAvvio);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/shared/colori.h"
+#include "app/shared/nomi_forme.h"
 #include "platform/forms/design.h"
 #include "printing/frm_avvia_stampa.h"
 
@@ -129,7 +130,7 @@ inline constexpr auto kControlli = std::to_array<Row>({
 
 inline constexpr std::array<std::span<const Row>, 1> kTavole{kControlli};
 
-inline constexpr FormDesign kDisegno{.name = "frmAvviaStampa",
+inline constexpr FormDesign kDisegno{.name = forme::kFrmAvviaStampa,
                                      .caption = "Stampa",
                                      .width = 8400,
                                      .height = kAltezzaIntera,

@@ -3,7 +3,7 @@
 namespace somme::inline condiviso {
 
 QString TitoloProgramma() {
-  return QStringLiteral("Esercitazioni sulle somme");
+  return QString::fromLatin1(kTitoloProgramma.data(), qsizetype(kTitoloProgramma.size()));
 }
 
 Ambiente::Ambiente(const Servizi& dati, TabellaForme tabella)

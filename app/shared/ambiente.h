@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 
 #include "app/shared/scheda_forma.h"
 #include "app/shared/stato_condiviso.h"
@@ -57,6 +58,7 @@ class Ambiente {
 [[nodiscard]] std::shared_ptr<platform::Form> CreaForma(Ambiente& ambiente, std::string_view nome);
 
 // The window's title, and that of message boxes without one of their own.
+inline constexpr std::string_view kTitoloProgramma = "Esercitazioni sulle somme";
 [[nodiscard]] QString TitoloProgramma();
 
 }  // namespace somme::inline condiviso

@@ -3,10 +3,11 @@
 namespace somme::inline condiviso {
 
 void ImpostaDefault(StatoCondiviso& stato) {
-  stato.SuoniAttivi = true;
-  stato.CursoreDiSistema = false;
-  stato.ModalitaInput = kMouseTastiera;
-  stato.TempoScansione = 4;
+  const StatoCondiviso inizio{};
+  stato.SuoniAttivi = inizio.SuoniAttivi;
+  stato.CursoreDiSistema = inizio.CursoreDiSistema;
+  stato.ModalitaInput = inizio.ModalitaInput;
+  stato.TempoScansione = inizio.TempoScansione;
 }
 
 }  // namespace somme::inline condiviso

@@ -27,16 +27,10 @@ inline constexpr auto kPannelloAbaco = std::to_array<Row>({
     Chiudi({7440, 6240, 2580, 1155}),
 });
 
-inline constexpr auto kMenuAbaco = std::to_array<Row>({
-    item<&FormaAbaco::MenuAzzera>({.caption = "A&zzera conteggio"}),
-    item<&FormaAbaco::mnuStampa>({.caption = "&Stampa"}),
-    item<&FormaAbaco::mnuEsci>({.caption = "&Esci"}),
-});
-
 constexpr FormDesign DisegnoAbaco(std::string_view nome,
                                   std::span<const std::span<const Row>> tavole) {
   return {.name = nome,
-          .caption = "Esercitazioni sulle somme",
+          .caption = kTitoloProgramma,
           .width = 10860,
           .height = 7650,
           .back = kRosaPallido,

@@ -45,11 +45,11 @@ constexpr auto kControlli = std::to_array<Row>({
 });
 
 constexpr auto kFoglio = std::to_array<Row>({
-    item<&FormaAbacoHK::mnuStampaHP>({.caption = "Stampa Foglio Tastiera &HelpiKeys"}),
+    VoceFoglio<&FormaAbacoHK::mnuStampaHP>(),
 });
 
 constexpr std::array<std::span<const Row>, 4> kTavole{kControlli, kPannelloAbaco, kFoglio,
-                                                      kMenuAbaco};
+                                                      kMenuEsercizio};
 
 }  // namespace
 

@@ -28,7 +28,7 @@ constexpr auto kControlli = std::to_array<Row>({
     Errati({8400, 1695, 2340, 375}),
 });
 
-constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kPannelloAbaco, kMenuAbaco};
+constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kPannelloAbaco, kMenuEsercizio};
 
 }  // namespace
 

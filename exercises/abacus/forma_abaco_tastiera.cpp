@@ -48,7 +48,7 @@ constexpr auto kControlli = std::to_array<Row>({
     Errati({8160, 1695, 2415, 375}),
 });
 
-constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kPannelloAbaco, kMenuAbaco};
+constexpr std::array<std::span<const Row>, 3> kTavole{kControlli, kPannelloAbaco, kMenuEsercizio};
 
 // The words of the movie and what they ask for; any other is ignored.
 struct Parola {

@@ -30,7 +30,7 @@ constexpr int kStacco = 10;
 
 FormDesign Disegno(std::string_view nome, const VarianteBarre& variante) {
   return {.name = nome,
-          .caption = "Esercitazioni sulle somme",
+          .caption = kTitoloProgramma,
           .width = variante.larghezza,
           .height = variante.altezza,
           .back = kGialloPallido,

@@ -12,7 +12,7 @@ constexpr auto& kRisposta = kRispostaScritta<FormaBarreHK>;
 constexpr auto kSegno = std::to_array<Row>({Segno(120, 3600)});
 constexpr auto kTocco = std::to_array<Row>({
     Connessione<FormaBarreHK>(),
-    item<&FormaBarreHK::mnuStamopaHK>({.caption = "Stampa Foglio Tastiera &HelpiKeys"}),
+    VoceFoglio<&FormaBarreHK::mnuStamopaHK>(),
 });
 
 constexpr std::array<std::span<const Row>, 8> kTavole10{

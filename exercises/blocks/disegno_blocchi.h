@@ -87,10 +87,4 @@ inline constexpr auto kSottoBlocchi = std::to_array<Row>({
     Chiudi({7440, 6240, 2580, 1155}),
 });
 
-inline constexpr auto kMenuBlocchi = std::to_array<Row>({
-    item<&FormaBlocchi::MenuAzzera>({.caption = "A&zzera conteggio"}),
-    item<&FormaBlocchi::mnuStampa>({.caption = "&Stampa"}),
-    item<&FormaBlocchi::mnuEsci>({.caption = "&Esci"}),
-});
-
 }  // namespace somme::inline blocchi::disegno

@@ -19,7 +19,7 @@ constexpr double kAttesaCambio = 4;  // the movie's stretch must be over by then
 
 platform::FormDesign Disegno(std::string_view nome, const VarianteBlocchi& variante) {
   return {.name = nome,
-          .caption = "Esercitazioni sulle somme",
+          .caption = kTitoloProgramma,
           .width = 11175,
           .height = 7695,
           .back = disegno::kGialloPallido,

@@ -25,17 +25,17 @@ constexpr auto kRisultato = std::to_array<Row>({
 });
 
 constexpr auto kFoglio = std::to_array<Row>({
-    item<&FormaBlocchiHK::mnuStampaHK>({.caption = "Stampa Foglio Tastiera &HelpiKeys"}),
+    VoceFoglio<&FormaBlocchiHK::mnuStampaHK>(),
 });
 
 constexpr std::array<std::span<const Row>, 9> kTavole99{
     kPresa,         kTavoleBlocchi, kComandiEntro99<FormaBlocchiHK>,
     kCambioEntro99, kRisultato,     kContiBlocchi,
-    kSottoBlocchi,  kFoglio,        kMenuBlocchi};
+    kSottoBlocchi,  kFoglio,        kMenuEsercizio};
 constexpr std::array<std::span<const Row>, 9> kTavole999{
     kPresa,         kTavoleBlocchi, kComandiEntro999<FormaBlocchiHK>,
     kCambiEntro999, kRisultato,     kContiBlocchi,
-    kSottoBlocchi,  kFoglio,        kMenuBlocchi};
+    kSottoBlocchi,  kFoglio,        kMenuEsercizio};
 
 }  // namespace
 

@@ -40,9 +40,9 @@ constexpr auto kCifre = std::to_array<Row>({
 });
 
 constexpr std::array<std::span<const Row>, 7> kTavole99{
-    kTavoleBlocchi, kValori99, kCambio99, kRisultato99, kCifre, kSottoBlocchi, kMenuBlocchi};
+    kTavoleBlocchi, kValori99, kCambio99, kRisultato99, kCifre, kSottoBlocchi, kMenuEsercizio};
 constexpr std::array<std::span<const Row>, 7> kTavole999{
-    kTavoleBlocchi, kValori999, kCambi999, kRisultato999, kCifre, kSottoBlocchi, kMenuBlocchi};
+    kTavoleBlocchi, kValori999, kCambi999, kRisultato999, kCifre, kSottoBlocchi, kMenuEsercizio};
 
 }  // namespace
 

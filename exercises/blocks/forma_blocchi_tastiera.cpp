@@ -24,12 +24,12 @@ constexpr std::array<std::span<const Row>, 7> kTavole99{
     kTavoleBlocchi, kComandiEntro99<FormaBlocchiTastiera>,
     kCambioEntro99, kRisultato99,
     kContiBlocchi,  kSottoBlocchi,
-    kMenuBlocchi};
+    kMenuEsercizio};
 constexpr std::array<std::span<const Row>, 7> kTavole999{
     kTavoleBlocchi, kComandiEntro999<FormaBlocchiTastiera>,
     kCambiEntro999, kRisultato999,
     kContiBlocchi,  kSottoBlocchi,
-    kMenuBlocchi};
+    kMenuEsercizio};
 
 }  // namespace
 

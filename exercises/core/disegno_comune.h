@@ -68,4 +68,11 @@ constexpr Row Chiudi(TwipsRect posto) {
                                                      .in = nameOf<&FormaEsercizio::PictureStampa>});
 }
 
+// The menu of the forms that have nothing to choose in it.
+inline constexpr auto kMenuEsercizio = std::to_array<Row>({
+    item<&FormaEsercizio::MenuAzzera>({.caption = "A&zzera conteggio"}),
+    item<&FormaEsercizio::mnuStampa>({.caption = "&Stampa"}),
+    item<&FormaEsercizio::mnuEsci>({.caption = "&Esci"}),
+});
+
 }  // namespace somme::inline nucleo::disegno

@@ -62,6 +62,12 @@ constexpr platform::Row Connessione() {
   return platform::item<&F::ControlloConnessione>(0, {});
 }
 
+// The menu item that asks for the sheet. voce: the form's member.
+template <auto voce>
+constexpr platform::Row VoceFoglio() {
+  return platform::item<voce>({.caption = "Stampa Foglio Tastiera &HelpiKeys"});
+}
+
 }  // namespace disegno
 
 }  // namespace somme::inline nucleo

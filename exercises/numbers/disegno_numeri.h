@@ -29,16 +29,10 @@ inline constexpr auto kVerdettoNumeri = std::to_array<Row>({
     Chiudi({7440, 5940, 2580, 1155}),
 });
 
-inline constexpr auto kMenuNumeri = std::to_array<Row>({
-    item<&FormaNumeri::MenuAzzera>({.caption = "A&zzera conteggio"}),
-    item<&FormaNumeri::mnuStampa>({.caption = "&Stampa"}),
-    item<&FormaNumeri::mnuEsci>({.caption = "&Esci"}),
-});
-
 constexpr FormDesign DisegnoNumeri(std::string_view nome,
                                    std::span<const std::span<const Row>> tavole) {
   return {.name = nome,
-          .caption = "Esercitazioni sulle somme",
+          .caption = kTitoloProgramma,
           .width = 10725,
           .height = 7365,
           .back = kRosaPallido,

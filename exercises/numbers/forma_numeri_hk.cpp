@@ -22,11 +22,11 @@ constexpr auto kCasella = std::to_array<Row>({
 });
 
 constexpr auto kFoglio = std::to_array<Row>({
-    item<&FormaNumeriHK::mnuStampaHK>({.caption = "Stampa Foglio Tastiera &HelpiKeys"}),
+    VoceFoglio<&FormaNumeriHK::mnuStampaHK>(),
 });
 
 constexpr std::array<std::span<const Row>, 5> kTavole{kDomandaNumeri, kCasella, kVerdettoNumeri,
-                                                      kFoglio, kMenuNumeri};
+                                                      kFoglio, kMenuEsercizio};
 
 }  // namespace
 

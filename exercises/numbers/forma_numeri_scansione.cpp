@@ -23,7 +23,7 @@ constexpr auto kRisposta = std::to_array<Row>({
 });
 
 constexpr std::array<std::span<const Row>, 4> kTavole{kDomandaNumeri, kRisposta, kVerdettoNumeri,
-                                                      kMenuNumeri};
+                                                      kMenuEsercizio};
 
 }  // namespace
 

@@ -20,7 +20,7 @@ constexpr auto kCasella = std::to_array<Row>({
 });
 
 constexpr std::array<std::span<const Row>, 4> kTavole{kDomandaNumeri, kCasella, kVerdettoNumeri,
-                                                      kMenuNumeri};
+                                                      kMenuEsercizio};
 
 }  // namespace
 

@@ -58,7 +58,7 @@ constexpr std::array<std::span<const Row>, 2> kTavole{kCelleDisegno, kControlli}
 
 constexpr FormDesign Disegno(std::string_view nome) {
   return {.name = nome,
-          .caption = "Esercitazioni sulle somme",
+          .caption = kTitoloProgramma,
           .width = 9315,
           .height = 6525,
           .back = kRosaPallido,
