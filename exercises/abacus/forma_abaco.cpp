@@ -2,7 +2,7 @@
 
 #include "app/shared/modulo_colori_suoni.h"
 #include "exercises/abacus/clip_abaco.h"
-#include "exercises/core/quantita.h"
+#include "exercises/core/in_parole.h"
 #include "platform/forms/gate.h"
 
 namespace somme::inline abaco {

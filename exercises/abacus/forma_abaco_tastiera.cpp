@@ -6,7 +6,7 @@
 #include "exercises/abacus/casella_dietro.h"
 #include "exercises/abacus/clip_abaco.h"
 #include "exercises/abacus/disegno_abaco.h"
-#include "exercises/core/quantita.h"
+#include "exercises/core/in_parole.h"
 #include "platform/base/numbers.h"
 
 namespace somme::inline abaco {

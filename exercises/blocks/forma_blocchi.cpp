@@ -5,7 +5,7 @@
 #include "app/shared/modulo_colori_suoni.h"
 #include "cases/livelli.h"
 #include "exercises/core/disegno_comune.h"
-#include "exercises/core/quantita.h"
+#include "exercises/core/in_parole.h"
 #include "platform/base/numbers.h"
 
 namespace somme::inline blocchi {

@@ -1,7 +1,7 @@
 #include "exercises/core/forma_esercizio.h"
 
 #include "app/shared/modulo_colori_suoni.h"
-#include "exercises/core/quantita.h"
+#include "exercises/core/in_parole.h"
 #include "platform/base/numbers.h"
 #include "printing/modulo_stampa.h"
 

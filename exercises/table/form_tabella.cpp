@@ -3,7 +3,7 @@
 #include "app/shared/mod_language_support.h"
 #include "cases/chiavi.h"
 #include "exercises/core/disegno_comune.h"
-#include "exercises/core/quantita.h"
+#include "exercises/core/in_parole.h"
 #include "platform/base/numbers.h"
 #include "platform/forms/page.h"
 

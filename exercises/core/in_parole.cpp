@@ -1,4 +1,4 @@
-#include "exercises/core/quantita.h"
+#include "exercises/core/in_parole.h"
 
 #include <QStringList>
 #include <array>

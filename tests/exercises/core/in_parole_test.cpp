@@ -1,17 +1,17 @@
-#include "exercises/core/quantita.h"
+#include "exercises/core/in_parole.h"
 
 #include <QApplication>
 
 #include "support/banco.h"
 #include "support/iscrizione.h"
 
-namespace quantita_test {
+namespace in_parole_test {
 
 using prova::Banco;
 using somme::InParole;
 
 // What stands on a board, told in words.
-class QuantitaTest : public QObject {
+class InParoleTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
@@ -52,8 +52,8 @@ class QuantitaTest : public QObject {
   }
 };
 
-const prova::Iscrizione<QuantitaTest, QApplication> kIscritta;
+const prova::Iscrizione<InParoleTest, QApplication> kIscritta;
 
-}  // namespace quantita_test
+}  // namespace in_parole_test
 
-#include "quantita_test.moc"
+#include "in_parole_test.moc"
