@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/shared/colori.h"
 #include "input/tastiera_scansione.h"
 
 namespace somme::inline ingresso {
@@ -27,8 +28,10 @@ class TastieraHDUScansione final : public TastieraScansione {
   using TastieraScansione::PulsanteCorrente;
 
   // The persisted properties, in the order of the store.
-  platform::Property<double, qint32> ColoreSfondo{*this, QStringLiteral("ColoreSfondo"), 14737632};
-  platform::Property<double, qint32> ColoreScansione{*this, QStringLiteral("ColoreScansione"), 255};
+  platform::Property<double, qint32> ColoreSfondo{*this, QStringLiteral("ColoreSfondo"),
+                                                  colori::InNumero(colori::kGrigio)};
+  platform::Property<double, qint32> ColoreScansione{*this, QStringLiteral("ColoreScansione"),
+                                                     colori::InNumero(colori::kRosso)};
   platform::Property<bool> KVisibile{*this, QStringLiteral("KVisibile"), true};
   platform::Property<bool> HVisibile{*this, QStringLiteral("HVisibile"), true};
   platform::Property<bool> ScansioneAutomatica{*this, QStringLiteral("ScansioneAutomatica"), false};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/shared/colori.h"
 #include "input/tastiera_scansione.h"
 
 namespace somme::inline ingresso {
@@ -18,8 +19,10 @@ class TastieraNumericaScansione final : public TastieraScansione {
   platform::ControlArray<platform::Button> PulsanteNumero{*this};
 
   // The persisted properties, in the order of the store.
-  platform::Property<double, qint32> ColoreSfondo{*this, QStringLiteral("ColoreSfondo"), 14737632};
-  platform::Property<double, qint32> ColoreScansione{*this, QStringLiteral("ColoreScansione"), 255};
+  platform::Property<double, qint32> ColoreSfondo{*this, QStringLiteral("ColoreSfondo"),
+                                                  colori::InNumero(colori::kGrigio)};
+  platform::Property<double, qint32> ColoreScansione{*this, QStringLiteral("ColoreScansione"),
+                                                     colori::InNumero(colori::kRosso)};
   platform::Property<bool> AiutoVisibile{*this, QStringLiteral("AiutoVisibile"), true};
   platform::Property<bool> ScansioneAutomatica{*this, QStringLiteral("ScansioneAutomatica"), false};
   platform::Property<qint16> TempoScansione{*this, QStringLiteral("TempoScansione"), 4};

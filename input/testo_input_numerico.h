@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "app/shared/colori.h"
 #include "platform/base/currency.h"
 #include "platform/forms/controls/text_box.h"
 #include "platform/forms/user_control.h"
@@ -25,10 +26,11 @@ class TestoInputNumerico final : public platform::UserControl {
   platform::TextBox TestoInput{*this};
   platform::TextBox TestoOutput{*this};
 
-  // The persisted properties, in the order of the store. Colours are numbers of 24 bits, red in the
-  // lowest eight.
-  platform::Property<double> ColoreSfondo{*this, QStringLiteral("ColoreSfondo"), 16777215};
-  platform::Property<double> ColoreTesto{*this, QStringLiteral("ColoreTesto"), 0};
+  // The persisted properties, in the order of the store.
+  platform::Property<double> ColoreSfondo{*this, QStringLiteral("ColoreSfondo"),
+                                          colori::InNumero(platform::kWhite)};
+  platform::Property<double> ColoreTesto{*this, QStringLiteral("ColoreTesto"),
+                                         colori::InNumero(platform::kBlack)};
   // Also take a blank, "." and "," while typing.
   platform::Property<bool> AccettaSeparatori{*this, QStringLiteral("AccettaSeparatori"), false};
   platform::Property<qint16> MaxLength{*this, QStringLiteral("MaxLength"), 0};  // 0: no limit

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "app/shared/colori.h"
 #include "printing/foglio_tastiera.h"
 
 namespace somme::inline stampa {
@@ -22,17 +23,17 @@ constexpr FontSpec kCaratteriCifra{Face::Arial, 36, true};
 constexpr FontSpec kCaratteriParola{Face::Arial, 44, true};
 constexpr double kLatoCifra = 1160;
 
-// The place values have the colours of their blocks and beads, which the drawings have, too.
+// The place values have the colours of their blocks and beads.
 constexpr platform::Rgb ColoreDi(Tasto tasto) {
   switch (tasto) {
     case Tasto::Migliaia:
-      return {181, 123, 238};
+      return colori::kColoreMigliaia;
     case Tasto::Centinaia:
-      return {93, 220, 90};
+      return colori::kColoreCentinaia;
     case Tasto::Decine:
-      return {255, 90, 82};
+      return colori::kColoreDecine;
     case Tasto::Unita:
-      return {74, 151, 245};
+      return colori::kColoreUnita;
     default:
       return platform::kBlack;
   }
