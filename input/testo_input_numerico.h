@@ -53,8 +53,8 @@ class TestoInputNumerico final : public platform::UserControl {
   void Reimposta();
   // Back to editing: the input box is shown and takes the focus.
   void TestoPerInput();
-  // Shows the input box, whatever its name says: kept (docs/oddities.md). The focus stays where it
-  // is.
+  // Shows the input box, whatever its name says: kept (docs/oddities.md). It takes the focus where
+  // the box of the result had it.
   void TestoPerOutput();
   // What opens the box again once a number has been confirmed. The confirmed number shows it as a
   // picture, and looks like any other box where nothing has to.

@@ -193,7 +193,7 @@ void frmAvviaStampa::LeggiFigura(const QImage& figura) {
   immagine_.LeggiImmagine(figura, !stampante_.aperta() || stampante_.caratteristiche().takesPages);
 }
 
-// Toolkits of today draw a window and all that stands in it at one go.
+// A window is drawn together with all that stands in it.
 void frmAvviaStampa::Copia_Oggetto(QWidget& finestra, const QString& nome,
                                    platform::PictureBox& destinazione, bool conFigli) {
   destinazione.clear();

@@ -7,7 +7,7 @@
 namespace somme::inline blocchi {
 
 // The buttons that put blocks, in a panel that moves along under the board in use. A form's design
-// places them (see disegno_blocchi.h).
+// places them (see disegno_pulsanti.h).
 //
 // Each asks first whether it is visible, and means its own flag: the buttons of a hidden
 // `PicturePulsanti` still are. What keeps them from acting there is the game.
