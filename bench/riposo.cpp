@@ -127,13 +127,24 @@ class Riposo {
   int modo_ = 0;
 };
 
+// Each form, a line each: its name, and the ways of input in which it is seen, as the state numbers
+// them.
+void scriviForme() {
+  for (const somme::SchedaForma& scheda : somme::LeForme()) {
+    std::printf("%.*s", int(scheda.nome.size()), scheda.nome.data());
+    for (const qint16 modo : {somme::kMouseTastiera, somme::kScansioneManuale,
+                              somme::kScansioneAutomatica, somme::kHelpiKeys}) {
+      if (somme::ModoDi(modo) == scheda.modo) std::printf(" %d", modo);
+    }
+    std::puts("");
+  }
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
   if (argc == 2 && std::string_view(argv[1]) == "--forms") {
-    for (const std::string_view nome : somme::NomiDelleForme()) {
-      std::printf("%.*s\n", int(nome.size()), nome.data());
-    }
+    scriviForme();
     return 0;
   }
   return bench::misuraConCartella(argc, argv, [](const QString& cartella) {

@@ -25,7 +25,7 @@ FINESTRE = quanti(3, 2)  # times over that steps are watched
 QUIETE = 0.3  # seconds until the program sleeps again after its word
 AL_SECONDO = 1  # wake-ups a second that a form at rest stays under
 PASSO, DI_PIU = 1, 2  # seconds of a step of automatic scanning; wake-ups a second beside the steps
-MOUSE, MANUALE, AUTOMATICA, TOCCO = range(4)
+MANUALE, AUTOMATICA = 1, 2  # ways of input, as the state numbers them
 
 
 def risvegli(pid):
@@ -63,16 +63,17 @@ def guarda(pid, secondi):
     return guarda_tutti([pid], secondi)[0]
 
 
-def modi(forma):
-    """The ways of input in which a form is seen."""
-    if forma.endswith("Scansione"):
-        return [MANUALE, AUTOMATICA]
-    return [TOCCO] if forma.endswith("HK") else [MOUSE]
+def le_coppie(banco, scelte):
+    """Form and way of input, for every way in which each form is seen, or each of those chosen."""
+    elenco = subprocess.run([banco, "--forms"], check=True, capture_output=True, text=True)
+    for riga in elenco.stdout.splitlines():
+        forma, *modi = riga.split()
+        if not scelte or forma in scelte:
+            yield from ((forma, int(modo)) for modo in modi)
 
 
-def giri(forme):
+def giri(coppie):
     """Rounds of at most CORSIE pairs of a form and a way of input; with steps, or without."""
-    coppie = [(forma, modo) for forma in forme for modo in modi(forma)]
     for passi in (False, True):
         uguali = [coppia for coppia in coppie if (coppia[1] == AUTOMATICA) == passi]
         for i in range(0, len(uguali), CORSIE):
@@ -136,8 +137,7 @@ def giro(corsie, coppie):
 
 def tutte(banco, cartella, scelte=()):
     """Every form at rest, or those chosen."""
-    elenco = subprocess.run([banco, "--forms"], check=True, capture_output=True, text=True)
-    previsti = list(giri(scelte or elenco.stdout.split()))
+    previsti = list(giri(list(le_coppie(banco, scelte))))
     with contextlib.ExitStack() as aperte:
         corsie = []
         for _ in range(max(len(coppie) for coppie in previsti)):

@@ -19,10 +19,10 @@
 
 // A monkey at every form: `scimmia [--seme N] [--eventi N] [--secondi N] [--racconta] [FORM...]`;
 // with
-// `--elenco` it names the exercise forms and plays none.
-// FORM: the beginning of a form's name; without one, all forms of the program. It plays so many
-// events a form, in no more than so many seconds in all. The seed that it prints plays the same
-// again; that of one life is printed with what went wrong there.
+// `--elenco` it names the exercise forms and plays none; with names beside it, it ends with 1
+// unless they are those, in their order. FORM: the beginning of a form's name; without one, all
+// forms of the program. It plays so many events a form, in no more than so many seconds in all. The
+// seed that it prints plays the same again; that of one life is printed with what went wrong there.
 namespace {
 
 constexpr int kEventiPerVita = 500;
@@ -120,12 +120,15 @@ std::vector<QByteArray> scelte(const QStringList& chieste) {
   return forme;
 }
 
-// The names of the exercise forms, a line each.
-void scriviElenco() {
+// The names of the exercise forms, a line each. Whether they are those that were expected, where
+// some were.
+bool scriviElenco(const QStringList& attesi) {
+  QStringList nomi;
   for (const somme::SchedaForma& scheda : somme::LeForme()) {
-    if (scheda.genere != somme::Genere::Esercizio) continue;
-    std::printf("%.*s\n", int(scheda.nome.size()), scheda.nome.data());
+    if (scheda.genere == somme::Genere::Esercizio) nomi.append(QLatin1String(scheda.nome));
   }
+  std::puts(qPrintable(nomi.join(u'\n')));
+  return attesi.isEmpty() || attesi == nomi;
 }
 
 }  // namespace
@@ -143,8 +146,7 @@ int main(int argc, char* argv[]) {
   riga.addOptions({seme, eventi, secondi, racconta, elenco});
   riga.process(programma);
   if (riga.isSet(elenco)) {
-    scriviElenco();
-    return 0;
+    return scriviElenco(riga.positionalArguments()) ? 0 : 1;
   }
 
   const std::vector<QByteArray> forme = scelte(riga.positionalArguments());
