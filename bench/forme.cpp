@@ -13,6 +13,7 @@
 #include "cartella_in_lingua.h"
 #include "exercises/bars/forma_barre_pulsanti.h"
 #include "figura.h"
+#include "orologio.h"
 #include "platform/forms/fonts.h"
 #include "platform/forms/keys/key_guard.h"
 #include "programma_fermo.h"
@@ -30,10 +31,6 @@ using platform::Form;
 const int kTimes = bench::quanti(20, 3);
 constexpr double kFotogramma = 16;    // milliseconds from a picture of the screen to the next
 constexpr qsizetype kLunga = 64'000;  // bytes of the longest language file that is read whole
-
-double millisecondi(const QElapsedTimer& orologio) {
-  return static_cast<double>(orologio.nsecsElapsed()) / 1e6;
-}
 
 class Misura {
  public:
@@ -82,7 +79,7 @@ class Misura {
       orologio.start();
       QTest::keyPress(finestra, Qt::Key_Return);
       ambiente_.fondo.window().repaint();
-      tempi.push_back(millisecondi(orologio));
+      tempi.push_back(bench::millisecondi(orologio));
       QTest::keyRelease(finestra, Qt::Key_Return);
       QTest::keyClick(finestra, Qt::Key_Return);
       QTest::qWait(1);
@@ -107,8 +104,8 @@ class Misura {
       orologio.start();
       forma.TestoStampa.append(QStringLiteral(" 3 +  4 =  7\r\n"));
       QCoreApplication::processEvents();
-      if (i < kCampione) prime.push_back(millisecondi(orologio));
-      if (i >= kRighe - kCampione) ultime.push_back(millisecondi(orologio));
+      if (i < kCampione) prime.push_back(bench::millisecondi(orologio));
+      if (i >= kRighe - kCampione) ultime.push_back(bench::millisecondi(orologio));
     }
     const double prima = bench::mediana(prime);
     const double ultima = bench::mediana(ultime);
@@ -137,7 +134,7 @@ class Misura {
       orologio.start();
       QTest::keyPress(finestra, Qt::Key_X);
       QTest::keyRelease(finestra, Qt::Key_X);
-      tempi.push_back(millisecondi(orologio));
+      tempi.push_back(bench::millisecondi(orologio));
     }
     return bench::mediana(tempi);
   }
@@ -152,7 +149,7 @@ class Misura {
     orologio.start();
     forme.show(nome);
     ambiente_.fondo.window().repaint();
-    const double tempo = millisecondi(orologio);
+    const double tempo = bench::millisecondi(orologio);
     modello_.clear();
     Form* forma = forme.current();
     for (const Control* controllo : forma->controls()) {
@@ -204,7 +201,7 @@ class Misura {
     pagina->show();
     pagina->raise();
     finestra.repaint();
-    const double tempo = millisecondi(orologio);
+    const double tempo = bench::millisecondi(orologio);
     delete pagina;
     QTest::qWait(5);
     return tempo;

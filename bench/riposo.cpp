@@ -28,6 +28,7 @@
 #include "printing/frm_avvia_stampa.h"
 #include "programma_fermo.h"
 #include "support/come_dal_menu.h"
+#include "support/richiesta_del_foglio.h"
 #include "tools/tavoletta/tavoletta.h"
 
 namespace {
@@ -106,13 +107,7 @@ class Riposo {
   void stampa(platform::Form& sotto) {
     auto& dialogo = static_cast<somme::frmAvviaStampa&>(ambiente_.fondo.forms().loaded(nome_));
     const auto viva = dialogo.shared_from_this();
-    somme::frmAvviaStampa::Richiesta richiesta;
-    richiesta.oggetto = &sotto;
-    // As the sheets have it.
-    richiesta.larghezza = 420;
-    richiesta.altezza = 297;
-    richiesta.orientamento = 2;
-    (void)dialogo.StampaFCPB(richiesta);
+    (void)dialogo.StampaFCPB(prova::richiestaDelFoglio(sotto));
   }
 
   somme::tavoletta::Tavoletta tavoletta_;

@@ -21,6 +21,7 @@
 #include "app/tabella_forme.h"
 #include "exercises/numbers/forma_numeri_scansione.h"
 #include "figura.h"
+#include "orologio.h"
 #include "platform/forms/controls/ring_widget.h"
 #include "programma_fermo.h"
 #include "support/nomi_esercizi.h"
@@ -67,7 +68,7 @@ class Occhio final : public QObject {
     if (evento->type() == QEvent::Move) spostato_ = true;
     if (evento->type() == QEvent::Paint && spostato_) {
       spostato_ = false;
-      passi.push_back(static_cast<double>(orologio_.nsecsElapsed()) / 1e6);
+      passi.push_back(bench::millisecondi(orologio_));
     }
     return QObject::eventFilter(osservato, evento);
   }

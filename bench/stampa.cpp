@@ -10,9 +10,12 @@
 #include "app/shared/nomi_forme.h"
 #include "exercises/bars/forma_barre_pulsanti.h"
 #include "figura.h"
+#include "orologio.h"
+#include "platform/base/twips.h"
 #include "printing/frm_avvia_stampa.h"
 #include "printing/modulo_stampa.h"
 #include "support/banco.h"
+#include "support/richiesta_del_foglio.h"
 
 // Printing: how the time and the memory of a record grow with its lines, and how soon the preview
 // follows a change of a field. It needs a display.
@@ -23,10 +26,7 @@ namespace {
 constexpr int kPochi = 1000;
 constexpr int kMolti = 10000;
 constexpr double kFotogramma = 1000.0 / 60;  // milliseconds
-
-double millisecondi(const QElapsedTimer& orologio) {
-  return static_cast<double>(orologio.nsecsElapsed()) / 1e6;
-}
+constexpr int kMargine = int(platform::Twips::inches(1).count());
 
 QString righe(int quante) {
   QString testo;
@@ -83,11 +83,7 @@ class Misura {
     banco_.ambiente->fondo.window().showNormal();
     auto& dialogo = static_cast<somme::frmAvviaStampa&>(
         banco_.ambiente->fondo.forms().loaded(somme::forme::kFrmAvviaStampa));
-    somme::frmAvviaStampa::Richiesta richiesta;
-    richiesta.oggetto = static_cast<platform::Form*>(&forma_);
-    richiesta.larghezza = 420;
-    richiesta.altezza = 297;
-    richiesta.orientamento = 2;
+    const somme::frmAvviaStampa::Richiesta richiesta = prova::richiestaDelFoglio(forma_);
     banco_.tempo.after(0.1, [&] {
       std::vector<double> tempi;
       dialogo.Command1.click();
@@ -97,7 +93,7 @@ class Misura {
         orologio.start();
         dialogo.updPrX.step(i % 2 == 0 ? 1 : -1);
         dialogo.PictureAnteprima.widget()->repaint();
-        tempi.push_back(millisecondi(orologio));
+        tempi.push_back(bench::millisecondi(orologio));
         QCoreApplication::processEvents();
       }
       std::printf("preview after a change of a field: median %.2f ms, slowest %.2f ms\n",
@@ -117,7 +113,8 @@ class Misura {
   }
 
   void stampa() {
-    somme::StampaTestoRicco(*banco_.ambiente, forma_.TestoStampa, 1440, 1440, 1440, 1440);
+    somme::StampaTestoRicco(*banco_.ambiente, forma_.TestoStampa, kMargine, kMargine, kMargine,
+                            kMargine);
   }
 
   double tempo(int quante) {
@@ -127,7 +124,7 @@ class Misura {
       QElapsedTimer orologio;
       orologio.start();
       stampa();
-      tempi.push_back(millisecondi(orologio));
+      tempi.push_back(bench::millisecondi(orologio));
     }
     return bench::mediana(tempi);
   }

@@ -9,9 +9,11 @@
 #include <vector>
 
 #include "app/shared/ambiente.h"
+#include "app/shared/foglio_tasti.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/numbers/forma_numeri_hk.h"
 #include "figura.h"
+#include "orologio.h"
 #include "platform/devices/loopback_network.h"
 #include "programma_fermo.h"
 #include "support/nomi_esercizi.h"
@@ -21,6 +23,8 @@ namespace {
 
 constexpr int kTocchi = 200;
 constexpr int kPerduto = 5000;  // milliseconds
+constexpr somme::Zona kZero =
+    somme::kTastieraCifre.CelleDi(somme::kTastieraCifre.PostoDi(somme::Tasto::Cifra0));
 
 class Tocco {
  public:
@@ -39,7 +43,7 @@ class Tocco {
       QTest::qWait(2);
       QElapsedTimer orologio;
       orologio.start();
-      tavoletta_.Tocca(2, 2);
+      tavoletta_.Tocca(kZero.colonne.da, kZero.righe.da);
       while (forma.TestoInput.text().isEmpty()) {
         if (orologio.elapsed() > kPerduto) {
           std::printf("a touch was lost\n");
@@ -48,7 +52,7 @@ class Tocco {
         QCoreApplication::processEvents();
       }
       ambiente_.fondo.window().repaint();
-      tempi.push_back(static_cast<double>(orologio.nsecsElapsed()) / 1e6);
+      tempi.push_back(bench::millisecondi(orologio));
     }
     std::printf("from the report of a touch to the painted digit: median %.2f ms\n",
                 bench::mediana(tempi));

@@ -11,6 +11,7 @@
 #include "printing/frm_avvia_stampa.h"
 #include "support/banco.h"
 #include "support/come_dal_menu.h"
+#include "support/richiesta_del_foglio.h"
 
 // Whether the program gives back what it takes: the live heap after a thousand visits to each form
 // against that after ten, of two hundred to the sheets and the print dialog, and after a thousand
@@ -113,12 +114,7 @@ class Visite {
       auto& dialogo =
           static_cast<somme::frmAvviaStampa&>(forme().loaded(somme::forme::kFrmAvviaStampa));
       const auto viva = dialogo.shared_from_this();
-      somme::frmAvviaStampa::Richiesta richiesta;
-      richiesta.oggetto = sotto;
-      richiesta.larghezza = 420;
-      richiesta.altezza = 297;
-      richiesta.orientamento = 2;
-      (void)dialogo.StampaFCPB(richiesta);
+      (void)dialogo.StampaFCPB(prova::richiestaDelFoglio(*sotto));
     });
   }
 

@@ -6,6 +6,7 @@
 
 #include "app/form_info.h"
 #include "app/shared/nomi_forme.h"
+#include "menu_di_prova.h"
 #include "platform/forms/page.h"
 #include "support/banco.h"
 #include "support/controfigura.h"
@@ -14,8 +15,10 @@
 
 namespace form_menu_test {
 
+using prova::apriMenu;
 using prova::Banco;
 using prova::pulsante;
+using prova::scegliVoce;
 using somme::FormMenu;
 
 namespace {
@@ -33,12 +36,6 @@ constexpr char kParoleSuoni[] =
 // The main menu: its ways, its settings, the panel of the scanning interval.
 class FormMenuTest : public QObject {
   Q_OBJECT
-
-  static FormMenu& apri(Banco& banco) { return banco.apri<FormMenu>(somme::forme::kFormMenu); }
-  static void scegli(const platform::MenuItem& voce) {
-    voce.action()->trigger();
-    QCoreApplication::processEvents();
-  }
 
   // The height of the words of a family, which stand to the right of its picture.
   static int altezza(const platform::Button& famiglia) {
@@ -59,7 +56,7 @@ class FormMenuTest : public QObject {
  private Q_SLOTS:
   void theFamiliesAreWrittenInLettersOfOneSizeHoweverLongTheirNames() {
     Banco banco({800, 600}, prova::SenzaEsercizi);
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     const auto famiglie = std::to_array<platform::Button*>(
         {&pulsante(menu, "Command2"), &pulsante(menu, "Command3"), &pulsante(menu, "Command4"),
          &pulsante(menu, "Command5"), &pulsante(menu, "Command6")});
@@ -85,7 +82,7 @@ class FormMenuTest : public QObject {
     QFETCH(int, bottone);
     QFETCH(QString, forma);
     Banco banco(kFinestra, prova::SenzaEsercizi);
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     const platform::Button* bottoni[] = {&menu.Command1,
                                          &pulsante(menu, "Command2"),
                                          &pulsante(menu, "Command3"),
@@ -101,7 +98,7 @@ class FormMenuTest : public QObject {
 
   void theExitEndsTheProcessAtOnceAndClosesNothingFirst() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     banco.clicca(menu.Command1);
     QCOMPARE(banco.fine.stato, std::optional<int>(0));
     QVERIFY(!menu.isUnloaded());
@@ -110,7 +107,7 @@ class FormMenuTest : public QObject {
 
   void closingTheWindowEndsTheProgramAlthoughTheSplashFormIsLoadedForItsIcon() {
     Banco banco;
-    apri(banco);
+    apriMenu(banco);
     const auto caricate = banco.ambiente->fondo.forms().all();
     QVERIFY(std::any_of(caricate.begin(), caricate.end(), [](const auto& forma) {
       return forma->name() == QStringLiteral("FormAvvio");
@@ -121,14 +118,14 @@ class FormMenuTest : public QObject {
 
   void theGradientStandsBehindTheButtons() {
     Banco banco;
-    QVERIFY(apri(banco).page()->canvas()->hasGradient());
+    QVERIFY(apriMenu(banco).page()->canvas()->hasGradient());
   }
 
   void loadingClearsBothCounters() {
     Banco banco;
     banco.ambiente->stato.ContaEsatti = 3;
     banco.ambiente->stato.ContaErrati = 2;
-    apri(banco);
+    apriMenu(banco);
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
   }
@@ -137,7 +134,7 @@ class FormMenuTest : public QObject {
     Banco banco(kFinestra, prova::SenzaEsercizi);
     banco.metti(QStringLiteral("Italiano.lng"), kParoleSuoni);
     {
-      FormMenu& menu = apri(banco);
+      FormMenu& menu = apriMenu(banco);
       QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("caricato acceso"));
       banco.batti(Qt::Key_S, Qt::ControlModifier);
       QVERIFY(!banco.ambiente->stato.SuoniAttivi);
@@ -145,7 +142,7 @@ class FormMenuTest : public QObject {
       banco.batti(Qt::Key_S, Qt::ControlModifier);
       QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("cliccato acceso"));
       banco.batti(Qt::Key_S, Qt::ControlModifier);
-      scegli(menu.mnuAbout);
+      scegliVoce(menu.mnuAbout);
     }
     banco.clicca(banco.forma<somme::FormInfo>().Command1);
     QCOMPARE(banco.forma<FormMenu>().MnuSuoni.caption(), QStringLiteral("caricato spento"));
@@ -153,7 +150,7 @@ class FormMenuTest : public QObject {
 
   void aHeldShortcutActsOnce() {
     Banco banco;
-    apri(banco);
+    apriMenu(banco);
     banco.premi(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!banco.ambiente->stato.SuoniAttivi);
     banco.ripeti(Qt::Key_S, Qt::ControlModifier);
@@ -165,7 +162,7 @@ class FormMenuTest : public QObject {
 
   void thePointerChangesHereAtOnceAndElsewhereAtTheNextLoad() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     QCOMPARE(pulsante(menu, "Command2").mousePointer(), 99);
     QVERIFY(!menu.mnuUsaCursoreDiSistema.isChecked());
     banco.batti(Qt::Key_K, Qt::ControlModifier);
@@ -182,14 +179,14 @@ class FormMenuTest : public QObject {
   void aModeOtherThanMouseHidesTheTableAtOnceAndStillAfterComingBack() {
     Banco banco;
     {
-      FormMenu& menu = apri(banco);
+      FormMenu& menu = apriMenu(banco);
       QVERIFY(pulsante(menu, "Command6").isVisible());
       QVERIFY(menu.mnuInput[0].isChecked());
       banco.batti(Qt::Key_A, Qt::ControlModifier);
       QCOMPARE(banco.ambiente->stato.ModalitaInput, qint16(2));
       QVERIFY(!pulsante(menu, "Command6").isVisible());
       for (int i = 0; i < 4; ++i) QCOMPARE(menu.mnuInput[i].isChecked(), i == 2);
-      scegli(menu.mnuAbout);
+      scegliVoce(menu.mnuAbout);
     }
     banco.clicca(banco.forma<somme::FormInfo>().Command1);
     FormMenu& menu = banco.forma<FormMenu>();
@@ -213,7 +210,7 @@ class FormMenuTest : public QObject {
     QFETCH(qint16, modalita);
     Banco banco;
     banco.ambiente->stato.ModalitaInput = modalita == 0 ? 1 : 0;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     banco.batti(tasto, Qt::ControlModifier);
     QCOMPARE(banco.ambiente->stato.ModalitaInput, modalita);
     for (int i = 0; i < 4; ++i) QCOMPARE(menu.mnuInput[i].isChecked(), i == modalita);
@@ -221,14 +218,14 @@ class FormMenuTest : public QObject {
 
   void theSeparatorIsAnItemOfThirtyTwoHyphens() {
     Banco banco;
-    const FormMenu& menu = apri(banco);
+    const FormMenu& menu = apriMenu(banco);
     QCOMPARE(menu.mnuLinea1.caption(), QString(32, u'-'));
     QVERIFY(!menu.mnuLinea1.action()->isSeparator());
   }
 
   void theIntervalPanelCoversTheFormAndTakesTheFocus() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     QVERIFY(!menu.PictureTempoScansione.isVisible());
     banco.batti(Qt::Key_T, Qt::ControlModifier);
     QVERIFY(menu.PictureTempoScansione.isVisible());
@@ -248,7 +245,7 @@ class FormMenuTest : public QObject {
 
   void theScaleRunsFromOneSecondToFifteen() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     banco.batti(Qt::Key_T, Qt::ControlModifier);
     menu.HScrollScansione.setFocus();
     banco.batti(Qt::Key_End);
@@ -266,7 +263,7 @@ class FormMenuTest : public QObject {
 
   void theIntervalChangesWhileTheThumbIsDragged() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     banco.batti(Qt::Key_T, Qt::ControlModifier);
     const QWidget* barra = menu.HScrollScansione.widget();
     const QPoint centro = banco.centro(menu.HScrollScansione);
@@ -287,8 +284,8 @@ class FormMenuTest : public QObject {
 
   void theManualIsAskedForBesideTheProgramAndItsAbsenceSaysNothing() {
     Banco banco;
-    const FormMenu& menu = apri(banco);
-    scegli(menu.MnuDoc);
+    const FormMenu& menu = apriMenu(banco);
+    scegliVoce(menu.MnuDoc);
     QCOMPARE(banco.documenti.aperti, QStringList{banco.percorso(QStringLiteral("somme.pdf"))});
     QVERIFY(banco.messaggi.mostrati.empty());
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
@@ -296,8 +293,8 @@ class FormMenuTest : public QObject {
 
   void theCreditsComeAndGoBackToAFreshMenu() {
     Banco banco;
-    const FormMenu& menu = apri(banco);
-    scegli(menu.mnuAbout);
+    const FormMenu& menu = apriMenu(banco);
+    scegliVoce(menu.mnuAbout);
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormInfo"));
     banco.clicca(banco.forma<somme::FormInfo>().Command1);
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenu"));
@@ -305,7 +302,7 @@ class FormMenuTest : public QObject {
 
   void hidingTheTableWithTheFocusHandsTheFocusOn() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     pulsante(menu, "Command6").setFocus();
     QVERIFY(pulsante(menu, "Command6").hasFocus());
     banco.batti(Qt::Key_M, Qt::ControlModifier);

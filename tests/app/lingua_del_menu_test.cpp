@@ -8,6 +8,7 @@
 #include "app/shared/modulo_ini.h"
 #include "app/shared/nomi_forme.h"
 #include "exercises/numbers/forma_numeri_tastiera.h"
+#include "menu_di_prova.h"
 #include "platform/forms/menu_bar.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
@@ -15,15 +16,16 @@
 
 namespace lingua_del_menu_test {
 
+using prova::apriMenu;
 using prova::Banco;
 using prova::pulsante;
+using prova::scegliVoce;
 using somme::FormMenu;
 
 // The language menu of the main menu.
 class LinguaDelMenuTest : public QObject {
   Q_OBJECT
 
-  static FormMenu& apri(Banco& banco) { return banco.apri<FormMenu>(somme::forme::kFormMenu); }
   // The item of a language that is there.
   static platform::MenuItem& voce(FormMenu& menu, const QString& lingua) {
     platform::MenuItem* trovata = nullptr;
@@ -35,10 +37,6 @@ class LinguaDelMenuTest : public QObject {
   }
   static platform::MenuItem& inglese(FormMenu& menu) {
     return voce(menu, QStringLiteral("English"));
-  }
-  static void scegli(const platform::MenuItem& voce) {
-    voce.action()->trigger();
-    QCoreApplication::processEvents();
   }
   static QByteArray leggi(const Banco& banco, const QString& nome) {
     QFile file(banco.percorso(nome));
@@ -67,7 +65,7 @@ class LinguaDelMenuTest : public QObject {
  private Q_SLOTS:
   void theLanguagesFoundStandInTheMenuByNameAndTheCurrentOneIsMarked() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     QStringList nomi;
     menu.mnuLanguage.forEach([&nomi](platform::MenuItem& una) { nomi.append(una.caption()); });
     QCOMPARE(nomi, QStringList({QStringLiteral("Deutsch"), QStringLiteral("English"),
@@ -78,7 +76,7 @@ class LinguaDelMenuTest : public QObject {
 
   void anItemMadeAtRunTimeStandsInTheSameMenuUnderItsOwnName() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     const QAction* prima = menu.mnuLanguage[0].action();
     const QAction* seconda = menu.mnuLanguage[1].action();
     QCOMPARE(seconda->objectName(), QStringLiteral("mnuLanguage(1)"));
@@ -92,7 +90,7 @@ class LinguaDelMenuTest : public QObject {
 
   void theMouseChoosesALanguageFromTheOpenMenu() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     platform::MenuBar* barra = menu.page()->menuBar();
     const QPoint voce = barra->actionGeometry(menu.mnuLanguages.action()).center();
     QTest::mouseClick(banco.finestra(), Qt::LeftButton, {},
@@ -109,8 +107,8 @@ class LinguaDelMenuTest : public QObject {
 
   void choosingALanguageMarksItAppliesItAndWritesItAtOnce() {
     Banco banco;
-    FormMenu& menu = apri(banco);
-    scegli(inglese(menu));
+    FormMenu& menu = apriMenu(banco);
+    scegliVoce(inglese(menu));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
     QCOMPARE(menu.caption(), QStringLiteral("Addition exercises"));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
@@ -124,10 +122,10 @@ class LinguaDelMenuTest : public QObject {
 
   void aLanguageIsKeptAlsoWhenTheMenuIsLeftWhileItIsApplied() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     // At the first yield of the language.
     banco.tempo.after(0, [&] { banco.clicca(pulsante(menu, "Command3")); });
-    scegli(inglese(menu));
+    scegliVoce(inglese(menu));
     QCOMPARE(banco.nomeForma(), QStringLiteral("FormMenuNumeri"));
     QCOMPARE(leggi(banco, QStringLiteral("LangSetting.ini")).simplified(),
              QByteArray("[Language] CurrentLanguage=English"));
@@ -142,7 +140,7 @@ class LinguaDelMenuTest : public QObject {
   void ofTwoChoicesWithinOneApplicationTheLaterOneHolds() {
     QFETCH(int, passi);
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     auto& avvio = static_cast<somme::FormAvvio&>(
         banco.ambiente->fondo.forms().loaded(somme::forme::kFormAvvio));
     int fatti = 0;
@@ -150,11 +148,11 @@ class LinguaDelMenuTest : public QObject {
       if (++fatti < passi) {
         banco.tempo.after(0, passo);
       } else if (fatti == passi) {
-        scegli(voce(menu, QStringLiteral("Français")));
+        scegliVoce(voce(menu, QStringLiteral("Français")));
       }
     };
     banco.tempo.after(0, passo);
-    scegli(inglese(menu));
+    scegliVoce(inglese(menu));
     QCOMPARE(fatti, passi);
     QCOMPARE(banco.ambiente->stato.LinguaCorrente, QStringLiteral("Français"));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("Français")});
@@ -162,25 +160,25 @@ class LinguaDelMenuTest : public QObject {
              QByteArray("[Language] CurrentLanguage=Français"));
     // As where nothing else was ever chosen.
     Banco solo;
-    FormMenu& altro = apri(solo);
+    FormMenu& altro = apriMenu(solo);
     auto& altroAvvio = static_cast<somme::FormAvvio&>(
         solo.ambiente->fondo.forms().loaded(somme::forme::kFormAvvio));
-    scegli(voce(altro, QStringLiteral("Français")));
+    scegliVoce(voce(altro, QStringLiteral("Français")));
     QCOMPARE(testi(menu), testi(altro));
     QCOMPARE(testi(avvio), testi(altroAvvio));
   }
 
   void whoComesBackToTheFirstOfThreeLanguagesHasIt() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     banco.tempo.after(0, [&] {
-      banco.tempo.after(0, [&] { scegli(inglese(menu)); });
-      scegli(voce(menu, QStringLiteral("Deutsch")));
+      banco.tempo.after(0, [&] { scegliVoce(inglese(menu)); });
+      scegliVoce(voce(menu, QStringLiteral("Deutsch")));
     });
-    scegli(inglese(menu));
+    scegliVoce(inglese(menu));
     Banco solo;
-    FormMenu& altro = apri(solo);
-    scegli(inglese(altro));
+    FormMenu& altro = apriMenu(solo);
+    scegliVoce(inglese(altro));
     QCOMPARE(testi(menu), testi(altro));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
     QCOMPARE(leggi(banco, QStringLiteral("LangSetting.ini")).simplified(),
@@ -189,28 +187,28 @@ class LinguaDelMenuTest : public QObject {
 
   void theNextRunStartsInTheChosenLanguage() {
     Banco banco;
-    scegli(inglese(apri(banco)));
+    scegliVoce(inglese(apriMenu(banco)));
     Banco poi;
     poi.metti(QStringLiteral("LangSetting.ini"), leggi(banco, QStringLiteral("LangSetting.ini")));
     poi.ambiente->stato.LinguaCorrente.clear();
     somme::CaricaStringhe(*poi.ambiente);
     QCOMPARE(poi.ambiente->stato.LinguaCorrente, QStringLiteral("English"));
     QCOMPARE(poi.ambiente->stringhe.TestoEsatti, QStringLiteral("Right"));
-    FormMenu& menu = apri(poi);
+    FormMenu& menu = apriMenu(poi);
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
   }
 
   void theSharedStringsKeepTheLanguageOfTheStart() {
     Banco banco;
-    scegli(inglese(apri(banco)));
+    scegliVoce(inglese(apriMenu(banco)));
     QCOMPARE(banco.ambiente->stringhe.TestoEsatti, QStringLiteral("Esatti"));
     QCOMPARE(somme::TestoLingua(*banco.ambiente, "0003"), QStringLiteral("Right"));
   }
 
   void laterExercisesSpeakTheNewLanguageButCountInTheWordsOfTheStart() {
     Banco banco;
-    scegli(inglese(apri(banco)));
+    scegliVoce(inglese(apriMenu(banco)));
     banco.ambiente->stato.TipoEsercizio = 1;
     const auto& forma = banco.apri<somme::FormaNumeriTastiera>(somme::forme::kFormNumeriTotale);
     QCOMPARE(forma.PulsanteAvanti.caption(), QStringLiteral("&next"));
@@ -220,17 +218,17 @@ class LinguaDelMenuTest : public QObject {
 
   void aChangeOfLanguagePutsTheFilesOwnCaptionOnTheSounds() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("Disattiva i suoni"));
-    scegli(inglese(menu));
+    scegliVoce(inglese(menu));
     QCOMPARE(menu.MnuSuoni.caption(), QStringLiteral("Sounds"));
   }
 
   void aNameOfTwoWordsIsShownWholeAndWithoutItsExtension() {
     Banco banco;
     banco.metti(QStringLiteral("Lingua semplice.lng"), "[FormMenu]\nCommand1.Caption=\"Via\"\n");
-    FormMenu& menu = apri(banco);
-    scegli(voce(menu, QStringLiteral("Lingua semplice")));
+    FormMenu& menu = apriMenu(banco);
+    scegliVoce(voce(menu, QStringLiteral("Lingua semplice")));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Via"));
     QCOMPARE(pulsante(menu, "Command3").caption(), QStringLiteral("Solo numeri"));
     // The form's own caption is set also where the file has none.
@@ -246,8 +244,8 @@ class LinguaDelMenuTest : public QObject {
     Banco banco;
     banco.metti(QStringLiteral("Semplice.") + estensione,
                 "[FormMenu]\nCommand1.Caption=\"Via\"\n[Strings]\n0003=\"Bravo\"\n");
-    FormMenu& menu = apri(banco);
-    scegli(voce(menu, QStringLiteral("Semplice")));
+    FormMenu& menu = apriMenu(banco);
+    scegliVoce(voce(menu, QStringLiteral("Semplice")));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Via"));
     QCOMPARE(somme::TestoLingua(*banco.ambiente, "0003"), QStringLiteral("Bravo"));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("Semplice")});
@@ -256,18 +254,18 @@ class LinguaDelMenuTest : public QObject {
   void aLanguageThatIsThereInTwoSpellingsOfItsExtensionStandsOnceInTheMenu() {
     Banco banco;
     banco.metti(QStringLiteral("English.LNG"), "[FormMenu]\nCommand1.Caption=\"Other\"\n");
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     QStringList nomi;
     menu.mnuLanguage.forEach([&nomi](platform::MenuItem& una) { nomi.append(una.caption()); });
     QCOMPARE(nomi.count(QStringLiteral("English")), 1);
-    scegli(inglese(menu));
+    scegliVoce(inglese(menu));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
   }
 
   void namesAreComparedExactly() {
     Banco banco;
     banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=\"italiano\"\n");
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     QCOMPARE(segnate(menu), QStringList());
     QCOMPARE(banco.ambiente->stato.LinguaCorrente, QStringLiteral("italiano"));
   }
@@ -279,7 +277,7 @@ class LinguaDelMenuTest : public QObject {
       togli(banco, nome);
     }
     for (std::size_t volta = 1; volta <= 2; ++volta) {
-      FormMenu& menu = apri(banco);
+      FormMenu& menu = apriMenu(banco);
       QCOMPARE(banco.messaggi.mostrati.size(), volta);
       const platform::MessageBox& messaggio = banco.messaggi.mostrati.back();
       QCOMPARE(messaggio.text, QStringLiteral("Non è presente alcun file di linguaggio!"));
@@ -311,7 +309,7 @@ class LinguaDelMenuTest : public QObject {
   void aSettingsFileWithoutTheKeyMarksNothingAndEmptiesTheStrings() {
     Banco banco;
     banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\n");
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     QCOMPARE(segnate(menu), QStringList());
     QCOMPARE(banco.ambiente->stato.LinguaCorrente, QString());
     QCOMPARE(somme::TestoLingua(*banco.ambiente, "0003"), QString());
@@ -321,7 +319,7 @@ class LinguaDelMenuTest : public QObject {
   void aLanguageThatIsMissingLeavesTheDesignTexts() {
     Banco banco;
     banco.metti(QStringLiteral("LangSetting.ini"), "[Language]\nCurrentLanguage=\"Latino\"\n");
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     QCOMPARE(segnate(menu), QStringList());
     QCOMPARE(pulsante(menu, "Command3").caption(), QStringLiteral("Solo numeri"));
     QCOMPARE(menu.caption(), QStringLiteral("Esercitazioni sulle somme"));
@@ -329,9 +327,9 @@ class LinguaDelMenuTest : public QObject {
 
   void aLanguageThatVanishesWhileTheProgramRunsLeavesTheTextsAsTheyAre() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     togli(banco, QStringLiteral("English.lng"));
-    scegli(inglese(menu));
+    scegliVoce(inglese(menu));
     QCOMPARE(pulsante(menu, "Command3").caption(), QStringLiteral("Solo numeri"));
     QCOMPARE(menu.caption(), QStringLiteral("Esercitazioni sulle somme"));
     QCOMPARE(segnate(menu), QStringList{QStringLiteral("English")});
@@ -340,10 +338,10 @@ class LinguaDelMenuTest : public QObject {
 
   void aSettingsFileThatCannotBeWrittenChangesTheLanguageAllTheSame() {
     Banco banco;
-    FormMenu& menu = apri(banco);
+    FormMenu& menu = apriMenu(banco);
     togli(banco, QStringLiteral("LangSetting.ini"));
     QVERIFY(QDir(banco.cartella.path()).mkdir(QStringLiteral("LangSetting.ini")));
-    scegli(inglese(menu));
+    scegliVoce(inglese(menu));
     QCOMPARE(menu.Command1.caption(), QStringLiteral("Exit"));
     QVERIFY(banco.messaggi.mostrati.empty());
     QVERIFY(!banco.fine.stato.has_value());

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cases/modulo_somme.h"
+#include "caso_di_prova.h"
 #include "scripted_chance.h"
 #include "support/iscrizione.h"
 
@@ -20,6 +21,7 @@ static char* toString(const Caso& caso) {
 namespace regole_test {
 
 using namespace somme;
+using prova::caso;
 
 namespace {
 
@@ -33,12 +35,6 @@ Caso casoDi(Generatore genera, std::initializer_list<Draw> draws) {
     return {.Totale = -1};
   }
   return chance.isUsedUp() ? caso : Caso{.Totale = -1};
-}
-
-Caso caso(int addendo1, int addendo2) {
-  return {.Totale = static_cast<qint16>(addendo1 + addendo2),
-          .Addendo1 = static_cast<qint16>(addendo1),
-          .Addendo2 = static_cast<qint16>(addendo2)};
 }
 
 // Whether a routine of Rule 3 is still drawing after so many draws, for one sum of so many digits.

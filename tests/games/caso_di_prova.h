@@ -1,16 +1,10 @@
 #pragma once
 
+#include "../cases/caso_di_prova.h"
 #include "../cases/scripted_chance.h"
-#include "cases/caso.h"
 
 // Cases for the games' tests.
 namespace prova {
-
-inline somme::Caso caso(int addendo1, int addendo2) {
-  return {.Totale = static_cast<qint16>(addendo1 + addendo2),
-          .Addendo1 = static_cast<qint16>(addendo1),
-          .Addendo2 = static_cast<qint16>(addendo2)};
-}
 
 // What a level draws that takes any sum from 1 to `quante` and splits it anywhere.
 inline std::vector<Draw> sommaDivisa(int addendo1, int addendo2, int quante) {

@@ -8,6 +8,7 @@
 #include "exercises/bars/forma_barre_pulsanti.h"
 #include "printing/frm_avvia_stampa.h"
 #include "support/banco.h"
+#include "support/richiesta_del_foglio.h"
 
 namespace prova {
 
@@ -43,13 +44,9 @@ class DialogoDiProva {
   // finestra: the size of the main window.
   explicit DialogoDiProva(QSize finestra = {1024, 768}) : banco(finestra), forma(apriForma()) {}
 
-  // A sheet of the form on the screen as the sheets ask for it: across, without margins.
+  // A sheet of the form on the screen, as the sheets ask for it.
   [[nodiscard]] somme::frmAvviaStampa::Richiesta richiesta() {
-    somme::frmAvviaStampa::Richiesta r;
-    r.oggetto = static_cast<platform::Form*>(&forma);
-    r.larghezza = 420;
-    r.altezza = 297;
-    r.orientamento = 2;
+    somme::frmAvviaStampa::Richiesta r = richiestaDelFoglio(forma);
     r.titolo = QStringLiteral("Stampa foglio di prova");
     return r;
   }

@@ -4,21 +4,12 @@
 #include "dialogo_di_prova.h"
 #include "platform/forms/session_end.h"
 #include "support/iscrizione.h"
+#include "support/session.h"
 
 namespace fine_sessione_test {
 
 using prova::DialogoDiProva;
 using somme::frmAvviaStampa;
-
-namespace {
-
-// What the toolkit makes of the word of the session's manager.
-void finisceLaSessione() {
-  QEvent quit(QEvent::Quit);
-  QCoreApplication::sendEvent(qApp, &quit);
-}
-
-}  // namespace
 
 // The desktop's session ends while the print dialog stands open.
 class FineSessioneTest : public QObject {
@@ -31,7 +22,7 @@ class FineSessioneTest : public QObject {
     const platform::SessionEnd fine(prova.banco.ambiente->fondo);
     std::optional<int> stato;
     prova.apri(prova.richiesta(), [&](const frmAvviaStampa&) {
-      finisceLaSessione();
+      prova::endSession();
       stato = prova.banco.fine.stato;
     });
     QVERIFY(prova.visto);
@@ -50,7 +41,7 @@ class FineSessioneTest : public QObject {
     prova.apri(prova.richiesta(), [&](const frmAvviaStampa& d) {
       prova.clicca(d.cboPrinterNames);
       aperta = QApplication::activePopupWidget() != nullptr;
-      finisceLaSessione();
+      prova::endSession();
       stato = prova.banco.fine.stato;
     });
     QVERIFY(aperta);
@@ -65,7 +56,7 @@ class FineSessioneTest : public QObject {
     prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
     prova.apri(prova.richiesta(), [&](const frmAvviaStampa& d) {
       prova.banco.stampanti.mentreRisponde = [&] {
-        finisceLaSessione();
+        prova::endSession();
         stato = prova.banco.fine.stato;
       };
       prova.clicca(d.cmdStampa);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTest>
 #include <type_traits>
 
 #include "app/shared/foglio_tasti.h"
@@ -19,6 +20,13 @@ inline const std::vector<const somme::FoglioTasti*>& fogli() {
     return conTasti;
   }();
   return tutti;
+}
+// Rows of a test: the number of each of them there, as `quale`.
+inline void ogniFoglio() {
+  QTest::addColumn<int>("quale");
+  for (int i = 0; i < int(fogli().size()); ++i) {
+    QTest::newRow(std::string(fogli()[size_t(i)]->nome).c_str()) << i;
+  }
 }
 // Whether no key is at the place of a frame.
 inline bool vuota(const somme::FoglioTasti& foglio, int cornice) {

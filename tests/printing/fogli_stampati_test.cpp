@@ -13,6 +13,7 @@ using prova::cellaDi;
 using prova::DialogoDiProva;
 using prova::fogli;
 using prova::mostra;
+using prova::ogniFoglio;
 using prova::PdfLetto;
 using prova::postoDi;
 using prova::puntiDi;
@@ -27,12 +28,6 @@ class FogliStampatiTest : public QObject {
 
   static constexpr int kPunti = 200;  // to the inch
 
-  static void ogniFoglio() {
-    QTest::addColumn<int>("quale");
-    for (int i = 0; i < int(fogli().size()); ++i) {
-      QTest::newRow(std::string(fogli()[size_t(i)]->nome).c_str()) << i;
-    }
-  }
   struct Stampa {
     std::vector<QRectF> cornici;  // as they stood on the screen, in millimetres of the print
     size_t lavori = 0;

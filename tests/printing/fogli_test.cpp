@@ -14,6 +14,7 @@ using prova::controlloDi;
 using prova::DialogoDiProva;
 using prova::fogli;
 using prova::mostra;
+using prova::ogniFoglio;
 using prova::postoDi;
 using prova::puntiDi;
 using somme::FoglioTasti;
@@ -50,12 +51,6 @@ Quadro quadroDi(std::string_view nome) {
 class FogliTest : public QObject {
   Q_OBJECT
 
-  static void ogniFoglio() {
-    QTest::addColumn<int>("quale");
-    for (int i = 0; i < int(fogli().size()); ++i) {
-      QTest::newRow(std::string(fogli()[size_t(i)]->nome).c_str()) << i;
-    }
-  }
   static void ogniFoglioInOgniFinestra() {
     QTest::addColumn<int>("quale");
     QTest::addColumn<QSize>("finestra");

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <initializer_list>
+
 #include "input/tastiera_scansione.h"
 #include "support/banco.h"
 
@@ -17,6 +20,14 @@ inline bool scegliAMano(Banco& banco, const somme::TastieraScansione& tastiera, 
     banco.batti(Qt::Key_Space);
   }
   return false;
+}
+
+// The same on the keyboard with digits of a form, one key after the other.
+template <class F>
+bool scegliCifre(Banco& banco, const F& forma, std::initializer_list<int> tasti) {
+  return std::ranges::all_of(tasti, [&](int tasto) {
+    return scegliAMano(banco, forma.TastieraNumericaScansione1, tasto);
+  });
 }
 
 // Automatic scanning: waits until the key is lit, then Space.

@@ -14,6 +14,7 @@ using prova::Banco;
 using prova::kCiano;
 using prova::kRosso;
 using prova::kVerdeScuro;
+using prova::scegliCifre;
 using prova::stannoSulPosto;
 using prova::visibili;
 using somme::FormaBarreScansione;
@@ -42,12 +43,6 @@ void chiediAddendo(Banco& banco, FormaBarreScansione& forma, int quale, int tota
   const int limite = banco.ambiente->stato.LimiteEsercizio;
   banco.sorte.scrivi({{quale == 2 ? 0 : 1, 2}, {totale - 1, limite}, {addendo1, totale}});
   forma.mnuGiallaVerde.click();
-}
-
-bool scegli(Banco& banco, FormaBarreScansione& forma, std::initializer_list<int> tasti) {
-  return std::all_of(tasti.begin(), tasti.end(), [&](int tasto) {
-    return prova::scegliAMano(banco, forma.TastieraNumericaScansione1, tasto);
-  });
 }
 
 void entrambe() {
@@ -94,7 +89,7 @@ class FormaBarreScansioneTest : public QObject {
     QFETCH(int, limite);
     Banco banco;
     FormaBarreScansione& forma = apri(banco, limite, 7, 3);
-    QVERIFY(scegli(banco, forma, {7, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {7, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
     QCOMPARE(banco.suono.suonati, QStringList{banco.percorso(QStringLiteral("suoni/si.wav"))});
@@ -105,11 +100,11 @@ class FormaBarreScansioneTest : public QObject {
     QCOMPARE(forma.Label4[4].caption(), limite == 10 ? QString() : QStringLiteral("7"));
     QCOMPARE(forma.TastieraNumericaScansione1.pulsanteAcceso(), qint16(kAvanti));
     banco.sorte.scrivi({{4, limite}, {2, 5}});
-    QVERIFY(scegli(banco, forma, {kAvanti}));
+    QVERIFY(scegliCifre(banco, forma, {kAvanti}));
     QCOMPARE(forma.TestoInput.text(), QString());
     QCOMPARE(forma.n1.caption(), QStringLiteral(" 2"));
     QCOMPARE(forma.TastieraNumericaScansione1.pulsanteAcceso(), qint16(0));
-    QVERIFY(scegli(banco, forma, {5, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {5, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
   }
 
@@ -144,7 +139,7 @@ class FormaBarreScansioneTest : public QObject {
     QFETCH(int, limite);
     Banco banco;
     FormaBarreScansione& forma = apri(banco, limite, 7, 3);
-    QVERIFY(scegli(banco, forma, {5, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {5, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
     QVERIFY(forma.ImgNo.isVisible());
@@ -156,14 +151,14 @@ class FormaBarreScansioneTest : public QObject {
     // The next choice empties the box.
     banco.batti(Qt::Key_Return);
     QCOMPARE(forma.TestoInput.text(), QString());
-    QVERIFY(scegli(banco, forma, {7, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {7, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
   void aThirdDigitIsDroppedWithoutASound() {
     Banco banco;
     FormaBarreScansione& forma = apri(banco, 20, 17, 3);
-    QVERIFY(scegli(banco, forma, {1, 7, 4}));
+    QVERIFY(scegliCifre(banco, forma, {1, 7, 4}));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("17"));
     QVERIFY(banco.suono.suonati.isEmpty());
   }
@@ -171,11 +166,11 @@ class FormaBarreScansioneTest : public QObject {
   void aWrongNumberOfOneDigitCanGrowIntoAWrongOneOfTwo() {
     Banco banco;
     FormaBarreScansione& forma = apri(banco, 20, 17, 3);
-    QVERIFY(scegli(banco, forma, {1, kConferma, 6}));
+    QVERIFY(scegliCifre(banco, forma, {1, kConferma, 6}));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("16"));
-    QVERIFY(scegli(banco, forma, {kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(2));
-    QVERIFY(scegli(banco, forma, {7}));
+    QVERIFY(scegliCifre(banco, forma, {7}));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("16"));
   }
 
@@ -183,9 +178,9 @@ class FormaBarreScansioneTest : public QObject {
     Banco banco;
     FormaBarreScansione& forma = apri(banco, 10, 7, 3);
     chiediAddendo(banco, forma, 1, 4, 0);
-    QVERIFY(scegli(banco, forma, {0}));
+    QVERIFY(scegliCifre(banco, forma, {0}));
     QCOMPARE(forma.TestoInput.text(), QStringLiteral("0"));
-    QVERIFY(scegli(banco, forma, {kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
@@ -194,10 +189,10 @@ class FormaBarreScansioneTest : public QObject {
     QFETCH(int, limite);
     Banco banco;
     FormaBarreScansione& forma = apri(banco, limite, 7, 3);
-    QVERIFY(scegli(banco, forma, {kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     chiediAddendo(banco, forma, 1, 4, 0);
-    QVERIFY(scegli(banco, forma, {kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral("\r\n     0 +  4 =  4\r\n")));
   }
@@ -207,7 +202,7 @@ class FormaBarreScansioneTest : public QObject {
     QFETCH(int, limite);
     Banco banco;
     FormaBarreScansione& forma = apri(banco, limite, 7, 3);
-    QVERIFY(scegli(banco, forma, {kAiuto}));
+    QVERIFY(scegliCifre(banco, forma, {kAiuto}));
     QCOMPARE(visibili(forma.aiuto1), 3);
     QCOMPARE(visibili(forma.aiuto2), 4);
     QCOMPARE(visibili(forma.aiuto3), 7);
@@ -221,7 +216,7 @@ class FormaBarreScansioneTest : public QObject {
     QVERIFY(!forma.Line1->isVisible());
     QCOMPARE(qRound(forma.Line1->x1()), qRound(forma.Line1->x2()));
     banco.ambiente->stato.LimiteEsercizio = 10;
-    QVERIFY(scegli(banco, forma, {kAiuto}));
+    QVERIFY(scegliCifre(banco, forma, {kAiuto}));
     QVERIFY(forma.Line1->isVisible());
     forma.mnuRossa.click();
     QVERIFY(!forma.Line1->isVisible());
@@ -260,7 +255,7 @@ class FormaBarreScansioneTest : public QObject {
     chiediAddendo(banco, forma, 1, 15, 6);
     QVERIFY(stannoSulPosto(forma.TestoInput, forma.Label4[0]));
     QVERIFY(forma.TestoInput.foreColor() == kGiallo);
-    QVERIFY(scegli(banco, forma, {6, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {6, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
@@ -289,7 +284,7 @@ class FormaBarreScansioneTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QVERIFY(forma.TastieraNumericaScansione1.PictureScansione.hasFocus());
-    QVERIFY(scegli(banco, forma, {5, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {5, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
@@ -298,7 +293,7 @@ class FormaBarreScansioneTest : public QObject {
     QFETCH(int, limite);
     Banco banco;
     FormaBarreScansione& forma = apri(banco, limite, 7, 3);
-    QVERIFY(scegli(banco, forma, {7, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {7, kConferma}));
     forma.mnuStampa.click();
     banco.sorte.scrivi({{4, limite}, {2, 5}});
     // The key that closes the panel does not choose on the keyboard at its release.

@@ -11,6 +11,7 @@
 namespace forma_numeri_scansione_test {
 
 using prova::Banco;
+using prova::scegliCifre;
 using somme::FormaNumeriScansione;
 using somme::TastieraNumericaScansione;
 
@@ -36,13 +37,6 @@ F& apri(Banco& banco, std::string_view nome, qint16 modo,
 
 FormaNumeriScansione& apriTotale(Banco& banco, qint16 modo = 1) {
   return apri<FormaNumeriScansione>(banco, somme::forme::kFormNumeriTotaleScansione, modo);
-}
-
-// One key after the other, by manual scanning.
-bool scegli(Banco& banco, FormaNumeriScansione& forma, std::initializer_list<int> tasti) {
-  return std::all_of(tasti.begin(), tasti.end(), [&](int tasto) {
-    return prova::scegliAMano(banco, forma.TastieraNumericaScansione1, tasto);
-  });
 }
 
 }  // namespace
@@ -91,7 +85,7 @@ class FormaNumeriScansioneTest : public QObject {
     FormaNumeriScansione& forma = apriTotale(banco);
     QVERIFY(!forma.TastieraNumericaScansione1.ScansioneAutomatica.get());
     QVERIFY(!forma.TastieraNumericaScansione1.TimerScansione.isEnabled());
-    QVERIFY(scegli(banco, forma, {7, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {7, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 =  7"));
@@ -100,12 +94,12 @@ class FormaNumeriScansioneTest : public QObject {
     QCOMPARE(forma.TastieraNumericaScansione1.pulsanteAcceso(), qint16(kAvanti));
     QVERIFY(forma.TestoInput.Enabled.get());
     banco.sorte.scrivi({{4, 10}, {2, 5}});
-    QVERIFY(scegli(banco, forma, {kAvanti}));
+    QVERIFY(scegliCifre(banco, forma, {kAvanti}));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 2 +  3 = "));
     QCOMPARE(forma.TestoInput.Text.get(), QString());
     QCOMPARE(forma.TastieraNumericaScansione1.pulsanteAcceso(), qint16(0));
     QVERIFY(!forma.TastieraNumericaScansione1.PulsanteNumero[kAvanti].isEnabled());
-    QVERIFY(scegli(banco, forma, {5, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {5, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
   }
 
@@ -148,7 +142,7 @@ class FormaNumeriScansioneTest : public QObject {
     Banco banco;
     FormaNumeriScansione& forma = apriTotale(banco);
     QCOMPARE(forma.TestoInput.MaxLength.get(), qint16(2));
-    QVERIFY(scegli(banco, forma, {1, 2, 3}));
+    QVERIFY(scegliCifre(banco, forma, {1, 2, 3}));
     QCOMPARE(forma.TestoInput.Text.get(), QStringLiteral("12"));
     QVERIFY(banco.suono.suonati.isEmpty());
     QVERIFY(banco.messaggi.mostrati.empty());
@@ -157,15 +151,15 @@ class FormaNumeriScansioneTest : public QObject {
   void afterAWrongAnswerDigitsGoToTheHiddenTextUntilTheBinBringsTheBoxBack() {
     Banco banco;
     FormaNumeriScansione& forma = apriTotale(banco);
-    QVERIFY(scegli(banco, forma, {0, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {0, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QVERIFY(forma.ImgNo.isVisible());
     QCOMPARE(banco.suono.suonati, QStringList{banco.percorso(QStringLiteral("suoni/no.wav"))});
-    QVERIFY(scegli(banco, forma, {9}));
+    QVERIFY(scegliCifre(banco, forma, {9}));
     QCOMPARE(forma.TestoInput.Text.get(), QStringLiteral("09"));
     QVERIFY(forma.TestoInput.TestoOutput.isVisible());
     QCOMPARE(forma.TestoInput.TestoOutput.text(), QStringLiteral("0"));
-    QVERIFY(scegli(banco, forma, {kCestino}));
+    QVERIFY(scegliCifre(banco, forma, {kCestino}));
     QCOMPARE(forma.TestoInput.Text.get(), QString());
     QVERIFY(forma.TestoInput.TestoInput.isVisible());
     QVERIFY(!forma.TestoInput.TestoOutput.isVisible());
@@ -178,20 +172,20 @@ class FormaNumeriScansioneTest : public QObject {
     Banco banco;
     FormaNumeriScansione& forma = apriTotale(banco);
     const platform::TextBox& casella = forma.TestoInput.TestoOutput;
-    QVERIFY(scegli(banco, forma, {0, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {0, kConferma}));
     QVERIFY(casella.isVisible());
     QCOMPARE(casella.opener(), QStringLiteral("cestino"));
-    QVERIFY(scegli(banco, forma, {kCestino, 7, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {kCestino, 7, kConferma}));
     QVERIFY(casella.isVisible());
     QCOMPARE(casella.opener(), QString());
-    QVERIFY(scegli(banco, forma, {kAvanti, 0, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {kAvanti, 0, kConferma}));
     QCOMPARE(casella.opener(), QStringLiteral("cestino"));
   }
 
   void confirmingAnEmptyBoxDoesNothing() {
     Banco banco;
     FormaNumeriScansione& forma = apriTotale(banco);
-    QVERIFY(scegli(banco, forma, {kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
     QVERIFY(banco.suono.suonati.isEmpty());
@@ -207,7 +201,7 @@ class FormaNumeriScansioneTest : public QObject {
   void aClickOnTheShownAnswerAfterARightAnswerReturnsToEditing() {
     Banco banco;
     FormaNumeriScansione& forma = apriTotale(banco);
-    QVERIFY(scegli(banco, forma, {7, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {7, kConferma}));
     QVERIFY(forma.TestoInput.TestoOutput.isVisible());
     banco.clicca(forma.TestoInput.TestoOutput);
     QVERIFY(forma.TestoInput.TestoInput.isVisible());
@@ -241,7 +235,7 @@ class FormaNumeriScansioneTest : public QObject {
     // The next activation does.
     banco.sorte.scrivi({{4, 10}, {2, 5}});
     platform::LoadedForm(forma).runActivate();
-    QVERIFY(scegli(banco, forma, {5, kConferma}));
+    QVERIFY(scegliCifre(banco, forma, {5, kConferma}));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
@@ -267,8 +261,8 @@ class FormaNumeriScansioneTest : public QObject {
     QVERIFY(forma.EtOperazione.caption().contains(QStringLiteral(" + ____ = ")));
     QCOMPARE(forma.TestoInput.MaxLength.get(), qint16(2));
     const QString addendo = QString::number(stato.Addendo2);
-    for (const QChar cifra : addendo) QVERIFY(scegli(banco, forma, {cifra.digitValue()}));
-    QVERIFY(scegli(banco, forma, {kConferma}));
+    for (const QChar cifra : addendo) QVERIFY(scegliCifre(banco, forma, {cifra.digitValue()}));
+    QVERIFY(scegliCifre(banco, forma, {kConferma}));
     QCOMPARE(stato.ContaEsatti, qint16(1));
     const QStringList parti = forma.EtOperazione.caption().simplified().split(u' ');
     QCOMPARE(parti, (QStringList{QString::number(stato.Addendo1), QStringLiteral("+"), addendo,

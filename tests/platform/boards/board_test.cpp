@@ -2,10 +2,10 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include "platform/flash/hand_made.h"
 #include "platform/flash/movie_view.h"
+#include "platform/flash/view_bench.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/proportional_layout.h"
 #include "support/fondo_di_prova.h"
@@ -83,18 +83,11 @@ class BoardTest : public QObject {
   QString movie() {
     const QByteArray button = tag(
         7, u16(2) + u8(9) + u16(1) + u16(1) + shift(0, 0) + u8(0) + tell("word", "from a") + u8(0));
-    return saved(file(square(1, 10, 0xFF0000) + button + sprite(3, place(1, 2) + showFrame()) +
-                          place(1, 3, 40, 20, "a") + doAction(u8(0x07)) + showFrame() +
-                          showFrame() + doAction(tell("end", "") + u8(0x07)) + showFrame(),
-                      6, 100, 50));
-  }
-  QString saved(const QByteArray& bytes) {
-    const QString path = folder_.filePath(QStringLiteral("%1.swf").arg(++count_));
-    QFile out(path);
-    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size()) {
-      qFatal("cannot write the movie");
-    }
-    return path;
+    return folder_.saved(file(square(1, 10, 0xFF0000) + button +
+                                  sprite(3, place(1, 2) + showFrame()) + place(1, 3, 40, 20, "a") +
+                                  doAction(u8(0x07)) + showFrame() + showFrame() +
+                                  doAction(tell("end", "") + u8(0x07)) + showFrame(),
+                              6, 100, 50));
   }
   static MovieView& view(const Board& board) { return *qobject_cast<MovieView*>(board.widget()); }
   // Whatever is on the screen is painted, now.
@@ -132,8 +125,7 @@ class BoardTest : public QObject {
     bool gated = false;
   };
 
-  QTemporaryDir folder_;
-  int count_ = 0;
+  view_bench::MovieFolder folder_;
 
  private Q_SLOTS:
   void aClickOnAClipIsAHandlerOfTheForm() {
@@ -218,7 +210,7 @@ class BoardTest : public QObject {
     Ground ground;
     BoardForm& form = ground.forma();
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be shown")));
-    form.Table.setMovie(folder_.filePath(QStringLiteral("none.swf")));
+    form.Table.setMovie(folder_.path(QStringLiteral("none.swf")));
     form.Table.tSetProperty(QStringLiteral("a"), kVisible, QStringLiteral("0"));
     form.Table.gotoFrame(2);
     form.Table.play();

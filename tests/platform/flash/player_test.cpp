@@ -5,35 +5,15 @@
 
 #include "frames.h"
 #include "hand_made.h"
+#include "running.h"
 #include "support/iscrizione.h"
 
 namespace player_test {
 
 using namespace frames;
 using namespace hand_made;
-using platform::flash::Player;
-
-namespace {
-
-// A running movie that keeps what it was told: "command" or "command args".
-struct Running {
-  explicit Running(const QByteArray& tags, int version = 6, unsigned frames = 1)
-      : player(movie(file(tags, version, 100, 100, frames)),
-               [this](const QString& command, const QString& args) {
-                 told << (args.isEmpty() ? command : command + u' ' + args);
-               }) {}
-
-  QStringList take() { return std::exchange(told, {}); }
-
-  QStringList told;
-  Player player;
-};
-
-QStringList words(const char* text) {
-  return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
-}
-
-}  // namespace
+using running::Running;
+using running::words;
 
 class PlayerTest : public QObject {
   Q_OBJECT

@@ -1,19 +1,17 @@
 // Movies with buttons and clips that tell what the mouse does to them.
 #pragma once
 
-#include <QImage>
-#include <QStringList>
+#include <QPointF>
+#include <initializer_list>
 #include <utility>
 
-#include "hand_made.h"
-#include "platform/flash/player.h"
-#include "platform/flash/renderer.h"
+#include "running.h"
 
 namespace pointer_bench {
 
 using namespace hand_made;
-using platform::flash::Player;
-using platform::flash::Renderer;
+using running::Running;
+using running::words;
 
 // The transitions of the mouse as DefineButton2 stores them.
 inline constexpr unsigned kIdleToOverUp = 1;
@@ -59,32 +57,6 @@ inline QByteArray tellingButton(unsigned id, bool menu = false) {
 inline QByteArray looks() {
   return square(1, 20, 0) + square(2, 20, 0xFF0000) + square(3, 20, 0x00FF00) +
          square(4, 20, 0x0000FF);
-}
-
-struct Running {
-  explicit Running(const QByteArray& tags, int version = 6)
-      : player(movie(file(tags, version)), [this](const QString& command, const QString& args) {
-          told << (args.isEmpty() ? command : command + u' ' + args);
-        }) {}
-
-  QStringList take() { return std::exchange(told, {}); }
-  QRgb colorAt(int x, int y) {
-    QImage image(100, 100, QImage::Format_RGB32);
-    Renderer().paint(player.scene(), QTransform::fromScale(0.05, 0.05), 0xFFFFFFFF, image);
-    return image.pixel(x, y);
-  }
-  void click(QPointF point) {
-    player.mouseMove(point);
-    player.mousePress(point);
-    player.mouseRelease(point);
-  }
-
-  QStringList told;
-  Player player;
-};
-
-inline QStringList words(const char* text) {
-  return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
 }
 
 // PlaceObject2 with handlers of version 6: pairs of event bits and words that are told.

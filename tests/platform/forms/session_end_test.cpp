@@ -8,10 +8,12 @@
 #include "platform/forms/qt_page_setup.h"
 #include "stage.h"
 #include "support/iscrizione.h"
+#include "support/session.h"
 
 namespace session_end_test {
 
 using platform::SessionEnd;
+using prova::endSession;
 using trial::kOne;
 using trial::Stage;
 using trial::TrialForm;
@@ -20,17 +22,12 @@ using trial::TrialForm;
 class SessionEndTest : public QObject {
   Q_OBJECT
 
-  // What the toolkit makes of the word of the session's manager.
-  static void sessionEnds() {
-    QEvent quit(QEvent::Quit);
-    QCoreApplication::sendEvent(qApp, &quit);
-  }
   // Ends the session while something holds the program, and gives the status that the program has
   // ended with by then; the process would be gone.
   static std::optional<int> endDuring(Stage& stage, const std::function<void()>& hold) {
     std::optional<int> status;
     QTimer::singleShot(0, &stage.runtime->window(), [&] {
-      sessionEnds();
+      endSession();
       status = stage.end.stato;
       if (QWidget* open = QApplication::activeModalWidget()) {
         open->findChildren<QPushButton*>().first()->click();
@@ -47,7 +44,7 @@ class SessionEndTest : public QObject {
     stage.show(kOne);
     const SessionEnd end(*stage.runtime);
     stage.log.clear();
-    sessionEnds();
+    endSession();
     QCOMPARE(stage.end.stato, std::optional(0));
     QVERIFY2(stage.log.join(u' ').contains(QStringLiteral("unload"), Qt::CaseInsensitive),
              qPrintable(stage.log.join(u' ')));
@@ -90,7 +87,7 @@ class SessionEndTest : public QObject {
     stage.tap(Qt::Key_M, Qt::AltModifier, QStringLiteral("m"));
     QVERIFY(QApplication::activePopupWidget() != nullptr);
     stage.log.clear();
-    sessionEnds();
+    endSession();
     QCOMPARE(stage.end.stato, std::optional(0));
     QVERIFY(stage.log.contains(QStringLiteral("One.Unload")));
     QCOMPARE(QApplication::activePopupWidget(), nullptr);
