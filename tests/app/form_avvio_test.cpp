@@ -7,6 +7,7 @@
 #include "app/tabella_forme.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/righe_di_parole.h"
 
 namespace form_avvio_test {
 
@@ -40,19 +41,13 @@ class FormAvvioTest : public QObject {
 
   // What assistive technology calls them is what they show.
   void thePicturesBearTheNamesOfWhatTheyShow_data() {
-    QTest::addColumn<QString>("lingua");
-    QTest::addColumn<QString>("sinistra");
-    QTest::addColumn<QString>("destra");
-    const auto riga = [](const char* lingua, const char* sinistra, const char* destra) {
-      QTest::newRow(lingua) << QString::fromUtf8(lingua) << QString::fromUtf8(sinistra)
-                            << QString::fromUtf8(destra);
-    };
-    riga("Deutsch", "Ein Freund aus Blöcken", "Ein Abakus");
-    riga("English", "A friend made of blocks", "An abacus");
-    riga("Español", "Un amigo hecho de bloques", "Un ábaco");
-    riga("Français", "Un ami fait de blocs", "Un boulier");
-    riga("Italiano", "Un amico fatto di blocchi", "Un abaco");
-    riga("none of these", "Un amico fatto di blocchi", "Un abaco");
+    prova::righeDiParole({"lingua", "sinistra", "destra"},
+                         {{"Deutsch", "Ein Freund aus Blöcken", "Ein Abakus"},
+                          {"English", "A friend made of blocks", "An abacus"},
+                          {"Español", "Un amigo hecho de bloques", "Un ábaco"},
+                          {"Français", "Un ami fait de blocs", "Un boulier"},
+                          {"Italiano", "Un amico fatto di blocchi", "Un abaco"},
+                          {"none of these", "Un amico fatto di blocchi", "Un abaco"}});
   }
   void thePicturesBearTheNamesOfWhatTheyShow() {
     QFETCH(QString, lingua);

@@ -13,6 +13,7 @@
 #include "support/controfigura.h"
 #include "support/iscrizione.h"
 #include "support/pulsante.h"
+#include "support/righe_di_parole.h"
 
 namespace menu_di_famiglia_test {
 
@@ -128,6 +129,19 @@ bool sta(const platform::Control& controllo, int sinistra, int alto, int larghez
 class MenuDiFamigliaTest : public QObject {
   Q_OBJECT
 
+  // A button of one of the arrays, with what stands on it and the form that it leads to.
+  static void provaVoceDeiNumeri(platform::ControlArray<platform::Button> FormMenuNumeri::*bottoni,
+                                 int indice, const Voce& voce, const char* forma) {
+    Banco banco(kFinestra, prova::SenzaEsercizi);
+    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
+    const platform::Button& bottone = (menu.*bottoni)[indice];
+    QCOMPARE(bottone.caption(), QString::fromUtf8(voce.didascalia));
+    QVERIFY(sta(bottone, voce.sinistra, voce.alto, 1500, 675));
+    banco.clicca(bottone);
+    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
+    QCOMPARE(banco.nomeForma(), QString::fromLatin1(forma));
+  }
+
  private Q_SLOTS:
   void everySumOfTheNumbersSetsItsLevel_data() {
     QTest::addColumn<int>("indice");
@@ -135,14 +149,7 @@ class MenuDiFamigliaTest : public QObject {
   }
   void everySumOfTheNumbersSetsItsLevel() {
     QFETCH(int, indice);
-    Banco banco(kFinestra, prova::SenzaEsercizi);
-    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
-    const Voce& voce = kTotale[indice - 1];
-    QCOMPARE(menu.Command1[indice].caption(), QString::fromUtf8(voce.didascalia));
-    QVERIFY(sta(menu.Command1[indice], voce.sinistra, voce.alto, 1500, 675));
-    banco.clicca(menu.Command1[indice]);
-    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
-    QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriTotale"));
+    provaVoceDeiNumeri(&FormMenuNumeri::Command1, indice, kTotale[indice - 1], "FormNumeriTotale");
   }
 
   void everyAddendOfTheNumbersSetsItsLevel_data() {
@@ -151,14 +158,8 @@ class MenuDiFamigliaTest : public QObject {
   }
   void everyAddendOfTheNumbersSetsItsLevel() {
     QFETCH(int, indice);
-    Banco banco(kFinestra, prova::SenzaEsercizi);
-    FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(forme::kFormMenuNumeri);
-    const Voce& voce = kAddendo[indice - 1];
-    QCOMPARE(menu.Command2[indice].caption(), QString::fromUtf8(voce.didascalia));
-    QVERIFY(sta(menu.Command2[indice], voce.sinistra, voce.alto, 1500, 675));
-    banco.clicca(menu.Command2[indice]);
-    QCOMPARE(banco.ambiente->stato.TipoEsercizio, qint16(indice));
-    QCOMPARE(banco.nomeForma(), QStringLiteral("FormNumeriAddendo"));
+    provaVoceDeiNumeri(&FormMenuNumeri::Command2, indice, kAddendo[indice - 1],
+                       "FormNumeriAddendo");
   }
 
   void theHiddenElementOfTheAddendsShowsNothing() {
@@ -271,18 +272,12 @@ class MenuDiFamigliaTest : public QObject {
   }
 
   void everyMenuClearsTheCountersAndGoesBackToTheMainMenu_data() {
-    QTest::addColumn<QString>("nome");
-    QTest::addColumn<QString>("indietro");
-    QTest::addColumn<QString>("intestazione");
-    const auto riga = [](const char* nome, const char* indietro, const char* intestazione) {
-      QTest::newRow(nome) << QString::fromUtf8(nome) << QString::fromUtf8(indietro)
-                          << QString::fromUtf8(intestazione);
-    };
-    riga("FormMenuNumeri", "Command1(0)", "Numeri");
-    riga("FormMenuAbaco", "Command1(0)", "Abaco");
-    riga("FormMenuPLU", "Command1", "Piatti, lunghi e unità");
-    riga("FormMenuBarre", "Command1", "Uso delle barre");
-    riga("FormMenuTabella", "Command1", "Uso della tabella");
+    prova::righeDiParole({"nome", "indietro", "intestazione"},
+                         {{"FormMenuNumeri", "Command1(0)", "Numeri"},
+                          {"FormMenuAbaco", "Command1(0)", "Abaco"},
+                          {"FormMenuPLU", "Command1", "Piatti, lunghi e unità"},
+                          {"FormMenuBarre", "Command1", "Uso delle barre"},
+                          {"FormMenuTabella", "Command1", "Uso della tabella"}});
   }
   void everyMenuClearsTheCountersAndGoesBackToTheMainMenu() {
     QFETCH(QString, nome);

@@ -34,32 +34,34 @@ void chiaviComeParole(const Banco& banco) {
 class TitoliDeiMenuTest : public QObject {
   Q_OBJECT
 
+  // Rows of a test: the buttons of an array, from 1.
+  static void finoA(int ultimo, const char* nome) {
+    QTest::addColumn<int>("indice");
+    for (int i = 1; i <= ultimo; ++i) QTest::addRow("%s(%d)", nome, i) << i;
+  }
+  // Of groups, each given as its last button and the key of its word.
+  static QString gruppoDi(int indice, std::initializer_list<std::pair<int, int>> gruppi) {
+    for (const auto& [ultimo, chiave] : gruppi) {
+      if (indice <= ultimo) return QStringLiteral("<00%1>").arg(chiave);
+    }
+    return {};
+  }
   static QString titolo(const Banco& banco) { return banco.ambiente->stato.TitoloEsercizio; }
 
  private Q_SLOTS:
-  void everySumIsTitledWithItsGroupAndItsCaption_data() {
-    QTest::addColumn<int>("indice");
-    for (int i = 1; i <= 27; ++i) QTest::addRow("Command1(%d)", i) << i;
-  }
+  void everySumIsTitledWithItsGroupAndItsCaption_data() { finoA(27, "Command1"); }
   void everySumIsTitledWithItsGroupAndItsCaption() {
     QFETCH(int, indice);
     Banco banco(kFinestra, prova::SenzaEsercizi);
     chiaviComeParole(banco);
     FormMenuNumeri& menu = banco.apri<FormMenuNumeri>(kFormMenuNumeri);
     const QString didascalia = menu.Command1[indice].caption();
-    QString gruppo = QStringLiteral("<0028>");
-    if (indice <= 18) gruppo = QStringLiteral("<0027>");
-    if (indice <= 9) gruppo = QStringLiteral("<0026>");
-    if (indice <= 4) gruppo = QStringLiteral("<0025>");
-    if (indice == 1) gruppo = QStringLiteral("<0024>");
+    const QString gruppo = gruppoDi(indice, {{1, 24}, {4, 25}, {9, 26}, {18, 27}, {27, 28}});
     banco.clicca(menu.Command1[indice]);
     QCOMPARE(titolo(banco), QStringLiteral("<0031>") + gruppo + didascalia);
   }
 
-  void everyAddendIsTitledWithTheCaptionOfTheSumWithItsIndex_data() {
-    QTest::addColumn<int>("indice");
-    for (int i = 1; i <= 4; ++i) QTest::addRow("Command2(%d)", i) << i;
-  }
+  void everyAddendIsTitledWithTheCaptionOfTheSumWithItsIndex_data() { finoA(4, "Command2"); }
   void everyAddendIsTitledWithTheCaptionOfTheSumWithItsIndex() {
     QFETCH(int, indice);
     Banco banco(kFinestra, prova::SenzaEsercizi);
@@ -72,19 +74,14 @@ class TitoliDeiMenuTest : public QObject {
                  (indice <= 2 ? QStringLiteral("<0029>") : QStringLiteral("<0030>")) + didascalia);
   }
 
-  void everyLevelOfTheAbacusIsTitledWithItsGroupAndItsCaption_data() {
-    QTest::addColumn<int>("indice");
-    for (int i = 1; i <= 23; ++i) QTest::addRow("Command1(%d)", i) << i;
-  }
+  void everyLevelOfTheAbacusIsTitledWithItsGroupAndItsCaption_data() { finoA(23, "Command1"); }
   void everyLevelOfTheAbacusIsTitledWithItsGroupAndItsCaption() {
     QFETCH(int, indice);
     Banco banco(kFinestra, prova::SenzaEsercizi);
     chiaviComeParole(banco);
     FormMenuAbaco& menu = banco.apri<FormMenuAbaco>(kFormMenuAbaco);
     const QString didascalia = menu.Command1[indice].caption();
-    QString gruppo = QStringLiteral("<0038>");
-    if (indice <= 14) gruppo = QStringLiteral("<0037>");
-    if (indice <= 5) gruppo = QStringLiteral("<0036>");
+    const QString gruppo = gruppoDi(indice, {{5, 36}, {14, 37}, {23, 38}});
     banco.clicca(menu.Command1[indice]);
     QCOMPARE(titolo(banco), QStringLiteral("<0039>") + gruppo + didascalia);
   }

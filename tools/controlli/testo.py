@@ -37,21 +37,26 @@ def _forma(riga):
 _DATI = re.compile(r"to_array<(?:Row|Livello)>\(\{.*?\}\);|\{\s*\.(?:name|famiglie) =.*?\};", re.S)
 
 
+_SENZA_PESO = ("#", "namespace", "using ", "public:", "private:", "private Q_SLOTS:", "Q_OBJECT")
+
+
 def _righe_che_contano(file):
-    """(line number, shape) of the lines of a file in which something is said: rows of designs and
-    of levels, and what menus are made of, are data, and includes, access words and lone brackets are alike everywhere."""
+    """(line number, shape) of the lines of a file in which something is said: rows of designs, of levels
+    and of plain numbers, and what menus are made of, are data, and includes, names that are taken from
+    elsewhere, access words, what opens a class of tests, and lone brackets are alike everywhere."""
     codice = _DATI.sub(lambda d: "\n" * d[0].count("\n"), sorgenti.codice(file))
     for numero, riga in enumerate(codice.splitlines(), 1):
         riga = re.sub(r"\s+", " ", riga.strip())
-        if len(riga) < 4 or riga.startswith(("#", "namespace", "public:", "private:")):
+        if len(riga) < 4 or riga.startswith(_SENZA_PESO) or not _NOME.search(riga):
             continue
         yield numero, _forma(riga)
 
 
 def copie():
-    """Pairs of places of the product of which more lines than allowed in a row have one shape."""
+    """Pairs of places of which more lines than allowed in a row have one shape, in the product and beside
+    it."""
     passo = RIGHE_DI_UNA_COPIA + 1
-    righe = {f: list(_righe_che_contano(f)) for f in sorgenti.prodotto()}
+    righe = {f: list(_righe_che_contano(f)) for f in sorgenti.cpp()}
     posti = defaultdict(list)
     for file, elenco in righe.items():
         for i in range(len(elenco) - passo + 1):

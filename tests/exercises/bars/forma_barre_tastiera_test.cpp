@@ -8,6 +8,7 @@
 #include "barre_di_prova.h"
 #include "support/banco.h"
 #include "support/iscrizione.h"
+#include "support/risposta_scritta.h"
 
 namespace forma_barre_tastiera_test {
 
@@ -15,6 +16,7 @@ using prova::Banco;
 using prova::kCiano;
 using prova::kRosso;
 using prova::kVerdeScuro;
+using prova::rispondiScrivendo;
 using prova::stannoSulPosto;
 using prova::visibili;
 using somme::FormaBarreTastiera;
@@ -35,11 +37,6 @@ FormaBarreTastiera& apri(Banco& banco, int totale, int addendo1) {
 void chiediAddendo(Banco& banco, FormaBarreTastiera& forma, int quale, int totale, int addendo1) {
   banco.sorte.scrivi({{quale == 2 ? 0 : 1, 2}, {totale - 1, 20}, {addendo1, totale}});
   forma.mnuGiallaVerde.click();
-}
-
-void rispondi(Banco& banco, const QString& numero) {
-  banco.scrivi(numero);
-  banco.batti(Qt::Key_Return);
 }
 
 }  // namespace
@@ -76,20 +73,20 @@ class FormaBarreTastieraTest : public QObject {
     QVERIFY(forma.TestoInput.foreColor() == kVerdeScuro);
     QCOMPARE(forma.Label3.caption(),
              QStringLiteral("Trova il numero che corrisponde alla barra verde"));
-    rispondi(banco, QStringLiteral("11"));
+    rispondiScrivendo(banco, QStringLiteral("11"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     chiediAddendo(banco, forma, 1, 15, 4);
     QVERIFY(stannoSulPosto(forma.TestoInput, forma.Label4[0]));
     QVERIFY(forma.TestoInput.foreColor() == kCiano);
     QCOMPARE(forma.n1.caption(), QStringLiteral("?"));
-    rispondi(banco, QStringLiteral("4"));
+    rispondiScrivendo(banco, QStringLiteral("4"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
   }
 
   void theRightAnswerShowsTheSumLocksTheBoxAndOpensTheWay() {
     Banco banco;
     FormaBarreTastiera& forma = apri(banco, 17, 9);
-    rispondi(banco, QStringLiteral("17"));
+    rispondiScrivendo(banco, QStringLiteral("17"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QCOMPARE(forma.EtichettaEsatti.caption(), QStringLiteral("Esatti  1"));
     QCOMPARE(forma.n3.caption(), QStringLiteral(" 17"));
@@ -106,7 +103,7 @@ class FormaBarreTastieraTest : public QObject {
   void aWrongAnswerKeepsTheTextAndTheCaseAndCountsEachTime() {
     Banco banco;
     FormaBarreTastiera& forma = apri(banco, 17, 9);
-    rispondi(banco, QStringLiteral("16"));
+    rispondiScrivendo(banco, QStringLiteral("16"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
     QVERIFY(forma.ImgNo.isVisible());
@@ -117,7 +114,7 @@ class FormaBarreTastieraTest : public QObject {
     banco.batti(Qt::Key_Return);
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(2));
     banco.batti(Qt::Key_Backspace);
-    rispondi(banco, QStringLiteral("7"));
+    rispondiScrivendo(banco, QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
@@ -132,7 +129,7 @@ class FormaBarreTastieraTest : public QObject {
   void enterOnTheWayOnDoesNotAnswerTheNextCaseAtItsRelease() {
     Banco banco;
     FormaBarreTastiera& forma = apri(banco, 17, 9);
-    rispondi(banco, QStringLiteral("17"));
+    rispondiScrivendo(banco, QStringLiteral("17"));
     banco.suono.suonati.clear();
     banco.sorte.scrivi({{11, 20}, {5, 12}});
     banco.premi(Qt::Key_Return);
@@ -143,14 +140,14 @@ class FormaBarreTastieraTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QVERIFY(banco.suono.suonati.isEmpty());
-    rispondi(banco, QStringLiteral("12"));
+    rispondiScrivendo(banco, QStringLiteral("12"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
   }
 
   void enterInTheLockedBoxOfASolvedCaseCountsAgain() {
     Banco banco;
     FormaBarreTastiera& forma = apri(banco, 17, 9);
-    rispondi(banco, QStringLiteral("17"));
+    rispondiScrivendo(banco, QStringLiteral("17"));
     banco.clicca(forma.TestoInput);
     QVERIFY(forma.TestoInput.hasFocus());
     banco.scrivi(QStringLiteral("5"));
@@ -163,14 +160,14 @@ class FormaBarreTastieraTest : public QObject {
   void aLeadingNoughtIsRight() {
     Banco banco;
     apri(banco, 7, 3);
-    rispondi(banco, QStringLiteral("07"));
+    rispondiScrivendo(banco, QStringLiteral("07"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
   void aNumberOverTwentyIsTakenAndWrong() {
     Banco banco;
     apri(banco, 7, 3);
-    rispondi(banco, QStringLiteral("99"));
+    rispondiScrivendo(banco, QStringLiteral("99"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
   }
 
@@ -228,7 +225,7 @@ class FormaBarreTastieraTest : public QObject {
     QVERIFY(std::abs(forma.Line1->y2() - 3360 * scala) < 1e-6);
     // It goes at the next case, and the squares with it.
     banco.clicca(forma.TestoInput);
-    rispondi(banco, QStringLiteral("17"));
+    rispondiScrivendo(banco, QStringLiteral("17"));
     QVERIFY(forma.Line1->isVisible());
     banco.clicca(forma.PulsanteAvanti);
     QVERIFY(!forma.Line1->isVisible());
@@ -258,7 +255,7 @@ class FormaBarreTastieraTest : public QObject {
     QCOMPARE(visibili(forma.aiuto3), 20);
     QVERIFY(forma.aiuto3[19].widget()->geometry().right() < forma.Picture1.widget()->width());
     banco.clicca(forma.TestoInput);
-    rispondi(banco, QStringLiteral("20"));
+    rispondiScrivendo(banco, QStringLiteral("20"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
@@ -295,14 +292,14 @@ class FormaBarreTastieraTest : public QObject {
     QVERIFY(!banco.fine.stato.has_value());
     QVERIFY(forma.n3.left() + forma.n3.width() <= 32767);
     banco.clicca(forma.TestoInput);
-    rispondi(banco, QStringLiteral("20"));
+    rispondiScrivendo(banco, QStringLiteral("20"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
   void aChoiceOfTheMenuOpensASolvedCaseAnew() {
     Banco banco;
     FormaBarreTastiera& forma = apri(banco, 17, 9);
-    rispondi(banco, QStringLiteral("17"));
+    rispondiScrivendo(banco, QStringLiteral("17"));
     banco.sorte.scrivi({{4, 20}, {2, 5}});
     forma.mnuRossa.click();
     QVERIFY(!forma.PulsanteAvanti.isEnabled());

@@ -4,6 +4,7 @@
 
 #include "app/form_menu_numeri.h"
 #include "app/shared/nomi_forme.h"
+#include "numeri_di_prova.h"
 #include "platform/forms/loaded_form.h"
 #include "support/iscrizione.h"
 #include "support/scansione_di_prova.h"
@@ -22,17 +23,11 @@ constexpr int kAiuto = TastieraNumericaScansione::kAiuto;
 constexpr int kConferma = TastieraNumericaScansione::kConferma;
 constexpr int kAvanti = TastieraNumericaScansione::kAvanti;
 
-// Draws of the first level of either kind for 3 + 4 = 7.
-const std::vector<prova::SorteDiProva::Estrazione> kTrePiuQuattro{{6, 10}, {3, 7}};
-
 template <class F>
 F& apri(Banco& banco, std::string_view nome, qint16 modo,
-        const std::vector<prova::SorteDiProva::Estrazione>& estrazioni = kTrePiuQuattro) {
-  banco.ambiente->stato.TipoEsercizio = 1;
-  banco.ambiente->stato.TitoloEsercizio = QStringLiteral("Solo numeri. Entro 10: somme");
+        const std::vector<prova::SorteDiProva::Estrazione>& estrazioni = prova::kTrePiuQuattro) {
   banco.ambiente->stato.ModalitaInput = modo;
-  banco.sorte.scrivi(estrazioni);
-  return banco.apri<F>(nome);
+  return prova::apriNumeri<F>(banco, nome, 1, "Solo numeri. Entro 10: somme", estrazioni);
 }
 
 FormaNumeriScansione& apriTotale(Banco& banco, qint16 modo = 1) {

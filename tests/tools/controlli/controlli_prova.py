@@ -174,6 +174,17 @@ class Casa(unittest.TestCase):
         self.assertEqual(["cases/a.cpp:1 and input/b.cpp:2: more than 10 lines alike"],
                          list(testo.copie()))
 
+    def test_a_copy_is_found_beside_the_program_too(self):
+        self.file(tests__a_cpp="void f() {\n" + _LUNGO + "}\n", bench__b_cpp=_LUNGO, tools__c_cpp="int c;\n")
+        self.assertEqual(["bench/b.cpp:1 and tests/a.cpp:2: more than 10 lines alike"], list(testo.copie()))
+
+    def test_what_opens_a_class_of_tests_is_no_copy_nor_are_rows_of_numbers(self):
+        inizio = "".join(f"using {n};\n" for n in ("a::b", "namespace c", "d::e", "f = g::h<int>")) + \
+            "namespace {\n}\nclass T : public QObject {\n  Q_OBJECT\n\n private Q_SLOTS:\n  void t() {\n"
+        numeri = "".join(f"    {'{' * (i % 3)}{i}, 1{'}' * (i % 3)}{',;'[i % 2]}\n" for i in range(12))
+        self.file(tests__a_cpp=inizio + numeri + "  }\n};\n", tests__b_cpp=inizio + numeri + "  }\n};\n")
+        self.assertEqual([], list(testo.copie()))
+
     def test_ten_lines_alike_are_allowed(self):
         corto = "".join(_LUNGO.splitlines(True)[:9])
         self.file(cases__a_cpp="void f() {\n" + corto + "}\nint a;\n",

@@ -3,33 +3,28 @@
 #include <QApplication>
 
 #include "app/shared/nomi_forme.h"
-#include "support/banco.h"
+#include "numeri_di_prova.h"
 #include "support/iscrizione.h"
+#include "support/risposta_scritta.h"
 
-namespace form_numeri_addendo_test {
+namespace forma_numeri_tastiera_addendo_test {
 
 using prova::Banco;
+using prova::rispondiScrivendo;
 using somme::FormaNumeriTastiera;
 
 namespace {
 
 FormaNumeriTastiera& apri(Banco& banco, qint16 tipo,
                           const std::vector<prova::SorteDiProva::Estrazione>& estrazioni) {
-  banco.ambiente->stato.TipoEsercizio = tipo;
-  banco.ambiente->stato.TitoloEsercizio = QStringLiteral("Trova l'addendo");
-  banco.sorte.scrivi(estrazioni);
-  return banco.apri<FormaNumeriTastiera>(somme::forme::kFormNumeriAddendo);
-}
-
-void rispondi(Banco& banco, const QString& numero) {
-  banco.scrivi(numero);
-  banco.batti(Qt::Key_Return);
+  return prova::apriNumeri<FormaNumeriTastiera>(banco, somme::forme::kFormNumeriAddendo, tipo,
+                                                "Trova l'addendo", estrazioni);
 }
 
 }  // namespace
 
 // The number exercise with an addend to find: what it does otherwise than the one with the sum.
-class FormNumeriAddendoTest : public QObject {
+class FormaNumeriTastieraAddendoTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
@@ -45,18 +40,18 @@ class FormNumeriAddendoTest : public QObject {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, {{0, 10}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 0 + ____ =  10"));
-    rispondi(banco, QStringLiteral("0"));
+    rispondiScrivendo(banco, QStringLiteral("0"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     banco.clicca(forma.TestoInput.TestoOutput);
     banco.batti(Qt::Key_Backspace);
-    rispondi(banco, QStringLiteral("10"));
+    rispondiScrivendo(banco, QStringLiteral("10"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
   void theSumIsNoAnswer() {
     Banco banco;
     apri(banco, 1, {{4, 10}});
-    rispondi(banco, QStringLiteral("10"));
+    rispondiScrivendo(banco, QStringLiteral("10"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(0));
   }
@@ -64,7 +59,7 @@ class FormNumeriAddendoTest : public QObject {
   void theRightAnswerWritesTheWholeOperationAnew() {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, {{4, 10}});
-    rispondi(banco, QStringLiteral("06"));
+    rispondiScrivendo(banco, QStringLiteral("06"));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 +  6 =  10"));
     QCOMPARE(forma.TestoStampa.text(),
              QStringLiteral("\r\nTrova l'addendo\r\n\r\n 4 +  6 =  10\r\n"));
@@ -94,7 +89,7 @@ class FormNumeriAddendoTest : public QObject {
       forma.PulsanteAvanti.click();
       QCOMPARE(forma.EtOperazione.caption(), riga.domanda);
       QCOMPARE(banco.sorte.rimaste(), std::size_t(0));
-      rispondi(banco, QString::number(banco.ambiente->stato.Addendo2));
+      rispondiScrivendo(banco, QString::number(banco.ambiente->stato.Addendo2));
       QCOMPARE(banco.ambiente->stato.ContaEsatti, riga.tipo);
     }
   }
@@ -111,13 +106,13 @@ class FormNumeriAddendoTest : public QObject {
   void anAddendOfNoughtCanBeAnswered() {
     Banco banco;
     apri(banco, 3, {{0, 11}});
-    rispondi(banco, QStringLiteral("0"));
+    rispondiScrivendo(banco, QStringLiteral("0"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 };
 
-const prova::Iscrizione<FormNumeriAddendoTest, QApplication> kIscritta;
+const prova::Iscrizione<FormaNumeriTastieraAddendoTest, QApplication> kIscritta;
 
-}  // namespace form_numeri_addendo_test
+}  // namespace forma_numeri_tastiera_addendo_test
 
-#include "form_numeri_addendo_test.moc"
+#include "forma_numeri_tastiera_addendo_test.moc"

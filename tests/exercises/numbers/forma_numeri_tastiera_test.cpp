@@ -6,36 +6,29 @@
 
 #include "app/shared/nomi_forme.h"
 #include "cases/modulo_somme.h"
-#include "support/banco.h"
+#include "numeri_di_prova.h"
 #include "support/iscrizione.h"
+#include "support/risposta_scritta.h"
 
-namespace form_numeri_totale_test {
+namespace forma_numeri_tastiera_test {
 
 using prova::Banco;
+using prova::kTrePiuQuattro;
+using prova::rispondiScrivendo;
 using somme::FormaNumeriTastiera;
 
 namespace {
 
-// Draws of `GeneraEntro10` for a sum of 7 = 3 + 4.
-const std::vector<prova::SorteDiProva::Estrazione> kTrePiuQuattro{{6, 10}, {3, 7}};
-
 FormaNumeriTastiera& apri(Banco& banco, qint16 tipo,
                           const std::vector<prova::SorteDiProva::Estrazione>& estrazioni) {
-  banco.ambiente->stato.TipoEsercizio = tipo;
-  banco.ambiente->stato.TitoloEsercizio = QStringLiteral("Solo numeri. Entro 10: somme");
-  banco.sorte.scrivi(estrazioni);
-  return banco.apri<FormaNumeriTastiera>(somme::forme::kFormNumeriTotale);
-}
-
-void rispondi(Banco& banco, const QString& numero) {
-  banco.scrivi(numero);
-  banco.batti(Qt::Key_Return);
+  return prova::apriNumeri<FormaNumeriTastiera>(banco, somme::forme::kFormNumeriTotale, tipo,
+                                                "Solo numeri. Entro 10: somme", estrazioni);
 }
 
 }  // namespace
 
 // The number exercise with the sum to find, as a pupil uses it.
-class FormNumeriTotaleTest : public QObject {
+class FormaNumeriTastieraTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
@@ -77,7 +70,7 @@ class FormNumeriTotaleTest : public QObject {
   void theRightAnswerIsCountedWrittenAndOpensTheWay() {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
-    rispondi(banco, QStringLiteral("7"));
+    rispondiScrivendo(banco, QStringLiteral("7"));
     QVERIFY(forma.ImgSi.isVisible());
     QVERIFY(!forma.ImgNo.isVisible());
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
@@ -93,7 +86,7 @@ class FormNumeriTotaleTest : public QObject {
   void aClickOnTheShownRightAnswerDoesNotReopenTheBox() {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
-    rispondi(banco, QStringLiteral("7"));
+    rispondiScrivendo(banco, QStringLiteral("7"));
     banco.clicca(forma.TestoInput.TestoOutput);
     QVERIFY(forma.TestoInput.TestoOutput.isVisible());
     QVERIFY(!forma.TestoInput.TestoInput.isVisible());
@@ -102,7 +95,7 @@ class FormNumeriTotaleTest : public QObject {
   void aWrongAnswerLeavesTheCaseOpenAndTheNumberInSight() {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
-    rispondi(banco, QStringLiteral("8"));
+    rispondiScrivendo(banco, QStringLiteral("8"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(1));
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  1"));
     QVERIFY(!forma.ImgSi.isVisible());
@@ -120,7 +113,7 @@ class FormNumeriTotaleTest : public QObject {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     for (const QString& numero : {QStringLiteral("8"), QStringLiteral("9"), QStringLiteral("7")}) {
-      rispondi(banco, numero);
+      rispondiScrivendo(banco, numero);
       if (numero == u"7") break;
       banco.clicca(forma.TestoInput.TestoOutput);
       banco.batti(Qt::Key_Backspace);
@@ -135,7 +128,7 @@ class FormNumeriTotaleTest : public QObject {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
     forma.TestoInput.MaxLength.set(3);
-    rispondi(banco, QStringLiteral("007"));
+    rispondiScrivendo(banco, QStringLiteral("007"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
     QVERIFY(forma.TestoStampa.text().endsWith(QStringLiteral(" 3 +  4 =  7\r\n")));
   }
@@ -158,7 +151,7 @@ class FormNumeriTotaleTest : public QObject {
     QFETCH(int, tasto);
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
-    rispondi(banco, QStringLiteral("7"));
+    rispondiScrivendo(banco, QStringLiteral("7"));
     banco.sorte.scrivi({{9, 10}, {4, 10}});
     banco.batti(tasto);
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 4 +  6 = "));
@@ -169,14 +162,14 @@ class FormNumeriTotaleTest : public QObject {
     // The picture of the last answer stays, and nothing has been judged.
     QVERIFY(forma.ImgSi.isVisible());
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
-    rispondi(banco, QStringLiteral("10"));
+    rispondiScrivendo(banco, QStringLiteral("10"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(2));
   }
 
   void aHeldEnterNeverAnswersTwiceOrSkipsACase() {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
-    rispondi(banco, QStringLiteral("7"));
+    rispondiScrivendo(banco, QStringLiteral("7"));
     banco.sorte.scrivi({{9, 10}, {4, 10}});
     banco.premi(Qt::Key_Return);
     for (int i = 0; i < 30; ++i) {
@@ -192,7 +185,7 @@ class FormNumeriTotaleTest : public QObject {
   void menuAzzeraKeepsTheCaseAndThePictures() {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
-    rispondi(banco, QStringLiteral("8"));
+    rispondiScrivendo(banco, QStringLiteral("8"));
     forma.MenuAzzera.click();
     QCOMPARE(forma.EtichettaErrati.caption(), QStringLiteral("Errati  0"));
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
@@ -200,14 +193,14 @@ class FormNumeriTotaleTest : public QObject {
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 3 +  4 = "));
     banco.clicca(forma.TestoInput.TestoOutput);
     banco.batti(Qt::Key_Backspace);
-    rispondi(banco, QStringLiteral("7"));
+    rispondiScrivendo(banco, QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
   void aFurtherActivationMakesANewCaseAndClearsTheRecord() {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
-    rispondi(banco, QStringLiteral("7"));
+    rispondiScrivendo(banco, QStringLiteral("7"));
     forma.mnuStampa.click();
     banco.sorte.scrivi({{9, 10}, {4, 10}});
     banco.riattiva();
@@ -243,7 +236,7 @@ class FormNumeriTotaleTest : public QObject {
     }
     banco.clicca(forma.CommandChiudi);
     QVERIFY(forma.TestoInput.TestoInput.hasFocus());
-    rispondi(banco, QStringLiteral("7"));
+    rispondiScrivendo(banco, QStringLiteral("7"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
@@ -270,7 +263,7 @@ class FormNumeriTotaleTest : public QObject {
       QVERIFY2(caso == atteso, qPrintable(QString::number(tipo)));
       QCOMPARE(banco.sorte.rimaste(), std::size_t(0));
       QCOMPARE(forma.TestoInput.MaxLength.get(), cifre[tipo - 1]);
-      rispondi(banco, QString::number(caso.Totale));
+      rispondiScrivendo(banco, QString::number(caso.Totale));
       QCOMPARE(banco.ambiente->stato.ContaEsatti, tipo);
     }
     QCOMPARE(banco.ambiente->stato.ContaErrati, qint16(0));
@@ -300,7 +293,7 @@ class FormNumeriTotaleTest : public QObject {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 23, {{9887, 9888}, {1234, 9888}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral("1 234 + 8 654 = "));
-    rispondi(banco, QStringLiteral("9888"));
+    rispondiScrivendo(banco, QStringLiteral("9888"));
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral("1 234 + 8 654 =  9 888"));
   }
 
@@ -308,7 +301,7 @@ class FormNumeriTotaleTest : public QObject {
     Banco banco;
     FormaNumeriTastiera& forma = apri(banco, 2, {{0, 11}, {0, 11}});
     QCOMPARE(forma.EtOperazione.caption(), QStringLiteral(" 0 +  0 = "));
-    rispondi(banco, QStringLiteral("0"));
+    rispondiScrivendo(banco, QStringLiteral("0"));
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
@@ -341,7 +334,7 @@ class FormNumeriTotaleTest : public QObject {
     Banco banco;
     apri(banco, 1, kTrePiuQuattro);
     banco.ambiente->stato.ContaErrati = 32767;
-    rispondi(banco, QStringLiteral("8"));
+    rispondiScrivendo(banco, QStringLiteral("8"));
     QCOMPARE(banco.fine.stato.value_or(0), 1);
   }
 
@@ -356,7 +349,7 @@ class FormNumeriTotaleTest : public QObject {
   void theTextOfTheBoxGrowsWithTheWindow() {
     Banco banco({800, 600});
     FormaNumeriTastiera& forma = apri(banco, 1, kTrePiuQuattro);
-    rispondi(banco, QStringLiteral("8"));
+    rispondiScrivendo(banco, QStringLiteral("8"));
     const auto* casella = qobject_cast<QLineEdit*>(forma.TestoInput.TestoOutput.widget());
     const double prima = casella->font().pixelSize();
     banco.ridimensiona({1600, 1200});
@@ -372,8 +365,8 @@ class FormNumeriTotaleTest : public QObject {
   }
 };
 
-const prova::Iscrizione<FormNumeriTotaleTest, QApplication> kIscritta;
+const prova::Iscrizione<FormaNumeriTastieraTest, QApplication> kIscritta;
 
-}  // namespace form_numeri_totale_test
+}  // namespace forma_numeri_tastiera_test
 
-#include "form_numeri_totale_test.moc"
+#include "forma_numeri_tastiera_test.moc"
