@@ -29,17 +29,17 @@ using prova::Banco;
 namespace {
 
 // The row that a control was made from: the last one of its name and index.
-const Row* rowOf(const Form& form, const QString& name) {
-  const Row* found = nullptr;
-  for (const auto table : form.design().tables) {
-    for (const Row& row : table) {
-      const QString plain = QString::fromUtf8(row.name.data(), qsizetype(row.name.size()));
-      const QString whole =
-          row.index < 0 ? plain : QStringLiteral("%1(%2)").arg(plain).arg(row.index);
-      if (whole == name) found = &row;
+const Row* rigaDi(const Form& forma, const QString& nome) {
+  const Row* trovata = nullptr;
+  for (const auto tabella : forma.design().tables) {
+    for (const Row& riga : tabella) {
+      const QString semplice = QString::fromUtf8(riga.name.data(), qsizetype(riga.name.size()));
+      const QString intero =
+          riga.index < 0 ? semplice : QStringLiteral("%1(%2)").arg(semplice).arg(riga.index);
+      if (intero == nome) trovata = &riga;
     }
   }
-  return found;
+  return trovata;
 }
 
 }  // namespace
@@ -48,30 +48,30 @@ const Row* rowOf(const Form& form, const QString& name) {
 class TabellaFormeTest : public QObject {
   Q_OBJECT
 
-  static void forms() {
+  static void ogniForma() {
     QTest::addColumn<QByteArray>("nome");
     for (const std::string_view nome : somme::NomiDelleForme()) {
-      const QByteArray text(nome.data(), qsizetype(nome.size()));
-      QTest::newRow(text.constData()) << text;
+      const QByteArray testo(nome.data(), qsizetype(nome.size()));
+      QTest::newRow(testo.constData()) << testo;
     }
   }
 
   static somme::SchedaForma scheda(const QByteArray& nome) {
     return somme::SchedaDi(somme::LeForme(), {nome.constData(), std::size_t(nome.size())});
   }
-  static bool isSheet(const QByteArray& nome) { return somme::EFoglio(scheda(nome)); }
+  static bool eFoglio(const QByteArray& nome) { return somme::EFoglio(scheda(nome)); }
 
   // The form on the screen, as a family menu would leave the state for it. A keyboard sheet goes to
   // the print dialog at once; without a printer it stays until events run.
-  static Form& open(Banco& banco, const QByteArray& nome) {
-    const std::string_view text = scheda(nome).nome;
-    prova::ComeDalMenu(*banco.ambiente, text);
-    if (isSheet(nome)) {
+  static Form& apri(Banco& banco, const QByteArray& nome) {
+    const std::string_view testo = scheda(nome).nome;
+    prova::ComeDalMenu(*banco.ambiente, testo);
+    if (eFoglio(nome)) {
       banco.stampanti.nessuna();
       banco.mostra(somme::forme::kFormAvvio);
-      banco.ambiente->fondo.forms().show(text);
+      banco.ambiente->fondo.forms().show(testo);
     } else {
-      banco.mostra(text);
+      banco.mostra(testo);
     }
     return *banco.ambiente->fondo.forms().current();
   }
@@ -89,12 +89,12 @@ class TabellaFormeTest : public QObject {
     }
   }
 
-  void everyNameMakesTheFormOfThatName_data() { forms(); }
+  void everyNameMakesTheFormOfThatName_data() { ogniForma(); }
   void everyNameMakesTheFormOfThatName() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    QCOMPARE(open(banco, nome).name().toUtf8(), nome);
-    QCOMPARE(banco.messaggi.mostrati.size(), std::size_t(isSheet(nome) ? 1 : 0));
+    QCOMPARE(apri(banco, nome).name().toUtf8(), nome);
+    QCOMPARE(banco.messaggi.mostrati.size(), std::size_t(eFoglio(nome) ? 1 : 0));
   }
 
   void aNameThatTheProgramDoesNotHaveMakesNothing() {
@@ -103,181 +103,180 @@ class TabellaFormeTest : public QObject {
     QVERIFY(somme::CreaForma(*banco.ambiente, "") == nullptr);
   }
 
-  void everyMemberHasARow_data() { forms(); }
+  void everyMemberHasARow_data() { ogniForma(); }
   void everyMemberHasARow() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    QCOMPARE(open(banco, nome).withoutRow().size(), std::size_t(0));
+    QCOMPARE(apri(banco, nome).withoutRow().size(), std::size_t(0));
   }
 
-  void everyNameIsThereOnceAndOnItsWidget_data() { forms(); }
+  void everyNameIsThereOnceAndOnItsWidget_data() { ogniForma(); }
   void everyNameIsThereOnceAndOnItsWidget() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    const Form& form = open(banco, nome);
-    std::set<QString> names;
-    for (const Control* control : form.controls()) {
-      QVERIFY2(names.insert(control->name()).second, qPrintable(control->name()));
-      if (control->widget() == nullptr) continue;
-      QCOMPARE(control->widget()->objectName(), control->name());
+    const Form& forma = apri(banco, nome);
+    std::set<QString> nomi;
+    for (const Control* controllo : forma.controls()) {
+      QVERIFY2(nomi.insert(controllo->name()).second, qPrintable(controllo->name()));
+      if (controllo->widget() == nullptr) continue;
+      QCOMPARE(controllo->widget()->objectName(), controllo->name());
     }
-    QCOMPARE(form.page()->objectName().toUtf8(), nome);
+    QCOMPARE(forma.page()->objectName().toUtf8(), nome);
   }
 
-  void everyContainerExistsAndComesBeforeWhatItHolds_data() { forms(); }
+  void everyContainerExistsAndComesBeforeWhatItHolds_data() { ogniForma(); }
   void everyContainerExistsAndComesBeforeWhatItHolds() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    const Form& form = open(banco, nome);
-    std::set<std::string_view> before;
-    for (const Control* control : form.controls()) {
-      const Row* row = rowOf(form, control->name());
-      if (row == nullptr) continue;
-      if (!row->look.in.empty()) {
-        QVERIFY2(before.contains(row->look.in), qPrintable(control->name()));
+    const Form& forma = apri(banco, nome);
+    std::set<std::string_view> prima;
+    for (const Control* controllo : forma.controls()) {
+      const Row* riga = rigaDi(forma, controllo->name());
+      if (riga == nullptr) continue;
+      if (!riga->look.in.empty()) {
+        QVERIFY2(prima.contains(riga->look.in), qPrintable(controllo->name()));
       }
-      before.insert(row->name);
+      prima.insert(riga->name);
     }
   }
 
-  void everyPlaceLiesInsideItsContainerOrIsHidden_data() { forms(); }
+  void everyPlaceLiesInsideItsContainerOrIsHidden_data() { ogniForma(); }
   void everyPlaceLiesInsideItsContainerOrIsHidden() {
     QFETCH(QByteArray, nome);
-    for (const QSize size : {QSize(800, 600), QSize(1366, 768)}) {
-      Banco banco(size);
-      const Form& form = open(banco, nome);
-      for (const Control* control : form.controls()) {
-        const QWidget* widget = control->widget();
-        if (widget == nullptr || !control->isVisible()) continue;
-        const QRect room = widget->parentWidget()->rect().adjusted(-1, -1, 1, 1);
-        QVERIFY2(widget->geometry().isEmpty() || room.contains(widget->geometry()),
-                 qPrintable(control->name()));
+    for (const QSize lato : {QSize(800, 600), QSize(1366, 768)}) {
+      Banco banco(lato);
+      const Form& forma = apri(banco, nome);
+      for (const Control* controllo : forma.controls()) {
+        const QWidget* widget = controllo->widget();
+        if (widget == nullptr || !controllo->isVisible()) continue;
+        const QRect spazio = widget->parentWidget()->rect().adjusted(-1, -1, 1, 1);
+        QVERIFY2(widget->geometry().isEmpty() || spazio.contains(widget->geometry()),
+                 qPrintable(controllo->name()));
       }
     }
   }
 
-  void whatStandsInThePrintPanelLiesWholeInTheWindow_data() { forms(); }
+  void whatStandsInThePrintPanelLiesWholeInTheWindow_data() { ogniForma(); }
   void whatStandsInThePrintPanelLiesWholeInTheWindow() {
     QFETCH(QByteArray, nome);
-    for (const QSize size : {QSize(800, 600), QSize(1366, 768)}) {
-      Banco banco(size);
-      auto* form = dynamic_cast<somme::FormaEsercizio*>(&open(banco, nome));
-      if (form == nullptr) return;
-      form->mnuStampa.click();
-      const QRect room = form->page()->canvas()->rect().adjusted(-1, -1, 1, 1);
-      for (const Control* control : {static_cast<const Control*>(&form->TestoStampa),
-                                     static_cast<const Control*>(&form->CommandStampa),
-                                     static_cast<const Control*>(&form->CommandChiudi)}) {
-        QVERIFY(control->widget()->isVisible());
-        QVERIFY2(room.contains(control->widget()->geometry()), qPrintable(control->name()));
+    for (const QSize lato : {QSize(800, 600), QSize(1366, 768)}) {
+      Banco banco(lato);
+      auto* forma = dynamic_cast<somme::FormaEsercizio*>(&apri(banco, nome));
+      if (forma == nullptr) return;
+      forma->mnuStampa.click();
+      const QRect spazio = forma->page()->canvas()->rect().adjusted(-1, -1, 1, 1);
+      for (const Control* controllo : {static_cast<const Control*>(&forma->TestoStampa),
+                                       static_cast<const Control*>(&forma->CommandStampa),
+                                       static_cast<const Control*>(&forma->CommandChiudi)}) {
+        QVERIFY(controllo->widget()->isVisible());
+        QVERIFY2(spazio.contains(controllo->widget()->geometry()), qPrintable(controllo->name()));
       }
     }
   }
 
-  void tabGoesThroughTheFormInTheOrderOfItsRows_data() { forms(); }
+  void tabGoesThroughTheFormInTheOrderOfItsRows_data() { ogniForma(); }
   void tabGoesThroughTheFormInTheOrderOfItsRows() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    const Form& form = open(banco, nome);
-    std::vector<const QWidget*> expected;
-    for (const Control* control : form.controls()) {
+    const Form& forma = apri(banco, nome);
+    std::vector<const QWidget*> attesi;
+    for (const Control* controllo : forma.controls()) {
       // Options of one group are one stop, at the selected one; arrows go on from there.
-      const auto* option = dynamic_cast<const platform::OptionButton*>(control);
-      if (option != nullptr && !option->isSelected()) continue;
-      for (const QWidget* widget : control->tabStops()) {
+      const auto* scelta = dynamic_cast<const platform::OptionButton*>(controllo);
+      if (scelta != nullptr && !scelta->isSelected()) continue;
+      for (const QWidget* widget : controllo->tabStops()) {
         if (!widget->isVisible() || !widget->isEnabled()) continue;
-        if ((widget->focusPolicy() & Qt::TabFocus) != 0) expected.push_back(widget);
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0) attesi.push_back(widget);
       }
     }
-    if (expected.empty()) return;
-    const_cast<QWidget*>(expected.front())->setFocus();
-    for (std::size_t i = 1; i <= expected.size(); ++i) {
+    if (attesi.empty()) return;
+    const_cast<QWidget*>(attesi.front())->setFocus();
+    for (std::size_t i = 1; i <= attesi.size(); ++i) {
       banco.batti(Qt::Key_Tab);
-      QCOMPARE(static_cast<const QWidget*>(QApplication::focusWidget()),
-               expected[i % expected.size()]);
+      QCOMPARE(static_cast<const QWidget*>(QApplication::focusWidget()), attesi[i % attesi.size()]);
     }
   }
 
-  void everyControlHasItsRoleAndNoneThatMattersIsNameless_data() { forms(); }
+  void everyControlHasItsRoleAndNoneThatMattersIsNameless_data() { ogniForma(); }
   void everyControlHasItsRoleAndNoneThatMattersIsNameless() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    const Form& form = open(banco, nome);
-    for (const Control* control : form.controls()) {
-      QWidget* widget = control->widget();
+    const Form& forma = apri(banco, nome);
+    for (const Control* controllo : forma.controls()) {
+      QWidget* widget = controllo->widget();
       if (widget == nullptr) continue;
-      QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
-      QVERIFY2(spoken != nullptr && spoken->isValid(), qPrintable(control->name()));
-      const QByteArray name = control->name().toUtf8();
-      const QString text = spoken->text(QAccessible::Name);
-      const QAccessible::Role role = spoken->role();
-      const bool isPicture = dynamic_cast<const platform::Image*>(control) != nullptr;
-      if (dynamic_cast<const platform::Button*>(control) != nullptr) {
-        QVERIFY2(role == QAccessible::Button, name);
-      } else if (isPicture) {
-        QVERIFY2(role == QAccessible::Graphic, name);
+      QAccessibleInterface* detto = QAccessible::queryAccessibleInterface(widget);
+      QVERIFY2(detto != nullptr && detto->isValid(), qPrintable(controllo->name()));
+      const QByteArray suoNome = controllo->name().toUtf8();
+      const QString testo = detto->text(QAccessible::Name);
+      const QAccessible::Role ruolo = detto->role();
+      const bool eImmagine = dynamic_cast<const platform::Image*>(controllo) != nullptr;
+      if (dynamic_cast<const platform::Button*>(controllo) != nullptr) {
+        QVERIFY2(ruolo == QAccessible::Button, suoNome);
+      } else if (eImmagine) {
+        QVERIFY2(ruolo == QAccessible::Graphic, suoNome);
       } else if (qobject_cast<QLabel*>(widget) != nullptr) {
-        QVERIFY2(role == QAccessible::StaticText, name);
+        QVERIFY2(ruolo == QAccessible::StaticText, suoNome);
       } else {
         // What only holds others may be without a role; nothing that takes the focus is.
-        QVERIFY2(role != QAccessible::NoRole, name);
-        QVERIFY2(role != QAccessible::Client || widget->focusPolicy() == Qt::NoFocus, name);
+        QVERIFY2(ruolo != QAccessible::NoRole, suoNome);
+        QVERIFY2(ruolo != QAccessible::Client || widget->focusPolicy() == Qt::NoFocus, suoNome);
       }
       // A control that never comes on the screen has nothing to say.
-      const bool anchor = !control->isVisible() && control->caption().trimmed().isEmpty() &&
-                          control->look().caption.empty() && !isPicture;
-      const bool matters = isPicture || widget->focusPolicy() != Qt::NoFocus;
-      if (matters && !anchor) QVERIFY2(!text.trimmed().isEmpty(), name);
-      QVERIFY2(text != control->name() || text == control->caption(), name);
+      const bool ancora = !controllo->isVisible() && controllo->caption().trimmed().isEmpty() &&
+                          controllo->look().caption.empty() && !eImmagine;
+      const bool conta = eImmagine || widget->focusPolicy() != Qt::NoFocus;
+      if (conta && !ancora) QVERIFY2(!testo.trimmed().isEmpty(), suoNome);
+      QVERIFY2(testo != controllo->name() || testo == controllo->caption(), suoNome);
     }
   }
 
-  void theWholeTreeCanBeWalkedAndTheWindowBearsItsTitle_data() { forms(); }
+  void theWholeTreeCanBeWalkedAndTheWindowBearsItsTitle_data() { ogniForma(); }
   void theWholeTreeCanBeWalkedAndTheWindowBearsItsTitle() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    const Form& form = open(banco, nome);
-    QAccessibleInterface* root =
+    const Form& forma = apri(banco, nome);
+    QAccessibleInterface* radice =
         QAccessible::queryAccessibleInterface(&banco.ambiente->fondo.window());
-    QCOMPARE(root->text(QAccessible::Name), form.caption());
-    int seen = 0;
-    std::set<QString> spoken;
-    const std::function<void(QAccessibleInterface*)> walk = [&](QAccessibleInterface* node) {
-      if (node == nullptr) return;
-      ++seen;
-      spoken.insert(node->text(QAccessible::Name));
-      for (int i = 0; i < node->childCount(); ++i) walk(node->child(i));
+    QCOMPARE(radice->text(QAccessible::Name), forma.caption());
+    int visti = 0;
+    std::set<QString> detto;
+    const std::function<void(QAccessibleInterface*)> visita = [&](QAccessibleInterface* nodo) {
+      if (nodo == nullptr) return;
+      ++visti;
+      detto.insert(nodo->text(QAccessible::Name));
+      for (int i = 0; i < nodo->childCount(); ++i) visita(nodo->child(i));
     };
-    walk(root);
-    QVERIFY(seen > int(form.controls().size()) / 2);
-    for (const Control* control : form.controls()) {
-      if (dynamic_cast<const platform::Button*>(control) == nullptr || !control->isVisible()) {
+    visita(radice);
+    QVERIFY(visti > int(forma.controls().size()) / 2);
+    for (const Control* controllo : forma.controls()) {
+      if (dynamic_cast<const platform::Button*>(controllo) == nullptr || !controllo->isVisible()) {
         continue;
       }
-      QAccessibleInterface* node = QAccessible::queryAccessibleInterface(control->widget());
-      QVERIFY2(spoken.contains(node->text(QAccessible::Name)), qPrintable(control->name()));
+      QAccessibleInterface* nodo = QAccessible::queryAccessibleInterface(controllo->widget());
+      QVERIFY2(detto.contains(nodo->text(QAccessible::Name)), qPrintable(controllo->name()));
     }
   }
 
-  void everyFormCanBeOpenedLeftAndFreed_data() { forms(); }
+  void everyFormCanBeOpenedLeftAndFreed_data() { ogniForma(); }
   void everyFormCanBeOpenedLeftAndFreed() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    const std::weak_ptr<Form> watch = open(banco, nome).weak_from_this();
+    const std::weak_ptr<Form> viva = apri(banco, nome).weak_from_this();
     banco.mostra(nome == "FormInfo" ? somme::forme::kFormAvvio : somme::forme::kFormInfo);
     // A sheet has gone by itself.
-    if (const auto form = watch.lock()) banco.ambiente->fondo.forms().unload(*form);
+    if (const auto forma = viva.lock()) banco.ambiente->fondo.forms().unload(*forma);
     QCoreApplication::processEvents();
-    QVERIFY(watch.expired());
-    QCOMPARE(banco.messaggi.mostrati.size(), std::size_t(isSheet(nome) ? 1 : 0));
+    QVERIFY(viva.expired());
+    QCOMPARE(banco.messaggi.mostrati.size(), std::size_t(eFoglio(nome) ? 1 : 0));
     QVERIFY(!banco.fine.stato);
   }
 
-  void closingTheWindowOnAnyFormEndsTheProgram_data() { forms(); }
+  void closingTheWindowOnAnyFormEndsTheProgram_data() { ogniForma(); }
   void closingTheWindowOnAnyFormEndsTheProgram() {
     QFETCH(QByteArray, nome);
     Banco banco;
-    (void)open(banco, nome);
+    (void)apri(banco, nome);
     banco.ambiente->fondo.window().close();
     QCOMPARE(banco.fine.stato, std::optional(0));
   }
