@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 
 #include "platform/base/numbers.h"
+#include "platform/base/twips.h"
 #include "platform/forms/controls/ring_widget.h"
 #include "platform/forms/keys/key_codes.h"
 #include "platform/forms/rgb_number.h"
@@ -16,7 +17,6 @@ namespace {
 constexpr int kTienilFuoco = 10;     // milliseconds of `Timer1`: the focus is back by then
 constexpr int kQuarto = 250;         // milliseconds
 constexpr double kCarattere = 0.55;  // of a button's side
-constexpr double kTwipPerPunto = 20;
 
 }  // namespace
 
@@ -215,7 +215,7 @@ void TastieraScansione::layOut() {
   PictureScansione.setPlace(0, 0, larghezza, passo);
   for (int i = 0; i < numero_; ++i) {
     pulsanti_[i].setPlace(i * passo, 0, lato, lato);
-    pulsanti_[i].setFontSize(lato * kCarattere / kTwipPerPunto);
+    pulsanti_[i].setFontSize(platform::Twips(lato * kCarattere) / platform::Twips::points(1));
   }
   Posa();
   Timer1.setInterval(kTienilFuoco);

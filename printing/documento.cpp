@@ -1,15 +1,14 @@
 #include "printing/documento.h"
 
+#include "platform/base/twips.h"
 #include "printing/supporto.h"
 
 namespace somme::inline stampa {
 
 namespace {
 
-constexpr double kMillimetriPerPollice = 25.4;
-
 double InPunti(double millimetri) {
-  return millimetri / kMillimetriPerPollice * Documento::kPuntiPerPollice;
+  return millimetri / platform::Twips::kMillimetresPerInch * Documento::kPuntiPerPollice;
 }
 
 }  // namespace

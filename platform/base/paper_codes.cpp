@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "platform/base/twips.h"
+
 namespace platform::inline base {
 
 namespace {
@@ -14,7 +16,7 @@ struct Size {
   double height;
 };
 
-constexpr double kInch = 25.4;
+constexpr double kInch = Twips::kMillimetresPerInch;
 constexpr double kClose = 1.5;
 
 // Plain sheets first, then envelopes; "small", "transverse" and the like have the size of another.

@@ -9,12 +9,14 @@ namespace platform::inline base {
 // by that of a pixel, or of a dot of a printer, is a number of them.
 class Twips {
  public:
+  static constexpr double kMillimetresPerInch = 25.4;
+
   constexpr Twips() = default;
   explicit constexpr Twips(double twips) : twips_(twips) {}
 
   [[nodiscard]] static constexpr Twips inches(double length) { return Twips(length * kPerInch); }
   [[nodiscard]] static constexpr Twips millimetres(double length) {
-    return Twips(length * (kPerInch / 25.4));
+    return Twips(length * (kPerInch / kMillimetresPerInch));
   }
   // The points of a font, 72 to the inch.
   [[nodiscard]] static constexpr Twips points(double length) {

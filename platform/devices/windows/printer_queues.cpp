@@ -13,13 +13,13 @@
 #include <vector>
 
 #include "platform/base/paper_codes.h"
+#include "platform/base/twips.h"
 
 namespace platform::inline devices {
 
 namespace {
 
 constexpr double kPerMillimetre = 10;  // the system measures papers in tenths of a millimetre
-constexpr double kMillimetresPerInch = 25.4;
 constexpr int kLastPaperCode = 68;
 
 std::wstring wide(const QString& text) {
@@ -71,7 +71,7 @@ class Printer {
     if (context == nullptr) return {};
     const auto millimetres = [context](int offset, int resolution) {
       const int dots = ::GetDeviceCaps(context, resolution);
-      return dots <= 0 ? 0 : ::GetDeviceCaps(context, offset) * kMillimetresPerInch / dots;
+      return dots <= 0 ? 0 : ::GetDeviceCaps(context, offset) * Twips::kMillimetresPerInch / dots;
     };
     QPointF margin(millimetres(PHYSICALOFFSETX, LOGPIXELSX),
                    millimetres(PHYSICALOFFSETY, LOGPIXELSY));
