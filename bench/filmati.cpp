@@ -21,6 +21,7 @@
 #include "platform/flash/renderer.h"
 
 using platform::flash::Player;
+using platform::flash::Property;
 using platform::flash::Renderer;
 using platform::flash::Scene;
 using platform::flash::SceneItem;
@@ -131,11 +132,11 @@ void misura(const QString& file) {
   // One clip hidden: what has to be painted anew, against the board.
   QString nome;
   for (const char* prova : {"u1", "u0"}) {
-    if (!lettore.property(QString::fromLatin1(prova), 13).isEmpty()) {
+    if (!lettore.property(QString::fromLatin1(prova), Property::Name).isEmpty()) {
       nome = QString::fromLatin1(prova);
     }
   }
-  lettore.setProperty(nome, 7, QStringLiteral("0"));
+  lettore.setProperty(nome, Property::Visible, QStringLiteral("0"));
   QRectF posto;
   for (const QRectF& diverso : platform::flash::differences(scena, lettore.scene())) {
     posto |= diverso;

@@ -125,7 +125,7 @@ class Host {
         break;
       case 5: {
         const QString target = name();
-        const int property = next() % 20;
+        const auto property = platform::flash::Property(next() % 20);
         player_->setProperty(target, property, QString::number(next() - 100));
         (void)player_->property(target, property);
         break;

@@ -10,8 +10,4 @@ namespace somme::inline abaco {
 [[nodiscard]] QString ClipSulFerro(Posto posto, int numero);
 [[nodiscard]] QString ClipInAttesa(Posto posto, int numero);
 
-// The properties of a clip that the forms set.
-inline constexpr int kAlfa = 6;
-inline constexpr int kVisibile = 7;
-
 }  // namespace somme::inline abaco

@@ -113,12 +113,12 @@ void FormaAbaco::AggiungiSomma(const QString& somma) {
 }
 
 void FormaAbaco::Mostra(const QString& clip, bool visibile) {
-  ShockwaveFlash1.tSetProperty(clip, kVisibile,
+  ShockwaveFlash1.tSetProperty(clip, platform::Board::Property::Visible,
                                visibile ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 void FormaAbaco::Sfuma(const QString& clip, int alfa) {
-  ShockwaveFlash1.tSetProperty(clip, kAlfa, QString::number(alfa));
+  ShockwaveFlash1.tSetProperty(clip, platform::Board::Property::Alpha, QString::number(alfa));
 }
 
 QString FormaAbaco::SulFerro() const {

@@ -8,11 +8,11 @@ namespace somme::inline blocchi {
 void MostraBlocchi(platform::Board& filmato, Posto specie, int da, int a, bool visibili) {
   // How the movies call the clips of a kind: "da1", "da2", ...
   constexpr std::array<QStringView, 3> kClip{u"u", u"da", u"h"};
-  constexpr int kVisibile = 7;  // of a clip's properties
   const QStringView clip = kClip.at(static_cast<std::size_t>(specie));
   const QString valore = visibili ? QStringLiteral("1") : QStringLiteral("0");
   for (int i = da; i <= a; ++i) {
-    filmato.tSetProperty(QStringLiteral("%1%2").arg(clip).arg(i), kVisibile, valore);
+    filmato.tSetProperty(QStringLiteral("%1%2").arg(clip).arg(i),
+                         platform::Board::Property::Visible, valore);
   }
 }
 

@@ -65,7 +65,7 @@ void Board::setVisible(bool visible) {
   if (loading_ > 0) widget()->hide();
 }
 
-void Board::tSetProperty(const QString& target, int property, const QString& value) {
+void Board::tSetProperty(const QString& target, Property property, const QString& value) {
   if (widget() != nullptr) viewOf(widget()).setClipProperty(target, property, value);
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <vector>
 
+#include "platform/flash/property.h"
 #include "platform/forms/control.h"
 
 namespace platform::inline boards {
@@ -18,6 +19,7 @@ namespace platform::inline boards {
 class Board : public Control {
  public:
   using Control::Control;
+  using Property = flash::Property;
 
   // The movie speaks to the form. Never from within one of the operations below.
   void onFsCommand(std::function<void(const QString& command, const QString& args)> handler) {
@@ -32,9 +34,9 @@ class Board : public Control {
   // empty board. Until the running handler has ended the board is not painted, so that what the
   // form hides in it is never seen.
   void setMovie(const QString& path);
-  // target: the name of a clip. property: 6 alpha (percent), 7 visible ("0", "1"). Nothing happens
-  // for a name that no clip has.
-  void tSetProperty(const QString& target, int property, const QString& value);
+  // target: the name of a clip. Alpha is a percentage, visibility "0" or "1". Nothing happens for a
+  // name that no clip has.
+  void tSetProperty(const QString& target, Property property, const QString& value);
   // A frame of the main timeline, from 1; the movie stops there.
   void gotoFrame(int frame);
   void play();

@@ -104,7 +104,7 @@ void MovieView::tellWaiting() {
   }
 }
 
-void MovieView::setClipProperty(const QString& target, int property, const QString& value) {
+void MovieView::setClipProperty(const QString& target, Property property, const QString& value) {
   if (player_ != nullptr) {
     player_->setProperty(target, property, value);
     changed();
@@ -130,7 +130,7 @@ int MovieView::currentFrame() const {
   return player_ == nullptr ? 0 : player_->currentFrame();
 }
 
-QString MovieView::clipProperty(const QString& target, int property) const {
+QString MovieView::clipProperty(const QString& target, Property property) const {
   return player_ == nullptr ? QString() : player_->property(target, property);
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/base/time_source.h"
+#include "platform/flash/property.h"
 #include "platform/flash/renderer.h"
 #include "platform/flash/scene.h"
 
@@ -38,11 +39,11 @@ class MovieView final : public QWidget {
   // empty path unloads the movie. Commands of the old movie that have not been delivered yet are
   // dropped.
   void setMovie(const QString& path);
-  // target: the name of a clip, or a path from the root as "a/b"; empty for the root. property: 0
-  // x, 1 y (pixels), 2 x scale, 3 y scale (percent), 6 alpha (percent), 7 visible ("0", "1"), 10
-  // rotation (degrees). Nothing happens for a name that no clip has, or a value that is no number.
+  // target: the name of a clip, or a path from the root as "a/b"; empty for the root. Places are
+  // pixels, scales and alpha percent, rotation degrees, visibility "0" or "1". Nothing happens for
+  // a name that no clip has, or a value that is no number.
   // (QObject::setProperty is something else.)
-  void setClipProperty(const QString& target, int property, const QString& value);
+  void setClipProperty(const QString& target, Property property, const QString& value);
   // Shows a frame of the main timeline, counted from 1, runs its scripts, and stops there.
   void gotoFrame(int frame);
   // Lets the main timeline run on.
@@ -54,7 +55,7 @@ class MovieView final : public QWidget {
   // The frame of the main timeline, from 1; 0 without a movie.
   [[nodiscard]] int currentFrame() const;
   // What setClipProperty sets, as it stands now; empty for what does not exist.
-  [[nodiscard]] QString clipProperty(const QString& target, int property) const;
+  [[nodiscard]] QString clipProperty(const QString& target, Property property) const;
   // Where a clip of the main timeline stands, shown or not, in pixels of this widget; empty for a
   // name that no clip has.
   [[nodiscard]] QRectF clipPlace(const QString& name) const;

@@ -91,27 +91,25 @@ bool Player::showsHand() const {
   return ask([this] { return pointer_.isOverInteractive(); });
 }
 
-void Player::setProperty(const QString& target, int property, const QString& value) {
+void Player::setProperty(const QString& target, Property property, const QString& value) {
   budget_.begin(limits::kAsking);
   Container* of = resolveTarget(stage_, &stage_.root(), target);
-  const auto known = propertyOfNumber(property);
-  if (of != nullptr && known) {
+  if (of != nullptr) {
     // A text that is no number is none to the host, whatever the movie's scripts make of it.
     constexpr int kStrict = 5;
-    setPropertyOf(stage_, *of, *known,
-                  *known == Property::Name ? Value(value) : Value(numberOf(value, kStrict)));
+    setPropertyOf(stage_, *of, property,
+                  property == Property::Name ? Value(value) : Value(numberOf(value, kStrict)));
   }
 }
 
-QString Player::property(const QString& target, int property) const {
+QString Player::property(const QString& target, Property property) const {
   budget_.begin(limits::kAsking);
   const Container* root = &stage_.root();
   const Container* of = resolveTarget(stage_, const_cast<Container*>(root), target);
-  const auto known = propertyOfNumber(property);
-  if (of == nullptr || !known) {
+  if (of == nullptr) {
     return {};
   }
-  const Value value = propertyOf(stage_, *of, *known);
+  const Value value = propertyOf(stage_, *of, property);
   if (const bool* truth = std::get_if<bool>(&value)) {
     return *truth ? QStringLiteral("1") : QStringLiteral("0");
   }

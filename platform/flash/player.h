@@ -7,6 +7,7 @@
 
 #include "platform/flash/interpreter.h"
 #include "platform/flash/pointer.h"
+#include "platform/flash/property.h"
 #include "platform/flash/scene.h"
 #include "platform/flash/stage.h"
 
@@ -43,11 +44,11 @@ class Player {
   void gotoFrame(int frame);
   void play();
   void stop();
-  // property: a number as in Property. Nothing happens for a target that does not exist, a
-  // property that cannot be set, or a value that is no number where one is needed.
-  void setProperty(const QString& target, int property, const QString& value);
+  // Nothing happens for a target that does not exist, a property that cannot be set, or a value
+  // that is no number where one is needed.
+  void setProperty(const QString& target, Property property, const QString& value);
   // Empty for what does not exist. Truth values are "1" and "0".
-  [[nodiscard]] QString property(const QString& target, int property) const;
+  [[nodiscard]] QString property(const QString& target, Property property) const;
   // What a clip or button of the main timeline covers, shown or not, in twips of the stage; empty
   // for a name that nothing has.
   [[nodiscard]] QRectF placeOf(const QString& name) const;

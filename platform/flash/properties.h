@@ -4,33 +4,11 @@
 #include <optional>
 
 #include "platform/flash/instance.h"
+#include "platform/flash/property.h"
 
 namespace platform::flash {
 
 class Stage;
-
-// The numbers that scripts and the host give to the properties of a clip.
-enum class Property {
-  X,
-  Y,
-  ScaleX,
-  ScaleY,
-  CurrentFrame,
-  TotalFrames,
-  Alpha,
-  Visible,
-  Width,
-  Height,
-  Rotation,
-  Target,
-  FramesLoaded,
-  Name,
-  DropTarget,
-  Url,
-  HighQuality,
-  FocusRect,
-  SoundBufTime,
-};
 
 [[nodiscard]] std::optional<Property> propertyOfNumber(int number);
 // "_x", "_alpha", ... in any case of letters.

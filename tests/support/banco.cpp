@@ -11,11 +11,7 @@
 
 namespace prova {
 
-namespace {
-
-constexpr int kVisibile = 7;
-
-}  // namespace
+namespace {}  // namespace
 
 Banco::Banco(QSize lato, Forme forme, somme::TabellaForme tabella) {
   somme::PreparaImmagini();
@@ -88,12 +84,13 @@ void Banco::cliccaIn(QPoint punto) {
   QCoreApplication::processEvents();
 }
 
-QString Banco::proprieta(const platform::Board& tavola, const QString& clip, int quale) {
+QString Banco::proprieta(const platform::Board& tavola, const QString& clip,
+                         platform::Board::Property quale) {
   return filmato(tavola).clipProperty(clip, quale);
 }
 
 bool Banco::siVede(const platform::Board& tavola, const QString& clip) {
-  return proprieta(tavola, clip, kVisibile) == QStringLiteral("1");
+  return proprieta(tavola, clip, platform::Board::Property::Visible) == QStringLiteral("1");
 }
 
 void Banco::cliccaClip(const platform::Board& tavola, const QString& clip) {

@@ -68,10 +68,10 @@ class Banco {
   [[nodiscard]] QPoint centro(const platform::Control& controllo) const;
   [[nodiscard]] QWindow* finestra() const { return ambiente->fondo.window().windowHandle(); }
 
-  // What a board's movie shows: a property of a clip by its number (6 alpha, 7 visible, ...), ""
-  // for a clip that the movie does not have.
+  // What a board's movie shows: a property of a clip, "" for a clip that the movie does not
+  // have.
   [[nodiscard]] static QString proprieta(const platform::Board& tavola, const QString& clip,
-                                         int quale);
+                                         platform::Board::Property quale);
   [[nodiscard]] static bool siVede(const platform::Board& tavola, const QString& clip);
   [[nodiscard]] static platform::flash::MovieView& filmato(const platform::Board& tavola);
 

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/flash/properties.h"
 #include "platform/flash/units.h"
 
 namespace somme::filmato {
@@ -101,13 +102,17 @@ void Rappresentazione::compi(const Ferma&) {
 }
 
 void Rappresentazione::compi(const Imposta& imposta) {
-  lettore_->setProperty(imposta.bersaglio, imposta.proprieta, imposta.valore);
+  if (const auto quale = platform::flash::propertyOfNumber(imposta.proprieta)) {
+    lettore_->setProperty(imposta.bersaglio, *quale, imposta.valore);
+  }
 }
 
 void Rappresentazione::compi(const Leggi& leggi) {
-  racconta_({{QStringLiteral("ev"), QStringLiteral("get")},
-             {QStringLiteral("step"), passo_},
-             {QStringLiteral("value"), lettore_->property(leggi.bersaglio, leggi.proprieta)}});
+  const auto quale = platform::flash::propertyOfNumber(leggi.proprieta);
+  racconta_(
+      {{QStringLiteral("ev"), QStringLiteral("get")},
+       {QStringLiteral("step"), passo_},
+       {QStringLiteral("value"), quale ? lettore_->property(leggi.bersaglio, *quale) : QString()}});
 }
 
 void Rappresentazione::compi(const Mouse& mouse) {

@@ -9,8 +9,6 @@
 // What the tests of the abacus have in common.
 namespace prova {
 
-inline constexpr int kAlfa = 6;
-
 inline constexpr const char* kTutti = "0 1 2 3 4 5 6 7 8 9";
 
 // The places of the abacus from the left, with the names of the movie's clips, which have a bead's
@@ -78,7 +76,9 @@ struct BancoDellAbaco : Banco {
     return numeri.join(u' ');
   }
   [[nodiscard]] int alfa(const char* nome, int numero) const {
-    return qRound(proprieta(forma.ShockwaveFlash1, clip(nome, numero), kAlfa).toDouble());
+    return qRound(
+        proprieta(forma.ShockwaveFlash1, clip(nome, numero), platform::Board::Property::Alpha)
+            .toDouble());
   }
   // A click on a bead.
   void tocca(const char* nome, int numero) {

@@ -20,14 +20,15 @@ class FilmatoAbacoTest : public QObject {
     for (const char* nome : {"k", "h", "da", "u", "ka", "ha", "daa", "ua"}) {
       for (int i = 0; i < somme::PartitaAbaco::kPalline; ++i) {
         const QString clip = BancoAbaco::clip(nome, i);
-        QVERIFY2(
-            !prova::Banco::proprieta(banco.forma.ShockwaveFlash1, clip, prova::kAlfa).isEmpty(),
-            qPrintable(clip));
+        QVERIFY2(!prova::Banco::proprieta(banco.forma.ShockwaveFlash1, clip,
+                                          platform::Board::Property::Alpha)
+                      .isEmpty(),
+                 qPrintable(clip));
       }
     }
-    QVERIFY(
-        prova::Banco::proprieta(banco.forma.ShockwaveFlash1, QStringLiteral("u10"), prova::kAlfa)
-            .isEmpty());
+    QVERIFY(prova::Banco::proprieta(banco.forma.ShockwaveFlash1, QStringLiteral("u10"),
+                                    platform::Board::Property::Alpha)
+                .isEmpty());
   }
 
   void everyWaitingBeadCanBeClickedAndTellsItsKindAndItself_data() { generi(); }

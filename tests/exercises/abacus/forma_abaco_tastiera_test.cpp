@@ -323,7 +323,8 @@ class FormaAbacoTastieraTest : public QObject {
     banco.cliccaClip(tavola, QStringLiteral("senza"));
     QCOMPARE(banco.forma.partita().Inserite().unita, 1);
     QVERIFY(banco.vede("u", 0));
-    QCOMPARE(BancoAbaco::proprieta(tavola, {}, 7), QStringLiteral("1"));
+    QCOMPARE(BancoAbaco::proprieta(tavola, {}, platform::Board::Property::Visible),
+             QStringLiteral("1"));
   }
 
   void thePointerIsLeftAloneUnlessTheSystemsIsWanted() {

@@ -36,7 +36,11 @@ inline Sorte casoHLU(int addendo1, int addendo2) {
 inline int blocchi(const platform::Board& tavola, const QString& clip, int da = 1) {
   int quanti = 0;
   bool finiti = false;
-  for (int i = da; !Banco::proprieta(tavola, clip + QString::number(i), 7).isEmpty(); ++i) {
+  const auto ce = [&](int i) {
+    return !Banco::proprieta(tavola, clip + QString::number(i), platform::Board::Property::Visible)
+                .isEmpty();
+  };
+  for (int i = da; ce(i); ++i) {
     const bool visto = Banco::siVede(tavola, clip + QString::number(i));
     if (visto && finiti) return -1;
     finiti = !visto;
@@ -104,7 +108,9 @@ class OcchioSuiBlocchi final : public QObject {
     const auto* filmato = qobject_cast<platform::flash::MovieView*>(oggetto);
     if (filmato == nullptr) return false;
     ++dipinti;
-    if (filmato->clipProperty(clip_, 7) == QStringLiteral("1")) ++visti;
+    if (filmato->clipProperty(clip_, platform::Board::Property::Visible) == QStringLiteral("1")) {
+      ++visti;
+    }
     return false;
   }
 

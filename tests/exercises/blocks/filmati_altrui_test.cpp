@@ -52,7 +52,9 @@ class FilmatiAltruiTest : public QObject {
     unisciToccando(banco);
     bool tolte = false;
     banco.tempo.after(1, [&] {
-      tolte = Banco::proprieta(forma.ShockwaveFlash3, QStringLiteral("u1"), 7).isEmpty();
+      tolte = Banco::proprieta(forma.ShockwaveFlash3, QStringLiteral("u1"),
+                               platform::Board::Property::Visible)
+                  .isEmpty();
       banco.sorte.scrivi(casoLU(21, 4));
       premi(banco, kAvanti);
     });

@@ -16,10 +16,9 @@ namespace board_test {
 using namespace hand_made;
 using platform::Board;
 using platform::flash::MovieView;
+using platform::flash::Property;
 
 namespace {
-
-constexpr int kVisible = 7;
 
 // A form with a board, and a button that stands over the board's corner.
 class BoardForm final : public platform::Form {
@@ -58,7 +57,9 @@ class Watch final : public QObject {
   explicit Watch(MovieView& view) : view_(view) { view.installEventFilter(this); }
   bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() == QEvent::Paint) {
-      ++(view_.clipProperty(QStringLiteral("a"), kVisible) == QStringLiteral("1") ? shown : hidden);
+      ++(view_.clipProperty(QStringLiteral("a"), Property::Visible) == QStringLiteral("1")
+             ? shown
+             : hidden);
     }
     return false;
   }
@@ -150,11 +151,11 @@ class BoardTest : public QObject {
     int heard = 0;
     form.Table.onFsCommand([&](const QString&, const QString&) { ++heard; });
     form.Table.setMovie(movie());
-    form.Table.tSetProperty(QStringLiteral("a"), kVisible, QStringLiteral("0"));
+    form.Table.tSetProperty(QStringLiteral("a"), Property::Visible, QStringLiteral("0"));
     QCoreApplication::processEvents();
     clickClip(ground, QStringLiteral("a"));
     QCOMPARE(heard, 0);
-    form.Table.tSetProperty(QStringLiteral("a"), kVisible, QStringLiteral("1"));
+    form.Table.tSetProperty(QStringLiteral("a"), Property::Visible, QStringLiteral("1"));
     clickClip(ground, QStringLiteral("a"));
     QCOMPARE(heard, 1);
   }
@@ -185,7 +186,7 @@ class BoardTest : public QObject {
       paint(form);
       form.Table.setVisible(true);
       paint(form);
-      form.Table.tSetProperty(QStringLiteral("a"), kVisible, QStringLiteral("0"));
+      form.Table.tSetProperty(QStringLiteral("a"), Property::Visible, QStringLiteral("0"));
     });
     paint(form);
     QCOMPARE(watch.shown, 0);
@@ -211,7 +212,7 @@ class BoardTest : public QObject {
     BoardForm& form = ground.forma();
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be shown")));
     form.Table.setMovie(folder_.path(QStringLiteral("none.swf")));
-    form.Table.tSetProperty(QStringLiteral("a"), kVisible, QStringLiteral("0"));
+    form.Table.tSetProperty(QStringLiteral("a"), Property::Visible, QStringLiteral("0"));
     form.Table.gotoFrame(2);
     form.Table.play();
     QCoreApplication::processEvents();

@@ -15,11 +15,10 @@ namespace accessible_movie_test {
 
 using namespace hand_made;
 using platform::flash::MovieView;
+using platform::flash::Property;
 using namespace view_bench;
 
 namespace {
-
-constexpr int kVisible = 7;
 
 // A view with three clips of ten pixels that are buttons, of which it offers two: "a" on the left,
 // which lies free, and "b", which "cover" can lie over. Each says its word when it is clicked.
@@ -46,7 +45,7 @@ struct Offering {
     (void)told();
   }
   void show(bool cover) {
-    view.setClipProperty(QStringLiteral("cover"), kVisible,
+    view.setClipProperty(QStringLiteral("cover"), Property::Visible,
                          cover ? QStringLiteral("1") : QStringLiteral("0"));
     QCoreApplication::processEvents();
   }
@@ -116,7 +115,7 @@ class AccessibleMovieTest : public QObject {
 
   void whatIsHiddenOrLiesUnderAnotherIsNotThereAndTakesNoPress() {
     Offering offering(folder_);
-    offering.view.setClipProperty(QStringLiteral("a"), kVisible, QStringLiteral("0"));
+    offering.view.setClipProperty(QStringLiteral("a"), Property::Visible, QStringLiteral("0"));
     offering.show(true);
     for (const int number : {0, 1}) {
       QAccessibleInterface* clip = offering.spoken().child(number);
@@ -157,13 +156,13 @@ class AccessibleMovieTest : public QObject {
   void whatComesAndGoesIsToldOnceAndNothingElse() {
     Offering offering(folder_);
     (void)offering.spoken().child(1);
-    offering.view.setClipProperty(QStringLiteral("a"), 6, QStringLiteral("40"));
+    offering.view.setClipProperty(QStringLiteral("a"), Property::Alpha, QStringLiteral("40"));
     QCoreApplication::processEvents();
     QVERIFY(offering.told().isEmpty());
     offering.show(true);
     QCOMPARE(offering.told(), QStringList{QStringLiteral("right goes")});
     // There and back again in one go.
-    offering.view.setClipProperty(QStringLiteral("cover"), kVisible, QStringLiteral("0"));
+    offering.view.setClipProperty(QStringLiteral("cover"), Property::Visible, QStringLiteral("0"));
     offering.show(true);
     QVERIFY(offering.told().isEmpty());
     offering.show(false);

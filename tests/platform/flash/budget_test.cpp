@@ -10,6 +10,7 @@
 namespace budget_test {
 
 using platform::flash::Budget;
+using platform::flash::Property;
 using namespace scripts;
 
 namespace {
@@ -133,8 +134,8 @@ class BudgetTest : public QObject {
     QCOMPARE(player.currentFrame(), 1);
     player.gotoFrame(2);
     QCOMPARE(player.currentFrame(), 2);
-    player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
-    QCOMPARE(player.property(QStringLiteral("c"), 7), QStringLiteral("0"));
+    player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
+    QCOMPARE(player.property(QStringLiteral("c"), Property::Visible), QStringLiteral("0"));
     QCOMPARE(told, QStringList{QStringLiteral("before")});
   }
 

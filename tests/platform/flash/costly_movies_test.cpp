@@ -13,6 +13,7 @@
 namespace costly_movies_test {
 
 using namespace platform::flash;
+using platform::flash::Property;
 using step_cost::costOf;
 
 class CostlyMoviesTest : public QObject {
@@ -42,7 +43,7 @@ class CostlyMoviesTest : public QObject {
       picture("a picture", *player, renderer, shown);
     }
     check("a click", [&] { player->mousePress({50, 50}); });
-    check("a question", [&] { (void)player->property(QStringLiteral("c"), 8); });
+    check("a question", [&] { (void)player->property(QStringLiteral("c"), Property::Width); });
     check("a goto", [&] { player->gotoFrame(2); });
     check("the end", [&] { player.reset(); });
   }

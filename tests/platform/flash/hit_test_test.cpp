@@ -10,6 +10,7 @@ namespace hit_test_test {
 
 using namespace hand_made;
 using namespace pointer_bench;
+using platform::flash::Property;
 
 // What lies under the mouse.
 class HitTestTest : public QObject {
@@ -62,18 +63,18 @@ class HitTestTest : public QObject {
   void whatIsHiddenOrInAHiddenClipCannotBeClicked() {
     Running movie(looks() + tellingButton(5) + sprite(6, place(1, 5) + showFrame()) +
                   place(1, 6, 0, 0, "c") + showFrame());
-    movie.player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+    movie.player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
     movie.click(inside);
     QCOMPARE(movie.take(), QStringList());
     QVERIFY(!movie.player.showsHand());
-    movie.player.setProperty(QStringLiteral("c"), 7, QStringLiteral("1"));
+    movie.player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("1"));
     QVERIFY(movie.player.showsHand());
   }
 
   void whatIsTransparentCanBeClicked() {
     Running movie(looks() + tellingButton(5) + sprite(6, place(1, 5) + showFrame()) +
                   place(1, 6, 0, 0, "c") + showFrame());
-    movie.player.setProperty(QStringLiteral("c"), 6, QStringLiteral("0"));
+    movie.player.setProperty(QStringLiteral("c"), Property::Alpha, QStringLiteral("0"));
     movie.click(inside);
     QCOMPARE(movie.take(), words("rollOver press release"));
   }
@@ -83,7 +84,7 @@ class HitTestTest : public QObject {
                   place(1, 6, 0, 0, "c") + showFrame());
     movie.click(inside);
     (void)movie.take();
-    movie.player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+    movie.player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
     QVERIFY(!movie.player.showsHand());
     movie.player.tick();
     QCOMPARE(movie.take(), words("rollOut"));
@@ -112,8 +113,8 @@ class HitTestTest : public QObject {
   void clipsThatAreMovedAndScaledAreHitWhereTheyAreSeen() {
     Running movie(looks() + tellingButton(5) + sprite(6, place(1, 5) + showFrame()) +
                   place(1, 6, 0, 0, "c") + showFrame());
-    movie.player.setProperty(QStringLiteral("c"), 0, QStringLiteral("60"));
-    movie.player.setProperty(QStringLiteral("c"), 2, QStringLiteral("200"));
+    movie.player.setProperty(QStringLiteral("c"), Property::X, QStringLiteral("60"));
+    movie.player.setProperty(QStringLiteral("c"), Property::ScaleX, QStringLiteral("200"));
     movie.player.mouseMove({95, 10});
     QVERIFY(movie.player.showsHand());
     movie.player.mouseMove({55, 10});
@@ -140,8 +141,8 @@ class HitTestTest : public QObject {
         painted::shape(2, u8(0) + u8(1) + u16(160) + u8(0) + u8(0) + u8(0), records);
     Running movie(line + tag(34, u16(5) + u8(0) + u16(0) + record(8, 1, true) + u8(0)) +
                   sprite(6, place(1, 5) + showFrame()) + place(1, 6, 50, 0, "c") + showFrame());
-    movie.player.setProperty(QStringLiteral("c"), 2, scaleX);
-    movie.player.setProperty(QStringLiteral("c"), 3, scaleY);
+    movie.player.setProperty(QStringLiteral("c"), Property::ScaleX, scaleX);
+    movie.player.setProperty(QStringLiteral("c"), Property::ScaleY, scaleY);
     for (const double side : {-1.0, 1.0}) {
       movie.player.mouseMove({50 + side * 1.5, 10});
       QVERIFY(movie.player.showsHand());
@@ -153,14 +154,14 @@ class HitTestTest : public QObject {
   void aRootThatIsMovedIsHitWhereItIsSeenAndAHiddenOneNowhere() {
     Running movie(looks() + tellingButton(5) + sprite(6, place(1, 5) + showFrame()) +
                   place(1, 6, 0, 0, "c") + showFrame());
-    movie.player.setProperty({}, 0, QStringLiteral("30"));
+    movie.player.setProperty({}, Property::X, QStringLiteral("30"));
     QCOMPARE(movie.player.placeOf(QStringLiteral("c")), QRectF(600, 0, 400, 400));
     movie.click({10, 10});
     QCOMPARE(movie.take(), QStringList());
     QVERIFY(!movie.player.showsHand());
     movie.click({40, 10});
     QCOMPARE(movie.take(), words("rollOver press release"));
-    movie.player.setProperty({}, 7, QStringLiteral("0"));
+    movie.player.setProperty({}, Property::Visible, QStringLiteral("0"));
     movie.click({40, 10});
     QCOMPARE(movie.take(), words("rollOut"));
     QVERIFY(!movie.player.showsHand());

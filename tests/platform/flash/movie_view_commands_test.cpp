@@ -12,6 +12,7 @@ namespace movie_view_commands_test {
 
 using namespace hand_made;
 using platform::flash::MovieView;
+using platform::flash::Property;
 using namespace view_bench;
 
 // What the movie says to its owner, and when it is heard.
@@ -95,7 +96,7 @@ class MovieViewCommandsTest : public QObject {
     int heard = 0;
     QObject::connect(&view, &MovieView::fsCommand, &view, [&] {
       ++heard;
-      view.setClipProperty(QStringLiteral("b"), 7, QStringLiteral("0"));
+      view.setClipProperty(QStringLiteral("b"), Property::Visible, QStringLiteral("0"));
     });
     view.setMovie(clickBoard());
     for (int i = 0; i < 2; ++i) QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(5, 5));

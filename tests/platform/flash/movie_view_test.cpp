@@ -14,6 +14,7 @@ namespace movie_view_test {
 
 using namespace hand_made;
 using platform::flash::MovieView;
+using platform::flash::Property;
 using namespace view_bench;
 
 namespace {
@@ -93,8 +94,8 @@ class MovieViewTest : public QObject {
     MovieView view(time);
     view.resize(100, 50);
     view.setMovie(board());
-    view.setClipProperty(QStringLiteral("u1"), 7, QStringLiteral("0"));
-    view.setClipProperty(QStringLiteral("u2"), 6, QStringLiteral("50"));
+    view.setClipProperty(QStringLiteral("u1"), Property::Visible, QStringLiteral("0"));
+    view.setClipProperty(QStringLiteral("u2"), Property::Alpha, QStringLiteral("50"));
     const QImage image = view.grab().toImage();
     QCOMPARE(image.pixel(15, 15), 0xFFFFFFFF);
     QVERIFY(std::abs(qGreen(image.pixel(65, 35)) - 127) <= 2);
@@ -109,8 +110,8 @@ class MovieViewTest : public QObject {
     QVERIFY(QTest::qWaitForWindowExposed(&view));
     QCoreApplication::processEvents();
     PaintWatch watch(view);
-    view.setClipProperty(QStringLiteral("u1"), 7, QStringLiteral("0"));
-    view.setClipProperty(QStringLiteral("u2"), 6, QStringLiteral("40"));
+    view.setClipProperty(QStringLiteral("u1"), Property::Visible, QStringLiteral("0"));
+    view.setClipProperty(QStringLiteral("u2"), Property::Alpha, QStringLiteral("40"));
     QTRY_VERIFY(!watch.painted.isEmpty());
     // The clips stand at 20..40 by 20..40 and 120..140 by 60..80 here, with a pixel around them.
     const QRegion allowed = QRegion(19, 19, 22, 22) + QRegion(119, 59, 22, 22);
@@ -119,8 +120,8 @@ class MovieViewTest : public QObject {
     QVERIFY(watch.painted.contains(QPoint(130, 70)));
     // What does not change is not painted, also when something else is.
     watch.painted = {};
-    view.setClipProperty(QStringLiteral("u1"), 7, QStringLiteral("0"));
-    view.setClipProperty(QStringLiteral("u2"), 7, QStringLiteral("0"));
+    view.setClipProperty(QStringLiteral("u1"), Property::Visible, QStringLiteral("0"));
+    view.setClipProperty(QStringLiteral("u2"), Property::Visible, QStringLiteral("0"));
     QTRY_VERIFY(!watch.painted.isEmpty());
     QVERIFY(!watch.painted.intersects(QRect(19, 19, 22, 22)));
   }
@@ -151,7 +152,7 @@ class MovieViewTest : public QObject {
     view.resize(100, 50);
     const QString path = board();
     view.setMovie(path);
-    view.setClipProperty(QStringLiteral("u1"), 7, QStringLiteral("0"));
+    view.setClipProperty(QStringLiteral("u1"), Property::Visible, QStringLiteral("0"));
     view.setMovie(path);
     QCOMPARE(view.grab().toImage().pixel(15, 15), 0xFFFF0000);
   }
@@ -172,7 +173,7 @@ class MovieViewTest : public QObject {
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be shown")));
     view.setMovie(bytes == "(none)" ? folder_.path(QStringLiteral("none.swf"))
                                     : folder_.saved(bytes));
-    view.setClipProperty(QStringLiteral("u1"), 7, QStringLiteral("1"));
+    view.setClipProperty(QStringLiteral("u1"), Property::Visible, QStringLiteral("1"));
     view.gotoFrame(2);
     view.play();
     QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(15, 15));
@@ -203,10 +204,10 @@ class MovieViewTest : public QObject {
     moveMouse(view, QPoint(15, 15));
     QCoreApplication::processEvents();
     QCOMPARE(view.cursor().shape(), Qt::PointingHandCursor);
-    view.setClipProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+    view.setClipProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
     QCoreApplication::processEvents();
     QCOMPARE(view.cursor().shape(), Qt::CrossCursor);
-    view.setClipProperty(QStringLiteral("c"), 7, QStringLiteral("1"));
+    view.setClipProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("1"));
     QCoreApplication::processEvents();
     QCOMPARE(view.cursor().shape(), Qt::PointingHandCursor);
     moveMouse(view, QPoint(50, 15));

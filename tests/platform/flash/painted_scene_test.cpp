@@ -5,6 +5,7 @@
 namespace painted_scene_test {
 
 using namespace painted;
+using platform::flash::Property;
 
 // How what is placed is painted: colours, depths, masks, matrices, texts.
 class PaintedSceneTest : public QObject {
@@ -94,14 +95,14 @@ class PaintedSceneTest : public QObject {
                              6, 20, 20)),
                   [](auto&&...) {});
     QCOMPARE(picture(player).pixel(5, 5), 0xFFFF0000);
-    player.setProperty(QStringLiteral("c"), 6, QStringLiteral("50"));
+    player.setProperty(QStringLiteral("c"), Property::Alpha, QStringLiteral("50"));
     COMPARE_COLOR(picture(player), 5, 5, 0xFFFF7F7F);
-    player.setProperty(QStringLiteral("c"), 6, QStringLiteral("0"));
+    player.setProperty(QStringLiteral("c"), Property::Alpha, QStringLiteral("0"));
     QCOMPARE(picture(player).pixel(5, 5), kWhite);
-    player.setProperty(QStringLiteral("c"), 6, QStringLiteral("100"));
-    player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+    player.setProperty(QStringLiteral("c"), Property::Alpha, QStringLiteral("100"));
+    player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
     QCOMPARE(picture(player).pixel(5, 5), kWhite);
-    player.setProperty(QStringLiteral("c"), 7, QStringLiteral("1"));
+    player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("1"));
     QCOMPARE(picture(player).pixel(5, 5), 0xFFFF0000);
   }
 

@@ -12,6 +12,7 @@ namespace player_test {
 
 using namespace frames;
 using namespace hand_made;
+using platform::flash::Property;
 using running::Running;
 using running::words;
 
@@ -149,7 +150,8 @@ class PlayerTest : public QObject {
         place(1, 1, 0, 0, "clip") + doAction(pushText("/clip:qui") + action(0x9F, u8(0))) +
         showFrame());
     // Queued behind the clip's own first frame, so its stop does not matter.
-    QCOMPARE(movie.player.property(QStringLiteral("clip"), 4), QStringLiteral("3"));
+    QCOMPARE(movie.player.property(QStringLiteral("clip"), Property::CurrentFrame),
+             QStringLiteral("3"));
   }
 
   void gotosWithinATickAreBounded() {
@@ -216,9 +218,11 @@ class PlayerTest : public QObject {
     Running movie(clip + place(1, 1, 0, 0, "c") + showFrame() + showFrame() + showFrame(), 6, 3);
     movie.player.tick();
     movie.player.tick();
-    QCOMPARE(movie.player.property(QStringLiteral("c"), 4), QStringLiteral("3"));
+    QCOMPARE(movie.player.property(QStringLiteral("c"), Property::CurrentFrame),
+             QStringLiteral("3"));
     movie.player.gotoFrame(1);
-    QCOMPARE(movie.player.property(QStringLiteral("c"), 4), QStringLiteral("3"));
+    QCOMPARE(movie.player.property(QStringLiteral("c"), Property::CurrentFrame),
+             QStringLiteral("3"));
   }
 
   void aClipThatIsRemovedInBetweenIsNewAfterAGoto() {
@@ -226,24 +230,24 @@ class PlayerTest : public QObject {
     Running movie(clip + place(1, 1, 0, 0, "c") + showFrame() + remove(1) + showFrame() +
                       place(1, 1, 0, 0, "c") + showFrame() + showFrame(),
                   6, 4);
-    movie.player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+    movie.player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
     movie.player.gotoFrame(4);
-    QCOMPARE(movie.player.property(QStringLiteral("c"), 7), QStringLiteral("1"));
-    movie.player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+    QCOMPARE(movie.player.property(QStringLiteral("c"), Property::Visible), QStringLiteral("1"));
+    movie.player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
     movie.player.gotoFrame(3);
-    QCOMPARE(movie.player.property(QStringLiteral("c"), 7), QStringLiteral("0"));
+    QCOMPARE(movie.player.property(QStringLiteral("c"), Property::Visible), QStringLiteral("0"));
     movie.player.gotoFrame(1);
-    QCOMPARE(movie.player.property(QStringLiteral("c"), 7), QStringLiteral("1"));
+    QCOMPARE(movie.player.property(QStringLiteral("c"), Property::Visible), QStringLiteral("1"));
   }
 
   void hiddenClipsStayHiddenWhenTheTimelineLoops() {
     Running movie(sprite(1, showFrame()) + place(1, 1, 0, 0, "c") + showFrame() + showFrame(), 6,
                   2);
-    movie.player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+    movie.player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
     movie.player.tick();
     movie.player.tick();
     QCOMPARE(movie.player.currentFrame(), 1);
-    QCOMPARE(movie.player.property(QStringLiteral("c"), 7), QStringLiteral("0"));
+    QCOMPARE(movie.player.property(QStringLiteral("c"), Property::Visible), QStringLiteral("0"));
   }
 
   void theTimelineLeavesAClipAloneThatTheHostHasMovedButNotOneThatItHasHidden() {
@@ -251,22 +255,23 @@ class PlayerTest : public QObject {
                             place(2, 1, 0, 0, "b") + place(3, 1, 0, 0, "c") + showFrame() +
                             moveTo(1, 50, 0) + moveTo(2, 50, 0) + moveTo(3, 50, 0) + showFrame();
     Running movie(tags, 6, 2);
-    movie.player.setProperty(QStringLiteral("a"), 0, QStringLiteral("7"));
-    movie.player.setProperty(QStringLiteral("b"), 7, QStringLiteral("0"));
-    movie.player.setProperty(QStringLiteral("c"), 6, QStringLiteral("50"));
+    movie.player.setProperty(QStringLiteral("a"), Property::X, QStringLiteral("7"));
+    movie.player.setProperty(QStringLiteral("b"), Property::Visible, QStringLiteral("0"));
+    movie.player.setProperty(QStringLiteral("c"), Property::Alpha, QStringLiteral("50"));
     movie.player.tick();
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 0), QStringLiteral("7"));
-    QCOMPARE(movie.player.property(QStringLiteral("b"), 0), QStringLiteral("50"));
-    QCOMPARE(movie.player.property(QStringLiteral("c"), 0), QStringLiteral("0"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::X), QStringLiteral("7"));
+    QCOMPARE(movie.player.property(QStringLiteral("b"), Property::X), QStringLiteral("50"));
+    QCOMPARE(movie.player.property(QStringLiteral("c"), Property::X), QStringLiteral("0"));
   }
 
   void alphaIsHeldInTwoHundredAndFiftySixths() {
     Running movie(sprite(1, showFrame()) + place(1, 1, 0, 0, "a") + showFrame());
-    movie.player.setProperty(QStringLiteral("a"), 6, QStringLiteral("50"));
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 6), QStringLiteral("50"));
-    movie.player.setProperty(QStringLiteral("a"), 6, QStringLiteral("33"));
+    movie.player.setProperty(QStringLiteral("a"), Property::Alpha, QStringLiteral("50"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::Alpha), QStringLiteral("50"));
+    movie.player.setProperty(QStringLiteral("a"), Property::Alpha, QStringLiteral("33"));
     // 33 * 256 / 100 = 84.48; 84 / 256 = 32.8125 %.
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 6), QStringLiteral("32.8125"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::Alpha),
+             QStringLiteral("32.8125"));
   }
 
   void targetsMayBeNamesAndPathsAndTheRoot_data() {
@@ -297,7 +302,7 @@ class PlayerTest : public QObject {
     QFETCH(QString, x);
     Running movie(sprite(1, showFrame()) + sprite(2, place(1, 1, 20, 0, "b") + showFrame()) +
                   place(1, 2, 10, 0, "a") + showFrame());
-    QCOMPARE(movie.player.property(target, 0), x);
+    QCOMPARE(movie.player.property(target, Property::X), x);
   }
 
   void aNameThatNoClipHasAndAValueThatIsNoNumberAreIgnored_data() {
@@ -309,37 +314,37 @@ class PlayerTest : public QObject {
     QFETCH(int, version);
     Running movie(sprite(1, showFrame()) + place(1, 1, 5, 0, "a") + showFrame(), version);
     for (const char* none : {"abc", "1x", ""}) {
-      movie.player.setProperty(QStringLiteral("a"), 7, QString::fromLatin1(none));
-      QCOMPARE(movie.player.property(QStringLiteral("a"), 7), QStringLiteral("1"));
+      movie.player.setProperty(QStringLiteral("a"), Property::Visible, QString::fromLatin1(none));
+      QCOMPARE(movie.player.property(QStringLiteral("a"), Property::Visible), QStringLiteral("1"));
     }
-    movie.player.setProperty(QStringLiteral("nobody"), 0, QStringLiteral("1"));
-    movie.player.setProperty(QStringLiteral("a"), 0, QStringLiteral("far"));
-    movie.player.setProperty(QStringLiteral("a"), 0, QString());
-    movie.player.setProperty(QStringLiteral("a"), 99, QStringLiteral("1"));
-    movie.player.setProperty(QStringLiteral("a"), -1, QStringLiteral("1"));
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 0), QStringLiteral("5"));
+    movie.player.setProperty(QStringLiteral("nobody"), Property::X, QStringLiteral("1"));
+    movie.player.setProperty(QStringLiteral("a"), Property::X, QStringLiteral("far"));
+    movie.player.setProperty(QStringLiteral("a"), Property::X, QString());
+    movie.player.setProperty(QStringLiteral("a"), Property(99), QStringLiteral("1"));
+    movie.player.setProperty(QStringLiteral("a"), Property(-1), QStringLiteral("1"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::X), QStringLiteral("5"));
   }
 
   void placeAndScaleAndRotationCanBeSetAndRead() {
     Running movie(square(1, 10, 0) + sprite(2, place(1, 1) + showFrame()) + place(1, 2, 5, 6, "a") +
                   showFrame());
-    const auto set = [&](int property, const char* value) {
+    const auto set = [&](Property property, const char* value) {
       movie.player.setProperty(QStringLiteral("a"), property, QString::fromLatin1(value));
       return movie.player.property(QStringLiteral("a"), property);
     };
-    QCOMPARE(set(0, "12.5"), QStringLiteral("12.5"));
-    QCOMPARE(set(1, "-3"), QStringLiteral("-3"));
-    QCOMPARE(set(2, "200"), QStringLiteral("200"));
-    QCOMPARE(set(3, "50"), QStringLiteral("50"));
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 8), QStringLiteral("20"));
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 9), QStringLiteral("5"));
-    QCOMPARE(set(10, "90").toDouble(), 90.0);
-    QCOMPARE(qRound(movie.player.property(QStringLiteral("a"), 8).toDouble()), 5);
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 11), QStringLiteral("/a"));
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 13), QStringLiteral("a"));
-    QCOMPARE(movie.player.property(QString(), 13), QString());
-    QCOMPARE(movie.player.property(QString(), 11), QStringLiteral("/"));
-    QCOMPARE(movie.player.property(QString(), 5), QStringLiteral("1"));
+    QCOMPARE(set(Property::X, "12.5"), QStringLiteral("12.5"));
+    QCOMPARE(set(Property::Y, "-3"), QStringLiteral("-3"));
+    QCOMPARE(set(Property::ScaleX, "200"), QStringLiteral("200"));
+    QCOMPARE(set(Property::ScaleY, "50"), QStringLiteral("50"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::Width), QStringLiteral("20"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::Height), QStringLiteral("5"));
+    QCOMPARE(set(Property::Rotation, "90").toDouble(), 90.0);
+    QCOMPARE(qRound(movie.player.property(QStringLiteral("a"), Property::Width).toDouble()), 5);
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::Target), QStringLiteral("/a"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::Name), QStringLiteral("a"));
+    QCOMPARE(movie.player.property(QString(), Property::Name), QString());
+    QCOMPARE(movie.player.property(QString(), Property::Target), QStringLiteral("/"));
+    QCOMPARE(movie.player.property(QString(), Property::TotalFrames), QStringLiteral("1"));
   }
 
   void aNewCharacterOnADepthTakesOverPlaceAndName() {
@@ -349,8 +354,9 @@ class PlayerTest : public QObject {
                       place(1, 1, 30, 0, "a") + showFrame() + replace + showFrame(),
                   6, 2);
     movie.player.tick();
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 0), QStringLiteral("30"));
-    QCOMPARE(movie.player.property(QStringLiteral("a"), 5), QStringLiteral("2"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::X), QStringLiteral("30"));
+    QCOMPARE(movie.player.property(QStringLiteral("a"), Property::TotalFrames),
+             QStringLiteral("2"));
   }
 
   void scriptsOfARemovedClipDoNotRun() {

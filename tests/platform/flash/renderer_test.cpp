@@ -5,6 +5,7 @@
 namespace renderer_test {
 
 using namespace painted;
+using platform::flash::Property;
 
 // Shapes: their fills, lines and styles.
 class RendererTest : public QObject {
@@ -276,7 +277,7 @@ class RendererTest : public QObject {
                                  place(1, 2, 0, 10, "line") + showFrame(),
                              6, 20, 20)),
                   [](auto&&...) {});
-    player.setProperty(QStringLiteral("line"), 3, scaleY);
+    player.setProperty(QStringLiteral("line"), Property::ScaleY, scaleY);
     const QImage image = picture(player);
     double ink = 0;  // of the column of pixels 10, which only the line across meets
     for (int y = 0; y < 20; ++y) {
@@ -315,8 +316,8 @@ class RendererTest : public QObject {
                                  place(1, 2, 10, 10, "line") + showFrame(),
                              6, 20, 20)),
                   [](auto&&...) {});
-    player.setProperty(QStringLiteral("line"), 2, scaleX);
-    player.setProperty(QStringLiteral("line"), 3, scaleY);
+    player.setProperty(QStringLiteral("line"), Property::ScaleX, scaleX);
+    player.setProperty(QStringLiteral("line"), Property::ScaleY, scaleY);
     const QImage image = picture(player);
     const double area = std::abs(scaleX.toDouble() * scaleY.toDouble()) / 10'000;
     double across = 0;
@@ -340,8 +341,8 @@ class RendererTest : public QObject {
                                  place(1, 2, 10, 0, "line") + showFrame(),
                              6, 20, 20)),
                   [](auto&&...) {});
-    player.setProperty(QStringLiteral("line"), 2, QStringLiteral("1"));
-    player.setProperty(QStringLiteral("line"), 3, QStringLiteral("400"));
+    player.setProperty(QStringLiteral("line"), Property::ScaleX, QStringLiteral("1"));
+    player.setProperty(QStringLiteral("line"), Property::ScaleY, QStringLiteral("400"));
     // Eight pixels by the root of 0.04 are 1.6, to both sides of x 10.
     const QRectF place = player.scene().items.front().bounds;
     QVERIFY(place.left() <= 200 - 15.9 && place.right() >= 200 + 15.9);

@@ -10,6 +10,7 @@ namespace scene_test {
 
 using namespace hand_made;
 using namespace platform::flash;
+using platform::flash::Property;
 
 namespace {
 
@@ -57,14 +58,16 @@ class SceneTest : public QObject {
   }
 
   void hidingDiffersInThePlaceOfTheClipOnly() {
-    const auto places = changedBy(
-        [](Player& player) { player.setProperty(QStringLiteral("b"), 7, QStringLiteral("0")); });
+    const auto places = changedBy([](Player& player) {
+      player.setProperty(QStringLiteral("b"), Property::Visible, QStringLiteral("0"));
+    });
     QCOMPARE(places, std::vector{square10(20, 0)});
   }
 
   void fadingDiffersInThePlaceOfTheClipOnly() {
-    const auto places = changedBy(
-        [](Player& player) { player.setProperty(QStringLiteral("c"), 6, QStringLiteral("30")); });
+    const auto places = changedBy([](Player& player) {
+      player.setProperty(QStringLiteral("c"), Property::Alpha, QStringLiteral("30"));
+    });
     for (const QRectF& place : places) {
       QCOMPARE(place, square10(40, 0));
     }
@@ -72,15 +75,16 @@ class SceneTest : public QObject {
   }
 
   void movingDiffersInTheOldAndTheNewPlace() {
-    const auto places = changedBy(
-        [](Player& player) { player.setProperty(QStringLiteral("a"), 1, QStringLiteral("50")); });
+    const auto places = changedBy([](Player& player) {
+      player.setProperty(QStringLiteral("a"), Property::Y, QStringLiteral("50"));
+    });
     QCOMPARE(places, (std::vector{square10(0, 0), square10(0, 50)}));
   }
 
   void severalChangesDifferInTheirOwnPlaces() {
     const auto places = changedBy([](Player& player) {
-      player.setProperty(QStringLiteral("a"), 7, QStringLiteral("0"));
-      player.setProperty(QStringLiteral("c"), 7, QStringLiteral("0"));
+      player.setProperty(QStringLiteral("a"), Property::Visible, QStringLiteral("0"));
+      player.setProperty(QStringLiteral("c"), Property::Visible, QStringLiteral("0"));
     });
     QCOMPARE(places, (std::vector{square10(0, 0), square10(40, 0)}));
   }
@@ -91,7 +95,7 @@ class SceneTest : public QObject {
                              place(2, 1) + place(7, 1, 50, 0) + showFrame())),
                   [](auto&&...) {});
     const Scene before = masked.scene();
-    masked.setProperty(QStringLiteral("m"), 0, QStringLiteral("3"));
+    masked.setProperty(QStringLiteral("m"), Property::X, QStringLiteral("3"));
     for (const QRectF& place : differences(before, masked.scene())) {
       QCOMPARE(place, square10(0, 0));
     }

@@ -10,6 +10,7 @@
 namespace script_scope_test {
 
 using namespace scripts;
+using platform::flash::Property;
 
 // Clips and variables as scripts find them, functions, and scripts that never end.
 class ScriptScopeTest : public QObject {
@@ -121,7 +122,8 @@ class ScriptScopeTest : public QObject {
     Player player(movie(file(three + place(5, 9, 0, 0, "three") + doAction(call) + showFrame())),
                   [](auto&&...) {});
     player.tick();
-    QCOMPARE(player.property(QStringLiteral("three"), 4).toInt(), frameAfterATick);
+    QCOMPARE(player.property(QStringLiteral("three"), Property::CurrentFrame).toInt(),
+             frameAfterATick);
   }
 
   void functionsTakeArgumentsAndReturnValues() {
@@ -217,7 +219,7 @@ class ScriptScopeTest : public QObject {
       } else {
         QCOMPARE(told, ofHandler);
       }
-      QCOMPARE(player.property(QStringLiteral("outer"), 0), QString());
+      QCOMPARE(player.property(QStringLiteral("outer"), Property::X), QString());
     }
   }
 
@@ -235,7 +237,7 @@ class ScriptScopeTest : public QObject {
         [](auto&&...) {});
     for (int i = 0; i < 6; ++i) player.tick();
     QCOMPARE(player.currentFrame(), 1);
-    QCOMPARE(player.property(QStringLiteral("c/new"), 0), QString());
+    QCOMPARE(player.property(QStringLiteral("c/new"), Property::X), QString());
   }
 
   void anEndlessLoopEndsWithTheWorkOfItsTick() {
