@@ -4,7 +4,7 @@ import fnmatch
 import os
 import time
 
-from . import pulizia, struttura, testo
+from . import mappa, pulizia, struttura, testo
 
 # The commit before which titles were longer.
 _TITOLI_DA = "8362665"
@@ -12,6 +12,7 @@ _TITOLI_DA = "8362665"
 _REGOLE = (
     ("format", testo.formato),
     ("includes go down", struttura.inclusioni_in_su),
+    ("the house is drawn as it is", mappa.stanze_fuori_posto),
     ("no ring of headers", struttura.cicli_di_intestazioni),
     ("no knot", struttura.nodi_troppo_grandi),
     ("one name, one class", struttura.nomi_doppi),

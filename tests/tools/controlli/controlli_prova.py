@@ -10,7 +10,7 @@ import unittest
 sys.dont_write_bytecode = True
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../../tools"))
 
-from controlli import misure, pulizia, sorgenti, struttura, testo  # noqa: E402
+from controlli import mappa, misure, pulizia, sorgenti, struttura, testo  # noqa: E402
 
 _CASA = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../..")
 _LUNGO = "".join(f"  total{i} = call_{i % 7}(left, {i}) {'+-*/%&|'[i % 7]} right;\n"
@@ -54,6 +54,28 @@ class Casa(unittest.TestCase):
     def test_the_program_includes_nothing_of_its_tests(self):
         self.file(app__a_h='#include "tests/t.h"\n', tests__t_h="")
         self.assertEqual(1, len(list(struttura.inclusioni_in_su())))
+
+    def test_page_and_picture_show_each_room_on_its_floor(self):
+        riga = "| {} | {} | what lives there |\n"
+        casa = (("0", "`platform/base`"), ("1", "`platform/forms`, `flash`"), ("1", "`cases/`"),
+                ("6", "`exercises/bars`, `table`"), ("7", "`app/`"))
+        scritta = '<text x="1" y="2" font-size="{}" fill="#222">{}</text>\n'
+        figura = (("18", "7"), ("17", "app"), ("14", "the menus"), ("18", "6"), ("17", "bars"), ("17", "table"),
+                  ("18", "1"), ("17", "platform/forms"), ("17", "platform/flash"), ("17", "cases"),
+                  ("18", "0"), ("17", "platform/base"))
+        self.file(app__a_h="", cases__a_h="", exercises__bars__a_h="", exercises__table__a_h="",
+                  platform__base__a_h="", platform__flash__a_h="", platform__forms__keys__a_h="",
+                  **{"docs/house.md": "".join(riga.format(*r) for r in casa),
+                     "docs/house.svg": "".join(scritta.format(*s) for s in figura)})
+        self.assertEqual([], list(mappa.stanze_fuori_posto()))
+        self.file(platform__boards__b_h="", exercises__bars__a_h="",
+                  **{"docs/house.md": "".join(riga.format(*r) for r in casa).replace("| 7 | `app/`", "| 5 | `app/`"),
+                     "docs/house.svg": "".join(scritta.format(*s) for s in figura[:-1])})
+        self.assertEqual(["docs/house.md: platform/boards is not shown on floor 2",
+                          "docs/house.md: app is not shown on floor 7", "docs/house.md: app is shown on floor 5",
+                          "docs/house.svg: platform/base is not shown on floor 0",
+                          "docs/house.svg: platform/boards is not shown on floor 2"],
+                         list(mappa.stanze_fuori_posto()))
 
     def test_a_ring_of_headers_is_found(self):
         self.file(cases__a_h='#include "cases/b.h"\n', cases__b_h='#include "cases/c.h"\n',
