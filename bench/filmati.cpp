@@ -104,6 +104,7 @@ void misura(const QString& file) {
   const int giri = bench::quanti(21, 5);
   std::shared_ptr<const platform::flash::Movie> filmato;
   std::vector<double> carichi;
+  carichi.reserve(std::size_t(giri));
   for (int i = 0; i < giri; ++i) {
     carichi.push_back(millisecondi([&] { filmato = platform::flash::loadMovie(file); }));
   }

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 #include <cstdio>
+#include <exception>
 #include <fstream>
 #include <string>
 
@@ -137,9 +138,14 @@ class Misura {
 
 int main(int argc, char* argv[]) {
   QApplication programma(argc, argv);
-  Misura misura;
-  misura.memoriaDiUnElenco();
-  misura.tempoDiUnElenco();
-  misura.anteprima();
+  try {
+    Misura misura;
+    misura.memoriaDiUnElenco();
+    misura.tempoDiUnElenco();
+    misura.anteprima();
+  } catch (const std::exception& perche) {
+    std::fprintf(stderr, "stampa: %s\n", perche.what());
+    return 1;
+  }
   return 0;
 }

@@ -50,10 +50,10 @@ void onRelease(const volatile void* place) {
 // Does a step and sees to it that it keeps to what it may take.
 template <typename Do>
 void step(const char* what, Do make) {
-  constexpr std::int64_t kMostTime = 3 * 1000;   // milliseconds
-  constexpr std::size_t kMostMemory = 64 << 20;  // bytes
+  constexpr std::int64_t kMostTime = 3000;                    // milliseconds
+  constexpr std::size_t kMostMemory = std::size_t{64} << 20;  // bytes
   static std::int64_t slowest = 100;
-  static std::size_t largest = 16 << 20;
+  static std::size_t largest = std::size_t{16} << 20;
   const auto now = [] { return platform::flash::Budget::processorTime() / 1'000'000; };
   const std::int64_t begin = now();
   const std::size_t before = peak = allocated;

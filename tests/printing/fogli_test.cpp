@@ -40,7 +40,7 @@ Quadro quadroDi(std::string_view nome) {
   if (nome == somme::forme::kFormStampaAbaco) return {strette, {2, 9, 16}, 4, 5, {4, 8}};
   if (nome == somme::forme::kFormStampaLU) return {larghe, {1, 8, 15}, 6, 6, {0, 3, 4}};
   if (nome == somme::forme::kFormStampaPLU) return {larghe, {1, 8, 15}, 6, 6, {3}};
-  const Quadro cifre{strette, {2, 7, 12, 17}, 4, 4, {10, 11}};
+  Quadro cifre{strette, {2, 7, 12, 17}, 4, 4, {10, 11}};
   if (nome == somme::forme::kFormStampaFoglioNumeri) return cifre;
   return {strette, cifre.alti, 4, 4, {10, 11, 13}};
 }

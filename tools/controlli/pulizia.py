@@ -104,7 +104,9 @@ def _opzioni(file, cartella):
     opzioni = ["-std=c++20", "-fPIC", f"-I{os.getcwd()}",
                *(re.sub("^-I", "-isystem", opzione) for opzione in esito.stdout.split())]
     if accanto:
-        opzioni += [f"-I{os.path.abspath('tests')}", f"-I{cartella}",
+        # What a folder of tests does in a way of each system lies below it.
+        sistemi = {f"{os.path.dirname(os.path.abspath(f))}/linux" for f in accanto}
+        opzioni += [f"-I{os.path.abspath('tests')}", f"-I{cartella}", *(f"-I{s}" for s in sorted(sistemi)),
                     *(f'-D{nome}=""' for nome in _nomi_del_build())]
     for moc in {m for f in accanto for m in re.findall(r'#include "(\w+\.moc)"', sorgenti.testo(f))}:
         with open(os.path.join(cartella, moc), "w", encoding="utf-8"):

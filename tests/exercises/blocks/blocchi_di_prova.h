@@ -188,5 +188,3 @@ void provaLivelloIgnoto(Banco& banco, const F& forma, qint16 tipo) {
 }
 
 }  // namespace prova
-
-Q_DECLARE_METATYPE(prova::Sorte)

@@ -251,6 +251,7 @@ class FormaNumeriTastieraTest : public QObject {
       // The same draws for the form and for the routine of the level.
       prova::SorteDiProva stessa;
       std::vector<prova::SorteDiProva::Estrazione> estrazioni;
+      estrazioni.reserve(40);
       for (int i = 0; i < 40; ++i) estrazioni.push_back({(i * 7 + tipo) % 10, 10});
       stessa.scrivi(estrazioni);
       somme::Caso atteso;

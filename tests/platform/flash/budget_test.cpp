@@ -17,7 +17,7 @@ namespace {
 
 // A clock that goes on by a second whenever somebody looks at it.
 Budget::Clock hastyClock(int& looks) {
-  return [&looks] { return ++looks * 1000 * platform::flash::limits::kMillisecond; };
+  return [&looks] { return std::int64_t{1000} * ++looks * platform::flash::limits::kMillisecond; };
 }
 
 // Actions for ever, after the host has been told something.

@@ -38,7 +38,7 @@ class FilmatoTest : public QObject {
   };
 
   QString scrivi(const char* nome, const QByteArray& byte) {
-    const QString percorso = cartella_.filePath(QString::fromLatin1(nome));
+    QString percorso = cartella_.filePath(QString::fromLatin1(nome));
     QFile uscita(percorso);
     if (!uscita.open(QIODevice::WriteOnly) || uscita.write(byte) != byte.size()) {
       qFatal("cannot write a file");
