@@ -68,8 +68,9 @@ constexpr Colonna kConCambio{9, 10};
 template <std::size_t N>
 std::array<int, N> EstraiColonne(Chance& chance, const std::array<Colonna, N>& colonne) {
   std::array<int, N> cifre{};
-  for (std::size_t i = 0; i < N; ++i)
+  for (std::size_t i = 0; i < N; ++i) {
     cifre[i] = Casuale(chance, colonne[i].quante) + colonne[i].minima;
+  }
   return cifre;
 }
 

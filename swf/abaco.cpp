@@ -18,10 +18,10 @@ using swf::Pulsante;
 using swf::Punto;
 using swf::Riempimento;
 
-/// One place of the number: its spike, its beads and the words that their clicks say.
+// One place of the number: its spike, its beads and the words that their clicks say.
 struct Ordine {
-  const char* segno;     ///< at the foot of the spike; also the name of the beads on it
-  const char* inAttesa;  ///< the name of the waiting beads
+  const char* segno;     // at the foot of the spike; also the name of the beads on it
+  const char* inAttesa;  // the name of the waiting beads
   const char* parolaInserita;
   const char* parolaInAttesa;
   Colore luce, piena, ombra;
@@ -53,12 +53,12 @@ constexpr double kZonaAlta = 30;
 constexpr double kRaggioX = 15;
 constexpr double kRaggioY = 14.2;
 
-constexpr double kColonna = 129;    ///< from spike to spike
-constexpr double kPrimoFerro = 30;  ///< the first spike's middle
-constexpr double kPiano = 318;      ///< where the lowest bead rests
+constexpr double kColonna = 129;    // from spike to spike
+constexpr double kPrimoFerro = 30;  // the first spike's middle
+constexpr double kPiano = 318;      // where the lowest bead rests
 constexpr double kCima = 7;
 constexpr int kPalline = 10;
-constexpr double kPrimaInAttesa = 42;  ///< from a spike to its nearer column of waiting beads
+constexpr double kPrimaInAttesa = 42;  // from a spike to its nearer column of waiting beads
 
 double ferro(std::size_t ordine) {
   return kPrimoFerro + kColonna * static_cast<double>(ordine);
@@ -68,8 +68,8 @@ double altezza(int riga) {
   return kPiano - kZonaAlta * (riga + 0.5);
 }
 
-/// Waiting beads stand in two columns of five. Number 0 is on top of the far one, as it is the
-/// first to be taken where beads go by number, and the one that never shows among the thousands.
+// Waiting beads stand in two columns of five. Number 0 is on top of the far one, as it is the
+// first to be taken where beads go by number, and the one that never shows among the thousands.
 Punto postoInAttesa(std::size_t ordine, int i) {
   const int daSotto = kPalline - 1 - i;
   const int colonna = daSotto / 5;
@@ -80,7 +80,7 @@ Punto postoSulFerro(std::size_t ordine, int i) {
   return {ferro(ordine), altezza(i)};
 }
 
-/// A shiny ball round the origin. It bears no sign: its place and its colour say what it counts.
+// A shiny ball round the origin. It bears no sign: its place and its colour say what it counts.
 Forma pallina(const Ordine& ordine) {
   Forma forma;
   forma.dipingi(
@@ -91,7 +91,7 @@ Forma pallina(const Ordine& ordine) {
   return forma;
 }
 
-/// The ring round a bead that is pointed at.
+// The ring round a bead that is pointed at.
 Forma alone() {
   const Percorso giro = Percorso().ellisse({0, 0}, kRaggioX - 0.5, kRaggioY - 0.5);
   Forma forma;
@@ -100,7 +100,7 @@ Forma alone() {
   return forma;
 }
 
-/// Says the name of the clip that holds the button, and the word.
+// Says the name of the clip that holds the button, and the word.
 Azioni annuncio(const char* parola) {
   Azioni azioni;
   azioni.spingi("FSCommand:").spingi("this").leggiVariabile().spingi("_name").leggiMembro();
@@ -108,7 +108,7 @@ Azioni annuncio(const char* parola) {
   return azioni;
 }
 
-/// What all beads have in common.
+// What all beads have in common.
 struct Parti {
   swf::Carattere alone, zona;
 };
@@ -132,7 +132,7 @@ Riempimento legno(double alto, double basso) {
                               {{0, {240, 205, 150}}, {0.25, {222, 176, 112}}, {1, {178, 124, 66}}});
 }
 
-/// The wooden stand: trays for the waiting beads, spikes and the base with the signs.
+// The wooden stand: trays for the waiting beads, spikes and the base with the signs.
 Forma telaio() {
   constexpr Colore kOrloLegno{112, 70, 28};
   Forma forma;

@@ -14,31 +14,33 @@ using swf::Riempimento;
 
 constexpr Colore kCiglio{214, 255, 206};
 
-/// The same colour, seen through.
+// The same colour, seen through.
 constexpr Colore velo(Colore colore, double quanto) {
   return {colore.rosso, colore.verde, colore.blu, static_cast<std::uint8_t>(255 * quanto)};
 }
 
-/// The lines between the units: fine and half seen through, that a flat does not turn dark, with a
-/// stronger one after the fifth, that a child need not count to ten.
+// The lines between the units: fine and half seen through, that a flat does not turn dark, with a
+// stronger one after the fifth, that a child need not count to ten.
 Percorso griglia(const Specie& specie, double lato, bool meta) {
   const double larghezza = specie.colonne * lato;
   const double altezza = specie.righe * lato;
   Percorso linee;
-  for (int i = 1; i < specie.colonne; ++i)
+  for (int i = 1; i < specie.colonne; ++i) {
     if ((i == 5) == meta) linee.vai({i * lato, 0}).linea({i * lato, altezza});
-  for (int i = 1; i < specie.righe; ++i)
+  }
+  for (int i = 1; i < specie.righe; ++i) {
     if ((i == 5) == meta) linee.vai({0, i * lato}).linea({larghezza, i * lato});
+  }
   return linee;
 }
 
-/// A light edge inside the outline: by it a flat is told from the one that it lies over.
+// A light edge inside the outline: by it a flat is told from the one that it lies over.
 Percorso ciglio(const Specie& specie, double lato, double orlo) {
   return Percorso().rettangoloTondo(
       {orlo, orlo, specie.colonne * lato - 2 * orlo, specie.righe * lato - 2 * orlo}, lato * 0.1);
 }
 
-/// A short white line near the upper left corner, longer on what is wider.
+// A short white line near the upper left corner, longer on what is wider.
 Percorso luce(const Specie& specie, double lato) {
   const double x = lato * (specie.colonne > 1 ? 0.9 : 0.34);
   const double lunga = lato * (specie.colonne > 1 ? 2.2 : 0.26);
@@ -75,8 +77,9 @@ LineaTempo bloccoCheCambia(Filmato& filmato, const Specie& specie, Colore nuova,
   LineaTempo clip;
   clip.poni(1, prima).esegui(swf::Azioni().ferma()).mostra();
   clip.poni(2, dopo, {.colore = swf::velato(1.0 / fotogrammi)}).mostra();
-  for (int i = 2; i < fotogrammi; ++i)
+  for (int i = 2; i < fotogrammi; ++i) {
     clip.muovi(2, {.colore = swf::velato(static_cast<double>(i) / fotogrammi)}).mostra();
+  }
   clip.muovi(2, {.colore = swf::velato(1)}).togli(1).esegui(swf::Azioni().ferma()).mostra();
   return clip;
 }

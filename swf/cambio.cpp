@@ -9,11 +9,11 @@ using swf::Azioni;
 using swf::LineaTempo;
 using swf::Proprieta;
 
-/// Variables of the scene: the corner of the free place, in pixels.
+// Variables of the scene: the corner of the free place, in pixels.
 constexpr const char* kPostoX = "postoX";
 constexpr const char* kPostoY = "postoY";
 
-/// Starts slowly and comes to rest slowly: 0 to 0, 1 to 1.
+// Starts slowly and comes to rest slowly: 0 to 0, 1 to 1.
 double dolce(double parte) {
   return parte * parte * (3 - 2 * parte);
 }
@@ -22,7 +22,7 @@ void assegna(Azioni& azioni, const char* variabile, double valore) {
   azioni.spingi(variabile).spingi(valore).scriviVariabile();
 }
 
-/// Sets a property to fisso + parte · variable.
+// Sets a property to fisso + parte · variable.
 void imposta(Azioni& azioni, const std::string& clip, Proprieta proprieta, double fisso,
              double parte, const char* variabile) {
   azioni.spingi(clip).spingi(proprieta).spingi(fisso);
@@ -30,7 +30,7 @@ void imposta(Azioni& azioni, const std::string& clip, Proprieta proprieta, doubl
   azioni.scriviProprieta();
 }
 
-/// From a clip's own inside the scene's clips are told from the root down.
+// From a clip's own inside the scene's clips are told from the root down.
 std::string dallaScena(const std::string& clip) {
   return "/" + clip;
 }
@@ -42,8 +42,8 @@ double Cambio::avanzamento(int pezzo, int fotogramma) const {
   return std::clamp(static_cast<double>(partito) / c_.tempi.volo, 0.0, 1.0);
 }
 
-/// Puts a piece as far on its way as told, from 0 (its own place) to 1 (its place in the new
-/// block).
+// Puts a piece as far on its way as told, from 0 (its own place) to 1 (its place in the new
+// block).
 void Cambio::porta(Azioni& azioni, int pezzo, double parte) const {
   const double via = dolce(parte);
   const swf::Punto casa = c_.pezzi.posto(pezzo);
@@ -62,8 +62,8 @@ void Cambio::rimetti(Azioni& azioni) const {
   azioni.bersaglio(dallaScena(custode())).vaiAFotogramma(1).bersaglio("");
 }
 
-/// The blocks of the new kind stand without gaps from the first on, so the last visible one settles
-/// it. A board that is full keeps its last place.
+// The blocks of the new kind stand without gaps from the first on, so the last visible one settles
+// it. A board that is full keeps its last place.
 void Cambio::cercaPostoLibero(Azioni& azioni) const {
   assegna(azioni, kPostoX, c_.nuovi.posto(1).x);
   assegna(azioni, kPostoY, c_.nuovi.posto(1).y);
@@ -77,8 +77,8 @@ void Cambio::cercaPostoLibero(Azioni& azioni) const {
   }
 }
 
-/// The clip has nothing to show. At rest it stands on its first frame; played, it looks at every
-/// second tick whether the first of the ten is hidden, and then puts them back.
+// The clip has nothing to show. At rest it stands on its first frame; played, it looks at every
+// second tick whether the first of the ten is hidden, and then puts them back.
 void Cambio::prepara(swf::Filmato& filmato, int profondita) const {
   LineaTempo clip;
   clip.esegui(Azioni().ferma()).mostra();
@@ -96,9 +96,11 @@ void Cambio::prepara(swf::Filmato& filmato, int profondita) const {
 }
 
 void Cambio::vola(Azioni& azioni, int fotogramma) const {
-  for (int pezzo = 1; pezzo <= kPezzi; ++pezzo)
-    if (avanzamento(pezzo, fotogramma) != avanzamento(pezzo, fotogramma - 1))
+  for (int pezzo = 1; pezzo <= kPezzi; ++pezzo) {
+    if (avanzamento(pezzo, fotogramma) != avanzamento(pezzo, fotogramma - 1)) {
       porta(azioni, pezzo, avanzamento(pezzo, fotogramma));
+    }
+  }
 }
 
 void Cambio::recita(LineaTempo& scena) const {
@@ -112,8 +114,9 @@ void Cambio::recita(LineaTempo& scena) const {
     scena.esegui(volo).mostra();
   }
   Azioni colore;
-  for (int pezzo = 1; pezzo <= kPezzi; ++pezzo)
+  for (int pezzo = 1; pezzo <= kPezzi; ++pezzo) {
     colore.bersaglio(dallaScena(c_.pezzi.nome(pezzo))).vaiAFotogramma(2).riproduci();
+  }
   scena.esegui(colore.bersaglio("")).mostra(c_.tempi.colore + c_.tempi.sosta - 1);
   Azioni fine;
   fine.ferma().bersaglio(dallaScena(custode())).vaiAFotogramma(2).riproduci().bersaglio("");

@@ -9,7 +9,7 @@ namespace {
 
 using swf::Percorso;
 
-/// Letters stand on y = 0 and reach y = -1 with their small part, in units of the height of that.
+// Letters stand on y = 0 and reach y = -1 with their small part, in units of the height of that.
 constexpr double kAsta = -1.55;
 constexpr double kTraLettere = 0.42;
 
@@ -19,7 +19,7 @@ struct Lettera {
   void (*disegna)(Percorso&);
 };
 
-/// The round of a and d, open to nothing, closed by the stem at its right.
+// The round of a and d, open to nothing, closed by the stem at its right.
 void tondo(Percorso& p) {
   p.ellisse({0.40, -0.5}, 0.40, 0.5);
 }

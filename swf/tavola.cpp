@@ -7,7 +7,7 @@ namespace {
 
 using swf::Colore;
 
-/// The colour thinned with white: 0 is white, 1 the colour.
+// The colour thinned with white: 0 is white, 1 the colour.
 Colore diluito(Colore colore, double quanto) {
   const auto canale = [&](std::uint8_t valore) {
     return static_cast<std::uint8_t>(std::lround(255 - (255 - valore) * quanto));
@@ -33,9 +33,10 @@ void riquadro(swf::Forma& fondo, const swf::Rettangolo& dove, swf::Colore tinta)
 }
 
 void schiera(swf::LineaTempo& scena, const Fila& fila, swf::Carattere aspetto, int profondita) {
-  for (int n = 1; n <= fila.quanti(); ++n)
+  for (int n = 1; n <= fila.quanti(); ++n) {
     scena.poni(profondita + n - 1, aspetto,
                {.matrice = spostato(fila.posto(n)), .nome = fila.nome(n)});
+  }
 }
 
 }  // namespace somme::filmati

@@ -21,11 +21,11 @@ constexpr int kCustodi = 400;
 
 constexpr double kCadenza = 25;
 
-/// Boards have the size of the labels that hold their place on the form, in pixels.
+// Boards have the size of the labels that hold their place on the form, in pixels.
 constexpr Filmato::Palco kTavolaPiccola{305, 265, kCadenza, kFondoTavola};
 constexpr Filmato::Palco kTavolaGrande{697, 281, kCadenza, kFondoTavola};
 
-/// Frame 51 is where the form looks for the second change.
+// Frame 51 is where the form looks for the second change.
 constexpr int kFotogrammaCambioDaH = 51;
 
 LineaTempo fermo(Filmato& filmato, const Specie& specie, double lato) {
@@ -34,7 +34,7 @@ LineaTempo fermo(Filmato& filmato, const Specie& specie, double lato) {
   return clip;
 }
 
-/// The same, hidden as soon as it stands on its board.
+// The same, hidden as soon as it stands on its board.
 LineaTempo nascosto(Filmato& filmato, const Specie& specie, double lato) {
   LineaTempo clip;
   clip.poni(1, filmato.definisci(blocco(specie, lato)));
@@ -49,7 +49,7 @@ std::vector<swf::Punto> insieme(std::vector<swf::Punto> primi,
   return primi;
 }
 
-/// A single frame that stands still.
+// A single frame that stands still.
 void riposa(Filmato& filmato) {
   filmato.scena().esegui(Azioni().ferma()).mostra();
 }
@@ -157,8 +157,9 @@ Filmato unionehdau() {
                           .salita = 10,
                           .tempi = kTempiDaH,
                           .parola = "cambiodah"});
-  if (1 + cambioUDa.durata() >= kFotogrammaCambioDaH)
+  if (1 + cambioUDa.durata() >= kFotogrammaCambioDaH) {
     throw std::logic_error("the first change runs into the second");
+  }
 
   Filmato filmato(kTavolaGrande);
   Forma fondo;

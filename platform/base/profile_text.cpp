@@ -95,8 +95,9 @@ bool hasLineBreakOrNul(const QString& text) {
 }
 
 bool canBeWritten(const QString& section, const QString& key, const QString& value) {
-  if (hasLineBreakOrNul(section) || hasLineBreakOrNul(key) || hasLineBreakOrNul(value))
+  if (hasLineBreakOrNul(section) || hasLineBreakOrNul(key) || hasLineBreakOrNul(value)) {
     return false;
+  }
   const QStringView name = withoutBlanks(QStringView(key));
   return !withoutBlanks(QStringView(section)).isEmpty() && !section.contains(u']') &&
          !name.isEmpty() && !name.contains(u'=') && !name.startsWith(u'[') &&

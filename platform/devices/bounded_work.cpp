@@ -26,9 +26,10 @@ void Waiting::done() {
   done_ = true;
   changed_.notify_all();
   // While somebody waits the application is there; the event wakes it.
-  if (!givenUp_)
+  if (!givenUp_) {
     QMetaObject::invokeMethod(
         qApp, [] {}, Qt::QueuedConnection);
+  }
 }
 
 bool Waiting::waitFor(TimeSource& time, std::chrono::milliseconds limit) {

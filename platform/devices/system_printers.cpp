@@ -31,8 +31,9 @@ Printers::List SystemPrinters::list() {
                                if (!queues) return false;
                                queues->list([&](const QString& name, bool isStandard) {
                                  const std::lock_guard lock(findings->mutex);
-                                 if (!findings->list.names.contains(name))
+                                 if (!findings->list.names.contains(name)) {
                                    findings->list.names.append(name);
+                                 }
                                  if (isStandard) findings->list.standard = name;
                                });
                                return true;

@@ -61,8 +61,9 @@ Sezione testiDelDisegno(platform::Form& forma) {
   }
   Sezione tutti;
   const std::string_view titolo = forma.design().caption;
-  if (!titolo.empty())
+  if (!titolo.empty()) {
     tutti.insert(forma.name() + QStringLiteral(".Caption"), traVirgolette(titolo));
+  }
   for (const Sezione& testi : perControllo) tutti.insert(testi);
   return tutti;
 }

@@ -183,8 +183,9 @@ class RegoleTest : public QObject {
     QTest::addColumn<int>("somma");
     for (int somma = 1; somma <= 1111; ++somma) {
       if (!soloZeriEUni(somma)) continue;
-      if (somma <= 11)
+      if (somma <= 11) {
         QTest::addRow("99: %d", somma) << Generatore(GeneraEntro99SenzaCambio) << 2 << somma;
+      }
       if (somma >= 100 && somma <= 111) {
         QTest::addRow("999: %d", somma) << Generatore(GeneraEntro999SenzaCambio) << 3 << somma;
       }

@@ -17,7 +17,7 @@ class AbacoTest : public QObject {
 
   FilmatoLetto letto_;
 
-  /// The button inside the clip of that name.
+  // The button inside the clip of that name.
   const prove::PulsanteLetto& pulsante(const std::string& nome) {
     const auto& clip = letto_.clip.at(letto_.posto(nome)->carattere);
     return letto_.pulsanti.at(clip.posti.at(0).carattere);
@@ -28,7 +28,7 @@ class AbacoTest : public QObject {
     return !nome.empty() && prefissi.contains(nome.substr(0, nome.size() - 1));
   }
 
-  /// Where the bead of that name feels the mouse, in twips of the stage.
+  // Where the bead of that name feels the mouse, in twips of the stage.
   prove::Rettangolo zona(const Posto& posto) {
     for (const auto& aspetto : pulsante(posto.nome).aspetti) {
       if (!(aspetto.stati & 0x08)) continue;
@@ -97,7 +97,7 @@ class AbacoTest : public QObject {
     }
   }
 
-  /// A sign would be drawn in lines of its own for each place.
+  // A sign would be drawn in lines of its own for each place.
   void theBeadsDifferByNothingButTheirColours() {
     std::set<std::size_t> misure;
     for (const std::string nome : {"k0", "h0", "da0", "u0", "ka1", "ha1", "daa1", "ua1"}) {
@@ -114,8 +114,9 @@ class AbacoTest : public QObject {
 
   void noNameIsTakenTwice() {
     std::set<std::string> nomi;
-    for (const auto& posto : letto_.scena.posti)
+    for (const auto& posto : letto_.scena.posti) {
       if (!posto.nome.empty()) QVERIFY2(nomi.insert(posto.nome).second, posto.nome.c_str());
+    }
     QCOMPARE(nomi.size(), std::size_t(80));
     QVERIFY(std::ranges::all_of(nomi, beadName));
   }
@@ -136,7 +137,7 @@ class AbacoTest : public QObject {
     std::vector<Posto> palline;
     std::ranges::copy_if(letto_.scena.posti, std::back_inserter(palline),
                          [](const Posto& p) { return !p.nome.empty(); });
-    for (std::size_t i = 0; i < palline.size(); ++i)
+    for (std::size_t i = 0; i < palline.size(); ++i) {
       for (std::size_t j = i + 1; j < palline.size(); ++j) {
         const auto a = zona(palline[i]);
         const auto b = zona(palline[j]);
@@ -144,24 +145,27 @@ class AbacoTest : public QObject {
                             a.yMassimo <= b.yMinimo || b.yMassimo <= a.yMinimo;
         QVERIFY2(divise, (palline[i].nome + " and " + palline[j].nome).c_str());
       }
+    }
   }
 
   void beadsOfASpikeStandOneUponTheOtherFromTheBase() {
-    for (const std::string ordine : {"k", "h", "da", "u"})
+    for (const std::string ordine : {"k", "h", "da", "u"}) {
       for (int i = 1; i <= 9; ++i) {
         const auto sotto = *letto_.posto(ordine + std::to_string(i - 1));
         const auto sopra = *letto_.posto(ordine + std::to_string(i));
         QCOMPARE(sopra.x, sotto.x);
         QCOMPARE(sotto.y - sopra.y, 600.0);
       }
+    }
   }
 
   void spikesStandInTheOrderOfTheNumber() {
     QVERIFY(letto_.posto("k0")->x < letto_.posto("h0")->x);
     QVERIFY(letto_.posto("h0")->x < letto_.posto("da0")->x);
     QVERIFY(letto_.posto("da0")->x < letto_.posto("u0")->x);
-    for (const std::string ordine : {"k", "h", "da", "u"})
+    for (const std::string ordine : {"k", "h", "da", "u"}) {
       QVERIFY(letto_.posto(ordine + "0")->x < letto_.posto(ordine + "a0")->x);
+    }
   }
 
   void theSameAbacusGivesTheSameBytes() {

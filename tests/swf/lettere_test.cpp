@@ -15,8 +15,9 @@ class LettereTest : public QObject {
  private Q_SLOTS:
   void everySignStandsInTheMiddleOfItsPlace_data() {
     QTest::addColumn<QString>("sign");
-    for (const char* segno : {"k", "h", "da", "u"})
+    for (const char* segno : {"k", "h", "da", "u"}) {
       QTest::newRow(segno) << QString::fromLatin1(segno);
+    }
   }
 
   void everySignStandsInTheMiddleOfItsPlace() {

@@ -13,7 +13,7 @@ using prove::FilmatoLetto;
 
 namespace {
 
-/// A raised command and where it stands.
+// A raised command and where it stands.
 struct Comando {
   int fotogramma;
   std::string comando;
@@ -22,17 +22,19 @@ struct Comando {
 
 std::vector<Comando> comandi(const FilmatoLetto& letto) {
   std::vector<Comando> esito;
-  for (const auto& blocco : letto.scena.blocchi)
-    for (const auto& azione : blocco.azioni)
+  for (const auto& blocco : letto.scena.blocchi) {
+    for (const auto& azione : blocco.azioni) {
       if (azione.codice == 0x83) {
         const std::string indirizzo = prove::testo(azione.dati);
         esito.push_back(
             {blocco.fotogramma, indirizzo, prove::testo(azione.dati, indirizzo.size() + 1)});
       }
+    }
+  }
   return esito;
 }
 
-/// Whether an action of that frame stops the scene, before any action turns to another clip.
+// Whether an action of that frame stops the scene, before any action turns to another clip.
 bool ferma(const FilmatoLetto& letto, int fotogramma) {
   for (const auto& blocco : letto.scena.blocchi) {
     if (blocco.fotogramma != fotogramma) continue;
@@ -45,13 +47,13 @@ bool ferma(const FilmatoLetto& letto, int fotogramma) {
   return false;
 }
 
-/// The picture that the clip shows first.
+// The picture that the clip shows first.
 prove::Rettangolo figura(const FilmatoLetto& letto, const std::string& nome) {
   const auto& clip = letto.clip.at(letto.posto(nome)->carattere);
   return letto.forme.at(clip.posti.at(0).carattere);
 }
 
-/// Where a clip's first picture stands on the stage, in twips.
+// Where a clip's first picture stands on the stage, in twips.
 prove::Rettangolo doveSta(const FilmatoLetto& letto, const prove::Posto& posto) {
   auto r = figura(letto, posto.nome);
   return {r.xMinimo + static_cast<int>(posto.x), r.xMassimo + static_cast<int>(posto.x),
@@ -122,12 +124,13 @@ class TavoleDeiBlocchiTest : public QObject {
   }
 
   void everyBlockIsPutDownOnceOnTheFirstFrame() {
-    for (const auto& [nome, letto] : letti_)
+    for (const auto& [nome, letto] : letti_) {
       for (const auto& posto : letto.scena.posti) {
         QCOMPARE(posto.fotogramma, 1);
         QCOMPARE(std::ranges::count(letto.scena.posti, posto.profondita, &prove::Posto::profondita),
                  1);
       }
+    }
   }
 
   void boardsOfOneAddendRaiseNothing() {
@@ -165,7 +168,7 @@ class TavoleDeiBlocchiTest : public QObject {
   }
 
   void aChangeTouchesNothingButTheTenThatChange() {
-    for (const char* nome : {"unione", "unionehdau"})
+    for (const char* nome : {"unione", "unionehdau"}) {
       for (const auto& blocco : letti_.at(nome).scena.blocchi) {
         if (blocco.fotogramma < 2) continue;
         std::string clip;
@@ -182,6 +185,7 @@ class TavoleDeiBlocchiTest : public QObject {
                    clip.c_str());
         }
       }
+    }
   }
 
   void tenUnitsAreAsTallAsALongAndTenLongsAsWideAsAFlat() {
@@ -209,14 +213,16 @@ class TavoleDeiBlocchiTest : public QObject {
         QVERIFY2(r.xMassimo < letto.palco.xMassimo && r.yMassimo < letto.palco.yMassimo,
                  posto.nome.c_str());
         if (posto.nome.starts_with("h")) continue;
-        for (const auto& altro : blocchi)
+        for (const auto& altro : blocchi) {
           QVERIFY2(discosti(r, altro), (nome + ": " + posto.nome).c_str());
+        }
         blocchi.push_back(r);
       }
       for (const auto& posto : letto.scena.posti) {
         if (!posto.nome.starts_with("h")) continue;
-        for (const auto& altro : blocchi)
+        for (const auto& altro : blocchi) {
           QVERIFY2(discosti(doveSta(letto, posto), altro), (nome + ": " + posto.nome).c_str());
+        }
       }
     }
   }

@@ -4,7 +4,7 @@ import fnmatch
 import os
 import time
 
-from . import mappa, pulizia, struttura, testo
+from . import mappa, pulizia, stile, struttura, testo
 
 # The commit before which titles were longer.
 _TITOLI_DA = "8362665"
@@ -21,6 +21,8 @@ _REGOLE = (
     ("short files", testo.file_lunghi),
     ("constants begin with k", testo.costanti),
     ("colours have names", testo.colori),
+    ("one kind of comment", stile.tre_sbarre),
+    ("bodies stand in braces", stile.corpi_senza_graffe),
     ("titles of commits", lambda: testo.titoli(_TITOLI_DA)),
     ("words", testo.parole),
 )

@@ -99,6 +99,13 @@ def codice(percorso):
     return _DA_TOGLIERE.sub(vuoto, testo(percorso))
 
 
+def commenti(percorso):
+    """(where it begins, text) of the comments of a C++ file."""
+    for trovato in _DA_TOGLIERE.finditer(testo(percorso)):
+        if trovato[0].startswith(("//", "/*")):
+            yield trovato.start(), trovato[0]
+
+
 def inclusi(percorso):
     """The files of the repository that a C++ file includes."""
     nomi = re.findall(r'^\s*#\s*include\s*"([^"]+)"', testo(percorso), re.M)

@@ -13,7 +13,7 @@ constexpr std::uint8_t kBersaglio = 0x8B;
 constexpr std::uint8_t kSpingi = 0x96;
 constexpr std::uint8_t kIndirizzoCalcolato = 0x9A;
 
-/// What a pushed value is.
+// What a pushed value is.
 enum class TipoValore : std::uint8_t { Testo = 0, Frazione = 1, Intero = 7 };
 
 }  // namespace

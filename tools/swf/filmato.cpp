@@ -8,17 +8,18 @@
 namespace somme::swf {
 namespace {
 
-/// The first version whose buttons and clips are all that the boards ask for, with identifiers that
-/// ignore case; every player since knows it.
+// The first version whose buttons and clips are all that the boards ask for, with identifiers that
+// ignore case; every player since knows it.
 constexpr std::uint8_t kVersione = 6;
-constexpr std::size_t kTesta = 8;  ///< bytes before the part that can be compressed
+constexpr std::size_t kTesta = 8;  // bytes before the part that can be compressed
 
 std::vector<std::uint8_t> compressi(const std::vector<std::uint8_t>& byte) {
   uLongf misura = compressBound(static_cast<uLong>(byte.size()));
   std::vector<std::uint8_t> esito(misura);
   if (compress2(esito.data(), &misura, byte.data(), static_cast<uLong>(byte.size()),
-                Z_BEST_COMPRESSION) != Z_OK)
+                Z_BEST_COMPRESSION) != Z_OK) {
     throw std::runtime_error("the movie could not be compressed");
+  }
   esito.resize(misura);
   return esito;
 }
@@ -44,8 +45,9 @@ Carattere Filmato::definisci(const Pulsante& pulsante) {
 }
 
 Carattere Filmato::definisci(const LineaTempo& clip) {
-  if (clip.finiti() < 1 || clip.finiti() > 0xFFFF)
+  if (clip.finiti() < 1 || clip.finiti() > 0xFFFF) {
     throw std::length_error("a clip has at least one frame");
+  }
   ScrittoreByte corpo;
   corpo.u16(static_cast<std::uint32_t>(clip.finiti()));
   corpo.aggiungi(clip.byte());
@@ -54,8 +56,9 @@ Carattere Filmato::definisci(const LineaTempo& clip) {
 }
 
 std::vector<std::uint8_t> Filmato::byte(Compressione compressione) const {
-  if (scena_.finiti() < 1 || scena_.finiti() > 0xFFFF)
+  if (scena_.finiti() < 1 || scena_.finiti() > 0xFFFF) {
     throw std::length_error("a scene has at least one frame");
+  }
   ScrittoreByte dentro;
   scrivi(dentro, Rettangolo{0, 0, palco_.larghezza, palco_.altezza});
   dentro.u16(static_cast<std::uint32_t>(std::lround(palco_.fotogrammiAlSecondo * 256)));

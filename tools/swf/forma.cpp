@@ -8,7 +8,7 @@
 namespace somme::swf {
 namespace {
 
-/// Half the edge of the square on which the format defines every gradient.
+// Half the edge of the square on which the format defines every gradient.
 constexpr double kMezzoQuadrato = 16384;
 
 struct PuntoTwip {
@@ -20,7 +20,7 @@ PuntoTwip inTwip(Punto p) {
   return {twip(p.x), twip(p.y)};
 }
 
-/// How many bits the steps of an edge take, which the format counts from 2 to 17.
+// How many bits the steps of an edge take, which the format counts from 2 to 17.
 template <std::size_t N>
 int bitDelBordo(const std::array<std::int32_t, N>& passi) {
   int bit = 2;
@@ -29,8 +29,8 @@ int bitDelBordo(const std::array<std::int32_t, N>& passi) {
   return bit;
 }
 
-/// Edges are written as steps; the steps are taken between rounded points, so that rounding never
-/// adds up and a closed path closes.
+// Edges are written as steps; the steps are taken between rounded points, so that rounding never
+// adds up and a closed path closes.
 void scriviLinea(ScrittoreByte& byte, PuntoTwip da, PuntoTwip a) {
   const std::int32_t dx = a.x - da.x;
   const std::int32_t dy = a.y - da.y;
@@ -54,7 +54,7 @@ void scriviCurva(ScrittoreByte& byte, PuntoTwip da, PuntoTwip controllo, PuntoTw
   for (const auto passo : passi) byte.bitConSegno(passo, bit);
 }
 
-/// Moves the pencil. The first move of a layer also takes up its fill and its pen, one bit each.
+// Moves the pencil. The first move of a layer also takes up its fill and its pen, one bit each.
 void scriviMossa(ScrittoreByte& byte, PuntoTwip dove, bool prendi, bool piena, bool contornata) {
   const int bit =
       std::max(ScrittoreByte::bitOccorrenti(dove.x), ScrittoreByte::bitOccorrenti(dove.y));
@@ -71,8 +71,8 @@ void scriviMossa(ScrittoreByte& byte, PuntoTwip dove, bool prendi, bool piena, b
   if (conPenna) byte.bit(1, 1);
 }
 
-/// Lays fill and pen down, then announces a new list of styles. Without the first step a player
-/// could carry the old choice over into the new list.
+// Lays fill and pen down, then announces a new list of styles. Without the first step a player
+// could carry the old choice over into the new list.
 void scriviCambioDiStrato(ScrittoreByte& byte, bool piena, bool contornata) {
   byte.bit(0, 2);
   byte.bit(contornata ? 1 : 0, 1);
@@ -113,8 +113,9 @@ Riempimento Riempimento::radiale(Punto centro, double raggioX, double raggioY,
 }
 
 void Riempimento::scrivi(ScrittoreByte& byte) const {
-  if (fermate_.empty() || fermate_.size() > 8)
+  if (fermate_.empty() || fermate_.size() > 8) {
     throw std::length_error("a gradient has one to eight colours");
+  }
   byte.u8(static_cast<std::uint32_t>(tipo_));
   if (tipo_ == Tipo::Tinta) {
     scriviRgba(byte, fermate_.front().colore);
@@ -153,8 +154,8 @@ Rettangolo Forma::ingombro() const {
   return {sinistra, alto, destra - sinistra, basso - alto};
 }
 
-/// Every layer brings a list of styles of its own with at most one fill and one pen. A new list
-/// starts a new layer, which is what makes the later ones cover the earlier.
+// Every layer brings a list of styles of its own with at most one fill and one pen. A new list
+// starts a new layer, which is what makes the later ones cover the earlier.
 void Forma::scriviStili(ScrittoreByte& byte, const Strato& strato) {
   byte.u8(strato.riempimento ? 1 : 0);
   if (strato.riempimento) strato.riempimento->scrivi(byte);
@@ -193,9 +194,10 @@ std::vector<std::uint8_t> Forma::byte() const {
   ScrittoreByte byte;
   scrivi(byte, ingombro());
   for (std::size_t i = 0; i < strati_.size(); ++i) {
-    if (i > 0)
+    if (i > 0) {
       scriviCambioDiStrato(byte, strati_[i - 1].riempimento.has_value(),
                            strati_[i - 1].penna.has_value());
+    }
     scriviStili(byte, strati_[i]);
     scriviPercorso(byte, strati_[i]);
   }

@@ -8,7 +8,7 @@
 namespace somme::swf {
 namespace {
 
-/// A number with 16 binary places, as matrices hold their factors.
+// A number with 16 binary places, as matrices hold their factors.
 std::int32_t virgolaFissa(double valore) {
   if (!(std::abs(valore) < 1 << 14)) throw std::out_of_range("a factor no movie can hold");
   return static_cast<std::int32_t>(std::lround(valore * 65536.0));
@@ -21,7 +21,7 @@ int bitPerTutti(const std::array<std::int32_t, N>& valori) {
   return bit;
 }
 
-/// How many bits each number of a group takes, in a field of so many bits itself.
+// How many bits each number of a group takes, in a field of so many bits itself.
 void scriviMisura(ScrittoreByte& byte, int bit, int bitDellaMisura) {
   if (bit >= 1 << bitDellaMisura) throw std::out_of_range("a number no movie can hold");
   byte.bit(static_cast<std::uint32_t>(bit), bitDellaMisura);
@@ -85,10 +85,12 @@ void scrivi(ScrittoreByte& byte, const TrasformaColore& t) {
   byte.bit(conPiu ? 1 : 0, 1);
   byte.bit(conPer ? 1 : 0, 1);
   scriviMisura(byte, bit, 4);
-  if (conPer)
+  if (conPer) {
     for (const auto valore : per) byte.bitConSegno(valore, bit);
-  if (conPiu)
+  }
+  if (conPiu) {
     for (const auto valore : piu) byte.bitConSegno(valore, bit);
+  }
   byte.allinea();
 }
 

@@ -5,7 +5,7 @@
 namespace somme::swf {
 namespace {
 
-constexpr std::size_t kTestaLunga = 0x3F;  ///< bodies from this size on have a 32-bit length
+constexpr std::size_t kTestaLunga = 0x3F;  // bodies from this size on have a 32-bit length
 
 std::uint32_t controllata(int profondita) {
   if (profondita < 1 || profondita > 0xFFFF) throw std::out_of_range("a depth out of range");

@@ -52,9 +52,9 @@ Percorso& Percorso::ellisse(Punto centro, double raggioX, double raggioY) {
   return arco(centro, raggioX, raggioY, 0, 360);
 }
 
-/// Curves with one control point follow a circle to a third of a hundredth of its radius when
-/// none covers more than an eighth of it; the control point is where the tangents of both ends
-/// meet.
+// Curves with one control point follow a circle to a third of a hundredth of its radius when
+// none covers more than an eighth of it; the control point is where the tangents of both ends
+// meet.
 Percorso& Percorso::arco(Punto centro, double raggioX, double raggioY, double daGradi,
                          double aGradi) {
   constexpr double kRadianti = std::numbers::pi / 180;

@@ -5,7 +5,7 @@
 namespace somme::swf {
 namespace {
 
-/// The condition "let go inside", in the low of the two bytes of conditions.
+// The condition "let go inside", in the low of the two bytes of conditions.
 constexpr std::uint32_t kDaPremutoAPuntato = 0x0008;
 
 }  // namespace

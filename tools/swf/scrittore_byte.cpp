@@ -21,8 +21,9 @@ void ScrittoreByte::u32(std::uint32_t valore) {
 }
 
 void ScrittoreByte::testo(std::string_view testo) {
-  if (testo.find('\0') != std::string_view::npos)
+  if (testo.find('\0') != std::string_view::npos) {
     throw std::invalid_argument("a text of a movie ends at its first zero");
+  }
   allinea();
   byte_.insert(byte_.end(), testo.begin(), testo.end());
   u8(0);
@@ -45,8 +46,9 @@ void ScrittoreByte::bit(std::uint32_t valore, int quanti) {
 }
 
 void ScrittoreByte::bitConSegno(std::int32_t valore, int quanti) {
-  if (bitOccorrenti(valore) > quanti)
+  if (bitOccorrenti(valore) > quanti) {
     throw std::out_of_range("a number does not fit its bit field");
+  }
   bit(static_cast<std::uint32_t>(valore), quanti);
 }
 

@@ -26,8 +26,9 @@ bool canTakeFocus(const Button& button) {
 
 void ButtonGroup::add(Button& button, const Label* heading) {
   buttons_.push_back(&button);
-  if (heading != nullptr)
+  if (heading != nullptr) {
     static_cast<ButtonWidget*>(button.widget())->setHeading(heading->widget());
+  }
   button.widget()->installEventFilter(this);
 }
 

@@ -272,8 +272,9 @@ class FormaNumeriTastieraTest : public QObject {
 
   void aLevelThatTheTableDoesNotHaveKeepsTheLastCase_data() {
     QTest::addColumn<int>("tipo");
-    for (const int tipo : {0, -1, 28, 32767})
+    for (const int tipo : {0, -1, 28, 32767}) {
       QTest::newRow(qPrintable(QString::number(tipo))) << tipo;
+    }
   }
   void aLevelThatTheTableDoesNotHaveKeepsTheLastCase() {
     QFETCH(int, tipo);

@@ -29,12 +29,14 @@ class Ground {
               heard += nameOf(&speaker) + QStringLiteral(": ") + words;
             },
             breath) {
-    for (QLineEdit* box : {&one, &two})
+    for (QLineEdit* box : {&one, &two}) {
       box->setAccessibleName(box == &one ? QStringLiteral("one") : QStringLiteral("two"));
+    }
     window.setAccessibleName(QStringLiteral("window"));
     platform::installAccessibleEvents([this](QAccessibleEvent& event) {
-      if (event.type() == QAccessible::Focus)
+      if (event.type() == QAccessible::Focus) {
         heard += QStringLiteral("focus on ") + nameOf(event.object());
+      }
     });
     window.show();
     window.activateWindow();

@@ -10,7 +10,7 @@ import unittest
 sys.dont_write_bytecode = True
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../../tools"))
 
-from controlli import mappa, misure, pulizia, sorgenti, struttura, testo  # noqa: E402
+from controlli import mappa, misure, pulizia, sorgenti, stile, struttura, testo  # noqa: E402
 
 _CASA = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../..")
 _LUNGO = "".join(f"  total{i} = call_{i % 7}(left, {i}) {'+-*/%&|'[i % 7]} right;\n"
@@ -155,6 +155,21 @@ class Casa(unittest.TestCase):
         self.assertEqual(["app/a.cpp:1", "platform/forms/b.cpp:2", "platform/forms/b.cpp:3",
                           "platform/forms/b.cpp:4"],
                          [":".join(t.split(":")[:2]) for t in testo.colori()])
+
+    def test_a_comment_begins_with_two_strokes(self):
+        self.file(cases__a_h="/// A\nint a;  ///< b\n// see ///\nauto c = \"/// d\";\nint e;  // f\n")
+        self.assertEqual(["cases/a.h:1", "cases/a.h:2"],
+                         [":".join(t.split(":")[:2]) for t in stile.tre_sbarre()])
+
+    def test_a_body_on_a_line_of_its_own_stands_in_braces(self):
+        bene = ("void f() {\n  if (a) return;\n  if constexpr (b(1)) {\n    c();\n  } else if (d) {\n  } else {\n  }\n"
+                "  do {\n  } while (a &&\n           b);\n  for (;;) {\n  }\n  while (next()) continue;\n"
+                "  if (a) call(\n      b);\n#if defined(X)\n  g();\n#else\n  h();\n#endif\n}\n")
+        self.file(cases__a_cpp=bene,
+                  cases__b_cpp="void f() {\n  if (a(1) &&\n      b)  // c\n    return;\n  else\n    d();\n"
+                               "  for (;;)\n    while (a)\n      g();\n  for (;;) if (a)\n      g();\n}\n")
+        self.assertEqual([f"cases/b.cpp:{riga}" for riga in (4, 6, 8, 9, 11)],
+                         [":".join(t.split(":")[:2]) for t in stile.corpi_senza_graffe()])
 
     def test_tests_of_one_folder_stand_in_one_program_and_those_of_two_do_not(self):
         self.file(tests__cases__a_cpp="struct A {};\n", tests__cases__b_cpp="struct A {};\n",

@@ -8,18 +8,18 @@
 
 namespace prove {
 
-/// A movie made by chance with all that the writer can write, and beside it what was meant, in the
-/// words of raccontoDi. Lengths are whole twips and factors whole 65536ths, so that nothing is
-/// rounded on the way.
+// A movie made by chance with all that the writer can write, and beside it what was meant, in the
+// words of raccontoDi. Lengths are whole twips and factors whole 65536ths, so that nothing is
+// rounded on the way.
 class FilmatoACaso {
  public:
   explicit FilmatoACaso(unsigned seme);
 
   [[nodiscard]] const somme::swf::Filmato& filmato() const { return filmato_; }
   [[nodiscard]] QStringList racconto() const;
-  /// What the scene tells the host, frame by frame, when it is played through once.
+  // What the scene tells the host, frame by frame, when it is played through once.
   [[nodiscard]] const QStringList& comandi() const { return comandi_; }
-  /// Where both ends of each gradient lie on its shape, in twips, in the order of the account.
+  // Where both ends of each gradient lie on its shape, in twips, in the order of the account.
   [[nodiscard]] const std::vector<std::pair<QPointF, QPointF>>& sfumature() const {
     return sfumature_;
   }
@@ -42,7 +42,7 @@ class FilmatoACaso {
   void forma();
   void clip();
   void pulsante();
-  /// parla: whether it tells the host something. Gives how deep lies what is placed.
+  // parla: whether it tells the host something. Gives how deep lies what is placed.
   int riempi(somme::swf::LineaTempo& linea, QStringList& detta, int annidatoAlPiu, bool parla);
   [[nodiscard]] somme::swf::Azioni azioni();
   [[nodiscard]] somme::swf::Azioni azioniCheParlano();

@@ -45,8 +45,8 @@ bool vicini(QPointF a, QPointF b) {
 
 }  // namespace
 
-/// The writer of the boards and the player's reader know the format each by itself; on movies made
-/// by chance they agree.
+// The writer of the boards and the player's reader know the format each by itself; on movies made
+// by chance they agree.
 class LettoComeScrittoTest : public QObject {
   Q_OBJECT
 

@@ -77,7 +77,7 @@ Rettangolo rettangolo(Lettore& l) {
   return r;
 }
 
-/// Reads a matrix for its translation.
+// Reads a matrix for its translation.
 void matrice(Lettore& l, double& x, double& y) {
   for (int i = 0; i < 2; ++i) {
     if (l.bit(1) == 0) continue;
@@ -121,8 +121,9 @@ Sequenza sequenza(const std::vector<Etichetta>& etichette, int dichiarati) {
     if (e.codice == 26) s.posti.push_back(posto(e.corpo, s.mostrati + 1));
     if (e.codice == 12) s.blocchi.push_back({s.mostrati + 1, azioni(e.corpo)});
   }
-  if (etichette.empty() || etichette.back().codice != 0)
+  if (etichette.empty() || etichette.back().codice != 0) {
     throw std::runtime_error("a timeline without its end");
+  }
   return s;
 }
 
@@ -139,8 +140,9 @@ PulsanteLetto pulsante(Lettore& l) {
     trasformaColore(l);
   }
   if (distanza == 0) return p;
-  if (l.dove() != daQui + static_cast<std::size_t>(distanza))
+  if (l.dove() != daQui + static_cast<std::size_t>(distanza)) {
     throw std::runtime_error("a button's actions are not where it says");
+  }
   if (l.u16() != 0) throw std::runtime_error("more than one condition");
   p.condizioni = l.u16();
   p.azioni = azioni(l.resto());
@@ -151,8 +153,9 @@ Byte disteso(const Byte& file, std::uint32_t lunghezza) {
   if (file[0] == 'F') return {file.begin() + 8, file.end()};
   Byte esito(lunghezza + 1000);
   uLongf misura = esito.size();
-  if (uncompress(esito.data(), &misura, file.data() + 8, file.size() - 8) != Z_OK)
+  if (uncompress(esito.data(), &misura, file.data() + 8, file.size() - 8) != Z_OK) {
     throw std::runtime_error("not compressed as the head says");
+  }
   esito.resize(misura);
   return esito;
 }
@@ -217,8 +220,9 @@ std::string testo(const Byte& dati, std::size_t da) {
 
 std::vector<std::string> spinti(const std::vector<Azione>& azioni) {
   std::vector<std::string> esito;
-  for (const auto& azione : azioni)
+  for (const auto& azione : azioni) {
     if (azione.codice == 0x96 && azione.dati.at(0) == 0) esito.push_back(testo(azione.dati, 1));
+  }
   return esito;
 }
 

@@ -11,24 +11,24 @@ namespace prove {
 
 using Byte = std::vector<std::uint8_t>;
 
-/// Bits as the format's description lists them, with blanks between the fields, in whole bytes.
+// Bits as the format's description lists them, with blanks between the fields, in whole bytes.
 [[nodiscard]] Byte bit(const char* campi);
 
-/// A walk through the bytes of a movie, written from the format's description and from nothing that
-/// the writer knows, that tests can look at what really stands in a file. Whatever does not fit
-/// (a wrong length, a tag past the end, an action cut off) throws std::runtime_error.
+// A walk through the bytes of a movie, written from the format's description and from nothing that
+// the writer knows, that tests can look at what really stands in a file. Whatever does not fit
+// (a wrong length, a tag past the end, an action cut off) throws std::runtime_error.
 struct Etichetta {
   int codice = 0;
   Byte corpo;
 };
 
-/// One of those that a PlaceObject2 tag puts down.
+// One of those that a PlaceObject2 tag puts down.
 struct Posto {
   int fotogramma = 1;
   int profondita = 0;
   int carattere = 0;
   std::string nome;
-  double x = 0;  ///< twips
+  double x = 0;  // twips
   double y = 0;
 };
 
@@ -48,10 +48,10 @@ struct Rettangolo {
   [[nodiscard]] int altezza() const { return yMassimo - yMinimo; }
 };
 
-/// A timeline: the root's or a clip's.
+// A timeline: the root's or a clip's.
 struct Sequenza {
-  int dichiarati = 0;  ///< frames by its head
-  int mostrati = 0;    ///< frames by its ShowFrame tags
+  int dichiarati = 0;  // frames by its head
+  int mostrati = 0;    // frames by its ShowFrame tags
   std::vector<Posto> posti;
   std::vector<Blocco> blocchi;
 };
@@ -70,15 +70,15 @@ struct PulsanteLetto {
 struct FilmatoLetto {
   std::string firma;
   int versione = 0;
-  std::uint32_t lunghezza = 0;  ///< by the head, uncompressed
-  std::uint32_t disteso = 0;    ///< really
+  std::uint32_t lunghezza = 0;  // by the head, uncompressed
+  std::uint32_t disteso = 0;    // really
   Rettangolo palco;
   double cadenza = 0;
   std::vector<Etichetta> etichette;
   Sequenza scena;
   std::map<int, Sequenza> clip;
   std::map<int, PulsanteLetto> pulsanti;
-  std::map<int, Rettangolo> forme;  ///< the bounds that each shape claims
+  std::map<int, Rettangolo> forme;  // the bounds that each shape claims
 
   [[nodiscard]] std::optional<Posto> posto(const std::string& nome) const;
 };
@@ -87,9 +87,9 @@ struct FilmatoLetto {
 [[nodiscard]] std::vector<Etichetta> etichette(std::span<const std::uint8_t> byte);
 [[nodiscard]] std::vector<Azione> azioni(std::span<const std::uint8_t> byte);
 
-/// The text at a place of an action's data.
+// The text at a place of an action's data.
 [[nodiscard]] std::string testo(const Byte& dati, std::size_t da = 0);
-/// The texts that an action pushes, in their order.
+// The texts that an action pushes, in their order.
 [[nodiscard]] std::vector<std::string> spinti(const std::vector<Azione>& azioni);
 
 }  // namespace prove

@@ -129,8 +129,9 @@ class TextBoxLookTest : public QObject {
     forma.Casella.setFocus();
     const QImage con = forma.Casella.widget()->grab().toImage();
     for (int i = 0; i < 2; ++i) {
-      for (int x = i; x < con.width() - i; ++x)
+      for (int x = i; x < con.width() - i; ++x) {
         QVERIFY(con.pixel(x, i) != senza.pixel(x, i) || i > 0);
+      }
       QCOMPARE(con.pixelColor(con.width() / 2, i), con.pixelColor(i, con.height() / 2));
       QVERIFY(con.pixelColor(con.width() / 2, i).lightness() < 80);
     }

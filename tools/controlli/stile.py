@@ -1,0 +1,44 @@
+"""Rules of docs/style.md that no other program holds."""
+
+import re
+
+from . import sorgenti
+
+
+def tre_sbarre():
+    """Comments of a second kind."""
+    for file in sorgenti.cpp():
+        testo = sorgenti.testo(file)
+        for inizio, commento in sorgenti.commenti(file):
+            if commento.startswith("///"):
+                riga = testo.count("\n", 0, inizio) + 1
+                yield f"{file}:{riga}: a comment begins with //, not with ///"
+
+
+_CONDIZIONE = re.compile(r"^[ \t]*#[^\n]*|\b(?:if|for|while)\b(?:\s+constexpr)?\s*(?=\()", re.M)
+_CORPO_SOTTO = re.compile(r"[ \t]*\n\s*(?![\s{])")
+_ALTRIMENTI = re.compile(r"(?<!#)\belse\b(?P<corpo>[ \t]*\n\s*(?![\s{]))")
+
+
+def _fine_della_condizione(codice, apre):
+    """Where the text goes on after a bracket and what it encloses."""
+    profondita = 0
+    for posto in range(apre, len(codice)):
+        profondita += {"(": 1, ")": -1}.get(codice[posto], 0)
+        if profondita == 0:
+            return posto + 1
+    return len(codice)
+
+
+def corpi_senza_graffe():
+    """Bodies that stand on a line of their own, and not in braces."""
+    for file in sorgenti.cpp():
+        codice = sorgenti.codice(file)
+        posti = [trovato.end("corpo") for trovato in _ALTRIMENTI.finditer(codice)]
+        for trovata in _CONDIZIONE.finditer(codice):
+            if not trovata[0].lstrip().startswith("#"):
+                corpo = _CORPO_SOTTO.match(codice, _fine_della_condizione(codice, trovata.end()))
+                posti += [corpo.end()] if corpo else []
+        for posto in sorted(posti):
+            riga = codice.count("\n", 0, posto) + 1
+            yield f"{file}:{riga}: a body on a line of its own stands in braces"
