@@ -9,7 +9,7 @@
 
 namespace bench {
 
-// The program's folder as it is, but for a language file of so many bytes, in which sections of
+// The program's folder as it is, but for a language file of a given size, in which sections of
 // others stand before the program's own; as long as it is where that is more.
 class CartellaInLingua {
  public:

@@ -48,7 +48,7 @@ def processore(pid):
 
 
 def guarda_tutti(pid, secondi):
-    """Of each process wake-ups a second, and the share of a core in percent, over so many seconds."""
+    """Of each process wake-ups a second, and the share of a core in percent, over a number of seconds."""
     prima = [(time.monotonic(), risvegli(p), processore(p)) for p in pid]
     time.sleep(secondi)
     visti = []

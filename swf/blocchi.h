@@ -11,7 +11,7 @@ inline constexpr swf::Colore kRosso{255, 90, 82};
 inline constexpr swf::Colore kBlu{74, 151, 245};
 inline constexpr swf::Colore kContorno{24, 33, 59};
 
-// The three kinds of block by how many units stand side by side and one upon the other.
+// The three kinds of block by how many units stand side by side and on top of each other.
 struct Specie {
   int colonne;
   int righe;

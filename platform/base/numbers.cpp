@@ -38,7 +38,7 @@ Digits digitsOf(double magnitude) {
   return digits;
 }
 
-// Brings the fraction to exactly so many places, half away from zero.
+// Brings the fraction to exactly `places` places, half away from zero.
 void roundTo(std::size_t places, Digits& digits) {
   const bool up = digits.fraction.size() > places && digits.fraction[places] >= '5';
   digits.fraction.resize(places, '0');

@@ -13,7 +13,7 @@ class Allowance {
  public:
   explicit Allowance(Budget& budget) : budget_(budget) {}
 
-  // Takes so many bytes of memory, and the work of filling them. What counts are the things that a
+  // Takes that much memory, in bytes, and the work of filling it. What counts are the things that a
   // few bytes of a file can multiply, roughly, not every byte. Throws MovieError when no more is
   // left.
   void spend(std::size_t bytes) {

@@ -37,7 +37,7 @@ enum class TagCode : std::uint16_t {
 };
 
 // What the readers of single tags share: the movie as far as it is known, and what it may yet cost.
-// Each of them takes the body of one tag; what is left over in a body is nobody's business.
+// Each of them takes the body of one tag; what is left over in a body is ignored.
 struct ReadContext {
   const Movie& movie;
   Allowance& allowance;

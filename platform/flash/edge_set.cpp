@@ -44,7 +44,7 @@ constexpr std::array<std::uint32_t, kSamples> kOffsetsInPixel = [] {
   return all;
 }();
 
-// For each number of columns, the samples that do not lie in the first so many of them.
+// For each number of columns, the samples that lie behind that many.
 constexpr std::array<SampleMask, kSamples + 1> behind = [] {
   std::array<SampleMask, kSamples + 1> all{};
   for (unsigned first = 0; first <= kSamples; ++first) {

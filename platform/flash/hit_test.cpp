@@ -48,7 +48,7 @@ class Search {
     const Value enabled = container.variables.value(QStringLiteral("enabled"), Value(true));
     return toBoolean(enabled, stage_.movie().version);
   }
-  // To look at so many things.
+  // Pays for a look at `things` things.
   [[nodiscard]] bool spend(std::size_t things = 1) const {
     constexpr std::int64_t kThingWork = 60;
     return stage_.budget().spend(kThingWork * static_cast<std::int64_t>(things));

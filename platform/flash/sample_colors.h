@@ -9,7 +9,7 @@
 // The colours of samples, and what they come to in a pixel.
 namespace platform::flash {
 
-// So many sixteenths of one colour, the rest of the other.
+// Two colours mixed: `sixteenths` parts of 16 of the one, the rest of the other.
 inline QRgb mixed(QRgb above, QRgb below, std::uint32_t sixteenths) {
   const auto two = [&](std::uint32_t a, std::uint32_t b) {
     const std::uint32_t sum =

@@ -6,7 +6,7 @@
 
 namespace platform::flash {
 
-// Lengths and places in a movie are twips; so many are a pixel of a board at its own size.
+// Lengths and places in a movie are twips; this length is a pixel of a board at its own size.
 inline constexpr Twips kPixel{20};
 
 // Further out, in twips, nothing can be drawn, and a float still holds every twip.

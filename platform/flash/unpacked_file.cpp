@@ -43,7 +43,7 @@ class Inflater {
 
  private:
   // Takes a little of what is packed, which may hold nothing but the descriptions of codes, and
-  // appends what comes of it: so many bytes.
+  // appends what comes of it. Gives the number of those bytes.
   std::size_t step(Bytes& packed, std::vector<std::uint8_t>& out, std::size_t most) {
     constexpr std::size_t kMostIn = std::size_t{4} * 1024;
     constexpr std::size_t kMostOut = std::size_t{64} * 1024;

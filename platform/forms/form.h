@@ -44,8 +44,8 @@ class Form : public ControlHost,
   // The inner area, in twips of the page as it stands now.
   [[nodiscard]] double width() const { return design_.width * scale_.x; }
   [[nodiscard]] double height() const { return design_.height * scale_.y; }
-  // Cuts the design off at so many of its own twips, or lengthens it; the window of a form shown
-  // over the main one follows.
+  // Cuts the design off at that height, in its own twips, or lengthens it; the window of a form
+  // shown over the main one follows.
   void setDesignHeight(double twips);
   // The greatest height that the design has had, in its own twips.
   [[nodiscard]] double tallestDesign() const { return tallest_; }

@@ -8,7 +8,7 @@
 
 namespace platform::inline forms {
 
-// Lengths on forms are twips; so many are a logical pixel, of which an inch has 96.
+// Lengths on forms are twips; this length is a logical pixel, of which an inch has 96.
 inline constexpr Twips kPixel{15};
 
 // A place inside its container, in twips.
@@ -36,7 +36,7 @@ struct Scale {
   [[nodiscard]] QRect pixels(const TwipsRect& design) const;
   // By how much what is given in pixels grows with the fonts.
   [[nodiscard]] double grown() const { return font() * (kPixel / pixel); }
-  // Logical pixels of a font of so many points in the design.
+  // The size in logical pixels of a font whose size in the design is given in points.
   [[nodiscard]] double fontPixels(double points) const {
     return Twips::points(points) * font() / pixel;
   }
@@ -48,7 +48,7 @@ struct Scale {
 // design: a narrower window letterboxes the page. keepsShape: so does a wider one.
 [[nodiscard]] QSize clientPixels(QSize available, QSizeF designTwips, bool keepsShape = false);
 
-// The scale of a client area of so many pixels. A pixel is 15 twips until the area would pass
+// The scale of a client area of that size. A pixel is 15 twips until the area would pass
 // 24,000 twips in height or 32,000 in width; from there it is fewer, so that no length on a form
 // leaves the 16-bit range on a large screen.
 [[nodiscard]] Scale scaleFor(QSize clientPixels, QSizeF designTwips);

@@ -14,7 +14,8 @@ class MenuBar final : public QMenuBar {
 
   // Acts as Alt with the key does: opens the menu, or triggers the item that has none.
   bool accessKey(QChar key);
-  // Gives the bar and its menus the size of writing that belongs to a page of so many pixels.
+  // Gives the bar and its menus the size of writing that belongs to a page of that height, in
+  // pixels.
   void scaleTo(int pageHeight);
 };
 

@@ -17,7 +17,7 @@ APPRODI = {
     "AArch64": (b"\x3f\x23\x03\xd5", b"\x5f\x24\x03\xd5"),
     "Intel 80386": (b"\xf3\x0f\x1e\xfb",),
 }
-# So many stand in what the compiler itself adds to each program, whatever that is made with.
+# The number of those in what the compiler itself adds to each program, whatever that is made with.
 APPRODI_DI_TUTTI = 16
 
 

@@ -21,7 +21,7 @@ int bitPerTutti(const std::array<std::int32_t, N>& valori) {
   return bit;
 }
 
-// How many bits each number of a group takes, in a field of so many bits itself.
+// How many bits each number of a group takes, in a field that has a width of its own.
 void scriviMisura(ScrittoreByte& byte, int bit, int bitDellaMisura) {
   if (bit >= 1 << bitDellaMisura) throw std::out_of_range("a number no movie can hold");
   byte.bit(static_cast<std::uint32_t>(bit), bitDellaMisura);

@@ -24,10 +24,9 @@ class ButtonGroup final : public QObject {
   // asks, before those of the button. Null for nothing.
   void add(Button& button, const Label* heading = nullptr);
 
-  // Enables or disables the first so many of the buttons together: the focus, where one of them
-  // has it, moves once, and assistive technology hears of a button's change when the focus comes to
-  // it. count: from 0; all of them where
-  // there are fewer.
+  // Enables or disables the first `count` buttons together, all of them where there are fewer: the
+  // focus, where one of them has it, moves once, and assistive technology hears of a button's
+  // change when the focus comes to it.
   void setEnabled(int count, bool enabled);
   // Gives the focus to the first button that can take it; nothing happens where none can.
   void focusFirst();

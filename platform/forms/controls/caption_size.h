@@ -27,7 +27,7 @@ class FittedCaption {
   virtual void captionSizeChanged() = 0;
   // Called at another caption, font or room.
   void captionChanged();
-  // The pixel size to set the caption in, of a font of so many pixels.
+  // The pixel size to set the caption in, where its font asks for `pixels`.
   [[nodiscard]] int sharedSize(int pixels) const;
 
  private:
