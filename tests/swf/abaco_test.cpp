@@ -92,6 +92,7 @@ class AbacoTest : public QObject {
       QCOMPARE(prove::spinti(p.azioni),
                (std::vector<std::string>{"FSCommand:", "this", "_name", word.toStdString()}));
       std::vector<int> codici;
+      codici.reserve(p.azioni.size());
       for (const auto& azione : p.azioni) codici.push_back(azione.codice);
       QCOMPARE(codici, (std::vector<int>{0x96, 0x96, 0x1C, 0x96, 0x4E, 0x21, 0x96, 0x9A}));
     }

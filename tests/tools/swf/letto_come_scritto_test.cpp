@@ -25,8 +25,8 @@ std::shared_ptr<const Movie> letto(const FilmatoACaso& scritto, Filmato::Compres
 std::vector<std::pair<QPointF, QPointF>> sfumature(const Movie& filmato) {
   constexpr double kOrlo = 16384;
   std::vector<std::pair<QPointF, QPointF>> esito;
-  for (CharacterId numero = 1; numero <= filmato.characters.size(); ++numero) {
-    const Shape* forma = filmato.character(numero)->as<Shape>();
+  for (std::size_t numero = 1; numero <= filmato.characters.size(); ++numero) {
+    const Shape* forma = filmato.character(CharacterId(numero))->as<Shape>();
     if (forma == nullptr) continue;
     for (const ShapePart& parte : forma->parts) {
       if (parte.paint.kind != Paint::Kind::Gradient) continue;
