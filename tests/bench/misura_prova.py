@@ -212,20 +212,29 @@ class Righe(unittest.TestCase):
 class Riposo(unittest.TestCase):
     """Which forms are watched side by side."""
 
+    def coppie(self, elenco, *scelte):
+        """The pairs of a form and a way of input, from the lines that the bench lists its forms in."""
+        risposta = mock.Mock(stdout=elenco)
+        with mock.patch.object(riposo.subprocess, "run", return_value=risposta):
+            return list(riposo.le_coppie("bench", scelte))
+
     def test_every_form_is_watched_in_each_of_its_ways(self):
-        forme = [f"Form{i}" for i in range(20)] + ["FormLUScansione", "FormLUHK"]
-        giri = list(riposo.giri(forme))
-        self.assertEqual(sorted(coppia for giro in giri for coppia in giro),
-                         sorted((f, modo) for f in forme for modo in riposo.modi(f)))
+        coppie = self.coppie("".join(f"Form{i} 0\n" for i in range(20)) + "FormLUScansione 1 2\nFormLUHK 3\n")
+        self.assertEqual(coppie[-3:], [("FormLUScansione", riposo.MANUALE),
+                                       ("FormLUScansione", riposo.AUTOMATICA), ("FormLUHK", 3)])
+        giri = list(riposo.giri(coppie))
+        self.assertEqual(sorted(coppia for giro in giri for coppia in giro), sorted(coppie))
         self.assertTrue(all(0 < len(giro) <= riposo.CORSIE for giro in giri))
 
     def test_scanning_is_watched_by_hand_and_by_itself(self):
-        self.assertEqual(list(riposo.giri(["FormLUScansione"])),
+        coppie = self.coppie("FormLU 0\nFormLUScansione 1 2\n", "FormLUScansione")
+        self.assertEqual(list(riposo.giri(coppie)),
                          [[("FormLUScansione", riposo.MANUALE)],
                           [("FormLUScansione", riposo.AUTOMATICA)]])
 
     def test_steps_are_not_watched_beside_forms_that_stand_still(self):
-        for giro in riposo.giri(["FormLU", "FormLUScansione", "FormHLUScansione"]):
+        coppie = self.coppie("FormLU 0\nFormLUScansione 1 2\nFormHLUScansione 1 2\n")
+        for giro in riposo.giri(coppie):
             self.assertEqual(len({modo == riposo.AUTOMATICA for _, modo in giro}), 1)
 
 
