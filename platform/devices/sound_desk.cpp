@@ -47,7 +47,7 @@ void SoundDesk::send(std::function<void()> action) {
   const std::lock_guard lock(mutex_);
   messages_.push_back([weak = weak_from_this(), action = std::move(action)] {
     const auto desk = weak.lock();
-    if (desk && !desk->isClosed()) {
+    if (desk && !desk->closed_) {
       action();
     }
   });
@@ -67,11 +67,6 @@ void SoundDesk::bringMessages() {
                                 Qt::QueuedConnection);
     }
   }
-}
-
-bool SoundDesk::isClosed() {
-  const std::lock_guard lock(mutex_);
-  return closed_;
 }
 
 }  // namespace platform::inline devices

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -55,7 +56,6 @@ class SoundDesk : public std::enable_shared_from_this<SoundDesk> {
  private:
   // Has the program's thread do something, unless it goes before.
   void send(std::function<void()> action);
-  [[nodiscard]] bool isClosed();
 
   const std::function<void()> beep_;
   std::mutex mutex_;
@@ -63,7 +63,8 @@ class SoundDesk : public std::enable_shared_from_this<SoundDesk> {
   std::condition_variable sent_;
   std::optional<SoundRequest> request_;
   std::vector<std::function<void()>> messages_;  // on their way to the program
-  bool closed_ = false;
+  // Also read without the lock, so that the program waits for nobody who holds it.
+  std::atomic<bool> closed_ = false;
   bool complained_ = false;  // the thread's own
 };
 
