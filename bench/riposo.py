@@ -138,6 +138,8 @@ def giro(corsie, coppie):
 def tutte(banco, cartella, scelte=()):
     """Every form at rest, or those chosen."""
     previsti = list(giri(list(le_coppie(banco, scelte))))
+    if not previsti:
+        sys.exit(f"at rest: no form is called {' or '.join(scelte)}")
     with contextlib.ExitStack() as aperte:
         corsie = []
         for _ in range(max(len(coppie) for coppie in previsti)):

@@ -14,7 +14,7 @@ namespace platform::inline forms {
 // there is no such folder.
 void addFontsIn(const QString& folder);
 
-// The font of a design row in a size of logical pixels. Tahoma and Arial where they are installed;
+// The font of a design row, its size in logical pixels. Tahoma and Arial where they are installed;
 // else Andika, a face made for young readers, and Liberation Sans, which has Arial's widths.
 [[nodiscard]] QFont fontOf(const FontSpec& spec, double pixels);
 

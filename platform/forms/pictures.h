@@ -35,7 +35,7 @@ class Pictures {
   void paintPart(QPainter& painter, const QString& name, const QString& part, const QRectF& area);
   // The middle of a part that is drawn so.
   [[nodiscard]] QPointF middleOf(const QString& name, const QString& part, const QRectF& area);
-  // The picture in a size of logical pixels.
+  // The picture, its size in logical pixels.
   [[nodiscard]] QPixmap pixmap(const QString& name, QSize size, qreal devicePixelRatio);
   // The picture as the icon of a window, in the sizes that desktops ask for. The same each time:
   // the desktop's own copies of it would else pile up with every form.

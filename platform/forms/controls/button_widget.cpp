@@ -12,6 +12,7 @@
 #include "platform/forms/colors.h"
 #include "platform/forms/controls/button_face.h"
 #include "platform/forms/focus_ring.h"
+#include "platform/forms/keys/key_codes.h"
 #include "platform/forms/pictures.h"
 #include "platform/forms/press_event.h"
 
@@ -23,10 +24,6 @@ constexpr double kSunk = 0.09;           // of the shorter side, on each
 constexpr double kDisabledInk = 0.45;    // of plain buttons
 constexpr double kTriedInk = 0.55;       // of an answer tried in vain
 constexpr double kOverlap = 15.0 / 615;  // of a cell's side, under its neighbours
-
-bool isEnter(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 }  // namespace
 
@@ -105,7 +102,7 @@ void ButtonWidget::letGo() {
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
   // A command has no release.
   const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
-  if (isEnter(*event)) {
+  if (isEnter(event->key())) {
     // Until the release; the click may be the end of this button.
     setHeld(true);
     clicked_();
@@ -119,7 +116,7 @@ void ButtonWidget::keyPressEvent(QKeyEvent* event) {
 
 // Space acts where its release arrives, also when the focus came here after the press.
 void ButtonWidget::keyReleaseEvent(QKeyEvent* event) {
-  if (isEnter(*event)) setHeld(false);
+  if (isEnter(event->key())) setHeld(false);
   if (event->key() != Qt::Key_Space) {
     QWidget::keyReleaseEvent(event);
     return;
