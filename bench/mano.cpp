@@ -27,7 +27,7 @@ std::uint8_t tastoDi(xcb_connection_t* schermo, xcb_keysym_t simbolo) {
   if (mappa == nullptr) throw std::runtime_error("no keyboard");
   const xcb_keysym_t* simboli = xcb_get_keyboard_mapping_keysyms(mappa.get());
   for (int i = 0; i < quanti; ++i) {
-    if (simboli[i * mappa->keysyms_per_keycode] == simbolo) {
+    if (simboli[std::ptrdiff_t{i} * mappa->keysyms_per_keycode] == simbolo) {
       return std::uint8_t(setup->min_keycode + i);
     }
   }

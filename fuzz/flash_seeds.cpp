@@ -25,7 +25,7 @@ void save(const QDir& folder, const QString& name, const QByteArray& bytes) {
   }
 }
 
-QByteArray scripts() {
+QByteArray functions() {
   const QByteArray function = action(0x9B, text("f") + u16(1) + text("a") + u16(5)) + pushText("") +
                               pushNumber(1) + pushNumber(1) + pushText("f") + action(0x3D);
   return doAction(say(pushText("this") + action(0x1C) + pushText("_name") + action(0x4E)) +
@@ -93,7 +93,7 @@ int main(int argc, char* argv[]) {
              2);
   const QByteArray board = clip + place(1, 2, 3, 3, "u1");
   save(folder, QStringLiteral("clip"), file(board + showFrame()));
-  save(folder, QStringLiteral("scripts"), file(board + scripts() + showFrame()));
+  save(folder, QStringLiteral("scripts"), file(board + functions() + showFrame()));
   save(folder, QStringLiteral("button"), file(board + button() + place(3, 3) + showFrame()));
   save(folder, QStringLiteral("handlers"), file(board + handlers() + place(5, 1) + showFrame()));
   save(folder, QStringLiteral("writing"), file(writing() + showFrame()));

@@ -6,8 +6,7 @@
 #include "printing/frm_avvia_stampa.h"
 
 // The design of the print dialog: the sheet at the left, what is chosen and pressed at its right,
-// and below both what only "Avanzate" shows. What belongs to its settings mode lies above 4192
-// twips.
+// and below both what only "Avanzate" shows. The parts of its settings mode lie above 4192 twips.
 namespace somme::inline stampa::disegno_stampa {
 
 using namespace colori;

@@ -13,7 +13,7 @@ namespace somme::inline stampa {
 
 using platform::BoxButtons;
 using platform::BoxIcon;
-using platform::ColourMode;
+using platform::ColorMode;
 using platform::Control;
 using platform::Orientation;
 using platform::plain;
@@ -224,7 +224,7 @@ void frmAvviaStampa::onActivate() {
   PictureAnteprima.setLeft(shpFoglio.left() + pixel);
   PictureAnteprima.setTop(shpFoglio.top() + pixel);
   salvate_ = stampante_.impostazioni();
-  monocromatica_ = salvate_.colour == ColourMode::Monochrome;
+  monocromatica_ = salvate_.color == ColorMode::Monochrome;
   if (EOrientamento(orientamento_)) stampante_.ScriviOrientamento(orientamento_);
   cboPrinterNames.setItems(stampante_.Elenco());
   cboPrinterNames.choose(stampante_.nome());
@@ -276,7 +276,7 @@ void frmAvviaStampa::MostraProprieta() {
 
 void frmAvviaStampa::RiprendiFoglio() {
   foglio_ = stampante_.MisuraFoglio();
-  monocromatica_ = stampante_.impostazioni().colour == ColourMode::Monochrome;
+  monocromatica_ = stampante_.impostazioni().color == ColorMode::Monochrome;
   DisegnaFoglio();
 }
 

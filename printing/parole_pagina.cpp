@@ -15,9 +15,9 @@ platform::PageSetupWords ParolePagina(Ambiente& ambiente) {
           .orientation = parola("Orientamento", QStringLiteral("Orientamento:")),
           .portrait = parola("Verticale", QStringLiteral("Verticale")),
           .landscape = parola("Orizzontale", QStringLiteral("Orizzontale")),
-          .colour = parola("Colore", QStringLiteral("Stampa:")),
-          .inColour = parola("AColori", QStringLiteral("A colori")),
-          .inGrey = parola("InGrigio", QStringLiteral("In grigio")),
+          .color = parola("Colore", QStringLiteral("Stampa:")),
+          .inColor = parola("AColori", QStringLiteral("A colori")),
+          .inGray = parola("InGrigio", QStringLiteral("In grigio")),
           .ok = ParoleMessaggi(ambiente).ok,
           .cancel = parola("Annulla", QStringLiteral("Annulla"))};
 }

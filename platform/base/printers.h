@@ -20,13 +20,13 @@ struct Paper {
 };
 
 enum class Orientation : int { Portrait = 1, Landscape = 2 };
-enum class ColourMode : int { Monochrome = 1, Colour = 2 };
+enum class ColorMode : int { Monochrome = 1, Color = 2 };
 
 // How a printer is to print: what its owner may choose.
 struct PrinterSettings {
   Orientation orientation = Orientation::Portrait;
   Paper paper;
-  ColourMode colour = ColourMode::Colour;
+  ColorMode color = ColorMode::Color;
 
   // Of the sheet as it is held, in millimetres.
   [[nodiscard]] double sheetWidth() const {
@@ -51,7 +51,7 @@ inline constexpr int kDrawingDotsPerInch = 1200;
 // What a printer can do, and how it prints when nobody asks for anything else.
 struct PrinterTraits {
   std::vector<Paper> papers;
-  bool printsColour = true;
+  bool printsColor = true;
   bool takesPages = true;  // false: it cannot be sent pages made by a program
   PageFormat pages = PageFormat::Pdf;
   // A queue feeds its sheets upright: a sheet held across goes there turned on an upright page, so

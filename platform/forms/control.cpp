@@ -123,15 +123,15 @@ void Control::setToolTip(const QString& toolTip) {
   if (widget_) applyLook();
 }
 
-void Control::setBackColor(Rgb colour) {
-  if (back_ == colour) return;
-  back_ = colour;
+void Control::setBackColor(Rgb color) {
+  if (back_ == color) return;
+  back_ = color;
   if (widget_) applyLook();
 }
 
-void Control::setForeColor(Rgb colour) {
-  if (fore_ == colour) return;
-  fore_ = colour;
+void Control::setForeColor(Rgb color) {
+  if (fore_ == color) return;
+  fore_ = color;
   if (widget_) applyLook();
 }
 

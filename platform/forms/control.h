@@ -72,9 +72,9 @@ class Control {
   void setTag(const QString& tag) { tag_ = tag; }
 
   [[nodiscard]] Rgb backColor() const { return back_; }
-  void setBackColor(Rgb colour);
+  void setBackColor(Rgb color);
   [[nodiscard]] Rgb foreColor() const { return fore_; }
-  void setForeColor(Rgb colour);
+  void setForeColor(Rgb color);
   // Points as they stand on the page now, so that a size can be handed from control to control.
   [[nodiscard]] double fontSize() const;
   void setFontSize(double points);

@@ -97,15 +97,15 @@ bool QtPageSetup::choose(const QString& printer, const PrinterTraits& traits,
   QComboBox* papers = addPapers(*form, words.paper, traits, settings.paper, paperName_);
   const Choice direction(*form, words.orientation, {words.portrait, words.landscape},
                          settings.orientation == Orientation::Landscape);
-  Choice colours(*form, words.colour, {words.inColour, words.inGrey},
-                 settings.colour == ColourMode::Monochrome);
-  if (!traits.printsColour) colours.disableFirst();
+  Choice colors(*form, words.color, {words.inColor, words.inGray},
+                settings.color == ColorMode::Monochrome);
+  if (!traits.printsColor) colors.disableFirst();
   addButtons(dialog, *form, words);
   if (dialog.exec() != QDialog::Accepted) return false;
   const int paper = papers->currentIndex();
   if (paper >= 0) settings.paper = traits.papers.at(size_t(paper));
   settings.orientation = direction.isSecond() ? Orientation::Landscape : Orientation::Portrait;
-  settings.colour = colours.isSecond() ? ColourMode::Monochrome : ColourMode::Colour;
+  settings.color = colors.isSecond() ? ColorMode::Monochrome : ColorMode::Color;
   return true;
 }
 

@@ -15,9 +15,9 @@ struct PageSetupWords {
   QString orientation;
   QString portrait;
   QString landscape;
-  QString colour;
-  QString inColour;
-  QString inGrey;
+  QString color;
+  QString inColor;
+  QString inGray;
   QString ok;
   QString cancel;
 };

@@ -18,12 +18,12 @@ constexpr double kLineGap = 0.25;      // between the ink of two lines, of the p
 constexpr double kNextSmaller = 0.92;  // of a size that does not fit
 constexpr qsizetype kLong = 1000;      // characters of a text that is not set in every size in turn
 
-double luminance(const QColor& colour) {
+double luminance(const QColor& color) {
   const auto linear = [](double channel) {
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
   };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
 }
 
 struct Mnemonic {

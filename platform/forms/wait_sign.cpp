@@ -29,10 +29,10 @@ WaitSign::WaitSign(QWidget& over, const QString& words, std::function<void()> sh
   label_->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
   label_->setMargin(label_->font().pixelSize());
   label_->setAutoFillBackground(true);
-  QPalette colours = label_->palette();
-  colours.setColor(QPalette::Window, colors::kYellow);
-  colours.setColor(QPalette::WindowText, Qt::black);
-  label_->setPalette(colours);
+  QPalette colors = label_->palette();
+  colors.setColor(QPalette::Window, colors::kYellow);
+  colors.setColor(QPalette::WindowText, Qt::black);
+  label_->setPalette(colors);
   label_->hide();
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { show(); });
   timer_.setSingleShot(true);

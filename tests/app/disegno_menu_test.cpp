@@ -143,7 +143,7 @@ class DisegnoMenuTest : public QObject {
     QCOMPARE(forma->design().height, 6210.0);
   }
 
-  void thePanelOfTheIntervalIsGreyAndHidden() {
+  void thePanelOfTheIntervalIsGrayAndHidden() {
     const Banco banco({640, 480});
     const auto forma = somme::CreaForma(*banco.ambiente, kFormMenu);
     const Row* pannello = rigaDi(*forma, {kFormMenu, "PictureTempoScansione", -1, ""});

@@ -364,8 +364,8 @@ class ImmaginiTest : public QObject {
     QVERIFY2(differenza >= 0.15, qPrintable(QString::number(differenza)));
   }
 
-  void picturesThatAreMetTogetherDifferInGrey_data() { OgniCoppia(); }
-  void picturesThatAreMetTogetherDifferInGrey() {
+  void picturesThatAreMetTogetherDifferInGray_data() { OgniCoppia(); }
+  void picturesThatAreMetTogetherDifferInGray() {
     QFETCH(QString, prima);
     QFETCH(QString, seconda);
     const double differenza =

@@ -314,7 +314,7 @@ class TastieraNumericaScansioneTest : public QObject {
     QVERIFY(!fondo.tastiera.TimerScansione.isEnabled());
   }
 
-  void theColoursOfTheLightAreTheProperties() {
+  void theColorsOfTheLightAreTheProperties() {
     Fondo fondo;
     fondo.tastiera.ColoreScansione.set(0xFF00);
     fondo.tastiera.ColoreSfondo.set(0xFF0000);

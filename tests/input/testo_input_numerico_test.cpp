@@ -271,7 +271,7 @@ class TestoInputNumericoTest : public QObject {
     QCOMPARE(fondo.controllo.TestoOutput.widget()->objectName(), QStringLiteral("TestoOutput"));
   }
 
-  void aColourThatNoNumberOfThirtyTwoBitsHoldsIsAnOverflow() {
+  void aColorThatNoNumberOfThirtyTwoBitsHoldsIsAnOverflow() {
     Fondo fondo;
     int numero = 0;
     try {

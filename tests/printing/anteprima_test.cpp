@@ -186,7 +186,7 @@ class AnteprimaTest : public QObject {
     QVERIFY(oltre(true, true).size() > 10);
   }
 
-  void onAMonochromePrinterThePreviewTurnsGreyAndThePrintStaysInColour() {
+  void onAMonochromePrinterThePreviewTurnsGrayAndThePrintStaysInColor() {
     DialogoDiProva prova;
     prova.stampante(Grigia(prova::CartaA3()));
     prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {
@@ -197,7 +197,7 @@ class AnteprimaTest : public QObject {
     QVERIFY(haColori(PdfLetto(prova.banco.stampanti.lavori.front().pages).immagine(1, 40)));
   }
 
-  void onAColourPrinterThePreviewIsInColour() {
+  void onAColorPrinterThePreviewIsInColor() {
     DialogoDiProva prova;
     prova.stampante(prova::StampanteDiProva(prova::CartaA3()));
     prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) { QVERIFY(haColori(dipinta(d))); });

@@ -15,8 +15,8 @@ namespace prova {
 // A printer without colours.
 [[nodiscard]] inline platform::PrinterTraits Grigia(const platform::Paper& carta) {
   platform::PrinterTraits stampante = StampanteDiProva(carta);
-  stampante.printsColour = false;
-  stampante.standard.colour = platform::ColourMode::Monochrome;
+  stampante.printsColor = false;
+  stampante.standard.color = platform::ColorMode::Monochrome;
   return stampante;
 }
 

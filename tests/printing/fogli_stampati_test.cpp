@@ -147,8 +147,8 @@ class FogliStampatiTest : public QObject {
     QVERIFY(disegni >= 3);
   }
 
-  void thePlaceValuesHaveTheColoursOfTheirBlocksAndBeads_data() { ogniFoglio(); }
-  void thePlaceValuesHaveTheColoursOfTheirBlocksAndBeads() {
+  void thePlaceValuesHaveTheColorsOfTheirBlocksAndBeads_data() { ogniFoglio(); }
+  void thePlaceValuesHaveTheColorsOfTheirBlocksAndBeads() {
     QFETCH(int, quale);
     const FoglioTasti& foglio = *fogli()[size_t(quale)];
     const std::map<somme::Tasto, QColor> tinte{{somme::Tasto::Migliaia, QColor(181, 123, 238)},

@@ -154,11 +154,11 @@ class FrmAvviaStampaTest : public QObject {
     QVERIFY(prova.visto);
   }
 
-  void proprietaChangesTheSheetAndTheColours() {
+  void proprietaChangesTheSheetAndTheColors() {
     DialogoDiProva prova;
     prova.banco.pagina.risposta = [](platform::PrinterSettings& impostazioni) {
       impostazioni.paper = prova::CartaA3();
-      impostazioni.colour = platform::ColourMode::Monochrome;
+      impostazioni.color = platform::ColorMode::Monochrome;
       return true;
     };
     prova.apri(prova.richiesta(), [&](frmAvviaStampa& d) {

@@ -335,7 +335,7 @@ class MessaggiStampaTest : public QObject {
     QCOMPARE(somme::DimensioneImmagine(3, 1, 64), qint64(0));
   }
 
-  void theGreyOfAPixelIsTheAverageOfItsColoursCutOff() {
+  void theGrayOfAPixelIsTheAverageOfItsColorsCutOff() {
     QImage immagine(1, 1, QImage::Format_RGB32);
     immagine.setPixel(0, 0, qRgb(10, 20, 31));
     QCOMPARE(somme::InGrigio(immagine).pixel(0, 0), qRgb(20, 20, 20));

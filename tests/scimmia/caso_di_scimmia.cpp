@@ -6,7 +6,7 @@ namespace prova {
 
 void Racconto::annota(int profondita, const QString& parole) {
   constexpr int kRighe = 60;
-  righe_.append(QString(2 * profondita, u' ') + parole);
+  righe_.append(QString(qsizetype{2} * profondita, u' ') + parole);
   if (righe_.size() > kRighe) righe_.removeFirst();
   if (subito_) std::fprintf(stderr, "%s\n", qPrintable(righe_.last()));
 }

@@ -99,7 +99,7 @@ class AbacoTest : public QObject {
   }
 
   // A sign would be drawn in lines of its own for each place.
-  void theBeadsDifferByNothingButTheirColours() {
+  void theBeadsDifferByNothingButTheirColors() {
     std::set<std::size_t> misure;
     for (const std::string nome : {"k0", "h0", "da0", "u0", "ka1", "ha1", "daa1", "ua1"}) {
       const int figura = pulsante(nome).aspetti.at(0).carattere;

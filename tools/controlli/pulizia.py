@@ -1,6 +1,5 @@
-"""clang-tidy over the program's files, and over what stands beside it where that has changed. The files of
-the program, and the tests of a folder, are read many at a time, since most of what one takes are the headers
-that all of them include."""
+"""clang-tidy over the program and what stands beside it: tests, tools, benches, fuzz targets. Files are read
+many at a time, since most of what one takes are the headers that all of them include."""
 
 import concurrent.futures
 import math
@@ -30,13 +29,13 @@ def cambiati():
                              capture_output=True, text=True, check=False).stdout.splitlines()
     nuovi = subprocess.run(["git", "ls-files", "--others", "--exclude-standard"],
                            capture_output=True, text=True, check=False).stdout.splitlines()
-    accanto = {f for f in sorgenti.cpp() if f.startswith(_ACCANTO) and "/windows/" not in f}
-    return sorted({*diversi, *nuovi} & {*da_leggere(), *accanto})
+    return sorted({*diversi, *nuovi} & {*da_leggere()})
 
 
 def da_leggere():
-    """The program's files that can be read here: those of another system include headers of its own."""
-    return tuple(f for f in sorgenti.prodotto() if "/windows/" not in f)
+    """The files that can be read here: those of another system include headers of its own."""
+    return tuple(f for f in sorgenti.cpp()
+                 if (sorgenti.stanza(f) or f.startswith(_ACCANTO)) and "/windows/" not in f)
 
 
 # What stands at the beginning of a line is seen in the whole file: the names by which functions, types
@@ -51,10 +50,12 @@ def nomi_propri(file):
 
 
 def _insieme(percorso):
-    """What a file may be read together with: the program, for tests their folder, else nothing."""
-    if sorgenti.stanza(percorso):
-        return ""
-    return percorso.rpartition("/")[0] if percorso.endswith("_test.cpp") else percorso
+    """What a file may be read together with: the program, tests, or what else stands beside it."""
+    return sorgenti.stanza(percorso) is None, _e_prova(percorso)
+
+
+def _e_prova(percorso):
+    return sorgenti.stanza(percorso) is None and percorso.endswith("_test.cpp")
 
 
 def _dal_basso(percorso):
@@ -64,24 +65,42 @@ def _dal_basso(percorso):
     return sorgenti.piano(stanza) if stanza else 0, percorso.endswith(".cpp"), percorso
 
 
+def _cartella(percorso):
+    return percorso.rpartition("/")[0]
+
+
+def _nomi(percorso):
+    """What a source has for itself: name and owner. Where another owner has it too, they are read apart."""
+    if not _e_prova(percorso):
+        # Each program has a main, a name of two rooms is to each its own.
+        stanza = sorgenti.stanza(percorso)
+        return {((stanza, nome), percorso) for nome in nomi_propri(percorso) - ({"main"} if not stanza else set())}
+    # A file of tests has a namespace of its own, and shares what the headers beside it define.
+    cartella = _cartella(percorso)
+    return {(percorso.rpartition("/")[2], percorso),
+            *((nome, cartella) for f in sorgenti.cpp() if f.endswith(".h") and _cartella(f) == cartella
+              for nome in nomi_propri(f))}
+
+
 def _spartiti(file):
-    """Files that may be read together, in groups of one size. Two of a room go into two of them where both
-    define a name; a name of two rooms is to each its own. Headers go into the first."""
+    """Files that may be read together, in groups of one size: those of a folder, which include much alike, in
+    the same. A header goes where a source of its folder is, else into the first."""
     fonti = sorted(f for f in file if f.endswith(".cpp"))
-    posti = [([], set()) for _ in range(max(1, math.ceil(len(fonti) / _INSIEME)))]
+    quanti = max(1, math.ceil(len(fonti) / _INSIEME))
+    posti = [([], {}) for _ in range(quanti)]
     for percorso in fonti:
-        # Each file of tests has a namespace of its own.
-        nomi = {(sorgenti.stanza(percorso), nome)
-                for nome in nomi_propri(percorso) if not percorso.endswith("_test.cpp")}
-        liberi = [posto for posto in posti if not nomi & posto[1]]
+        nomi = _nomi(percorso)
+        liberi = [posto for posto in posti if all(posto[1].get(nome, di) == di for nome, di in nomi)]
         if not liberi:
-            liberi.append(([], set()))
+            liberi.append(([], {}))
             posti += liberi
-        gruppo, visti = min(liberi, key=lambda posto: len(posto[0]))
+        gruppo, visti = next((posto for posto in liberi if len(posto[0]) < len(fonti) / quanti), liberi[-1])
         gruppo.append(percorso)
-        visti |= nomi
-    posti[0][0].extend(f for f in file if not f.endswith(".cpp"))
-    return [sorted(gruppo, key=_dal_basso) for gruppo, _ in posti]
+        visti.update(nomi)
+    for percorso in (f for f in file if not f.endswith(".cpp")):
+        vicini = (g for g, _ in posti if _cartella(percorso) in map(_cartella, g))
+        next(vicini, posti[0][0]).append(percorso)
+    return [sorted(gruppo, key=_dal_basso) for gruppo, _ in posti if gruppo]
 
 
 def gruppi(file):
@@ -101,12 +120,14 @@ def _opzioni(file, cartella):
                            check=False)
     if esito.returncode:
         return None
-    opzioni = ["-std=c++20", "-fPIC", f"-I{os.getcwd()}",
+    opzioni = ["-std=c++20", "-fPIC", "-DQT_NO_KEYWORDS", f"-I{os.getcwd()}",
                *(re.sub("^-I", "-isystem", opzione) for opzione in esito.stdout.split())]
     if accanto:
-        # What a folder of tests does in a way of each system lies below it.
-        sistemi = {f"{os.path.dirname(os.path.abspath(f))}/linux" for f in accanto}
-        opzioni += [f"-I{os.path.abspath('tests')}", f"-I{cartella}", *(f"-I{s}" for s in sorted(sistemi)),
+        # What a folder of tests does in a way of each system lies below it; what several use, above it.
+        qui = {_cartella(f) for f in accanto}
+        sopra = {_cartella(c) for c in qui} - {""}
+        opzioni += [f"-I{os.path.abspath('tests')}", f"-I{cartella}",
+                    *(f"-I{os.path.abspath(c)}" for c in sorted({*sopra, *(f"{c}/linux" for c in qui)})),
                     *(f'-D{nome}=""' for nome in _nomi_del_build())]
     for moc in {m for f in accanto for m in re.findall(r'#include "(\w+\.moc)"', sorgenti.testo(f))}:
         with open(os.path.join(cartella, moc), "w", encoding="utf-8"):
@@ -124,17 +145,29 @@ def _nomi_del_build():
 _DETTO = re.compile(r"^(?P<file>/[^:\n]+):(?P<riga>\d+):\d+: (?:error|warning): (?P<che>.*)$", re.M)
 
 
+def _incluso(numero, percorso):
+    """The lines by which a file is read beside others: a function main, still called so, in a namespace of its
+    own."""
+    riga = f'#include "{percorso}"'
+    if sorgenti.stanza(percorso) or "main" not in nomi_propri(percorso):
+        return [riga]
+    return [f"namespace programma{numero} {{ int main(); int main(int, char**); }}",
+            f"#define main programma{numero}::main", riga, "#undef main"]
+
+
 def _letto(gruppo, filtro, opzioni, cartella):
     """What clang-tidy says of files that are read together, and of what else the filter names of all that
     they include: (file, line, words)."""
+    righe = [(riga, f) for numero, f in enumerate(gruppo) for riga in _incluso(numero, f)]
     with tempfile.NamedTemporaryFile("w", suffix=".cpp", dir=cartella) as insieme:
-        insieme.write("".join(f'#include "{f}"\n' for f in gruppo))
+        insieme.writelines(f"{riga}\n" for riga, _ in righe)
         insieme.flush()
         esito = subprocess.run(
             [PROGRAMMA, "--quiet", "--config-file=.clang-tidy", f"--header-filter={filtro}",
              insieme.name, "--", *opzioni], capture_output=True, text=True, check=False)
-    detti = {(os.path.relpath(d["file"]), int(d["riga"]), d["che"])
-             for d in _DETTO.finditer(esito.stdout)}
+        detti = {(righe[int(d["riga"]) - 1][1], 1, d["che"]) if os.path.samefile(d["file"], insieme.name)
+                 else (os.path.relpath(d["file"]), int(d["riga"]), d["che"])
+                 for d in _DETTO.finditer(esito.stdout)}
     if esito.returncode and not detti:
         detti.add((gruppo[0], 1, f"{PROGRAMMA} failed: {esito.stderr.strip()[-300:]}"))
     return detti
@@ -146,11 +179,12 @@ def _letti(gruppo, filtro, opzioni, cartella):
     rotti = {f for f, _, che in detti if che.endswith("[clang-diagnostic-error]")}
     if not rotti or len(gruppo) == 1:
         return detti
-    # A name may come in the way of what a file includes, too: then nobody knows whose it is.
-    soli = rotti & set(gruppo) or set(gruppo)
-    altri = [f for f in gruppo if f not in soli]
-    return set().union(*(_letti(g, filtro, opzioni, cartella)
-                         for g in (altri, *([f] for f in sorted(soli))) if g))
+    if soli := rotti & set(gruppo):
+        parti = [[f for f in gruppo if f not in soli], *([f] for f in sorted(soli))]
+    else:
+        # A name may come in the way of what a file includes, too: then nobody knows whose it is.
+        parti = [gruppo[:len(gruppo) // 2], gruppo[len(gruppo) // 2:]]
+    return set().union(*(_letti(parte, filtro, opzioni, cartella) for parte in parti if parte))
 
 
 def guasti(file):

@@ -23,6 +23,7 @@ _REGOLE = (
     ("colours have names", testo.colori),
     ("one kind of comment", stile.tre_sbarre),
     ("bodies stand in braces", stile.corpi_senza_graffe),
+    ("names say color and gray", stile.nomi_britannici),
     ("titles of commits", lambda: testo.titoli(_TITOLI_DA)),
     ("words", testo.parole),
 )

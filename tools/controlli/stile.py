@@ -42,3 +42,15 @@ def corpi_senza_graffe():
         for posto in sorted(posti):
             riga = codice.count("\n", 0, posto) + 1
             yield f"{file}:{riga}: a body on a line of its own stands in braces"
+
+
+_GRAFIA = re.compile(r"\b\w*(?:colour|grey)\w*", re.I)
+
+
+def nomi_britannici():
+    """Names in British spelling."""
+    for file in sorgenti.cpp():
+        codice = sorgenti.codice(file)
+        for nome in _GRAFIA.finditer(codice):
+            riga = codice.count("\n", 0, nome.start()) + 1
+            yield f"{file}:{riga}: {nome[0]}: names say color and gray"

@@ -140,7 +140,7 @@ std::optional<Copione> leggiCopione(const QByteArray& json, QString& errore) {
     return std::nullopt;
   }
   Copione copione;
-  for (const QJsonValue& valore : documento.array()) {
+  for (const auto& valore : documento.array()) {
     const auto passo = leggiPasso(valore.toObject(), errore);
     if (!passo) {
       errore = QStringLiteral("step %1: %2").arg(copione.size()).arg(errore);

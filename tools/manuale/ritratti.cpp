@@ -41,7 +41,7 @@ bool Salva(const QImage& ritratto, const QDir& cartella, const QString& nome) {
   return false;
 }
 
-bool Scene(const QDir& cartella, const QString& lingua, QSize lato) {
+bool Vignette(const QDir& cartella, const QString& lingua, QSize lato) {
   for (const manuale::Scena& scena : manuale::Scene()) {
     prova::Banco banco(lato);
     ScegliLingua(banco, lingua);
@@ -120,7 +120,13 @@ int main(int argc, char* argv[]) {
   cartella.mkpath(QStringLiteral("."));
   const auto in = [&](auto serie, QSize lato) { return serie(cartella, argomenti[2], lato); };
   const QSize lato = tutte ? QSize(misure[0].toInt(), misure[1].toInt()) : kFinestra;
-  const bool fatto = film ? Film(cartella, argomenti[2])
-                          : (!tutte || (in(Forme, lato) && in(Risposte, lato))) && in(Scene, lato);
-  return fatto ? 0 : 1;
+  try {
+    const bool fatto =
+        film ? Film(cartella, argomenti[2])
+             : (!tutte || (in(Forme, lato) && in(Risposte, lato))) && in(Vignette, lato);
+    return fatto ? 0 : 1;
+  } catch (const std::exception& errore) {
+    std::fprintf(stderr, "ritratti: %s\n", errore.what());
+    return 1;
+  }
 }

@@ -21,7 +21,8 @@ QString InUnaParola(Tavoletta::Stato stato) {
 
 }  // namespace
 
-Suggeritore::Suggeritore(Tavoletta& tavoletta, std::function<void(const QString& riga)> racconta,
+Suggeritore::Suggeritore(Tavoletta& tavoletta,
+                         const std::function<void(const QString& riga)>& racconta,
                          std::function<void()> fine)
     : tavoletta_(tavoletta), fine_(std::move(fine)) {
   QObject::connect(&tavoletta_, &Tavoletta::cambiata, &tavoletta_,

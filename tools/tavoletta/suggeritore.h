@@ -23,7 +23,7 @@ namespace somme::tavoletta {
 class Suggeritore {
  public:
   // racconta: gets each line that tells what happens. fine: the script is over.
-  Suggeritore(Tavoletta& tavoletta, std::function<void(const QString& riga)> racconta,
+  Suggeritore(Tavoletta& tavoletta, const std::function<void(const QString& riga)>& racconta,
               std::function<void()> fine);
 
   // Does one line; false where it makes no sense, and then nothing is done.

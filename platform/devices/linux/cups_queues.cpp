@@ -172,11 +172,11 @@ Printers::Opened CupsQueues::open(const QString& name) const {
   if (traits.papers.empty() && paper) traits.papers.push_back(*paper);
   if (traits.papers.empty()) return refused;
   traits.standard.paper = paper.value_or(usualOf(traits.papers));
-  traits.printsColour = queue.supports("print-color-mode", "color", false);
+  traits.printsColor = queue.supports("print-color-mode", "color", false);
   traits.takesPages = queue.supports("document-format", "application/pdf", true);
   traits.feedsUpright = true;
-  const bool grey = !traits.printsColour || queue.standard("print-color-mode") == "monochrome";
-  traits.standard.colour = grey ? ColourMode::Monochrome : ColourMode::Colour;
+  const bool gray = !traits.printsColor || queue.standard("print-color-mode") == "monochrome";
+  traits.standard.color = gray ? ColorMode::Monochrome : ColorMode::Color;
   const int turned = queue.standard("orientation-requested").toInt();
   if (turned == kLandscape || turned == kReverseLandscape) {
     traits.standard.orientation = Orientation::Landscape;
@@ -220,7 +220,7 @@ PrintResult CupsQueues::print(const PrintJob& job, const std::function<bool()>& 
   // whatever the queue does by default.
   add("print-scaling", "none");
   add("orientation-requested", "3");
-  add("print-color-mode", job.settings.colour == ColourMode::Monochrome ? "monochrome" : "color");
+  add("print-color-mode", job.settings.color == ColorMode::Monochrome ? "monochrome" : "color");
   PrintResult result;
   const bool created = cups_.createDestJob(CUPS_HTTP_DEFAULT, queue.dest(), queue.info(),
                                            &result.job, job.title.toUtf8().constData(), count,

@@ -122,8 +122,8 @@ const Paper& usualOf(const std::vector<Paper>& papers, int code) {
 bool setUp(QPrinter& printer, const PrinterSettings& settings) {
   const Paper& paper = settings.paper;
   printer.setFullPage(true);
-  printer.setColorMode(settings.colour == ColourMode::Monochrome ? QPrinter::GrayScale
-                                                                 : QPrinter::Color);
+  printer.setColorMode(settings.color == ColorMode::Monochrome ? QPrinter::GrayScale
+                                                               : QPrinter::Color);
   return printer.setPageSize(QPageSize(QSizeF(paper.width, paper.height), QPageSize::Millimeter,
                                        paper.media, QPageSize::FuzzyMatch)) &&
          printer.setPageOrientation(settings.orientation == Orientation::Landscape
@@ -191,10 +191,10 @@ Printers::Opened PrinterQueues::open(const QString& name) const {
   const DEVMODEW& settings = *printer.settings();
   traits.pages = PageFormat::Drawing;
   traits.standard.paper = usualOf(traits.papers, settings.dmPaperSize);
-  traits.printsColour = printer.capability(DC_COLORDEVICE) == 1;
-  const bool grey = !traits.printsColour ||
+  traits.printsColor = printer.capability(DC_COLORDEVICE) == 1;
+  const bool gray = !traits.printsColor ||
                     ((settings.dmFields & DM_COLOR) != 0 && settings.dmColor == DMCOLOR_MONOCHROME);
-  traits.standard.colour = grey ? ColourMode::Monochrome : ColourMode::Colour;
+  traits.standard.color = gray ? ColorMode::Monochrome : ColorMode::Color;
   if (settings.dmOrientation == DMORIENT_LANDSCAPE) {
     traits.standard.orientation = Orientation::Landscape;
   }

@@ -75,8 +75,8 @@ void Button::keysLetGo() {
 void Button::applyLook() {
   auto* button = static_cast<ButtonWidget*>(widget());
   button->setFont(fontOf(fontSpec(), fontPixels()));
-  button->setColours(toColor(foreColor()),
-                     look().back ? std::optional(toColor(backColor())) : std::nullopt);
+  button->setColors(toColor(foreColor()),
+                    look().back ? std::optional(toColor(backColor())) : std::nullopt);
   button->setToolTip(toolTip());
   const QString words = withoutMnemonic(caption_).trimmed();
   const QString& wordless = toolTip().isEmpty() ? spokenName_ : toolTip();

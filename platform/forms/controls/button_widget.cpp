@@ -65,7 +65,7 @@ void ButtonWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) captionChanged();
 }
 
-void ButtonWidget::setColours(QColor ink, std::optional<QColor> ground) {
+void ButtonWidget::setColors(QColor ink, std::optional<QColor> ground) {
   ink_ = ink;
   ground_ = ground;
   update();

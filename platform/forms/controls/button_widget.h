@@ -26,7 +26,7 @@ class ButtonWidget final : public QAbstractButton, public FittedCaption {
   void setCaption(const QString& caption);
   void setPicture(const QString& name) { picture_ = name; }
   // ground: the colour of the face; without one the button is plain.
-  void setColours(QColor ink, std::optional<QColor> ground);
+  void setColors(QColor ink, std::optional<QColor> ground);
   [[nodiscard]] int fittedCaption() override;
   // Holds until the button is enabled again.
   void setMark(AnswerMark mark);

@@ -44,9 +44,9 @@ void Label::setVisible(bool visible) {
 void Label::applyLook() {
   auto* label = static_cast<LabelWidget*>(widget());
   label->setFont(fontOf(fontSpec(), fontPixels()));
-  label->setColours(toColor(foreColor()),
-                    look().back ? std::optional(toColor(backColor())) : std::nullopt,
-                    toColor(home().design().back));
+  label->setColors(toColor(foreColor()),
+                   look().back ? std::optional(toColor(backColor())) : std::nullopt,
+                   toColor(home().design().back));
   label->setToolTip(toolTip());
   const QString words = (look().mnemonic ? withoutMnemonic(caption()) : caption()).trimmed();
   const QString shown = toolTip().isEmpty() || words.isEmpty()

@@ -29,7 +29,7 @@ void LabelWidget::setWords(const QString& words) {
   captionChanged();
 }
 
-void LabelWidget::setColours(QColor ink, std::optional<QColor> ground, QColor behind) {
+void LabelWidget::setColors(QColor ink, std::optional<QColor> ground, QColor behind) {
   ink_ = ink;
   ground_ = ground;
   behind_ = behind;

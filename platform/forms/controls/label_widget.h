@@ -18,7 +18,7 @@ class LabelWidget final : public QLabel, public FittedCaption {
 
   void setWords(const QString& words);
   // behind: what shows where there is no ground.
-  void setColours(QColor ink, std::optional<QColor> ground, QColor behind);
+  void setColors(QColor ink, std::optional<QColor> ground, QColor behind);
   // strength: of the light that it stands in, 0 for none to 1.
   void setGlow(double strength);
   [[nodiscard]] int fittedCaption() override;

@@ -22,7 +22,7 @@ class ShapeWidget final : public QWidget {
     update();
   }
 
-  void setColours(const QColor& ink, std::optional<QColor> ground) {
+  void setColors(const QColor& ink, std::optional<QColor> ground) {
     ink_ = ink;
     ground_ = ground;
     update();
@@ -67,7 +67,7 @@ void Shape::placeChanged() {
 }
 
 void Shape::applyLook() {
-  static_cast<ShapeWidget*>(widget())->setColours(
+  static_cast<ShapeWidget*>(widget())->setColors(
       toColor(foreColor()), look().back ? std::optional(toColor(backColor())) : std::nullopt);
 }
 

@@ -37,10 +37,10 @@ void TextBoxWidget::setLook(const QFont& font, Align align, const QColor& ink,
                                : align == Align::Right ? Qt::AlignRight
                                                        : Qt::AlignLeft;
   setAlignment(across | Qt::AlignVCenter);
-  QPalette colours = palette();
-  colours.setColor(QPalette::Base, ground);
-  colours.setColor(QPalette::Text, ink);
-  if (colours != palette()) setPalette(colours);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Base, ground);
+  colors.setColor(QPalette::Text, ink);
+  if (colors != palette()) setPalette(colors);
   fitFont();
   update();
 }

@@ -120,7 +120,7 @@ class FormaBarrePulsantiTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
-  void theFirstAddendIsAskedInTheColourOfItsBar() {
+  void theFirstAddendIsAskedInTheColorOfItsBar() {
     Banco banco;
     FormaBarrePulsanti& forma = apriBarre10(banco, 7, 3);
     chiediAddendo(banco, forma, 1);

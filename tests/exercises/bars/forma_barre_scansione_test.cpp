@@ -222,7 +222,7 @@ class FormaBarreScansioneTest : public QObject {
     QVERIFY(!forma.Line1->isVisible());
   }
 
-  void upTo10TheBoxTakesTheColourOfWhatIsAskedFor() {
+  void upTo10TheBoxTakesTheColorOfWhatIsAskedFor() {
     Banco banco;
     FormaBarreScansione& forma = apri(banco, 10, 7, 3);
     QVERIFY(forma.TestoInput.foreColor() == kRosso);
@@ -259,7 +259,7 @@ class FormaBarreScansioneTest : public QObject {
     QCOMPARE(banco.ambiente->stato.ContaEsatti, qint16(1));
   }
 
-  void upTo20TheFirstCaseTakesTheColourOfTheActivation() {
+  void upTo20TheFirstCaseTakesTheColorOfTheActivation() {
     Banco banco;
     FormaBarreScansione& forma = apri(banco, 20, 17, 3);
     banco.ambiente->stato.TipoEsercizio = 2;

@@ -308,7 +308,7 @@ class FormaBarreTastieraTest : public QObject {
     QCOMPARE(forma.n1.caption(), QStringLiteral(" 2"));
   }
 
-  void theFaintColoursOfTheAnswerAreOutlined() {
+  void theFaintColorsOfTheAnswerAreOutlined() {
     Banco banco;
     FormaBarreTastiera& forma = apri(banco, 17, 9);
     chiediAddendo(banco, forma, 1, 15, 8);

@@ -139,7 +139,7 @@ class AspettoTavoleTest : public QObject {
     }
   }
 
-  void blocksHaveTheColoursAndTheOutlineOfThePictures() {
+  void blocksHaveTheColorsAndTheOutlineOfThePictures() {
     Banco banco({1366, 768});
     auto& forma = apriHLU(banco);
     costruisci(banco, forma, 111);

@@ -57,7 +57,7 @@ class FormDiProva final : public somme::FormaEsercizio {
 };
 
 inline constexpr auto kRighe = std::to_array<platform::Row>({
-    somme::disegno::Connessione<FormDiProva>(),
+    somme::nucleo::disegno::Connessione<FormDiProva>(),
     platform::item<&FormDiProva::mnuStampaHK>({.caption = "Foglio"}),
     platform::item<&FormDiProva::mnuEsci>({.caption = "Esci"}),
 });

@@ -162,8 +162,8 @@ class AspettoTabellaTest : public QObject {
     }
   }
 
-  void aJudgedCellBearsAMarkThatStandsOutOfItsColour_data() { finestre(); }
-  void aJudgedCellBearsAMarkThatStandsOutOfItsColour() {
+  void aJudgedCellBearsAMarkThatStandsOutOfItsColor_data() { finestre(); }
+  void aJudgedCellBearsAMarkThatStandsOutOfItsColor() {
     QFETCH(QSize, lato);
     Banco banco(lato);
     FormTabella& forma = apri(banco, 46);

@@ -220,14 +220,14 @@ class PdfFolderTest : public QObject {
     QCOMPARE(filesIn(folder.path()).size(), 1);
   }
 
-  void itTakesA4AndA3InColourAndStartsWithA4() {
+  void itTakesA4AndA3InColorAndStartsWithA4() {
     const platform::PrinterTraits traits = PdfFolder::traits();
     QCOMPARE(traits.papers.size(), size_t(2));
     QCOMPARE(traits.papers[0].code, 9);
     QCOMPARE(traits.papers[1].code, 8);
     QCOMPARE(traits.standard.paper, traits.papers[0]);
-    QCOMPARE(traits.standard.colour, platform::ColourMode::Colour);
-    QVERIFY(traits.printsColour && traits.takesPages && !traits.feedsUpright);
+    QCOMPARE(traits.standard.color, platform::ColorMode::Color);
+    QVERIFY(traits.printsColor && traits.takesPages && !traits.feedsUpright);
   }
 };
 

@@ -201,7 +201,7 @@ class SystemPrintersTest : public QObject {
     QCOMPARE(machine.printers.list().names, QStringList{QStringLiteral("PDF (file)")});
   }
 
-  void aQueueTellsItsPapersAndColours() {
+  void aQueueTellsItsPapersAndColors() {
     PrintServer server;
     QVERIFY2(server.problem().isEmpty(), qPrintable(server.problem()));
     QVERIFY(server.addQueue(kQueue));
@@ -214,7 +214,7 @@ class SystemPrintersTest : public QObject {
     QVERIFY(std::abs(traits.standard.paper.height - 297) < 0.2);
     QVERIFY(std::any_of(traits.papers.begin(), traits.papers.end(),
                         [](const auto& paper) { return paper.code == platform::kPaperA3; }));
-    QVERIFY(traits.printsColour);
+    QVERIFY(traits.printsColor);
     QVERIFY(traits.takesPages);
     QVERIFY(traits.feedsUpright);
     QVERIFY(traits.standard.orientation == platform::Orientation::Portrait);

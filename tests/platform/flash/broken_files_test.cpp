@@ -65,7 +65,7 @@ QByteArray wildShape(int edges) {
 // Adds many curves to and fro.
 void addCurves(Bits& records, int curves) {
   for (int i = 0; i < curves; ++i) {
-    const int sign = i % 2 == 0 ? 1 : -1;
+    const std::int64_t sign = i % 2 == 0 ? 1 : -1;
     records.raw("1 0 1111")
         .number(17, sign * 3000)
         .number(17, sign * 900)

@@ -131,7 +131,7 @@ class ByteReaderTest : public QObject {
     QCOMPARE(m.dy(), -8.0);
   }
 
-  void aColourTransformHoldsFactorsThenSummands() {
+  void aColorTransformHoldsFactorsThenSummands() {
     // Both present, 10 bits, three channels: factors 256, 128, 0; summands 1, -1, 255.
     const QByteArray bytes = hand_made::Bits()
                                  .raw("1 1 1010 0100000000 0010000000 0000000000")

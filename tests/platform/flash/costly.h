@@ -174,7 +174,7 @@ inline QByteArray longNames() {
 }
 
 // A button of many records, recoloured again and again.
-inline QByteArray buttonsRecoloured() {
+inline QByteArray buttonsRecolored() {
   const QByteArray record = u8(1) + u16(1) + u16(1) + u8(0);
   const QByteArray button = tag(7, u16(2) + repeated(record, 60'000) + u8(0));
   return packed(header() + square(1, 10, 0) + button +
@@ -197,7 +197,7 @@ inline QByteArray longGlyphWritten() {
   }
   glyph.raw("000000");
   const QByteArray font = tag(48, u16(1) + u8(0) + u8(0) + u8(0) + u16(1) + u16(2) + glyph.bytes());
-  const QByteArray record = u8(0x88) + u16(1) + u16(400) + u8(255) + QByteArray(255 * 2, '\0');
+  const QByteArray record = u8(0x88) + u16(1) + u16(400) + u8(255) + QByteArray(510, '\0');
   const QByteArray writing = tag(11, u16(2) + rect(0, 100, 0, 100) + shift(0, 0) + u8(8) + u8(8) +
                                          repeated(record, 200) + u8(0));
   return file(font + writing + place(1, 2) + showFrame());
@@ -278,7 +278,7 @@ inline QByteArray curvesUnderTheMouse() {
   Bits records;
   records.raw("0001 0000  0 00101 00001 0 0 1");
   for (int i = 0; i < 20'000; ++i) {
-    const int sign = i % 2 == 0 ? 1 : -1;
+    const std::int64_t sign = i % 2 == 0 ? 1 : -1;
     records.raw("1 0 1111")
         .number(17, sign * 60'000)
         .number(17, sign * 30'000)
@@ -335,7 +335,7 @@ inline std::vector<Movie> movies() {
       {"masks in one another", masksInOneAnother()},
       {"changing clips", changingClips(64)},
       {"long names", longNames()},
-      {"buttons recoloured", buttonsRecoloured()},
+      {"buttons recoloured", buttonsRecolored()},
       {"fonts that cannot be read", fontsThatCannotBeRead()},
       {"a long glyph written", longGlyphWritten()},
       {"transparent parts", transparentParts()},

@@ -12,7 +12,7 @@ class PaintedSceneTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void colourTransformsMultiplyThenAddAndClampChildBeforeParent() {
+  void colorTransformsMultiplyThenAddAndClampChildBeforeParent() {
     // Inner: red * 0.5 + 100; outer: green + 300 (clamped), blue * 0.
     const QByteArray inner = Bits()
                                  .raw("1 1 1011")
@@ -45,7 +45,7 @@ class PaintedSceneTest : public QObject {
     COMPARE_COLOR(picture(tags), 5, 5, qRgb(100, 255, 0));
   }
 
-  void theFirstPlaceObjectKnowsMatrixAndColoursWithoutAlpha() {
+  void theFirstPlaceObjectKnowsMatrixAndColorsWithoutAlpha() {
     const QByteArray halfRed =
         Bits().raw("0 1 1010").number(10, 128).number(10, 256).number(10, 256).bytes();
     const QImage image = picture(square(1, 5, 0xFFFFFF) +

@@ -112,7 +112,7 @@ class PointerTest : public QObject {
     QCOMPARE(movie.colorAt(10, 10), 0xFFFF0000);
   }
 
-  void recordsOfTheSecondButtonHaveColours() {
+  void recordsOfTheSecondButtonHaveColors() {
     const QByteArray dark = Bits()
                                 .raw("0 1 1010")
                                 .number(10, 128)
@@ -126,7 +126,7 @@ class PointerTest : public QObject {
     QCOMPARE(movie.colorAt(10, 10), 0xFF80FFFF);
   }
 
-  void defineButtonCxformColoursTheFirstButton() {
+  void defineButtonCxformColorsTheFirstButton() {
     const QByteArray noRed =
         Bits().raw("0 1 1010").number(10, 0).number(10, 256).number(10, 256).bytes();
     Running movie(square(1, 20, 0xFFFFFF) + tag(7, u16(5) + record(1, 1, false) + u8(0) + u8(0)) +

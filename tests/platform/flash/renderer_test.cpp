@@ -12,7 +12,7 @@ class RendererTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void theGroundHasTheMoviesBackgroundColour() {
+  void theGroundHasTheMoviesBackgroundColor() {
     const QImage image = picture(tag(9, u8(10) + u8(20) + u8(30)) + showFrame());
     QCOMPARE(image.pixel(0, 0), qRgb(10, 20, 30));
     QCOMPARE(picture(showFrame()).pixel(5, 5), kWhite);
@@ -132,8 +132,8 @@ class RendererTest : public QObject {
     const QImage image = picture(shown(shape(2, u8(1) + fill + u8(0), records)));
     // The middle of pixel x lies at (x + 0.5) / 20 of the way.
     for (int x = 0; x < 20; ++x) {
-      const int grey = qRound((x + 0.5) / 20 * 255);
-      QVERIFY(isNear(image.pixel(x, 7), qRgb(grey, grey, grey), 2));
+      const int gray = qRound((x + 0.5) / 20 * 255);
+      QVERIFY(isNear(image.pixel(x, 7), qRgb(gray, gray, gray), 2));
     }
   }
 
@@ -146,8 +146,8 @@ class RendererTest : public QObject {
                             u8(255) + solid(0xFFFFFF).mid(1);
     const QImage image = picture(shown(shape(2, u8(1) + fill + u8(0), records)));
     // 5.5 pixels to the left and half a pixel up from the centre, of 10 pixels.
-    const int grey = qRound(std::hypot(5.5, 0.5) / 10 * 255);
-    QVERIFY(isNear(image.pixel(4, 9), qRgb(grey, grey, grey), 2));
+    const int gray = qRound(std::hypot(5.5, 0.5) / 10 * 255);
+    QVERIFY(isNear(image.pixel(4, 9), qRgb(gray, gray, gray), 2));
     QCOMPARE(image.pixel(0, 0), kWhite);  // the end goes on
   }
 
@@ -216,7 +216,7 @@ class RendererTest : public QObject {
             2 * 255 + 4);
   }
 
-  void transparentColoursLetTheGroundThrough() {
+  void transparentColorsLetTheGroundThrough() {
     // DefineShape3: half transparent blue.
     Bits records;
     records.raw("0010 0001");

@@ -48,7 +48,7 @@ class MovieFolder {
  public:
   // Writes a movie, gives its path.
   QString saved(const QByteArray& bytes) {
-    const QString path = folder_.filePath(QStringLiteral("%1.swf").arg(++count_));
+    QString path = folder_.filePath(QStringLiteral("%1.swf").arg(++count_));
     QFile out(path);
     if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size()) {
       qFatal("cannot write the movie");

@@ -32,7 +32,7 @@ class AppearanceTest : public QObject {
 
  private Q_SLOTS:
   // What is left open the desktop fills in, also later, when its colours change.
-  void noColourIsLeftToTheDesktop() {
+  void noColorIsLeftToTheDesktop() {
     platform::applyAppearance();
     const QPalette palette = QApplication::palette();
     forEachColor([&palette](QPalette::ColorGroup group, QPalette::ColorRole role) {
@@ -40,13 +40,13 @@ class AppearanceTest : public QObject {
     });
   }
 
-  void aDarkDesktopOrOneOfHighContrastChangesNoColour_data() {
+  void aDarkDesktopOrOneOfHighContrastChangesNoColor_data() {
     QTest::addColumn<QColor>("ground");
     QTest::addColumn<QColor>("letters");
     QTest::newRow("dark") << QColor(35, 38, 41) << QColor(239, 240, 241);
     QTest::newRow("high contrast") << QColor(Qt::black) << QColor(Qt::yellow);
   }
-  void aDarkDesktopOrOneOfHighContrastChangesNoColour() {
+  void aDarkDesktopOrOneOfHighContrastChangesNoColor() {
     QFETCH(QColor, ground);
     QFETCH(QColor, letters);
     platform::applyAppearance();

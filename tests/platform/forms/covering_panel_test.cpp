@@ -54,21 +54,21 @@ class CoveringPanelTest : public QObject {
     QCOMPARE(below.form.Panel.widget()->geometry(), canvas->rect());
   }
 
-  void theStripsBesideItTakeItsColourAndGiveItBack_data() {
+  void theStripsBesideItTakeItsColorAndGiveItBack_data() {
     QTest::addColumn<QSize>("window");
     QTest::newRow("as high as wide") << QSize(900, 900);
     QTest::newRow("5:4") << QSize(1280, 1024);
     QTest::newRow("an odd size") << QSize(701, 811);
     QTest::newRow("16:9") << QSize(1366, 768);
   }
-  void theStripsBesideItTakeItsColourAndGiveItBack() {
+  void theStripsBesideItTakeItsColorAndGiveItBack() {
     QFETCH(QSize, window);
     for (const bool gradient : {false, true}) {
       Stage stage(window);
       Below below(stage);
       if (gradient) below.form.paintGradient();
       below.form.Panel.setBackColor({0, 120, 40});
-      const auto colours = [&below] {
+      const auto colors = [&below] {
         const platform::Page& page = *below.form.page();
         const QImage seen = below.form.page()->grab().toImage();
         std::set<QRgb> found;
@@ -79,11 +79,11 @@ class CoveringPanelTest : public QObject {
         }
         return found;
       };
-      const std::set<QRgb> before = colours();
+      const std::set<QRgb> before = colors();
       below.form.Panel.cover();
-      QCOMPARE(colours(), std::set<QRgb>{qRgb(0, 120, 40)});
+      QCOMPARE(colors(), std::set<QRgb>{qRgb(0, 120, 40)});
       below.form.Panel.setVisible(false);
-      QCOMPARE(colours(), before);
+      QCOMPARE(colors(), before);
     }
   }
 

@@ -18,9 +18,9 @@ namespace {
 const QRgb kEdge = qRgb(70, 70, 70);
 
 // How many pixels of a colour follow one another from a place on, in a direction.
-int run(const QImage& image, QPoint from, QPoint step, QRgb colour) {
+int run(const QImage& image, QPoint from, QPoint step, QRgb color) {
   int length = 0;
-  while (image.rect().contains(from) && image.pixel(from) == colour) {
+  while (image.rect().contains(from) && image.pixel(from) == color) {
     ++length;
     from += step;
   }
@@ -31,8 +31,8 @@ QImage pictureOf(const platform::Control& control) {
   return control.widget()->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-int leftEdge(const QImage& image, QRgb colour) {
-  return run(image, {0, image.height() / 2}, {1, 0}, colour);
+int leftEdge(const QImage& image, QRgb color) {
+  return run(image, {0, image.height() / 2}, {1, 0}, color);
 }
 
 }  // namespace

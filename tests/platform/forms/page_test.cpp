@@ -39,7 +39,7 @@ class PageTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void withoutAGradientTheGroundHasTheColourOfTheDesign() {
+  void withoutAGradientTheGroundHasTheColorOfTheDesign() {
     Stage stage;
     const QImage image = canvasOf(bare(stage));
     QCOMPARE(image.pixelColor(3, 3), QColor(255, 255, 192));
@@ -56,17 +56,17 @@ class PageTest : public QObject {
     std::set<int> blues;
     int before = 255;
     for (int y = 0; y < image.height(); ++y) {
-      const QColor colour = image.pixelColor(image.width() / 2, y);
-      QCOMPARE(colour.red(), 255);
-      QCOMPARE(colour.green(), 255);
-      QVERIFY(colour.blue() == before || colour.blue() == before - 1);
-      before = colour.blue();
+      const QColor color = image.pixelColor(image.width() / 2, y);
+      QCOMPARE(color.red(), 255);
+      QCOMPARE(color.green(), 255);
+      QVERIFY(color.blue() == before || color.blue() == before - 1);
+      before = color.blue();
       blues.insert(before);
       // Bands of equal height, counted from the top.
       const double band = (y + 0.5) * 256 / image.height();
-      QVERIFY(std::abs((255 - colour.blue()) - std::floor(band)) <= 1);
-      QCOMPARE(image.pixelColor(0, y), colour);
-      QCOMPARE(image.pixelColor(image.width() - 1, y), colour);
+      QVERIFY(std::abs((255 - color.blue()) - std::floor(band)) <= 1);
+      QCOMPARE(image.pixelColor(0, y), color);
+      QCOMPARE(image.pixelColor(image.width() - 1, y), color);
     }
     QCOMPARE(blues.size(), std::size_t(256));
   }
@@ -85,7 +85,7 @@ class PageTest : public QObject {
     }
   }
 
-  void theGradientKeepsItsSizeAndWhatIsUncoveredShowsTheLastColour() {
+  void theGradientKeepsItsSizeAndWhatIsUncoveredShowsTheLastColor() {
     Stage stage({800, 700});
     TrialForm& form = bare(stage);
     form.paintGradient();

@@ -17,7 +17,7 @@
 
 namespace qt_page_setup_test {
 
-using platform::ColourMode;
+using platform::ColorMode;
 using platform::Orientation;
 using platform::PageSetupWords;
 using platform::Paper;
@@ -33,7 +33,7 @@ const Paper kA3{platform::kPaperA3, QStringLiteral("A3"), 297, 420, 3, 3};
 PrinterTraits printer() {
   PrinterTraits traits;
   traits.papers = {kA4, kA3};
-  traits.printsColour = true;
+  traits.printsColor = true;
   return traits;
 }
 
@@ -41,7 +41,7 @@ PrinterSettings onA4() {
   PrinterSettings settings;
   settings.paper = kA4;
   settings.orientation = Orientation::Portrait;
-  settings.colour = ColourMode::Colour;
+  settings.color = ColorMode::Color;
   return settings;
 }
 
@@ -94,7 +94,7 @@ class QtPageSetupTest : public QObject {
     PrinterSettings settings = onA4();
     settings.paper = kA3;
     settings.orientation = Orientation::Landscape;
-    settings.colour = ColourMode::Monochrome;
+    settings.color = ColorMode::Monochrome;
     const PrinterSettings before = settings;
     QVERIFY(choose(printer(), settings, [](const Open& open) {
       QCOMPARE(open.dialog.windowTitle(), QStringLiteral("Set-up - Printer"));
@@ -156,7 +156,7 @@ class QtPageSetupTest : public QObject {
     }));
     QCOMPARE(settings.paper, kA3);
     QCOMPARE(settings.orientation, Orientation::Landscape);
-    QCOMPARE(settings.colour, ColourMode::Monochrome);
+    QCOMPARE(settings.color, ColorMode::Monochrome);
   }
 
   void givenUpItChangesNothing() {
@@ -169,17 +169,17 @@ class QtPageSetupTest : public QObject {
     QCOMPARE(settings, onA4());
   }
 
-  void aGreyPrinterOffersNoColours() {
-    PrinterTraits grey = printer();
-    grey.printsColour = false;
+  void aGrayPrinterOffersNoColors() {
+    PrinterTraits gray = printer();
+    gray.printsColor = false;
     PrinterSettings settings = onA4();
-    settings.colour = ColourMode::Monochrome;
-    QVERIFY(choose(grey, settings, [](const Open& open) {
+    settings.color = ColorMode::Monochrome;
+    QVERIFY(choose(gray, settings, [](const Open& open) {
       QVERIFY(!open.choice("all").isEnabled());
       QVERIFY(open.choice("grey").isEnabled());
       open.tap(Qt::Key_Return);
     }));
-    QCOMPARE(settings.colour, ColourMode::Monochrome);
+    QCOMPARE(settings.color, ColorMode::Monochrome);
   }
 
   void aPaperThatTheListDoesNotHaveStaysUnlessAnotherIsChosen() {

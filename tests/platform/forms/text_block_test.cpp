@@ -56,7 +56,7 @@ class TextBlockTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void theContrastOfTwoColoursIsThatOfTheirLuminances_data() {
+  void theContrastOfTwoColorsIsThatOfTheirLuminances_data() {
     QTest::addColumn<QColor>("a");
     QTest::addColumn<QColor>("b");
     QTest::addColumn<double>("ratio");
@@ -70,7 +70,7 @@ class TextBlockTest : public QObject {
     QTest::newRow("yellow on white") << QColor(255, 255, 0) << QColor(Qt::white) << 1.07;
     QTest::newRow("cyan on white") << kCyan << QColor(Qt::white) << 1.25;
   }
-  void theContrastOfTwoColoursIsThatOfTheirLuminances() {
+  void theContrastOfTwoColorsIsThatOfTheirLuminances() {
     QFETCH(QColor, a);
     QFETCH(QColor, b);
     QFETCH(double, ratio);

@@ -146,7 +146,7 @@ class Casa(unittest.TestCase):
                                "static constexpr auto kSei = [] { return 6; }();\n")
         self.assertEqual(["cases/a.cpp:3: due", "cases/a.cpp:5: quattro"], list(testo.costanti()))
 
-    def test_a_colour_by_its_numbers_stands_in_a_table_of_colours(self):
+    def test_a_color_by_its_numbers_stands_in_a_table_of_colors(self):
         self.file(app__a_cpp="constexpr Rgb kRosso{255, 0, 0};\n// QColor(1, 2, 3)\nauto a = QColor(r, g, b);\n",
                   app__shared__colori_h="inline constexpr Rgb kRosso{255, 0, 0};\n",
                   platform__forms__b_cpp='QColor c(Qt::black);\nfill(QColor(0, 0, 0, 70));\nauto d = qRgb(1, 2, 3);\n'
@@ -170,6 +170,12 @@ class Casa(unittest.TestCase):
                                "  for (;;)\n    while (a)\n      g();\n  for (;;) if (a)\n      g();\n}\n")
         self.assertEqual([f"cases/b.cpp:{riga}" for riga in (4, 6, 8, 9, 11)],
                          [":".join(t.split(":")[:2]) for t in stile.corpi_senza_graffe()])
+
+    def test_names_have_one_spelling(self):
+        self.file(cases__a_cpp="// The colour of a grey.\nint aColor = gray(\"grey\");\n",
+                  cases__b_cpp="int aColour;\nint b = inGrey(c, kGREY);\n")
+        self.assertEqual(["cases/b.cpp:1: aColour", "cases/b.cpp:2: inGrey", "cases/b.cpp:2: kGREY"],
+                         [":".join(t.split(":")[:3]) for t in stile.nomi_britannici()])
 
     def test_tests_of_one_folder_stand_in_one_program_and_those_of_two_do_not(self):
         self.file(tests__cases__a_cpp="struct A {};\n", tests__cases__b_cpp="struct A {};\n",
@@ -291,7 +297,7 @@ class Casa(unittest.TestCase):
         uno = "namespace {\nconstexpr int kUno = 1;\n}\nint A::f() {\n  return kUno;\n}\n"
         self.file(cases__a_cpp=uno, cases__b_cpp=uno.replace("A::", "B::"),
                   cases__c_cpp="int C::f() {\n  return 3;\n}\n", cases__d_h="", app__e_cpp=uno, app__f_h="")
-        self.assertEqual([["cases/d.h", "cases/a.cpp", "app/f.h", "app/e.cpp"], ["cases/b.cpp", "cases/c.cpp"]],
+        self.assertEqual([["cases/d.h", "cases/a.cpp", "cases/c.cpp", "app/f.h", "app/e.cpp"], ["cases/b.cpp"]],
                          pulizia.gruppi(["app/e.cpp", "app/f.h", "cases/a.cpp", "cases/b.cpp", "cases/c.cpp",
                                          "cases/d.h"]))
 
@@ -307,7 +313,23 @@ class Casa(unittest.TestCase):
     def test_many_files_are_read_in_groups_of_one_size(self):
         nomi = [f"cases/a{i}.cpp" for i in range(100)]
         self.file(**{nome.replace("/", "__").replace(".", "_"): "" for nome in nomi})
-        self.assertEqual([34, 33, 33], [len(gruppo) for gruppo in pulizia.gruppi(nomi)])
+        self.assertEqual([34, 34, 32], [len(gruppo) for gruppo in pulizia.gruppi(nomi)])
+
+    def test_programs_are_read_together_each_with_a_main_of_its_own(self):
+        fuori = "int main(int, char**) {\n  throw 1;\n}\n"
+        self.file(bench__a_cpp=fuori, tools__b_cpp=fuori.replace("int, char**", ""), tools__c_h="")
+        nomi = ["bench/a.cpp", "tools/b.cpp", "tools/c.h"]
+        self.assertEqual([["tools/c.h", *nomi[:2]]], pulizia.gruppi(nomi))
+        trovati = self.pulisci(*nomi)
+        self.assertEqual({"bench/a.cpp", "tools/b.cpp"}, {t.split(":")[0] for t in trovati})
+        self.assertRegex("".join(trovati), "exception-escape")
+
+    def test_tests_whose_folders_have_names_in_common_are_read_apart(self):
+        self.file(tests__a__aiuto_h="inline int aiuto() {\n  return 1;\n}\n", tests__a__u_test_cpp="",
+                  tests__a__v_test_cpp="", tests__b__aiuto_h="inline int aiuto() {\n  return 2;\n}\n",
+                  tests__b__z_test_cpp="", tests__c__u_test_cpp="", tests__d__w_test_cpp="")
+        nomi = [f"tests/{nome}_test.cpp" for nome in ("a/u", "a/v", "b/z", "c/u", "d/w")]
+        self.assertEqual([[nomi[0], nomi[1], nomi[4]], nomi[2:4]], sorted(pulizia.gruppi(nomi)))
 
     def test_files_that_come_in_each_others_way_are_read_by_themselves(self):
         self.file(cases__a_h="struct Posto {};\n",

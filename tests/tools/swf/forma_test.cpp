@@ -98,7 +98,7 @@ class FormaTest : public QObject {
                                 Byte{1, 128, 1, 2, 3, 255}}));
   }
 
-  void aGradientHasOneToEightColours() {
+  void aGradientHasOneToEightColors() {
     ScrittoreByte b;
     QVERIFY_THROWS_EXCEPTION(std::length_error, Riempimento::lineare({0, 0}, {1, 0}, {}).scrivi(b));
     const std::vector<Fermata> nove(9, Fermata{0, {}});

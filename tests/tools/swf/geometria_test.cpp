@@ -34,7 +34,7 @@ class GeometriaTest : public QObject {
   }
 
   // 15 bits a field: 01111, then 0, 11000, 0, 8000 twentieths.
-  void factorsAndColoursThatNoFieldHoldsAreRefused() {
+  void factorsAndColorsThatNoFieldHoldsAreRefused() {
     QCOMPARE(scritto(Matrice{.a = 16000, .d = 1}).empty(), false);
     QVERIFY_THROWS_EXCEPTION(std::out_of_range, (void)scritto(Matrice{.a = 16384, .d = 1}));
     QVERIFY_THROWS_EXCEPTION(std::out_of_range, (void)scritto(Matrice{.a = 1, .d = -1e6}));
@@ -62,7 +62,7 @@ class GeometriaTest : public QObject {
              bit("1 00001 0 0 1 10010 010000000000000000 110000000000000000 00001 0 0"));
   }
 
-  void aColourLeftAsItIsTakesOneByte() { QCOMPARE(scritto(TrasformaColore{}), (Byte{0})); }
+  void aColorLeftAsItIsTakesOneByte() { QCOMPARE(scritto(TrasformaColore{}), (Byte{0})); }
 
   // Factors only, no summands.
   void halfOpaqueMultipliesTheFourthChannel() {

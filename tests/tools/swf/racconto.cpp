@@ -137,9 +137,9 @@ QStringList raccontoDi(const Movie& filmato) {
                         .arg(filmato.announcedFrames)
                         .arg(colore(filmato.background))
                         .arg(filmato.faults.size())};
-  for (CharacterId numero = 1; numero <= filmato.characters.size(); ++numero) {
+  for (std::size_t numero = 1; numero <= filmato.characters.size(); ++numero) {
     righe += QStringLiteral("carattere %1").arg(numero);
-    if (const Character* che = filmato.character(numero)) righe += raccontoDi(*che);
+    if (const Character* che = filmato.character(CharacterId(numero))) righe += raccontoDi(*che);
   }
   righe += QStringLiteral("scena");
   return righe + raccontoDi(filmato.timeline);

@@ -90,7 +90,7 @@ class ButtonFocusTest : public QObject {
     QVERIFY(clicks.form.First.hasFocus());
   }
 
-  void theFocusCanBeSeenOnAFaceOfAnyColour() {
+  void theFocusCanBeSeenOnAFaceOfAnyColor() {
     Stage stage;
     const Clicks clicks(stage);
     for (const platform::Button* button : {&clicks.form.First, &clicks.form.Number[0]}) {

@@ -61,16 +61,16 @@ class ButtonLookTest : public QObject {
 
  private Q_SLOTS:
   void aButtonIsLitWhileTheMouseIsOverIt_data() {
-    QTest::addColumn<bool>("coloured");
+    QTest::addColumn<bool>("colored");
     QTest::newRow("a plain one") << false;
     QTest::newRow("a coloured one") << true;
   }
   void aButtonIsLitWhileTheMouseIsOverIt() {
-    QFETCH(bool, coloured);
+    QFETCH(bool, colored);
     Stage stage;
     Clicks clicks(stage);
-    platform::Button& button = coloured ? clicks.form.Number[1] : clicks.form.First;
-    if (coloured) button.setBackColor({255, 0, 0});
+    platform::Button& button = colored ? clicks.form.Number[1] : clicks.form.First;
+    if (colored) button.setBackColor({255, 0, 0});
     pointAside(stage);
     const QImage before = pictureOf(button);
     const QColor face = faceOf(button);

@@ -180,7 +180,7 @@ class TextBoxLookTest : public QObject {
     }
   }
 
-  void theCursorIsSeenOnAGroundOfAnyColour() {
+  void theCursorIsSeenOnAGroundOfAnyColor() {
     Fondo fondo;
     Prova& forma = fondo.forma();
     forma.Casella.setFocus();
