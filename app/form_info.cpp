@@ -1,7 +1,6 @@
 #include "app/form_info.h"
 
 #include "app/disegno_menu.h"
-#include "app/shared/mod_language_support.h"
 #include "app/shared/nomi_forme.h"
 
 namespace somme::inline programma {
@@ -41,9 +40,9 @@ FormInfo::FormInfo(Ambiente& ambiente) : Forma(ambiente, kDisegno) {
 
 // The icon before the layout, on this form alone.
 void FormInfo::onLoad() {
-  ApplicaLingua(ambiente(), *this);
+  PrendiLingua();
   PrendiIcona();
-  AvviaResizer();
+  EssResizer1.start();
 }
 
 // These words come after the language, which therefore cannot change them.

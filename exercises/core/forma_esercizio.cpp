@@ -8,7 +8,7 @@
 namespace somme::inline nucleo {
 
 FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno)
-    : Forma(ambiente, disegno) {
+    : Form(ambiente.fondo, disegno), Comune(*this, ambiente) {
   EtichettaEsatti.shareCaptionSize(conteggi_);
   EtichettaErrati.shareCaptionSize(conteggi_);
   MenuAzzera.onClick([this] { AzzeraConteggio(); });
@@ -19,14 +19,12 @@ FormaEsercizio::FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& d
 }
 
 void FormaEsercizio::onLoad() {
-  Forma::onLoad();
-  if (modo_ != nullptr) modo_->AlCaricamento();
-}
-
-void FormaEsercizio::AvviaResizer() {
+  PrendiLingua();
   if (modo_ != nullptr) modo_->PrimaDelResizer();
-  Forma::AvviaResizer();
+  EssResizer1.start();
   if (modo_ != nullptr) modo_->DopoIlResizer();
+  PrendiIcona();
+  if (modo_ != nullptr) modo_->AlCaricamento();
 }
 
 void FormaEsercizio::onActivate() {

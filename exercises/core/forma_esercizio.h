@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "app/shared/forma.h"
+#include "app/shared/comune.h"
 #include "exercises/core/modo_input.h"
 #include "platform/forms/controls/button.h"
 #include "platform/forms/controls/caption_size.h"
@@ -18,13 +18,10 @@ namespace somme::inline nucleo {
 // picture and sound, the record of solved cases with its print panel, the numbers in a question,
 // the way out. What is asked, how the answer comes and how it is judged is the business of the
 // families.
-class FormaEsercizio : public Forma {
+class FormaEsercizio : public platform::Form, public Comune {
  public:
   FormaEsercizio(Ambiente& ambiente, const platform::FormDesign& disegno);
 
-  // For the parts that a form is made of.
-  using Forma::ambiente;
-  using Forma::scheda;
   // Tells assistive technology what the pupil has written so far without typing it.
   void DiciScritto(const QString& scritto);
 
@@ -50,9 +47,10 @@ class FormaEsercizio : public Forma {
   // What an activation does once the way of input is ready.
   virtual void IniziaAttivazione() {}
 
-  // The steps of the way of input. A form that has more to do at its Load calls this, too.
+  // Language, layout, icon, in this order, and between them the steps of the way of input. A form
+  // that has more to do at its Load calls this, too.
   void onLoad() override;
-  void AvviaResizer() final;
+  void onResize() final { EssResizer1.resize(); }
   void onActivate() final;
 
   void ScriviEsatti();
