@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <QByteArray>
 #include <algorithm>
 #include <array>
 #include <bitset>
