@@ -48,6 +48,11 @@ def classi():
             yield trovata[1], trovata[2].rpartition("::")[2], codice[trovata.end():fine - 1]
 
 
+def base_di(classe):
+    """The class that one of the product stands on; None where it stands on none."""
+    return next((base for nome, base, _ in classi() if nome == classe), None)
+
+
 def gusci():
     """The forms, and what they stand on, that only name their base: nothing in them but how they are made."""
     sopra = {nome: base for nome, base, _ in classi()}

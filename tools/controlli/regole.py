@@ -24,6 +24,7 @@ _REGOLE = (
     ("one kind of comment", stile.tre_sbarre),
     ("bodies stand in braces", stile.corpi_senza_graffe),
     ("names say color and gray", stile.nomi_britannici),
+    ("a Load has its base's in it", stile.caricamenti_senza_la_base),
     ("titles of commits", lambda: testo.titoli(_TITOLI_DA)),
     ("words", testo.parole),
 )

@@ -2,7 +2,7 @@
 
 import re
 
-from . import sorgenti
+from . import misure, sorgenti
 
 
 def tre_sbarre():
@@ -54,3 +54,16 @@ def nomi_britannici():
         for nome in _GRAFIA.finditer(codice):
             riga = codice.count("\n", 0, nome.start()) + 1
             yield f"{file}:{riga}: {nome[0]}: names say color and gray"
+
+
+_CARICAMENTO = re.compile(r"^void (\w+)::onLoad\(\) \{\n(.*?)^\}", re.M | re.S)
+
+
+def caricamenti_senza_la_base():
+    """Forms whose Load leaves out what that of their base does."""
+    for file in sorgenti.prodotto():
+        codice = sorgenti.codice(file)
+        for trovato in _CARICAMENTO.finditer(codice):
+            if misure.base_di(trovato[1]) != "Form" and not re.search(r"\b\w+::onLoad\(\);", trovato[2]):
+                riga = codice.count("\n", 0, trovato.start()) + 1
+                yield f"{file}:{riga}: the Load of {trovato[1]} leaves out that of its base"

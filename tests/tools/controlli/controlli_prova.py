@@ -177,6 +177,14 @@ class Casa(unittest.TestCase):
         self.assertEqual(["cases/b.cpp:1: aColour", "cases/b.cpp:2: inGrey", "cases/b.cpp:2: kGREY"],
                          [":".join(t.split(":")[:3]) for t in stile.nomi_britannici()])
 
+    def test_the_load_of_a_form_has_that_of_its_base_in_it(self):
+        self.file(app__a_h="class FormaA : public platform::Form {\n};\nclass FormaB final : public FormaA {\n};\n"
+                           "class FormaC final : public FormaA {\n};\n",
+                  app__a_cpp="void FormaA::onLoad() {\n  a();\n}\n\nvoid FormaB::onLoad() {\n  b();\n  if (c) {\n"
+                             "  }\n  FormaA::onLoad();\n}\n\nvoid FormaC::onLoad() {\n  // FormaA::onLoad();\n}\n")
+        self.assertEqual(["app/a.cpp:12: the Load of FormaC leaves out that of its base"],
+                         list(stile.caricamenti_senza_la_base()))
+
     def test_tests_of_one_folder_stand_in_one_program_and_those_of_two_do_not(self):
         self.file(tests__cases__a_cpp="struct A {};\n", tests__cases__b_cpp="struct A {};\n",
                   tests__input__a_cpp="struct A {};\n")
