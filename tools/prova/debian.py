@@ -27,7 +27,7 @@ def main():
     cartella = os.path.abspath(sys.argv[1])
 
     def lavoro():
-        os.makedirs(cartella, mode=0o755)
+        os.makedirs(cartella)
         albero = Debian(cartella)
         albero.crea()
         albero.scarica(*di_chi_comincia())

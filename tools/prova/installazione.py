@@ -118,6 +118,8 @@ class Debian(Albero):
             raise SenzaDebian("that takes root and debootstrap")
         try:
             self._debootstrap(*self._archivio())
+            # Whoever made the folder may have made it for himself.
+            os.chmod(self.radice, 0o755)
             self.apt("update", "-o", "APT::Update::Error-Mode=any", errore=SenzaDebian)
         except BaseException:
             self._smonta()
