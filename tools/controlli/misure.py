@@ -33,7 +33,7 @@ def funzioni(file):
             if profondita == 0:
                 break
         fine = i
-        yield codice.count("\n", 0, apre) + 1, codice.count("\n", apre, i) + 1
+        yield sorgenti.riga(codice, apre), codice.count("\n", apre, i) + 1
 
 
 def classi():
@@ -46,11 +46,6 @@ def classi():
                 profondita += {"{": 1, "}": -1}.get(codice[fine], 0)
                 fine += 1
             yield trovata[1], trovata[2].rpartition("::")[2], codice[trovata.end():fine - 1]
-
-
-def base_di(classe):
-    """The class that one of the product stands on; None where it stands on none."""
-    return next((base for nome, base, _ in classi() if nome == classe), None)
 
 
 def gusci():

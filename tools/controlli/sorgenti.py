@@ -99,6 +99,11 @@ def codice(percorso):
     return _DA_TOGLIERE.sub(vuoto, testo(percorso))
 
 
+def riga(testo_, posto):
+    """The line of a text, from 1, in which a place of it lies."""
+    return testo_.count("\n", 0, posto) + 1
+
+
 def commenti(percorso):
     """(where it begins, text) of the comments of a C++ file."""
     for trovato in _DA_TOGLIERE.finditer(testo(percorso)):

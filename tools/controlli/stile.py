@@ -11,7 +11,7 @@ def tre_sbarre():
         testo = sorgenti.testo(file)
         for inizio, commento in sorgenti.commenti(file):
             if commento.startswith("///"):
-                riga = testo.count("\n", 0, inizio) + 1
+                riga = sorgenti.riga(testo, inizio)
                 yield f"{file}:{riga}: a comment begins with //, not with ///"
 
 
@@ -40,7 +40,7 @@ def corpi_senza_graffe():
                 corpo = _CORPO_SOTTO.match(codice, _fine_della_condizione(codice, trovata.end()))
                 posti += [corpo.end()] if corpo else []
         for posto in sorted(posti):
-            riga = codice.count("\n", 0, posto) + 1
+            riga = sorgenti.riga(codice, posto)
             yield f"{file}:{riga}: a body on a line of its own stands in braces"
 
 
@@ -52,7 +52,7 @@ def nomi_britannici():
     for file in sorgenti.cpp():
         codice = sorgenti.codice(file)
         for nome in _GRAFIA.finditer(codice):
-            riga = codice.count("\n", 0, nome.start()) + 1
+            riga = sorgenti.riga(codice, nome.start())
             yield f"{file}:{riga}: {nome[0]}: names say color and gray"
 
 
@@ -61,9 +61,10 @@ _CARICAMENTO = re.compile(r"^void (\w+)::onLoad\(\) \{\n(.*?)^\}", re.M | re.S)
 
 def caricamenti_senza_la_base():
     """Forms whose Load leaves out what that of their base does."""
+    sopra = {nome: base for nome, base, _ in misure.classi()}
     for file in sorgenti.prodotto():
         codice = sorgenti.codice(file)
         for trovato in _CARICAMENTO.finditer(codice):
-            if misure.base_di(trovato[1]) != "Form" and not re.search(r"\b\w+::onLoad\(\);", trovato[2]):
-                riga = codice.count("\n", 0, trovato.start()) + 1
+            if sopra.get(trovato[1]) != "Form" and not re.search(r"\b\w+::onLoad\(\);", trovato[2]):
+                riga = sorgenti.riga(codice, trovato.start())
                 yield f"{file}:{riga}: the Load of {trovato[1]} leaves out that of its base"

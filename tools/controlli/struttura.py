@@ -107,7 +107,7 @@ def tipi_definiti(percorso):
         nome = (trovato["nomi"].strip() if trovato["spazio"] else trovato["tipo"])
         visibile = "" not in dentro and None not in dentro
         if trovato["tipo"] and visibile and "<" not in trovato["resto"].split(":")[0]:
-            yield "::".join([*dentro, nome]), codice.count("\n", 0, trovato.start()) + 1
+            yield "::".join([*dentro, nome]), sorgenti.riga(codice, trovato.start())
         dentro.append(nome)
 
 
@@ -147,7 +147,7 @@ def _spazi_esterni(percorso):
         annunci = (_SOLO_ANNUNCI.fullmatch(trovato["primo"])
                    and codice[trovato.end():trovato.end() + 1] == "}")
         if not annunci:
-            yield codice.count("\n", 0, trovato.start()) + 1, " ".join(trovato["nomi"].split())
+            yield sorgenti.riga(codice, trovato.start()), " ".join(trovato["nomi"].split())
 
 
 def nomi_doppi():
@@ -181,7 +181,7 @@ def in_linea(percorso):
         dentro = [n for n in _spazi(codice, trovato.start())]
         if "" not in dentro:
             yield ("::".join([*dentro, trovato["nome"]]) + argomenti,
-                   codice.count("\n", 0, trovato.start("nome")) + 1)
+                   sorgenti.riga(codice, trovato.start("nome")))
 
 
 def _spazi(codice, fin_qui):

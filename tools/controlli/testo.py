@@ -103,7 +103,7 @@ def parole():
     for file in sorgenti.tutti():
         testo = sorgenti.testo(file)
         for trovato in _PAROLE_VIETATE.finditer(testo):
-            riga = testo.count("\n", 0, trovato.start()) + 1
+            riga = sorgenti.riga(testo, trovato.start())
             yield f"{file}:{riga}: {trovato.group().strip()}"
 
 
@@ -121,7 +121,7 @@ def costanti():
             if (re.match(r"k[A-Z]", nome) or nome == "const"
                     or _DI_UN_MODELLO.search(codice[:trovata.start()][-200:])):
                 continue
-            riga = codice.count("\n", 0, trovata.start("nome")) + 1
+            riga = sorgenti.riga(codice, trovata.start("nome"))
             yield f"{file}:{riga}: {nome}"
 
 
