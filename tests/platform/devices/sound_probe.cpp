@@ -75,6 +75,9 @@ void waitMilliseconds(platform::QtTimeSource& time, qint64 milliseconds) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // A buffer would be shared with every library in here: one that flushes on a thread with files of
+  // its own would take the report with it.
+  static_cast<void>(std::setvbuf(stdout, nullptr, _IONBF, 0));
   const QCoreApplication app(argc, argv);
   const QStringList arguments = QCoreApplication::arguments();
   platform::QtTimeSource time;
