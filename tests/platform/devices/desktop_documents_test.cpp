@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
+#include <limits>
 #include <memory>
 
 #include "support/iscrizione.h"
@@ -65,10 +67,15 @@ class DesktopDocumentsTest : public QObject {
 
   void anOpenerThatHangsHoldsNobodyUp() {
     makeOpener("printf called > \"$NOTE\"; exec sleep 5");
-    QElapsedTimer clock;
-    clock.start();
-    DesktopDocuments().open(document_);
-    QVERIFY2(clock.elapsed() < 100, qPrintable(QString::number(clock.elapsed())));
+    // What waits for the opener waits every time, a busy machine now and then.
+    qint64 shortest = std::numeric_limits<qint64>::max();
+    for (int i = 0; i < 5; ++i) {
+      QElapsedTimer clock;
+      clock.start();
+      DesktopDocuments().open(document_);
+      shortest = std::min(shortest, clock.elapsed());
+    }
+    QVERIFY2(shortest < 100, qPrintable(QString::number(shortest)));
     QTRY_COMPARE(note(), QByteArray("called"));
   }
 
