@@ -131,4 +131,22 @@ inline void prepara(somme::TastieraNumericaScansione& tastiera, bool automatica)
   tastiera.DisattivaAvanti();
 }
 
+// Another window of the desktop that takes the keyboard while it lives.
+class AltraFinestra {
+ public:
+  AltraFinestra() {
+    finestra_.show();
+    finestra_.activateWindow();
+    QCoreApplication::processEvents();
+  }
+  void torna(platform::Window& nostra) {
+    finestra_.hide();
+    nostra.activateWindow();
+    QCoreApplication::processEvents();
+  }
+
+ private:
+  QWidget finestra_;
+};
+
 }  // namespace prova

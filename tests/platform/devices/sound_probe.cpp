@@ -6,7 +6,6 @@
 // two lines of its own to stderr, "own line" and "plain line". Ends as the program does.
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTimer>
 #include <csignal>
@@ -16,6 +15,7 @@
 #include "platform/devices/qt_time_source.h"
 #include "platform/devices/system_process_end.h"
 #include "support/stand_still.h"
+#include "waiting.h"
 
 namespace {
 
@@ -64,14 +64,6 @@ bool aThreadTakesSignals() {
   return false;
 }
 
-void waitMilliseconds(platform::QtTimeSource& time, qint64 milliseconds) {
-  QElapsedTimer clock;
-  clock.start();
-  while (clock.elapsed() < milliseconds) {
-    time.sleepUntilEvent(static_cast<double>(milliseconds - clock.elapsed()) / 1000);
-  }
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -92,7 +84,7 @@ int main(int argc, char** argv) {
   for (qsizetype i = 2; i + 1 < arguments.size(); i += 2) {
     sound.play(arguments[i]);
     still.beat();
-    waitMilliseconds(time, arguments[i + 1].toInt());
+    prova::waitSeconds(time, arguments[i + 1].toInt() / 1000.0);
     if (qEnvironmentVariableIntValue("PROBE_TALKS") == 1) {
       qWarning("own line");
       static_cast<void>(std::fputs("plain line\n", stderr));
@@ -100,7 +92,7 @@ int main(int argc, char** argv) {
   }
   heart.stop();
   const int before = sleeps();
-  waitMilliseconds(time, arguments.value(1).toInt());
+  prova::waitSeconds(time, arguments.value(1).toInt() / 1000.0);
   std::printf("gap %lld beeps %d sleeps %d signals %d\n", static_cast<long long>(still.longest()),
               beeps, sleeps() - before,
               handlesSignal(SIGINT) || handlesSignal(SIGTERM) || aThreadTakesSignals() ? 1 : 0);
